@@ -1,0 +1,25 @@
+#include "app/Helm.h"
+
+namespace veerwatch {
+
+Helm::Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Timer& tmrNmea, RandomSource& random,
+           HelmView& view)
+    : m_settings(settings),
+      m_view(view),
+      m_record(settings, view),
+      m_receiver(settings, nmeaPort, tmrNmea, m_record, *this, view),
+      m_pilot(settings, nmeaPort, pilotPort, view),
+      m_loop(settings, static_cast<const InstrumentRecord&>(m_record).Data(), m_pilot, view),
+      m_modes(settings, m_receiver, m_pilot, m_loop, view),
+      m_simulator(settings, m_record, random, *this) {}
+
+void Helm::Tick() {
+  if (m_settings.m_bSimulate) {
+    m_simulator.Tick();
+  } else {
+    m_receiver.Tick();
+    m_pilot.Tick();
+  }
+}
+
+}  // namespace veerwatch

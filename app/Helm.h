@@ -1,0 +1,60 @@
+// Everything that steers, put together without a window: the receiver, the record, the simulator, the loop with its
+// modes and the pilot output. The main window, the command line and the tests each drive one.
+#pragma once
+
+#include "app/Settings.h"
+#include "control/PilotOutput.h"
+#include "control/TrackLoop.h"
+#include "control/TrackModes.h"
+#include "instruments/FollowUp.h"
+#include "instruments/InstrumentRecord.h"
+#include "instruments/Simulator.h"
+#include "nmea/NmeaReceiver.h"
+#include "platform/Random.h"
+#include "platform/SerialPort.h"
+#include "platform/Timer.h"
+
+namespace veerwatch {
+
+/// All that a helm tells; whoever looks on overrides what it shows.
+class HelmView : public InstrumentRecord::Listener,
+                 public NmeaReceiver::Listener,
+                 public PilotOutput::Listener,
+                 public TrackLoop::Listener,
+                 public TrackModes::Listener {
+ public:
+  /// The record for the polar window, after a wind with a valid boat speed and at every simulator tick.
+  virtual void OnPolarUpdate(TrackMode /*mode*/, const InstrumentData& /*data*/) {}
+};
+
+class Helm final : private FollowUp {
+ public:
+  /// Every collaborator outlives the helm. `tmrNmea` ticks into Tick().
+  Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Timer& tmrNmea, RandomSource& random,
+       HelmView& view);
+
+  /// One tick of tmrNmea: the simulator's clock, or the watch over the ports.
+  void Tick();
+
+  NmeaReceiver& Receiver() { return m_receiver; }
+  PilotOutput& Pilot() { return m_pilot; }
+  TrackLoop& Loop() { return m_loop; }
+  TrackModes& Modes() { return m_modes; }
+  Simulator& Boat() { return m_simulator; }
+  const InstrumentData& Data() const { return m_record.Data(); }
+
+ private:
+  void ControlStep() override { m_loop.ControlStep(); }
+  void PolarUpdate() override { m_view.OnPolarUpdate(m_settings.m_eTrackMode, m_record.Data()); }
+
+  Settings& m_settings;
+  HelmView& m_view;
+  InstrumentRecord m_record;
+  NmeaReceiver m_receiver;
+  PilotOutput m_pilot;
+  TrackLoop m_loop;
+  TrackModes m_modes;
+  Simulator m_simulator;
+};
+
+}  // namespace veerwatch

@@ -1,0 +1,102 @@
+#include "control/PilotOutput.h"
+
+#include <cmath>
+
+#include "control/PilotSentence.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr int kReopenTicks = 4;
+
+}  // namespace
+
+PilotOutput::PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Listener& listener)
+    : m_settings(settings), m_nmeaPort(nmeaPort), m_pilotPort(pilotPort), m_listener(listener) {
+  m_pilotPort.Connect(this);
+}
+
+void PilotOutput::PilotStart() {
+  const bool wrongPort = m_pilotPort.PortOpen() && m_pilotPort.CommPort() != m_settings.m_iPilotPort;
+  if (m_settings.m_bSimulate || !OwnPort() || wrongPort) {
+    m_pilotPort.PortOpen(false);
+  }
+  if (!m_started) {
+    m_started = true;
+    m_ticks = 0;
+  }
+  if (m_settings.m_bSimulate) {
+    Status("Simulate");
+    m_listener.OnOutputState("Simulate");
+    return;
+  }
+  Status("");
+  m_listener.OnOutputState("Running");
+  if (OwnPort()) {
+    OpenPort();
+  }
+}
+
+void PilotOutput::PilotStop() {
+  m_started = false;
+  m_pilotPort.PortOpen(false);
+}
+
+void PilotOutput::OpenPort() {
+  m_pilotPort.CommPort(m_settings.m_iPilotPort);
+  const bool open = m_pilotPort.PortOpen(true);
+  if (!open) {
+    Status("Output Port " + std::to_string(m_settings.m_iPilotPort) + " Not Open");
+    m_notOpenShown = true;
+  } else if (m_notOpenShown) {
+    Status("");
+  }
+}
+
+void PilotOutput::Tick() {
+  if (!m_started || m_settings.m_bSimulate || !OwnPort()) {
+    return;
+  }
+  ++m_ticks;
+  m_pilotPort.PollLineErrors();
+  if (m_ticks % kReopenTicks == 0 && !m_pilotPort.PortOpen()) {
+    OpenPort();
+  }
+}
+
+void PilotOutput::PilotSend(float bearing) {
+  if (!std::isfinite(bearing)) {
+    return;
+  }
+  BuildPilotSentence(bearing, m_sentence);
+  SerialPort& port = OwnPort() ? m_pilotPort : m_nmeaPort;
+  m_sentence.append("\r\n");
+  if (port.PortOpen()) {
+    port.Output(m_sentence);
+  }
+  m_listener.OnPilotData(std::string_view(m_sentence).substr(0, m_sentence.size() - 2));
+}
+
+void PilotOutput::OnComm(int commEvent) {
+  if (commEvent == CommEvent::kReceive) {
+    m_pilotPort.Input(m_dropped);
+    Status("Receive Error");
+  } else {
+    Status(CommEventText(commEvent));
+  }
+}
+
+void PilotOutput::OnPortLost() {
+  if (m_started) {
+    Status("Output Port " + std::to_string(m_pilotPort.CommPort()) + " Not Open");
+    m_notOpenShown = true;
+  }
+}
+
+void PilotOutput::Status(std::string_view text) {
+  m_notOpenShown = false;
+  m_listener.OnOutputStatus(text);
+}
+
+}  // namespace veerwatch

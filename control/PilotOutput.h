@@ -1,0 +1,61 @@
+// The way to the autopilot: opens and closes the pilot port and sends bearings on it, or on the instrument port when
+// both have the same number.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "app/Settings.h"
+#include "platform/SerialPort.h"
+
+namespace veerwatch {
+
+class PilotOutput final : public SerialPort::Events {
+ public:
+  class Listener {
+   public:
+    virtual ~Listener() = default;
+    /// Text of the output panel of the status bar; "" empties it.
+    virtual void OnOutputStatus(std::string_view /*text*/) {}
+    /// State of the output: "Running" or "Simulate".
+    virtual void OnOutputState(std::string_view /*text*/) {}
+    /// Each sentence that is built, without its line end, whether or not a port is open to take it.
+    virtual void OnPilotData(std::string_view /*sentence*/) {}
+  };
+
+  PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Listener& listener);
+
+  /// Opens the pilot port where it is needed. One that cannot be opened is shown as "Output Port n Not Open" and
+  /// tried again at every fourth tick.
+  void PilotStart();
+  void PilotStop();
+
+  /// One tick of the input's timer while not simulating: line errors and the port that is not open.
+  void Tick();
+
+  /// Builds the sentence for `bearing` [deg magnetic, [0, 360)] and writes it, whole, with its line end. A bearing
+  /// that is not finite is not sent. Without an open port the sentence only reaches the listener.
+  void PilotSend(float bearing);
+
+  /// Every event of the pilot port is shown on the output panel. Characters that arrive are read off and dropped,
+  /// and shown as "Receive Error".
+  void OnComm(int commEvent) override;
+  void OnPortLost() override;
+
+ private:
+  bool OwnPort() const { return m_settings.m_iNmeaPort != m_settings.m_iPilotPort; }
+  void OpenPort();
+  void Status(std::string_view text);
+
+  const Settings& m_settings;
+  SerialPort& m_nmeaPort;
+  SerialPort& m_pilotPort;
+  Listener& m_listener;
+  bool m_started = false;
+  bool m_notOpenShown = false;
+  int m_ticks = 0;
+  std::string m_sentence;
+  std::string m_dropped;
+};
+
+}  // namespace veerwatch

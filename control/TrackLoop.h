@@ -1,0 +1,80 @@
+// The control loop: holds the desired wind angle by correcting the autopilot bearing at every pass.
+#pragma once
+
+#include "app/Settings.h"
+#include "control/PilotOutput.h"
+#include "control/TrackMode.h"
+#include "instruments/InstrumentData.h"
+
+namespace veerwatch {
+
+class TrackLoop {
+ public:
+  class Listener {
+   public:
+    virtual ~Listener() = default;
+    virtual void OnDesired(float /*apparent: deg relative*/, float /*true: deg relative*/) {}
+    virtual void OnDelta(float /*apparent: deg, (-180, 180]*/, float /*true: deg, (-180, 180]*/) {}
+    virtual void OnAutoPilot(float /*bearing: deg magnetic, [0, 360)*/) {}
+    /// The error that the controller works on [deg], for the history.
+    virtual void OnPilotDelta(float /*error*/) {}
+    /// The bearing that goes to the pilot [deg magnetic], for the history.
+    virtual void OnPilotHeading(float /*bearing*/) {}
+    /// The alarm goes off, at every pass at which the error on `side` is beyond the limit.
+    virtual void OnAlarm(TrackSide /*side*/, float /*error: deg*/) {}
+    virtual void OnAlarmOver() {}
+  };
+
+  TrackLoop(Settings& settings, const InstrumentData& data, PilotOutput& pilot, Listener& listener)
+      : m_settings(settings), m_data(data), m_pilot(pilot), m_listener(listener) {}
+
+  /// Computes the gains from bandwidth and damping and zeroes the accumulator. False, with nothing changed, when
+  /// the bandwidth is not above 0 or a gain is not finite.
+  bool StartTracking();
+
+  /// One pass over the record, by the present mode.
+  /// Deliberate: the controller uses the accumulator of before the pass, no correction is limited, and an error
+  /// equal to the alarm limit raises no alarm.
+  void ControlStep();
+
+  /// Moves the held wind angle by -`change` and the bearing by `change` [deg, positive to starboard], and zeroes
+  /// the accumulator. Only in Track, and only for a finite change.
+  void TrackSteerTo(float change);
+
+  /// Takes a bearing [deg magnetic, any turn], folded. One that is not finite changes nothing.
+  void SetAutoPilot(double bearing);
+
+  /// Takes a desired angle [deg relative, any turn], folded. One that is not finite changes nothing.
+  void SetDesired(TrackSide side, double angle);
+
+  /// Withdraws an alarm that shows.
+  void WithdrawAlarm();
+
+  TrackSide Side() const { return m_side; }
+  void Side(TrackSide side) { m_side = side; }
+
+  double TrackIntegral() const { return m_trackIntegral; }
+  double TrackGainIntegral() const { return m_trackGainIntegral; }
+  double TrackGainProportional() const { return m_trackGainProportional; }
+  /// The bearing behind the latest pass in a mode other than Off [deg magnetic].
+  float PreviousAutoPilot() const { return m_previousAutoPilot; }
+
+ private:
+  float& Desired(TrackSide side) { return m_settings.DesiredAngle[static_cast<std::size_t>(side)]; }
+  void Control(float error);
+  void TestAlarm(float error);
+  void ShowDesired() { m_listener.OnDesired(m_settings.DesiredAngle[1], m_settings.DesiredAngle[2]); }
+
+  Settings& m_settings;
+  const InstrumentData& m_data;
+  PilotOutput& m_pilot;
+  Listener& m_listener;
+  TrackSide m_side = TrackSide::Apparent;
+  double m_trackIntegral = 0.0;
+  double m_trackGainIntegral = 0.0;
+  double m_trackGainProportional = 0.0;
+  float m_previousAutoPilot = 0.0F;
+  bool m_alarmActive = false;
+};
+
+}  // namespace veerwatch

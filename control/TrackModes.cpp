@@ -1,0 +1,60 @@
+#include "control/TrackModes.h"
+
+namespace veerwatch {
+
+void TrackModes::Leave() {
+  m_settings.m_eTrackMode = TrackMode::Switching;
+  m_loop.WithdrawAlarm();
+}
+
+void TrackModes::Enter(TrackMode mode) {
+  m_settings.m_eTrackMode = mode;
+  m_listener.OnTrackMode(mode);
+}
+
+void TrackModes::TrackSetOff() {
+  Leave();
+  m_receiver.NmeaStop();
+  m_pilot.PilotStop();
+  Enter(TrackMode::Off);
+}
+
+void TrackModes::TrackSetSetup() {
+  Leave();
+  m_receiver.NmeaStart();
+  m_pilot.PilotStart();
+  Enter(TrackMode::Setup);
+}
+
+void TrackModes::TrackSetManual() {
+  Leave();
+  m_pilot.PilotStart();
+  Enter(TrackMode::Manual);
+}
+
+void TrackModes::TrackSetTrack() {
+  if (!m_loop.StartTracking()) {
+    m_listener.OnTrackMode(m_settings.m_eTrackMode);
+    m_listener.OnTrackRefused("Track needs a bandwidth above 0 and a usable damping");
+    return;
+  }
+  Leave();
+  m_pilot.PilotStart();
+  Enter(TrackMode::Track);
+}
+
+TrackControls ControlsFor(TrackMode mode, TrackSide side) {
+  TrackControls controls;
+  if (mode == TrackMode::Off || mode == TrackMode::Switching) {
+    return controls;
+  }
+  controls.AutoPilot = mode != TrackMode::Track;
+  controls.Side = true;
+  controls.DesiredApparent = side == TrackSide::Apparent;
+  controls.DesiredTrue = side == TrackSide::True;
+  controls.NudgeApparent = controls.DesiredApparent && mode == TrackMode::Track;
+  controls.NudgeTrue = controls.DesiredTrue && mode == TrackMode::Track;
+  return controls;
+}
+
+}  // namespace veerwatch

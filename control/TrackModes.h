@@ -1,0 +1,62 @@
+// The switch between the tracking modes: drives the ports and prepares the loop.
+#pragma once
+
+#include <string_view>
+
+#include "app/Settings.h"
+#include "control/PilotOutput.h"
+#include "control/TrackLoop.h"
+#include "control/TrackMode.h"
+#include "nmea/NmeaReceiver.h"
+
+namespace veerwatch {
+
+class TrackModes {
+ public:
+  class Listener {
+   public:
+    virtual ~Listener() = default;
+    /// The mode is now `mode`, or still is after a switch that was refused.
+    virtual void OnTrackMode(TrackMode /*mode*/) {}
+    /// Track was refused; `reason` is one line for the status bar. Comes behind OnTrackMode.
+    virtual void OnTrackRefused(std::string_view /*reason*/) {}
+  };
+
+  TrackModes(Settings& settings, NmeaReceiver& receiver, PilotOutput& pilot, TrackLoop& loop, Listener& listener)
+      : m_settings(settings), m_receiver(receiver), m_pilot(pilot), m_loop(loop), m_listener(listener) {}
+
+  /// Stops the input and closes the pilot port.
+  void TrackSetOff();
+  /// Starts the input anew and sees to the pilot port.
+  void TrackSetSetup();
+  /// Sees to the pilot port.
+  void TrackSetManual();
+  /// Computes the gains and sees to the pilot port. Refused, with everything as it was, while the settings give no
+  /// usable gains.
+  void TrackSetTrack();
+
+ private:
+  void Leave();
+  void Enter(TrackMode mode);
+
+  Settings& m_settings;
+  NmeaReceiver& m_receiver;
+  PilotOutput& m_pilot;
+  TrackLoop& m_loop;
+  Listener& m_listener;
+};
+
+/// Which controls of the main window answer in a mode.
+struct TrackControls {
+  bool AutoPilot = false;         ///< entry box and nudges of the bearing
+  bool Side = false;              ///< the option pair
+  bool DesiredApparent = false;   ///< entry box, labels and value of the apparent angle
+  bool DesiredTrue = false;       ///< the same for the true angle
+  bool NudgeApparent = false;     ///< nudges of the desired apparent angle
+  bool NudgeTrue = false;         ///< the same for the true angle
+};
+
+/// The table of what answers; only the chosen side of the two does.
+TrackControls ControlsFor(TrackMode mode, TrackSide side);
+
+}  // namespace veerwatch

@@ -1,0 +1,134 @@
+#include "instruments/InstrumentRecord.h"
+
+#include <cmath>
+
+#include "instruments/MathLib.h"
+
+namespace veerwatch {
+
+namespace {
+
+/// One filter step that starts over from the sample where the filter has run out of range.
+void SmoothValue(float sample, float count, float& average) {
+  AverageValue(sample, count, average);
+  if (!std::isfinite(average)) {
+    average = sample;
+  }
+}
+
+void SmoothRelative(float sample, float count, float& average) {
+  AverageAngleRelative(sample, count, average);
+  if (!std::isfinite(average)) {
+    average = sample;
+  }
+}
+
+void SmoothAbsolute(float sample, float count, float& average) {
+  AverageAngleAbsolute(sample, count, average);
+  // The sample where the filter has run out of range; 0 where a value just below 0 was rounded up to 360.
+  average = std::isfinite(average) ? (average == 360.0F ? 0.0F : average) : sample;
+}
+
+}  // namespace
+
+void InstrumentRecord::Restart() {
+  m_data.HeadingValid = false;
+  m_data.BoatSpeedValid = false;
+  m_data.WaypointValid = false;
+  m_data.WindApparentValid = false;
+  m_data.WindIndicatorValid = false;
+  m_data.WindTrueValid = false;
+  m_listener.OnValuesBlanked();
+}
+
+void InstrumentRecord::HeadingUpdate(float Heading) {
+  const float folded = FoldBearing(static_cast<double>(Heading));
+  if (m_data.HeadingValid) {
+    SmoothAbsolute(folded, m_settings.m_fNmeaTrueWindAverage, m_data.HeadingAverage);
+  } else {
+    m_data.HeadingValid = true;
+    m_data.HeadingAverage = Heading;
+  }
+  m_data.Heading = folded;
+  m_listener.OnHeading(m_data.Heading);
+}
+
+void InstrumentRecord::BoatSpeedUpdate(float BoatSpeed) {
+  if (m_data.BoatSpeedValid) {
+    SmoothValue(BoatSpeed, m_settings.m_fNmeaTrueWindAverage, m_data.BoatSpeedAverage);
+  } else {
+    m_data.BoatSpeedValid = true;
+    m_data.BoatSpeedAverage = BoatSpeed;
+  }
+  m_data.BoatSpeed = BoatSpeed;
+  m_listener.OnBoatSpeed(BoatSpeed);
+}
+
+void InstrumentRecord::VariationUpdate(float Variation) {
+  m_data.VariationValid = true;
+  m_data.Variation = Variation;
+}
+
+void InstrumentRecord::WaypointUpdate(float WaypointRange, float WaypointBearing) {
+  m_data.WaypointRange = WaypointRange;
+  m_data.WaypointBearing = WaypointBearing;
+  m_data.WaypointValid = true;
+  m_listener.OnWaypoint(WaypointRange, WaypointBearing);
+}
+
+void InstrumentRecord::WindApparentUpdate(float WindAngle, float WindSpeed, bool ComputeTrue) {
+  const float angle = FoldRelative(static_cast<double>(WindAngle));
+  if (m_data.WindApparentValid) {
+    const float count = m_settings.m_fNmeaTrueWindAverage;
+    SmoothRelative(angle, count, m_data.WindAngleApparentAverage);
+    SmoothValue(WindSpeed, count, m_data.WindSpeedApparentAverage);
+  } else {
+    m_data.WindApparentValid = true;
+    m_data.WindAngleApparentAverage = angle;
+    m_data.WindSpeedApparentAverage = WindSpeed;
+  }
+  m_data.WindAngleApparent = angle;
+  m_data.WindSpeedApparent = WindSpeed;
+  m_listener.OnWindApparent(angle, WindSpeed);
+
+  if (ComputeTrue && m_settings.m_iNmeaTrueWind == 1 && m_data.BoatSpeedValid) {
+    float trueSpeed = 0.0F;
+    float trueAngle = 0.0F;
+    WindTrueFromApparent(m_data.WindSpeedApparentAverage, m_data.WindAngleApparentAverage,
+                         m_data.BoatSpeedAverage, trueSpeed, trueAngle);
+    if (std::isfinite(trueSpeed) && std::isfinite(trueAngle)) {
+      WindTrueUpdate(trueAngle, trueSpeed, false);
+    }
+  }
+}
+
+void InstrumentRecord::WindTrueUpdate(float WindAngle, float WindSpeed, bool Average) {
+  const float angle = FoldRelative(static_cast<double>(WindAngle));
+  if (Average && m_data.WindTrueValid) {
+    const float count = m_settings.m_fNmeaTrueWindAverage;
+    SmoothRelative(angle, count, m_data.WindAngleTrue);
+    SmoothValue(WindSpeed, count, m_data.WindSpeedTrue);
+  } else {
+    m_data.WindTrueValid = true;
+    m_data.WindAngleTrue = angle;
+    m_data.WindSpeedTrue = WindSpeed;
+  }
+  m_listener.OnWindTrue(m_data.WindAngleTrue, m_data.WindSpeedTrue);
+}
+
+void InstrumentRecord::WindIndicatorUpdate() {
+  const double direction = static_cast<double>(m_data.WindAngleTrue) + static_cast<double>(m_data.Heading) +
+                           static_cast<double>(m_data.Variation);
+  if (!m_data.WindIndicatorValid) {
+    m_data.WindIndicatorValid = true;
+    m_data.WindDirectionAverage = FoldBearing(direction);
+    m_data.WindSpeedAverage = m_data.WindSpeedTrue;
+  } else {
+    const float count = m_settings.m_fNmeaWindIndicatorAverage;
+    SmoothAbsolute(FoldBearing(direction), count, m_data.WindDirectionAverage);
+    SmoothValue(m_data.WindSpeedTrue, count, m_data.WindSpeedAverage);
+  }
+  m_listener.OnWindIndicator(m_data.WindDirectionAverage, m_data.WindSpeedAverage);
+}
+
+}  // namespace veerwatch

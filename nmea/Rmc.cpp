@@ -1,0 +1,29 @@
+#include "nmea/Rmc.h"
+
+#include "nmea/FieldNumber.h"
+
+namespace veerwatch {
+
+Rmc DecodeRmc(const Fields& fields) {
+  Rmc rmc;
+  if (const auto text = fields.Text(7, 7)) {
+    const auto speed = SpeedField(*text);
+    if (!speed) {
+      return rmc;
+    }
+    rmc.Speed = *speed;
+    rmc.SpeedMark = true;
+  }
+  if (const auto text = fields.Text(8, 8)) {
+    const auto course = AngleField(*text);
+    if (!course) {
+      return rmc;
+    }
+    rmc.Course = *course;
+    rmc.CourseMark = true;
+  }
+  rmc.Variation = DecodeVariation(fields, 10);
+  return rmc;
+}
+
+}  // namespace veerwatch

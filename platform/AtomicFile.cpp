@@ -1,0 +1,87 @@
+#include "platform/AtomicFile.h"
+
+#include <cerrno>
+#include <system_error>
+
+#ifdef _WIN32
+#include <fstream>
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace veerwatch {
+
+namespace {
+
+#ifdef _WIN32
+
+std::error_code WriteNew(const std::filesystem::path& file, std::string_view content, const std::filesystem::path&) {
+  std::ofstream stream(file, std::ios::binary | std::ios::trunc);
+  stream.write(content.data(), static_cast<std::streamsize>(content.size()));
+  stream.close();
+  return stream.good() ? std::error_code() : std::make_error_code(std::errc::io_error);
+}
+
+#else
+
+std::error_code LastError() { return {errno, std::generic_category()}; }
+
+/// Writes and synchronises a new file that has the permissions of `old`, where there is an old one.
+std::error_code WriteNew(const std::filesystem::path& file, std::string_view content,
+                         const std::filesystem::path& old) {
+  const int descriptor = ::open(file.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+  if (descriptor < 0) {
+    return LastError();
+  }
+  std::error_code error;
+  struct stat status {};
+  if (::stat(old.c_str(), &status) == 0 && ::fchmod(descriptor, status.st_mode & 07777U) != 0) {
+    error = LastError();
+  }
+  while (!error && !content.empty()) {
+    const ssize_t written = ::write(descriptor, content.data(), content.size());
+    if (written >= 0) {
+      content.remove_prefix(static_cast<std::size_t>(written));
+    } else if (errno != EINTR) {
+      error = LastError();
+    }
+  }
+  if (!error && ::fsync(descriptor) != 0) {
+    error = LastError();
+  }
+  if (::close(descriptor) != 0 && !error) {
+    error = LastError();
+  }
+  return error;
+}
+
+#endif
+
+}  // namespace
+
+std::optional<std::string> WriteAtomically(const std::filesystem::path& file, std::string_view content) {
+  std::error_code error;
+  std::filesystem::path target = std::filesystem::weakly_canonical(file, error);
+  if (error) {
+    target = file;
+  }
+  if (target.has_parent_path()) {
+    std::filesystem::create_directories(target.parent_path(), error);
+  }
+  std::filesystem::path fresh = target;
+  fresh += ".new";
+  error = WriteNew(fresh, content, target);
+  if (!error) {
+    std::filesystem::rename(fresh, target, error);
+  }
+  if (error) {
+    std::error_code ignored;
+    std::filesystem::remove(fresh, ignored);
+    return "cannot write " + target.string() + ": " + error.message();
+  }
+  return std::nullopt;
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,17 @@
+#include "platform/PortNames.h"
+
+namespace veerwatch {
+
+std::string PortDevice(const Profile& profile, int number) {
+  const std::string device = profile.Text("Ports", std::to_string(number));
+  if (!device.empty()) {
+    return device;
+  }
+#ifdef _WIN32
+  return "COM" + std::to_string(number);
+#else
+  return "/dev/ttyS" + std::to_string(number - 1);
+#endif
+}
+
+}  // namespace veerwatch

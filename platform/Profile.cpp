@@ -1,0 +1,257 @@
+#include "platform/Profile.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cmath>
+#include <fstream>
+#include <sstream>
+
+#include "platform/AtomicFile.h"
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
+
+bool IsBlank(char c) { return c == ' ' || c == '\t'; }
+
+std::string_view Trim(std::string_view text) {
+  while (!text.empty() && IsBlank(text.front())) {
+    text.remove_prefix(1);
+  }
+  while (!text.empty() && IsBlank(text.back())) {
+    text.remove_suffix(1);
+  }
+  return text;
+}
+
+bool SameName(std::string_view a, std::string_view b) {
+  const auto lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [&](char x, char y) { return lower(x) == lower(y); });
+}
+
+/// Name of the section that a line opens, or nothing.
+std::optional<std::string_view> SectionName(std::string_view line) {
+  if (line.starts_with(kByteOrderMark)) {
+    line.remove_prefix(kByteOrderMark.size());
+  }
+  line = Trim(line);
+  const std::size_t end = line.find(']');
+  if (line.empty() || line.front() != '[' || end == std::string_view::npos) {
+    return std::nullopt;
+  }
+  return Trim(line.substr(1, end - 1));
+}
+
+bool IsComment(std::string_view line) {
+  line = Trim(line);
+  return !line.empty() && (line.front() == ';' || line.front() == '#');
+}
+
+std::string_view Unquoted(std::string_view value) {
+  if (value.size() >= 2 && (value.front() == '"' || value.front() == '\'') && value.back() == value.front()) {
+    return value.substr(1, value.size() - 2);
+  }
+  return value;
+}
+
+/// A value as it can be read again: quoted where blanks or quotes at its ends would be lost.
+std::string Written(std::string_view value) {
+  std::string text(value);
+  std::replace_if(text.begin(), text.end(), [](unsigned char c) { return c < ' '; }, ' ');
+  const bool quote = Trim(text) != text || Unquoted(text) != text;
+  return quote ? '"' + text + '"' : text;
+}
+
+}  // namespace
+
+Profile::LoadResult Profile::Load(const std::filesystem::path& file) {
+  m_lines.clear();
+  m_lineEnd = "\n";
+  m_unreadable = false;
+  std::error_code error;
+  const auto status = std::filesystem::status(file, error);
+  if (!std::filesystem::exists(status)) {
+    return LoadResult::Missing;
+  }
+  m_unreadable = true;
+  if (!std::filesystem::is_regular_file(status) || std::filesystem::file_size(file, error) > kLargestFile || error) {
+    return LoadResult::Unreadable;
+  }
+  std::ifstream stream(file, std::ios::binary);
+  std::ostringstream bytes;
+  bytes << stream.rdbuf();
+  if (!stream.is_open() || stream.bad()) {
+    return LoadResult::Unreadable;
+  }
+  m_unreadable = false;
+  const std::string content = bytes.str();
+  for (std::size_t at = 0; at < content.size();) {
+    const std::size_t end = std::min(content.find_first_of("\r\n", at), content.size());
+    const std::size_t endSize = content.compare(end, 2, "\r\n") == 0 ? 2 : (end < content.size() ? 1 : 0);
+    m_lines.push_back({content.substr(at, end - at), content.substr(end, endSize)});
+    at = end + endSize;
+  }
+  if (!m_lines.empty() && !m_lines.front().End.empty()) {
+    m_lineEnd = m_lines.front().End;
+  }
+  return LoadResult::Read;
+}
+
+std::optional<std::size_t> Profile::FindSection(std::string_view section) const {
+  for (std::size_t line = 0; line < m_lines.size(); ++line) {
+    const auto name = SectionName(m_lines[line].Text);
+    if (name && SameName(*name, section)) {
+      return line;
+    }
+  }
+  return std::nullopt;
+}
+
+std::size_t Profile::SectionEnd(std::size_t sectionLine) const {
+  std::size_t line = sectionLine + 1;
+  while (line < m_lines.size() && !SectionName(m_lines[line].Text)) {
+    ++line;
+  }
+  return line;
+}
+
+std::optional<std::size_t> Profile::FindKey(std::size_t sectionLine, std::string_view key) const {
+  const std::size_t end = SectionEnd(sectionLine);
+  for (std::size_t line = sectionLine + 1; line < end; ++line) {
+    const std::string_view text = m_lines[line].Text;
+    const std::size_t equals = text.find('=');
+    if (equals != std::string_view::npos && !IsComment(text) && SameName(Trim(text.substr(0, equals)), key)) {
+      return line;
+    }
+  }
+  return std::nullopt;
+}
+
+std::string Profile::Text(std::string_view section, std::string_view key) const {
+  const auto sectionLine = FindSection(section);
+  const auto line = sectionLine ? FindKey(*sectionLine, key) : std::nullopt;
+  if (!line) {
+    return {};
+  }
+  const std::string_view text = m_lines[*line].Text;
+  return std::string(Unquoted(Trim(text.substr(text.find('=') + 1))));
+}
+
+std::string Profile::Counted(std::string_view section, std::string_view key) const {
+  return Text(section, key).substr(0, kValueLength);
+}
+
+void Profile::ProfileGet(std::string_view section, std::string_view key, bool& value) const {
+  const std::string text = Counted(section, key);
+  if (SameName(text, "True")) {
+    value = true;
+  } else if (SameName(text, "False")) {
+    value = false;
+  } else if (const auto number = StrictNumber(text)) {
+    value = *number != 0.0F;
+  }
+}
+
+void Profile::ProfileGet(std::string_view section, std::string_view key, std::int16_t& value, std::int16_t least,
+                         std::int16_t most) const {
+  const auto number = StrictDouble(Counted(section, key));
+  if (!number) {
+    return;
+  }
+  const double floor = std::floor(*number);
+  const double above = *number - floor;
+  const bool up = above > 0.5 || (above == 0.5 && std::fmod(floor, 2.0) != 0.0);
+  const double whole = up ? floor + 1.0 : floor;
+  if (whole >= static_cast<double>(least) && whole <= static_cast<double>(most)) {
+    value = static_cast<std::int16_t>(whole);
+  }
+}
+
+void Profile::ProfileGet(std::string_view section, std::string_view key, float& value) const {
+  if (const auto number = StrictNumber(Counted(section, key))) {
+    value = *number;
+  }
+}
+
+void Profile::ProfileGet(std::string_view section, std::string_view key, std::string& value) const {
+  const std::string text = Counted(section, key);
+  if (!text.empty()) {
+    value = text;
+  }
+}
+
+void Profile::ProfileSet(std::string_view section, std::string_view key, bool value) {
+  ProfileSet(section, key, std::string_view(value ? "True" : "False"));
+}
+
+void Profile::ProfileSet(std::string_view section, std::string_view key, std::int16_t value) {
+  ProfileSet(section, key, std::string_view(std::to_string(value)));
+}
+
+void Profile::ProfileSet(std::string_view section, std::string_view key, float value) {
+  if (std::isfinite(value)) {
+    ProfileSet(section, key, std::string_view(ShortestText(value)));
+  }
+}
+
+void Profile::ProfileSet(std::string_view section, std::string_view key, std::string_view value) {
+  const std::string written = Written(value);
+  const auto endLine = [this](std::size_t line) {
+    if (m_lines[line].End.empty()) {
+      m_lines[line].End = m_lineEnd;
+    }
+  };
+  const auto sectionLine = FindSection(section);
+  if (!sectionLine) {
+    if (!m_lines.empty()) {
+      endLine(m_lines.size() - 1);
+      if (!Trim(m_lines.back().Text).empty()) {
+        m_lines.push_back({"", m_lineEnd});
+      }
+    }
+    m_lines.push_back({"[" + std::string(section) + "]", m_lineEnd});
+    m_lines.push_back({std::string(key) + "=" + written, m_lineEnd});
+    return;
+  }
+  if (const auto line = FindKey(*sectionLine, key)) {
+    std::string& text = m_lines[*line].Text;
+    const std::size_t start = text.find('=') + 1;
+    if (Trim(std::string_view(text).substr(start)) != written) {
+      text.replace(start, std::string::npos, written);
+    }
+    return;
+  }
+  std::size_t line = SectionEnd(*sectionLine);
+  while (line > *sectionLine + 1 && Trim(m_lines[line - 1].Text).empty()) {
+    --line;
+  }
+  endLine(line - 1);
+  m_lines.insert(m_lines.begin() + static_cast<std::ptrdiff_t>(line), {std::string(key) + "=" + written, m_lineEnd});
+}
+
+std::string Profile::Content() const {
+  std::string content;
+  for (const Line& line : m_lines) {
+    content.append(line.Text).append(line.End);
+  }
+  return content;
+}
+
+std::optional<std::string> Profile::Commit(const std::filesystem::path& file) const {
+  if (m_unreadable) {
+    std::filesystem::path aside = file;
+    aside += ".unreadable";
+    std::error_code error;
+    std::filesystem::rename(file, aside, error);
+    if (error) {
+      return "cannot put " + file.string() + " aside: " + error.message();
+    }
+  }
+  return WriteAtomically(file, Content());
+}
+
+}  // namespace veerwatch
