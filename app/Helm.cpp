@@ -2,8 +2,8 @@
 
 namespace veerwatch {
 
-Helm::Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Timer& tmrNmea, RandomSource& random,
-           HelmView& view)
+Helm::Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Timer& tmrNmea,
+           RandomSource& random, HelmView& view)
     : m_settings(settings),
       m_view(view),
       m_record(settings, view),

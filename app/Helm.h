@@ -1,5 +1,5 @@
-// Everything that steers, put together without a window: the receiver, the record, the simulator, the loop with its
-// modes and the pilot output. The main window, the command line and the tests each drive one.
+// Everything that steers, put together without a window: the receiver, the record, the simulator, the loop
+// with its modes and the pilot output. The main window, the command line and the tests each drive one.
 #pragma once
 
 #include "app/Settings.h"
@@ -39,6 +39,7 @@ class Helm final : private FollowUp {
   NmeaReceiver& Receiver() { return m_receiver; }
   PilotOutput& Pilot() { return m_pilot; }
   TrackLoop& Loop() { return m_loop; }
+  const TrackLoop& Loop() const { return m_loop; }
   TrackModes& Modes() { return m_modes; }
   Simulator& Boat() { return m_simulator; }
   const InstrumentData& Data() const { return m_record.Data(); }

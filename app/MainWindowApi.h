@@ -19,7 +19,8 @@ class MainWindowApi : public Settings {
   virtual void ProfileRecall(bool recall) = 0;
   /// Moves the simulated boat to `time` [h] and gives the waypoint from there [deg magnetic], [nm].
   virtual void SimulateTime(float time, float& timeWaypointBearing, float& timeWaypointRange) = 0;
-  /// Moves the held wind angle and the autopilot bearing by `change` [deg, positive to starboard]; only in Track.
+  /// Moves the held wind angle and the autopilot bearing by `change` [deg, positive to starboard]; only in
+  /// Track.
   virtual void TrackSteerTo(float change) = 0;
   virtual void TrackSetOff() = 0;
   virtual void TrackSetSetup() = 0;

@@ -17,13 +17,13 @@ class RememberedWindows {
   virtual bool PolarVisible() const { return false; }
 };
 
-/// Sets every setting that the profile may hold, and the simulated time, to its default. The mode and the path of the
-/// profile stay.
+/// Sets every setting that the profile may hold, and the simulated time, to its default. The mode and the
+/// path of the profile stay.
 void SettingsDefault(Settings& settings);
 
-/// Overlays what the profile holds. Angles are folded; a text that is no number under a numeric key, a number out of
-/// range and a bandwidth that is not above 0 leave the default.
-/// Deliberate: the wind indicator's average is written but never read.
+/// Overlays what the profile holds. Angles are folded; a text that is no number under a numeric key, a number
+/// out of range and a bandwidth that is not above 0 leave the default. Deliberate: the wind indicator's
+/// average is written but never read.
 void ProfileRead(const Profile& profile, Settings& settings, RememberedWindows& windows);
 
 /// Sets every key.

@@ -12,7 +12,8 @@ constexpr int kReopenTicks = 4;
 
 }  // namespace
 
-PilotOutput::PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Listener& listener)
+PilotOutput::PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort,
+                         Listener& listener)
     : m_settings(settings), m_nmeaPort(nmeaPort), m_pilotPort(pilotPort), m_listener(listener) {
   m_pilotPort.Connect(this);
 }

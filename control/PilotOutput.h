@@ -1,5 +1,5 @@
-// The way to the autopilot: opens and closes the pilot port and sends bearings on it, or on the instrument port when
-// both have the same number.
+// The way to the autopilot: opens and closes the pilot port and sends bearings on it, or on the instrument
+// port when both have the same number.
 #pragma once
 
 #include <string>
@@ -25,20 +25,20 @@ class PilotOutput final : public SerialPort::Events {
 
   PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Listener& listener);
 
-  /// Opens the pilot port where it is needed. One that cannot be opened is shown as "Output Port n Not Open" and
-  /// tried again at every fourth tick.
+  /// Opens the pilot port where it is needed. One that cannot be opened is shown as "Output Port n Not Open"
+  /// and tried again at every fourth tick.
   void PilotStart();
   void PilotStop();
 
   /// One tick of the input's timer while not simulating: line errors and the port that is not open.
   void Tick();
 
-  /// Builds the sentence for `bearing` [deg magnetic, [0, 360)] and writes it, whole, with its line end. A bearing
-  /// that is not finite is not sent. Without an open port the sentence only reaches the listener.
+  /// Builds the sentence for `bearing` [deg magnetic, [0, 360)] and writes it, whole, with its line end. A
+  /// bearing that is not finite is not sent. Without an open port the sentence only reaches the listener.
   void PilotSend(float bearing);
 
-  /// Every event of the pilot port is shown on the output panel. Characters that arrive are read off and dropped,
-  /// and shown as "Receive Error".
+  /// Every event of the pilot port is shown on the output panel. Characters that arrive are read off and
+  /// dropped, and shown as "Receive Error".
   void OnComm(int commEvent) override;
   void OnPortLost() override;
 

@@ -11,7 +11,8 @@ bool TrackLoop::StartTracking() {
     return false;
   }
   const double w = static_cast<double>(4.0F / m_settings.m_fTrackBandwidth);
-  const double gainIntegral = w / (4.0 * std::pow(static_cast<double>(m_settings.m_fTrackDamping), 2.0) + 1.0);
+  const double gainIntegral =
+      w / (4.0 * std::pow(static_cast<double>(m_settings.m_fTrackDamping), 2.0) + 1.0);
   const double gainProportional = w - gainIntegral;
   if (!std::isfinite(gainIntegral) || !std::isfinite(gainProportional)) {
     return false;
@@ -36,7 +37,8 @@ void TrackLoop::ControlStep() {
   }
   const float deltaApparent =
       FoldRelative(static_cast<double>(m_data.WindAngleApparent) - static_cast<double>(apparent));
-  const float deltaTrue = FoldRelative(static_cast<double>(m_data.WindAngleTrue) - static_cast<double>(trueWind));
+  const float deltaTrue =
+      FoldRelative(static_cast<double>(m_data.WindAngleTrue) - static_cast<double>(trueWind));
   m_listener.OnDelta(deltaApparent, deltaTrue);
 
   if (mode == TrackMode::Track) {
@@ -89,7 +91,8 @@ void TrackLoop::TrackSteerTo(float change) {
   float speed = 0.0F;
   float trueAngle = Desired(TrackSide::True);
   if (m_side == TrackSide::Apparent) {
-    WindTrueFromApparent(m_data.WindSpeedApparent, Desired(TrackSide::Apparent), m_data.BoatSpeed, speed, trueAngle);
+    WindTrueFromApparent(m_data.WindSpeedApparent, Desired(TrackSide::Apparent), m_data.BoatSpeed, speed,
+                         trueAngle);
   }
   SetDesired(TrackSide::True, static_cast<double>(trueAngle) - static_cast<double>(change));
   float apparent = 0.0F;

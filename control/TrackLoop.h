@@ -28,17 +28,17 @@ class TrackLoop {
   TrackLoop(Settings& settings, const InstrumentData& data, PilotOutput& pilot, Listener& listener)
       : m_settings(settings), m_data(data), m_pilot(pilot), m_listener(listener) {}
 
-  /// Computes the gains from bandwidth and damping and zeroes the accumulator. False, with nothing changed, when
-  /// the bandwidth is not above 0 or a gain is not finite.
+  /// Computes the gains from bandwidth and damping and zeroes the accumulator. False, with nothing changed,
+  /// when the bandwidth is not above 0 or a gain is not finite.
   bool StartTracking();
 
   /// One pass over the record, by the present mode.
-  /// Deliberate: the controller uses the accumulator of before the pass, no correction is limited, and an error
-  /// equal to the alarm limit raises no alarm.
+  /// Deliberate: the controller uses the accumulator of before the pass, no correction is limited, and an
+  /// error equal to the alarm limit raises no alarm.
   void ControlStep();
 
-  /// Moves the held wind angle by -`change` and the bearing by `change` [deg, positive to starboard], and zeroes
-  /// the accumulator. Only in Track, and only for a finite change.
+  /// Moves the held wind angle by -`change` and the bearing by `change` [deg, positive to starboard], and
+  /// zeroes the accumulator. Only in Track, and only for a finite change.
   void TrackSteerTo(float change);
 
   /// Takes a bearing [deg magnetic, any turn], folded. One that is not finite changes nothing.

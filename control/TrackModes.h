@@ -22,7 +22,8 @@ class TrackModes {
     virtual void OnTrackRefused(std::string_view /*reason*/) {}
   };
 
-  TrackModes(Settings& settings, NmeaReceiver& receiver, PilotOutput& pilot, TrackLoop& loop, Listener& listener)
+  TrackModes(Settings& settings, NmeaReceiver& receiver, PilotOutput& pilot, TrackLoop& loop,
+             Listener& listener)
       : m_settings(settings), m_receiver(receiver), m_pilot(pilot), m_loop(loop), m_listener(listener) {}
 
   /// Stops the input and closes the pilot port.
@@ -31,8 +32,8 @@ class TrackModes {
   void TrackSetSetup();
   /// Sees to the pilot port.
   void TrackSetManual();
-  /// Computes the gains and sees to the pilot port. Refused, with everything as it was, while the settings give no
-  /// usable gains.
+  /// Computes the gains and sees to the pilot port. Refused, with everything as it was, while the settings
+  /// give no usable gains.
   void TrackSetTrack();
 
  private:
@@ -48,12 +49,12 @@ class TrackModes {
 
 /// Which controls of the main window answer in a mode.
 struct TrackControls {
-  bool AutoPilot = false;         ///< entry box and nudges of the bearing
-  bool Side = false;              ///< the option pair
-  bool DesiredApparent = false;   ///< entry box, labels and value of the apparent angle
-  bool DesiredTrue = false;       ///< the same for the true angle
-  bool NudgeApparent = false;     ///< nudges of the desired apparent angle
-  bool NudgeTrue = false;         ///< the same for the true angle
+  bool AutoPilot = false;        ///< entry box and nudges of the bearing
+  bool Side = false;             ///< the option pair
+  bool DesiredApparent = false;  ///< entry box, labels and value of the apparent angle
+  bool DesiredTrue = false;      ///< the same for the true angle
+  bool NudgeApparent = false;    ///< nudges of the desired apparent angle
+  bool NudgeTrue = false;        ///< the same for the true angle
 };
 
 /// The table of what answers; only the chosen side of the two does.

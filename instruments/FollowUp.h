@@ -1,5 +1,5 @@
-// The steps that follow a fresh wind: the same after a wind sentence and after a simulator tick, in an order of
-// their own each.
+// The steps that follow a fresh wind: the same after a wind sentence and after a simulator tick, in an order
+// of their own each.
 #pragma once
 
 namespace veerwatch {

@@ -1,5 +1,5 @@
-// The updates that write InstrumentData: each stores the raw value, keeps its smoothed copy and tells the listener
-// what to show. Called by the sentence dispatcher and the simulator with values that are finite.
+// The updates that write InstrumentData: each stores the raw value, keeps its smoothed copy and tells the
+// listener what to show. Called by the sentence dispatcher and the simulator with values that are finite.
 #pragma once
 
 #include "app/Settings.h"
@@ -24,14 +24,15 @@ class InstrumentRecord {
   };
 
   /// Reads m_fNmeaTrueWindAverage, m_fNmeaWindIndicatorAverage and m_iNmeaTrueWind at every update.
-  InstrumentRecord(const Settings& settings, Listener& listener) : m_settings(settings), m_listener(listener) {}
+  InstrumentRecord(const Settings& settings, Listener& listener)
+      : m_settings(settings), m_listener(listener) {}
 
   const InstrumentData& Data() const { return m_data; }
   /// For the simulator, which works out its values in the record itself.
   InstrumentData& Data() { return m_data; }
 
-  /// Clears the validity flags and blanks the labels, so that every smoothed value restarts from its next sample.
-  /// Deliberate: the variation and its flag stay, and no value is zeroed.
+  /// Clears the validity flags and blanks the labels, so that every smoothed value restarts from its next
+  /// sample. Deliberate: the variation and its flag stay, and no value is zeroed.
   void Restart();
 
   /// `Heading` [deg magnetic, any turn].

@@ -49,7 +49,8 @@ float FoldBearing(double Angle) {
 }
 
 float FoldRelative(double Angle) {
-  return ToSingle(AngleRelative(static_cast<double>(ToSingle(AngleRelative(std::fmod(Angle, 360.0)))))) + 0.0F;
+  return ToSingle(AngleRelative(static_cast<double>(ToSingle(AngleRelative(std::fmod(Angle, 360.0)))))) +
+         0.0F;
 }
 
 float ToSingle(double value) {

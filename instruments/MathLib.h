@@ -1,5 +1,5 @@
-// Angle and vector helpers, free functions without state. Every angle is in degrees; the averaging helpers keep
-// their running value in a variable of the caller. Results are narrowed to single precision when stored.
+// Angle and vector helpers, free functions without state. Every angle is in degrees; the averaging helpers
+// keep their running value in a variable of the caller. Results are narrowed to single precision when stored.
 #pragma once
 
 namespace veerwatch {

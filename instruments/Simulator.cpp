@@ -7,11 +7,13 @@
 namespace veerwatch {
 
 double Simulator::AngleNoise() {
-  return static_cast<double>(ToSingle((m_random.Next() - 0.5) * static_cast<double>(m_settings.m_fSimulateNoiseAngle)));
+  return static_cast<double>(
+      ToSingle((m_random.Next() - 0.5) * static_cast<double>(m_settings.m_fSimulateNoiseAngle)));
 }
 
 double Simulator::SpeedNoise() {
-  return static_cast<double>(ToSingle((m_random.Next() - 0.5) * static_cast<double>(m_settings.m_fSimulateNoiseSpeed)));
+  return static_cast<double>(
+      ToSingle((m_random.Next() - 0.5) * static_cast<double>(m_settings.m_fSimulateNoiseSpeed)));
 }
 
 void Simulator::Tick() {
@@ -21,9 +23,9 @@ void Simulator::Tick() {
                                      static_cast<double>(m_settings.m_fAutoPilot)));
   m_record.BoatSpeedUpdate(m_settings.m_fSimulateBoatSpeed);
 
-  data.WindAngleTrue = FoldRelative(static_cast<double>(m_settings.m_fSimulateTrueWindAngle) -
-                                    static_cast<double>(m_settings.m_fSimulateVariation) -
-                                    static_cast<double>(data.Heading));
+  data.WindAngleTrue =
+      FoldRelative(static_cast<double>(m_settings.m_fSimulateTrueWindAngle) -
+                   static_cast<double>(m_settings.m_fSimulateVariation) - static_cast<double>(data.Heading));
   data.WindSpeedTrue = m_settings.m_fSimulateTrueWindSpeed;
   WindApparentFromTrue(data.WindSpeedTrue, data.WindAngleTrue, data.BoatSpeed, data.WindSpeedApparent,
                        data.WindAngleApparent);

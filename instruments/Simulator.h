@@ -1,5 +1,5 @@
-// A boat for the desk: makes a set of instrument values from the simulation settings at every tick and sails the
-// heading that the control loop commands, so that the whole chain runs without a boat.
+// A boat for the desk: makes a set of instrument values from the simulation settings at every tick and sails
+// the heading that the control loop commands, so that the whole chain runs without a boat.
 #pragma once
 
 #include "app/Settings.h"
@@ -14,15 +14,16 @@ class Simulator {
   Simulator(Settings& settings, InstrumentRecord& record, RandomSource& random, FollowUp& followUp)
       : m_settings(settings), m_record(record), m_random(random), m_followUp(followUp) {}
 
-  /// One second of simulated sailing: the updates of the record, then the polar window, then the control step.
-  /// Draws four random numbers: angle and speed noise of the apparent wind, then of the true wind.
+  /// One second of simulated sailing: the updates of the record, then the polar window, then the control
+  /// step. Draws four random numbers: angle and speed noise of the apparent wind, then of the true wind.
   /// Deliberate: the steps that follow make no validity tests, and the polar window comes before the control
   /// step (after a wind sentence it comes behind).
   void Tick();
 
-  /// Moves the boat along the autopilot bearing from m_fSimulateTime to `Time` [h] at the simulated speed, and
-  /// gives the waypoint from there: bearing [deg, [-180, 180] once moved], range [nm]. Time 0 puts the boat back;
-  /// the same time again changes nothing. A time or a result that is not finite changes nothing either.
+  /// Moves the boat along the autopilot bearing from m_fSimulateTime to `Time` [h] at the simulated speed,
+  /// and gives the waypoint from there: bearing [deg, [-180, 180] once moved], range [nm]. Time 0 puts the
+  /// boat back; the same time again changes nothing. A time or a result that is not finite changes nothing
+  /// either.
   void SimulateTime(float Time, float& TimeWaypointBearing, float& TimeWaypointRange);
 
  private:

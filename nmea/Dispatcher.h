@@ -1,5 +1,5 @@
-// From a good line to the record: decodes the enabled sentence types and calls the updates that the source settings
-// choose.
+// From a good line to the record: decodes the enabled sentence types and calls the updates that the source
+// settings choose.
 #pragma once
 
 #include <string_view>
@@ -13,9 +13,9 @@ namespace veerwatch {
 class Dispatcher {
  public:
   struct Outcome {
-    bool Used = false;         ///< the line updated the record
-    bool Incomplete = false;   ///< the decoder missed something that its sentence should hold
-    bool WindSentence = false; ///< an enabled "MWV", used or not
+    bool Used = false;          ///< the line updated the record
+    bool Incomplete = false;    ///< the decoder missed something that its sentence should hold
+    bool WindSentence = false;  ///< an enabled "MWV", used or not
   };
 
   Dispatcher(const Settings& settings, InstrumentRecord& record) : m_settings(settings), m_record(record) {}

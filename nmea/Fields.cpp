@@ -8,7 +8,8 @@ Fields::Fields(std::string_view line) {
     return;
   }
   std::size_t start = kFirstComma + 1;
-  for (std::size_t comma = line.find(',', start); comma != std::string_view::npos; comma = line.find(',', start)) {
+  for (std::size_t comma = line.find(',', start); comma != std::string_view::npos;
+       comma = line.find(',', start)) {
     if (m_count < kKept) {
       m_fields[m_count] = line.substr(start, comma - start);
     }

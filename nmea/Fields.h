@@ -17,9 +17,9 @@ class Fields {
   /// Fields that are kept; the rest of a line is only counted.
   static constexpr std::size_t kKept = 16;
 
-  /// Splits `line` at its commas. The first must be the 7th character, else there are no fields. The last field
-  /// ends at the first "*" behind the last comma, or at the end of the line.
-  /// Deliberate: a last field of one character in a line without such a "*" is empty.
+  /// Splits `line` at its commas. The first must be the 7th character, else there are no fields. The last
+  /// field ends at the first "*" behind the last comma, or at the end of the line. Deliberate: a last field
+  /// of one character in a line without such a "*" is empty.
   explicit Fields(std::string_view line);
 
   /// Number of fields, those that are not kept included.

@@ -13,9 +13,9 @@ class LineFramer {
   /// Longest line that is kept [characters]; of a longer one the rest up to its carriage return is dropped.
   static constexpr std::size_t kLongestLine = 4096;
 
-  /// Walks through `bytes` and hands each whole line to `onLine(std::string_view)`, and the first kLongestLine
-  /// characters of a line that grows longer, once, to `onOverlong(std::string_view)`. What is left waits for the
-  /// next call. The views last until the call returns, even when it calls Clear.
+  /// Walks through `bytes` and hands each whole line to `onLine(std::string_view)`, and the first
+  /// kLongestLine characters of a line that grows longer, once, to `onOverlong(std::string_view)`. What is
+  /// left waits for the next call. The views last until the call returns, even when it calls Clear.
   template <class OnLine, class OnOverlong>
   void Feed(std::string_view bytes, OnLine&& onLine, OnOverlong&& onOverlong) {
     while (!bytes.empty()) {

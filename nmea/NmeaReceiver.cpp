@@ -10,8 +10,8 @@ constexpr std::string_view kNoInputData = "No Input Data";
 
 }  // namespace
 
-NmeaReceiver::NmeaReceiver(const Settings& settings, SerialPort& port, Timer& tmrNmea, InstrumentRecord& record,
-                           FollowUp& followUp, Listener& listener)
+NmeaReceiver::NmeaReceiver(const Settings& settings, SerialPort& port, Timer& tmrNmea,
+                           InstrumentRecord& record, FollowUp& followUp, Listener& listener)
     : m_settings(settings),
       m_port(port),
       m_timer(tmrNmea),

@@ -1,5 +1,5 @@
-// The instrument input: opens and closes its port, turns receive events into lines, routes good ones into the record,
-// reports the others, and watches for silence.
+// The instrument input: opens and closes its port, turns receive events into lines, routes good ones into the
+// record, reports the others, and watches for silence.
 #pragma once
 
 #include <string>
@@ -28,24 +28,25 @@ class NmeaReceiver final : public SerialPort::Events {
     virtual void OnNmeaListCleared() {}
     /// Each line, with a mark behind it when its frame is bad; `used` when it updated the record.
     virtual void OnNmeaData(std::string_view /*line*/, bool /*used*/) {}
-    /// Each line that failed, behind the kind of failure. Comes before OnNmeaData when a decoder fails, behind it
-    /// when the frame is bad.
+    /// Each line that failed, behind the kind of failure. Comes before OnNmeaData when a decoder fails,
+    /// behind it when the frame is bad.
     virtual void OnNmeaError(std::string_view /*text*/) {}
   };
 
   NmeaReceiver(const Settings& settings, SerialPort& port, Timer& tmrNmea, InstrumentRecord& record,
                FollowUp& followUp, Listener& listener);
 
-  /// Starts the input, with the present port number and with the present m_bSimulate. Always true; a port that
-  /// cannot be opened is shown as "Input Port n Not Open" and tried again at every fourth tick.
+  /// Starts the input, with the present port number and with the present m_bSimulate. Always true; a port
+  /// that cannot be opened is shown as "Input Port n Not Open" and tried again at every fourth tick.
   bool NmeaStart();
   void NmeaStop();
 
-  /// One tick of the started timer while not simulating: line errors, the watchdog, the port that is not open.
+  /// One tick of the started timer while not simulating: line errors, the watchdog, the port that is not
+  /// open.
   void Tick();
 
-  /// True while a receive event is being handled; an event that arrives meanwhile is dropped, its characters are
-  /// read with the next one.
+  /// True while a receive event is being handled; an event that arrives meanwhile is dropped, its characters
+  /// are read with the next one.
   bool Receiving() const { return m_receiving; }
 
   /// True between NmeaStart and NmeaStop.

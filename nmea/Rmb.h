@@ -11,8 +11,8 @@ namespace veerwatch {
 ///            |                                     range to the waypoint [nm, [0, 100000]]
 ///            status; a "V" is used like an "A"
 ///
-/// Deliberate: where field 1 is not "A" but field 2 is, every field stands one further on, as some senders put a
-/// field of their own before the status.
+/// Deliberate: where field 1 is not "A" but field 2 is, every field stands one further on, as some senders
+/// put a field of their own before the status.
 ///
 /// Source: NMEA 0183, RMB.
 struct Rmb {

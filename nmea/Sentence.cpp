@@ -22,8 +22,9 @@ SentenceType SentenceTypeOf(std::string_view line) {
     std::string_view Text;
     SentenceType Type;
   };
-  constexpr Name kNames[] = {{"HDG", SentenceType::Hdg}, {"HVM", SentenceType::Hvm}, {"MWV", SentenceType::Mwv},
-                             {"RMB", SentenceType::Rmb}, {"RMC", SentenceType::Rmc}, {"VHW", SentenceType::Vhw},
+  constexpr Name kNames[] = {{"HDG", SentenceType::Hdg}, {"HVM", SentenceType::Hvm},
+                             {"MWV", SentenceType::Mwv}, {"RMB", SentenceType::Rmb},
+                             {"RMC", SentenceType::Rmc}, {"VHW", SentenceType::Vhw},
                              {"VTG", SentenceType::Vtg}};
   const std::string_view type = line.size() >= 6 ? line.substr(3, 3) : std::string_view{};
   for (const Name& name : kNames) {

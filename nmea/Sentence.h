@@ -19,9 +19,8 @@ enum class Frame {
   WrongChecksum,  ///< has a checksum that is not its own
 };
 
-/// Checks the frame of a line without its line end. A line whose third character from the end is not "*" has no
-/// checksum and is good without.
-/// Deliberate: a checksum in lower-case hexadecimal is wrong.
+/// Checks the frame of a line without its line end. A line whose third character from the end is not "*" has
+/// no checksum and is good without. Deliberate: a checksum in lower-case hexadecimal is wrong.
 Frame CheckFrame(std::string_view line);
 
 enum class SentenceType { Hdg, Hvm, Mwv, Rmb, Rmc, Vhw, Vtg, Other };

@@ -17,7 +17,8 @@ namespace {
 
 #ifdef _WIN32
 
-std::error_code WriteNew(const std::filesystem::path& file, std::string_view content, const std::filesystem::path&) {
+std::error_code WriteNew(const std::filesystem::path& file, std::string_view content,
+                         const std::filesystem::path&) {
   std::ofstream stream(file, std::ios::binary | std::ios::trunc);
   stream.write(content.data(), static_cast<std::streamsize>(content.size()));
   stream.close();

@@ -17,12 +17,12 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 /// A number as it stands at the beginning of a text.
 struct Scanned {
-  std::string_view Text;       ///< without a plus sign; empty when there is no number
-  std::size_t End = 0;         ///< where the number ends in the text that was scanned
+  std::string_view Text;  ///< without a plus sign; empty when there is no number
+  std::size_t End = 0;    ///< where the number ends in the text that was scanned
   bool Negative = false;
-  bool Plain = true;           ///< no exponent, and Digits holds all digits
-  std::uint64_t Digits = 0;    ///< the digits without the point
-  int Decimals = 0;            ///< how many of them stand behind the point
+  bool Plain = true;         ///< no exponent, and Digits holds all digits
+  std::uint64_t Digits = 0;  ///< the digits without the point
+  int Decimals = 0;          ///< how many of them stand behind the point
 };
 
 /// Reads an optional sign, digits with an optional point, and an exponent where it is whole.
@@ -121,7 +121,8 @@ std::optional<float> ToFloat(const Scanned& scanned) {
   constexpr std::array<float, 11> kPowers{1e0F, 1e1F, 1e2F, 1e3F, 1e4F, 1e5F, 1e6F, 1e7F, 1e8F, 1e9F, 1e10F};
   constexpr std::uint64_t kExact = 1U << 24U;
   if (scanned.Plain && scanned.Digits <= kExact && scanned.Decimals < static_cast<int>(kPowers.size())) {
-    const float value = static_cast<float>(scanned.Digits) / kPowers[static_cast<std::size_t>(scanned.Decimals)];
+    const float value =
+        static_cast<float>(scanned.Digits) / kPowers[static_cast<std::size_t>(scanned.Decimals)];
     return scanned.Negative ? -value : value;
   }
   return Convert<float>(scanned);
@@ -146,7 +147,8 @@ std::string_view Shortest(float value, Digits& digits) {
   return {digits.data(), static_cast<std::size_t>(result.ptr - digits.data())};
 }
 
-/// Adds one to the decimal number in `text`, which may hold a point; grows it by a digit where all were nines.
+/// Adds one to the decimal number in `text`, which may hold a point; grows it by a digit where all were
+/// nines.
 void RoundUp(std::string& text) {
   for (std::size_t at = text.size(); at > 0; --at) {
     char& c = text[at - 1];
@@ -195,7 +197,10 @@ std::string FormatNumber(float value, std::string_view pattern) {
     text.insert(0, least - integers, '0');
   }
   const bool zero = text.find_first_not_of("0.") == std::string::npos;
-  return value < 0.0F && !zero ? "-" + text : text;
+  if (value < 0.0F && !zero) {
+    text.insert(text.begin(), '-');
+  }
+  return text;
 }
 
 std::string ShortestText(float value) {

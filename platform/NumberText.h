@@ -7,10 +7,10 @@
 
 namespace veerwatch {
 
-/// `value` by a pattern of zeros with at most one point, as "0", "0.0", "0.00", "000.0", "00" or ".0": the zeros
-/// before the point are the least number of integer digits, those after it the exact number of decimals. Rounds
-/// the shortest decimal text of the single, halves away from zero (5.25 gives "5.3"), and never gives "-0".
-/// A value that is not finite gives "".
+/// `value` by a pattern of zeros with at most one point, as "0", "0.0", "0.00", "000.0", "00" or ".0": the
+/// zeros before the point are the least number of integer digits, those after it the exact number of
+/// decimals. Rounds the shortest decimal text of the single, halves away from zero (5.25 gives "5.3"), and
+/// never gives "-0". A value that is not finite gives "".
 std::string FormatNumber(float value, std::string_view pattern);
 
 /// The shortest decimal text that reads back as the same single, without an exponent ("92.3", "5", "0.5").
@@ -25,8 +25,8 @@ std::optional<float> StrictNumber(std::string_view text);
 /// The same, in double precision.
 std::optional<double> StrictDouble(std::string_view text);
 
-/// The number that a text begins with, after blanks; what follows is ignored. 0 when it begins with none or the
-/// number is too large for a single.
+/// The number that a text begins with, after blanks; what follows is ignored. 0 when it begins with none or
+/// the number is too large for a single.
 float LeadingNumber(std::string_view text);
 
 }  // namespace veerwatch

@@ -7,8 +7,8 @@
 
 namespace veerwatch {
 
-/// The device that section "Ports" of the profile names under the number (any path), else the system's own: COMn on
-/// Windows, /dev/ttyS(n-1) elsewhere. `number` in [1, 32767].
+/// The device that section "Ports" of the profile names under the number (any path), else the system's own:
+/// COMn on Windows, /dev/ttyS(n-1) elsewhere. `number` in [1, 32767].
 std::string PortDevice(const Profile& profile, int number);
 
 }  // namespace veerwatch

@@ -61,24 +61,28 @@ std::string_view Unquoted(std::string_view value) {
 /// A value as it can be read again: quoted where blanks or quotes at its ends would be lost.
 std::string Written(std::string_view value) {
   std::string text(value);
-  std::replace_if(text.begin(), text.end(), [](unsigned char c) { return c < ' '; }, ' ');
+  std::replace_if(
+      text.begin(), text.end(), [](unsigned char c) { return c < ' '; }, ' ');
   const bool quote = Trim(text) != text || Unquoted(text) != text;
-  return quote ? '"' + text + '"' : text;
+  if (quote) {
+    text.insert(text.begin(), '"');
+    text.push_back('"');
+  }
+  return text;
 }
 
 }  // namespace
 
 Profile::LoadResult Profile::Load(const std::filesystem::path& file) {
-  m_lines.clear();
-  m_lineEnd = "\n";
-  m_unreadable = false;
+  *this = Profile();
   std::error_code error;
   const auto status = std::filesystem::status(file, error);
   if (!std::filesystem::exists(status)) {
     return LoadResult::Missing;
   }
   m_unreadable = true;
-  if (!std::filesystem::is_regular_file(status) || std::filesystem::file_size(file, error) > kLargestFile || error) {
+  if (!std::filesystem::is_regular_file(status) || std::filesystem::file_size(file, error) > kLargestFile ||
+      error) {
     return LoadResult::Unreadable;
   }
   std::ifstream stream(file, std::ios::binary);
@@ -156,8 +160,8 @@ void Profile::ProfileGet(std::string_view section, std::string_view key, bool& v
   }
 }
 
-void Profile::ProfileGet(std::string_view section, std::string_view key, std::int16_t& value, std::int16_t least,
-                         std::int16_t most) const {
+void Profile::ProfileGet(std::string_view section, std::string_view key, std::int16_t& value,
+                         std::int16_t least, std::int16_t most) const {
   const auto number = StrictDouble(Counted(section, key));
   if (!number) {
     return;
@@ -200,6 +204,7 @@ void Profile::ProfileSet(std::string_view section, std::string_view key, float v
 
 void Profile::ProfileSet(std::string_view section, std::string_view key, std::string_view value) {
   const std::string written = Written(value);
+  const std::string keyLine = std::string(key).append(1, '=').append(written);
   const auto endLine = [this](std::size_t line) {
     if (m_lines[line].End.empty()) {
       m_lines[line].End = m_lineEnd;
@@ -213,8 +218,8 @@ void Profile::ProfileSet(std::string_view section, std::string_view key, std::st
         m_lines.push_back({"", m_lineEnd});
       }
     }
-    m_lines.push_back({"[" + std::string(section) + "]", m_lineEnd});
-    m_lines.push_back({std::string(key) + "=" + written, m_lineEnd});
+    m_lines.push_back({std::string(1, '[').append(section).append(1, ']'), m_lineEnd});
+    m_lines.push_back({keyLine, m_lineEnd});
     return;
   }
   if (const auto line = FindKey(*sectionLine, key)) {
@@ -230,7 +235,8 @@ void Profile::ProfileSet(std::string_view section, std::string_view key, std::st
     --line;
   }
   endLine(line - 1);
-  m_lines.insert(m_lines.begin() + static_cast<std::ptrdiff_t>(line), {std::string(key) + "=" + written, m_lineEnd});
+  m_lines.insert(m_lines.begin() + static_cast<std::ptrdiff_t>(line),
+                 {std::string(key) + "=" + written, m_lineEnd});
 }
 
 std::string Profile::Content() const {

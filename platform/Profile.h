@@ -1,5 +1,6 @@
-// The settings file in INI form: sections in brackets, a key, an equals sign and a value per line. One instance
-// serves all windows. Lines that nobody sets survive letter for letter, in their order and with their line ends.
+// The settings file in INI form: sections in brackets, a key, an equals sign and a value per line. One
+// instance serves all windows. Lines that nobody sets survive letter for letter, in their order and with
+// their line ends.
 #pragma once
 
 #include <cstddef>
@@ -21,16 +22,16 @@ class Profile {
 
   enum class LoadResult { Read, Missing, Unreadable };
 
-  /// Reads the file in place of what was held. A file that is missing or unreadable (no permission, no file, too
-  /// large) leaves the profile empty; whatever stands in a readable one is kept as lines.
+  /// Reads the file in place of what was held. A file that is missing or unreadable (no permission, no file,
+  /// too large) leaves the profile empty; whatever stands in a readable one is kept as lines.
   LoadResult Load(const std::filesystem::path& file);
 
-  /// The whole value of a key, "" for an empty one or none. Section and key are found whatever their case, the
-  /// first of two equal ones counts; blanks around and a pair of quotes around the value are dropped.
+  /// The whole value of a key, "" for an empty one or none. Section and key are found whatever their case,
+  /// the first of two equal ones counts; blanks around and a pair of quotes around the value are dropped.
   std::string Text(std::string_view section, std::string_view key) const;
 
-  // Each reads a key into `value` and leaves it as it is when the key is missing, empty, or its text is nothing of
-  // that type. Only the first kValueLength characters count.
+  // Each reads a key into `value` and leaves it as it is when the key is missing, empty, or its text is
+  // nothing of that type. Only the first kValueLength characters count.
 
   /// "True" and "False" in any case, or a number: 0 is false.
   void ProfileGet(std::string_view section, std::string_view key, bool& value) const;
@@ -41,8 +42,8 @@ class Profile {
   void ProfileGet(std::string_view section, std::string_view key, float& value) const;
   void ProfileGet(std::string_view section, std::string_view key, std::string& value) const;
 
-  // Each sets a key, in its own line when it is there, else behind the last line of its section, else in a new
-  // section at the end.
+  // Each sets a key, in its own line when it is there, else behind the last line of its section, else in a
+  // new section at the end.
 
   void ProfileSet(std::string_view section, std::string_view key, bool value);
   void ProfileSet(std::string_view section, std::string_view key, std::int16_t value);
@@ -54,9 +55,9 @@ class Profile {
     ProfileSet(section, key, std::string_view(value));
   }
 
-  /// Writes all of it beside `file` and then puts it in place in one step, so that a crash or a full disk never
-  /// costs the old file. A file that Load could not read is put aside as "<file>.unreadable" first. Nothing when
-  /// done, else what went wrong, as one line.
+  /// Writes all of it beside `file` and then puts it in place in one step, so that a crash or a full disk
+  /// never costs the old file. A file that Load could not read is put aside as "<file>.unreadable" first.
+  /// Nothing when done, else what went wrong, as one line.
   std::optional<std::string> Commit(const std::filesystem::path& file) const;
 
   /// All lines as they would be written.

@@ -9,12 +9,12 @@ namespace veerwatch {
 
 /// Codes with which a port raises its one event.
 namespace CommEvent {
-inline constexpr int kReceive = 2;        ///< characters are waiting
-inline constexpr int kBreak = 1001;       ///< break signal
-inline constexpr int kFrame = 1004;       ///< framing error
-inline constexpr int kOverrun = 1006;     ///< a character was lost in the port
-inline constexpr int kRxOver = 1008;      ///< the receive buffer overflowed
-inline constexpr int kRxParity = 1009;    ///< parity error
+inline constexpr int kReceive = 2;      ///< characters are waiting
+inline constexpr int kBreak = 1001;     ///< break signal
+inline constexpr int kFrame = 1004;     ///< framing error
+inline constexpr int kOverrun = 1006;   ///< a character was lost in the port
+inline constexpr int kRxOver = 1008;    ///< the receive buffer overflowed
+inline constexpr int kRxParity = 1009;  ///< parity error
 }  // namespace CommEvent
 
 /// The status text of an event that is not a receive event: "Break Signal Received", "Framing Error",

@@ -1,0 +1,53 @@
+// A port of the command line: always to be had, fed with a line at a time.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/SerialPort.h"
+#include "platform/Timer.h"
+
+namespace veerwatch {
+
+class MemoryPort final : public SerialPort {
+ public:
+  void Connect(Events* events) override { m_events = events; }
+  void CommPort(int number) override { m_number = number; }
+  int CommPort() const override { return m_number; }
+  bool PortOpen() const override { return m_open; }
+  bool PortOpen(bool open) override {
+    m_open = open;
+    return true;
+  }
+  void Input(std::string& text) override {
+    text.assign(m_waiting);
+    m_waiting = {};
+  }
+  void Output(std::string_view /*sentence*/) override {}
+  void PollLineErrors() override {}
+
+  /// Lets `bytes` arrive as one receive event.
+  void Arrive(std::string_view bytes) {
+    m_waiting = bytes;
+    m_events->OnComm(CommEvent::kReceive);
+  }
+
+ private:
+  Events* m_events = nullptr;
+  int m_number = 1;
+  bool m_open = false;
+  std::string_view m_waiting;
+};
+
+/// A timer that somebody else ticks.
+class IdleTimer final : public Timer {
+ public:
+  void Interval(int /*milliseconds*/) override {}
+  void Enabled(bool enabled) override { m_enabled = enabled; }
+  bool Enabled() const override { return m_enabled; }
+
+ private:
+  bool m_enabled = false;
+};
+
+}  // namespace veerwatch

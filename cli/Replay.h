@@ -1,0 +1,21 @@
+// "veerwatch-cli replay": a recorded passage through the core, as fast as it goes.
+#pragma once
+
+#include <istream>
+#include <ostream>
+
+#include "cli/LogReader.h"
+#include "cli/Steering.h"
+
+namespace veerwatch {
+
+struct ReplayOptions {
+  SteeringOptions Steer;
+  long SetupSteps = 0;  ///< control steps that run in Setup before the switch to the mode, at least 0
+  LineEnds Ends = LineEnds::Any;
+};
+
+/// Writes the autopilot sentences with CR LF, or a trace. Throws CommandError.
+void Replay(const ReplayOptions& options, std::istream& log, std::ostream& out);
+
+}  // namespace veerwatch

@@ -1,0 +1,57 @@
+#include "cli/Steering.h"
+
+#include "app/SettingsProfile.h"
+#include "platform/Profile.h"
+
+namespace veerwatch {
+
+Steering::Steering(const SteeringOptions& options, bool simulate, std::uint64_t seed)
+    : m_mode(options.Mode),
+      m_random(seed),
+      m_helm(m_settings, m_nmeaPort, m_pilotPort, m_timer, m_random, *this) {
+  if (options.ProfileFile) {
+    Profile profile;
+    if (profile.Load(*options.ProfileFile) != Profile::LoadResult::Read) {
+      throw CommandError("cannot read the profile " + *options.ProfileFile);
+    }
+    RememberedWindows noWindows;
+    ProfileRead(profile, m_settings, noWindows);
+  }
+  m_settings.m_bSimulate = simulate;
+  m_helm.Loop().Side(options.Side);
+}
+
+void Steering::Start() { m_helm.Modes().TrackSetSetup(); }
+
+void Steering::EnterMode() {
+  if (m_mode == TrackMode::Setup) {
+    return;
+  }
+  m_helm.Modes().TrackSetManual();
+  if (m_mode == TrackMode::Track) {
+    m_helm.Modes().TrackSetTrack();
+    if (!m_refused.empty()) {
+      throw CommandError(m_refused);
+    }
+  }
+}
+
+void Steering::Line(const std::string& line) {
+  Forget();
+  m_bytes.assign(line).push_back('\r');
+  m_nmeaPort.Arrive(m_bytes);
+}
+
+void Steering::Tick() {
+  Forget();
+  m_helm.Tick();
+}
+
+void Steering::Forget() {
+  m_used = false;
+  m_error.reset();
+  m_pilotSentence.clear();
+  m_delta.reset();
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,90 @@
+// What the commands share: a helm without a window, its settings from a profile, and the way into a mode.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <stdexcept>
+#include <string>
+
+#include "app/Helm.h"
+#include "app/Settings.h"
+#include "cli/MemoryPort.h"
+
+namespace veerwatch {
+
+/// What stops a command: one clear line.
+class CommandError : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+/// Options of both commands.
+struct SteeringOptions {
+  std::optional<std::string> ProfileFile;
+  TrackMode Mode = TrackMode::Track;
+  TrackSide Side = TrackSide::Apparent;
+  bool Trace = false;
+};
+
+/// A helm on memory ports. Collects what the latest line or tick made it say.
+class Steering final : private HelmView {
+ public:
+  /// Reads the profile; throws CommandError where it cannot be read. `simulate` overrides the profile's.
+  Steering(const SteeringOptions& options, bool simulate, std::uint64_t seed);
+
+  /// Starts in Setup.
+  void Start();
+  /// Goes on to the mode of the options, through Manual; throws CommandError when Track is refused.
+  void EnterMode();
+
+  /// Feeds one line as one receive event; the carriage return is added.
+  void Line(const std::string& line);
+  /// One second of the simulator.
+  void Tick();
+
+  const Settings& Set() const { return m_settings; }
+  const InstrumentData& Data() const { return m_helm.Data(); }
+  double TrackIntegral() const { return m_helm.Loop().TrackIntegral(); }
+
+  // Of the latest line or tick.
+
+  const std::string& Status() const { return m_status; }
+  bool Used() const { return m_used; }
+  const std::optional<std::string>& Error() const { return m_error; }
+  /// The autopilot sentence, without its line end; "" for none.
+  const std::string& PilotSentence() const { return m_pilotSentence; }
+  struct Deltas {
+    float Apparent = 0.0F;
+    float True = 0.0F;
+  };
+  /// The errors of the control step, where one ran [deg].
+  const std::optional<Deltas>& Delta() const { return m_delta; }
+
+ private:
+  void Forget();
+
+  void OnInputStatus(std::string_view text) override { m_status = text; }
+  void OnNmeaData(std::string_view /*line*/, bool used) override { m_used = used; }
+  void OnNmeaError(std::string_view text) override { m_error = text; }
+  void OnPilotData(std::string_view sentence) override { m_pilotSentence = sentence; }
+  void OnDelta(float apparent, float trueWind) override { m_delta = Deltas{apparent, trueWind}; }
+  void OnTrackRefused(std::string_view reason) override { m_refused = reason; }
+
+  TrackMode m_mode;
+  Settings m_settings;
+  MemoryPort m_nmeaPort;
+  MemoryPort m_pilotPort;
+  IdleTimer m_timer;
+  SeededRandom m_random;
+  Helm m_helm;
+  std::string m_bytes;
+
+  std::string m_status;
+  bool m_used = false;
+  std::optional<std::string> m_error;
+  std::string m_pilotSentence;
+  std::optional<Deltas> m_delta;
+  std::string m_refused;
+};
+
+}  // namespace veerwatch

@@ -1,0 +1,130 @@
+// veerwatch-cli: the core on the command line, for scripts and for looking at recorded passages.
+
+#include <CLI/CLI.hpp>
+#include <exception>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <set>
+#include <string>
+
+#include "cli/Replay.h"
+#include "cli/Simulate.h"
+
+namespace {
+
+using veerwatch::TrackMode;
+using veerwatch::TrackSide;
+
+constexpr int kExitBadCall = 2;
+constexpr long kMostSteps = 1000000000L;
+
+/// The names of what --mode and --track choose.
+const std::map<std::string, TrackMode> kModes{
+    {"setup", TrackMode::Setup}, {"manual", TrackMode::Manual}, {"track", TrackMode::Track}};
+const std::map<std::string, TrackSide> kSides{{"apparent", TrackSide::Apparent}, {"true", TrackSide::True}};
+
+/// Options that both commands have, as they stand on the command line.
+struct SteeringArguments {
+  veerwatch::SteeringOptions Options;
+  std::string Mode = "track";
+  std::string Side = "apparent";
+
+  void AddTo(CLI::App& command, const std::set<std::string>& modes) {
+    command
+        .add_option("--profile", Options.ProfileFile, "Profile with the settings; without one, the defaults")
+        ->type_name("FILE");
+    command.add_option("--mode", Mode, "Tracking mode (default track)")
+        ->check(CLI::IsMember(modes))
+        ->type_name("MODE");
+    command.add_option("--track", Side, "Wind angle that is held (default apparent)")
+        ->check(CLI::IsMember({"apparent", "true"}))
+        ->type_name("SIDE");
+    command.add_flag("--trace", Options.Trace, "One JSON object a line instead");
+  }
+
+  veerwatch::SteeringOptions Taken() const {
+    veerwatch::SteeringOptions taken = Options;
+    taken.Mode = kModes.at(Mode);
+    taken.Side = kSides.at(Side);
+    return taken;
+  }
+};
+
+void RunReplay(const veerwatch::ReplayOptions& options, const std::string& file) {
+  if (file.empty()) {
+    veerwatch::Replay(options, std::cin, std::cout);
+    return;
+  }
+  std::ifstream log(file, std::ios::binary);
+  if (!log.is_open() || (log.peek(), log.bad())) {
+    throw veerwatch::CommandError("cannot read " + file);
+  }
+  log.clear();
+  veerwatch::Replay(options, log, std::cout);
+}
+
+int Run(int argc, char** argv) {
+  std::ios::sync_with_stdio(false);
+  CLI::App app("Steers by recorded or simulated instruments and shows what the autopilot would be told.",
+               "veerwatch-cli");
+  app.set_version_flag("--version", "veerwatch-cli " VEERWATCH_VERSION);
+  app.require_subcommand(1);
+
+  veerwatch::ReplayOptions replay;
+  std::string file;
+  bool raw = false;
+  CLI::App* replayCommand =
+      app.add_subcommand("replay", "Feed recorded sentences, print the autopilot sentences");
+  SteeringArguments replaySteering;
+  replaySteering.AddTo(*replayCommand, {"setup", "manual", "track"});
+  replayCommand
+      ->add_option("--setup-steps", replay.SetupSteps, "Control steps in Setup before the mode (default 0)")
+      ->check(CLI::Range(0L, kMostSteps))
+      ->type_name("N");
+  replayCommand->add_flag("--raw", raw, "Bytes as on the wire: only a carriage return ends a line");
+  replayCommand->add_option("FILE", file, "The log; standard input without one");
+
+  veerwatch::SimulateOptions simulate;
+  CLI::App* simulateCommand = app.add_subcommand("simulate", "Run the simulator and the loop, a line a tick");
+  SteeringArguments simulateSteering;
+  simulateSteering.AddTo(*simulateCommand, {"manual", "track"});
+  simulateCommand->add_option("--ticks", simulate.Ticks, "Seconds to sail (default 60)")
+      ->check(CLI::Range(0L, kMostSteps))
+      ->type_name("N");
+  simulateCommand->add_option("--seed", simulate.Seed, "Seed of the noise (default 1)")->type_name("S");
+  simulateCommand->add_flag("--realtime", simulate.RealTime, "A tick a second");
+
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::Success& success) {
+    return app.exit(success);
+  } catch (const CLI::ParseError& error) {
+    std::cerr << "veerwatch-cli: " << error.what() << '\n';
+    return kExitBadCall;
+  }
+  replay.Steer = replaySteering.Taken();
+  simulate.Steer = simulateSteering.Taken();
+  replay.Ends = raw ? veerwatch::LineEnds::CarriageReturn : veerwatch::LineEnds::Any;
+  if (*replayCommand) {
+    RunReplay(replay, file);
+  } else {
+    veerwatch::Simulate(simulate, std::cout);
+  }
+  std::cout.flush();
+  if (!std::cout) {
+    throw veerwatch::CommandError("cannot write to standard output");
+  }
+  return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return Run(argc, argv);
+  } catch (const std::exception& error) {
+    std::cerr << "veerwatch-cli: " << error.what() << '\n';
+    return kExitBadCall;
+  }
+}
