@@ -1,0 +1,82 @@
+// The figures that docs/performance.md keeps.
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <vector>
+
+#include "bench/Allocations.h"
+#include "bench/Pass.h"
+#include "bench/SampleLines.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr int kLines = 20000;
+
+/// Lines per second from bytes to decoded values.
+void BytesToValues(benchmark::State& state) {
+  const std::string bytes = SampleLines(kLines);
+  std::uint64_t lines = 0;
+  for (auto _ : state) {
+    const PassResult result = DecodePass(bytes);
+    lines += result.Lines;
+    benchmark::DoNotOptimize(result.Accumulated);
+  }
+  state.SetItemsProcessed(static_cast<std::int64_t>(lines));
+}
+BENCHMARK(BytesToValues);
+
+/// Lines per second from bytes to autopilot sentences, in Track mode; half of the lines are wind sentences.
+/// Counts the heap allocations per line once everything has its size.
+void BytesToPilot(benchmark::State& state) {
+  const std::string bytes = SampleLines(kLines);
+  PathPass path;
+  path.Run(bytes);
+  std::uint64_t lines = 0;
+  const std::uint64_t before = AllocationCount();
+  for (auto _ : state) {
+    lines += path.Run(bytes).Lines;
+  }
+  const std::uint64_t allocations = AllocationCount() - before;
+  state.SetItemsProcessed(static_cast<std::int64_t>(lines));
+  state.counters["allocations_per_line"] = static_cast<double>(allocations) / static_cast<double>(lines);
+}
+BENCHMARK(BytesToPilot);
+
+/// From the carriage return of a wind sentence to the finished text for the autopilot: the median and the
+/// 99th percentile of many single ones [us].
+void WindToPilot(benchmark::State& state) {
+  const std::string bytes = SampleLines(kLines);
+  const std::string wind = WindLine();
+  const std::string_view start = std::string_view(wind).substr(0, wind.size() - 2);
+  PathPass path;
+  path.Run(bytes);
+  std::vector<double> times;
+  times.reserve(4000000);
+  for (auto _ : state) {
+    path.Arrive(start);
+    const std::uint64_t sentences = path.Sentences();
+    const auto begin = std::chrono::steady_clock::now();
+    path.Arrive("\r");
+    const std::chrono::duration<double, std::micro> time = std::chrono::steady_clock::now() - begin;
+    if (path.Sentences() != sentences + 1) {
+      state.SkipWithError("no autopilot sentence");
+      break;
+    }
+    times.push_back(time.count());
+  }
+  if (times.empty()) {
+    return;
+  }
+  std::sort(times.begin(), times.end());
+  state.counters["median_us"] = times[times.size() / 2];
+  state.counters["p99_us"] = times[times.size() * 99 / 100];
+}
+BENCHMARK(WindToPilot)->Iterations(1000000);
+
+}  // namespace
+
+}  // namespace veerwatch
