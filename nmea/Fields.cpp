@@ -4,17 +4,18 @@ namespace veerwatch {
 
 Fields::Fields(std::string_view line) {
   constexpr std::size_t kFirstComma = 6;
-  if (line.find(',') != kFirstComma) {
+  if (line.substr(0, kFirstComma + 1).find(',') != kFirstComma) {
     return;
   }
   std::size_t start = kFirstComma + 1;
-  for (std::size_t comma = line.find(',', start); comma != std::string_view::npos;
-       comma = line.find(',', start)) {
-    if (m_count < kKept) {
-      m_fields[m_count] = line.substr(start, comma - start);
+  for (std::size_t at = start; at < line.size(); ++at) {
+    if (line[at] == ',') {
+      if (m_count < kKept) {
+        m_fields[m_count] = line.substr(start, at - start);
+      }
+      ++m_count;
+      start = at + 1;
     }
-    ++m_count;
-    start = comma + 1;
   }
   std::string_view last = line.substr(start);
   const std::size_t star = last.find('*');
