@@ -1,32 +1,15 @@
 #include "instruments/InstrumentRecord.h"
 
-#include <cmath>
-
 #include "instruments/MathLib.h"
 
 namespace veerwatch {
 
 namespace {
 
-/// One filter step that starts over from the sample where the filter has run out of range.
-void SmoothValue(float sample, float count, float& average) {
-  AverageValue(sample, count, average);
-  if (!std::isfinite(average)) {
-    average = sample;
-  }
-}
-
-void SmoothRelative(float sample, float count, float& average) {
-  AverageAngleRelative(sample, count, average);
-  if (!std::isfinite(average)) {
-    average = sample;
-  }
-}
-
-void SmoothAbsolute(float sample, float count, float& average) {
+/// One filter step that keeps the average below 360 where a value just below 0 was rounded up to it.
+void AverageBearing(float sample, float count, float& average) {
   AverageAngleAbsolute(sample, count, average);
-  // The sample where the filter has run out of range; 0 where a value just below 0 was rounded up to 360.
-  average = std::isfinite(average) ? (average == 360.0F ? 0.0F : average) : sample;
+  average = average == 360.0F ? 0.0F : average;
 }
 
 }  // namespace
@@ -44,7 +27,7 @@ void InstrumentRecord::Restart() {
 void InstrumentRecord::HeadingUpdate(float Heading) {
   const float folded = FoldBearing(static_cast<double>(Heading));
   if (m_data.HeadingValid) {
-    SmoothAbsolute(folded, m_settings.m_fNmeaTrueWindAverage, m_data.HeadingAverage);
+    AverageBearing(folded, m_settings.m_fNmeaTrueWindAverage, m_data.HeadingAverage);
   } else {
     m_data.HeadingValid = true;
     m_data.HeadingAverage = Heading;
@@ -55,7 +38,7 @@ void InstrumentRecord::HeadingUpdate(float Heading) {
 
 void InstrumentRecord::BoatSpeedUpdate(float BoatSpeed) {
   if (m_data.BoatSpeedValid) {
-    SmoothValue(BoatSpeed, m_settings.m_fNmeaTrueWindAverage, m_data.BoatSpeedAverage);
+    AverageValue(BoatSpeed, m_settings.m_fNmeaTrueWindAverage, m_data.BoatSpeedAverage);
   } else {
     m_data.BoatSpeedValid = true;
     m_data.BoatSpeedAverage = BoatSpeed;
@@ -80,8 +63,8 @@ void InstrumentRecord::WindApparentUpdate(float WindAngle, float WindSpeed, bool
   const float angle = FoldRelative(static_cast<double>(WindAngle));
   if (m_data.WindApparentValid) {
     const float count = m_settings.m_fNmeaTrueWindAverage;
-    SmoothRelative(angle, count, m_data.WindAngleApparentAverage);
-    SmoothValue(WindSpeed, count, m_data.WindSpeedApparentAverage);
+    AverageAngleRelative(angle, count, m_data.WindAngleApparentAverage);
+    AverageValue(WindSpeed, count, m_data.WindSpeedApparentAverage);
   } else {
     m_data.WindApparentValid = true;
     m_data.WindAngleApparentAverage = angle;
@@ -96,9 +79,7 @@ void InstrumentRecord::WindApparentUpdate(float WindAngle, float WindSpeed, bool
     float trueAngle = 0.0F;
     WindTrueFromApparent(m_data.WindSpeedApparentAverage, m_data.WindAngleApparentAverage,
                          m_data.BoatSpeedAverage, trueSpeed, trueAngle);
-    if (std::isfinite(trueSpeed) && std::isfinite(trueAngle)) {
-      WindTrueUpdate(trueAngle, trueSpeed, false);
-    }
+    WindTrueUpdate(trueAngle, trueSpeed, false);
   }
 }
 
@@ -106,8 +87,8 @@ void InstrumentRecord::WindTrueUpdate(float WindAngle, float WindSpeed, bool Ave
   const float angle = FoldRelative(static_cast<double>(WindAngle));
   if (Average && m_data.WindTrueValid) {
     const float count = m_settings.m_fNmeaTrueWindAverage;
-    SmoothRelative(angle, count, m_data.WindAngleTrue);
-    SmoothValue(WindSpeed, count, m_data.WindSpeedTrue);
+    AverageAngleRelative(angle, count, m_data.WindAngleTrue);
+    AverageValue(WindSpeed, count, m_data.WindSpeedTrue);
   } else {
     m_data.WindTrueValid = true;
     m_data.WindAngleTrue = angle;
@@ -125,8 +106,8 @@ void InstrumentRecord::WindIndicatorUpdate() {
     m_data.WindSpeedAverage = m_data.WindSpeedTrue;
   } else {
     const float count = m_settings.m_fNmeaWindIndicatorAverage;
-    SmoothAbsolute(FoldBearing(direction), count, m_data.WindDirectionAverage);
-    SmoothValue(m_data.WindSpeedTrue, count, m_data.WindSpeedAverage);
+    AverageBearing(FoldBearing(direction), count, m_data.WindDirectionAverage);
+    AverageValue(m_data.WindSpeedTrue, count, m_data.WindSpeedAverage);
   }
   m_listener.OnWindIndicator(m_data.WindDirectionAverage, m_data.WindSpeedAverage);
 }

@@ -1,5 +1,6 @@
 #include "instruments/MathLib.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -55,10 +56,7 @@ float FoldRelative(double Angle) {
 
 float ToSingle(double value) {
   constexpr double kLargest = static_cast<double>(std::numeric_limits<float>::max());
-  if (value > kLargest || value < -kLargest) {
-    return value > 0.0 ? std::numeric_limits<float>::infinity() : -std::numeric_limits<float>::infinity();
-  }
-  return static_cast<float>(value);
+  return static_cast<float>(std::clamp(value, -kLargest, kLargest));
 }
 
 void AverageAngleRelative(float NewAngle, float Count, float& Average) {

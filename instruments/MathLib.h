@@ -25,7 +25,8 @@ float FoldBearing(double Angle);
 /// Folds any finite angle into (-180, 180] and narrows it.
 float FoldRelative(double Angle);
 
-/// Narrows to single precision; what is beyond the range of a single becomes an infinity.
+/// Narrows to single precision; what is beyond the range of a single becomes the largest single of its sign,
+/// so that finite values stay finite.
 float ToSingle(double value);
 
 /// One step of a first-order filter over unit vectors: the new sample weighs 1 / Count, the old average the
@@ -36,7 +37,7 @@ void AverageAngleRelative(float NewAngle, float Count, float& Average);
 /// The same with the average in [0, 360).
 void AverageAngleAbsolute(float NewAngle, float Count, float& Average);
 
-/// The same for plain values. With a Count below 1 the average may overflow: callers keep what is finite.
+/// The same for plain values.
 void AverageValue(float NewValue, float Count, float& Average);
 
 /// Adds the boat's motion to the true wind. Speeds [kn]; angles [deg relative, positive from starboard];

@@ -63,12 +63,9 @@ void Simulator::SimulateTime(float Time, float& TimeWaypointBearing, float& Time
     const double bearing = static_cast<double>(m_waypointBearing) * kRadiansPerDegree;
     const double X = static_cast<double>(m_waypointRange) * std::cos(bearing) - run * std::cos(course);
     const double Y = static_cast<double>(m_waypointRange) * std::sin(bearing) - run * std::sin(course);
-    const float range = ToSingle(std::sqrt(std::pow(X, 2.0) + std::pow(Y, 2.0)));
-    if (std::isfinite(range)) {
-      m_waypointRange = range;
-      m_waypointBearing = ToSingle(Atan2(X, Y) / kRadiansPerDegree);
-      m_settings.m_fSimulateTime = Time;
-    }
+    m_waypointRange = ToSingle(std::sqrt(std::pow(X, 2.0) + std::pow(Y, 2.0)));
+    m_waypointBearing = ToSingle(Atan2(X, Y) / kRadiansPerDegree);
+    m_settings.m_fSimulateTime = Time;
   }
   TimeWaypointBearing = m_waypointBearing;
   TimeWaypointRange = m_waypointRange;
