@@ -25,8 +25,10 @@ struct Scanned {
   int Decimals = 0;          ///< how many of them stand behind the point
 };
 
-/// Reads an optional sign, digits with an optional point, and an exponent where it is whole.
-Scanned ScanNumber(std::string_view text) {
+enum class Exponent { Read, Ignored };
+
+/// Reads an optional sign, digits with an optional point, and an exponent where it is whole and wanted.
+Scanned ScanNumber(std::string_view text, Exponent wanted) {
   Scanned scanned;
   std::size_t at = 0;
   if (at < text.size() && (text[at] == '+' || text[at] == '-')) {
@@ -55,7 +57,7 @@ Scanned ScanNumber(std::string_view text) {
   if (digits == 0) {
     return {};
   }
-  if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
+  if (wanted == Exponent::Read && at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
     std::size_t exponent = at + 1;
     if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) {
       ++exponent;
@@ -213,18 +215,18 @@ std::string ShortestText(float value) {
 
 std::optional<float> StrictNumber(std::string_view text) {
   const std::string_view trimmed = Trim(text);
-  const Scanned scanned = ScanNumber(trimmed);
+  const Scanned scanned = ScanNumber(trimmed, Exponent::Read);
   return scanned.Text.empty() || scanned.End != trimmed.size() ? std::nullopt : ToFloat(scanned);
 }
 
 std::optional<double> StrictDouble(std::string_view text) {
   const std::string_view trimmed = Trim(text);
-  const Scanned scanned = ScanNumber(trimmed);
+  const Scanned scanned = ScanNumber(trimmed, Exponent::Read);
   return scanned.Text.empty() || scanned.End != trimmed.size() ? std::nullopt : Convert<double>(scanned);
 }
 
 float LeadingNumber(std::string_view text) {
-  const Scanned scanned = ScanNumber(Trim(text));
+  const Scanned scanned = ScanNumber(Trim(text), Exponent::Ignored);
   return scanned.Text.empty() ? 0.0F : ToFloat(scanned).value_or(0.0F);
 }
 
