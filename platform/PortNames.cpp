@@ -3,7 +3,7 @@
 namespace veerwatch {
 
 std::string PortDevice(const Profile& profile, int number) {
-  const std::string device = profile.Text("Ports", std::to_string(number));
+  std::string device = profile.Text("Ports", std::to_string(number));
   if (!device.empty()) {
     return device;
   }
