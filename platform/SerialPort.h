@@ -24,7 +24,7 @@ std::string CommEventText(int commEvent);
 class SerialPort {
  public:
   /// Whoever owns a port hears of its events here. Calls come from the event loop, never from inside a
-  /// call into the port.
+  /// call into the port, PollLineErrors apart.
   class Events {
    public:
     virtual ~Events() = default;
@@ -55,7 +55,8 @@ class SerialPort {
   /// takes the place of any that waits behind it. Without effect on a closed port.
   virtual void Output(std::string_view sentence) = 0;
 
-  /// Asks the driver for line errors since the last time and raises an event for each kind that occurred.
+  /// Asks the driver for line errors since the last time and raises an event, at once, for each kind that
+  /// occurred. The port itself asks behind every receive event.
   virtual void PollLineErrors() = 0;
 };
 

@@ -1,0 +1,219 @@
+#include "platform/SerialPortQt.h"
+
+#include <QFile>
+#include <QObject>
+#include <filesystem>
+#include <system_error>
+
+#include "platform/LineErrorCountersLinux.h"
+#include "platform/PortNames.h"
+
+#ifdef Q_OS_UNIX
+#include <sys/ioctl.h>
+#include <termios.h>
+#endif
+
+namespace veerwatch {
+
+namespace {
+
+constexpr qint64 kLargestUnread = 64 * 1024;  // [bytes]
+constexpr int kOfferAgain = 100;              // [ms]
+constexpr int kLookAgain = 20;                // [ms], about ten characters at 4800 baud
+
+/// The device to open, free of links, so that two names of one device meet at the same lock; "" for anything
+/// that is no character device.
+QString DeviceFile(std::string device) {
+#ifdef Q_OS_UNIX
+  if (device.find('/') == std::string::npos) {
+    device.insert(0, "/dev/");
+  }
+  std::error_code error;
+  const std::filesystem::path file = std::filesystem::canonical(device, error);
+  if (error || !std::filesystem::is_character_file(file, error) || error) {
+    return {};
+  }
+  return QFile::decodeName(file.c_str());
+#else
+  return QString::fromStdString(device);
+#endif
+}
+
+/// True while the driver holds characters that have not left, where it can tell.
+bool DriverBusy(const QSerialPort& port) {
+#ifdef Q_OS_UNIX
+  int waiting = 0;
+  return ::ioctl(port.handle(), TIOCOUTQ, &waiting) == 0 && waiting > 0;
+#else
+  static_cast<void>(port);
+  return false;
+#endif
+}
+
+}  // namespace
+
+SerialPortQt::SerialPortQt(const Profile& profile) : m_profile(profile), m_slot(*this) {
+  m_port.setBaudRate(QSerialPort::Baud4800);
+  m_port.setDataBits(QSerialPort::Data8);
+  m_port.setParity(QSerialPort::NoParity);
+  m_port.setStopBits(QSerialPort::OneStop);
+  m_port.setFlowControl(QSerialPort::NoFlowControl);
+  m_port.setReadBufferSize(kLargestUnread);
+  for (QTimer* timer : {&m_offerTimer, &m_loseTimer, &m_pumpTimer}) {
+    timer->setSingleShot(true);
+  }
+  // Events wait for the loop: Qt swallows readyRead inside readyRead, and closing inside errorOccurred takes
+  // the notifier away under its own feet.
+  QObject::connect(&m_port, &QSerialPort::readyRead, &m_port, [this] { m_offerTimer.start(0); });
+  QObject::connect(&m_port, &QSerialPort::bytesWritten, &m_port, [this] { Pump(); });
+  QObject::connect(&m_port, &QSerialPort::errorOccurred, &m_port,
+                   [this](QSerialPort::SerialPortError error) { ErrorOccurred(error); });
+  QObject::connect(&m_offerTimer, &QTimer::timeout, &m_port, [this] { Offer(); });
+  QObject::connect(&m_loseTimer, &QTimer::timeout, &m_port, [this] { Lose(); });
+  QObject::connect(&m_pumpTimer, &QTimer::timeout, &m_port, [this] { Pump(); });
+}
+
+SerialPortQt::~SerialPortQt() { Close(); }
+
+void SerialPortQt::CommPort(int number) {
+  if (!m_open) {
+    m_number = number;
+  }
+}
+
+bool SerialPortQt::PortOpen(bool open) {
+  if (open && !m_open) {
+    return Open();
+  }
+  if (!open) {
+    Close();
+  }
+  return true;
+}
+
+bool SerialPortQt::Open() {
+  const QString device = DeviceFile(PortDevice(m_profile, m_number));
+  if (device.isEmpty()) {
+    return false;
+  }
+  m_port.setPortName(device);
+  if (!m_port.open(QIODevice::ReadWrite)) {
+    return false;
+  }
+  m_open = true;
+#ifdef Q_OS_UNIX
+  m_counters = std::make_unique<LineErrorCountersLinux>(m_port.handle());
+#endif
+  m_lineErrors.Restart();
+  PollLineErrors();
+  return true;
+}
+
+void SerialPortQt::Close() {
+  if (!m_open) {
+    return;
+  }
+  m_open = false;
+  m_offerTimer.stop();
+  m_loseTimer.stop();
+  m_pumpTimer.stop();
+  m_slot.Clear();
+  m_counters.reset();
+  m_port.clear();
+  m_port.close();
+}
+
+void SerialPortQt::Input(std::string& text) {
+  text.clear();
+  while (const qint64 waiting = m_open ? m_port.bytesAvailable() : 0) {
+    // One more than there is: only a read that runs dry makes the port listen again after its buffer was
+    // full.
+    const std::size_t held = text.size();
+    text.resize(held + static_cast<std::size_t>(waiting) + 1);
+    const qint64 read = m_port.read(text.data() + held, waiting + 1);
+    text.resize(held + static_cast<std::size_t>(read > 0 ? read : 0));
+    if (read <= 0) {
+      break;
+    }
+  }
+}
+
+void SerialPortQt::Output(std::string_view sentence) {
+  if (m_open) {
+    m_slot.Put(sentence);
+    Pump();
+  }
+}
+
+bool SerialPortQt::Busy() { return m_port.bytesToWrite() > 0 || DriverBusy(m_port); }
+
+void SerialPortQt::Write(std::string_view sentence) {
+  m_port.write(sentence.data(), static_cast<qint64>(sentence.size()));
+}
+
+void SerialPortQt::Pump() {
+  m_slot.Pump();
+  // While Qt still holds characters bytesWritten calls again; nothing tells when the driver has sent its own.
+  if (m_slot.Waiting() && m_port.bytesToWrite() == 0) {
+    m_pumpTimer.start(kLookAgain);
+  }
+}
+
+void SerialPortQt::PollLineErrors() {
+  if (!m_counters) {
+    return;
+  }
+  for (const int commEvent : m_lineErrors.Poll(*m_counters)) {
+    if (m_open) {
+      Raise(commEvent);
+    }
+  }
+}
+
+void SerialPortQt::Offer() {
+  if (!m_open || m_port.bytesAvailable() == 0) {
+    return;
+  }
+  ++m_offering;
+  Raise(CommEvent::kReceive);
+  --m_offering;
+  if (m_offering > 0 || !m_open) {
+    return;
+  }
+  PollLineErrors();
+  if (m_open && m_port.bytesAvailable() > 0 && !m_offerTimer.isActive()) {
+    m_offerTimer.start(kOfferAgain);
+  }
+}
+
+void SerialPortQt::ErrorOccurred(QSerialPort::SerialPortError error) {
+  switch (error) {
+    case QSerialPort::NoError:
+    case QSerialPort::TimeoutError:
+    case QSerialPort::UnsupportedOperationError:  // pseudo terminals have no modem lines
+      return;
+    default:
+      if (m_open) {
+        m_loseTimer.start(0);
+      }
+  }
+}
+
+void SerialPortQt::Lose() {
+  Offer();
+  if (!m_open) {
+    return;
+  }
+  Close();
+  if (m_events != nullptr) {
+    m_events->OnPortLost();
+  }
+}
+
+void SerialPortQt::Raise(int commEvent) {
+  if (m_events != nullptr) {
+    m_events->OnComm(commEvent);
+  }
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,71 @@
+// The real serial port. It needs a running event loop, from which it raises its events.
+//
+// Opening takes the device that the profile names at that moment, through any links to it, and takes only
+// character devices; one that is missing, busy, locked or no serial device at all just does not open. A
+// device that goes away closes the port. Characters that the owner leaves unread are offered again after a
+// while. At most 64 KiB wait unread in the port; then the driver's own buffer fills.
+#pragma once
+
+#include <QSerialPort>
+#include <QTimer>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "platform/LineErrors.h"
+#include "platform/OutputSlot.h"
+#include "platform/Profile.h"
+#include "platform/SerialPort.h"
+
+namespace veerwatch {
+
+class SerialPortQt final : public SerialPort, private OutputSlot::Line {
+ public:
+  /// `profile` outlives the port.
+  explicit SerialPortQt(const Profile& profile);
+  ~SerialPortQt() override;
+
+  SerialPortQt(const SerialPortQt&) = delete;
+  SerialPortQt& operator=(const SerialPortQt&) = delete;
+
+  void Connect(Events* events) override { m_events = events; }
+
+  void CommPort(int number) override;
+  int CommPort() const override { return m_number; }
+
+  bool PortOpen() const override { return m_open; }
+  /// Closing drops what is unread and unsent, also in the driver, so that it never waits for a stuck line.
+  bool PortOpen(bool open) override;
+
+  void Input(std::string& text) override;
+  void Output(std::string_view sentence) override;
+  void PollLineErrors() override;
+
+ private:
+  bool Busy() override;
+  void Write(std::string_view sentence) override;
+
+  bool Open();
+  void Close();
+  void ErrorOccurred(QSerialPort::SerialPortError error);
+  void Offer();
+  void Lose();
+  void Pump();
+  void Raise(int commEvent);
+
+  const Profile& m_profile;
+  Events* m_events = nullptr;
+  int m_number = 1;
+  bool m_open = false;
+  int m_offering = 0;  ///< receive events that are being handled, one inside the other
+  QSerialPort m_port;
+  QTimer m_offerTimer;
+  QTimer m_loseTimer;
+  QTimer m_pumpTimer;
+  OutputSlot m_slot;
+  std::unique_ptr<LineErrorCounters> m_counters;
+  LineErrorWatch m_lineErrors;
+};
+
+}  // namespace veerwatch
