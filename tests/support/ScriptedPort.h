@@ -1,0 +1,117 @@
+// A serial port in memory: the test queues what arrives, scripts whether it opens, and reads what was
+// written.
+#pragma once
+
+#include <deque>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/SerialPort.h"
+
+namespace veerwatch {
+
+class ScriptedPort final : public SerialPort {
+ public:
+  // What the test sees.
+
+  std::vector<std::string> Written;  ///< each sentence that was handed to the open port
+  std::vector<int> OpenedNumbers;    ///< the number at every try to open a closed port
+  int OutputWhileClosed = 0;         ///< sentences handed to the closed port
+  int Polls = 0;                     ///< calls of PollLineErrors
+  int Inputs = 0;                    ///< calls of Input
+  std::string Waiting;               ///< characters that have arrived and wait to be read
+
+  // What the test scripts.
+
+  std::deque<bool> OpenResults;        ///< results of the next tries to open; then OpensOtherwise
+  bool OpensOtherwise = true;          ///< result of a try to open behind the scripted ones
+  std::vector<int> LineErrorsWaiting;  ///< events that the next PollLineErrors raises
+
+  /// Characters arrive and the receive event is raised.
+  void Receive(std::string_view bytes) {
+    Waiting.append(bytes);
+    Raise(CommEvent::kReceive);
+  }
+
+  /// Raises the port's one event.
+  void Raise(int commEvent) {
+    if (m_events != nullptr) {
+      m_events->OnComm(commEvent);
+    }
+  }
+
+  /// The device goes away: the port closes itself and says so.
+  void Lose() {
+    m_open = false;
+    if (m_events != nullptr) {
+      m_events->OnPortLost();
+    }
+  }
+
+  /// All that was written since the last call, one text.
+  std::string TakeWritten() {
+    std::string all;
+    for (const std::string& sentence : std::exchange(Written, {})) {
+      all += sentence;
+    }
+    return all;
+  }
+
+  bool Connected() const { return m_events != nullptr; }
+
+  // The port.
+
+  void Connect(Events* events) override { m_events = events; }
+  void CommPort(int number) override {
+    if (!m_open) {
+      m_number = number;
+    }
+  }
+  int CommPort() const override { return m_number; }
+  bool PortOpen() const override { return m_open; }
+  bool PortOpen(bool open) override {
+    if (open && !m_open) {
+      OpenedNumbers.push_back(m_number);
+      m_open = NextOpenResult();
+      return m_open;
+    }
+    m_open = open;
+    return true;
+  }
+  void Input(std::string& text) override {
+    ++Inputs;
+    text.assign(Waiting);
+    Waiting.clear();
+  }
+  void Output(std::string_view sentence) override {
+    if (m_open) {
+      Written.emplace_back(sentence);
+    } else {
+      ++OutputWhileClosed;
+    }
+  }
+  void PollLineErrors() override {
+    ++Polls;
+    for (const int commEvent : std::exchange(LineErrorsWaiting, {})) {
+      Raise(commEvent);
+    }
+  }
+
+ private:
+  bool NextOpenResult() {
+    if (OpenResults.empty()) {
+      return OpensOtherwise;
+    }
+    const bool result = OpenResults.front();
+    OpenResults.pop_front();
+    return result;
+  }
+
+  Events* m_events = nullptr;
+  int m_number = 0;
+  bool m_open = false;
+};
+
+}  // namespace veerwatch
