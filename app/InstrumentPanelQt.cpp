@@ -1,0 +1,270 @@
+#include "app/InstrumentPanelQt.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <algorithm>
+#include <initializer_list>
+#include <utility>
+
+namespace veerwatch {
+
+namespace {
+
+constexpr QSize kDesignSize(1160, 640);
+constexpr qreal kCardRadius = 12.0;
+const QColor kAlarmColour(255, 128, 128);
+
+// The widest usual texts.
+constexpr const char* kBearingPattern = "000";
+constexpr const char* kFineBearingPattern = "000.0";
+constexpr const char* kAnglePattern = "-000";
+constexpr const char* kFineAnglePattern = "-000.0";
+constexpr const char* kSpeedPattern = "00.0";
+
+QRect Rounded(const PanelBox& box) { return QRectF(box.X, box.Y, box.Width, box.Height).toAlignedRect(); }
+
+QString Element(const char* array, int index) {
+  return QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(index);
+}
+
+QFont Sized(const QFont& font, double pixels, QFont::Weight weight) {
+  QFont sized(font);
+  sized.setPixelSize(std::max(1, static_cast<int>(pixels)));
+  sized.setWeight(weight);
+  return sized;
+}
+
+}  // namespace
+
+InstrumentPanelQt::InstrumentPanelQt(QWidget* parent) : QWidget(parent), m_theme(palette()) {
+  setObjectName(QStringLiteral("InstrumentPanel"));
+  lblHeading = NewValue("lblHeading", kBearingPattern, "Heading (M)");
+  lblBoatSpeed = NewValue("lblBoatSpeed", kSpeedPattern, "Boat Speed (Kts)");
+  lblWaypointBearing = NewValue("lblWaypointBearing", kBearingPattern, "Waypoint Bearing (M)");
+  lblAppWindAngle = NewValue("lblAppWindAngle", kAnglePattern, "App Wind Angle (R)");
+  lblAppWindSpeed = NewValue("lblAppWindSpeed", kSpeedPattern, "App Wind Speed (Kts)");
+  lblTrueWindAngle = NewValue("lblTrueWindAngle", kAnglePattern, "True Wind Angle (R)");
+  lblTrueWindSpeed = NewValue("lblTrueWindSpeed", kSpeedPattern, "True Wind Speed (Kts)");
+
+  lblAutoPilot = NewCaption("lblAutoPilot", "AutoPilot Bearing");
+  txtAutoPilot = NewEntry("txtAutoPilot", kFineBearingPattern, "AutoPilot Bearing");
+  lblAutoPilot->setBuddy(txtAutoPilot);
+  optControl = {new SideOptionQt(Element("optControl", 1), QStringLiteral("Track Apparent Wind Angle"), this),
+                new SideOptionQt(Element("optControl", 2), QStringLiteral("Track True Wind Angle"), this)};
+  optControl[0]->setChecked(true);
+  lblDesired = {NewCaption("lblDesired(1)", "Desired App Wind Angle (R)"),
+                NewCaption("lblDesired(2)", "Desired True Wind Angle (R)")};
+  txtDesired = {NewEntry("txtDesired(1)", kAnglePattern, "Desired App Wind Angle (R)"),
+                NewEntry("txtDesired(2)", kAnglePattern, "Desired True Wind Angle (R)")};
+  lblDelta = {NewValue("lblDelta(1)", kFineAnglePattern, "Delta (deg)"),
+              NewValue("lblDelta(2)", kFineAnglePattern, "Delta (deg)")};
+  for (int index = 1; index <= 2; ++index) {
+    const auto at = static_cast<std::size_t>(index - 1);
+    cmdAutoPilot[at] = NewNudge("cmdAutoPilot", index);
+    cmdDesiredApp[at] = NewNudge("cmdDesiredApp", index);
+    cmdDesiredTrue[at] = NewNudge("cmdDesiredTrue", index);
+    lblDesired[at]->setBuddy(txtDesired[at]);
+  }
+  OrderTabs();
+  ApplyTheme();
+}
+
+ValueLabelQt* InstrumentPanelQt::NewValue(const char* name, const char* pattern, const char* caption) {
+  auto* label = new ValueLabelQt(QLatin1String(name), QLatin1String(pattern), this);
+  label->setAccessibleName(QLatin1String(caption));
+  NewCaption("", caption)->setObjectName(label->objectName() + QStringLiteral(".Caption"));
+  return label;
+}
+
+CaptionQt* InstrumentPanelQt::NewCaption(const char* name, const char* text) {
+  return new CaptionQt(QLatin1String(name), QLatin1String(text), this);
+}
+
+EntryBoxQt* InstrumentPanelQt::NewEntry(const char* name, const char* pattern, const char* description) {
+  auto* box = new EntryBoxQt(QLatin1String(name), QLatin1String(pattern), this);
+  box->setAccessibleName(QLatin1String(description));
+  return box;
+}
+
+NudgeButtonQt* InstrumentPanelQt::NewNudge(const char* array, int index) {
+  auto* button = new NudgeButtonQt(Element(array, index), index == 2, this);
+  button->setToolTip(index == 2 ? QStringLiteral("One degree to starboard (Alt+Right)")
+                                : QStringLiteral("One degree to port (Alt+Left)"));
+  return button;
+}
+
+void InstrumentPanelQt::OrderTabs() {
+  QWidget* before = nullptr;
+  for (QWidget* control : std::initializer_list<QWidget*>{
+           optControl[0], txtDesired[0], cmdDesiredApp[0], cmdDesiredApp[1], optControl[1], txtDesired[1],
+           cmdDesiredTrue[0], cmdDesiredTrue[1], txtAutoPilot, cmdAutoPilot[0], cmdAutoPilot[1]}) {
+    if (before != nullptr) {
+      setTabOrder(before, control);
+    }
+    before = control;
+  }
+}
+
+void InstrumentPanelQt::BlankValues() {
+  for (ValueLabelQt* label : {lblHeading, lblBoatSpeed, lblWaypointBearing, lblAppWindAngle, lblAppWindSpeed,
+                              lblTrueWindAngle, lblTrueWindSpeed}) {
+    label->clear();
+  }
+}
+
+void InstrumentPanelQt::Enable(const TrackControls& controls, TrackMode mode, TrackSide side) {
+  txtAutoPilot->setEnabled(controls.AutoPilot);
+  const std::array<bool, 2> desired{controls.DesiredApparent, controls.DesiredTrue};
+  for (std::size_t i = 0; i < desired.size(); ++i) {
+    cmdAutoPilot[i]->setEnabled(controls.AutoPilot);
+    optControl[i]->setEnabled(controls.Side);
+    txtDesired[i]->setEnabled(desired[i]);
+    lblDesired[i]->setEnabled(desired[i]);
+    lblDelta[i]->setEnabled(desired[i]);
+    cmdDesiredApp[i]->setEnabled(controls.NudgeApparent);
+    cmdDesiredTrue[i]->setEnabled(controls.NudgeTrue);
+  }
+  lblAppWindAngle->setEnabled(controls.DesiredApparent);
+  lblTrueWindAngle->setEnabled(controls.DesiredTrue);
+  m_mode = mode;
+  m_side = side;
+  update();
+}
+
+void InstrumentPanelQt::ShowAlarm(TrackSide side) {
+  lblDelta[static_cast<std::size_t>(side) - 1]->BackColour(kAlarmColour);
+}
+
+void InstrumentPanelQt::HideAlarm() {
+  for (ValueLabelQt* label : lblDelta) {
+    label->BackColour(QColor());
+  }
+}
+
+QSize InstrumentPanelQt::sizeHint() const { return kDesignSize; }
+
+void InstrumentPanelQt::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  Place();
+}
+
+void InstrumentPanelQt::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) {
+    ApplyTheme();
+  } else if (event->type() == QEvent::FontChange) {
+    Place();
+  }
+}
+
+void InstrumentPanelQt::Place() {
+  m_layout = LayPanel(std::max(1, width()), std::max(1, height()));
+  const QFont captions = Sized(font(), m_layout.CaptionText, QFont::Normal);
+  const QFont buttons = Sized(font(), m_layout.ButtonText, QFont::Bold);
+  const QFont figures = Sized(font(), 1.0, QFont::Normal);
+
+  const auto place = [](QWidget* control, const PanelBox& box, const QFont& textFont) {
+    control->setGeometry(Rounded(box));
+    if (control->font() != textFont) {
+      control->setFont(textFont);
+    }
+  };
+  using Group = std::initializer_list<std::pair<ValueLabelQt*, const PanelLayout::Readout*>>;
+  // Figures of a group stand in one size.
+  const auto placeValues = [&](const Group& group, int most) {
+    int height = most;
+    for (const auto& [label, readout] : group) {
+      height = std::min(height, FittingTextHeight(figures, label->Pattern(), Rounded(readout->Value).size()));
+    }
+    for (const auto& [label, readout] : group) {
+      label->setGeometry(Rounded(readout->Value));
+      label->TextHeight(height);
+      auto* caption = findChild<QLabel*>(label->objectName() + QStringLiteral(".Caption"));
+      place(caption, readout->Caption, captions);
+    }
+    return height;
+  };
+  const auto placeEntry = [&](EntryBoxQt* box, CaptionQt* caption, const PanelLayout::Readout& readout) {
+    place(caption, readout.Caption, captions);
+    const QRect area = Rounded(readout.Value);
+    box->setGeometry(area);
+    // Room for the frame and the cursor.
+    const QSize inside(area.width() - 16, area.height() - 6);
+    const int height = FittingTextHeight(figures, box->Pattern(), inside * 0.92);
+    place(box, readout.Value, Sized(font(), height, QFont::Normal));
+  };
+
+  const PanelLayout::Wind& app = m_layout.Winds[0];
+  const PanelLayout::Wind& trueWind = m_layout.Winds[1];
+  const int most = std::max(1, height());
+  const int winds = placeValues({{lblAppWindAngle, &app.Angle},
+                                 {lblAppWindSpeed, &app.Speed},
+                                 {lblTrueWindAngle, &trueWind.Angle},
+                                 {lblTrueWindSpeed, &trueWind.Speed}},
+                                most);
+  placeValues({{lblHeading, &m_layout.Heading.Value},
+               {lblBoatSpeed, &m_layout.BoatSpeed.Value},
+               {lblWaypointBearing, &m_layout.Waypoint.Value}},
+              winds + winds / 5);
+  placeValues({{lblDelta[0], &app.Delta}, {lblDelta[1], &trueWind.Delta}}, most);
+  placeEntry(txtDesired[0], lblDesired[0], app.Desired);
+  placeEntry(txtDesired[1], lblDesired[1], trueWind.Desired);
+  placeEntry(txtAutoPilot, lblAutoPilot, m_layout.AutoPilot.Bearing);
+
+  for (std::size_t i = 0; i < m_layout.Winds.size(); ++i) {
+    place(optControl[i], m_layout.Winds[i].Option, buttons);
+  }
+  place(cmdDesiredApp[0], app.Port, buttons);
+  place(cmdDesiredApp[1], app.Starboard, buttons);
+  place(cmdDesiredTrue[0], trueWind.Port, buttons);
+  place(cmdDesiredTrue[1], trueWind.Starboard, buttons);
+  const QFont narrow = Sized(font(), m_layout.ButtonText * 0.8, QFont::Bold);
+  place(cmdAutoPilot[0], m_layout.AutoPilot.Port, narrow);
+  place(cmdAutoPilot[1], m_layout.AutoPilot.Starboard, narrow);
+  update();
+}
+
+void InstrumentPanelQt::ApplyTheme() {
+  m_theme = ThemeQt(palette());
+  for (QObject* child : children()) {
+    if (auto* value = dynamic_cast<ValueLabelQt*>(child)) {
+      value->Colours(m_theme.Text, m_theme.Dimmed);
+    } else if (auto* caption = dynamic_cast<CaptionQt*>(child)) {
+      caption->Colours(m_theme.Caption, m_theme.Dimmed);
+    } else if (auto* nudge = dynamic_cast<NudgeButtonQt*>(child)) {
+      nudge->Theme(m_theme);
+    } else if (auto* option = dynamic_cast<SideOptionQt*>(child)) {
+      option->Theme(m_theme);
+    } else if (auto* box = dynamic_cast<EntryBoxQt*>(child)) {
+      QPalette colours = palette();
+      colours.setColor(QPalette::Base, m_theme.Field);
+      colours.setColor(QPalette::Text, m_theme.Text);
+      colours.setColor(QPalette::Disabled, QPalette::Base, m_theme.Card);
+      colours.setColor(QPalette::Disabled, QPalette::Text, m_theme.Dimmed);
+      box->setPalette(colours);
+    }
+  }
+  update();
+}
+
+void InstrumentPanelQt::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.fillRect(rect(), m_theme.Window);
+  const auto card = [&](const PanelBox& box, bool chosen) {
+    const QColor edge = m_mode == TrackMode::Track ? m_theme.Mode(m_mode).Fill : m_theme.Accent;
+    painter.setPen(chosen ? QPen(edge, 2.5) : QPen(m_theme.Edge, 1.0));
+    painter.setBrush(m_theme.Card);
+    painter.drawRoundedRect(QRectF(box.X, box.Y, box.Width, box.Height).adjusted(1.0, 1.0, -1.0, -1.0),
+                            kCardRadius, kCardRadius);
+  };
+  const bool answers = m_mode != TrackMode::Off && m_mode != TrackMode::Switching;
+  card(m_layout.Winds[0].Card, answers && m_side == TrackSide::Apparent);
+  card(m_layout.Winds[1].Card, answers && m_side == TrackSide::True);
+  card(m_layout.Heading.Card, false);
+  card(m_layout.BoatSpeed.Card, false);
+  card(m_layout.Waypoint.Card, false);
+  card(m_layout.AutoPilot.Card, false);
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,72 @@
+// The middle of the main window: every value, entry box, nudge and option, on cards that scale with the
+// panel. Made and driven by frmMain; it knows no values of its own.
+#pragma once
+
+#include <QWidget>
+#include <array>
+
+#include "app/PanelControlsQt.h"
+#include "app/PanelLayout.h"
+#include "control/TrackMode.h"
+#include "control/TrackModes.h"
+
+namespace veerwatch {
+
+class InstrumentPanelQt final : public QWidget {
+ public:
+  /// The members of a control array stand at [index - 1].
+  template <class Control>
+  using ControlArray = std::array<Control*, 2>;
+
+  explicit InstrumentPanelQt(QWidget* parent);
+
+  ValueLabelQt* lblHeading;
+  ValueLabelQt* lblBoatSpeed;
+  ValueLabelQt* lblWaypointBearing;
+  ValueLabelQt* lblAppWindAngle;
+  ValueLabelQt* lblAppWindSpeed;
+  ValueLabelQt* lblTrueWindAngle;
+  ValueLabelQt* lblTrueWindSpeed;
+
+  CaptionQt* lblAutoPilot;
+  EntryBoxQt* txtAutoPilot;
+  ControlArray<NudgeButtonQt> cmdAutoPilot;
+
+  ControlArray<SideOptionQt> optControl;
+  ControlArray<CaptionQt> lblDesired;
+  ControlArray<EntryBoxQt> txtDesired;
+  ControlArray<ValueLabelQt> lblDelta;
+  ControlArray<NudgeButtonQt> cmdDesiredApp;
+  ControlArray<NudgeButtonQt> cmdDesiredTrue;
+
+  /// Empties the seven value labels.
+  void BlankValues();
+  /// Enables what answers, and marks the card of the chosen side.
+  void Enable(const TrackControls& controls, TrackMode mode, TrackSide side);
+  /// Colours the delta of `side` for an alarm.
+  void ShowAlarm(TrackSide side);
+  void HideAlarm();
+
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  ValueLabelQt* NewValue(const char* name, const char* pattern, const char* caption);
+  CaptionQt* NewCaption(const char* name, const char* text);
+  EntryBoxQt* NewEntry(const char* name, const char* pattern, const char* description);
+  NudgeButtonQt* NewNudge(const char* array, int index);
+  void OrderTabs();
+  void Place();
+  void ApplyTheme();
+
+  ThemeQt m_theme;
+  PanelLayout m_layout;
+  TrackMode m_mode = TrackMode::Switching;
+  TrackSide m_side = TrackSide::Apparent;
+};
+
+}  // namespace veerwatch

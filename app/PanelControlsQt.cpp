@@ -1,0 +1,286 @@
+#include "app/PanelControlsQt.h"
+
+#include <QEvent>
+#include <QFocusEvent>
+#include <QFontMetricsF>
+#include <QKeyEvent>
+#include <QPainter>
+#include <algorithm>
+
+namespace veerwatch {
+
+namespace {
+
+constexpr qreal kRadius = 8.0;
+/// Part of a box's height that the figures may fill.
+constexpr qreal kFillHeight = 0.86;
+constexpr qreal kFillWidth = 0.96;
+/// A font size [px] to measure with.
+constexpr int kMeasureSize = 200;
+
+/// Width of `text` with figures of equal width.
+qreal TabularWidth(const QFontMetricsF& metrics, const QString& text) {
+  const qreal digit = metrics.horizontalAdvance(QLatin1Char('0'));
+  qreal width = 0.0;
+  for (const QChar character : text) {
+    width += character.isDigit() ? digit : metrics.horizontalAdvance(character);
+  }
+  return width;
+}
+
+void DrawTabular(QPainter& painter, QPointF baseline, const QString& text) {
+  const QFontMetricsF metrics(painter.font(), painter.device());
+  const qreal digit = metrics.horizontalAdvance(QLatin1Char('0'));
+  for (const QChar character : text) {
+    const qreal advance = metrics.horizontalAdvance(character);
+    const qreal cell = character.isDigit() ? digit : advance;
+    painter.drawText(baseline + QPointF((cell - advance) / 2.0, 0.0), QString(character));
+    baseline.rx() += cell;
+  }
+}
+
+void PaintFocus(QPainter& painter, const QRectF& box, const QColor& colour) {
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(colour, 2.0));
+  painter.drawRoundedRect(box.adjusted(3.0, 3.0, -3.0, -3.0), kRadius - 2.0, kRadius - 2.0);
+}
+
+}  // namespace
+
+int FittingTextHeight(const QFont& font, const QString& pattern, const QSize& box) {
+  QFont measured(font);
+  measured.setPixelSize(kMeasureSize);
+  const QFontMetricsF metrics(measured);
+  const qreal byHeight = box.height() * kFillHeight / metrics.capHeight();
+  const qreal byWidth = box.width() * kFillWidth / TabularWidth(metrics, pattern);
+  return std::max(1, static_cast<int>(kMeasureSize * std::min(byHeight, byWidth)));
+}
+
+// ValueLabelQt
+
+ValueLabelQt::ValueLabelQt(const QString& name, const QString& pattern, QWidget* parent)
+    : QLabel(parent), m_pattern(pattern) {
+  setObjectName(name);
+  setTextFormat(Qt::PlainText);
+}
+
+void ValueLabelQt::TextHeight(int pixels) {
+  QFont figures = font();
+  figures.setPixelSize(pixels);
+  setFont(figures);
+}
+
+void ValueLabelQt::Colours(const QColor& text, const QColor& dimmed) {
+  m_text = text;
+  m_dimmed = dimmed;
+  update();
+}
+
+void ValueLabelQt::BackColour(const QColor& colour) {
+  m_alarm = colour.isValid();
+  if (m_alarm) {
+    QPalette alarm;
+    alarm.setColor(backgroundRole(), colour);
+    setPalette(alarm);
+  } else {
+    setPalette(QPalette());
+  }
+}
+
+void ValueLabelQt::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  if (m_alarm) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().color(backgroundRole()));
+    painter.drawRoundedRect(QRectF(rect()), kRadius, kRadius);
+  }
+  const QString shown = text();
+  QFont figures = font();
+  QFontMetricsF metrics(figures);
+  qreal textWidth = TabularWidth(metrics, shown);
+  if (textWidth > width()) {
+    figures.setPixelSize(std::max(1, static_cast<int>(figures.pixelSize() * width() / textWidth)));
+    metrics = QFontMetricsF(figures);
+    textWidth = TabularWidth(metrics, shown);
+  }
+  const qreal right = std::max(textWidth, (width() + TabularWidth(metrics, m_pattern)) / 2.0);
+  painter.setFont(figures);
+  painter.setPen(m_alarm ? QColor(Qt::black) : isEnabled() ? m_text : m_dimmed);
+  DrawTabular(painter, {std::min<qreal>(right, width()) - textWidth, (height() + metrics.capHeight()) / 2.0},
+              shown);
+}
+
+// CaptionQt
+
+CaptionQt::CaptionQt(const QString& name, const QString& text, QWidget* parent) : QLabel(text, parent) {
+  setObjectName(name);
+  setTextFormat(Qt::PlainText);
+}
+
+void CaptionQt::Colours(const QColor& text, const QColor& dimmed) {
+  m_text = text;
+  m_dimmed = dimmed;
+  update();
+}
+
+QSize CaptionQt::sizeHint() const { return {0, fontMetrics().height()}; }
+
+void CaptionQt::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setPen(isEnabled() ? m_text : m_dimmed);
+  painter.drawText(rect(), static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine,
+                   fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+}
+
+// EntryBoxQt
+
+EntryBoxQt::EntryBoxQt(const QString& name, const QString& pattern, QWidget* parent)
+    : QLineEdit(parent), m_pattern(pattern) {
+  setObjectName(name);
+  setAlignment(Qt::AlignCenter);
+}
+
+void EntryBoxQt::Follow(const QString& text) {
+  if (!(hasFocus() && Edited())) {
+    Show(text);
+  }
+}
+
+void EntryBoxQt::Show(const QString& text) {
+  m_shown = text;
+  if (this->text() != text) {
+    const bool selected = hasSelectedText();
+    setText(text);
+    if (selected) {
+      selectAll();
+    }
+  }
+  setModified(false);
+}
+
+void EntryBoxQt::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    m_taken();
+    event->accept();
+    return;
+  }
+  QLineEdit::keyPressEvent(event);
+}
+
+void EntryBoxQt::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  const bool leaves =
+      event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
+  if (leaves && Edited()) {
+    m_taken();
+  }
+}
+
+// NudgeButtonQt
+
+NudgeButtonQt::NudgeButtonQt(const QString& name, bool toStarboard, QWidget* parent)
+    : QPushButton(toStarboard ? QStringLiteral("To Starboard") : QStringLiteral("To Port"), parent),
+      m_toStarboard(toStarboard),
+      m_theme(palette()) {
+  setObjectName(name);
+  setAttribute(Qt::WA_Hover);
+}
+
+void NudgeButtonQt::Theme(const ThemeQt& theme) {
+  m_theme = theme;
+  update();
+}
+
+bool NudgeButtonQt::event(QEvent* event) {
+  if (event->type() == QEvent::EnabledChange || event->type() == QEvent::FocusIn ||
+      event->type() == QEvent::FocusOut) {
+    update();
+  }
+  return QPushButton::event(event);
+}
+
+void NudgeButtonQt::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const ThemeQt::Pair pair = m_toStarboard ? m_theme.Starboard : m_theme.Port;
+  const QRectF box = QRectF(rect()).adjusted(1.0, 1.0, -1.0, -1.0);
+  QColor fill = pair.Fill;
+  QColor text = pair.Text;
+  if (!isEnabled()) {
+    fill = Mixed(m_theme.Card, pair.Fill, 0.12);
+    text = m_theme.Dimmed;
+    painter.setPen(QPen(Mixed(m_theme.Card, pair.Fill, 0.55), 1.5));
+  } else {
+    if (isDown()) {
+      fill = fill.darker(130);
+    } else if (underMouse()) {
+      fill = Mixed(fill, Qt::white, 0.12);
+    }
+    painter.setPen(Qt::NoPen);
+  }
+  painter.setBrush(fill);
+  painter.drawRoundedRect(box, kRadius, kRadius);
+  if (hasFocus()) {
+    PaintFocus(painter, box, text);
+  }
+
+  const QFontMetricsF metrics(font());
+  const qreal arrow = metrics.capHeight();
+  const qreal gap = arrow * 0.7;
+  const qreal room = width() - arrow - gap - arrow;
+  const QString caption = metrics.elidedText(this->text(), Qt::ElideRight, room);
+  const qreal captionWidth = metrics.horizontalAdvance(caption);
+  const qreal left = (width() - captionWidth - gap - arrow) / 2.0;
+  const qreal middle = height() / 2.0;
+  const qreal arrowLeft = m_toStarboard ? left + captionWidth + gap : left;
+  const qreal tip = m_toStarboard ? arrowLeft + arrow : arrowLeft;
+  const qreal foot = m_toStarboard ? arrowLeft : arrowLeft + arrow;
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(isEnabled() ? text : Mixed(m_theme.Card, pair.Fill, 0.75));
+  painter.drawPolygon(QPolygonF(
+      {QPointF(tip, middle), QPointF(foot, middle - arrow * 0.6), QPointF(foot, middle + arrow * 0.6)}));
+  painter.setPen(text);
+  painter.setFont(font());
+  painter.drawText(QPointF(m_toStarboard ? left : left + arrow + gap, middle + metrics.capHeight() / 2.0),
+                   caption);
+}
+
+// SideOptionQt
+
+SideOptionQt::SideOptionQt(const QString& name, const QString& text, QWidget* parent)
+    : QRadioButton(text, parent), m_theme(palette()) {
+  setObjectName(name);
+}
+
+void SideOptionQt::Theme(const ThemeQt& theme) {
+  m_theme = theme;
+  update();
+}
+
+void SideOptionQt::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QFontMetricsF metrics(font());
+  const qreal size = metrics.capHeight() * 1.5;
+  const QRectF ring(2.0, (height() - size) / 2.0, size, size);
+  const QColor mark = isEnabled() ? m_theme.Accent : m_theme.Dimmed;
+  painter.setPen(QPen(isChecked() ? mark : m_theme.Dimmed, std::max(1.5, size * 0.13)));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawEllipse(ring);
+  if (isChecked()) {
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(mark);
+    painter.drawEllipse(ring.adjusted(size * 0.27, size * 0.27, -size * 0.27, -size * 0.27));
+  }
+  const qreal left = ring.right() + size * 0.5;
+  const QString caption = metrics.elidedText(text(), Qt::ElideRight, width() - left);
+  painter.setFont(font());
+  painter.setPen(isEnabled() && isChecked() ? m_theme.Text : m_theme.Dimmed);
+  painter.drawText(QPointF(left, (height() + metrics.capHeight()) / 2.0), caption);
+  if (hasFocus()) {
+    PaintFocus(painter, QRectF(rect()).adjusted(-2.0, -2.0, 2.0, 2.0), m_theme.Accent);
+  }
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,131 @@
+// The kinds of controls that the instrument panel is made of. Each keeps what the toolkit's own control
+// offers to programs and to keyboards, and paints itself for reading from a distance. Their texts never
+// change their size.
+#pragma once
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <functional>
+
+#include "app/ThemeQt.h"
+
+namespace veerwatch {
+
+/// The height [px] that digits of `pattern` may have so that it fits into `box`.
+int FittingTextHeight(const QFont& font, const QString& pattern, const QSize& box);
+
+/// A number in large figures of equal width, so that a changing value does not dance. A text wider than the
+/// label is drawn smaller.
+class ValueLabelQt final : public QLabel {
+ public:
+  ValueLabelQt(const QString& name, const QString& pattern, QWidget* parent);
+
+  /// The widest usual text; texts stand at the right of its place in the middle of the label.
+  const QString& Pattern() const { return m_pattern; }
+  void TextHeight(int pixels);
+  /// Text colour, and text colour while disabled.
+  void Colours(const QColor& text, const QColor& dimmed);
+  /// A back colour for an alarm, with a text that is legible on it; an invalid colour takes it back.
+  void BackColour(const QColor& colour);
+
+  QSize minimumSizeHint() const override { return {0, 0}; }
+  QSize sizeHint() const override { return {0, 0}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QString m_pattern;
+  QColor m_text;
+  QColor m_dimmed;
+  bool m_alarm = false;
+};
+
+/// A line of small text, cut at the end where it is too long.
+class CaptionQt final : public QLabel {
+ public:
+  CaptionQt(const QString& name, const QString& text, QWidget* parent);
+
+  void Colours(const QColor& text, const QColor& dimmed);
+
+  QSize minimumSizeHint() const override { return {0, 0}; }
+  QSize sizeHint() const override;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QColor m_text;
+  QColor m_dimmed;
+};
+
+/// A box for one number. Enter takes the text and goes no further; leaving the box takes a text that was
+/// edited.
+class EntryBoxQt final : public QLineEdit {
+ public:
+  EntryBoxQt(const QString& name, const QString& pattern, QWidget* parent);
+
+  const QString& Pattern() const { return m_pattern; }
+  /// Who takes the text.
+  void Taken(std::function<void()> handler) { m_taken = std::move(handler); }
+
+  /// Shows a value that comes from the program; while the user is typing he is left alone.
+  void Follow(const QString& text);
+  /// Shows a value in place of whatever was typed.
+  void Show(const QString& text);
+
+  QSize minimumSizeHint() const override { return {0, 0}; }
+  QSize sizeHint() const override { return {0, 0}; }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  bool Edited() const { return isModified() || text() != m_shown; }
+
+  QString m_pattern;
+  QString m_shown;
+  std::function<void()> m_taken;
+};
+
+/// A push button of one degree to port (red, arrow to the left) or to starboard (green, arrow to the right).
+class NudgeButtonQt final : public QPushButton {
+ public:
+  NudgeButtonQt(const QString& name, bool toStarboard, QWidget* parent);
+
+  void Theme(const ThemeQt& theme);
+
+  QSize minimumSizeHint() const override { return {0, 0}; }
+  QSize sizeHint() const override { return {0, 0}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  bool event(QEvent* event) override;
+
+ private:
+  bool m_toStarboard;
+  ThemeQt m_theme;
+};
+
+/// One of the option pair, as the heading of its card.
+class SideOptionQt final : public QRadioButton {
+ public:
+  SideOptionQt(const QString& name, const QString& text, QWidget* parent);
+
+  void Theme(const ThemeQt& theme);
+
+  QSize minimumSizeHint() const override { return {0, 0}; }
+  QSize sizeHint() const override { return {0, 0}; }
+
+ protected:
+  bool hitButton(const QPoint& position) const override { return rect().contains(position); }
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  ThemeQt m_theme;
+};
+
+}  // namespace veerwatch

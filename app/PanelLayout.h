@@ -1,0 +1,64 @@
+// Where everything stands on the instrument panel: pure arithmetic from the panel's size, so that any size
+// gives places that neither overlap nor leave the panel. Used by InstrumentPanelQt. Standard library only.
+#pragma once
+
+#include <array>
+
+namespace veerwatch {
+
+/// A rectangle [px]; the origin is the panel's upper left corner.
+struct PanelBox {
+  double X = 0.0;
+  double Y = 0.0;
+  double Width = 0.0;
+  double Height = 0.0;
+};
+
+struct PanelLayout {
+  /// A value with its caption above it.
+  struct Readout {
+    PanelBox Caption;
+    PanelBox Value;
+  };
+
+  /// The card of one wind: what is measured above, what is held below.
+  struct Wind {
+    PanelBox Card;
+    PanelBox Option;
+    Readout Angle;
+    Readout Speed;
+    Readout Desired;
+    Readout Delta;
+    PanelBox Port;
+    PanelBox Starboard;
+  };
+
+  struct Instrument {
+    PanelBox Card;
+    Readout Value;
+  };
+
+  /// The card of the autopilot bearing.
+  struct Pilot {
+    PanelBox Card;
+    Readout Bearing;
+    PanelBox Port;
+    PanelBox Starboard;
+  };
+
+  std::array<Wind, 2> Winds;  ///< apparent, true
+  Instrument Heading;
+  Instrument BoatSpeed;
+  Instrument Waypoint;
+  Pilot AutoPilot;
+
+  double Margin = 0.0;       ///< between cards and to the panel's edge [px]
+  double CaptionText = 0.0;  ///< height of caption texts [px], at least 6
+  double ButtonText = 0.0;   ///< height of texts on buttons and options [px], at least 6
+};
+
+/// The places for a panel of `width` by `height` [px, above 0]. A wide panel has the winds side by side above
+/// one row of instruments, a tall one has everything in two columns.
+PanelLayout LayPanel(double width, double height);
+
+}  // namespace veerwatch

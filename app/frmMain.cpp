@@ -1,0 +1,364 @@
+#include "app/frmMain.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QScreen>
+#include <QShortcut>
+#include <QStatusBar>
+#include <cstdio>
+
+#include "app/IconsQt.h"
+#include "instruments/CompassPoint.h"
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr int kTimerInterval = 1000;  // [ms]
+constexpr QSize kDefaultSize(1160, 760);
+constexpr QSize kSmallestSize(320, 220);
+/// Part of the screen that the window takes at most.
+constexpr double kScreenShare = 0.96;
+
+QString Text(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString Number(float value, std::string_view pattern) { return Text(FormatNumber(value, pattern)); }
+
+void ShowText(QLabel& label, const QString& text) {
+  if (label.text() != text) {
+    label.setText(text);
+  }
+}
+
+constexpr std::size_t At(int index) { return static_cast<std::size_t>(index - 1); }
+
+/// The change that a nudge button asks for [deg, positive to starboard].
+constexpr float NudgeOf(int index) { return index == 2 ? 1.0F : -1.0F; }
+
+}  // namespace
+
+frmMain::frmMain(const MainWindowParts& parts)
+    : m_parts(parts),
+      m_menu(*this),
+      m_tbrTrack(new frmMainModeBar(*this)),
+      m_panel(new InstrumentPanelQt(this)),
+      m_helm(*this, parts.MSCommNmea, parts.MSCommPilot, parts.tmrNmea, parts.Random, *this) {
+  setObjectName(QStringLiteral("frmMain"));
+  setWindowTitle(QString::fromLatin1(kApplicationTitle));
+  setWindowIcon(ProgramIcon());
+  setCentralWidget(m_panel);
+  setMinimumSize(kSmallestSize);
+  QSize size = kDefaultSize;
+  if (const QScreen* display = screen()) {
+    size = size.boundedTo(display->availableSize() * kScreenShare);
+  }
+  resize(size);
+  MakeStatusBar();
+  ConnectControls();
+  ConnectKeys();
+  ApplyTheme();
+  m_parts.tmrNmea.Interval(kTimerInterval);
+  m_parts.tmrUnload.Interval(kTimerInterval);
+}
+
+void frmMain::MakeStatusBar() {
+  auto* bar = new QStatusBar(this);
+  bar->setObjectName(QStringLiteral("StatusBar"));
+  const std::array<const char*, 3> toolTips{"Pilot Status", "Input Data Status", "Output Data Status"};
+  for (std::size_t i = 0; i < m_status.size(); ++i) {
+    auto* panel = new CaptionQt(QStringLiteral("StatusBar(%1)").arg(i + 1), QString(), bar);
+    panel->setToolTip(QLatin1String(toolTips[i]));
+    panel->setAccessibleName(QLatin1String(toolTips[i]));
+    panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    bar->addWidget(panel, 1);
+    m_status[i] = panel;
+  }
+  setStatusBar(bar);
+}
+
+void frmMain::ConnectControls() {
+  connect(m_menu.mnuFileDefault, &QAction::triggered, this, [this] { ProfileRecall(false); });
+  connect(m_menu.mnuFileExit, &QAction::triggered, this, &QWidget::close);
+  for (const TrackMode mode : {TrackMode::Off, TrackMode::Setup, TrackMode::Manual, TrackMode::Track}) {
+    connect(m_tbrTrack->Button(mode), &QAction::triggered, this,
+            [this, mode] { tbrTrack_ButtonClick(mode); });
+  }
+  m_panel->txtAutoPilot->Taken([this] { txtAutoPilot_Taken(); });
+  for (int index = 1; index <= 2; ++index) {
+    m_panel->txtDesired[At(index)]->Taken([this, index] { txtDesired_Taken(index); });
+    connect(m_panel->optControl[At(index)], &QRadioButton::toggled, this, [this, index](bool checked) {
+      if (checked) {
+        optControl_Click(index);
+      }
+    });
+    connect(m_panel->cmdAutoPilot[At(index)], &QPushButton::clicked, this,
+            [this, index] { cmdAutoPilot_Click(index); });
+    for (const NudgeButtonQt* button :
+         {m_panel->cmdDesiredApp[At(index)], m_panel->cmdDesiredTrue[At(index)]}) {
+      connect(button, &QPushButton::clicked, this, [this, index] { cmdDesired_Click(index); });
+    }
+  }
+}
+
+void frmMain::ConnectKeys() {
+  for (const auto& [key, index] : {std::pair{Qt::Key_Left, 1}, std::pair{Qt::Key_Right, 2}}) {
+    auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | key), this);
+    connect(shortcut, &QShortcut::activated, this, [this, pressed = index] { NudgeKey(pressed); });
+  }
+}
+
+void frmMain::ApplyTheme() {
+  const ThemeQt theme(palette());
+  m_tbrTrack->Theme(theme);
+  for (QLabel* panel : m_status) {
+    static_cast<CaptionQt*>(panel)->Colours(theme.Text, theme.Dimmed);
+  }
+}
+
+void frmMain::Form_Load() { ProfileRecall(true); }
+
+void frmMain::ProfileRecall(bool recall) {
+  SettingsDefault(*this);
+  m_sProfileFile = m_parts.ProfileFile;
+  if (recall) {
+    if (m_parts.Store.Load(m_sProfileFile) == Profile::LoadResult::Unreadable) {
+      std::fprintf(stderr, "%s: cannot be read, defaults are used\n", m_sProfileFile.c_str());
+    }
+    ProfileRead(m_parts.Store, *this, *this);
+  }
+  m_panel->txtAutoPilot->Show(Number(m_fAutoPilot, "0.0"));
+  for (int index = 1; index <= 2; ++index) {
+    m_panel->txtDesired[At(index)]->Show(Number(DesiredAngle[static_cast<std::size_t>(index)], "0"));
+  }
+  TrackSetSetup();
+  if (m_bSimulate) {
+    TrackSetManual();
+  }
+}
+
+// The close
+
+void frmMain::CloseUnasked() {
+  m_ask = false;
+  if (QWidget* question = QApplication::activeModalWidget()) {
+    // The close that asks goes on behind its question.
+    question->close();
+    return;
+  }
+  close();
+}
+
+void frmMain::tmrUnload_Timer() {
+  m_parts.tmrUnload.Enabled(false);
+  close();
+}
+
+void frmMain::closeEvent(QCloseEvent* event) {
+  if (m_unloaded) {
+    event->accept();
+    return;
+  }
+  const bool tracking = m_tbrTrack->Button(TrackMode::Track)->isChecked();
+  if (m_ask && tracking &&
+      !m_parts.Asks.AskYesNo(std::string(kApplicationTitle) + " - Closing",
+                             "Veerwatch is current tracking the wind.\rDo you wish to stop tracking?") &&
+      m_ask) {
+    event->ignore();
+    return;
+  }
+  NmeaStop();
+  PilotStop();
+  if (m_helm.Receiver().Receiving()) {
+    m_ask = false;
+    m_parts.tmrUnload.Enabled(true);
+    event->ignore();
+    return;
+  }
+  ProfileWrite(m_parts.Store, *this, *this);
+  if (const auto failure = m_parts.Store.Commit(m_sProfileFile)) {
+    std::fprintf(stderr, "%s\n", failure->c_str());
+  }
+  m_unloaded = true;
+  event->accept();
+}
+
+void frmMain::resizeEvent(QResizeEvent* event) {
+  QMainWindow::resizeEvent(event);
+  m_tbrTrack->Fit(size());
+}
+
+void frmMain::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) {
+    ApplyTheme();
+  }
+}
+
+// What the user does
+
+void frmMain::tbrTrack_ButtonClick(TrackMode mode) {
+  switch (mode) {
+    case TrackMode::Off:
+      TrackSetOff();
+      break;
+    case TrackMode::Setup:
+      TrackSetSetup();
+      break;
+    case TrackMode::Manual:
+      TrackSetManual();
+      break;
+    case TrackMode::Track:
+      TrackSetTrack();
+      break;
+    case TrackMode::Switching:
+      break;
+  }
+}
+
+void frmMain::optControl_Click(int index) {
+  m_helm.Loop().Side(index == 2 ? TrackSide::True : TrackSide::Apparent);
+  ShowControls();
+  ShowModeText();
+}
+
+void frmMain::txtAutoPilot_Taken() {
+  m_helm.Loop().SetAutoPilot(static_cast<double>(LeadingNumber(m_panel->txtAutoPilot->text().toStdString())));
+  m_panel->txtAutoPilot->Show(Number(m_fAutoPilot, "0.0"));
+}
+
+void frmMain::txtDesired_Taken(int index) {
+  EntryBoxQt& box = *m_panel->txtDesired[At(index)];
+  m_helm.Loop().SetDesired(static_cast<TrackSide>(index),
+                           static_cast<double>(LeadingNumber(box.text().toStdString())));
+  box.Show(Number(DesiredAngle[static_cast<std::size_t>(index)], "0"));
+}
+
+void frmMain::cmdAutoPilot_Click(int index) {
+  if (m_eTrackMode == TrackMode::Track) {
+    TrackSteerTo(NudgeOf(index));
+    return;
+  }
+  m_helm.Loop().SetAutoPilot(static_cast<double>(m_fAutoPilot) + static_cast<double>(NudgeOf(index)));
+  m_panel->txtAutoPilot->Show(Number(m_fAutoPilot, "0.0"));
+}
+
+void frmMain::cmdDesired_Click(int index) { TrackSteerTo(NudgeOf(index)); }
+
+void frmMain::NudgeKey(int index) {
+  for (NudgeButtonQt* button : {m_panel->cmdAutoPilot[At(index)], m_panel->cmdDesiredApp[At(index)],
+                                m_panel->cmdDesiredTrue[At(index)]}) {
+    if (button->isEnabled()) {
+      button->click();
+      return;
+    }
+  }
+}
+
+// What the helm tells
+
+void frmMain::Panel(int index, const QString& text) { ShowText(*m_status[At(index)], text); }
+
+void frmMain::OnHeading(float heading) { ShowText(*m_panel->lblHeading, Number(heading, "0")); }
+
+void frmMain::OnBoatSpeed(float speed) { ShowText(*m_panel->lblBoatSpeed, Number(speed, "0.0")); }
+
+void frmMain::OnWaypoint(float /*range*/, float bearing) {
+  ShowText(*m_panel->lblWaypointBearing, Number(bearing, "0"));
+}
+
+void frmMain::OnWindApparent(float angle, float speed) {
+  ShowText(*m_panel->lblAppWindAngle, Number(angle, "0"));
+  ShowText(*m_panel->lblAppWindSpeed, Number(speed, "0.0"));
+}
+
+void frmMain::OnWindTrue(float angle, float speed) {
+  ShowText(*m_panel->lblTrueWindAngle, Number(angle, "0"));
+  ShowText(*m_panel->lblTrueWindSpeed, Number(speed, "0.0"));
+}
+
+void frmMain::OnWindIndicator(float direction, float speed) {
+  QString caption =
+      QStringLiteral("Wind ") + Text(CompassPointName(direction)) + QLatin1Char('@') + Number(speed, ".0");
+  if (m_parts.Asks.IsForeground()) {
+    caption.prepend(QString::fromLatin1(kApplicationTitle) + QStringLiteral(" - "));
+  }
+  if (windowTitle() != caption) {
+    setWindowTitle(caption);
+  }
+}
+
+void frmMain::OnValuesBlanked() { m_panel->BlankValues(); }
+
+void frmMain::OnInputStatus(std::string_view text) { Panel(kInputPanel, Text(text)); }
+
+void frmMain::OnOutputStatus(std::string_view text) { Panel(kOutputPanel, Text(text)); }
+
+void frmMain::OnDesired(float apparent, float trueWind) {
+  m_panel->txtDesired[0]->Follow(Number(apparent, "0"));
+  m_panel->txtDesired[1]->Follow(Number(trueWind, "0"));
+}
+
+void frmMain::OnDelta(float apparent, float trueWind) {
+  ShowText(*m_panel->lblDelta[0], Number(apparent, "0.0"));
+  ShowText(*m_panel->lblDelta[1], Number(trueWind, "0.0"));
+}
+
+void frmMain::OnAutoPilot(float bearing) { m_panel->txtAutoPilot->Follow(Number(bearing, "0.0")); }
+
+void frmMain::OnAlarm(TrackSide side, float error) {
+  m_parts.Asks.ToForeground();
+  m_panel->ShowAlarm(side);
+  m_parts.Asks.Beep();
+  Panel(kOutputPanel, QStringLiteral("Alarm Limit Exceeded ") + Number(error, "0"));
+}
+
+void frmMain::OnAlarmOver() {
+  m_panel->HideAlarm();
+  Panel(kOutputPanel, QString());
+}
+
+void frmMain::OnTrackMode(TrackMode mode) {
+  if (mode != TrackMode::Switching) {
+    m_tbrTrack->Button(mode)->setChecked(true);
+  }
+  ShowControls();
+  ShowModeText();
+}
+
+void frmMain::OnTrackRefused(std::string_view reason) { Panel(kPilotPanel, Text(reason)); }
+
+void frmMain::ShowControls() {
+  const TrackSide side = m_helm.Loop().Side();
+  m_panel->Enable(ControlsFor(m_eTrackMode, side), m_eTrackMode, side);
+}
+
+void frmMain::ShowModeText() {
+  QString text;
+  switch (m_eTrackMode) {
+    case TrackMode::Off:
+      text = QStringLiteral("Off");
+      break;
+    case TrackMode::Setup:
+      text = QStringLiteral("Initialize");
+      break;
+    case TrackMode::Manual:
+      text = QStringLiteral("Manual");
+      break;
+    case TrackMode::Track:
+      text = m_helm.Loop().Side() == TrackSide::Apparent ? QStringLiteral("Tracking Apparent Wind")
+                                                         : QStringLiteral("Tracking True Wind");
+      break;
+    case TrackMode::Switching:
+      break;
+  }
+  const bool needsInput = m_eTrackMode == TrackMode::Manual || m_eTrackMode == TrackMode::Track;
+  if (needsInput && !m_helm.Receiver().Started()) {
+    text += QStringLiteral(", Input Stopped");
+  }
+  Panel(kPilotPanel, text);
+}
+
+}  // namespace veerwatch

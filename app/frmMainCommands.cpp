@@ -1,0 +1,141 @@
+#include "app/frmMainCommands.h"
+
+#include <QActionGroup>
+#include <QMenu>
+#include <QMenuBar>
+#include <QWidget>
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "app/IconsQt.h"
+
+namespace veerwatch {
+
+namespace {
+
+struct ModeButton {
+  TrackMode Mode;
+  const char* Text;
+  const char* Icon;
+  const char* ToolTip;
+  Qt::Key Key;
+};
+
+constexpr std::array<ModeButton, 4> kModes{{
+    {TrackMode::Off, "Off", "off", "Off, Stop input and autopilot output", Qt::Key_F5},
+    {TrackMode::Setup, "Setup", "setup", "Setup, Set software to hardware autopilot heading", Qt::Key_F6},
+    {TrackMode::Manual, "Manual", "manual", "Manual, adjust autopilot heading for desired wind angle",
+     Qt::Key_F7},
+    {TrackMode::Track, "Track", "track", "Track, adjust desired wind angle to fine tuning", Qt::Key_F8},
+}};
+
+// Height of the mode texts [px] and the window that it is drawn for.
+constexpr double kTextHeight = 26.0;
+constexpr int kLeastTextHeight = 9;
+constexpr double kDesignWidth = 1160.0;
+constexpr double kDesignHeight = 760.0;
+
+/// A new command in `menu`.
+QAction* Command(QMainWindow& window, QMenu* menu, const char* name, const char* text, bool enabled) {
+  auto* action = new QAction(QLatin1String(text), &window);
+  action->setObjectName(QLatin1String(name));
+  action->setEnabled(enabled);
+  menu->addAction(action);
+  return action;
+}
+
+}  // namespace
+
+frmMainMenu::frmMainMenu(QMainWindow& window) {
+  QMenu* file = window.menuBar()->addMenu(QStringLiteral("&File"));
+  mnuFileDefault = Command(window, file, "mnuFileDefault", "&Default", true);
+  file->addSeparator();
+  mnuFileExit = Command(window, file, "mnuFileExit", "E&xit", true);
+  mnuFileExit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
+  mnuFileExit->setMenuRole(QAction::QuitRole);
+  QMenu* view = window.menuBar()->addMenu(QStringLiteral("&View"));
+  mnuViewDiagram = Command(window, view, "mnuViewDiagram", "&Block Diagram...", false);
+  mnuViewHistory = Command(window, view, "mnuViewHistory", "&History Plot...", false);
+  mnuViewPolar = Command(window, view, "mnuViewPolar", "&Polar Plot...", false);
+  QMenu* options = window.menuBar()->addMenu(QStringLiteral("&Options"));
+  mnuOptionsInput = Command(window, options, "mnuOptionsInput", "&Input...", false);
+  mnuOptionsData = Command(window, options, "mnuOptionsData", "&Data...", false);
+  mnuOptionsOutput = Command(window, options, "mnuOptionsOutput", "&Output...", false);
+  mnuOptionsTrack = Command(window, options, "mnuOptionsTrack", "&Tracking...", false);
+  mnuOptionsSimulate = Command(window, options, "mnuOptionsSimulate", "&Simulate...", false);
+  QMenu* help = window.menuBar()->addMenu(QStringLiteral("&Help"));
+  mnuHelpDiagram = Command(window, help, "mnuHelpDiagram", "&Block Diagram...", false);
+  mnuHelpAbout = Command(window, help, "mnuHelpAbout", "&About...", false);
+}
+
+frmMainModeBar::frmMainModeBar(QMainWindow& window) : QToolBar(&window), m_theme(window.palette()) {
+  setObjectName(QStringLiteral("tbrTrack"));
+  setWindowTitle(QStringLiteral("Tracking Mode"));
+  setMovable(false);
+  setContextMenuPolicy(Qt::PreventContextMenu);
+  setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  auto* group = new QActionGroup(this);
+  for (const ModeButton& mode : kModes) {
+    if (!m_buttons.empty()) {
+      addSeparator();
+    }
+    QAction* action = addAction(QLatin1String(mode.Text));
+    action->setObjectName(QStringLiteral("tbrTrack(%1)").arg(static_cast<int>(mode.Mode)));
+    action->setToolTip(QLatin1String(mode.ToolTip));
+    action->setShortcut(QKeySequence(mode.Key));
+    action->setCheckable(true);
+    group->addAction(action);
+    m_buttons[mode.Mode] = action;
+    QWidget* button = widgetForAction(action);
+    button->setProperty("mode", static_cast<int>(mode.Mode));
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  }
+  window.addToolBar(this);
+}
+
+void frmMainModeBar::Theme(const ThemeQt& theme) {
+  m_theme = theme;
+  for (const ModeButton& mode : kModes) {
+    Button(mode.Mode)->setIcon(ModeIcon(QLatin1String(mode.Icon), theme.Text, theme.Mode(mode.Mode).Text));
+  }
+  Dress();
+}
+
+void frmMainModeBar::Fit(const QSize& window) {
+  const double scale = std::min(window.width() / kDesignWidth, window.height() / kDesignHeight);
+  const int height = std::max(kLeastTextHeight, static_cast<int>(std::lround(kTextHeight * scale)));
+  if (height != m_textHeight) {
+    m_textHeight = height;
+    Dress();
+  }
+}
+
+void frmMainModeBar::Dress() {
+  const int icon = std::max(8, m_textHeight * 5 / 4);
+  setIconSize(QSize(icon, icon));
+  QString sheet =
+      QStringLiteral(
+          "QToolBar{background:%1;border:0;padding:%6px %7px 0 %7px;spacing:0}"
+          "QToolBar::separator{width:%6px;background:transparent}"
+          "QToolButton{background:%2;color:%3;border:1px solid %4;border-radius:8px;"
+          "padding:%6px;font-size:%5px;font-weight:600}"
+          "QToolButton:hover{border-color:%3}"
+          "QToolButton:focus{border:2px solid %8}")
+          .arg(m_theme.Window.name(), m_theme.Card.name(), m_theme.Text.name(), m_theme.Edge.name())
+          .arg(std::max(1, m_textHeight))
+          .arg(std::max(2, m_textHeight / 3))
+          .arg(std::max(3, m_textHeight * 12 / 26))
+          .arg(m_theme.Accent.name());
+  for (const ModeButton& mode : kModes) {
+    const ThemeQt::Pair pair = m_theme.Mode(mode.Mode);
+    sheet += QStringLiteral(
+                 "QToolButton[mode=\"%1\"]:checked{background:%2;color:%3;border-color:%2;font-weight:800}")
+                 .arg(static_cast<int>(mode.Mode))
+                 .arg(pair.Fill.name(), pair.Text.name());
+  }
+  setStyleSheet(sheet);
+}
+
+}  // namespace veerwatch

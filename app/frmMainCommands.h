@@ -1,0 +1,53 @@
+// The menu and the mode buttons of the main window.
+#pragma once
+
+#include <QAction>
+#include <QMainWindow>
+#include <QToolBar>
+#include <map>
+
+#include "app/ThemeQt.h"
+#include "control/TrackMode.h"
+
+namespace veerwatch {
+
+/// The menu's commands. Those whose window is not there are disabled.
+struct frmMainMenu {
+  QAction* mnuFileDefault;
+  QAction* mnuFileExit;
+  QAction* mnuViewDiagram;
+  QAction* mnuViewHistory;
+  QAction* mnuViewPolar;
+  QAction* mnuOptionsInput;
+  QAction* mnuOptionsData;
+  QAction* mnuOptionsOutput;
+  QAction* mnuOptionsTrack;
+  QAction* mnuOptionsSimulate;
+  QAction* mnuHelpDiagram;
+  QAction* mnuHelpAbout;
+
+  /// Adds the menu to the menu bar of `window`.
+  explicit frmMainMenu(QMainWindow& window);
+};
+
+/// The bar of the four modes across the window: the one that is on is filled, to be read from a distance.
+class frmMainModeBar final : public QToolBar {
+ public:
+  explicit frmMainModeBar(QMainWindow& window);
+
+  /// The action that selects a mode, other than Switching.
+  QAction* Button(TrackMode mode) const { return m_buttons.at(mode); }
+
+  void Theme(const ThemeQt& theme);
+  /// Fits text and icons to a window of that size [px].
+  void Fit(const QSize& window);
+
+ private:
+  void Dress();
+
+  std::map<TrackMode, QAction*> m_buttons;
+  ThemeQt m_theme;
+  int m_textHeight = 0;
+};
+
+}  // namespace veerwatch

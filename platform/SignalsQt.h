@@ -1,0 +1,14 @@
+// The system's requests to end (SIGTERM, SIGINT, SIGHUP) as a call from the event loop.
+#pragma once
+
+#include <functional>
+
+class QObject;
+
+namespace veerwatch {
+
+/// From now on each request calls `handler` from the event loop, as long as `context` lives. One call per
+/// process. Without effect where the system has no such signals.
+void OnTerminationRequest(QObject* context, std::function<void()> handler);
+
+}  // namespace veerwatch
