@@ -21,7 +21,7 @@ void BytesToValues(benchmark::State& state) {
   const std::string bytes = SampleLines(kLines);
   std::uint64_t lines = 0;
   for (auto _ : state) {
-    const PassResult result = DecodePass(bytes);
+    PassResult result = DecodePass(bytes);
     lines += result.Lines;
     benchmark::DoNotOptimize(result.Accumulated);
   }

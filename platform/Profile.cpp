@@ -61,8 +61,8 @@ std::string_view Unquoted(std::string_view value) {
 /// A value as it can be read again: quoted where blanks or quotes at its ends would be lost.
 std::string Written(std::string_view value) {
   std::string text(value);
-  std::replace_if(
-      text.begin(), text.end(), [](unsigned char c) { return c < ' '; }, ' ');
+  const auto isControl = [](unsigned char c) { return c < ' '; };
+  std::replace_if(text.begin(), text.end(), isControl, ' ');
   const bool quote = Trim(text) != text || Unquoted(text) != text;
   if (quote) {
     text.insert(text.begin(), '"');
