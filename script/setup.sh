@@ -132,7 +132,7 @@ install_missing() {
   as_root apt-get -q -o DPkg::Lock::Timeout=120 update </dev/null ||
     fail "'apt-get update' failed; still missing: ${missing[*]}"
   for entry in "${missing[@]}"; do
-    name=$(apt_name "$entry") || fail "apt knows no package $entry (on Ubuntu: is 'universe' enabled?)."
+    name=$(apt_name "$entry") || fail "apt offers no package $entry (is there a network? on Ubuntu: is 'universe' enabled?)."
     names+=("$name")
   done
   as_root apt-get -q -y -o DPkg::Lock::Timeout=120 install --no-install-recommends "${names[@]}" </dev/null ||
