@@ -124,17 +124,11 @@ void SerialPortQt::Close() {
 }
 
 void SerialPortQt::Input(std::string& text) {
-  text.clear();
-  while (const qint64 waiting = m_open ? m_port.bytesAvailable() : 0) {
-    // One more than there is: only a read that runs dry makes the port listen again after its buffer was
-    // full.
-    const std::size_t held = text.size();
-    text.resize(held + static_cast<std::size_t>(waiting) + 1);
-    const qint64 read = m_port.read(text.data() + held, waiting + 1);
-    text.resize(held + static_cast<std::size_t>(read > 0 ? read : 0));
-    if (read <= 0) {
-      break;
-    }
+  const qint64 waiting = m_open ? m_port.bytesAvailable() : 0;
+  text.resize(static_cast<std::size_t>(waiting));
+  if (waiting > 0) {
+    const qint64 read = m_port.read(text.data(), waiting);
+    text.resize(static_cast<std::size_t>(read > 0 ? read : 0));
   }
 }
 
