@@ -1,0 +1,46 @@
+// Polar files: tab-separated tables of boat speed, a header line of wind speeds and a line per wind angle.
+//
+//     TWA <tab> 6   <tab> 8   <tab> 10      true wind speeds [kn]
+//     30  <tab> 3.1 <tab> 4.0 <tab> 4.6     true wind angle [deg], then boat speeds [kn]
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <istream>
+#include <optional>
+#include <string>
+
+#include "polar/PolarTable.h"
+
+namespace veerwatch {
+
+/// How a cell of a file ended.
+enum class CellEnd { Tab, LineFeed, EndOfFile };
+
+/// How a load ended.
+struct PolarLoadResult {
+  bool Loaded = false;  ///< the end of the file was reached behind a line end
+  std::string Error;    ///< the text for a message box; "" for none, also for a file without a last line end
+};
+
+/// Reads one cell, up to a tab, a line feed or the end of the file, which is not kept. Of a cell longer than
+/// any number only the beginning is kept.
+CellEnd PolarReadCell(std::istream& file, std::string& text);
+
+/// Reads `file` into a slot of the table, each boat speed times `speedFactor`. Rows and columns are counted
+/// as lines become whole, so a failed load leaves what was read so far, and a failed header the counts of
+/// before. Deliberate: the last line must end with a line feed; the values of one that does not are stored
+/// but not counted, and the load is false without a text.
+PolarLoadResult PolarLoad(PolarTable& table, int slot, float speedFactor, const std::filesystem::path& file);
+
+/// The same from an open stream.
+PolarLoadResult PolarRead(PolarTable& table, int slot, float speedFactor, std::istream& file);
+
+/// The table of a slot as the text of a file: whole wind speeds and angles, speeds with one decimal, lines
+/// with CR LF. Deliberate: the speeds are the scaled ones that the table holds.
+std::string PolarText(const PolarTable& table, int slot);
+
+/// Writes a slot to `file` in one step. Nothing when done, else what went wrong, with the old file whole.
+std::optional<std::string> PolarSave(const PolarTable& table, int slot, const std::filesystem::path& file);
+
+}  // namespace veerwatch

@@ -1,0 +1,140 @@
+#include "polar/PolarTable.h"
+
+#include <cmath>
+
+#include "instruments/MathLib.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr double kRadiansPerDegree = kPi / 180.0;
+
+/// Boat and wind speed at `angle` between the two cells of a bracket.
+PolarCell AtAngle(const RowBracket& bracket, float angle) {
+  const PolarCell& lower = bracket.Lower;
+  const PolarCell& upper = bracket.Upper;
+  return {angle, Interpolate(angle, lower.Angle, upper.Angle, lower.WindSpeed, upper.WindSpeed),
+          Interpolate(angle, lower.Angle, upper.Angle, lower.BoatSpeed, upper.BoatSpeed)};
+}
+
+}  // namespace
+
+float Interpolate(float x, float x1, float x2, float y1, float y2) {
+  if (x1 == x2 || y1 == y2) {
+    return y1;
+  }
+  const double slope = (static_cast<double>(y2) - static_cast<double>(y1)) /
+                       (static_cast<double>(x2) - static_cast<double>(x1));
+  return ToSingle(static_cast<double>(y1) + slope * (static_cast<double>(x) - static_cast<double>(x1)));
+}
+
+PolarTable::PolarTable()
+    : m_values(static_cast<std::size_t>(kSlots * (kMostRows + 1) * (kMostColumns + 1))) {}
+
+PolarCell PolarTable::PolarPoint(int slot, int row, int column) const {
+  PolarCell cell{Value(slot, row, 0), Value(slot, 0, column), Value(slot, row, column)};
+  if (m_type == PlotType::ApparentWind) {
+    const double angle = static_cast<double>(cell.Angle) * kRadiansPerDegree;
+    const double x =
+        static_cast<double>(cell.BoatSpeed) + static_cast<double>(cell.WindSpeed) * std::cos(angle);
+    const double y = static_cast<double>(cell.WindSpeed) * std::sin(angle);
+    cell.Angle = ToSingle(Atan2(x, y) / kRadiansPerDegree);
+  }
+  return cell;
+}
+
+RowBracket PolarTable::PolarFindRow(int slot, int column, float angle) const {
+  PolarCell lower = PolarPoint(slot, 1, column);
+  for (int row = 2; row <= PolarRows(slot); ++row) {
+    const PolarCell upper = PolarPoint(slot, row, column);
+    if (lower.Angle <= angle && angle <= upper.Angle) {
+      return {row - 1, lower, upper};
+    }
+    lower = upper;
+  }
+  return {};
+}
+
+float PolarTable::PolarSpeed(int slot, float angle, float windSpeed) const {
+  const int rows = PolarRows(slot);
+  const int columns = PolarColumns(slot);
+  if (rows < 2 || columns < 1) {
+    return 0.0F;
+  }
+  if (angle < PolarPoint(slot, 1, 1).Angle && angle < PolarPoint(slot, 1, columns).Angle) {
+    return 0.0F;
+  }
+  if (angle > PolarPoint(slot, rows, 1).Angle && angle > PolarPoint(slot, rows, columns).Angle) {
+    return 0.0F;
+  }
+
+  // Rows stand at the same true angle in every column, so one search serves them all.
+  int knownRow = 0;
+  const auto bracketOf = [&](int column) -> RowBracket {
+    if (m_type == PlotType::TrueWind && knownRow > 0) {
+      return {knownRow, PolarPoint(slot, knownRow, column), PolarPoint(slot, knownRow + 1, column)};
+    }
+    const RowBracket bracket = PolarFindRow(slot, column, angle);
+    knownRow = bracket.Row;
+    return bracket;
+  };
+
+  int column = columns;
+  RowBracket upper = bracketOf(column);
+  while (upper.Row == 0) {
+    // Rows at the same angles everywhere enclose it everywhere or nowhere.
+    if (m_type == PlotType::TrueWind || --column < 1) {
+      return 0.0F;
+    }
+    upper = bracketOf(column);
+  }
+  const float upperWind = upper.Lower.WindSpeed;
+  if (windSpeed >= upperWind) {
+    return AtAngle(upper, angle).BoatSpeed;
+  }
+  if (column == 1) {
+    return 0.0F;
+  }
+
+  for (--column; column >= 1; --column) {
+    const RowBracket lower = bracketOf(column);
+    if (lower.Row == 0) {
+      continue;
+    }
+    if (lower.Lower.WindSpeed <= windSpeed) {
+      const PolarCell below = AtAngle(lower, angle);
+      const PolarCell above = AtAngle(upper, angle);
+      return Interpolate(windSpeed, below.WindSpeed, above.WindSpeed, below.BoatSpeed, above.BoatSpeed);
+    }
+    upper.Lower.Angle = lower.Lower.Angle;
+    upper.Lower.WindSpeed = lower.Lower.WindSpeed;
+    upper.Upper.Angle = lower.Upper.Angle;
+    upper.Upper.WindSpeed = lower.Upper.WindSpeed;
+  }
+  const PolarCell above = AtAngle(upper, angle);
+  return Interpolate(windSpeed, 0.0F, above.WindSpeed, 0.0F, above.BoatSpeed);
+}
+
+NearestCell PolarTable::PolarNearest(int slot, double x, double y, const PolarGeometry& geometry) const {
+  NearestCell nearest;
+  for (int row = 1; row <= PolarRows(slot); ++row) {
+    for (int column = 1; column <= PolarColumns(slot); ++column) {
+      const PolarCell cell = PolarPoint(slot, row, column);
+      const double angle = static_cast<double>(cell.Angle) * kRadiansPerDegree;
+      const double across = static_cast<double>(cell.BoatSpeed) * geometry.ScaleX * std::sin(angle);
+      const double up = static_cast<double>(cell.BoatSpeed) * geometry.ScaleY * std::cos(angle);
+      for (const float side : {1.0F, -1.0F}) {
+        const double dx = x - (geometry.CentreX + static_cast<double>(side) * across);
+        const double dy = y - (geometry.CentreY - up);
+        const double distance = dx * dx + dy * dy;
+        if (!nearest.Found || distance < nearest.SquaredDistance) {
+          nearest = {{side * cell.Angle, cell.WindSpeed, cell.BoatSpeed}, distance, true};
+        }
+      }
+    }
+  }
+  return nearest;
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,95 @@
+// The boat's performance polars in memory: boat speed by true wind angle and true wind speed, and the lookup
+// of a speed between the cells. Filled by polar/PolarFile.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace veerwatch {
+
+/// In which wind the lookups and the plot see the polar.
+enum class PlotType : std::int16_t { TrueWind = 0, ApparentWind = 1 };
+
+/// One cell as the plot and the lookup see it.
+struct PolarCell {
+  float Angle = 0.0F;      ///< [deg, [0, 180]]: true or, with PlotType::ApparentWind, apparent wind angle
+  float WindSpeed = 0.0F;  ///< true wind speed [kn]
+  float BoatSpeed = 0.0F;  ///< [kn], scaled
+};
+
+/// Where an angle lies within one column.
+struct RowBracket {
+  int Row = 0;  ///< the lower row, 0 for no bracket
+  PolarCell Lower;
+  PolarCell Upper;
+};
+
+/// The cell of a plot that is nearest to a position.
+struct NearestCell {
+  PolarCell Cell;                ///< its angle is negative on the port side
+  double SquaredDistance = 0.0;  ///< [px squared]
+  bool Found = false;            ///< false for an empty table
+};
+
+/// Where a plot stands.
+struct PolarGeometry {
+  double CentreX = 0.0;  ///< [px]
+  double CentreY = 0.0;  ///< [px], downwards
+  double ScaleX = 1.0;   ///< [px per kn]
+  double ScaleY = 1.0;   ///< [px per kn]
+};
+
+/// y at `x` on the line through (x1, y1) and (x2, y2), not clamped; y1 where x1 equals x2 or y1 equals y2.
+float Interpolate(float x, float x1, float x2, float y1, float y2);
+
+class PolarTable {
+ public:
+  static constexpr int kSlots = 3;  ///< 0 the boat's own polar, 1 the reference, 2 spare
+  static constexpr int kMostRows = 200;
+  static constexpr int kMostColumns = 50;
+
+  PolarTable();
+
+  /// Value at [slot][row][column], row 0 to kMostRows and column 0 to kMostColumns. Row 0 holds the true wind
+  /// speeds [kn], column 0 the true wind angles [deg], the others boat speeds [kn].
+  float& Value(int slot, int row, int column) { return m_values[Index(slot, row, column)]; }
+  float Value(int slot, int row, int column) const { return m_values[Index(slot, row, column)]; }
+
+  /// Rows and columns of a slot, besides row and column 0.
+  std::int16_t& PolarRows(int slot) { return m_rows[static_cast<std::size_t>(slot)]; }
+  std::int16_t PolarRows(int slot) const { return m_rows[static_cast<std::size_t>(slot)]; }
+  std::int16_t& PolarColumns(int slot) { return m_columns[static_cast<std::size_t>(slot)]; }
+  std::int16_t PolarColumns(int slot) const { return m_columns[static_cast<std::size_t>(slot)]; }
+
+  PlotType Type() const { return m_type; }
+  void Type(PlotType type) { m_type = type; }
+
+  /// One cell, row and column at least 1.
+  PolarCell PolarPoint(int slot, int row, int column) const;
+
+  /// The first pair of neighbouring rows of a column whose angles enclose `angle` [deg], both ends included.
+  RowBracket PolarFindRow(int slot, int column, float angle) const;
+
+  /// Boat speed [kn] at `angle` [deg, [0, 180]] and `windSpeed` [kn]; 0 where the table says nothing. Above
+  /// the highest wind speed that column's own speed; below the lowest column that encloses the angle the
+  /// speed falls in a line to 0 at no wind, or is 0 at once where that is column 1. Deliberate: when the
+  /// lookup steps down past columns whose wind is above the wanted one, the angles and the wind of the upper
+  /// bracket follow, its two boat speeds stay those of the highest column.
+  float PolarSpeed(int slot, float angle, float windSpeed) const;
+
+  /// The cell of either side of the plot that is nearest to (`x`, `y`) [px]; the first one wins a tie.
+  NearestCell PolarNearest(int slot, double x, double y, const PolarGeometry& geometry) const;
+
+ private:
+  static std::size_t Index(int slot, int row, int column) {
+    return static_cast<std::size_t>((slot * (kMostRows + 1) + row) * (kMostColumns + 1) + column);
+  }
+
+  std::vector<float> m_values;
+  std::array<std::int16_t, kSlots> m_rows{};
+  std::array<std::int16_t, kSlots> m_columns{};
+  PlotType m_type = PlotType::TrueWind;
+};
+
+}  // namespace veerwatch
