@@ -17,7 +17,8 @@ TEST(Pi, HasFourteenDecimals) {
   EXPECT_NE(kPi, std::numbers::pi);
 }
 
-// --- Atan2 -------------------------------------------------------------------------------------------------------
+// --- Atan2
+// -------------------------------------------------------------------------------------------------------
 
 TEST(Atan2, TakesTheCosineComponentFirst) {
   EXPECT_NEAR(Atan2(1.0, 0.0), 0.0, 1e-15);
@@ -47,7 +48,8 @@ TEST(Atan2, AgreesWithTheArgumentOfAComplexNumberAllAround) {
   }
 }
 
-// --- Folding -----------------------------------------------------------------------------------------------------
+// --- Folding
+// -----------------------------------------------------------------------------------------------------
 
 TEST(AngleRelative, Keeps180) { EXPECT_EQ(AngleRelative(180.0), 180.0); }
 TEST(AngleRelative, TurnsMinus180IntoPlus180) { EXPECT_EQ(AngleRelative(-180.0), 180.0); }
@@ -117,7 +119,8 @@ TEST(FoldRelative, FoldsAnyFiniteAngleFully) {
 }
 
 TEST(FoldRelative, StaysAboveMinus180WhenTheSingleRoundsDown) {
-  for (const double angle : {-179.9999999999, 180.0000000001, 540.0000000001, 1e20, -1e20, 1.7e308, -1.7e308}) {
+  for (const double angle :
+       {-179.9999999999, 180.0000000001, 540.0000000001, 1e20, -1e20, 1.7e308, -1.7e308}) {
     EXPECT_GT(FoldRelative(angle), -180.0F) << angle;
     EXPECT_LE(FoldRelative(angle), 180.0F) << angle;
   }
@@ -130,7 +133,8 @@ TEST(ToSingle, TurnsWhatASingleCannotHoldIntoAnInfinity) {
   EXPECT_TRUE(std::isnan(ToSingle(std::numeric_limits<double>::quiet_NaN())));
 }
 
-// --- Averages ----------------------------------------------------------------------------------------------------
+// --- Averages
+// ----------------------------------------------------------------------------------------------------
 
 float Relative(float sample, float count, float average) {
   AverageAngleRelative(sample, count, average);
@@ -176,7 +180,8 @@ TEST(AverageAngleRelative, ReturnsTheSampleForACountOfZeroOrOne) {
 }
 
 TEST(AverageAngleRelative, WeighsTheSampleWithAQuarterForACountOfFour) {
-  // A quarter of the unit vector to starboard and three quarters of the one ahead: atan(1/3) = 18.4349 degrees.
+  // A quarter of the unit vector to starboard and three quarters of the one ahead: atan(1/3) = 18.4349
+  // degrees.
   EXPECT_NEAR(Relative(90.0F, 4.0F, 0.0F), 18.4349488F, 1e-4);
   EXPECT_NEAR(Relative(-90.0F, 4.0F, 0.0F), -18.4349488F, 1e-4);
 }
@@ -209,7 +214,8 @@ TEST(AverageAngleRelative, AgreesWithTheSumOfComplexNumbers) {
       const std::complex<double> sum =
           0.2 * std::polar(1.0, a * kDegree) + 0.8 * std::polar(1.0, b * kDegree);
       const float average = Relative(static_cast<float>(a), 5.0F, static_cast<float>(b));
-      ASSERT_NEAR(std::remainder(average - std::arg(sum) / kDegree, 360.0), 0.0, 1e-4) << a << " " << b;
+      ASSERT_NEAR(std::remainder(static_cast<double>(average) - std::arg(sum) / kDegree, 360.0), 0.0, 1e-4)
+          << a << " " << b;
     }
   }
 }
@@ -249,7 +255,8 @@ TEST(AverageAngleAbsolute, StaysBelow360WhenTheSingleRoundsUp) {
   }
 }
 
-// --- Wind --------------------------------------------------------------------------------------------------------
+// --- Wind
+// --------------------------------------------------------------------------------------------------------
 
 struct Wind {
   float Speed;
@@ -324,7 +331,8 @@ TEST(WindHelpers, AgreeWithTheSumOfComplexNumbersAllAround) {
   }
 }
 
-// --- Min and Max -------------------------------------------------------------------------------------------------
+// --- Min and Max
+// -------------------------------------------------------------------------------------------------
 
 TEST(MinMax, ChooseAndNarrowToSingle) {
   EXPECT_EQ(Min(1.0, 2.0), 1.0F);
