@@ -9,7 +9,9 @@ namespace {
 /// One filter step that keeps the average below 360 where a value just below 0 was rounded up to it.
 void AverageBearing(float sample, float count, float& average) {
   AverageAngleAbsolute(sample, count, average);
-  average = average == 360.0F ? 0.0F : average;
+  if (!std::isfinite(average)) {
+    average = sample;
+  }
 }
 
 }  // namespace

@@ -74,7 +74,9 @@ void AverageAngleRelative(float NewAngle, float Count, float& Average) {
 
 void AverageAngleAbsolute(float NewAngle, float Count, float& Average) {
   AverageAngleRelative(NewAngle, Count, Average);
-  Average = ToSingle(AngleAbsolute(static_cast<double>(Average)));
+  const float folded = ToSingle(AngleAbsolute(static_cast<double>(Average)));
+  // An average just below 0 lands so close to 360 that the single is 360.
+  Average = folded == 360.0F ? 0.0F : folded;
 }
 
 void AverageValue(float NewValue, float Count, float& Average) {
