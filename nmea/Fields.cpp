@@ -21,7 +21,7 @@ Fields::Fields(std::string_view line) {
   const std::size_t star = last.find('*');
   if (star != std::string_view::npos) {
     last = last.substr(0, star);
-  } else if (last.size() == 1) {
+  } else if (last.size() == 1 && line.find('*') == std::string_view::npos) {
     last = {};
   }
   if (m_count < kKept) {

@@ -19,7 +19,7 @@ class Fields {
 
   /// Splits `line` at its commas. The first must be the 7th character, else there are no fields. The last
   /// field ends at the first "*" behind the last comma, or at the end of the line. Deliberate: a last field
-  /// of one character in a line without such a "*" is empty.
+  /// of one character in a line without any "*" is empty.
   explicit Fields(std::string_view line);
 
   /// Number of fields, those that are not kept included.
