@@ -14,7 +14,9 @@ namespace {
 constexpr qreal kRadius = 8.0;
 /// Part of a box's height that the figures may fill.
 constexpr qreal kFillHeight = 0.86;
-constexpr qreal kFillWidth = 0.96;
+constexpr qreal kFillWidth = 0.88;
+/// Width of a nudge's arrow with the gaps around it [heights of a capital].
+constexpr qreal kArrowRoom = 3.2;
 /// A font size [px] to measure with.
 constexpr int kMeasureSize = 200;
 
@@ -124,13 +126,17 @@ void CaptionQt::Colours(const QColor& text, const QColor& dimmed) {
   update();
 }
 
-QSize CaptionQt::sizeHint() const { return {0, fontMetrics().height()}; }
+QSize CaptionQt::sizeHint() const {
+  const QMargins margins = contentsMargins();
+  return {0, fontMetrics().height() + margins.top() + margins.bottom()};
+}
 
 void CaptionQt::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setPen(isEnabled() ? m_text : m_dimmed);
-  painter.drawText(rect(), static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine,
-                   fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+  const QRect room = contentsRect();
+  painter.drawText(room, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine,
+                   fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
 }
 
 // EntryBoxQt
@@ -225,11 +231,16 @@ void NudgeButtonQt::paintEvent(QPaintEvent* /*event*/) {
     PaintFocus(painter, box, text);
   }
 
-  const QFontMetricsF metrics(font());
+  QFont letters = font();
+  QFontMetricsF metrics(letters);
+  const QString caption = this->text();
+  const qreal wanted = metrics.horizontalAdvance(caption) + metrics.capHeight() * kArrowRoom;
+  if (wanted > width()) {
+    letters.setPixelSize(std::max(1, static_cast<int>(letters.pixelSize() * width() / wanted)));
+    metrics = QFontMetricsF(letters);
+  }
   const qreal arrow = metrics.capHeight();
   const qreal gap = arrow * 0.7;
-  const qreal room = width() - arrow - gap - arrow;
-  const QString caption = metrics.elidedText(this->text(), Qt::ElideRight, room);
   const qreal captionWidth = metrics.horizontalAdvance(caption);
   const qreal left = (width() - captionWidth - gap - arrow) / 2.0;
   const qreal middle = height() / 2.0;
@@ -241,7 +252,7 @@ void NudgeButtonQt::paintEvent(QPaintEvent* /*event*/) {
   painter.drawPolygon(QPolygonF(
       {QPointF(tip, middle), QPointF(foot, middle - arrow * 0.6), QPointF(foot, middle + arrow * 0.6)}));
   painter.setPen(text);
-  painter.setFont(font());
+  painter.setFont(letters);
   painter.drawText(QPointF(m_toStarboard ? left : left + arrow + gap, middle + metrics.capHeight() / 2.0),
                    caption);
 }

@@ -18,6 +18,7 @@ namespace {
 constexpr int kTimerInterval = 1000;  // [ms]
 constexpr QSize kDefaultSize(1160, 760);
 constexpr QSize kSmallestSize(320, 220);
+constexpr int kPanelMargin = 10;  // [px]
 /// Part of the screen that the window takes at most.
 constexpr double kScreenShare = 0.96;
 
@@ -73,6 +74,7 @@ void frmMain::MakeStatusBar() {
     panel->setToolTip(QLatin1String(toolTips[i]));
     panel->setAccessibleName(QLatin1String(toolTips[i]));
     panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    panel->setContentsMargins(kPanelMargin, 3, kPanelMargin, 4);
     bar->addWidget(panel, 1);
     m_status[i] = panel;
   }

@@ -90,7 +90,9 @@ frmMainModeBar::frmMainModeBar(QMainWindow& window) : QToolBar(&window), m_theme
     QWidget* button = widgetForAction(action);
     button->setProperty("mode", static_cast<int>(mode.Mode));
     button->setFocusPolicy(Qt::TabFocus);
-    button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    // Equal shares of any width.
+    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    button->setMinimumWidth(1);
   }
   window.addToolBar(this);
 }
