@@ -4,18 +4,6 @@
 
 namespace veerwatch {
 
-namespace {
-
-/// One filter step that keeps the average below 360 where a value just below 0 was rounded up to it.
-void AverageBearing(float sample, float count, float& average) {
-  AverageAngleAbsolute(sample, count, average);
-  if (!std::isfinite(average)) {
-    average = sample;
-  }
-}
-
-}  // namespace
-
 void InstrumentRecord::Restart() {
   m_data.HeadingValid = false;
   m_data.BoatSpeedValid = false;
@@ -29,7 +17,7 @@ void InstrumentRecord::Restart() {
 void InstrumentRecord::HeadingUpdate(float Heading) {
   const float folded = FoldBearing(static_cast<double>(Heading));
   if (m_data.HeadingValid) {
-    AverageBearing(folded, m_settings.m_fNmeaTrueWindAverage, m_data.HeadingAverage);
+    AverageAngleAbsolute(folded, m_settings.m_fNmeaTrueWindAverage, m_data.HeadingAverage);
   } else {
     m_data.HeadingValid = true;
     m_data.HeadingAverage = Heading;
@@ -108,7 +96,7 @@ void InstrumentRecord::WindIndicatorUpdate() {
     m_data.WindSpeedAverage = m_data.WindSpeedTrue;
   } else {
     const float count = m_settings.m_fNmeaWindIndicatorAverage;
-    AverageBearing(FoldBearing(direction), count, m_data.WindDirectionAverage);
+    AverageAngleAbsolute(FoldBearing(direction), count, m_data.WindDirectionAverage);
     AverageValue(m_data.WindSpeedTrue, count, m_data.WindSpeedAverage);
   }
   m_listener.OnWindIndicator(m_data.WindDirectionAverage, m_data.WindSpeedAverage);

@@ -300,14 +300,16 @@ TEST(StrictNumber, ReadsVeryLongTexts) {
 TEST(LeadingNumber, TakesTheNumberThatATextBeginsWith) {
   const std::vector<std::pair<std::string_view, float>> cases{
       {"12.3x", 12.3F}, {"45 deg", 45.0F}, {"  7", 7.0F},    {"+3", 3.0F},     {"-8.5abc", -8.5F},
-      {".5.", 0.5F},    {"5,3", 5.0F},     {"12 34", 12.0F}, {"1e2x", 100.0F}, {"1.2.3", 1.2F},
+      {".5.", 0.5F},    {"5,3", 5.0F},     {"12 34", 12.0F}, {"1e2x", 1.0F},   {"1.2.3", 1.2F},
       {"0x10", 0.0F},   {"5.", 5.0F},      {"359.5", 359.5F}};
   for (const auto& [text, value] : cases) {
     EXPECT_EQ(LeadingNumber(text), value) << text;
   }
 }
 
-TEST(LeadingNumber, LeavesAnExponentWithoutDigitsAlone) {
+TEST(LeadingNumber, EndsInFrontOfAnExponent) {
+  EXPECT_EQ(LeadingNumber("1e40"), 1.0F);
+  EXPECT_EQ(LeadingNumber("-1e39 "), -1.0F);
   EXPECT_EQ(LeadingNumber("4e"), 4.0F);
   EXPECT_EQ(LeadingNumber("4e+"), 4.0F);
   EXPECT_EQ(LeadingNumber("4east"), 4.0F);
@@ -321,9 +323,8 @@ TEST(LeadingNumber, IsZeroForATextThatBeginsWithNone) {
 }
 
 TEST(LeadingNumber, IsZeroForANumberThatIsTooLarge) {
-  EXPECT_EQ(LeadingNumber("1e999"), 0.0F);
-  EXPECT_EQ(LeadingNumber("-1e39 "), 0.0F);
   EXPECT_EQ(LeadingNumber(std::string(100, '9')), 0.0F);
+  EXPECT_EQ(LeadingNumber("-4" + std::string(38, '0')), 0.0F);
 }
 
 TEST(LeadingNumber, IsAlwaysFinite) {
@@ -341,7 +342,7 @@ TEST(LeadingNumber, IsAlwaysFinite) {
   for (const std::string& text : texts) {
     ASSERT_TRUE(std::isfinite(LeadingNumber(text))) << text;
     const std::optional<float> strict = StrictNumber(text);
-    if (strict) {
+    if (strict && text.find_first_of("eE") == std::string::npos) {
       ASSERT_EQ(LeadingNumber(text), *strict) << text;
     }
   }
