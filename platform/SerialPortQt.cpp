@@ -1,7 +1,9 @@
 #include "platform/SerialPortQt.h"
 
+#include <QDeadlineTimer>
 #include <QFile>
 #include <QObject>
+#include <QThread>
 #include <filesystem>
 #include <system_error>
 
@@ -20,6 +22,7 @@ namespace {
 constexpr qint64 kLargestUnread = 64 * 1024;  // [bytes]
 constexpr int kOfferAgain = 100;              // [ms]
 constexpr int kLookAgain = 20;                // [ms], about ten characters at 4800 baud
+constexpr int kLeaveTime = 250;               // [ms], twice what a sentence takes at 4800 baud
 
 /// The device to open, free of links, so that two names of one device meet at the same lock; "" for anything
 /// that is no character device.
@@ -114,13 +117,23 @@ void SerialPortQt::Close() {
     return;
   }
   m_open = false;
+  m_slot.Clear();
+  for (QDeadlineTimer patience(kLeaveTime); Busy() && !patience.hasExpired();) {
+    // Qt sends its own characters only while it is waited for; nothing tells when the driver has sent its
+    // own.
+    if (m_port.bytesToWrite() == 0 || !m_port.waitForBytesWritten(kLookAgain)) {
+      QThread::msleep(kLookAgain / 4);
+    }
+  }
+  if (Busy()) {
+    m_port.clear(QSerialPort::Output);
+  }
+  m_port.clear(QSerialPort::Input);
+  m_port.close();
+  m_counters.reset();
   m_offerTimer.stop();
   m_loseTimer.stop();
   m_pumpTimer.stop();
-  m_slot.Clear();
-  m_counters.reset();
-  m_port.clear();
-  m_port.close();
 }
 
 void SerialPortQt::Input(std::string& text) {

@@ -35,7 +35,8 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
   int CommPort() const override { return m_number; }
 
   bool PortOpen() const override { return m_open; }
-  /// Closing drops what is unread and unsent, also in the driver, so that it never waits for a stuck line.
+  /// Closing drops what is unread and lets the sentence on its way leave whole, for at most a quarter of a
+  /// second; on a stuck line the rest of it is dropped, also in the driver.
   bool PortOpen(bool open) override;
 
   void Input(std::string& text) override;

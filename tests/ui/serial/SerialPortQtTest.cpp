@@ -334,6 +334,14 @@ TEST_F(SerialPortQtTest, SendsWholeSentencesAndTheNewestLastWhenNobodyReadForLon
   EXPECT_EQ(m_owner.Lost, 0);
 }
 
+TEST_F(SerialPortQtTest, LetsTheSentenceOnItsWayLeaveWholeWhenItCloses) {
+  ASSERT_TRUE(m_port.PortOpen(true));
+  m_port.Output("first\r\n");
+  m_port.Output("second\r\n");
+  m_port.PortOpen(false);
+  EXPECT_EQ(m_pty.Read(), "first\r\n");
+}
+
 TEST_F(SerialPortQtTest, DropsWhatIsUnsentWhenItCloses) {
   ASSERT_TRUE(m_port.PortOpen(true));
   for (int i = 0; i < 5000; ++i) {
