@@ -218,7 +218,7 @@ void InstrumentPanelQt::Place() {
   place(cmdDesiredApp[1], app.Starboard, buttons);
   place(cmdDesiredTrue[0], trueWind.Port, buttons);
   place(cmdDesiredTrue[1], trueWind.Starboard, buttons);
-  const QFont narrow = Sized(font(), m_layout.ButtonText * 0.8, QFont::Bold);
+  const QFont narrow = Sized(font(), m_layout.ButtonText * 0.75, QFont::Bold);
   place(cmdAutoPilot[0], m_layout.AutoPilot.Port, narrow);
   place(cmdAutoPilot[1], m_layout.AutoPilot.Starboard, narrow);
   update();

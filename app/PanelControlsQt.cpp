@@ -15,6 +15,8 @@ constexpr qreal kRadius = 8.0;
 /// Part of a box's height that the figures may fill.
 constexpr qreal kFillHeight = 0.86;
 constexpr qreal kFillWidth = 0.88;
+/// From the last figure to the edge [heights of a capital].
+constexpr qreal kEdgeRoom = 0.1;
 /// Width of a nudge's arrow with the gaps around it [heights of a capital].
 constexpr qreal kArrowRoom = 3.2;
 /// A font size [px] to measure with.
@@ -39,6 +41,12 @@ void DrawTabular(QPainter& painter, QPointF baseline, const QString& text) {
     painter.drawText(baseline + QPointF((cell - advance) / 2.0, 0.0), QString(character));
     baseline.rx() += cell;
   }
+}
+
+/// Whether focus came from the keyboard, so that the user looks for it.
+bool ByKeyboard(const QFocusEvent& event) {
+  return event.reason() == Qt::TabFocusReason || event.reason() == Qt::BacktabFocusReason ||
+         event.reason() == Qt::ShortcutFocusReason || event.reason() == Qt::OtherFocusReason;
 }
 
 void PaintFocus(QPainter& painter, const QRectF& box, const QColor& colour) {
@@ -106,7 +114,7 @@ void ValueLabelQt::paintEvent(QPaintEvent* /*event*/) {
     metrics = QFontMetricsF(figures);
     textWidth = TabularWidth(metrics, shown);
   }
-  const qreal right = std::max(textWidth, (width() + TabularWidth(metrics, m_pattern)) / 2.0);
+  const qreal right = std::max(textWidth, width() - metrics.capHeight() * kEdgeRoom);
   painter.setFont(figures);
   painter.setPen(m_alarm ? QColor(Qt::black) : isEnabled() ? m_text : m_dimmed);
   DrawTabular(painter, {std::min<qreal>(right, width()) - textWidth, (height() + metrics.capHeight()) / 2.0},
@@ -144,7 +152,7 @@ void CaptionQt::paintEvent(QPaintEvent* /*event*/) {
 EntryBoxQt::EntryBoxQt(const QString& name, const QString& pattern, QWidget* parent)
     : QLineEdit(parent), m_pattern(pattern) {
   setObjectName(name);
-  setAlignment(Qt::AlignCenter);
+  setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
 
 void EntryBoxQt::Follow(const QString& text) {
@@ -198,12 +206,9 @@ void NudgeButtonQt::Theme(const ThemeQt& theme) {
   update();
 }
 
-bool NudgeButtonQt::event(QEvent* event) {
-  if (event->type() == QEvent::EnabledChange || event->type() == QEvent::FocusIn ||
-      event->type() == QEvent::FocusOut) {
-    update();
-  }
-  return QPushButton::event(event);
+void NudgeButtonQt::focusInEvent(QFocusEvent* event) {
+  m_showFocus = ByKeyboard(*event);
+  QPushButton::focusInEvent(event);
 }
 
 void NudgeButtonQt::paintEvent(QPaintEvent* /*event*/) {
@@ -227,7 +232,7 @@ void NudgeButtonQt::paintEvent(QPaintEvent* /*event*/) {
   }
   painter.setBrush(fill);
   painter.drawRoundedRect(box, kRadius, kRadius);
-  if (hasFocus()) {
+  if (hasFocus() && m_showFocus) {
     PaintFocus(painter, box, text);
   }
 
@@ -269,6 +274,11 @@ void SideOptionQt::Theme(const ThemeQt& theme) {
   update();
 }
 
+void SideOptionQt::focusInEvent(QFocusEvent* event) {
+  m_showFocus = ByKeyboard(*event);
+  QRadioButton::focusInEvent(event);
+}
+
 void SideOptionQt::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
@@ -289,7 +299,7 @@ void SideOptionQt::paintEvent(QPaintEvent* /*event*/) {
   painter.setFont(font());
   painter.setPen(isEnabled() && isChecked() ? m_theme.Text : m_theme.Dimmed);
   painter.drawText(QPointF(left, (height() + metrics.capHeight()) / 2.0), caption);
-  if (hasFocus()) {
+  if (hasFocus() && m_showFocus) {
     PaintFocus(painter, QRectF(rect()).adjusted(-2.0, -2.0, 2.0, 2.0), m_theme.Accent);
   }
 }

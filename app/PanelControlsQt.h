@@ -22,7 +22,7 @@ class ValueLabelQt final : public QLabel {
  public:
   ValueLabelQt(const QString& name, const QString& pattern, QWidget* parent);
 
-  /// The widest usual text; texts stand at the right of its place in the middle of the label.
+  /// The widest usual text.
   const QString& Pattern() const { return m_pattern; }
   void TextHeight(int pixels);
   /// Text colour, and text colour while disabled.
@@ -103,10 +103,11 @@ class NudgeButtonQt final : public QPushButton {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
-  bool event(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   bool m_toStarboard;
+  bool m_showFocus = false;
   ThemeQt m_theme;
 };
 
@@ -123,8 +124,10 @@ class SideOptionQt final : public QRadioButton {
  protected:
   bool hitButton(const QPoint& position) const override { return rect().contains(position); }
   void paintEvent(QPaintEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
+  bool m_showFocus = false;
   ThemeQt m_theme;
 };
 

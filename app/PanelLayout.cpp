@@ -14,8 +14,8 @@ constexpr double kTallDesignHeight = 1240.0;
 
 constexpr double kMargin = 12.0;
 constexpr double kPadding = 14.0;
-constexpr double kCaptionText = 15.0;
-constexpr double kButtonText = 17.0;
+constexpr double kCaptionText = 17.0;
+constexpr double kButtonText = 19.0;
 constexpr double kLeastText = 6.0;
 
 // Shares of a card's height.

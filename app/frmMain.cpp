@@ -61,6 +61,8 @@ frmMain::frmMain(const MainWindowParts& parts)
   ConnectControls();
   ConnectKeys();
   ApplyTheme();
+  // The keyboard starts in front of the first control instead of on a mode.
+  m_panel->setFocus();
   m_parts.tmrNmea.Interval(kTimerInterval);
   m_parts.tmrUnload.Interval(kTimerInterval);
 }
@@ -75,7 +77,8 @@ void frmMain::MakeStatusBar() {
     panel->setAccessibleName(QLatin1String(toolTips[i]));
     panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     panel->setContentsMargins(kPanelMargin, 3, kPanelMargin, 4);
-    bar->addWidget(panel, 1);
+    // The reasons on the pilot's panel are the longest texts.
+    bar->addWidget(panel, i == 0 ? 5 : 3);
     m_status[i] = panel;
   }
   setStatusBar(bar);

@@ -33,6 +33,8 @@ constexpr std::array<ModeButton, 4> kModes{{
 // Height of the mode texts [px] and the window that it is drawn for.
 constexpr double kTextHeight = 26.0;
 constexpr int kLeastTextHeight = 9;
+/// Left over beside the buttons [px], lest the bar folds one away.
+constexpr int kSlack = 2;
 constexpr double kDesignWidth = 1160.0;
 constexpr double kDesignHeight = 760.0;
 
@@ -90,9 +92,6 @@ frmMainModeBar::frmMainModeBar(QMainWindow& window) : QToolBar(&window), m_theme
     QWidget* button = widgetForAction(action);
     button->setProperty("mode", static_cast<int>(mode.Mode));
     button->setFocusPolicy(Qt::TabFocus);
-    // Equal shares of any width.
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-    button->setMinimumWidth(1);
   }
   window.addToolBar(this);
 }
@@ -112,11 +111,21 @@ void frmMainModeBar::Fit(const QSize& window) {
     m_textHeight = height;
     Dress();
   }
+  const int count = static_cast<int>(kModes.size());
+  const int room = window.width() - 2 * Margin() - (count - 1) * Gap() - kSlack;
+  for (const auto& [mode, action] : m_buttons) {
+    widgetForAction(action)->setFixedWidth(std::max(1, room / count));
+  }
 }
+
+int frmMainModeBar::Margin() const { return std::max(3, m_textHeight * 12 / 26); }
+
+int frmMainModeBar::Gap() const { return std::max(2, m_textHeight / 3); }
 
 void frmMainModeBar::Dress() {
   const int icon = std::max(8, m_textHeight * 5 / 4);
-  setIconSize(QSize(icon, icon));
+  // Wider than the drawing: the gap to the text.
+  setIconSize(QSize(icon * 7 / 5, icon));
   QString sheet =
       QStringLiteral(
           "QToolBar{background:%1;border:0;padding:%6px %7px 0 %7px;spacing:0}"

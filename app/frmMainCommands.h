@@ -39,11 +39,13 @@ class frmMainModeBar final : public QToolBar {
   QAction* Button(TrackMode mode) const { return m_buttons.at(mode); }
 
   void Theme(const ThemeQt& theme);
-  /// Fits text and icons to a window of that size [px].
+  /// Fits buttons, text and icons to a window of that size [px].
   void Fit(const QSize& window);
 
  private:
   void Dress();
+  int Margin() const;
+  int Gap() const;
 
   std::map<TrackMode, QAction*> m_buttons;
   ThemeQt m_theme;

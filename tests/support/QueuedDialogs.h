@@ -26,6 +26,9 @@ class QueuedDialogs final : public Dialogs {
   /// Called from inside every question, for tests of what happens meanwhile.
   std::function<void()> DuringQuestion;
 
+  /// Called from inside every beep.
+  std::function<void()> DuringBeep;
+
   bool AskYesNo(const std::string& title, const std::string& text) override {
     Questions.push_back({title, text});
     if (DuringQuestion) {
@@ -38,7 +41,12 @@ class QueuedDialogs final : public Dialogs {
     Answers.pop_front();
     return answer;
   }
-  void Beep() override { ++Beeps; }
+  void Beep() override {
+    ++Beeps;
+    if (DuringBeep) {
+      DuringBeep();
+    }
+  }
   void ToForeground() override { ++Foregrounds; }
   bool IsForeground() const override { return Foreground; }
 };

@@ -49,7 +49,7 @@ TEST_P(AppearanceInPalette, Modes) {
     tmrNmea.Tick();
     Grab(shade + "-mode" + std::to_string(mode));
   }
-  Mode(5);
+  Mode(3);
   tmrNmea.Tick(2);
   Mode(7);
   Type("txtDesired(1)", "-60");

@@ -100,6 +100,17 @@ class MainWindowTester : public testing::Test {
   QTemporaryDir m_folder;
 };
 
+/// A profile for real ports, one each way, with true wind from a sensor and no smoothing: what a sentence
+/// says is what the record holds.
+inline constexpr const char* kOnPorts =
+    "[Nmea]\nPort=3\nTrue Wind=0\nTrue Wind Average=0\n[Pilot]\nPort=4\nBearing=100\n";
+
+/// Both winds [deg relative], at 10 and 8 knots: the second sentence runs one control step, or each does once
+/// both winds are known.
+inline std::string Winds(const std::string& apparent, const std::string& trueWind) {
+  return "$WIMWV," + apparent + ",R,10.0,N,A\r$WIMWV," + trueWind + ",T,8.0,N,A\r";
+}
+
 /// A profile that simulates without noise: heading 275 + 3, true wind from 225, so -50 on the bow.
 inline constexpr const char* kSimulated =
     "[Pilot]\nBearing=275\n"

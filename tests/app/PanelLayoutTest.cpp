@@ -1,0 +1,93 @@
+#include "app/PanelLayout.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace veerwatch {
+namespace {
+
+std::vector<PanelBox> Cards(const PanelLayout& layout) {
+  return {layout.Winds[0].Card,  layout.Winds[1].Card, layout.Heading.Card,
+          layout.BoatSpeed.Card, layout.Waypoint.Card, layout.AutoPilot.Card};
+}
+
+std::vector<PanelBox> Of(const PanelLayout::Wind& wind) {
+  return {wind.Option,          wind.Angle.Caption, wind.Angle.Value,   wind.Speed.Caption, wind.Speed.Value,
+          wind.Desired.Caption, wind.Desired.Value, wind.Delta.Caption, wind.Delta.Value,   wind.Port,
+          wind.Starboard};
+}
+
+std::vector<PanelBox> Of(const PanelLayout::Pilot& pilot) {
+  return {pilot.Bearing.Caption, pilot.Bearing.Value, pilot.Port, pilot.Starboard};
+}
+
+bool Overlap(const PanelBox& a, const PanelBox& b) {
+  constexpr double kTouch = 1e-6;
+  return a.X + a.Width > b.X + kTouch && b.X + b.Width > a.X + kTouch && a.Y + a.Height > b.Y + kTouch &&
+         b.Y + b.Height > a.Y + kTouch;
+}
+
+bool Inside(const PanelBox& inner, const PanelBox& outer) {
+  constexpr double kTouch = 1e-6;
+  return inner.X >= outer.X - kTouch && inner.Y >= outer.Y - kTouch &&
+         inner.X + inner.Width <= outer.X + outer.Width + kTouch &&
+         inner.Y + inner.Height <= outer.Y + outer.Height + kTouch;
+}
+
+void ExpectApart(const std::vector<PanelBox>& boxes, const PanelBox& within) {
+  for (std::size_t i = 0; i < boxes.size(); ++i) {
+    EXPECT_GT(boxes[i].Width, 0.0) << i;
+    EXPECT_GT(boxes[i].Height, 0.0) << i;
+    EXPECT_TRUE(Inside(boxes[i], within)) << i;
+    for (std::size_t j = i + 1; j < boxes.size(); ++j) {
+      EXPECT_FALSE(Overlap(boxes[i], boxes[j])) << i << " and " << j;
+    }
+  }
+}
+
+TEST(PanelLayout, KeepsEverythingApartAndInsideAtAnySize) {
+  for (const double width : {200.0, 320.0, 500.0, 1024.0, 1160.0, 3840.0}) {
+    for (const double height : {120.0, 200.0, 460.0, 640.0, 1100.0, 2160.0}) {
+      SCOPED_TRACE(testing::Message() << width << " x " << height);
+      const PanelLayout layout = LayPanel(width, height);
+      ExpectApart(Cards(layout), {0.0, 0.0, width, height});
+      for (const PanelLayout::Wind& wind : layout.Winds) {
+        ExpectApart(Of(wind), wind.Card);
+      }
+      ExpectApart(Of(layout.AutoPilot), layout.AutoPilot.Card);
+      ExpectApart({layout.Heading.Value.Caption, layout.Heading.Value.Value}, layout.Heading.Card);
+    }
+  }
+}
+
+TEST(PanelLayout, SurvivesAPanelOfOnePixel) {
+  const PanelLayout layout = LayPanel(1.0, 1.0);
+  EXPECT_GE(layout.CaptionText, 6.0);
+  for (const PanelBox& card : Cards(layout)) {
+    EXPECT_TRUE(Inside(card, {0.0, 0.0, 1.0, 1.0}));
+  }
+}
+
+TEST(PanelLayout, PutsTheWindsSideBySideWhenWideAndOneAboveTheOtherWhenTall) {
+  const PanelLayout wide = LayPanel(1160.0, 640.0);
+  EXPECT_EQ(wide.Winds[0].Card.Y, wide.Winds[1].Card.Y);
+  EXPECT_LT(wide.Winds[0].Card.X, wide.Winds[1].Card.X);
+  const PanelLayout tall = LayPanel(500.0, 900.0);
+  EXPECT_EQ(tall.Winds[0].Card.X, tall.Winds[1].Card.X);
+  EXPECT_LT(tall.Winds[0].Card.Y, tall.Winds[1].Card.Y);
+}
+
+TEST(PanelLayout, GivesPortTheLeftPlace) {
+  const PanelLayout layout = LayPanel(1160.0, 640.0);
+  EXPECT_LT(layout.Winds[0].Port.X, layout.Winds[0].Starboard.X);
+  EXPECT_LT(layout.Winds[1].Port.X, layout.Winds[1].Starboard.X);
+  EXPECT_LT(layout.AutoPilot.Port.X, layout.AutoPilot.Starboard.X);
+}
+
+TEST(PanelLayout, GrowsItsTextsWithThePanel) {
+  EXPECT_DOUBLE_EQ(LayPanel(2320.0, 1280.0).CaptionText, 2.0 * LayPanel(1160.0, 640.0).CaptionText);
+}
+
+}  // namespace
+}  // namespace veerwatch

@@ -1,0 +1,184 @@
+// The profile at start and close, and the order of the close.
+
+#include <QDir>
+#include <QMessageBox>
+#include <QTimer>
+#include <filesystem>
+
+#include "platform/DialogsQt.h"
+#include "tests/ui/MainWindowTester.h"
+
+namespace veerwatch {
+namespace {
+
+class MainWindowClose : public MainWindowTester {};
+
+TEST_F(MainWindowClose, OutsideTrackAsksNothingAndWritesTheProfile) {
+  Start(kOnPorts);
+  Type("txtAutoPilot", "222.5");
+  Enter("txtAutoPilot");
+  EXPECT_TRUE(Window->close());
+  EXPECT_TRUE(Dialogs.Questions.empty());
+  EXPECT_FALSE(NmeaPort.PortOpen());
+  EXPECT_FALSE(PilotPort.PortOpen());
+  EXPECT_FALSE(tmrNmea.Enabled());
+  EXPECT_NE(ReadProfile().find("Bearing=222.5"), std::string::npos);
+  EXPECT_NE(ReadProfile().find("[History Window]"), std::string::npos);
+}
+
+TEST_F(MainWindowClose, AskedWhileTrackingNoLeavesEverythingRunning) {
+  Start(kOnPorts);
+  const std::string before = ReadProfile();
+  Mode(7);
+  Dialogs.Answers = {false};
+  Find<QAction>("mnuFileExit").trigger();
+  ASSERT_EQ(Dialogs.Questions.size(), 1U);
+  EXPECT_EQ(Dialogs.Questions[0].Title, "Veerwatch - Closing");
+  EXPECT_EQ(Dialogs.Questions[0].Text,
+            "Veerwatch is current tracking the wind.\rDo you wish to stop tracking?");
+  EXPECT_TRUE(Window->isVisible());
+  EXPECT_TRUE(NmeaPort.PortOpen());
+  EXPECT_TRUE(PilotPort.PortOpen());
+  EXPECT_EQ(Window->m_eTrackMode, TrackMode::Track);
+  EXPECT_EQ(ReadProfile(), before);
+  EXPECT_FALSE(Window->close()) << "asks again";
+  EXPECT_EQ(Dialogs.Questions.size(), 2U);
+}
+
+TEST_F(MainWindowClose, AskedWhileTrackingYesCloses) {
+  Start(kOnPorts);
+  Mode(7);
+  Dialogs.Answers = {true};
+  EXPECT_TRUE(Window->close());
+  EXPECT_FALSE(Window->isVisible());
+  EXPECT_FALSE(NmeaPort.PortOpen());
+  EXPECT_FALSE(PilotPort.PortOpen());
+  EXPECT_NE(ReadProfile().find("[Track]"), std::string::npos);
+}
+
+TEST_F(MainWindowClose, IsRetriedWithoutAQuestionWhileASentenceIsBeingHandled) {
+  Start(kOnPorts);
+  const std::string before = ReadProfile();
+  NmeaPort.Receive(Winds("30", "40"));
+  Mode(7);
+  Dialogs.Answers = {true};
+  bool closed = true;
+  Dialogs.DuringBeep = [&] { closed = Window->close(); };
+  NmeaPort.Receive("$WIMWV,80,R,10,N,A\r");
+  EXPECT_FALSE(closed);
+  EXPECT_TRUE(Window->isVisible());
+  EXPECT_FALSE(NmeaPort.PortOpen());
+  EXPECT_FALSE(PilotPort.PortOpen());
+  EXPECT_EQ(ReadProfile(), before);
+  EXPECT_TRUE(tmrUnload.Enabled());
+  EXPECT_EQ(tmrUnload.Milliseconds, 1000);
+  tmrUnload.Tick();
+  EXPECT_FALSE(Window->isVisible());
+  EXPECT_FALSE(tmrUnload.Enabled());
+  EXPECT_EQ(Dialogs.Questions.size(), 1U);
+  EXPECT_NE(ReadProfile(), before);
+}
+
+TEST_F(MainWindowClose, OfTheSessionAsksNothing) {
+  Start(kOnPorts);
+  Mode(7);
+  Window->CloseUnasked();
+  EXPECT_TRUE(Dialogs.Questions.empty());
+  EXPECT_FALSE(Window->isVisible());
+  EXPECT_FALSE(PilotPort.PortOpen());
+  EXPECT_NE(ReadProfile().find("[Polar Window]"), std::string::npos);
+}
+
+TEST_F(MainWindowClose, OfTheSessionEndsAnOpenQuestion) {
+  DialogsQt dialogs;
+  WriteProfile(kOnPorts);
+  Window = std::make_unique<frmMain>(
+      MainWindowParts{NmeaPort, PilotPort, tmrNmea, tmrUnload, Random, dialogs, Store, ProfileFile()});
+  dialogs.Window(Window.get());
+  Window->Form_Load();
+  Window->show();
+  Window->TrackSetTrack();
+  bool asked = false;
+  QTimer::singleShot(0, Window.get(), [&] {
+    asked = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr;
+    Window->CloseUnasked();
+  });
+  EXPECT_TRUE(Window->close());
+  EXPECT_TRUE(asked);
+  EXPECT_FALSE(Window->isVisible());
+  EXPECT_NE(ReadProfile().find("[Polar Window]"), std::string::npos);
+}
+
+TEST_F(MainWindowClose, WritesTheProfileOnce) {
+  Start(kOnPorts);
+  Window->close();
+  std::filesystem::remove(ProfileFile());
+  Window->close();
+  EXPECT_FALSE(std::filesystem::exists(ProfileFile()));
+}
+
+TEST_F(MainWindowClose, KeepsWhatTheNextStartReads) {
+  Start(std::string("; my boat\n") + kOnPorts);
+  Type("txtAutoPilot", "12.3");
+  Enter("txtAutoPilot");
+  Type("txtDesired(1)", "-44");
+  Enter("txtDesired(1)");
+  Window->m_bTrackAlarm = false;
+  Window->close();
+  EXPECT_EQ(ReadProfile().substr(0, 10), "; my boat\n");
+  Start();
+  EXPECT_EQ(Window->m_fAutoPilot, 12.3F);
+  EXPECT_EQ(Entry("txtAutoPilot"), "12.3");
+  EXPECT_EQ(Window->DesiredAngle[1], -44.0F);
+  EXPECT_EQ(Entry("txtDesired(1)"), "-44");
+  EXPECT_FALSE(Window->m_bTrackAlarm);
+}
+
+TEST_F(MainWindowClose, DefaultRestoresTheDefaultsAndSetupWithoutReadingTheFile) {
+  Start("[Track]\nDesired 1=10\nDesired 2=20\n[Pilot]\nBearing=100\n");
+  EXPECT_EQ(Entry("txtDesired(1)"), "10");
+  Mode(7);
+  Find<QAction>("mnuFileDefault").trigger();
+  EXPECT_EQ(Window->m_eTrackMode, TrackMode::Setup);
+  EXPECT_EQ(Entry("txtDesired(1)"), "45");
+  EXPECT_EQ(Entry("txtDesired(2)"), "92");
+  EXPECT_EQ(Entry("txtAutoPilot"), "40.0");
+  EXPECT_EQ(NmeaPort.CommPort(), 5);
+}
+
+TEST_F(MainWindowClose, DefaultReplacesWhatIsBeingTyped) {
+  Start(kOnPorts);
+  Type("txtAutoPilot", "17");
+  Find<QAction>("mnuFileDefault").trigger();
+  EXPECT_EQ(Entry("txtAutoPilot"), "40.0");
+  EXPECT_EQ(Window->m_fAutoPilot, 40.0F);
+}
+
+TEST_F(MainWindowClose, ADamagedProfileStartsWithTheDefaults) {
+  std::string noise;
+  for (int i = 0; i < 4000; ++i) {
+    noise.push_back(static_cast<char>(i * 131 % 256));
+  }
+  Start(noise + "[Track\nDesired 1\n=\n[Pilot]\nBearing=nan\n");
+  EXPECT_EQ(Window->m_eTrackMode, TrackMode::Setup);
+  EXPECT_EQ(Entry("txtAutoPilot"), "40.0");
+  EXPECT_EQ(Entry("txtDesired(1)"), "45");
+}
+
+TEST_F(MainWindowClose, AProfileThatCannotBeReadStartsWithTheDefaults) {
+  std::filesystem::create_directory(ProfileFile());
+  Start();
+  EXPECT_EQ(Window->m_eTrackMode, TrackMode::Setup);
+  EXPECT_EQ(Entry("txtAutoPilot"), "40.0");
+  EXPECT_TRUE(Window->close());
+}
+
+TEST_F(MainWindowClose, SurvivesAProfileThatCannotBeWritten) {
+  Start(kOnPorts);
+  Window->m_sProfileFile = "/dev/null/nowhere/Veerwatch.ini";
+  EXPECT_TRUE(Window->close());
+  EXPECT_FALSE(Window->isVisible());
+}
+
+}  // namespace
+}  // namespace veerwatch

@@ -1,0 +1,174 @@
+// Entry boxes and nudges of the main window.
+
+#include "tests/ui/MainWindowTester.h"
+
+namespace veerwatch {
+namespace {
+
+class MainWindowEntry : public MainWindowTester {};
+
+TEST_F(MainWindowEntry, EnterTakesTheLeadingNumberAndShowsItAgain) {
+  Start(kOnPorts);
+  Type("txtAutoPilot", "123.4 degrees");
+  EXPECT_EQ(Window->m_fAutoPilot, 100.0F);
+  Enter("txtAutoPilot");
+  EXPECT_EQ(Window->m_fAutoPilot, 123.4F);
+  EXPECT_EQ(Entry("txtAutoPilot"), "123.4");
+}
+
+TEST_F(MainWindowEntry, EnterIsSwallowed) {
+  Start(kOnPorts);
+  for (const char* name : {"txtAutoPilot", "txtDesired(1)"}) {
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
+      QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, QStringLiteral("\r"));
+      press.ignore();
+      QApplication::sendEvent(&Find<QLineEdit>(name), &press);
+      EXPECT_TRUE(press.isAccepted()) << name;
+    }
+  }
+}
+
+TEST_F(MainWindowEntry, ATypedBearingIsFolded) {
+  Start(kOnPorts);
+  Type("txtAutoPilot", "-10");
+  Enter("txtAutoPilot");
+  EXPECT_EQ(Window->m_fAutoPilot, 350.0F);
+  EXPECT_EQ(Entry("txtAutoPilot"), "350.0");
+}
+
+TEST_F(MainWindowEntry, ATypedWindAngleIsFolded) {
+  Start(kOnPorts);
+  Type("txtDesired(1)", "270");
+  Enter("txtDesired(1)");
+  EXPECT_EQ(Window->DesiredAngle[1], -90.0F);
+  EXPECT_EQ(Entry("txtDesired(1)"), "-90");
+  EXPECT_EQ(Window->DesiredAngle[2], 92.0F);
+}
+
+TEST_F(MainWindowEntry, ATextThatIsNoNumberCountsAsZero) {
+  Start(kOnPorts);
+  Type("txtAutoPilot", "north");
+  Enter("txtAutoPilot");
+  EXPECT_EQ(Window->m_fAutoPilot, 0.0F);
+  EXPECT_EQ(Entry("txtAutoPilot"), "0.0");
+  Type("txtAutoPilot", "55");
+  Enter("txtAutoPilot");
+  Type("txtAutoPilot", "");
+  Enter("txtAutoPilot");
+  EXPECT_EQ(Window->m_fAutoPilot, 0.0F);
+}
+
+TEST_F(MainWindowEntry, LeavingTheBoxTakesTheText) {
+  Start(kOnPorts);
+  Type("txtAutoPilot", "77.7");
+  QTest::keyClick(&Find<QLineEdit>("txtAutoPilot"), Qt::Key_Tab);
+  EXPECT_EQ(Window->m_fAutoPilot, 77.7F);
+  Click("optControl(2)");
+  Type("txtDesired(2)", "-101");
+  Click("txtAutoPilot");
+  EXPECT_EQ(Window->DesiredAngle[2], -101.0F);
+}
+
+TEST_F(MainWindowEntry, LeavingTheBoxUneditedKeepsThePreciseValue) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("72.4", "100.6"));
+  Mode(7);
+  EXPECT_EQ(Entry("txtDesired(1)"), "72");
+  Click("txtDesired(1)");
+  QTest::keyClick(&Find<QLineEdit>("txtDesired(1)"), Qt::Key_Tab);
+  EXPECT_EQ(Window->DesiredAngle[1], 72.4F);
+}
+
+TEST_F(MainWindowEntry, TypingIsNotOverwrittenByTheControlStep) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("30", "40"));
+  Type("txtDesired(1)", "4");
+  NmeaPort.Receive(Winds("31", "41"));
+  EXPECT_EQ(Entry("txtDesired(1)"), "4");
+  EXPECT_EQ(Entry("txtDesired(2)"), "41");
+  QTest::keyClicks(&Find<QLineEdit>("txtDesired(1)"), "5");
+  Enter("txtDesired(1)");
+  EXPECT_EQ(Window->DesiredAngle[1], 45.0F);
+  NmeaPort.Receive(Winds("32", "42"));
+  EXPECT_EQ(Entry("txtDesired(1)"), "32") << "taken and followed again";
+}
+
+TEST_F(MainWindowEntry, AFocusedBoxThatIsNotEditedFollows) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("30", "40"));
+  Click("txtDesired(1)");
+  NmeaPort.Receive(Winds("33", "40"));
+  EXPECT_EQ(Entry("txtDesired(1)"), "33");
+}
+
+TEST_F(MainWindowEntry, ANudgeMovesTheBearingByOneDegreeOutsideTrack) {
+  Start(kOnPorts);
+  for (const int mode : {3, 5}) {
+    Mode(mode);
+    Type("txtAutoPilot", "359.5");
+    Enter("txtAutoPilot");
+    Click("cmdAutoPilot(2)");
+    EXPECT_EQ(Entry("txtAutoPilot"), "0.5");
+    Click("cmdAutoPilot(1)");
+    Click("cmdAutoPilot(1)");
+    EXPECT_EQ(Window->m_fAutoPilot, 358.5F);
+    EXPECT_EQ(Entry("txtAutoPilot"), "358.5");
+  }
+}
+
+TEST_F(MainWindowEntry, ANudgeInTrackMovesHeldAngleAndBearingTogether) {
+  Start(kOnPorts);
+  Click("optControl(2)");
+  NmeaPort.Receive(Winds("30", "40"));
+  Mode(7);
+  Click("cmdDesiredTrue(2)");
+  EXPECT_EQ(Window->DesiredAngle[2], 39.0F);
+  EXPECT_EQ(Window->m_fAutoPilot, 101.0F);
+  EXPECT_EQ(Entry("txtDesired(2)"), "39");
+  EXPECT_EQ(Entry("txtAutoPilot"), "101.0");
+  Click("cmdDesiredTrue(1)");
+  Click("cmdDesiredTrue(1)");
+  EXPECT_EQ(Window->DesiredAngle[2], 41.0F);
+  EXPECT_EQ(Window->m_fAutoPilot, 99.0F);
+}
+
+TEST_F(MainWindowEntry, NudgesOfTheApparentAngleSteerWhileItIsTracked) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("30", "40"));
+  Mode(7);
+  // Without boat speed both winds are the same, so the angle turns by the whole degree.
+  Click("cmdDesiredApp(1)");
+  EXPECT_NEAR(Window->DesiredAngle[1], 31.0F, 0.001F);
+  EXPECT_EQ(Window->m_fAutoPilot, 99.0F);
+}
+
+TEST_F(MainWindowEntry, NudgeKeysWorkOnWhatAnswers) {
+  Start(kOnPorts);
+  QTest::keyClick(Window.get(), Qt::Key_Right, Qt::AltModifier);
+  EXPECT_EQ(Window->m_fAutoPilot, 101.0F);
+  Click("optControl(2)");
+  NmeaPort.Receive(Winds("30", "40"));
+  Mode(7);
+  QTest::keyClick(Window.get(), Qt::Key_Left, Qt::AltModifier);
+  EXPECT_EQ(Window->DesiredAngle[2], 41.0F);
+  EXPECT_EQ(Window->m_fAutoPilot, 100.0F);
+  Mode(1);
+  QTest::keyClick(Window.get(), Qt::Key_Left, Qt::AltModifier);
+  EXPECT_EQ(Window->m_fAutoPilot, 100.0F);
+}
+
+TEST_F(MainWindowEntry, ATypedBearingIsSentUnchangedInManual) {
+  Start(kOnPorts);
+  Mode(5);
+  Type("txtAutoPilot", "7.5");
+  Enter("txtAutoPilot");
+  NmeaPort.Receive(Winds("30", "40"));
+  NmeaPort.Receive("$WIMWV,50.0,R,10.0,N,A\r");
+  ASSERT_EQ(PilotPort.Written.size(), 2U);
+  for (const std::string& sentence : PilotPort.Written) {
+    EXPECT_NE(sentence.find(",007.5,M,1,007.5,M,007.5,M*"), std::string::npos) << sentence;
+  }
+}
+
+}  // namespace
+}  // namespace veerwatch

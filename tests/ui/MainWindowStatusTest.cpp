@@ -1,0 +1,217 @@
+// What the main window shows: values, panels, caption and alarm.
+
+#include <vector>
+
+#include "tests/ui/MainWindowTester.h"
+
+namespace veerwatch {
+namespace {
+
+const QColor kAlarmColour(255, 128, 128);
+
+class MainWindowStatus : public MainWindowTester {
+ public:
+  QColor DeltaColour(int index) const {
+    const auto& label = Find<QLabel>(QStringLiteral("lblDelta(%1)").arg(index).toLatin1().constData());
+    return label.palette().color(label.backgroundRole());
+  }
+  QColor WindowColour() const { return Window->palette().color(QPalette::Window); }
+};
+
+TEST_F(MainWindowStatus, ValuesStandInTheirFormats) {
+  Start(kOnPorts);
+  NmeaPort.Receive("$GPRMC,1,A,1,N,1,E,7.25,271.5,1,3.0,E\r$GPRMB,A,1,R,1,2,1,N,1,E,12.5,182.5,5,V\r" +
+                   Winds("-30.5", "178.6"));
+  EXPECT_EQ(Text("lblHeading"), "269");
+  EXPECT_EQ(Text("lblBoatSpeed"), "7.3");
+  EXPECT_EQ(Text("lblAppWindAngle"), "-31");
+  EXPECT_EQ(Text("lblAppWindSpeed"), "10.0");
+  EXPECT_EQ(Text("lblTrueWindAngle"), "179");
+  EXPECT_EQ(Text("lblTrueWindSpeed"), "8.0");
+  EXPECT_EQ(Text("lblDelta(1)"), "0.0");
+}
+
+TEST_F(MainWindowStatus, TheSimulatorShowsItsBoat) {
+  Start(kSimulated);
+  tmrNmea.Tick();
+  EXPECT_EQ(Text("lblHeading"), "278");
+  EXPECT_EQ(Text("lblBoatSpeed"), "7.2");
+  EXPECT_EQ(Text("lblWaypointBearing"), "268");
+  EXPECT_EQ(Text("lblTrueWindAngle"), "-50");
+  EXPECT_EQ(Text("lblTrueWindSpeed"), "14.0");
+  // 14 knots from 50 degrees on the bow and 7.2 knots of boat speed.
+  EXPECT_EQ(Text("lblAppWindAngle"), "-34");
+  EXPECT_EQ(Text("lblAppWindSpeed"), "19.4");
+  EXPECT_EQ(Entry("txtDesired(1)"), "-34");
+  EXPECT_EQ(Entry("txtDesired(2)"), "-50");
+}
+
+TEST_F(MainWindowStatus, ANewStartOfTheInputBlanksTheSevenValues) {
+  Start(kSimulated);
+  tmrNmea.Tick();
+  Mode(3);
+  for (const char* label : {"lblHeading", "lblBoatSpeed", "lblWaypointBearing", "lblAppWindAngle",
+                            "lblAppWindSpeed", "lblTrueWindAngle", "lblTrueWindSpeed"}) {
+    EXPECT_EQ(Text(label), "") << label;
+  }
+  EXPECT_EQ(Text("lblDelta(1)"), "0.0");
+}
+
+TEST_F(MainWindowStatus, StartsInSetupAndInManualWhenSimulating) {
+  Start(kOnPorts);
+  EXPECT_EQ(Window->m_eTrackMode, TrackMode::Setup);
+  EXPECT_EQ(Text("StatusBar(1)"), "Initialize");
+  EXPECT_EQ(Text("StatusBar(2)"), "");
+  EXPECT_EQ(Text("StatusBar(3)"), "");
+  EXPECT_TRUE(NmeaPort.PortOpen());
+  EXPECT_TRUE(PilotPort.PortOpen());
+  EXPECT_EQ(NmeaPort.OpenedNumbers, std::vector<int>{3});
+  EXPECT_EQ(PilotPort.OpenedNumbers, std::vector<int>{4});
+  EXPECT_EQ(tmrNmea.Milliseconds, 1000);
+  EXPECT_EQ(Caption(), "Veerwatch");
+  Window->m_bSimulate = true;
+  WriteProfile(kSimulated);
+  Window->ProfileRecall(true);
+  EXPECT_EQ(Window->m_eTrackMode, TrackMode::Manual);
+  EXPECT_EQ(Text("StatusBar(1)"), "Manual");
+  EXPECT_EQ(Text("StatusBar(2)"), "Simulate");
+  EXPECT_EQ(Text("StatusBar(3)"), "Simulate");
+}
+
+TEST_F(MainWindowStatus, TheMakingOfTheWindowTouchesNoPort) {
+  Make();
+  EXPECT_TRUE(NmeaPort.OpenedNumbers.empty());
+  EXPECT_TRUE(PilotPort.OpenedNumbers.empty());
+  EXPECT_FALSE(tmrNmea.Enabled());
+}
+
+TEST_F(MainWindowStatus, ThePilotPanelNamesTheMode) {
+  Start(kOnPorts);
+  Mode(5);
+  EXPECT_EQ(Text("StatusBar(1)"), "Manual");
+  Mode(7);
+  EXPECT_EQ(Text("StatusBar(1)"), "Tracking Apparent Wind");
+  Click("optControl(2)");
+  EXPECT_EQ(Text("StatusBar(1)"), "Tracking True Wind");
+  Mode(1);
+  EXPECT_EQ(Text("StatusBar(1)"), "Off");
+  EXPECT_FALSE(NmeaPort.PortOpen());
+  EXPECT_FALSE(PilotPort.PortOpen());
+}
+
+TEST_F(MainWindowStatus, ThePilotPanelSaysThatTheInputIsStopped) {
+  Start(kOnPorts);
+  Mode(1);
+  Mode(5);
+  EXPECT_EQ(Text("StatusBar(1)"), "Manual, Input Stopped");
+  Mode(7);
+  EXPECT_EQ(Text("StatusBar(1)"), "Tracking Apparent Wind, Input Stopped");
+  Mode(3);
+  Mode(5);
+  EXPECT_EQ(Text("StatusBar(1)"), "Manual");
+}
+
+TEST_F(MainWindowStatus, ARefusedTrackStaysInItsModeWithAReason) {
+  Start(kOnPorts);
+  Mode(5);
+  Window->m_fTrackBandwidth = 0.0F;
+  Mode(7);
+  EXPECT_EQ(Window->m_eTrackMode, TrackMode::Manual);
+  EXPECT_TRUE(Find<QAction>("tbrTrack(5)").isChecked());
+  EXPECT_FALSE(Find<QAction>("tbrTrack(7)").isChecked());
+  EXPECT_TRUE(Enabled("txtAutoPilot"));
+  EXPECT_EQ(Text("StatusBar(1)"), "Track needs a bandwidth above 0 and a usable damping");
+}
+
+TEST_F(MainWindowStatus, ThePanelsShowThePortsTroubles) {
+  NmeaPort.OpensOtherwise = false;
+  PilotPort.OpensOtherwise = false;
+  Start(kOnPorts);
+  EXPECT_EQ(Text("StatusBar(2)"), "Input Port 3 Not Open");
+  EXPECT_EQ(Text("StatusBar(3)"), "Output Port 4 Not Open");
+  tmrNmea.Tick(4);
+  EXPECT_EQ(Text("StatusBar(2)"), "No Input Data");
+}
+
+TEST_F(MainWindowStatus, ThePanelsShowLineErrors) {
+  Start(kOnPorts);
+  NmeaPort.Raise(CommEvent::kFrame);
+  PilotPort.Raise(CommEvent::kBreak);
+  EXPECT_EQ(Text("StatusBar(2)"), "Framing Error");
+  EXPECT_EQ(Text("StatusBar(3)"), "Break Signal Received");
+  NmeaPort.Receive("no sentence\r");
+  EXPECT_EQ(Text("StatusBar(2)"), "Sentence Error");
+  PilotPort.Receive("anything");
+  EXPECT_EQ(Text("StatusBar(3)"), "Receive Error");
+}
+
+TEST_F(MainWindowStatus, TheCaptionNamesTheProgramOnlyInTheForeground) {
+  Start(kSimulated);
+  Dialogs.Foreground = true;
+  tmrNmea.Tick();
+  EXPECT_EQ(Caption(), "Veerwatch - Wind SW@14.0");
+  Dialogs.Foreground = false;
+  EXPECT_EQ(Caption(), "Veerwatch - Wind SW@14.0") << "until the next wind";
+  tmrNmea.Tick();
+  EXPECT_EQ(Caption(), "Wind SW@14.0");
+}
+
+TEST_F(MainWindowStatus, TheCaptionHasNoLeadingZero) {
+  Start(std::string(kSimulated) + "[Simulate]\n");
+  Window->m_fSimulateTrueWindSpeed = 0.5F;
+  tmrNmea.Tick();
+  EXPECT_EQ(Caption(), "Wind SW@.5");
+}
+
+TEST_F(MainWindowStatus, AnAlarmCallsAtEveryPassAndColoursTheTrackedSideAlone) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("30", "40"));
+  Mode(7);
+  NmeaPort.Receive("$WIMWV,35,R,10,N,A\r");
+  EXPECT_EQ(Dialogs.Beeps, 0) << "the limit itself is no alarm";
+  NmeaPort.Receive("$WIMWV,35.5,R,10,N,A\r");
+  EXPECT_EQ(Dialogs.Beeps, 1);
+  EXPECT_EQ(Dialogs.Foregrounds, 1);
+  EXPECT_EQ(DeltaColour(1), kAlarmColour);
+  EXPECT_EQ(DeltaColour(2), WindowColour());
+  EXPECT_EQ(Text("lblDelta(1)"), "5.5");
+  EXPECT_EQ(Text("StatusBar(3)"), "Alarm Limit Exceeded 6");
+  NmeaPort.Receive("$WIMWV,17.6,R,10,N,A\r");
+  EXPECT_EQ(Dialogs.Beeps, 2);
+  EXPECT_EQ(Dialogs.Foregrounds, 2);
+  EXPECT_EQ(Text("StatusBar(3)"), "Alarm Limit Exceeded -12");
+  NmeaPort.Receive("$WIMWV,30,R,10,N,A\r");
+  EXPECT_EQ(Dialogs.Beeps, 2);
+  EXPECT_EQ(DeltaColour(1), WindowColour());
+  EXPECT_EQ(DeltaColour(2), WindowColour());
+  EXPECT_EQ(Text("StatusBar(3)"), "");
+}
+
+TEST_F(MainWindowStatus, LeavingTrackWithdrawsTheAlarm) {
+  Start(kOnPorts);
+  Click("optControl(2)");
+  NmeaPort.Receive(Winds("30", "40"));
+  Mode(7);
+  NmeaPort.Receive("$WIMWV,60,T,8,N,A\r");
+  EXPECT_EQ(DeltaColour(2), kAlarmColour);
+  EXPECT_EQ(DeltaColour(1), WindowColour());
+  Mode(5);
+  EXPECT_EQ(DeltaColour(2), WindowColour());
+  EXPECT_EQ(Text("StatusBar(3)"), "");
+}
+
+TEST_F(MainWindowStatus, ALongTextNeverWidensTheWindow) {
+  Start(kOnPorts);
+  Window->resize(640, 400);
+  const QSize before = Window->size();
+  Find<QLabel>("StatusBar(1)").setText(QString(5000, QChar('W')));
+  Find<QLabel>("lblHeading").setText(QString(500, QChar('8')));
+  Find<QLineEdit>("txtAutoPilot").setText(QString(5000, QChar('9')));
+  QTest::qWait(0);
+  EXPECT_EQ(Window->size(), before);
+  EXPECT_LE(Window->minimumSizeHint().width(), 640);
+  EXPECT_FALSE(Window->grab().isNull());
+}
+
+}  // namespace
+}  // namespace veerwatch
