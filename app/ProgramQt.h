@@ -1,0 +1,14 @@
+// The whole program: the main window on the real ports, timers, dialogs and profile.
+#pragma once
+
+#include <functional>
+
+class QWidget;
+
+namespace veerwatch {
+
+/// Runs the program until its main window is closed, and gives its exit status. Once per process. `started`
+/// is called with the main window when it is shown.
+int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& started = {});
+
+}  // namespace veerwatch
