@@ -1,0 +1,69 @@
+// A running copy of a built program in a folder of its own, with a profile beside it.
+#pragma once
+
+#include <sys/types.h>
+
+#include <chrono>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <thread>
+
+namespace veerwatch {
+
+/// Looks again and again until the condition holds; false when it does not within half a minute.
+inline bool Await(const std::function<bool()>& condition) {
+  const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+  while (!condition()) {
+    if (std::chrono::steady_clock::now() > limit) {
+      return false;
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(2));
+  }
+  return true;
+}
+
+class Process {
+ public:
+  /// Puts `program` and the profile into a new temporary folder.
+  Process(const std::filesystem::path& program, const std::string& profile);
+  /// Ends what still runs, the hard way, and removes the folder.
+  ~Process();
+  Process(const Process&) = delete;
+  Process& operator=(const Process&) = delete;
+
+  const std::filesystem::path& Folder() const { return m_folder; }
+  /// The profile as it lies there now.
+  std::string Profile() const;
+
+  /// Starts it, offscreen. Once.
+  bool Start();
+
+  /// Writes a line to its standard input.
+  void Tell(const std::string& line);
+
+  /// All that it has said on standard output and standard error so far.
+  const std::string& Said();
+
+  /// Sends SIGTERM.
+  void Terminate();
+
+  /// True while it runs.
+  bool Runs();
+
+  /// Waits for the end: its exit status, or minus the signal that ended it; nothing while it goes on running.
+  std::optional<int> AwaitEnd();
+
+ private:
+  std::filesystem::path m_folder;
+  std::filesystem::path m_program;
+  pid_t m_pid = -1;
+  int m_input = -1;
+  int m_output = -1;
+  std::string m_said;
+  std::optional<int> m_end;
+};
+
+}  // namespace veerwatch

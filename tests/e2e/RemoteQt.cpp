@@ -1,0 +1,111 @@
+// The program with a remote control on its standard input, for tests that need somebody at the buttons.
+// Ports, timers and profile are the program's own. One command a line, one answer a line:
+//   click NAME   triggers an action or clicks a button               "clicked NAME"
+//   text NAME    asks for the text of a label or an entry box        "text NAME=TEXT"
+//   watch NAME   asks for every text that a label shows from now on  "shows NAME=TEXT", the present one first
+//   quit         closes the main window, as the end of the input does
+// "ready" is said once in the beginning; "no NAME" when there is none of that name or it is disabled.
+
+#include <unistd.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSocketNotifier>
+#include <array>
+#include <cstdio>
+#include <map>
+
+#include "app/ProgramQt.h"
+
+namespace {
+
+class Remote final : public QObject {
+ public:
+  explicit Remote(QWidget& window)
+      : QObject(&window), m_window(window), m_notifier(STDIN_FILENO, QSocketNotifier::Read) {
+    connect(&m_notifier, &QSocketNotifier::activated, this, [this] { Read(); });
+    Say("ready");
+  }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Paint) {
+      SayWhenNew(*qobject_cast<QLabel*>(watched));
+    }
+    return false;
+  }
+
+ private:
+  static void Say(const QString& line) {
+    std::puts(line.toUtf8().constData());
+    std::fflush(stdout);
+  }
+
+  void SayWhenNew(const QLabel& label) {
+    const auto [shown, first] = m_shown.try_emplace(&label, label.text());
+    if (first || shown->second != label.text()) {
+      shown->second = label.text();
+      Say(QStringLiteral("shows %1=%2").arg(label.objectName(), label.text()));
+    }
+  }
+
+  void Read() {
+    std::array<char, 1024> part{};
+    const ssize_t length = ::read(STDIN_FILENO, part.data(), part.size());
+    if (length <= 0) {
+      m_notifier.setEnabled(false);
+      m_window.close();
+      return;
+    }
+    m_line.append(part.data(), length);
+    for (qsizetype end = m_line.indexOf('\n'); end >= 0; end = m_line.indexOf('\n')) {
+      const QString line = QString::fromUtf8(m_line.left(end));
+      m_line.remove(0, end + 1);
+      Obey(line.section(QLatin1Char(' '), 0, 0), line.section(QLatin1Char(' '), 1));
+    }
+  }
+
+  void Obey(const QString& verb, const QString& name) {
+    if (verb == QLatin1String("quit")) {
+      m_window.close();
+      return;
+    }
+    if (verb == QLatin1String("click")) {
+      auto* action = m_window.findChild<QAction*>(name);
+      auto* button = m_window.findChild<QAbstractButton*>(name);
+      if (action != nullptr && action->isEnabled()) {
+        action->trigger();
+      } else if (button != nullptr && button->isEnabled()) {
+        button->click();
+      } else {
+        Say(QStringLiteral("no ") + name);
+        return;
+      }
+      Say(QStringLiteral("clicked ") + name);
+      return;
+    }
+    auto* label = m_window.findChild<QLabel*>(name);
+    const auto* box = m_window.findChild<QLineEdit*>(name);
+    if (verb == QLatin1String("watch") && label != nullptr) {
+      label->installEventFilter(this);
+      SayWhenNew(*label);
+    } else if (verb == QLatin1String("text") && (label != nullptr || box != nullptr)) {
+      Say(QStringLiteral("text %1=%2").arg(name, label != nullptr ? label->text() : box->text()));
+    } else {
+      Say(QStringLiteral("no ") + name);
+    }
+  }
+
+  QWidget& m_window;
+  QSocketNotifier m_notifier;
+  QByteArray m_line;
+  std::map<const QLabel*, QString> m_shown;
+};
+
+}  // namespace
+
+int main(int argc, char* argv[]) {
+  return veerwatch::RunProgram(argc, argv, [](QWidget& window) { new Remote(window); });
+}
