@@ -1,10 +1,12 @@
 // veerwatch-cli: the core on the command line, for scripts and for looking at recorded passages.
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <exception>
 #include <fstream>
 #include <iostream>
 #include <map>
+#include <optional>
 #include <set>
 #include <string>
 
@@ -17,12 +19,20 @@ using veerwatch::TrackMode;
 using veerwatch::TrackSide;
 
 constexpr int kExitBadCall = 2;
-constexpr long kMostSteps = 1000000000L;
 
 /// The names of what --mode and --track choose.
 const std::map<std::string, TrackMode> kModes{
     {"setup", TrackMode::Setup}, {"manual", TrackMode::Manual}, {"track", TrackMode::Track}};
 const std::map<std::string, TrackSide> kSides{{"apparent", TrackSide::Apparent}, {"true", TrackSide::True}};
+
+/// A number of things, in digits alone.
+const CLI::Validator kWholeNumber(
+    [](const std::string& text) {
+      const bool digits = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
+      constexpr std::size_t kMostDigits = 18;
+      return digits && text.size() <= kMostDigits ? std::string() : text + " is not a whole number";
+    },
+    "NUMBER");
 
 /// Options that both commands have, as they stand on the command line.
 struct SteeringArguments {
@@ -51,14 +61,22 @@ struct SteeringArguments {
   }
 };
 
-void RunReplay(const veerwatch::ReplayOptions& options, const std::string& file) {
-  if (file.empty()) {
+/// Says what went wrong, as one line whatever the names in it hold; gives the exit status.
+int Complain(std::string text) {
+  std::replace_if(
+      text.begin(), text.end(), [](unsigned char c) { return c < ' '; }, ' ');
+  std::cerr << "veerwatch-cli: " << text << '\n';
+  return kExitBadCall;
+}
+
+void RunReplay(const veerwatch::ReplayOptions& options, const std::optional<std::string>& file) {
+  if (!file) {
     veerwatch::Replay(options, std::cin, std::cout);
     return;
   }
-  std::ifstream log(file, std::ios::binary);
+  std::ifstream log(*file, std::ios::binary);
   if (!log.is_open() || (log.peek(), log.bad())) {
-    throw veerwatch::CommandError("cannot read " + file);
+    throw veerwatch::CommandError("cannot read " + *file);
   }
   log.clear();
   veerwatch::Replay(options, log, std::cout);
@@ -69,10 +87,10 @@ int Run(int argc, char** argv) {
   CLI::App app("Steers by recorded or simulated instruments and shows what the autopilot would be told.",
                "veerwatch-cli");
   app.set_version_flag("--version", "veerwatch-cli " VEERWATCH_VERSION);
-  app.require_subcommand(1);
+  app.require_subcommand(0, 1);
 
   veerwatch::ReplayOptions replay;
-  std::string file;
+  std::optional<std::string> file;
   bool raw = false;
   CLI::App* replayCommand =
       app.add_subcommand("replay", "Feed recorded sentences, print the autopilot sentences");
@@ -80,7 +98,7 @@ int Run(int argc, char** argv) {
   replaySteering.AddTo(*replayCommand, {"setup", "manual", "track"});
   replayCommand
       ->add_option("--setup-steps", replay.SetupSteps, "Control steps in Setup before the mode (default 0)")
-      ->check(CLI::Range(0L, kMostSteps))
+      ->check(kWholeNumber)
       ->type_name("N");
   replayCommand->add_flag("--raw", raw, "Bytes as on the wire: only a carriage return ends a line");
   replayCommand->add_option("FILE", file, "The log; standard input without one");
@@ -90,9 +108,11 @@ int Run(int argc, char** argv) {
   SteeringArguments simulateSteering;
   simulateSteering.AddTo(*simulateCommand, {"manual", "track"});
   simulateCommand->add_option("--ticks", simulate.Ticks, "Seconds to sail (default 60)")
-      ->check(CLI::Range(0L, kMostSteps))
+      ->check(kWholeNumber)
       ->type_name("N");
-  simulateCommand->add_option("--seed", simulate.Seed, "Seed of the noise (default 1)")->type_name("S");
+  simulateCommand->add_option("--seed", simulate.Seed, "Seed of the noise (default 1)")
+      ->check(kWholeNumber)
+      ->type_name("S");
   simulateCommand->add_flag("--realtime", simulate.RealTime, "A tick a second");
 
   try {
@@ -100,8 +120,10 @@ int Run(int argc, char** argv) {
   } catch (const CLI::Success& success) {
     return app.exit(success);
   } catch (const CLI::ParseError& error) {
-    std::cerr << "veerwatch-cli: " << error.what() << '\n';
-    return kExitBadCall;
+    return Complain(error.what());
+  }
+  if (app.get_subcommands().empty()) {
+    throw veerwatch::CommandError("a command is missing: see --help");
   }
   replay.Steer = replaySteering.Taken();
   simulate.Steer = simulateSteering.Taken();
@@ -124,7 +146,6 @@ int main(int argc, char** argv) {
   try {
     return Run(argc, argv);
   } catch (const std::exception& error) {
-    std::cerr << "veerwatch-cli: " << error.what() << '\n';
-    return kExitBadCall;
+    return Complain(error.what());
   }
 }

@@ -10,7 +10,7 @@ bool TrackLoop::StartTracking() {
   if (!(m_settings.m_fTrackBandwidth > 0.0F)) {
     return false;
   }
-  const double w = static_cast<double>(4.0F / m_settings.m_fTrackBandwidth);
+  const double w = 4.0 / static_cast<double>(m_settings.m_fTrackBandwidth);
   const double gainIntegral =
       w / (4.0 * std::pow(static_cast<double>(m_settings.m_fTrackDamping), 2.0) + 1.0);
   const double gainProportional = w - gainIntegral;
