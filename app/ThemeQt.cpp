@@ -32,7 +32,7 @@ ThemeQt::ThemeQt(const QPalette& palette)
 ThemeQt::Pair ThemeQt::Mode(TrackMode mode) const {
   switch (mode) {
     case TrackMode::Setup:
-      return {Dark ? QColor(0x3f, 0x7f, 0xbf) : QColor(0x2a, 0x68, 0xa8), Qt::white};
+      return {Dark ? QColor(0x36, 0x71, 0xae) : QColor(0x2a, 0x68, 0xa8), Qt::white};
     case TrackMode::Manual:
       return {QColor(0xf0, 0xb0, 0x3c), QColor(0x1c, 0x14, 0x04)};
     case TrackMode::Track:

@@ -20,10 +20,11 @@ class MainWindowStatus : public MainWindowTester {
 
 TEST_F(MainWindowStatus, ValuesStandInTheirFormats) {
   Start(kOnPorts);
-  NmeaPort.Receive("$GPRMC,1,A,1,N,1,E,7.25,271.5,1,3.0,E\r$GPRMB,A,1,R,1,2,1,N,1,E,12.5,182.5,5,V\r" +
+  NmeaPort.Receive("$GPRMC,1,A,1,N,1,E,7.25,271.5,1,3.0,E,A\r$GPRMB,A,1,R,1,2,1,N,1,E,12.5,182.5,5,V\r" +
                    Winds("-30.5", "178.6"));
   EXPECT_EQ(Text("lblHeading"), "269");
   EXPECT_EQ(Text("lblBoatSpeed"), "7.3");
+  EXPECT_EQ(Text("lblWaypointBearing"), "180") << "182.5 true, less 3 of variation: 179.5";
   EXPECT_EQ(Text("lblAppWindAngle"), "-31");
   EXPECT_EQ(Text("lblAppWindSpeed"), "10.0");
   EXPECT_EQ(Text("lblTrueWindAngle"), "179");
