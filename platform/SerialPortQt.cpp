@@ -19,10 +19,10 @@ namespace veerwatch {
 
 namespace {
 
-constexpr qint64 kLargestUnread = 64 * 1024;  // [bytes]
-constexpr int kOfferAgain = 100;              // [ms]
-constexpr int kLookAgain = 20;                // [ms], about ten characters at 4800 baud
-constexpr int kLeaveTime = 250;               // [ms], twice what a sentence takes at 4800 baud
+constexpr qint64 kLargestUnread = qint64{64} * 1024;  // [bytes]
+constexpr int kOfferAgain = 100;                      // [ms]
+constexpr int kLookAgain = 20;                        // [ms], about ten characters at 4800 baud
+constexpr int kLeaveTime = 250;                       // [ms], twice what a sentence takes at 4800 baud
 
 /// The device to open, free of links, so that two names of one device meet at the same lock; "" for anything
 /// that is no character device.

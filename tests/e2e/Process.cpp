@@ -13,8 +13,6 @@
 #include <system_error>
 #include <vector>
 
-extern char** environ;
-
 namespace veerwatch {
 
 namespace fs = std::filesystem;
@@ -112,7 +110,7 @@ const std::string& Process::Said() {
   }
 }
 
-void Process::Terminate() { ::kill(m_pid, SIGTERM); }
+void Process::Terminate() const { ::kill(m_pid, SIGTERM); }
 
 bool Process::Runs() {
   if (m_pid < 0 || m_end) {

@@ -48,7 +48,7 @@ class Process {
   const std::string& Said();
 
   /// Sends SIGTERM.
-  void Terminate();
+  void Terminate() const;
 
   /// True while it runs.
   bool Runs();

@@ -53,13 +53,13 @@ class Pty {
   }
 
   /// How many of the characters the terminal took.
-  std::size_t Write(std::string_view text) {
+  std::size_t Write(std::string_view text) const {
     const ssize_t written = ::write(m_master, text.data(), text.size());
     return written > 0 ? static_cast<std::size_t>(written) : 0;
   }
 
   /// All characters that came out since the last time.
-  std::string Read() {
+  std::string Read() const {
     std::string text;
     std::array<char, 4096> part{};
     for (;;) {
