@@ -76,7 +76,7 @@ SerialPortQt::SerialPortQt(const Profile& profile) : m_profile(profile), m_slot(
   QObject::connect(&m_pumpTimer, &QTimer::timeout, &m_port, [this] { Pump(); });
 }
 
-SerialPortQt::~SerialPortQt() { Close(); }
+SerialPortQt::~SerialPortQt() { Close(kLeaveTime); }
 
 void SerialPortQt::CommPort(int number) {
   if (!m_open) {
@@ -89,7 +89,7 @@ bool SerialPortQt::PortOpen(bool open) {
     return Open();
   }
   if (!open) {
-    Close();
+    Close(kLeaveTime);
   }
   return true;
 }
@@ -112,13 +112,13 @@ bool SerialPortQt::Open() {
   return true;
 }
 
-void SerialPortQt::Close() {
+void SerialPortQt::Close(int leaveTime) {
   if (!m_open) {
     return;
   }
   m_open = false;
   m_slot.Clear();
-  for (QDeadlineTimer patience(kLeaveTime); Busy() && !patience.hasExpired();) {
+  for (QDeadlineTimer patience(leaveTime); Busy() && !patience.hasExpired();) {
     // Qt sends its own characters only while it is waited for; nothing tells when the driver has sent its
     // own.
     if (m_port.bytesToWrite() == 0 || !m_port.waitForBytesWritten(kLookAgain)) {
@@ -211,7 +211,7 @@ void SerialPortQt::Lose() {
   if (!m_open) {
     return;
   }
-  Close();
+  Close(0);
   if (m_events != nullptr) {
     m_events->OnPortLost();
   }

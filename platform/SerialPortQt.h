@@ -48,7 +48,8 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
   void Write(std::string_view sentence) override;
 
   bool Open();
-  void Close();
+  /// Gives the sentence on its way `leaveTime` [ms] to leave.
+  void Close(int leaveTime);
   void ErrorOccurred(QSerialPort::SerialPortError error);
   void Offer();
   void Lose();
