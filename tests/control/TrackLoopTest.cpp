@@ -1,0 +1,515 @@
+#include "control/TrackLoop.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <string>
+#include <vector>
+
+#include "instruments/MathLib.h"
+#include "tests/support/RecordingView.h"
+#include "tests/support/ScriptedPort.h"
+
+namespace veerwatch {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Not;
+
+class TrackLoopTest : public testing::Test {
+ protected:
+  TrackLoopTest() {
+    m_settings.m_iPilotPort = 6;
+    m_pilotPort.PortOpen(true);
+    m_data.WindApparentValid = true;
+    m_data.WindTrueValid = true;
+    m_data.BoatSpeedValid = true;
+    m_data.BoatSpeed = 6.0F;
+    m_data.WindAngleApparent = 45.0F;
+    m_data.WindSpeedApparent = 14.0F;
+    m_data.WindAngleTrue = 92.0F;
+    m_data.WindSpeedTrue = 10.0F;
+  }
+
+  void Track() {
+    ASSERT_TRUE(m_loop.StartTracking());
+    m_settings.m_eTrackMode = TrackMode::Track;
+  }
+  float Apparent() const { return m_settings.DesiredAngle[1]; }
+  float True() const { return m_settings.DesiredAngle[2]; }
+  /// One pass with an error of `error` on the apparent side.
+  void Step(float error) {
+    m_data.WindAngleApparent = m_settings.DesiredAngle[1] + error;
+    m_loop.ControlStep();
+  }
+
+  Settings m_settings;
+  InstrumentData m_data;
+  RecordingView m_view;
+  ScriptedPort m_nmeaPort;
+  ScriptedPort m_pilotPort;
+  PilotOutput m_pilot{m_settings, m_nmeaPort, m_pilotPort, m_view};
+  TrackLoop m_loop{m_settings, m_data, m_pilot, m_view};
+};
+
+// --- Gains
+// -------------------------------------------------------------------------------------------------------
+
+TEST_F(TrackLoopTest, TheDefaultsGiveGainsOfOneAndOf64In65PartsOfAFifth) {
+  ASSERT_TRUE(m_loop.StartTracking());
+  const double w = static_cast<double>(0.2F);
+  EXPECT_NEAR(m_loop.TrackGainIntegral(), w / 65.0, 1e-9);
+  EXPECT_NEAR(m_loop.TrackGainProportional(), w * 64.0 / 65.0, 1e-8);
+  EXPECT_EQ(m_loop.TrackIntegral(), 0.0);
+}
+
+TEST_F(TrackLoopTest, WithoutDampingTheIntegralGainIsAllAndTheProportionalGainNone) {
+  m_settings.m_fTrackDamping = 0.0F;
+  ASSERT_TRUE(m_loop.StartTracking());
+  EXPECT_NEAR(m_loop.TrackGainIntegral(), 0.2, 1e-8);
+  EXPECT_EQ(m_loop.TrackGainProportional(), 0.0);
+}
+
+TEST_F(TrackLoopTest, TheGainsFollowBandwidthAndDamping) {
+  m_settings.m_fTrackBandwidth = 8.0F;
+  m_settings.m_fTrackDamping = 0.5F;
+  ASSERT_TRUE(m_loop.StartTracking());
+  EXPECT_EQ(m_loop.TrackGainIntegral(), 0.25);  // w = 0.5, shared by 4 * 0.25 + 1 = 2
+  EXPECT_EQ(m_loop.TrackGainProportional(), 0.25);
+}
+
+TEST_F(TrackLoopTest, StartingZeroesTheAccumulator) {
+  Track();
+  Step(10.0F);
+  ASSERT_GT(m_loop.TrackIntegral(), 0.0);
+  ASSERT_TRUE(m_loop.StartTracking());
+  EXPECT_EQ(m_loop.TrackIntegral(), 0.0);
+}
+
+TEST_F(TrackLoopTest, IsRefusedWithNothingChangedWhileThereAreNoUsableGains) {
+  Track();
+  Step(10.0F);
+  const double integral = m_loop.TrackIntegral();
+  const double gain = m_loop.TrackGainIntegral();
+  constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
+  for (const auto& [bandwidth, damping] :
+       std::vector<std::pair<float, float>>{{0.0F, 4.0F}, {-20.0F, 4.0F}, {kNan, 4.0F}, {20.0F, kNan}}) {
+    m_settings.m_fTrackBandwidth = bandwidth;
+    m_settings.m_fTrackDamping = damping;
+    EXPECT_FALSE(m_loop.StartTracking()) << bandwidth << " " << damping;
+    EXPECT_EQ(m_loop.TrackIntegral(), integral);
+    EXPECT_EQ(m_loop.TrackGainIntegral(), gain);
+  }
+}
+
+// --- Off, Setup, Manual
+// ------------------------------------------------------------------------------------------
+
+TEST_F(TrackLoopTest, NothingHappensInOffOrWhileSwitching) {
+  for (const TrackMode mode : {TrackMode::Off, TrackMode::Switching}) {
+    m_settings.m_eTrackMode = mode;
+    m_settings.m_fAutoPilot = 123.0F;
+    m_loop.ControlStep();
+    EXPECT_THAT(m_view.Calls, IsEmpty());
+    EXPECT_THAT(m_pilotPort.Written, IsEmpty());
+    EXPECT_EQ(m_loop.PreviousAutoPilot(), 0.0F);
+  }
+}
+
+TEST_F(TrackLoopTest, InSetupTheDesiredAnglesFollowAndNothingIsSent) {
+  m_settings.m_eTrackMode = TrackMode::Setup;
+  m_data.WindAngleApparent = -30.0F;
+  m_data.WindAngleTrue = -50.0F;
+  m_loop.ControlStep();
+  EXPECT_EQ(Apparent(), -30.0F);
+  EXPECT_EQ(True(), -50.0F);
+  EXPECT_THAT(m_view.Calls, ElementsAre("OnDesired -30 -50", "OnDelta 0 0"));
+  EXPECT_THAT(m_pilotPort.Written, IsEmpty());
+  EXPECT_EQ(m_loop.PreviousAutoPilot(), 40.0F);
+}
+
+TEST_F(TrackLoopTest, InManualTheDesiredAnglesFollowAndTheTypedBearingIsSentUnchangedAtEveryPass) {
+  m_settings.m_eTrackMode = TrackMode::Manual;
+  m_loop.SetAutoPilot(123.5);
+  m_view.Take();
+  for (int i = 0; i < 3; ++i) {
+    m_data.WindAngleApparent = static_cast<float>(10 * i);
+    m_loop.ControlStep();
+    EXPECT_EQ(Apparent(), static_cast<float>(10 * i));
+    EXPECT_EQ(m_settings.m_fAutoPilot, 123.5F);
+  }
+  EXPECT_EQ(m_pilotPort.Written.size(), 3U);
+  EXPECT_NE(m_pilotPort.Written.back().find(",123.5,M,1,123.5,M,123.5,M*"), std::string::npos);
+  EXPECT_THAT(m_view.Only({"OnPilotHeading"}),
+              ElementsAre("OnPilotHeading 123.5", "OnPilotHeading 123.5", "OnPilotHeading 123.5"));
+  EXPECT_EQ(m_view.Count("OnPilotDelta"), 0U);
+}
+
+// --- The controller
+// ----------------------------------------------------------------------------------------------
+
+TEST_F(TrackLoopTest, APassInTrackTakesItsStepsInOrder) {
+  Track();
+  m_settings.m_fAutoPilot = 100.0F;
+  Step(10.0F);
+  std::vector<std::string> names;
+  for (const std::string& call : m_view.Calls) {
+    names.push_back(call.substr(0, call.find(' ')));
+  }
+  EXPECT_THAT(names, ElementsAre("OnDelta", "OnPilotDelta", "OnAutoPilot", "OnAlarm", "OnPilotData",
+                                 "OnPilotHeading"));
+  EXPECT_EQ(m_view.Calls[0], "OnDelta 10 0");
+  EXPECT_EQ(m_view.Calls[1], "OnPilotDelta 10");
+  EXPECT_EQ(m_loop.PreviousAutoPilot(), m_settings.m_fAutoPilot);
+}
+
+TEST_F(TrackLoopTest, UsesTheAccumulatorOfBeforeThePass) {
+  m_settings.m_fTrackBandwidth = 8.0F;
+  m_settings.m_fTrackDamping = 0.5F;  // both gains 0.25
+  m_settings.m_fAutoPilot = 100.0F;
+  Track();
+  Step(8.0F);
+  EXPECT_EQ(m_settings.m_fAutoPilot, 102.0F);  // (8 + 0) / 4
+  EXPECT_EQ(m_loop.TrackIntegral(), 2.0);
+  Step(8.0F);
+  EXPECT_EQ(m_settings.m_fAutoPilot, 104.5F);  // (8 + 2) / 4
+  EXPECT_EQ(m_loop.TrackIntegral(), 4.0);
+  Step(-4.0F);
+  EXPECT_EQ(m_settings.m_fAutoPilot, 104.5F);  // (-4 + 4) / 4
+  EXPECT_EQ(m_loop.TrackIntegral(), 3.0);
+}
+
+TEST_F(TrackLoopTest, LimitsNoCorrection) {
+  m_settings.m_fTrackBandwidth = 2.0F;  // w = 2
+  m_settings.m_fTrackMaxSteerTo = 1.0F;
+  m_settings.m_fAutoPilot = 100.0F;
+  Track();
+  Step(65.0F);
+  EXPECT_NEAR(m_settings.m_fAutoPilot, 228.0F, 1e-4);  // 65 * 2 * 64 / 65
+}
+
+TEST_F(TrackLoopTest, TheBearingWrapsAroundNorth) {
+  m_settings.m_fTrackBandwidth = 8.0F;
+  m_settings.m_fTrackDamping = 0.5F;
+  Track();
+  m_settings.m_fAutoPilot = 359.5F;
+  Step(4.0F);
+  EXPECT_EQ(m_settings.m_fAutoPilot, 0.5F);
+  ASSERT_TRUE(m_loop.StartTracking());
+  Step(-4.0F);
+  EXPECT_EQ(m_settings.m_fAutoPilot, 359.5F);
+}
+
+TEST_F(TrackLoopTest, TheDeltasAreFolded) {
+  Track();
+  m_settings.DesiredAngle = {0.0F, 170.0F, -170.0F};
+  m_data.WindAngleApparent = -170.0F;
+  m_data.WindAngleTrue = 170.0F;
+  m_loop.ControlStep();
+  EXPECT_EQ(m_view.Calls.front(), "OnDelta 20 -20");
+}
+
+TEST_F(TrackLoopTest, TracksTheChosenSide) {
+  m_settings.m_fTrackBandwidth = 8.0F;
+  m_settings.m_fTrackDamping = 0.5F;
+  m_loop.Side(TrackSide::True);
+  EXPECT_EQ(m_loop.Side(), TrackSide::True);
+  Track();
+  m_settings.m_fAutoPilot = 100.0F;
+  m_data.WindAngleApparent = 55.0F;
+  m_data.WindAngleTrue = 88.0F;
+  m_loop.ControlStep();
+  EXPECT_EQ(m_settings.m_fAutoPilot, 99.0F);
+  EXPECT_THAT(m_view.Calls, Contains("OnPilotDelta -4"));
+}
+
+TEST_F(TrackLoopTest, StartsOnTheApparentSide) { EXPECT_EQ(m_loop.Side(), TrackSide::Apparent); }
+
+TEST_F(TrackLoopTest, InTrackTheDesiredAnglesStay) {
+  Track();
+  Step(10.0F);
+  EXPECT_EQ(Apparent(), 45.0F);
+  EXPECT_EQ(True(), 92.0F);
+  EXPECT_EQ(m_view.Count("OnDesired"), 0U);
+}
+
+TEST_F(TrackLoopTest, TheBearingThatIsSentIsTheNewOne) {
+  m_settings.m_fTrackBandwidth = 8.0F;
+  m_settings.m_fTrackDamping = 0.5F;
+  m_settings.m_fAutoPilot = 100.0F;
+  Track();
+  Step(8.0F);
+  ASSERT_EQ(m_pilotPort.Written.size(), 1U);
+  EXPECT_NE(m_pilotPort.Written[0].find(",102.0,M,1,102.0,M,102.0,M*"), std::string::npos);
+}
+
+// --- The alarm
+// ---------------------------------------------------------------------------------------------------
+
+TEST_F(TrackLoopTest, AnErrorEqualToTheLimitRaisesNoAlarmAndAnyLargerOneDoes) {
+  Track();
+  Step(5.0F);
+  EXPECT_EQ(m_view.Count("OnAlarm"), 0U);
+  Step(-5.0F);
+  EXPECT_EQ(m_view.Count("OnAlarm"), 0U);
+  Step(5.0078125F);
+  EXPECT_EQ(m_view.Only({"OnAlarm"}).back(), "OnAlarm apparent 5.0078125");
+}
+
+TEST_F(TrackLoopTest, TheAlarmIsRaisedAtEveryPassBeyondTheLimitAndWithdrawnOnce) {
+  Track();
+  Step(10.0F);
+  Step(-12.0F);
+  Step(7.0F);
+  Step(1.0F);
+  Step(1.0F);
+  Step(8.0F);
+  EXPECT_THAT(m_view.Only({"OnAlarm", "OnAlarmOver"}),
+              ElementsAre("OnAlarm apparent 10", "OnAlarm apparent -12", "OnAlarm apparent 7", "OnAlarmOver",
+                          "OnAlarm apparent 8"));
+}
+
+TEST_F(TrackLoopTest, TheAlarmNamesTheChosenSideAndIgnoresTheOther) {
+  m_loop.Side(TrackSide::True);
+  Track();
+  m_data.WindAngleApparent = 145.0F;
+  m_data.WindAngleTrue = 100.0F;
+  m_loop.ControlStep();
+  EXPECT_THAT(m_view.Only({"OnAlarm"}), ElementsAre("OnAlarm true 8"));
+  m_data.WindAngleTrue = 92.0F;
+  m_loop.ControlStep();
+  EXPECT_THAT(m_view.Only({"OnAlarm"}), ElementsAre("OnAlarm true 8"));
+}
+
+TEST_F(TrackLoopTest, ASwitchedOffAlarmIsNotRaised) {
+  m_settings.m_bTrackAlarm = false;
+  Track();
+  Step(90.0F);
+  EXPECT_EQ(m_view.Count("OnAlarm"), 0U);
+}
+
+TEST_F(TrackLoopTest, SetupAndManualRaiseNoAlarm) {
+  for (const TrackMode mode : {TrackMode::Setup, TrackMode::Manual}) {
+    m_settings.m_eTrackMode = mode;
+    Step(90.0F);
+  }
+  EXPECT_EQ(m_view.Count("OnAlarm"), 0U);
+}
+
+TEST_F(TrackLoopTest, WithdrawingEndsAnAlarmThatShowsAndNothingElse) {
+  m_loop.WithdrawAlarm();
+  EXPECT_THAT(m_view.Calls, IsEmpty());
+  Track();
+  Step(10.0F);
+  m_view.Take();
+  m_loop.WithdrawAlarm();
+  m_loop.WithdrawAlarm();
+  EXPECT_THAT(m_view.Calls, ElementsAre("OnAlarmOver"));
+}
+
+// --- Steering
+// ----------------------------------------------------------------------------------------------------
+
+TEST_F(TrackLoopTest, SteeringOnTheTrueSideMovesTheAngleOneWayAndTheBearingTheOther) {
+  m_loop.Side(TrackSide::True);
+  Track();
+  Step(3.0F);
+  m_settings.m_fAutoPilot = 355.0F;
+  m_view.Take();
+  m_loop.TrackSteerTo(10.0F);
+  EXPECT_EQ(True(), 82.0F);
+  EXPECT_EQ(m_settings.m_fAutoPilot, 5.0F);
+  EXPECT_EQ(m_loop.TrackIntegral(), 0.0);
+  // 10 knots from 82 degrees at 6 knots: 10 cos 82 + 6 = 7.39173 ahead, 10 sin 82 = 9.90268 abeam.
+  EXPECT_NEAR(Apparent(), 53.2610F, 1e-3);
+  EXPECT_THAT(m_view.Only({"OnAutoPilot"}), ElementsAre("OnAutoPilot 5"));
+  EXPECT_EQ(m_view.Count("OnDesired"), 1U);
+  EXPECT_THAT(m_pilotPort.TakeWritten(), Not(testing::HasSubstr(",005.0,")));
+}
+
+TEST_F(TrackLoopTest, SteeringOnTheTrueSideFoldsTheAngle) {
+  m_loop.Side(TrackSide::True);
+  Track();
+  m_settings.DesiredAngle[2] = -175.0F;
+  m_loop.TrackSteerTo(10.0F);
+  EXPECT_EQ(True(), 175.0F);
+  EXPECT_GT(Apparent(), 0.0F);
+}
+
+TEST_F(TrackLoopTest, SteeringOnTheApparentSideGoesThroughTheTrueWind) {
+  Track();
+  // The true equivalent of 45 degrees at 14 knots and 6 knots of boat: 14 cos 45 - 6 = 3.899495 ahead and
+  // 9.899495 abeam, which is 68.5001 degrees. Ten less are 58.5001, from where 10 knots of true wind make
+  // 11.22497 ahead and 8.52641 abeam: 37.2201 degrees.
+  m_loop.TrackSteerTo(10.0F);
+  EXPECT_NEAR(True(), 58.5001F, 1e-3);
+  EXPECT_NEAR(Apparent(), 37.2201F, 1e-3);
+  EXPECT_EQ(m_settings.m_fAutoPilot, 50.0F);
+  EXPECT_EQ(m_loop.TrackIntegral(), 0.0);
+}
+
+TEST_F(TrackLoopTest, SteeringToPortTurnsTheBearingToPort) {
+  Track();
+  m_settings.m_fAutoPilot = 0.5F;
+  m_loop.TrackSteerTo(-1.0F);
+  EXPECT_EQ(m_settings.m_fAutoPilot, 359.5F);
+  EXPECT_GT(True(), 68.4F);
+}
+
+TEST_F(TrackLoopTest, SteeringDoesNothingOutsideOfTrack) {
+  for (const TrackMode mode : {TrackMode::Switching, TrackMode::Off, TrackMode::Setup, TrackMode::Manual}) {
+    m_settings.m_eTrackMode = mode;
+    m_loop.TrackSteerTo(10.0F);
+    EXPECT_EQ(m_settings.m_fAutoPilot, 40.0F);
+    EXPECT_EQ(Apparent(), 45.0F);
+    EXPECT_EQ(True(), 92.0F);
+  }
+  EXPECT_THAT(m_view.Calls, IsEmpty());
+}
+
+TEST_F(TrackLoopTest, SteeringByWhatIsNotFiniteDoesNothing) {
+  Track();
+  for (const float change :
+       {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity()}) {
+    m_loop.TrackSteerTo(change);
+  }
+  EXPECT_EQ(m_settings.m_fAutoPilot, 40.0F);
+  EXPECT_EQ(Apparent(), 45.0F);
+  EXPECT_THAT(m_view.Calls, IsEmpty());
+}
+
+TEST_F(TrackLoopTest, SteeringByAnyAmountKeepsEveryAngleInRange) {
+  for (const TrackSide side : {TrackSide::Apparent, TrackSide::True}) {
+    m_loop.Side(side);
+    Track();
+    for (const float change :
+         {1.0F, -1.0F, 90.0F, 179.0F, 180.0F, -180.0F, 359.0F, 720.0F, -1000.0F, 1e20F, 3e38F}) {
+      m_loop.TrackSteerTo(change);
+      ASSERT_GE(m_settings.m_fAutoPilot, 0.0F) << change;
+      ASSERT_LT(m_settings.m_fAutoPilot, 360.0F) << change;
+      ASSERT_GT(True(), -180.0F) << change;
+      ASSERT_LE(True(), 180.0F) << change;
+      ASSERT_GE(Apparent(), -180.0F) << change;
+      ASSERT_LE(Apparent(), 180.0F) << change;
+    }
+  }
+}
+
+// --- Typed values
+// ------------------------------------------------------------------------------------------------
+
+TEST_F(TrackLoopTest, ATypedBearingIsFoldedFully) {
+  for (const auto& [typed, bearing] : std::vector<std::pair<double, float>>{
+           {245.0, 245.0F}, {360.0, 0.0F}, {-90.0, 270.0F}, {1085.5, 5.5F}, {-1e-12, 0.0F}}) {
+    m_loop.SetAutoPilot(typed);
+    EXPECT_EQ(m_settings.m_fAutoPilot, bearing) << typed;
+  }
+}
+
+TEST_F(TrackLoopTest, ATypedWindAngleIsFoldedFully) {
+  m_loop.SetDesired(TrackSide::Apparent, 190.0);
+  m_loop.SetDesired(TrackSide::True, -900.0);
+  EXPECT_EQ(Apparent(), -170.0F);
+  EXPECT_EQ(True(), 180.0F);
+}
+
+TEST_F(TrackLoopTest, AValueThatIsNotFiniteIsNotTaken) {
+  for (const double value :
+       {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity()}) {
+    m_loop.SetAutoPilot(value);
+    m_loop.SetDesired(TrackSide::Apparent, value);
+    m_loop.SetDesired(TrackSide::True, value);
+  }
+  EXPECT_EQ(m_settings.m_fAutoPilot, 40.0F);
+  EXPECT_EQ(Apparent(), 45.0F);
+  EXPECT_EQ(True(), 92.0F);
+}
+
+// --- Closed loop
+// -------------------------------------------------------------------------------------------------
+
+/// A boat that turns a part of the way to the autopilot's bearing at every step, in a steady wind.
+struct ToyBoat {
+  double Heading = 0.0;
+  double Response = 1.0;
+  double WindFrom = 90.0;
+  double WindSpeed = 12.0;
+  double Speed = 6.0;
+
+  void Sail(float bearing, InstrumentData& data) {
+    Heading += Response * std::remainder(static_cast<double>(bearing) - Heading, 360.0);
+    Heading = std::remainder(Heading, 360.0);
+    data.BoatSpeed = static_cast<float>(Speed);
+    data.WindSpeedTrue = static_cast<float>(WindSpeed);
+    data.WindAngleTrue = static_cast<float>(std::remainder(WindFrom - Heading, 360.0));
+    WindApparentFromTrue(data.WindSpeedTrue, data.WindAngleTrue, data.BoatSpeed, data.WindSpeedApparent,
+                         data.WindAngleApparent);
+  }
+};
+
+struct LoopCase {
+  TrackSide Side;
+  float Desired;
+  double Response;
+};
+
+class ClosedLoop : public TrackLoopTest, public testing::WithParamInterface<LoopCase> {};
+
+TEST_P(ClosedLoop, TheBoatComesToTheDesiredAngleAndStaysThereThroughAWindShift) {
+  const LoopCase& loop = GetParam();
+  ToyBoat boat;
+  boat.Response = loop.Response;
+  m_loop.Side(loop.Side);
+  m_settings.DesiredAngle[static_cast<std::size_t>(loop.Side)] = loop.Desired;
+  Track();
+  const auto error = [&] {
+    const float measured = loop.Side == TrackSide::Apparent ? m_data.WindAngleApparent : m_data.WindAngleTrue;
+    return std::abs(std::remainder(static_cast<double>(measured - loop.Desired), 360.0));
+  };
+  // Long after the wind has shifted by 25 degrees, and again by 330, the angle is held.
+  for (const double windFrom : {90.0, 115.0, 85.0}) {
+    boat.WindFrom = windFrom;
+    for (int second = 0; second < 3000; ++second) {
+      boat.Sail(m_settings.m_fAutoPilot, m_data);
+      m_loop.ControlStep();
+      ASSERT_GE(m_settings.m_fAutoPilot, 0.0F);
+      ASSERT_LT(m_settings.m_fAutoPilot, 360.0F);
+      if (second > 2500) {
+        ASSERT_LT(error(), 0.2) << "second " << second << " with the wind from " << windFrom;
+      }
+    }
+  }
+}
+
+TEST_P(ClosedLoop, TheBoatFollowsASteeringChange) {
+  const LoopCase& loop = GetParam();
+  ToyBoat boat;
+  boat.Response = loop.Response;
+  m_loop.Side(loop.Side);
+  m_settings.DesiredAngle[static_cast<std::size_t>(loop.Side)] = loop.Desired;
+  Track();
+  const auto sail = [&] {
+    for (int second = 0; second < 3000; ++second) {
+      boat.Sail(m_settings.m_fAutoPilot, m_data);
+      m_loop.ControlStep();
+    }
+  };
+  sail();
+  const double before = boat.Heading;
+  m_loop.TrackSteerTo(7.0F);
+  sail();
+  EXPECT_NEAR(std::remainder(boat.Heading - before, 360.0), 7.0, 0.3);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, ClosedLoop,
+    testing::Values(LoopCase{TrackSide::Apparent, 45.0F, 1.0}, LoopCase{TrackSide::Apparent, -40.0F, 0.5},
+                    LoopCase{TrackSide::Apparent, 100.0F, 0.3}, LoopCase{TrackSide::True, 92.0F, 1.0},
+                    LoopCase{TrackSide::True, -120.0F, 0.5}, LoopCase{TrackSide::True, 175.0F, 0.3}));
+
+}  // namespace
+}  // namespace veerwatch
