@@ -1,0 +1,80 @@
+// Feeds a fuzz target without a fuzzer: every file of the folders on the command line, then a fixed number of
+// mutations of them, the same at every run.
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <random>
+#include <string>
+#include <vector>
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+namespace {
+
+void Feed(const std::string& input) {
+  LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
+}
+
+/// One to eight changes: a byte, a cut, a repeated piece, or a piece of another input.
+std::string Mutated(std::string input, const std::vector<std::string>& corpus, std::mt19937& random) {
+  const auto below = [&random](std::size_t bound) { return bound == 0 ? 0 : random() % bound; };
+  for (std::size_t changes = 1 + below(8); changes > 0; --changes) {
+    const std::size_t at = below(input.size() + 1);
+    switch (below(4)) {
+      case 0:
+        if (at < input.size()) {
+          input[at] = static_cast<char>(below(256));
+        }
+        break;
+      case 1:
+        input.erase(at, below(16));
+        break;
+      case 2:
+        input.insert(at, input.substr(below(input.size() + 1), below(64)));
+        break;
+      default: {
+        const std::string& other = corpus[below(corpus.size())];
+        input.insert(at, other.substr(below(other.size() + 1), below(64)));
+      }
+    }
+  }
+  return input;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 3) {
+    std::fprintf(stderr, "usage: %s MUTATIONS FOLDER...\n", argv[0]);
+    return 2;
+  }
+  std::vector<std::filesystem::path> files;
+  for (int i = 2; i < argc; ++i) {
+    for (const auto& entry : std::filesystem::directory_iterator(argv[i])) {
+      files.push_back(entry.path());
+    }
+  }
+  std::sort(files.begin(), files.end());
+  std::vector<std::string> corpus;
+  for (const std::filesystem::path& file : files) {
+    std::ifstream stream(file, std::ios::binary);
+    corpus.emplace_back(std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>());
+    Feed(corpus.back());
+  }
+  if (corpus.empty()) {
+    std::fprintf(stderr, "no inputs\n");
+    return 2;
+  }
+  std::mt19937 random(20);
+  const int mutations = std::atoi(argv[1]);
+  for (int i = 0; i < mutations; ++i) {
+    Feed(Mutated(corpus[random() % corpus.size()], corpus, random));
+  }
+  std::printf("%zu inputs and %d mutations\n", corpus.size(), mutations);
+  return 0;
+}
