@@ -1,22 +1,10 @@
 #include "instruments/Simulator.h"
 
-#include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "instruments/MathLib.h"
 
 namespace veerwatch {
-
-namespace {
-
-/// Narrows a finite value; the record holds nothing that a single cannot.
-float ToFiniteSingle(double value) {
-  constexpr double kLargest = static_cast<double>(std::numeric_limits<float>::max());
-  return static_cast<float>(std::clamp(value, -kLargest, kLargest));
-}
-
-}  // namespace
 
 double Simulator::AngleNoise() {
   return static_cast<double>(
@@ -41,14 +29,13 @@ void Simulator::Tick() {
   data.WindSpeedTrue = m_settings.m_fSimulateTrueWindSpeed;
   WindApparentFromTrue(data.WindSpeedTrue, data.WindAngleTrue, data.BoatSpeed, data.WindSpeedApparent,
                        data.WindAngleApparent);
-  data.WindSpeedApparent = ToFiniteSingle(static_cast<double>(data.WindSpeedApparent));
 
   data.WindAngleApparent = FoldRelative(AngleNoise() + static_cast<double>(data.WindAngleApparent));
-  data.WindSpeedApparent = ToFiniteSingle(SpeedNoise() + static_cast<double>(data.WindSpeedApparent));
+  data.WindSpeedApparent = ToSingle(SpeedNoise() + static_cast<double>(data.WindSpeedApparent));
   m_record.WindApparentUpdate(data.WindAngleApparent, data.WindSpeedApparent, false);
 
   data.WindAngleTrue = FoldRelative(AngleNoise() + static_cast<double>(data.WindAngleTrue));
-  data.WindSpeedTrue = ToFiniteSingle(SpeedNoise() + static_cast<double>(data.WindSpeedTrue));
+  data.WindSpeedTrue = ToSingle(SpeedNoise() + static_cast<double>(data.WindSpeedTrue));
   m_record.WindTrueUpdate(data.WindAngleTrue, data.WindSpeedTrue, true);
 
   m_record.VariationUpdate(m_settings.m_fSimulateVariation);
