@@ -1,6 +1,7 @@
 #include "app/InstrumentPanelQt.h"
 
 #include <QEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <algorithm>
 #include <initializer_list>
@@ -126,9 +127,11 @@ void InstrumentPanelQt::Enable(const TrackControls& controls, TrackMode mode, Tr
   }
   lblAppWindAngle->setEnabled(controls.DesiredApparent);
   lblTrueWindAngle->setEnabled(controls.DesiredTrue);
-  m_mode = mode;
-  m_side = side;
-  update();
+  if (m_mode != mode || m_side != side) {
+    m_mode = mode;
+    m_side = side;
+    Repaint();
+  }
 }
 
 void InstrumentPanelQt::ShowAlarm(TrackSide side) {
@@ -221,7 +224,7 @@ void InstrumentPanelQt::Place() {
   const QFont narrow = Sized(font(), m_layout.ButtonText * 0.75, QFont::Bold);
   place(cmdAutoPilot[0], m_layout.AutoPilot.Port, narrow);
   place(cmdAutoPilot[1], m_layout.AutoPilot.Starboard, narrow);
-  update();
+  Repaint();
 }
 
 void InstrumentPanelQt::ApplyTheme() {
@@ -244,11 +247,28 @@ void InstrumentPanelQt::ApplyTheme() {
       box->setPalette(colours);
     }
   }
+  Repaint();
+}
+
+void InstrumentPanelQt::Repaint() {
+  m_ground = QPixmap();
   update();
 }
 
-void InstrumentPanelQt::paintEvent(QPaintEvent* /*event*/) {
+void InstrumentPanelQt::paintEvent(QPaintEvent* event) {
+  const qreal scale = devicePixelRatioF();
+  if (m_ground.isNull() || m_ground.devicePixelRatio() != scale) {
+    m_ground = QPixmap(size() * scale);
+    m_ground.setDevicePixelRatio(scale);
+    PaintGround();
+  }
   QPainter painter(this);
+  const QRectF area(event->rect());
+  painter.drawPixmap(area, m_ground, QRectF(area.topLeft() * scale, area.size() * scale));
+}
+
+void InstrumentPanelQt::PaintGround() {
+  QPainter painter(&m_ground);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillRect(rect(), m_theme.Window);
   const auto card = [&](const PanelBox& box, bool chosen) {

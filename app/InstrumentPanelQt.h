@@ -2,6 +2,7 @@
 // panel. Made and driven by frmMain; it knows no values of its own.
 #pragma once
 
+#include <QPixmap>
 #include <QWidget>
 #include <array>
 
@@ -62,9 +63,13 @@ class InstrumentPanelQt final : public QWidget {
   void OrderTabs();
   void Place();
   void ApplyTheme();
+  /// Draws the cards anew.
+  void Repaint();
+  void PaintGround();
 
   ThemeQt m_theme;
   PanelLayout m_layout;
+  QPixmap m_ground;  ///< the cards, drawn once; the values change over them
   TrackMode m_mode = TrackMode::Switching;
   TrackSide m_side = TrackSide::Apparent;
 };

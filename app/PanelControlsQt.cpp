@@ -6,6 +6,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <algorithm>
+#include <cmath>
 
 namespace veerwatch {
 
@@ -30,17 +31,6 @@ qreal TabularWidth(const QFontMetricsF& metrics, const QString& text) {
     width += character.isDigit() ? digit : metrics.horizontalAdvance(character);
   }
   return width;
-}
-
-void DrawTabular(QPainter& painter, QPointF baseline, const QString& text) {
-  const QFontMetricsF metrics(painter.font(), painter.device());
-  const qreal digit = metrics.horizontalAdvance(QLatin1Char('0'));
-  for (const QChar character : text) {
-    const qreal advance = metrics.horizontalAdvance(character);
-    const qreal cell = character.isDigit() ? digit : advance;
-    painter.drawText(baseline + QPointF((cell - advance) / 2.0, 0.0), QString(character));
-    baseline.rx() += cell;
-  }
 }
 
 /// Whether focus came from the keyboard, so that the user looks for it.
@@ -115,10 +105,39 @@ void ValueLabelQt::paintEvent(QPaintEvent* /*event*/) {
     textWidth = TabularWidth(metrics, shown);
   }
   const qreal right = std::max(textWidth, width() - metrics.capHeight() * kEdgeRoom);
-  painter.setFont(figures);
-  painter.setPen(m_alarm ? QColor(Qt::black) : isEnabled() ? m_text : m_dimmed);
-  DrawTabular(painter, {std::min<qreal>(right, width()) - textWidth, (height() + metrics.capHeight()) / 2.0},
-              shown);
+  const QColor colour = m_alarm ? QColor(Qt::black) : isEnabled() ? m_text : m_dimmed;
+  const qreal digit = metrics.horizontalAdvance(QLatin1Char('0'));
+  QPointF place(std::min<qreal>(right, width()) - textWidth,
+                std::round((height() + metrics.capHeight()) / 2.0 - metrics.ascent()));
+  for (const QChar character : shown) {
+    const qreal cell = character.isDigit() ? digit : metrics.horizontalAdvance(character);
+    painter.drawPixmap(place, Glyph(character, figures, colour, cell));
+    place.rx() += cell;
+  }
+}
+
+const QPixmap& ValueLabelQt::Glyph(QChar character, const QFont& font, const QColor& colour, qreal width) {
+  const qreal scale = devicePixelRatioF();
+  if (font != m_glyphFont || colour != m_glyphColour || scale != m_glyphScale) {
+    m_glyphs.clear();
+    m_glyphFont = font;
+    m_glyphColour = colour;
+    m_glyphScale = scale;
+  }
+  QPixmap& glyph = m_glyphs[character];
+  if (glyph.isNull()) {
+    const QFontMetricsF metrics(font);
+    const QSizeF size(std::ceil(std::max(1.0, width)), std::ceil(metrics.height()));
+    glyph = QPixmap((size * scale).toSize());
+    glyph.setDevicePixelRatio(scale);
+    glyph.fill(Qt::transparent);
+    QPainter painter(&glyph);
+    painter.setFont(font);
+    painter.setPen(colour);
+    painter.drawText(QPointF((width - metrics.horizontalAdvance(character)) / 2.0, metrics.ascent()),
+                     character);
+  }
+  return glyph;
 }
 
 // CaptionQt

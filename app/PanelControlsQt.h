@@ -3,8 +3,10 @@
 // change their size.
 #pragma once
 
+#include <QHash>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
 #include <functional>
@@ -37,10 +39,18 @@ class ValueLabelQt final : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  /// The picture of a character in the present font and colour, drawn once: characters of this size are
+  /// costly.
+  const QPixmap& Glyph(QChar character, const QFont& font, const QColor& colour, qreal width);
+
   QString m_pattern;
   QColor m_text;
   QColor m_dimmed;
   bool m_alarm = false;
+  QHash<QChar, QPixmap> m_glyphs;
+  QFont m_glyphFont;
+  QColor m_glyphColour;
+  qreal m_glyphScale = 0.0;
 };
 
 /// A line of small text, cut at the end where it is too long.
@@ -50,7 +60,7 @@ class CaptionQt final : public QLabel {
 
   void Colours(const QColor& text, const QColor& dimmed);
 
-  QSize minimumSizeHint() const override { return {0, 0}; }
+  QSize minimumSizeHint() const override { return sizeHint(); }
   QSize sizeHint() const override;
 
  protected:
