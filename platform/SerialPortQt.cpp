@@ -6,6 +6,7 @@
 #include <QThread>
 #include <filesystem>
 #include <system_error>
+#include <utility>
 
 #include "platform/LineErrorCountersLinux.h"
 #include "platform/PortNames.h"
@@ -55,7 +56,17 @@ bool DriverBusy(const QSerialPort& port) {
 
 }  // namespace
 
-SerialPortQt::SerialPortQt(const Profile& profile) : m_profile(profile), m_slot(*this) {
+std::unique_ptr<LineErrorCounters> SerialPortQt::DriverCounters(const QSerialPort& device) {
+#ifdef Q_OS_UNIX
+  return std::make_unique<LineErrorCountersLinux>(device.handle());
+#else
+  static_cast<void>(device);
+  return nullptr;
+#endif
+}
+
+SerialPortQt::SerialPortQt(const Profile& profile, CountersMaker makeCounters)
+    : m_profile(profile), m_makeCounters(std::move(makeCounters)), m_slot(*this) {
   m_port.setBaudRate(QSerialPort::Baud4800);
   m_port.setDataBits(QSerialPort::Data8);
   m_port.setParity(QSerialPort::NoParity);
@@ -104,9 +115,7 @@ bool SerialPortQt::Open() {
     return false;
   }
   m_open = true;
-#ifdef Q_OS_UNIX
-  m_counters = std::make_unique<LineErrorCountersLinux>(m_port.handle());
-#endif
+  m_counters = m_makeCounters(m_port);
   m_lineErrors.Restart();
   PollLineErrors();
   return true;

@@ -8,7 +8,7 @@
 
 #include <QSerialPort>
 #include <QTimer>
-#include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -22,8 +22,14 @@ namespace veerwatch {
 
 class SerialPortQt final : public SerialPort, private OutputSlot::Line {
  public:
+  /// Makes the counters of line errors for an open device; null for none.
+  using CountersMaker = std::function<std::unique_ptr<LineErrorCounters>(const QSerialPort& device)>;
+
+  /// The counters of the device's driver, where the system has them.
+  static std::unique_ptr<LineErrorCounters> DriverCounters(const QSerialPort& device);
+
   /// `profile` outlives the port.
-  explicit SerialPortQt(const Profile& profile);
+  explicit SerialPortQt(const Profile& profile, CountersMaker makeCounters = DriverCounters);
   ~SerialPortQt() override;
 
   SerialPortQt(const SerialPortQt&) = delete;
@@ -57,6 +63,7 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
   void Raise(int commEvent);
 
   const Profile& m_profile;
+  CountersMaker m_makeCounters;
   Events* m_events = nullptr;
   int m_number = 1;
   bool m_open = false;

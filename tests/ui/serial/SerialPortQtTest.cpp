@@ -13,6 +13,8 @@
 #include <QTest>
 #include <filesystem>
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -556,6 +558,63 @@ TEST_F(SerialPortQtTest, KeepsTwoPortsApart) {
   EXPECT_EQ(m_owner.Lost, 0);
   m_pty.Write("!");
   EXPECT_TRUE(Await([&] { return m_owner.Text == "one!"; }));
+}
+
+/// Counters that a test turns by hand.
+class HandCounters : public LineErrorCounters {
+ public:
+  explicit HandCounters(LineErrorCounts& counts) : m_counts(counts) {}
+  std::optional<LineErrorCounts> Read() override { return m_counts; }
+
+ private:
+  LineErrorCounts& m_counts;
+};
+
+class SerialPortQtLineErrors : public SerialPortQtTest {
+ protected:
+  SerialPortQtLineErrors()
+      : m_counting(m_profile,
+                   [this](const QSerialPort&) { return std::make_unique<HandCounters>(m_counts); }),
+        m_listener(m_counting) {
+    m_counting.CommPort(1);
+  }
+
+  LineErrorCounts m_counts{.Break = 3, .Frame = 1, .Overrun = 4, .Parity = 1, .BufferOverrun = 5};
+  SerialPortQt m_counting;
+  Owner m_listener;
+};
+
+TEST_F(SerialPortQtLineErrors, AreRaisedWhenAskedFor) {
+  ASSERT_TRUE(m_counting.PortOpen(true));
+  m_counting.PollLineErrors();
+  EXPECT_THAT(m_listener.Codes, IsEmpty());
+  m_counts.Frame += 2;
+  m_counting.PollLineErrors();
+  EXPECT_THAT(m_listener.Codes, ElementsAre(CommEvent::kFrame));
+  m_counting.PollLineErrors();
+  EXPECT_THAT(m_listener.Codes, ElementsAre(CommEvent::kFrame));
+}
+
+TEST_F(SerialPortQtLineErrors, AreRaisedBehindAReceiveEvent) {
+  ASSERT_TRUE(m_counting.PortOpen(true));
+  ++m_counts.Break;
+  ++m_counts.BufferOverrun;
+  m_pty.Write("x");
+  ASSERT_TRUE(Await([&] { return m_listener.Codes.size() >= 3; }));
+  EXPECT_THAT(m_listener.Codes, ElementsAre(CommEvent::kReceive, CommEvent::kBreak, CommEvent::kRxOver));
+}
+
+TEST_F(SerialPortQtLineErrors, OfTheTimeWhenThePortWasClosedAreNotRaised) {
+  ASSERT_TRUE(m_counting.PortOpen(true));
+  m_counting.PortOpen(false);
+  ++m_counts.Overrun;
+  m_counting.PollLineErrors();
+  ASSERT_TRUE(m_counting.PortOpen(true));
+  m_counting.PollLineErrors();
+  EXPECT_THAT(m_listener.Codes, IsEmpty());
+  ++m_counts.Parity;
+  m_counting.PollLineErrors();
+  EXPECT_THAT(m_listener.Codes, ElementsAre(CommEvent::kRxParity));
 }
 
 }  // namespace
