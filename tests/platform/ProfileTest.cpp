@@ -290,7 +290,7 @@ std::vector<std::string> StrangeContents() {
           "\xEF\xBB\xBF[S]\r\nK=1\r\n",
           "; comment\n\n  [S]  \n\tK = \"1\" ; behind\n\n[Unknown]\nother = value\n\n\n",
           "[S\nK=1\n]\n=\n=1\nK\n[]\n[]]\n",
-          std::string("a\0b\n[S]\nK\0=1\n\0", 15),
+          std::string("a\0b\n[S]\nK\0=1\n\0", 14),
           std::string(10000, '['),
           std::string(10000, '\n'),
           bytes,
