@@ -63,8 +63,8 @@ struct SteeringArguments {
 
 /// Says what went wrong, as one line whatever the names in it hold; gives the exit status.
 int Complain(std::string text) {
-  std::replace_if(
-      text.begin(), text.end(), [](unsigned char c) { return c < ' '; }, ' ');
+  const auto isControl = [](unsigned char c) { return c < ' '; };
+  std::replace_if(text.begin(), text.end(), isControl, ' ');
   std::cerr << "veerwatch-cli: " << text << '\n';
   return kExitBadCall;
 }
