@@ -130,16 +130,6 @@ std::optional<float> ToFloat(const Scanned& scanned) {
   return Convert<float>(scanned);
 }
 
-std::string_view Trim(std::string_view text) {
-  while (!text.empty() && IsBlank(text.front())) {
-    text.remove_prefix(1);
-  }
-  while (!text.empty() && IsBlank(text.back())) {
-    text.remove_suffix(1);
-  }
-  return text;
-}
-
 /// Longest text of a single without exponent: sign, 39 integer digits or "0." and 45 decimals and more.
 using Digits = std::array<char, 128>;
 
@@ -167,6 +157,16 @@ void RoundUp(std::string& text) {
 }
 
 }  // namespace
+
+std::string_view Trim(std::string_view text) {
+  while (!text.empty() && IsBlank(text.front())) {
+    text.remove_prefix(1);
+  }
+  while (!text.empty() && IsBlank(text.back())) {
+    text.remove_suffix(1);
+  }
+  return text;
+}
 
 std::string FormatNumber(float value, std::string_view pattern) {
   if (!std::isfinite(value)) {

@@ -7,6 +7,9 @@
 
 namespace veerwatch {
 
+/// `text` without the blanks and tabs at its ends.
+std::string_view Trim(std::string_view text);
+
 /// `value` by a pattern of zeros with at most one point, as "0", "0.0", "0.00", "000.0", "00" or ".0": the
 /// zeros before the point are the least number of integer digits, those after it the exact number of
 /// decimals. Rounds the shortest decimal text of the single, halves away from zero (5.25 gives "5.3"), and
