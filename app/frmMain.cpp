@@ -5,6 +5,8 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
 
 #include "app/IconsQt.h"
@@ -19,6 +21,9 @@ constexpr int kTimerInterval = 1000;  // [ms]
 constexpr QSize kDefaultSize(1160, 760);
 constexpr QSize kSmallestSize(320, 220);
 constexpr int kPanelMargin = 10;  // [px]
+// Height of the status texts [px] at the default size of the window, and at the least.
+constexpr double kStatusTextHeight = 18.0;
+constexpr int kLeastStatusTextHeight = 11;
 /// Part of the screen that the window takes at most.
 constexpr double kScreenShare = 0.96;
 
@@ -193,6 +198,12 @@ void frmMain::closeEvent(QCloseEvent* event) {
 void frmMain::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   m_tbrTrack->Fit(size());
+  QFont status = font();
+  status.setPixelSize(std::max(kLeastStatusTextHeight,
+                               static_cast<int>(std::lround(kStatusTextHeight * WindowScale(size())))));
+  for (QLabel* panel : m_status) {
+    panel->setFont(status);
+  }
 }
 
 void frmMain::changeEvent(QEvent* event) {

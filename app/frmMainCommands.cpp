@@ -104,9 +104,13 @@ void frmMainModeBar::Theme(const ThemeQt& theme) {
   Dress();
 }
 
+double WindowScale(const QSize& window) {
+  return std::min(window.width() / kDesignWidth, window.height() / kDesignHeight);
+}
+
 void frmMainModeBar::Fit(const QSize& window) {
-  const double scale = std::min(window.width() / kDesignWidth, window.height() / kDesignHeight);
-  const int height = std::max(kLeastTextHeight, static_cast<int>(std::lround(kTextHeight * scale)));
+  const int height =
+      std::max(kLeastTextHeight, static_cast<int>(std::lround(kTextHeight * WindowScale(window))));
   if (height != m_textHeight) {
     m_textHeight = height;
     Dress();

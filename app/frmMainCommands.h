@@ -30,6 +30,9 @@ struct frmMainMenu {
   explicit frmMainMenu(QMainWindow& window);
 };
 
+/// How much larger than at its default size everything in a main window of this size is drawn.
+double WindowScale(const QSize& window);
+
 /// The bar of the four modes across the window: the one that is on is filled, to be read from a distance.
 class frmMainModeBar final : public QToolBar {
  public:
