@@ -12,7 +12,7 @@ case $target in
   *) echo "fuzz.sh: no target \"$target\": helm or profile" >&2; exit 2 ;;
 esac
 mkdir -p "build/fuzz/corpus-$target"
-core=$(ls platform/*.cpp instruments/*.cpp nmea/*.cpp control/*.cpp app/Helm.cpp app/SettingsProfile.cpp |
+core=$(printf '%s\n' platform/*.cpp instruments/*.cpp nmea/*.cpp control/*.cpp app/Helm.cpp app/SettingsProfile.cpp |
   grep -v 'Qt\.cpp$' | grep -v '/frm')
 # shellcheck disable=SC2086
 clang++ -std=c++20 -O1 -g -I. -fsanitize=fuzzer,address,undefined -fno-sanitize-recover=all \
