@@ -83,7 +83,8 @@ class PolarTable {
 
  private:
   static std::size_t Index(int slot, int row, int column) {
-    return static_cast<std::size_t>((slot * (kMostRows + 1) + row) * (kMostColumns + 1) + column);
+    const int cell = (slot * (kMostRows + 1) + row) * (kMostColumns + 1) + column;
+    return static_cast<std::size_t>(cell);
   }
 
   std::vector<float> m_values;
