@@ -175,7 +175,7 @@ EntryBoxQt::EntryBoxQt(const QString& name, const QString& pattern, QWidget* par
 }
 
 void EntryBoxQt::Follow(const QString& text) {
-  if (!(hasFocus() && Edited())) {
+  if (!Edited()) {
     Show(text);
   }
 }

@@ -71,8 +71,8 @@ class CaptionQt final : public QLabel {
   QColor m_dimmed;
 };
 
-/// A box for one number. Enter takes the text and goes no further; leaving the box takes a text that was
-/// edited.
+/// A box for one number. Enter takes the text and goes no further. Deliberate: leaving the box takes only a
+/// text that was edited, so that the rounded text does not overwrite the value behind it.
 class EntryBoxQt final : public QLineEdit {
  public:
   EntryBoxQt(const QString& name, const QString& pattern, QWidget* parent);

@@ -18,7 +18,6 @@ namespace veerwatch {
 namespace {
 
 constexpr int kTimerInterval = 1000;  // [ms]
-constexpr QSize kDefaultSize(1160, 760);
 constexpr QSize kSmallestSize(320, 220);
 constexpr int kPanelMargin = 10;  // [px]
 // Height of the status texts [px] at the default size of the window, and at the least.
@@ -57,7 +56,7 @@ frmMain::frmMain(const MainWindowParts& parts)
   setWindowIcon(ProgramIcon());
   setCentralWidget(m_panel);
   setMinimumSize(kSmallestSize);
-  QSize size = kDefaultSize;
+  QSize size = kDesignSize;
   if (const QScreen* display = screen()) {
     size = size.boundedTo(display->availableSize() * kScreenShare);
   }
@@ -116,6 +115,7 @@ void frmMain::ConnectControls() {
 void frmMain::ConnectKeys() {
   for (const auto& [key, index] : {std::pair{Qt::Key_Left, 1}, std::pair{Qt::Key_Right, 2}}) {
     auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | key), this);
+    shortcut->setAutoRepeat(false);
     connect(shortcut, &QShortcut::activated, this, [this, pressed = index] { NudgeKey(pressed); });
   }
 }
@@ -154,16 +154,27 @@ void frmMain::ProfileRecall(bool recall) {
 void frmMain::CloseUnasked() {
   m_ask = false;
   if (QWidget* question = QApplication::activeModalWidget()) {
-    // The close that asks goes on behind its question.
     question->close();
-    return;
   }
-  close();
+  // The close that asks goes on behind its question.
+  if (!m_asking) {
+    close();
+  }
 }
 
 void frmMain::tmrUnload_Timer() {
   m_parts.tmrUnload.Enabled(false);
   close();
+}
+
+bool frmMain::StopTracking() {
+  // Deliberate: "is current tracking".
+  m_asking = true;
+  const bool yes =
+      m_parts.Asks.AskYesNo(std::string(kApplicationTitle) + " - Closing",
+                            "Veerwatch is current tracking the wind.\rDo you wish to stop tracking?");
+  m_asking = false;
+  return yes || !m_ask;
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
@@ -172,10 +183,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     return;
   }
   const bool tracking = m_tbrTrack->Button(TrackMode::Track)->isChecked();
-  if (m_ask && tracking &&
-      !m_parts.Asks.AskYesNo(std::string(kApplicationTitle) + " - Closing",
-                             "Veerwatch is current tracking the wind.\rDo you wish to stop tracking?") &&
-      m_ask) {
+  if (m_ask && tracking && !StopTracking()) {
     event->ignore();
     return;
   }
@@ -186,6 +194,11 @@ void frmMain::closeEvent(QCloseEvent* event) {
     m_parts.tmrUnload.Enabled(true);
     event->ignore();
     return;
+  }
+  // What was edited in the file meanwhile stays.
+  Profile present;
+  if (present.Load(m_sProfileFile) == Profile::LoadResult::Read) {
+    m_parts.Store = std::move(present);
   }
   ProfileWrite(m_parts.Store, *this, *this);
   if (const auto failure = m_parts.Store.Commit(m_sProfileFile)) {
@@ -216,6 +229,11 @@ void frmMain::changeEvent(QEvent* event) {
 // What the user does
 
 void frmMain::tbrTrack_ButtonClick(TrackMode mode) {
+  // A box that is being typed in is left first, in the mode that it was typed in; and no control that the new
+  // mode disables hands the keyboard on to whatever comes next.
+  if (m_panel->isAncestorOf(focusWidget())) {
+    m_panel->setFocus();
+  }
   switch (mode) {
     case TrackMode::Off:
       TrackSetOff();

@@ -73,6 +73,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   static constexpr int kInputPanel = 2;
   static constexpr int kOutputPanel = 3;
 
+  /// Asks; true when the close may go on.
+  bool StopTracking();
   void MakeStatusBar();
   void ConnectControls();
   void ConnectKeys();
@@ -113,6 +115,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   std::array<QLabel*, 3> m_status{};
   Helm m_helm;
   bool m_ask = true;        ///< a close still has to ask
+  bool m_asking = false;    ///< the question of the close is open
   bool m_unloaded = false;  ///< the profile is written, everything is closed
 };
 

@@ -30,13 +30,11 @@ constexpr std::array<ModeButton, 4> kModes{{
     {TrackMode::Track, "Track", "track", "Track, adjust desired wind angle to fine tuning", Qt::Key_F8},
 }};
 
-// Height of the mode texts [px] and the window that it is drawn for.
+// Height of the mode texts [px] at the window's design size, and at the least.
 constexpr double kTextHeight = 26.0;
 constexpr int kLeastTextHeight = 9;
 /// Left over beside the buttons [px], lest the bar folds one away.
 constexpr int kSlack = 2;
-constexpr double kDesignWidth = 1160.0;
-constexpr double kDesignHeight = 760.0;
 
 /// A new command in `menu`.
 QAction* Command(QMainWindow& window, QMenu* menu, const char* name, const char* text, bool enabled) {
@@ -85,7 +83,9 @@ frmMainModeBar::frmMainModeBar(QMainWindow& window) : QToolBar(&window), m_theme
     QAction* action = addAction(QLatin1String(mode.Text));
     action->setObjectName(QStringLiteral("tbrTrack(%1)").arg(static_cast<int>(mode.Mode)));
     action->setToolTip(QLatin1String(mode.ToolTip));
+    action->setData(QLatin1String(mode.Text));
     action->setShortcut(QKeySequence(mode.Key));
+    action->setAutoRepeat(false);
     action->setCheckable(true);
     group->addAction(action);
     m_buttons[mode.Mode] = action;
@@ -105,7 +105,8 @@ void frmMainModeBar::Theme(const ThemeQt& theme) {
 }
 
 double WindowScale(const QSize& window) {
-  return std::min(window.width() / kDesignWidth, window.height() / kDesignHeight);
+  return std::min(static_cast<double>(window.width()) / kDesignSize.width(),
+                  static_cast<double>(window.height()) / kDesignSize.height());
 }
 
 void frmMainModeBar::Fit(const QSize& window) {

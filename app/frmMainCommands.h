@@ -30,6 +30,9 @@ struct frmMainMenu {
   explicit frmMainMenu(QMainWindow& window);
 };
 
+/// Size at which the window starts where the screen allows [px].
+inline constexpr QSize kDesignSize(1160, 760);
+
 /// How much larger than at its default size everything in a main window of this size is drawn.
 double WindowScale(const QSize& window);
 

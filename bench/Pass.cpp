@@ -71,8 +71,9 @@ PassResult PathPass::Run(std::string_view bytes) {
 
 void PathPass::OnNmeaData(std::string_view line, bool /*used*/) {
   ++m_result.Lines;
-  m_result.Unsupported +=
-      CheckFrame(line) == Frame::Good && SentenceTypeOf(line) == SentenceType::Other ? 1U : 0U;
+  // The receiver marks a line whose frame is bad; it counts as that alone.
+  const bool badFrame = line.ends_with(">>");
+  m_result.Unsupported += !badFrame && SentenceTypeOf(line) == SentenceType::Other ? 1U : 0U;
 }
 
 void PathPass::OnNmeaError(std::string_view /*text*/) { ++m_result.Bad; }

@@ -25,6 +25,10 @@ void Replay(const ReplayOptions& options, std::istream& log, std::ostream& out) 
     } else if (!steering.PilotSentence().empty()) {
       out << steering.PilotSentence() << "\r\n";
     }
+    // Whoever feeds line by line sees the answer at once.
+    if (log.rdbuf()->in_avail() <= 0) {
+      out.flush();
+    }
   }
 }
 

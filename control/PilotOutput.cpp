@@ -18,11 +18,14 @@ PilotOutput::PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialP
   m_pilotPort.Connect(this);
 }
 
-void PilotOutput::PilotStart() {
-  const bool wrongPort = m_pilotPort.PortOpen() && m_pilotPort.CommPort() != m_settings.m_iPilotPort;
-  if (m_settings.m_bSimulate || !OwnPort() || wrongPort) {
+void PilotOutput::PilotRelease() {
+  if (m_settings.m_bSimulate || !OwnPort() || m_pilotPort.CommPort() != m_settings.m_iPilotPort) {
     m_pilotPort.PortOpen(false);
   }
+}
+
+void PilotOutput::PilotStart() {
+  PilotRelease();
   if (!m_started) {
     m_started = true;
     m_ticks = 0;
@@ -42,6 +45,9 @@ void PilotOutput::PilotStart() {
 void PilotOutput::PilotStop() {
   m_started = false;
   m_pilotPort.PortOpen(false);
+  if (m_notOpenShown) {
+    Status("");
+  }
 }
 
 void PilotOutput::OpenPort() {

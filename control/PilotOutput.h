@@ -25,6 +25,10 @@ class PilotOutput final : public SerialPort::Events {
 
   PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Listener& listener);
 
+  /// Closes the pilot port where it is not needed or has another number than it should, so that the device is
+  /// free for the instruments.
+  void PilotRelease();
+
   /// Opens the pilot port where it is needed. One that cannot be opened is shown as "Output Port n Not Open"
   /// and tried again at every fourth tick.
   void PilotStart();
@@ -37,8 +41,8 @@ class PilotOutput final : public SerialPort::Events {
   /// bearing that is not finite is not sent. Without an open port the sentence only reaches the listener.
   void PilotSend(float bearing);
 
-  /// Every event of the pilot port is shown on the output panel. Characters that arrive are read off and
-  /// dropped, and shown as "Receive Error".
+  /// Every event of the pilot port is shown on the output panel. Deliberate: characters that arrive are read
+  /// off and dropped, and shown as "Receive Error".
   void OnComm(int commEvent) override;
   void OnPortLost() override;
 

@@ -6,8 +6,8 @@
 namespace veerwatch {
 
 /// Writes the autopilot sentence B for `bearing` [deg magnetic, [0, 360], finite] into `sentence`, without a
-/// line end. The same bearing text, with at least three digits and one decimal, stands in all three bearing
-/// fields.
+/// line end. Deliberate: a bearing from 359.95 on is written "360.0". The same bearing text, with at least
+/// three digits and one decimal, stands in all three bearing fields.
 ///
 ///     $ECAPB,A,A,0.00,R,N,V,V,245.0,M,1,245.0,M,245.0,M*hh
 ///            1 2 3    4 5 6 7 8     9 10 11   12 13   14

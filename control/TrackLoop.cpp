@@ -88,6 +88,18 @@ void TrackLoop::TrackSteerTo(float change) {
   if (m_settings.m_eTrackMode != TrackMode::Track || !std::isfinite(change)) {
     return;
   }
+  if (m_data.WindApparentValid && m_data.WindTrueValid) {
+    TurnHeldWind(change);
+  } else {
+    SetDesired(m_side, static_cast<double>(Desired(m_side)) - static_cast<double>(change));
+  }
+  SetAutoPilot(static_cast<double>(m_settings.m_fAutoPilot) + static_cast<double>(change));
+  m_listener.OnAutoPilot(m_settings.m_fAutoPilot);
+  m_trackIntegral = 0.0;
+  ShowDesired();
+}
+
+void TrackLoop::TurnHeldWind(float change) {
   float speed = 0.0F;
   float trueAngle = Desired(TrackSide::True);
   if (m_side == TrackSide::Apparent) {
@@ -98,11 +110,6 @@ void TrackLoop::TrackSteerTo(float change) {
   float apparent = 0.0F;
   WindApparentFromTrue(m_data.WindSpeedTrue, Desired(TrackSide::True), m_data.BoatSpeed, speed, apparent);
   SetDesired(TrackSide::Apparent, static_cast<double>(apparent));
-
-  SetAutoPilot(static_cast<double>(m_settings.m_fAutoPilot) + static_cast<double>(change));
-  m_listener.OnAutoPilot(m_settings.m_fAutoPilot);
-  m_trackIntegral = 0.0;
-  ShowDesired();
 }
 
 void TrackLoop::SetAutoPilot(double bearing) {

@@ -39,6 +39,8 @@ class TrackLoop {
 
   /// Moves the held wind angle by -`change` and the bearing by `change` [deg, positive to starboard], and
   /// zeroes the accumulator. Only in Track, and only for a finite change.
+  /// Deliberate: while a wind is not valid only the angle of the tracked side moves, as the other has nothing
+  /// to follow from.
   void TrackSteerTo(float change);
 
   /// Takes a bearing [deg magnetic, any turn], folded. One that is not finite changes nothing.
@@ -62,6 +64,7 @@ class TrackLoop {
  private:
   float& Desired(TrackSide side) { return m_settings.DesiredAngle[static_cast<std::size_t>(side)]; }
   void Control(float error);
+  void TurnHeldWind(float change);
   void TestAlarm(float error);
   void ShowDesired() { m_listener.OnDesired(m_settings.DesiredAngle[1], m_settings.DesiredAngle[2]); }
 

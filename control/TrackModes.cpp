@@ -21,6 +21,7 @@ void TrackModes::TrackSetOff() {
 
 void TrackModes::TrackSetSetup() {
   Leave();
+  m_pilot.PilotRelease();
   m_receiver.NmeaStart();
   m_pilot.PilotStart();
   Enter(TrackMode::Setup);

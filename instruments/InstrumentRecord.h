@@ -35,7 +35,7 @@ class InstrumentRecord {
   /// sample. Deliberate: the variation and its flag stay, and no value is zeroed.
   void Restart();
 
-  /// `Heading` [deg magnetic, any turn].
+  /// `Heading` [deg magnetic, any turn]. Deliberate: the first smoothed heading is the first sample unfolded.
   void HeadingUpdate(float Heading);
   /// `BoatSpeed` [kn].
   void BoatSpeedUpdate(float BoatSpeed);

@@ -4,7 +4,7 @@
 
 namespace veerwatch {
 
-/// Pi with the fourteen decimals that every conversion here uses.
+/// Pi as every conversion here uses it. Deliberate: fourteen decimals, not the nearest double.
 inline constexpr double kPi = 3.14159265358979;
 
 /// Angle of the vector (X, Y) [rad, [-pi, pi]]; the cosine component comes first.

@@ -16,8 +16,9 @@ class Simulator {
 
   /// One second of simulated sailing: the updates of the record, then the polar window, then the control
   /// step. Draws four random numbers: angle and speed noise of the apparent wind, then of the true wind.
-  /// Deliberate: the steps that follow make no validity tests, and the polar window comes before the control
-  /// step (after a wind sentence it comes behind).
+  /// Deliberate: the simulated true wind is not smoothed, as the record's value is overwritten before it is
+  /// averaged with itself; the steps that follow make no validity tests, and the polar window comes before
+  /// the control step (after a wind sentence it comes behind).
   void Tick();
 
   /// Moves the boat along the autopilot bearing from m_fSimulateTime to `Time` [h] at the simulated speed,

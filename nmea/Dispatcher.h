@@ -21,6 +21,7 @@ class Dispatcher {
   Dispatcher(const Settings& settings, InstrumentRecord& record) : m_settings(settings), m_record(record) {}
 
   /// Routes one line whose frame is good. A disabled type or one that is not known changes nothing.
+  /// Deliberate: what an incomplete sentence did hold is used.
   Outcome Dispatch(std::string_view line);
 
  private:

@@ -48,6 +48,9 @@ void NmeaReceiver::NmeaStop() {
   m_started = false;
   m_timer.Enabled(false);
   m_port.PortOpen(false);
+  if (m_notOpenShown) {
+    Status("");
+  }
   m_listener.OnInputState("Stopped");
 }
 

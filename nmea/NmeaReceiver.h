@@ -45,8 +45,8 @@ class NmeaReceiver final : public SerialPort::Events {
   /// open.
   void Tick();
 
-  /// True while a receive event is being handled; an event that arrives meanwhile is dropped, its characters
-  /// are read with the next one.
+  /// True while a receive event is being handled. Deliberate: an event that arrives meanwhile is dropped, its
+  /// characters are read with the next one, but the watchdog counts it.
   bool Receiving() const { return m_receiving; }
 
   /// True between NmeaStart and NmeaStop.

@@ -38,8 +38,9 @@ std::error_code WriteNew(const std::filesystem::path& file, std::string_view con
   }
   std::error_code error;
   struct stat status {};
-  if (::stat(old.c_str(), &status) == 0 && ::fchmod(descriptor, status.st_mode & 07777U) != 0) {
-    error = LastError();
+  if (::stat(old.c_str(), &status) == 0) {
+    // Some file systems keep no permissions; the content matters more.
+    static_cast<void>(::fchmod(descriptor, status.st_mode & 07777U));
   }
   while (!error && !content.empty()) {
     const ssize_t written = ::write(descriptor, content.data(), content.size());

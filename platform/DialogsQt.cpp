@@ -19,7 +19,8 @@ bool DialogsQt::AskYesNo(const std::string& title, const std::string& text) {
 void DialogsQt::Beep() { QApplication::beep(); }
 
 void DialogsQt::ToForeground() {
-  if (!m_window || m_window->isActiveWindow()) {
+  // Behind an open question the window is where it should be.
+  if (!m_window || m_window->isActiveWindow() || QApplication::activeModalWidget() != nullptr) {
     return;
   }
   m_window->setWindowState(m_window->windowState() & ~Qt::WindowMinimized);

@@ -4,7 +4,7 @@
 #include <cctype>
 #include <cmath>
 #include <fstream>
-#include <sstream>
+#include <utility>
 
 #include "platform/AtomicFile.h"
 #include "platform/NumberText.h"
@@ -59,13 +59,31 @@ std::string Written(std::string_view value) {
   return text;
 }
 
+/// Every byte of a file, or nothing when any of them cannot be read.
+std::optional<std::string> ReadWhole(const std::filesystem::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream.is_open()) {
+    return std::nullopt;
+  }
+  std::string bytes;
+  constexpr std::size_t kChunk = 4096;
+  while (stream.good() && bytes.size() <= Profile::kLargestFile) {
+    const std::size_t held = bytes.size();
+    bytes.resize(held + kChunk);
+    stream.read(bytes.data() + held, static_cast<std::streamsize>(kChunk));
+    bytes.resize(held + static_cast<std::size_t>(stream.gcount()));
+  }
+  return stream.bad() || bytes.size() > Profile::kLargestFile ? std::nullopt
+                                                              : std::optional(std::move(bytes));
+}
+
 }  // namespace
 
 Profile::LoadResult Profile::Load(const std::filesystem::path& file) {
   *this = Profile();
   std::error_code error;
   const auto status = std::filesystem::status(file, error);
-  if (!std::filesystem::exists(status)) {
+  if (status.type() == std::filesystem::file_type::not_found) {
     return LoadResult::Missing;
   }
   m_unreadable = true;
@@ -73,14 +91,12 @@ Profile::LoadResult Profile::Load(const std::filesystem::path& file) {
       error) {
     return LoadResult::Unreadable;
   }
-  std::ifstream stream(file, std::ios::binary);
-  std::ostringstream bytes;
-  bytes << stream.rdbuf();
-  if (!stream.is_open() || stream.bad()) {
+  const std::optional<std::string> bytes = ReadWhole(file);
+  if (!bytes) {
     return LoadResult::Unreadable;
   }
   m_unreadable = false;
-  const std::string content = bytes.str();
+  const std::string& content = *bytes;
   for (std::size_t at = 0; at < content.size();) {
     const std::size_t end = std::min(content.find_first_of("\r\n", at), content.size());
     const std::size_t endSize = content.compare(end, 2, "\r\n") == 0 ? 2 : (end < content.size() ? 1 : 0);
@@ -238,8 +254,10 @@ std::string Profile::Content() const {
 std::optional<std::string> Profile::Commit(const std::filesystem::path& file) const {
   if (m_unreadable) {
     std::filesystem::path aside = file;
-    aside += ".unreadable";
     std::error_code error;
+    do {
+      aside += ".unreadable";
+    } while (std::filesystem::exists(std::filesystem::symlink_status(aside, error)));
     std::filesystem::rename(file, aside, error);
     if (error) {
       return "cannot put " + file.string() + " aside: " + error.message();

@@ -352,6 +352,23 @@ TEST_F(TrackLoopTest, SteeringOnTheApparentSideGoesThroughTheTrueWind) {
   EXPECT_EQ(m_loop.TrackIntegral(), 0.0);
 }
 
+TEST_F(TrackLoopTest, SteeringWithoutBothWindsMovesTheTrackedSideAlone) {
+  for (const bool apparentValid : {false, true}) {
+    m_data.WindApparentValid = apparentValid;
+    m_data.WindTrueValid = false;
+    for (const TrackSide side : {TrackSide::Apparent, TrackSide::True}) {
+      m_settings.DesiredAngle = {0.0F, 45.0F, 92.0F};
+      m_settings.m_fAutoPilot = 100.0F;
+      m_loop.Side(side);
+      Track();
+      m_loop.TrackSteerTo(5.0F);
+      EXPECT_EQ(Apparent(), side == TrackSide::Apparent ? 40.0F : 45.0F);
+      EXPECT_EQ(True(), side == TrackSide::True ? 87.0F : 92.0F);
+      EXPECT_EQ(m_settings.m_fAutoPilot, 105.0F);
+    }
+  }
+}
+
 TEST_F(TrackLoopTest, SteeringToPortTurnsTheBearingToPort) {
   Track();
   m_settings.m_fAutoPilot = 0.5F;

@@ -45,6 +45,43 @@ TEST_F(TrackModesTest, SetupStartsTheInputAndSeesToThePilotPort) {
   EXPECT_THAT(m_view.Only({"OnTrackMode"}), ElementsAre("OnTrackMode 3"));
 }
 
+TEST_F(TrackModesTest, SetupFreesTheDeviceThatTheInstrumentsAreToHave) {
+  m_nmeaPort.Other = &m_pilotPort;
+  m_pilotPort.Other = &m_nmeaPort;
+  m_settings.m_iNmeaPort = 3;
+  m_settings.m_iPilotPort = 5;
+  m_modes.TrackSetSetup();
+  m_settings.m_iNmeaPort = 5;
+  m_modes.TrackSetSetup();
+  EXPECT_TRUE(m_nmeaPort.PortOpen());
+  EXPECT_EQ(m_nmeaPort.CommPort(), 5);
+  EXPECT_FALSE(m_pilotPort.PortOpen());
+}
+
+TEST_F(TrackModesTest, SetupSwapsTheDevices) {
+  m_nmeaPort.Other = &m_pilotPort;
+  m_pilotPort.Other = &m_nmeaPort;
+  m_settings.m_iNmeaPort = 3;
+  m_settings.m_iPilotPort = 5;
+  m_modes.TrackSetSetup();
+  std::swap(m_settings.m_iNmeaPort, m_settings.m_iPilotPort);
+  m_modes.TrackSetSetup();
+  EXPECT_TRUE(m_nmeaPort.PortOpen());
+  EXPECT_EQ(m_nmeaPort.CommPort(), 5);
+  EXPECT_TRUE(m_pilotPort.PortOpen());
+  EXPECT_EQ(m_pilotPort.CommPort(), 3);
+}
+
+TEST_F(TrackModesTest, OffTakesBackThatAPortIsNotOpen) {
+  m_nmeaPort.OpensOtherwise = false;
+  m_pilotPort.OpensOtherwise = false;
+  m_modes.TrackSetSetup();
+  m_view.Take();
+  m_modes.TrackSetOff();
+  EXPECT_EQ(m_view.Count("OnInputStatus"), 1U);
+  EXPECT_EQ(m_view.Count("OnOutputStatus"), 1U);
+}
+
 TEST_F(TrackModesTest, ManualSeesToThePilotPortOnly) {
   m_modes.TrackSetManual();
   EXPECT_EQ(m_settings.m_eTrackMode, TrackMode::Manual);

@@ -517,6 +517,26 @@ TEST_F(ProfileTest, PutsAFileThatItCouldNotReadAsideFirst) {
   EXPECT_THAT(m_folder.Names(), UnorderedElementsAre("Veerwatch.ini", "Veerwatch.ini.unreadable"));
 }
 
+TEST_F(ProfileTest, PutsEveryFileThatItCouldNotReadAsideUnderANameOfItsOwn) {
+  const std::string large(Profile::kLargestFile + 1, ';');
+  for (const char* mark : {"first", "second"}) {
+    WriteFile(m_file, large + mark);
+    Profile profile;
+    ASSERT_EQ(profile.Load(m_file), Profile::LoadResult::Unreadable);
+    EXPECT_EQ(profile.Commit(m_file), std::nullopt);
+  }
+  EXPECT_EQ(ReadFile(m_folder / "Veerwatch.ini.unreadable"), large + "first");
+  EXPECT_EQ(ReadFile(m_folder / "Veerwatch.ini.unreadable.unreadable"), large + "second");
+}
+
+#ifdef __linux__
+TEST_F(ProfileTest, AFileWithAReadErrorIsUnreadable) {
+  Profile profile;
+  EXPECT_EQ(profile.Load("/proc/self/mem"), Profile::LoadResult::Unreadable);
+  EXPECT_EQ(profile.Content(), "");
+}
+#endif
+
 TEST_F(ProfileTest, WhatWasCommittedReadsBackTheSame) {
   Profile profile;
   profile.ProfileSet("Track", "Alarm", false);

@@ -25,9 +25,10 @@ class ScriptedPort final : public SerialPort {
 
   // What the test scripts.
 
-  std::deque<bool> OpenResults;        ///< results of the next tries to open; then OpensOtherwise
-  bool OpensOtherwise = true;          ///< result of a try to open behind the scripted ones
-  std::vector<int> LineErrorsWaiting;  ///< events that the next PollLineErrors raises
+  std::deque<bool> OpenResults;         ///< results of the next tries to open; then OpensOtherwise
+  bool OpensOtherwise = true;           ///< result of a try to open behind the scripted ones
+  const ScriptedPort* Other = nullptr;  ///< a port that, while open, holds its device against this one
+  std::vector<int> LineErrorsWaiting;   ///< events that the next PollLineErrors raises
 
   /// Characters arrive and the receive event is raised.
   void Receive(std::string_view bytes) {
@@ -74,7 +75,8 @@ class ScriptedPort final : public SerialPort {
   bool PortOpen(bool open) override {
     if (open && !m_open) {
       OpenedNumbers.push_back(m_number);
-      m_open = NextOpenResult();
+      const bool held = Other != nullptr && Other->m_open && Other->m_number == m_number;
+      m_open = !held && NextOpenResult();
       return m_open;
     }
     m_open = open;

@@ -173,6 +173,14 @@ TEST_F(MainWindowClose, AProfileThatCannotBeReadStartsWithTheDefaults) {
   EXPECT_TRUE(Window->close());
 }
 
+TEST_F(MainWindowClose, KeepsWhatWasEditedInTheProfileMeanwhile) {
+  Start(kOnPorts);
+  WriteProfile("; by hand\n[Ports]\n3=/dev/ttyUSB0\n[Nmea]\nPort=9\n");
+  EXPECT_TRUE(Window->close());
+  const std::string content = ReadProfile();
+  EXPECT_EQ(content.find("; by hand\n[Ports]\n3=/dev/ttyUSB0\n[Nmea]\nPort=3\n"), 0U) << content;
+}
+
 TEST_F(MainWindowClose, SurvivesAProfileThatCannotBeWritten) {
   Start(kOnPorts);
   Window->m_sProfileFile = "/dev/null/nowhere/Veerwatch.ini";

@@ -1,5 +1,7 @@
 // Entry boxes and nudges of the main window.
 
+#include <QShortcut>
+
 #include "tests/ui/MainWindowTester.h"
 
 namespace veerwatch {
@@ -155,6 +157,42 @@ TEST_F(MainWindowEntry, NudgeKeysWorkOnWhatAnswers) {
   Mode(1);
   QTest::keyClick(Window.get(), Qt::Key_Left, Qt::AltModifier);
   EXPECT_EQ(Window->m_fAutoPilot, 100.0F);
+}
+
+TEST_F(MainWindowEntry, AHeldNudgeKeyTurnsOnce) {
+  Start(kOnPorts);
+  QTest::keyPress(Window.get(), Qt::Key_Right, Qt::AltModifier);
+  ASSERT_EQ(Window->m_fAutoPilot, 101.0F);
+  for (const QShortcut* shortcut : Window->findChildren<QShortcut*>()) {
+    EXPECT_FALSE(shortcut->autoRepeat()) << shortcut->key().toString().toStdString();
+  }
+  for (const int mode : {1, 3, 5, 7}) {
+    const auto name = QStringLiteral("tbrTrack(%1)").arg(mode).toLatin1();
+    EXPECT_FALSE(Find<QAction>(name.constData()).autoRepeat()) << mode;
+  }
+}
+
+TEST_F(MainWindowEntry, AModeButtonTakesWhatWasTypedBeforeItSwitches) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("30", "40"));
+  Mode(5);
+  Type("txtAutoPilot", "275");
+  Mode(7);
+  EXPECT_EQ(Window->m_eTrackMode, TrackMode::Track);
+  EXPECT_EQ(Window->m_fAutoPilot, 275.0F);
+  EXPECT_EQ(Entry("txtAutoPilot"), "275.0");
+}
+
+TEST_F(MainWindowEntry, AModeButtonHandsTheKeyboardToNoOtherControl) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("30", "40"));
+  Mode(5);
+  Type("txtAutoPilot", "275");
+  Enter("txtAutoPilot");
+  Mode(7);
+  ASSERT_EQ(Window->m_eTrackMode, TrackMode::Track);
+  QTest::keyClick(Window->focusWidget(), Qt::Key_Space);
+  EXPECT_EQ(Window->m_eTrackMode, TrackMode::Track);
 }
 
 TEST_F(MainWindowEntry, ATypedBearingIsSentUnchangedInManual) {
