@@ -29,6 +29,12 @@ std::string ProfileFile() {
       .string();
 }
 
+/// Where polar files with relative names lie.
+PolarFolders PolarFiles() {
+  const std::filesystem::path program = PathOf(QCoreApplication::applicationDirPath());
+  return {program, program / VEERWATCH_SHARED_FOLDER};
+}
+
 }  // namespace
 
 int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& started) {
@@ -45,7 +51,8 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   SeededRandom random(std::random_device{}());
   DialogsQt dialogs;
 
-  frmMain window({MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, random, dialogs, profile, ProfileFile()});
+  frmMain window(
+      {MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, random, dialogs, profile, ProfileFile(), PolarFiles()});
   dialogs.Window(&window);
   tmrNmea.Ticks([&window] { window.tmrNmea_Timer(); });
   tmrUnload.Ticks([&window] { window.tmrUnload_Timer(); });

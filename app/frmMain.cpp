@@ -90,6 +90,7 @@ void frmMain::MakeStatusBar() {
 
 void frmMain::ConnectControls() {
   connect(m_menu.mnuFileDefault, &QAction::triggered, this, [this] { ProfileRecall(false); });
+  connect(m_menu.mnuViewPolar, &QAction::triggered, this, [this] { PolarShow(); });
   connect(m_menu.mnuFileExit, &QAction::triggered, this, &QWidget::close);
   for (const TrackMode mode : {TrackMode::Off, TrackMode::Setup, TrackMode::Manual, TrackMode::Track}) {
     connect(m_tbrTrack->Button(mode), &QAction::triggered, this,
@@ -201,10 +202,16 @@ void frmMain::closeEvent(QCloseEvent* event) {
     m_parts.Store = std::move(present);
   }
   ProfileWrite(m_parts.Store, *this, *this);
+  if (m_polar) {
+    m_polar->PolarStore();
+  }
   if (const auto failure = m_parts.Store.Commit(m_sProfileFile)) {
     std::fprintf(stderr, "%s\n", failure->c_str());
   }
   m_unloaded = true;
+  if (m_polar) {
+    m_polar->hide();
+  }
   event->accept();
 }
 
@@ -363,6 +370,33 @@ void frmMain::OnTrackMode(TrackMode mode) {
 }
 
 void frmMain::OnTrackRefused(std::string_view reason) { Panel(kPilotPanel, Text(reason)); }
+
+void frmMain::OnPolarUpdate(TrackMode mode, const InstrumentData& record) {
+  if (m_polar) {
+    m_polar->PolarUpdate(mode, record.HeadingValid, record.Heading, record.BoatSpeed,
+                         record.WindAngleApparent, record.WindSpeedApparent, record.WindAngleTrue,
+                         record.WindSpeedTrue, record.WaypointValid, record.WaypointBearing,
+                         record.WaypointRange);
+  }
+}
+
+// The other windows
+
+void frmMain::PolarShow() {
+  if (!m_polar) {
+    m_polar = std::make_unique<frmPolar>(PolarParts{m_parts.Store, m_parts.Asks, *this, m_parts.Polars});
+    m_polar->setWindowIcon(windowIcon());
+  }
+  m_polar->setWindowState(m_polar->windowState() & ~Qt::WindowMinimized);
+  m_polar->show();
+  m_polar->raise();
+  m_polar->activateWindow();
+  m_menu.mnuViewPolar->setChecked(true);
+}
+
+bool frmMain::PolarVisible() const { return m_polar && m_polar->isVisible(); }
+
+void frmMain::OnPolarVisible(bool visible) { m_menu.mnuViewPolar->setChecked(visible); }
 
 void frmMain::ShowControls() {
   const TrackSide side = m_helm.Loop().Side();

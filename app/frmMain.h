@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <array>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,8 @@
 #include "platform/Random.h"
 #include "platform/SerialPort.h"
 #include "platform/Timer.h"
+#include "polar/PolarListener.h"
+#include "polar/frmPolar.h"
 
 namespace veerwatch {
 
@@ -32,9 +35,14 @@ struct MainWindowParts {
   Dialogs& Asks;
   Profile& Store;
   std::string ProfileFile;  ///< path of the profile
+  PolarFolders Polars{};    ///< where polar files lie
 };
 
-class frmMain final : public QMainWindow, public MainWindowApi, private HelmView, private RememberedWindows {
+class frmMain final : public QMainWindow,
+                      public MainWindowApi,
+                      private HelmView,
+                      private RememberedWindows,
+                      private PolarListener {
  public:
   /// Makes the window and touches no port.
   explicit frmMain(const MainWindowParts& parts);
@@ -107,6 +115,11 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void OnAlarmOver() override;
   void OnTrackMode(TrackMode mode) override;
   void OnTrackRefused(std::string_view reason) override;
+  void OnPolarUpdate(TrackMode mode, const InstrumentData& record) override;
+
+  void PolarShow() override;
+  bool PolarVisible() const override;
+  void OnPolarVisible(bool visible) override;
 
   MainWindowParts m_parts;
   frmMainMenu m_menu;
@@ -114,9 +127,10 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   InstrumentPanelQt* m_panel;
   std::array<QLabel*, 3> m_status{};
   Helm m_helm;
-  bool m_ask = true;        ///< a close still has to ask
-  bool m_asking = false;    ///< the question of the close is open
-  bool m_unloaded = false;  ///< the profile is written, everything is closed
+  std::unique_ptr<frmPolar> m_polar;  ///< null until it is shown for the first time
+  bool m_ask = true;                  ///< a close still has to ask
+  bool m_asking = false;              ///< the question of the close is open
+  bool m_unloaded = false;            ///< the profile is written, everything is closed
 };
 
 }  // namespace veerwatch

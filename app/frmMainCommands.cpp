@@ -57,7 +57,8 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   QMenu* view = window.menuBar()->addMenu(QStringLiteral("&View"));
   mnuViewDiagram = Command(window, view, "mnuViewDiagram", "&Block Diagram...", false);
   mnuViewHistory = Command(window, view, "mnuViewHistory", "&History Plot...", false);
-  mnuViewPolar = Command(window, view, "mnuViewPolar", "&Polar Plot...", false);
+  mnuViewPolar = Command(window, view, "mnuViewPolar", "&Polar Plot...", true);
+  mnuViewPolar->setCheckable(true);
   QMenu* options = window.menuBar()->addMenu(QStringLiteral("&Options"));
   mnuOptionsInput = Command(window, options, "mnuOptionsInput", "&Input...", false);
   mnuOptionsData = Command(window, options, "mnuOptionsData", "&Data...", false);

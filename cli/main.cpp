@@ -10,8 +10,10 @@
 #include <set>
 #include <string>
 
+#include "cli/PolarCommands.h"
 #include "cli/Replay.h"
 #include "cli/Simulate.h"
+#include "platform/NumberText.h"
 
 namespace {
 
@@ -69,6 +71,63 @@ int Complain(std::string text) {
   return kExitBadCall;
 }
 
+/// A number as the program reads it everywhere else; CLI11 alone would also take "nan" and "inf".
+const CLI::Validator kNumber(
+    [](const std::string& text) {
+      return veerwatch::StrictNumber(text) ? std::string() : "no number: " + text;
+    },
+    "");
+
+/// "polar" and its three commands.
+class PolarArguments {
+ public:
+  explicit PolarArguments(CLI::App& app)
+      : m_polar(app.add_subcommand("polar", "Look into polar files")),
+        m_speed(m_polar->add_subcommand("speed", "Print boat speeds by wind angle and wind speed")),
+        m_check(m_polar->add_subcommand("check", "Print rows, columns and ranges, or what is wrong")),
+        m_convert(m_polar->add_subcommand("convert", "Turn other spellings into this program's format")) {
+    m_polar->require_subcommand(1);
+    m_speed->add_option("FILE", m_options.File, "The polar file")->required();
+    m_speed->add_option("--factor", m_options.Factor, "Multiplies each speed (default 1)")
+        ->check(kNumber)
+        ->check(CLI::PositiveNumber)
+        ->type_name("F");
+    m_speed->add_flag("--apparent", m_options.Apparent, "Angles are apparent wind angles");
+    CLI::Option* angle =
+        m_speed->add_option("--twa", m_options.Angle, "Wind angle [deg]; without one, pairs from stdin")
+            ->check(kNumber)
+            ->type_name("A");
+    CLI::Option* wind = m_speed->add_option("--tws", m_options.WindSpeed, "True wind speed [kn]")
+                            ->check(kNumber)
+                            ->type_name("S");
+    angle->needs(wind);
+    wind->needs(angle);
+    m_check->add_option("FILE", m_options.File, "The polar file")->required();
+    m_convert->add_option("IN", m_options.File, "The table to read")->required();
+    m_convert->add_option("OUT", m_out, "The file to write")->required();
+  }
+
+  bool Given() const { return m_polar->parsed(); }
+
+  void Run() const {
+    if (*m_speed) {
+      veerwatch::PolarSpeedCommand(m_options, std::cin, std::cout);
+    } else if (*m_check) {
+      veerwatch::PolarCheckCommand(m_options.File, std::cout);
+    } else {
+      veerwatch::PolarConvertCommand(m_options.File, m_out, std::cerr);
+    }
+  }
+
+ private:
+  CLI::App* m_polar;
+  CLI::App* m_speed;
+  CLI::App* m_check;
+  CLI::App* m_convert;
+  veerwatch::PolarSpeedOptions m_options;
+  std::string m_out;
+};
+
 void RunReplay(const veerwatch::ReplayOptions& options, const std::optional<std::string>& file) {
   if (!file) {
     veerwatch::Replay(options, std::cin, std::cout);
@@ -115,6 +174,8 @@ int Run(int argc, char** argv) {
       ->type_name("S");
   simulateCommand->add_flag("--realtime", simulate.RealTime, "A tick a second");
 
+  const PolarArguments polar(app);
+
   try {
     app.parse(argc, argv);
   } catch (const CLI::Success& success) {
@@ -128,7 +189,9 @@ int Run(int argc, char** argv) {
   replay.Steer = replaySteering.Taken();
   simulate.Steer = simulateSteering.Taken();
   replay.Ends = raw ? veerwatch::LineEnds::CarriageReturn : veerwatch::LineEnds::Any;
-  if (*replayCommand) {
+  if (polar.Given()) {
+    polar.Run();
+  } else if (*replayCommand) {
     RunReplay(replay, file);
   } else {
     veerwatch::Simulate(simulate, std::cout);

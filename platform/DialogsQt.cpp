@@ -1,19 +1,112 @@
 #include "platform/DialogsQt.h"
 
 #include <QApplication>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 
 namespace veerwatch {
 
-bool DialogsQt::AskYesNo(const std::string& title, const std::string& text) {
+namespace {
+
+bool YesNo(QMessageBox::Icon sign, const std::string& title, const std::string& text, QWidget* parent) {
   QString lines = QString::fromStdString(text);
   lines.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-  QMessageBox box(QMessageBox::Information, QString::fromStdString(title), lines,
-                  QMessageBox::Yes | QMessageBox::No, m_window);
+  QMessageBox box(sign, QString::fromStdString(title), lines, QMessageBox::Yes | QMessageBox::No, parent);
   box.setTextFormat(Qt::PlainText);
   box.setEscapeButton(QMessageBox::No);
   box.setDefaultButton(QMessageBox::No);
   return box.exec() == QMessageBox::Yes;
+}
+
+/// Runs a file dialog that starts at `proposed`.
+std::optional<std::string> ChooseFile(QFileDialog& dialog, const std::string& filter,
+                                      const std::string& proposed) {
+  const QStringList parts = QString::fromStdString(filter).split(QLatin1Char('|'));
+  const QString pattern = parts.last();
+  const QString description = parts.first();
+  dialog.setNameFilter(description.contains(pattern) ? description
+                                                     : QStringLiteral("%1 (%2)").arg(description, pattern));
+  dialog.setDefaultSuffix(QFileInfo(pattern).suffix());
+  const QFileInfo start(QString::fromStdString(proposed));
+  dialog.setDirectory(start.absolutePath());
+  dialog.selectFile(start.fileName());
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    return std::nullopt;
+  }
+  return dialog.selectedFiles().first().toStdString();
+}
+
+constexpr int kByte = 0xFF;
+
+}  // namespace
+
+QWidget* DialogsQt::Parent() const {
+  QWidget* active = QApplication::activeWindow();
+  return active != nullptr ? active : m_window.data();
+}
+
+bool DialogsQt::AskYesNo(const std::string& title, const std::string& text) {
+  return YesNo(QMessageBox::Information, title, text, m_window);
+}
+
+bool DialogsQt::WarnYesNo(const std::string& title, const std::string& text) {
+  return YesNo(QMessageBox::Warning, title, text, Parent());
+}
+
+void DialogsQt::Inform(const std::string& title, const std::string& text) {
+  auto* box = new QMessageBox(QMessageBox::Warning, QString::fromStdString(title),
+                              QString::fromStdString(text), QMessageBox::Ok, Parent());
+  box->setTextFormat(Qt::PlainText);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->setModal(false);
+  box->show();
+}
+
+std::optional<std::string> DialogsQt::AskText(const std::string& title, const std::string& prompt,
+                                              const std::string& preset) {
+  QInputDialog dialog(Parent());
+  dialog.setWindowTitle(QString::fromStdString(title));
+  dialog.setLabelText(QString::fromStdString(prompt));
+  dialog.setTextValue(QString::fromStdString(preset));
+  if (auto* label = dialog.findChild<QLabel*>()) {
+    label->setWordWrap(true);
+    label->setMinimumWidth(label->fontMetrics().averageCharWidth() * 48);
+  }
+  if (dialog.exec() != QDialog::Accepted) {
+    return std::nullopt;
+  }
+  return dialog.textValue().toStdString();
+}
+
+std::optional<std::string> DialogsQt::OpenFile(const std::string& filter, const std::string& proposed) {
+  QFileDialog dialog(Parent());
+  dialog.setAcceptMode(QFileDialog::AcceptOpen);
+  dialog.setFileMode(QFileDialog::ExistingFile);
+  return ChooseFile(dialog, filter, proposed);
+}
+
+std::optional<std::string> DialogsQt::SaveFile(const std::string& filter, const std::string& proposed) {
+  QFileDialog dialog(Parent());
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setFileMode(QFileDialog::AnyFile);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);
+  return ChooseFile(dialog, filter, proposed);
+}
+
+std::optional<std::uint32_t> DialogsQt::PickColour(std::uint32_t present) {
+  const auto part = [present](int shift) {
+    return static_cast<int>(present >> static_cast<unsigned>(shift)) & kByte;
+  };
+  QColorDialog dialog(QColor(part(0), part(8), part(16)), Parent());
+  if (dialog.exec() != QDialog::Accepted) {
+    return std::nullopt;
+  }
+  const QColor colour = dialog.selectedColor();
+  return static_cast<std::uint32_t>(colour.red() | colour.green() << 8 | colour.blue() << 16);
 }
 
 void DialogsQt::Beep() { QApplication::beep(); }

@@ -17,11 +17,21 @@ class DialogsQt final : public Dialogs {
 
   /// Closing the box counts as No.
   bool AskYesNo(const std::string& title, const std::string& text) override;
+  bool WarnYesNo(const std::string& title, const std::string& text) override;
+  void Inform(const std::string& title, const std::string& text) override;
+  std::optional<std::string> AskText(const std::string& title, const std::string& prompt,
+                                     const std::string& preset) override;
+  std::optional<std::string> OpenFile(const std::string& filter, const std::string& proposed) override;
+  std::optional<std::string> SaveFile(const std::string& filter, const std::string& proposed) override;
+  std::optional<std::uint32_t> PickColour(std::uint32_t present) override;
   void Beep() override;
   void ToForeground() override;
   bool IsForeground() const override;
 
  private:
+  /// What a dialog belongs to: the window that the user works in, else the main window.
+  QWidget* Parent() const;
+
   QPointer<QWidget> m_window;
 };
 

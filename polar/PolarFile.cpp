@@ -90,7 +90,12 @@ PolarLoadResult PolarLoad(PolarTable& table, int slot, float speedFactor, const 
   if (!stream.is_open()) {
     return Failed(std::generic_category().message(errno));
   }
-  return PolarRead(table, slot, speedFactor, stream);
+  try {
+    return PolarRead(table, slot, speedFactor, stream);
+  } catch (const std::ios_base::failure& failure) {
+    // A read that the system refuses half way.
+    return Failed(failure.code().message());
+  }
 }
 
 std::string PolarText(const PolarTable& table, int slot) {

@@ -33,7 +33,17 @@ PolarTable::PolarTable()
     : m_values(static_cast<std::size_t>(kSlots * (kMostRows + 1) * (kMostColumns + 1))) {}
 
 PolarCell PolarTable::PolarPoint(int slot, int row, int column) const {
-  PolarCell cell{Value(slot, row, 0), Value(slot, 0, column), Value(slot, row, column)};
+  return Seen({Value(slot, row, 0), Value(slot, 0, column), Value(slot, row, column)});
+}
+
+PolarCell PolarTable::PolarPointAt(int slot, int row, int lowerColumn, int upperColumn,
+                                   float windSpeed) const {
+  return Seen({Value(slot, row, 0), windSpeed,
+               Interpolate(windSpeed, Value(slot, 0, lowerColumn), Value(slot, 0, upperColumn),
+                           Value(slot, row, lowerColumn), Value(slot, row, upperColumn))});
+}
+
+PolarCell PolarTable::Seen(PolarCell cell) const {
   if (m_type == PlotType::ApparentWind) {
     const double angle = static_cast<double>(cell.Angle) * kRadiansPerDegree;
     const double x =

@@ -68,6 +68,9 @@ class PolarTable {
   /// One cell, row and column at least 1.
   PolarCell PolarPoint(int slot, int row, int column) const;
 
+  /// The point of a row at `windSpeed` [kn], its boat speed on the straight line between two columns.
+  PolarCell PolarPointAt(int slot, int row, int lowerColumn, int upperColumn, float windSpeed) const;
+
   /// The first pair of neighbouring rows of a column whose angles enclose `angle` [deg], both ends included.
   RowBracket PolarFindRow(int slot, int column, float angle) const;
 
@@ -82,6 +85,9 @@ class PolarTable {
   NearestCell PolarNearest(int slot, double x, double y, const PolarGeometry& geometry) const;
 
  private:
+  /// A cell with a true angle as lookups and plot see it.
+  PolarCell Seen(PolarCell cell) const;
+
   static std::size_t Index(int slot, int row, int column) {
     const int cell = (slot * (kMostRows + 1) + row) * (kMostColumns + 1) + column;
     return static_cast<std::size_t>(cell);

@@ -3,6 +3,7 @@
 
 #include <deque>
 #include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -29,6 +30,16 @@ class QueuedDialogs final : public Dialogs {
   /// Called from inside every beep.
   std::function<void()> DuringBeep;
 
+  std::deque<std::optional<std::string>> Texts;  ///< answers of the next input boxes; cancelled behind them
+  std::deque<std::optional<std::string>> Files;  ///< answers of the next file dialogs; cancelled behind them
+  std::optional<std::uint32_t> Colour;           ///< answer of every colour dialog; nothing cancels
+
+  std::vector<Question> Messages;      ///< what was told
+  std::vector<Question> Warnings;      ///< what was asked under a warning sign, answered from Answers
+  std::vector<std::string> Presets;    ///< what the input boxes started with
+  std::vector<Question> FileDialogs;   ///< filter and proposed name
+  std::vector<std::uint32_t> Colours;  ///< what the colour dialogs started with
+
   bool AskYesNo(const std::string& title, const std::string& text) override {
     Questions.push_back({title, text});
     if (DuringQuestion) {
@@ -41,6 +52,30 @@ class QueuedDialogs final : public Dialogs {
     Answers.pop_front();
     return answer;
   }
+  bool WarnYesNo(const std::string& title, const std::string& text) override {
+    Warnings.push_back({title, text});
+    return Next(Answers, false);
+  }
+  void Inform(const std::string& title, const std::string& text) override {
+    Messages.push_back({title, text});
+  }
+  std::optional<std::string> AskText(const std::string& title, const std::string& prompt,
+                                     const std::string& preset) override {
+    Questions.push_back({title, prompt});
+    Presets.push_back(preset);
+    return Next(Texts, std::nullopt);
+  }
+  std::optional<std::string> OpenFile(const std::string& filter, const std::string& proposed) override {
+    FileDialogs.push_back({filter, proposed});
+    return Next(Files, std::nullopt);
+  }
+  std::optional<std::string> SaveFile(const std::string& filter, const std::string& proposed) override {
+    return OpenFile(filter, proposed);
+  }
+  std::optional<std::uint32_t> PickColour(std::uint32_t present) override {
+    Colours.push_back(present);
+    return Colour;
+  }
   void Beep() override {
     ++Beeps;
     if (DuringBeep) {
@@ -49,6 +84,17 @@ class QueuedDialogs final : public Dialogs {
   }
   void ToForeground() override { ++Foregrounds; }
   bool IsForeground() const override { return Foreground; }
+
+ private:
+  template <class Queue, class Otherwise>
+  static typename Queue::value_type Next(Queue& answers, Otherwise otherwise) {
+    if (answers.empty()) {
+      return otherwise;
+    }
+    auto answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
 };
 
 }  // namespace veerwatch

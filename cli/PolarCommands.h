@@ -1,0 +1,30 @@
+// "veerwatch-cli polar": looks speeds up in a polar file, tells what is in it, and converts other spellings.
+#pragma once
+
+#include <istream>
+#include <optional>
+#include <ostream>
+#include <string>
+
+namespace veerwatch {
+
+struct PolarSpeedOptions {
+  std::string File;
+  float Factor = 1.0F;             ///< multiplies each speed of the file
+  bool Apparent = false;           ///< angles are apparent wind angles
+  std::optional<float> Angle;      ///< [deg]; the side does not matter
+  std::optional<float> WindSpeed;  ///< true wind speed [kn]
+};
+
+/// Writes the speed at the angle and wind speed, alone on a line [kn]. Without them, reads pairs "angle wind"
+/// from `in`, a line each, and writes a speed for each. Throws CommandError.
+void PolarSpeedCommand(const PolarSpeedOptions& options, std::istream& in, std::ostream& out);
+
+/// Writes the rows, columns and ranges of a file. Throws CommandError with what is wrong with it.
+void PolarCheckCommand(const std::string& file, std::ostream& out);
+
+/// Reads a table in any of the known spellings and writes it in the program's own. What is rounded on the way
+/// is told in `notes`. Throws CommandError.
+void PolarConvertCommand(const std::string& from, const std::string& to, std::ostream& notes);
+
+}  // namespace veerwatch

@@ -1,0 +1,288 @@
+#include "polar/PolarCanvasQt.h"
+
+#include <QEvent>
+#include <QFontMetricsF>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <algorithm>
+#include <utility>
+
+namespace veerwatch {
+
+namespace {
+
+// Widths of lines [px] at the design size of the plot [px]; thinner on a smaller one.
+constexpr qreal kDesignSize = 700.0;
+constexpr qreal kCurveWidth = 1.5;
+constexpr qreal kWindWidth = 4.0;
+constexpr qreal kHalo = 2.6;
+/// How strongly the minor curves of a dense table show.
+constexpr qreal kMinorShare = 0.3;
+
+QPointF At(const PlotPoint& point) { return {point.X, point.Y}; }
+
+QRectF In(const PlotBox& box) { return {box.X, box.Y, box.Width, box.Height}; }
+
+QString Text(const std::string& text) { return QString::fromStdString(text); }
+
+QPolygonF Polygon(const PlotLine& line) {
+  QPolygonF polygon;
+  polygon.reserve(static_cast<qsizetype>(line.size()));
+  for (const PlotPoint& point : line) {
+    polygon.append(At(point));
+  }
+  return polygon;
+}
+
+QPen RoundPen(const QColor& colour, qreal width) {
+  return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
+
+/// A dashed pen whose dashes keep their length [px] whatever the width.
+QPen DashedPen(const QColor& colour, qreal width, qreal size) {
+  QPen pen(colour, width, Qt::CustomDashLine, Qt::FlatCap, Qt::RoundJoin);
+  pen.setDashPattern({8.0 * size / width, 5.0 * size / width});
+  return pen;
+}
+
+void Stroke(QPainter& painter, const std::vector<PlotLine>& lines, const QPen& pen) {
+  painter.setPen(pen);
+  for (const PlotLine& line : lines) {
+    painter.drawPolyline(Polygon(line));
+  }
+}
+
+QFont TextFont(const QFont& base, qreal pixels, int weight = QFont::Normal) {
+  QFont font(base);
+  font.setPixelSize(std::max(1, qRound(pixels)));
+  font.setWeight(static_cast<QFont::Weight>(weight));
+  return font;
+}
+
+/// Text with an outline of the background, legible on any lines.
+void HaloText(QPainter& painter, const QPointF& centre, const QString& text, const QColor& colour,
+              const QColor& halo) {
+  const QFontMetricsF metrics(painter.font());
+  QPainterPath path;
+  path.addText(0.0, 0.0, painter.font(), text);
+  path.translate(centre - path.boundingRect().center());
+  painter.strokePath(path, RoundPen(halo, metrics.height() * 0.22));
+  painter.fillPath(path, colour);
+}
+
+}  // namespace
+
+PolarCanvasQt::PolarCanvasQt(QWidget* parent) : QWidget(parent), m_colours(palette()) {
+  setMouseTracking(true);
+  setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void PolarCanvasQt::Show(const PolarStill& still, PolarMoving moving) {
+  if (still.Version != m_still.Version) {
+    m_still = still;
+  }
+  m_moving = std::move(moving);
+  update();
+}
+
+void PolarCanvasQt::paintEvent(QPaintEvent* /*event*/) {
+  const qreal ratio = devicePixelRatioF();
+  const QSize pixels = (QSizeF(size()) * ratio).toSize();
+  if (m_pictured != m_still.Version || m_picture.size() != pixels) {
+    m_picture = QPixmap(pixels);
+    m_picture.setDevicePixelRatio(ratio);
+    QPainter painter(&m_picture);
+    PaintStill(painter);
+    m_pictured = m_still.Version;
+  }
+  QPainter painter(this);
+  painter.drawPixmap(0, 0, m_picture);
+  PaintMoving(painter);
+}
+
+void PolarCanvasQt::PaintStill(QPainter& painter) const {
+  painter.fillRect(rect(), m_colours.Surface);
+  if (m_still.Grid.Rings.empty()) {
+    return;
+  }
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setFont(font());
+  PaintGrid(painter);
+  PaintCurves(painter);
+  for (const PlotLabel& label : m_still.Grid.Labels) {
+    const bool wind = label.Kind == PlotLabelKind::Wind;
+    painter.setFont(TextFont(font(), m_still.TextHeight, wind ? QFont::Bold : QFont::Normal));
+    const QColor plate = m_colours.Disc;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(plate);
+    const QRectF box = In(label.Box);
+    painter.drawRoundedRect(box, box.height() * 0.3, box.height() * 0.3);
+    painter.setPen(wind ? m_colours.Curve(m_still.SpeedColor) : m_colours.GridLabel);
+    painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip, Text(label.Text));
+  }
+  PaintKeys(painter);
+}
+
+void PolarCanvasQt::PaintGrid(QPainter& painter) const {
+  const QPointF centre(m_still.Geometry.CentreX, m_still.Geometry.CentreY);
+  const qreal outer = m_still.Grid.Rings.back();
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(m_colours.Disc);
+  painter.drawEllipse(centre, outer, outer);
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(QPen(m_colours.Grid, 1.0));
+  for (const double radius : m_still.Grid.Rings) {
+    // The outer ring stands wholly inside of the square.
+    const qreal inside = radius == outer ? radius - 0.5 : radius;
+    painter.drawEllipse(centre, inside, inside);
+  }
+  for (const auto* strokes : {&m_still.Grid.Spokes, &m_still.Grid.Ticks}) {
+    for (const PlotStroke& stroke : *strokes) {
+      painter.drawLine(At(stroke.From), At(stroke.To));
+    }
+  }
+}
+
+void PolarCanvasQt::PaintCurves(QPainter& painter) const {
+  const qreal size = std::clamp(m_still.Geometry.CentreX * 2.0 / kDesignSize, 0.6, 1.6);
+  const QColor curve = m_colours.Curve(m_still.SpeedColor);
+  QColor faint = curve;
+  faint.setAlphaF(static_cast<float>(kMinorShare));
+  painter.setBrush(Qt::NoBrush);
+  for (const bool major : {false, true}) {
+    for (const PolarCurve& polar : m_still.Main) {
+      if (polar.Major == major) {
+        Stroke(painter, polar.Lines, RoundPen(major ? curve : faint, major ? kCurveWidth * size : 1.0));
+      }
+    }
+  }
+  for (const PolarCurve& polar : m_still.Reference) {
+    if (polar.Major) {
+      Stroke(painter, polar.Lines, DashedPen(m_colours.Reference, kCurveWidth * size, size));
+    }
+  }
+}
+
+void PolarCanvasQt::PaintKeys(QPainter& painter) const {
+  for (std::size_t i = 0; i < std::min(m_still.Legend.Keys.size(), m_still.Keys.size()); ++i) {
+    const QRectF box = In(m_still.Legend.Keys[i]);
+    const bool right = m_still.Legend.Corners && i == 1;
+    painter.setFont(TextFont(font(), box.height() * 0.62));
+    const qreal sample = box.height() * 1.7;
+    const QFontMetricsF metrics(painter.font(), painter.device());
+    const QString name =
+        metrics.elidedText(Text(m_still.Keys[i]), Qt::ElideRight, box.width() - sample * 1.25);
+    const qreal width = metrics.horizontalAdvance(name) + sample * 1.25;
+    const qreal x = right ? box.right() - width : box.left();
+    const qreal y = box.center().y();
+    painter.setPen(i == 0 ? RoundPen(m_colours.Curve(m_still.SpeedColor), 2.2)
+                          : DashedPen(m_colours.Reference, 2.2, 0.7));
+    painter.drawLine(QPointF(x, y), QPointF(x + sample, y));
+    painter.setPen(m_colours.Caption);
+    painter.drawText(QRectF(x + sample * 1.25, box.top(), width, box.height()),
+                     Qt::AlignLeft | Qt::AlignVCenter, name);
+  }
+}
+
+void PolarCanvasQt::PaintMoving(QPainter& painter) const {
+  if (m_still.Grid.Rings.empty()) {
+    return;
+  }
+  painter.setRenderHint(QPainter::Antialiasing);
+  const qreal size = std::clamp(m_still.Geometry.CentreX * 2.0 / kDesignSize, 0.5, 1.6);
+  painter.setBrush(Qt::NoBrush);
+  Stroke(painter, m_moving.Wind, RoundPen(m_colours.Disc, (kWindWidth + kHalo) * size));
+  Stroke(painter, m_moving.Wind, RoundPen(m_colours.Wind, kWindWidth * size));
+  Stroke(painter, m_moving.ReferenceWind, DashedPen(m_colours.Reference, kWindWidth * size, 1.3 * size));
+  if (m_moving.Arrow) {
+    const WindArrow& arrow = *m_moving.Arrow;
+    const QPointF neck = (At(arrow.HeadLeft) + At(arrow.HeadRight)) / 2.0;
+    const QPolygonF head{At(arrow.Shaft.To), At(arrow.HeadLeft), At(arrow.HeadRight)};
+    painter.setPen(RoundPen(m_colours.Disc, (6.0 + kHalo) * size));
+    painter.drawLine(At(arrow.Shaft.From), neck);
+    painter.drawPolygon(head);
+    painter.setPen(QPen(m_colours.Wind, 6.0 * size, Qt::SolidLine, Qt::FlatCap));
+    painter.drawLine(At(arrow.Shaft.From), neck);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_colours.Wind);
+    painter.drawPolygon(head);
+  }
+  if (m_moving.Boat) {
+    const BoatPoint& boat = *m_moving.Boat;
+    painter.setFont(TextFont(font(), 30.0 * size, QFont::Black));
+    HaloText(painter, At(boat.Point), QStringLiteral("X"), m_colours.Boat, m_colours.Disc);
+    if (boat.Beyond) {
+      painter.setBrush(Qt::NoBrush);
+      painter.setPen(QPen(m_colours.Boat, 3.0 * size));
+      painter.drawEllipse(At(boat.Point), 22.0 * size, 22.0 * size);
+    }
+  }
+  PaintLegend(painter);
+}
+
+void PolarCanvasQt::PaintLegend(QPainter& painter) const {
+  const PolarLegend& legend = m_still.Legend;
+  const PolarReadout& readout = m_moving.Readout;
+  const QFont captionFont = TextFont(font(), legend.CaptionText);
+  const QFont valueFont = TextFont(font(), legend.ValueText, QFont::DemiBold);
+  const QFont percentFont = TextFont(font(), legend.ValueText * 0.62, QFont::DemiBold);
+  const auto cell = [&](const LegendCell& place, const std::string& caption, const std::string& value,
+                        const std::string& percent, const QColor& colour) {
+    const Qt::Alignment side = place.Right ? Qt::AlignRight : Qt::AlignLeft;
+    painter.setFont(captionFont);
+    painter.setPen(m_colours.Caption);
+    painter.drawText(In(place.Caption), static_cast<int>(side | Qt::AlignVCenter) | Qt::TextDontClip,
+                     Text(caption));
+    painter.setFont(valueFont);
+    painter.setPen(colour);
+    const QRectF box = In(place.Value);
+    const QFontMetricsF metrics(valueFont);
+    const qreal baseline = box.center().y() + metrics.capHeight() / 2.0;
+    const QString number = Text(value);
+    const QString share = Text(percent);
+    const QFontMetricsF small(percentFont);
+    const qreal gap = share.isEmpty() ? 0.0 : legend.ValueText * 0.25;
+    const qreal width = metrics.horizontalAdvance(number) + gap + small.horizontalAdvance(share);
+    const qreal x = place.Right ? box.right() - width : box.left();
+    painter.drawText(QPointF(x, baseline), number);
+    if (!share.isEmpty()) {
+      painter.setFont(percentFont);
+      painter.drawText(QPointF(x + metrics.horizontalAdvance(number) + gap, baseline), share);
+    }
+  };
+  cell(legend.Boat, readout.BoatCaption, readout.BoatValue, readout.BoatPercent, m_colours.Boat);
+  cell(legend.Reference, readout.ReferenceCaption, readout.ReferenceValue, {}, m_colours.Foreground);
+  cell(legend.WindSpeed, readout.WindSpeedCaption, readout.WindSpeedValue, {}, m_colours.Wind);
+  cell(legend.WindAngle, readout.WindAngleCaption, readout.WindAngleValue, {}, m_colours.Wind);
+}
+
+void PolarCanvasQt::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (Resized) {
+    Resized();
+  }
+}
+
+void PolarCanvasQt::mousePressEvent(QMouseEvent* event) {
+  if (event->button() == Qt::LeftButton && Pressed) {
+    Pressed(event->position());
+  }
+}
+
+void PolarCanvasQt::mouseMoveEvent(QMouseEvent* event) {
+  if (Moved) {
+    Moved(event->position());
+  }
+}
+
+void PolarCanvasQt::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
+    m_colours = PolarPaletteQt(palette());
+    m_pictured = 0;
+    update();
+  }
+}
+
+}  // namespace veerwatch

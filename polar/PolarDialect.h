@@ -1,0 +1,30 @@
+// Polar tables in the spellings that are about, read with an explanation of what cannot be read:
+//
+//     # comment                    cells separated by tabs, semicolons, commas or blanks, as in the first
+//     line twa/tws;6;8;10               "twa", "twa/tws" or "TWA\TWS" in any case; a byte order mark before
+//     it 52;5,1;;6,4                  comma as the decimal sign behind tabs and semicolons; a blank cell
+//     40;4,4;5,2;5,8               rows and columns in any order
+//
+// The program itself opens only its own format (polar/PolarFile); this is for converting.
+#pragma once
+
+#include <istream>
+#include <optional>
+#include <string>
+
+#include "polar/PolarTable.h"
+
+namespace veerwatch {
+
+/// Longest text that is read [bytes].
+inline constexpr std::size_t kLongestDialect = 8U << 20U;
+
+/// Reads a table into a slot, rows and columns in ascending order. Nothing when done, else what could not be
+/// read, as "line 3, column 2: ..." with cells counted from 1; the slot then is as it was.
+///
+/// A blank cell is filled on the straight line between its known neighbours in the row; else between those
+/// in the column; else, below the lowest known wind speed of its row, on the line from 0 at no wind; else
+/// with the value of the highest one.
+std::optional<std::string> PolarReadDialect(PolarTable& table, int slot, std::istream& stream);
+
+}  // namespace veerwatch

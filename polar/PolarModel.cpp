@@ -1,0 +1,204 @@
+#include "polar/PolarModel.h"
+
+#include <cmath>
+#include <system_error>
+
+#include "instruments/MathLib.h"
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr float kPercent = 100.0F;
+
+bool Exists(const std::filesystem::path& file) {
+  std::error_code error;
+  return std::filesystem::exists(file, error);
+}
+
+}  // namespace
+
+void PolarModel::Reset(const Profile* profile) {
+  m_settings = {};
+  if (profile != nullptr) {
+    PolarRecall(*profile, m_settings);
+  }
+  m_lastFolder.clear();
+  m_shown = 1;
+  m_table.Type(m_settings.Type);
+  ++m_version;
+}
+
+std::filesystem::path PolarModel::FilePath(int slot) const {
+  const std::filesystem::path name(m_settings.File[static_cast<std::size_t>(slot)]);
+  if (name.is_absolute()) {
+    return name;
+  }
+  for (const std::filesystem::path& folder : {m_lastFolder, m_folders.Shared}) {
+    if (!Exists(m_folders.Program / name) && !folder.empty() && Exists(folder / name)) {
+      return folder / name;
+    }
+  }
+  return m_folders.Program / name;
+}
+
+PolarLoadResult PolarModel::Load(int slot) {
+  ++m_version;
+  return PolarLoad(m_table, slot, m_settings.SpeedFactor, FilePath(slot));
+}
+
+PolarLoadResult PolarModel::Open(int slot, const std::string& file) {
+  if (slot == kMain) {
+    m_settings.SpeedFactor = 1.0F;
+  }
+  m_settings.File[static_cast<std::size_t>(slot)] = file;
+  const PolarLoadResult result = Load(slot);
+  if (result.Loaded) {
+    m_shown = slot == kReference ? 2 : 1;
+  }
+  if (const std::filesystem::path folder = std::filesystem::path(file).parent_path(); !folder.empty()) {
+    m_lastFolder = folder;
+  }
+  return result;
+}
+
+std::optional<std::string> PolarModel::SaveAs(const std::string& file) {
+  auto failure = PolarSave(m_table, kMain, file);
+  if (!failure) {
+    m_settings.File[kMain] = file;
+  }
+  return failure;
+}
+
+void PolarModel::ShowWind(PlotType type) {
+  m_settings.Type = type;
+  m_table.Type(type);
+  ++m_version;
+}
+
+void PolarModel::ToggleWindSpeedLabel() { m_settings.PlotLabelWindSpeed = !m_settings.PlotLabelWindSpeed; }
+
+void PolarModel::ChooseCourse(CourseSource source) {
+  const bool again = m_settings.CourseWaypoint && m_settings.CourseWaypointIndex == source;
+  m_settings.CourseWaypoint = !again;
+  m_settings.CourseWaypointIndex = source;
+}
+
+bool PolarModel::TakeRange(const std::string& text) {
+  const auto number = StrictNumber(text);
+  if (!number || *number <= 0.0F) {
+    return false;
+  }
+  m_settings.SpeedRange = *number;
+  return true;
+}
+
+bool PolarModel::TakeFactor(const std::string& text) {
+  const auto number = StrictNumber(text);
+  if (!number || *number <= 0.0F) {
+    return false;
+  }
+  m_settings.SpeedFactor = *number;
+  return true;
+}
+
+bool PolarModel::TakeBearing(const std::string& text) {
+  const auto number = StrictNumber(text);
+  if (!number) {
+    return false;
+  }
+  m_settings.CourseTargetBearing = FoldBearing(static_cast<double>(*number));
+  return true;
+}
+
+bool PolarModel::TakeMotorSpeed(const std::string& text) {
+  const auto number = StrictNumber(text);
+  if (!number) {
+    return false;
+  }
+  m_settings.BoatMotorSpeed = *number;
+  return true;
+}
+
+std::string PolarModel::ScalingCaption() const {
+  return "Set Scaling (" +
+         FormatNumber(ToSingle(static_cast<double>(m_settings.SpeedFactor) * static_cast<double>(kPercent)),
+                      "0") +
+         "%)...";
+}
+
+std::string PolarModel::TargetBearingCaption() const {
+  return "Set Target Bearing (" + FormatNumber(m_settings.CourseTargetBearing, "0") + " M)...";
+}
+
+std::string PolarModel::MotorSpeedCaption() const {
+  return "Set Motor Only Speed to Target/Waypoint (" + FormatNumber(m_settings.BoatMotorSpeed, "0.0") +
+         " Kts)...";
+}
+
+bool PolarModel::Update(TrackMode mode, const PolarValues& values, bool visible) {
+  m_averages.Feed(values, m_settings.PlotAverage);
+  if (!visible) {
+    return false;
+  }
+  const bool changed = mode != m_mode;
+  m_mode = mode;
+  m_polarSpeed = m_table.PolarSpeed(kMain, std::fabs(Values().WindAngleTrue), Values().WindSpeedTrue);
+  return changed;
+}
+
+std::string PolarModel::PolarSpeedText() const { return FormatNumber(m_polarSpeed, "0.0") + " deg"; }
+
+float PolarModel::WindAngle() const {
+  return m_settings.Type == PlotType::ApparentWind ? Values().WindAngleApparent : Values().WindAngleTrue;
+}
+
+float PolarModel::WindSpeed() const {
+  return m_settings.Type == PlotType::ApparentWind ? Values().WindSpeedApparent : Values().WindSpeedTrue;
+}
+
+PolarReadout PolarModel::Readout() const {
+  const bool motor = m_settings.Boat == BoatType::MotorAndSail;
+  const bool apparent = m_settings.Type == PlotType::ApparentWind;
+  PolarReadout readout;
+  readout.ReferenceCaption = motor ? "Motor (Kts)" : "Polar (Kts)";
+  readout.BoatCaption = "Boat (Kts)";
+  readout.WindSpeedCaption = apparent ? "AWS (Kts)" : "TWS (Kts)";
+  readout.WindAngleCaption = apparent ? "AWA (R)" : "TWA (R)";
+  if (!Received()) {
+    return readout;
+  }
+  const float reference = motor ? m_settings.BoatMotorSpeed : m_polarSpeed;
+  const float boat = Values().BoatSpeed;
+  readout.ReferenceValue = FormatNumber(reference, "0.0");
+  readout.BoatValue = FormatNumber(boat, "0.0");
+  if (reference != 0.0F) {
+    const double share =
+        static_cast<double>(boat) / static_cast<double>(reference) * static_cast<double>(kPercent);
+    readout.BoatPercent = FormatNumber(ToSingle(share), "0") + "%";
+  }
+  readout.WindSpeedValue = FormatNumber(WindSpeed(), "0.0");
+  readout.WindAngleValue = FormatNumber(WindAngle(), "0");
+  return readout;
+}
+
+std::optional<PolarMouse> PolarModel::Nearest(double x, double y, const PolarGeometry& geometry) const {
+  NearestCell winner = m_table.PolarNearest(kMain, x, y, geometry);
+  bool reference = false;
+  if (m_shown == 2) {
+    const NearestCell other = m_table.PolarNearest(kReference, x, y, geometry);
+    if (other.Found && (!winner.Found || other.SquaredDistance < winner.SquaredDistance)) {
+      winner = other;
+      reference = true;
+    }
+  }
+  if (!winner.Found || !(winner.SquaredDistance < kMouseReach)) {
+    return std::nullopt;
+  }
+  return PolarMouse{FormatNumber(winner.Cell.Angle, "0.0") + "\n" + FormatNumber(winner.Cell.WindSpeed, "0") +
+                        "\n" + FormatNumber(winner.Cell.BoatSpeed, "0.0"),
+                    reference};
+}
+
+}  // namespace veerwatch

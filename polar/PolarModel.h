@@ -1,0 +1,135 @@
+// What the polar window knows and decides, without a window: settings, table, averages, the polar speed, the
+// texts of its menus and of its legend. frmPolar shows it.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "control/TrackMode.h"
+#include "polar/PolarAverages.h"
+#include "polar/PolarFile.h"
+#include "polar/PolarSettings.h"
+#include "polar/PolarTable.h"
+
+namespace veerwatch {
+
+/// Where polar files with relative names lie.
+struct PolarFolders {
+  std::filesystem::path Program;  ///< the program's own; "" for the current folder
+  std::filesystem::path Shared;   ///< where an installed program has its data; "" for none
+};
+
+/// The numbers and captions beside the plot; values are "" until something was received.
+struct PolarReadout {
+  std::string ReferenceCaption;  ///< "Polar (Kts)", or "Motor (Kts)" for motor and sail
+  std::string ReferenceValue;
+  std::string BoatCaption;  ///< "Boat (Kts)"
+  std::string BoatValue;
+  std::string BoatPercent;       ///< of the reference, with "%"; "" when the reference is 0
+  std::string WindSpeedCaption;  ///< "TWS (Kts)" or "AWS (Kts)"
+  std::string WindSpeedValue;
+  std::string WindAngleCaption;  ///< "TWA (R)" or "AWA (R)"
+  std::string WindAngleValue;
+};
+
+/// The cell under the mouse.
+struct PolarMouse {
+  std::string Text;        ///< angle, wind speed and boat speed, a line each
+  bool Reference = false;  ///< of the reference polar
+};
+
+class PolarModel {
+ public:
+  static constexpr int kMain = 0;       ///< slot of the boat's own polar
+  static constexpr int kReference = 1;  ///< slot of the reference
+  /// Squared distance from the mouse below which a cell is read out [px squared].
+  static constexpr double kMouseReach = 500.0;
+
+  explicit PolarModel(PolarFolders folders) : m_folders(std::move(folders)) {}
+
+  const PolarSettings& Settings() const { return m_settings; }
+  const PolarTable& Table() const { return m_table; }
+  const PolarFolders& Folders() const { return m_folders; }
+  /// Polars that are drawn: 1, or 2 with the reference.
+  int PolarsShown() const { return m_shown; }
+  /// Grows with every change of the table or of how it is seen.
+  std::uint64_t Version() const { return m_version; }
+
+  /// Sets the defaults, overlaid with what `profile` holds when there is one. The table stays.
+  void Reset(const Profile* profile);
+
+  // Polar files
+
+  /// Where the file of a slot is: the name itself when it is whole; else in the program's folder, in that of
+  /// the polar opened last, in the shared one, whichever has it first; else in the program's.
+  std::filesystem::path FilePath(int slot) const;
+  PolarLoadResult Load(int slot);
+  /// Takes `file` into a slot. The own polar starts with the speed factor 1 and, once loaded, hides the
+  /// reference; a reference that is loaded is shown.
+  PolarLoadResult Open(int slot, const std::string& file);
+  /// Writes the own polar to `file`, which then is its file. Nothing when done, else what went wrong.
+  std::optional<std::string> SaveAs(const std::string& file);
+
+  // Choices
+
+  void ShowWind(PlotType type);
+  void ToggleWindSpeedLabel();
+  void Range(float range) { m_settings.SpeedRange = range; }
+  void Color(std::uint32_t color) { m_settings.SpeedColor = color; }
+  void Average(float seconds) { m_settings.PlotAverage = seconds; }
+  /// Makes `source` the course, or, when it is the course already, leaves no course.
+  void ChooseCourse(CourseSource source);
+  void ToggleCourseScale() { m_settings.CourseScale = !m_settings.CourseScale; }
+  void Boat(BoatType type) { m_settings.Boat = type; }
+
+  // Typed numbers: each is true when the text was a number that can be, and then took it.
+
+  bool TakeRange(const std::string& text);   ///< [kn, above 0]
+  bool TakeFactor(const std::string& text);  ///< [above 0]; the own polar has to be loaded anew
+  bool TakeBearing(const std::string& text);
+  bool TakeMotorSpeed(const std::string& text);  ///< [kn]
+
+  // Texts of the menus
+
+  std::string ScalingCaption() const;
+  std::string TargetBearingCaption() const;
+  std::string MotorSpeedCaption() const;
+
+  // What comes in
+
+  /// Averages a set of values. `visible` is whether the window shows; only then the polar speed is looked up.
+  /// True when the mode is another than before, so that the menus have to be refreshed.
+  bool Update(TrackMode mode, const PolarValues& values, bool visible);
+  bool Received() const { return m_averages.Fed(); }
+  const PolarValues& Values() const { return m_averages.Values(); }
+  TrackMode Mode() const { return m_mode; }
+  /// Speed of the own polar in the present true wind [kn], as of the last update in sight. Deliberate: the
+  /// true wind is looked up also when the table is seen in apparent wind.
+  float PolarSpeed() const { return m_polarSpeed; }
+  /// The same as the history keeps it. Deliberate: a speed with the unit "deg".
+  std::string PolarSpeedText() const;
+
+  PolarReadout Readout() const;
+  /// The wind that the plot shows: apparent or true [deg relative], [kn].
+  float WindAngle() const;
+  float WindSpeed() const;
+
+  /// The cell near (`x`, `y`) [px], of the own polar when both are equally near; nothing when none is.
+  std::optional<PolarMouse> Nearest(double x, double y, const PolarGeometry& geometry) const;
+
+ private:
+  PolarFolders m_folders;
+  std::filesystem::path m_lastFolder;
+  PolarSettings m_settings;
+  PolarTable m_table;
+  PolarAverages m_averages;
+  int m_shown = 1;
+  std::uint64_t m_version = 0;
+  TrackMode m_mode = TrackMode::Switching;
+  float m_polarSpeed = 0.0F;
+};
+
+}  // namespace veerwatch

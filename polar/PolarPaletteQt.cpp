@@ -1,0 +1,40 @@
+#include "polar/PolarPaletteQt.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr int kMiddleLightness = 128;
+
+QColor Mixed(const QColor& under, const QColor& over, qreal share) {
+  const auto part = [share](int a, int b) { return qRound(a + (b - a) * share); };
+  return {part(under.red(), over.red()), part(under.green(), over.green()), part(under.blue(), over.blue())};
+}
+
+}  // namespace
+
+PolarPaletteQt::PolarPaletteQt(const QPalette& palette)
+    : Dark(palette.color(QPalette::Active, QPalette::Window).lightness() < kMiddleLightness),
+      Surface(palette.color(QPalette::Active, QPalette::Window)),
+      Foreground(palette.color(QPalette::Active, QPalette::WindowText)) {
+  Disc = Dark ? Mixed(Surface, QColor(Qt::black), 0.3)
+              : Mixed(Surface, palette.color(QPalette::Active, QPalette::Base), 0.9);
+  Caption = Mixed(Surface, Foreground, 0.74);
+  Grid = Mixed(Disc, Foreground, Dark ? 0.2 : 0.22);
+  GridLabel = Mixed(Disc, Foreground, Dark ? 0.66 : 0.7);
+  Reference = Dark ? QColor(0xe5, 0x7f, 0xd0) : QColor(0xa8, 0x1e, 0x8c);
+  Wind = Dark ? QColor(0x4f, 0xc3, 0xf7) : QColor(0x02, 0x6a, 0xb8);
+  Boat = Dark ? QColor(0xff, 0xb7, 0x2e) : QColor(0xcf, 0x3a, 0x05);
+  MousePlate = Dark ? QColor(0xd4, 0xd8, 0xdc) : QColor(0xff, 0xfb, 0xe6);
+}
+
+QColor PolarPaletteQt::Curve(std::uint32_t speedColor) const {
+  if (speedColor == 0) {
+    return Foreground;
+  }
+  constexpr std::uint32_t kByte = 0xFFU;
+  return {static_cast<int>(speedColor & kByte), static_cast<int>((speedColor >> 8U) & kByte),
+          static_cast<int>((speedColor >> 16U) & kByte)};
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,29 @@
+// What the polar window asks: its input boxes, its file and colour dialogs and its messages, with their
+// texts. Each asks through Dialogs, lets the model take the answer, and says whether something changed.
+#pragma once
+
+#include "platform/Dialogs.h"
+#include "polar/PolarModel.h"
+
+namespace veerwatch {
+
+/// The filter of every dialog for polar files.
+inline constexpr const char* kPolarFilter = "(*.pol)|*.pol";
+
+bool AskRange(PolarModel& model, Dialogs& asks);
+/// A new factor loads the own polar anew.
+bool AskScaling(PolarModel& model, Dialogs& asks);
+bool AskTargetBearing(PolarModel& model, Dialogs& asks);
+bool AskMotorSpeed(PolarModel& model, Dialogs& asks);
+bool AskColor(PolarModel& model, Dialogs& asks);
+
+/// Opens a file into a slot and tells what was wrong with it. True when a file was chosen.
+bool AskOpen(PolarModel& model, int slot, Dialogs& asks);
+
+/// Saves the own polar under a new name, with a question before an old file is replaced.
+bool PolarSaveAs(PolarModel& model, Dialogs& asks);
+
+/// Loads a slot and tells what was wrong with it.
+void PolarLoadAndTell(PolarModel& model, int slot, Dialogs& asks);
+
+}  // namespace veerwatch

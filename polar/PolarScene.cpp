@@ -1,0 +1,92 @@
+#include "polar/PolarScene.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "instruments/MathLib.h"
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr double kTextShare = 0.021;
+constexpr double kLeastText = 9.0;
+constexpr double kMostText = 26.0;
+/// The ring labels change sides when the wind is so far on theirs [deg].
+constexpr float kChangeSides = 5.0F;
+
+}  // namespace
+
+std::string PolarScene::NameOf(int slot) const {
+  const auto& settings = m_model.Settings();
+  std::string name = std::filesystem::path(settings.File[static_cast<std::size_t>(slot)]).stem().string();
+  if (settings.SpeedFactor != 1.0F) {
+    name.append(" ")
+        .append(FormatNumber(ToSingle(static_cast<double>(settings.SpeedFactor) * 100.0), "0"))
+        .append("%");
+  }
+  return name;
+}
+
+const PolarStill& PolarScene::Still(int width, int height) {
+  const auto& settings = m_model.Settings();
+  const float wind = m_model.WindAngle();
+  if (m_model.Received() && (m_speedsToPort ? wind < -kChangeSides : wind > kChangeSides)) {
+    m_speedsToPort = !m_speedsToPort;
+  }
+  const Key key{width,
+                height,
+                m_model.Version(),
+                m_model.PolarsShown(),
+                settings.PlotLabelWindSpeed,
+                m_speedsToPort,
+                settings.SpeedRange,
+                settings.SpeedFactor,
+                settings.SpeedColor,
+                settings.File[0] + "\n" + settings.File[1]};
+  if (key == m_key) {
+    return m_still;
+  }
+  m_key = key;
+
+  PolarStill still;
+  still.Version = m_still.Version + 1;
+  still.Geometry = PlotGeometry(width, height, static_cast<double>(settings.SpeedRange));
+  still.TextHeight =
+      std::clamp(static_cast<double>(std::min(width, height)) * kTextShare, kLeastText, kMostText);
+  still.Main = PolarCurves(m_model.Table(), PolarModel::kMain, still.Geometry);
+  still.Keys.push_back(NameOf(PolarModel::kMain));
+  if (m_model.PolarsShown() == 2) {
+    still.Reference = PolarCurves(m_model.Table(), PolarModel::kReference, still.Geometry);
+    still.Keys.push_back(NameOf(PolarModel::kReference));
+  }
+  still.Grid = MakeGrid(still.Geometry,
+                        {static_cast<double>(settings.SpeedRange), still.TextHeight,
+                         settings.PlotLabelWindSpeed, m_speedsToPort},
+                        still.Main);
+  still.Legend = LayLegend(width, height, static_cast<int>(still.Keys.size()));
+  still.SpeedColor = settings.SpeedColor;
+  m_still = std::move(still);
+  return m_still;
+}
+
+PolarMoving PolarScene::Moving() const {
+  PolarMoving moving;
+  moving.Readout = m_model.Readout();
+  if (!m_model.Received()) {
+    return moving;
+  }
+  const PolarGeometry& geometry = m_still.Geometry;
+  const float trueWind = m_model.Values().WindSpeedTrue;
+  moving.Wind = WindCurve(m_model.Table(), PolarModel::kMain, trueWind, geometry).Lines;
+  if (m_model.PolarsShown() == 2) {
+    moving.ReferenceWind = WindCurve(m_model.Table(), PolarModel::kReference, trueWind, geometry).Lines;
+  }
+  const auto angle = static_cast<double>(m_model.WindAngle());
+  moving.Arrow = MakeWindArrow(geometry, angle, m_still.TextHeight);
+  moving.Boat = MakeBoatPoint(geometry, angle, static_cast<double>(m_model.Values().BoatSpeed));
+  return moving;
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,69 @@
+// The whole plot of a model in one size, in two parts: what stands still while the boat sails (grid, labels,
+// curves, legend places), made anew only when something of it changes, and what moves with every update.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "polar/PolarModel.h"
+#include "polar/PolarPlot.h"
+
+namespace veerwatch {
+
+struct PolarStill {
+  std::uint64_t Version = 0;  ///< another number for another picture
+  PolarGeometry Geometry;
+  double TextHeight = 0.0;  ///< of the labels [px]
+  PolarGrid Grid;
+  std::vector<PolarCurve> Main;
+  std::vector<PolarCurve> Reference;  ///< empty while the reference is hidden
+  PolarLegend Legend;
+  std::vector<std::string> Keys;  ///< names of the polars that are drawn
+  std::uint32_t SpeedColor = 0;   ///< 0xBBGGRR; 0 for the foreground colour
+};
+
+struct PolarMoving {
+  std::vector<PlotLine> Wind;           ///< the own polar in the present true wind
+  std::vector<PlotLine> ReferenceWind;  ///< the reference in it
+  std::optional<WindArrow> Arrow;       ///< none until values have come
+  std::optional<BoatPoint> Boat;
+  PolarReadout Readout;
+};
+
+class PolarScene {
+ public:
+  explicit PolarScene(const PolarModel& model) : m_model(model) {}
+
+  /// The still part in an area of `width` by `height` [px].
+  const PolarStill& Still(int width, int height);
+
+  /// The moving part, in the geometry of the latest still one.
+  PolarMoving Moving() const;
+
+ private:
+  /// All that the still part depends on.
+  struct Key {
+    int Width = -1;
+    int Height = -1;
+    std::uint64_t Table = 0;
+    int Shown = 0;
+    bool WindLabels = false;
+    bool SpeedsToPort = true;
+    float Range = 0.0F;
+    float Factor = 0.0F;
+    std::uint32_t Color = 0;
+    std::string Files;
+    bool operator==(const Key&) const = default;
+  };
+
+  std::string NameOf(int slot) const;
+
+  const PolarModel& m_model;
+  Key m_key;
+  PolarStill m_still;
+  bool m_speedsToPort = true;
+};
+
+}  // namespace veerwatch

@@ -1,0 +1,66 @@
+// The settings of the polar window and where they stand in the profile.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+
+#include "platform/Profile.h"
+#include "polar/PolarTable.h"
+
+namespace veerwatch {
+
+/// The polar that comes with the program, in the program's own folder.
+inline constexpr const char* kDefaultPolar = "Fast Sled 60ft.pol";
+
+/// What the course is steered to.
+enum class CourseSource : std::int16_t {
+  TargetBearing = 0,
+  WaypointBearing = 1,
+  WaypointRange = 2,
+  None = 3
+};
+
+enum class BoatType : std::int16_t { SailOnly = 0, MotorAndSail = 1 };
+
+struct PolarSettings {
+  std::array<std::string, 2> File{kDefaultPolar, kDefaultPolar};  ///< by slot; whole, or relative
+  float PlotAverage = 2.0F;         ///< averaging count of what comes in [s], 0 = none, never below
+  bool PlotLabelWindSpeed = false;  ///< each curve carries its wind speed
+  PlotType Type = PlotType::TrueWind;
+  std::uint32_t SpeedColor = 0;      ///< colour of the curves, 0xBBGGRR; 0 is the plot's foreground colour
+  float SpeedFactor = 1.0F;          ///< multiplies each speed that is read, above 0
+  float SpeedRange = 10.0F;          ///< speed at the outer ring [kn], above 0
+  bool CourseScale = true;           ///< projections follow the boat's present speed
+  float CourseTargetBearing = 0.0F;  ///< [deg magnetic, [0, 360)]
+  bool CourseWaypoint = false;       ///< a course source is active
+  /// Deliberate: the default chooses none of the three.
+  CourseSource CourseWaypointIndex = CourseSource::None;
+  float BoatMotorSpeed = 3.0F;  ///< under motor alone [kn]
+  BoatType Boat = BoatType::SailOnly;
+};
+
+/// Position and inner size of a window [px].
+struct WindowPlace {
+  std::int16_t Top = 0;
+  std::int16_t Left = 0;
+  std::int16_t Height = 0;
+  std::int16_t Width = 0;
+};
+
+/// Overlays what section "Polar Data" holds; what is missing, unreadable or out of range stays.
+void PolarRecall(const Profile& profile, PolarSettings& settings);
+
+/// The place in section "Polar Window"; nothing unless all four keys are there with a size above 0.
+std::optional<WindowPlace> PolarPlaceRecall(const Profile& profile);
+
+/// Sets every key. A file inside `programFolder` is written without that folder.
+void PolarStore(Profile& profile, const PolarSettings& settings, const std::filesystem::path& programFolder);
+void PolarPlaceStore(Profile& profile, const WindowPlace& place);
+
+/// `file` without `programFolder` in front of it.
+std::string WithoutFolder(const std::string& file, const std::filesystem::path& programFolder);
+
+}  // namespace veerwatch

@@ -1,0 +1,76 @@
+// The polar window: the boat's polar as a plot, with the boat's present speed and wind against it. Made by
+// the main window on first use, afterwards shown and hidden. Closing it hides it and stores its settings.
+#pragma once
+
+#include <QLabel>
+#include <QMainWindow>
+
+#include "control/TrackMode.h"
+#include "platform/Dialogs.h"
+#include "platform/Profile.h"
+#include "polar/PolarCanvasQt.h"
+#include "polar/PolarListener.h"
+#include "polar/PolarMenuQt.h"
+#include "polar/PolarModel.h"
+#include "polar/PolarScene.h"
+
+namespace veerwatch {
+
+/// What the polar window works with; everything outlives it.
+struct PolarParts {
+  Profile& Store;
+  Dialogs& Asks;
+  PolarListener& Tells;
+  PolarFolders Folders;
+};
+
+class frmPolar final : public QMainWindow {
+ public:
+  /// Makes the window, hidden, and calls PolarInit(true).
+  explicit frmPolar(const PolarParts& parts);
+
+  /// Sets the defaults, recalls the settings when `recall`, refreshes the menus and loads the own polar.
+  void PolarInit(bool recall);
+
+  /// Takes one set of instrument values, as they stand in the record: angles [deg, wind angles negative to
+  /// port], speeds [kn], range [nm].
+  void PolarUpdate(TrackMode mode, bool headingValid, float heading, float boatSpeed, float windAngleApparent,
+                   float windSpeedApparent, float windAngleTrue, float windSpeedTrue, bool waypointValid,
+                   float waypointBearing, float waypointRange);
+
+  void PolarRecall();
+  /// Sets the keys of "Polar Window" and "Polar Data" in the profile, which somebody else commits.
+  void PolarStore();
+  void PolarMenus();
+  /// Draws anew and hides the mouse readout.
+  void PolarDraw();
+
+  const PolarModel& Model() const { return m_model; }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+
+ private:
+  void MakeCourseControls();
+  void ConnectMenus();
+  /// A command that changes the model: menus and plot follow.
+  void Follow();
+  /// Runs `command` and refreshes menus and plot when an item is chosen.
+  template <class Command>
+  void OnItem(QAction* item, Command command);
+
+  void pctPlot_MouseDown(QPointF at);
+  void pctPlot_MouseMove(QPointF at);
+
+  PolarParts m_parts;
+  PolarModel m_model;
+  PolarScene m_scene;
+  PolarMenuQt m_menu;
+  PolarCanvasQt* m_canvas;
+  QLabel* lblMouse;
+  QPointF m_pressed;
+};
+
+}  // namespace veerwatch
