@@ -110,18 +110,24 @@ void PolarCanvasQt::PaintStill(QPainter& painter) const {
   painter.setFont(font());
   PaintGrid(painter);
   PaintCurves(painter);
-  for (const PlotLabel& label : m_still.Grid.Labels) {
-    const bool wind = label.Kind == PlotLabelKind::Wind;
-    painter.setFont(TextFont(font(), m_still.TextHeight, wind ? QFont::Bold : QFont::Normal));
-    const QColor plate = m_colours.Disc;
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(plate);
-    const QRectF box = In(label.Box);
-    painter.drawRoundedRect(box, box.height() * 0.3, box.height() * 0.3);
-    painter.setPen(wind ? m_colours.Curve(m_still.SpeedColor) : m_colours.GridLabel);
-    painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip, Text(label.Text));
-  }
+  PaintLabels(painter, false);
   PaintKeys(painter);
+}
+
+void PolarCanvasQt::PaintLabels(QPainter& painter, bool winds) const {
+  painter.setFont(TextFont(font(), m_still.TextHeight, winds ? QFont::Bold : QFont::Normal));
+  const QColor text = winds ? m_colours.Curve(m_still.SpeedColor) : m_colours.GridLabel;
+  for (const PlotLabel& label : m_still.Grid.Labels) {
+    if ((label.Kind == PlotLabelKind::Wind) != winds) {
+      continue;
+    }
+    const QRectF box = In(label.Box);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(m_colours.Disc);
+    painter.drawRoundedRect(box, box.height() * 0.3, box.height() * 0.3);
+    painter.setPen(text);
+    painter.drawText(box, static_cast<int>(Qt::AlignCenter) | Qt::TextDontClip, Text(label.Text));
+  }
 }
 
 void PolarCanvasQt::PaintGrid(QPainter& painter) const {
@@ -195,10 +201,13 @@ void PolarCanvasQt::PaintMoving(QPainter& painter) const {
   Stroke(painter, m_moving.Wind, RoundPen(m_colours.Disc, (kWindWidth + kHalo) * size));
   Stroke(painter, m_moving.Wind, RoundPen(m_colours.Wind, kWindWidth * size));
   Stroke(painter, m_moving.ReferenceWind, DashedPen(m_colours.Reference, kWindWidth * size, 1.3 * size));
+  PaintLabels(painter, true);
   if (m_moving.Arrow) {
     const WindArrow& arrow = *m_moving.Arrow;
     const QPointF neck = (At(arrow.HeadLeft) + At(arrow.HeadRight)) / 2.0;
     const QPolygonF head{At(arrow.Shaft.To), At(arrow.HeadLeft), At(arrow.HeadRight)};
+    painter.setPen(QPen(m_colours.Wind, 1.2 * size));
+    painter.drawLine(At(arrow.Line.From), At(arrow.Line.To));
     painter.setPen(RoundPen(m_colours.Disc, (6.0 + kHalo) * size));
     painter.drawLine(At(arrow.Shaft.From), neck);
     painter.drawPolygon(head);

@@ -35,6 +35,8 @@ class PolarCanvasQt final : public QWidget {
   void PaintStill(QPainter& painter) const;
   void PaintGrid(QPainter& painter) const;
   void PaintCurves(QPainter& painter) const;
+  /// The labels of the winds, which stand above the moving curve, or the others.
+  void PaintLabels(QPainter& painter, bool winds) const;
   void PaintKeys(QPainter& painter) const;
   void PaintMoving(QPainter& painter) const;
   void PaintLegend(QPainter& painter) const;

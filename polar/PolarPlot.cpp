@@ -338,17 +338,21 @@ PolarGrid MakeGrid(const PolarGeometry& geometry, const PolarGridOptions& option
 }
 
 WindArrow MakeWindArrow(const PolarGeometry& geometry, double angle, double textHeight) {
-  constexpr double kTip = 0.5;
-  constexpr double kHeadLength = 0.11;
-  constexpr double kHeadHalf = 0.045;
+  // In shares of the outer radius.
+  constexpr double kTail = 0.36;
+  constexpr double kTip = 0.06;
+  constexpr double kHeadLength = 0.12;
+  constexpr double kHeadHalf = 0.05;
   const double radius = OuterRadius(geometry);
   const double radians = angle * kRadiansPerDegree;
-  const double tip = radius * kTip;
-  const double tail = std::max(radius - 3.6 * textHeight, tip + radius * kHeadLength);
-  const PlotPoint neck = AtRadius(geometry, angle, tip + radius * kHeadLength);
+  const PlotPoint tail = AtRadius(geometry, angle, radius * kTail);
+  const PlotPoint tip = AtRadius(geometry, angle, radius * kTip);
+  const PlotPoint neck = AtRadius(geometry, angle, radius * (kTip + kHeadLength));
+  const double rim = std::max(radius - 3.2 * textHeight, radius * kTail);
   const double acrossX = std::cos(radians) * radius * kHeadHalf;
   const double acrossY = std::sin(radians) * radius * kHeadHalf;
-  return {{AtRadius(geometry, angle, tail), AtRadius(geometry, angle, tip)},
+  return {{AtRadius(geometry, angle, rim), tail},
+          {tail, tip},
           {neck.X - acrossX, neck.Y - acrossY},
           {neck.X + acrossX, neck.Y + acrossY}};
 }
@@ -365,6 +369,8 @@ namespace {
 
 /// Shares of the space in a legend cell.
 constexpr double kCaptionShare = 0.3;
+/// Width of the longest usual value, as "12.3 104%", in shares of its height.
+constexpr double kLongestValue = 4.6;
 
 /// A cell in a box: the caption above the value.
 LegendCell CellIn(const PlotBox& box) {
@@ -423,33 +429,34 @@ void LayCorners(PolarLegend& legend, double width, double height, int keys) {
   const double valueHeight = side * 0.066;
   // The lower corners have a line more, for the names.
   const double keyHeight = keys > 1 ? captionHeight : 0.0;
-  const double topWidth = CornerWidth(half, margin + captionHeight + valueHeight) - margin;
-  const double lowWidth = CornerWidth(half, margin + keyHeight + captionHeight + valueHeight) - margin;
   const double moreX = width - side;
-  const double captionWidth = CornerWidth(half, margin + captionHeight) - margin;
+  const double keyWidth = CornerWidth(half, margin + keyHeight) - margin;
 
   const auto cell = [&](bool right, bool low) {
     const double more = right ? moreX : 0.0;
-    const double valueWidth = (low ? lowWidth : topWidth) + more;
-    const double wide = captionWidth + more;
+    // Rows from the nearer edge to the far side of each text.
+    const double captionRows =
+        low ? margin + keyHeight + valueHeight + captionHeight : margin + captionHeight;
+    const double valueRows = low ? margin + keyHeight + valueHeight : margin + captionHeight + valueHeight;
+    const double captionWidth = CornerWidth(half, captionRows) - margin + more;
+    const double valueWidth = CornerWidth(half, valueRows) - margin + more;
     const auto left = [&](double boxWidth) { return right ? width - margin - boxWidth : margin; };
-    const double captionY = low ? height - margin - keyHeight - captionHeight : margin;
-    const double valueY = low ? captionY - valueHeight : margin + captionHeight;
-    return LegendCell{{left(wide), captionY, wide, captionHeight},
-                      {left(valueWidth), valueY, valueWidth, valueHeight},
-                      right};
+    return LegendCell{
+        {left(captionWidth), low ? height - captionRows : margin, captionWidth, captionHeight},
+        {left(valueWidth), low ? height - valueRows : margin + captionHeight, valueWidth, valueHeight},
+        right};
   };
   legend.WindSpeed = cell(false, false);
   legend.WindAngle = cell(true, false);
   legend.Reference = cell(false, true);
   legend.Boat = cell(true, true);
   if (keys > 1) {
-    legend.Keys.push_back({margin, height - margin - keyHeight, captionWidth, keyHeight});
-    legend.Keys.push_back({width - margin - captionWidth - moreX, height - margin - keyHeight,
-                           captionWidth + moreX, keyHeight});
+    const double y = height - margin - keyHeight;
+    legend.Keys.push_back({margin, y, keyWidth, keyHeight});
+    legend.Keys.push_back({width - margin - keyWidth - moreX, y, keyWidth + moreX, keyHeight});
   }
   legend.CaptionText = captionHeight * 0.72;
-  legend.ValueText = valueHeight * 0.86;
+  legend.ValueText = std::min(valueHeight * 0.86, (legend.Boat.Value.Width - moreX) / kLongestValue);
   legend.Corners = true;
 }
 

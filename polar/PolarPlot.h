@@ -92,8 +92,9 @@ double RingStep(double speedRange);
 /// Room that a label of `text` takes at most [px].
 double LabelWidth(const std::string& text, double textHeight);
 
-/// The wind arrow: a shaft from the rim towards the centre, inside of the angle labels.
+/// The wind: an arrow towards the centre, and a thin line from the angle labels to it.
 struct WindArrow {
+  PlotStroke Line;
   PlotStroke Shaft;
   PlotPoint HeadLeft;
   PlotPoint HeadRight;
