@@ -1,0 +1,347 @@
+#include "polar/PolarModel.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/NumberText.h"
+#include "polar/PolarQuestions.h"
+#include "polar/PolarScene.h"
+#include "tests/support/PolarText.h"
+#include "tests/support/QueuedDialogs.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace veerwatch {
+namespace {
+
+class PolarModelTest : public testing::Test {
+ public:
+  TemporaryFolder Program;
+  QueuedDialogs Dialogs;
+  PolarModel Model{{Program.Path(), {}}};
+
+  PolarModelTest() {
+    WriteFile(Program / kDefaultPolar, kSmallPolar);
+    Model.Reset(nullptr);
+    EXPECT_TRUE(Model.Load(PolarModel::kMain).Loaded);
+  }
+
+  static PolarValues Sailing(float angle, float wind, float boat) {
+    return {true, 90.0F, boat, angle / 2.0F, wind + 3.0F, angle, wind, false, 0.0F, 0.0F};
+  }
+};
+
+TEST_F(PolarModelTest, LooksForARelativeNameInTheProgramsFolderFirst) {
+  EXPECT_EQ(Model.FilePath(0), Program / kDefaultPolar);
+  const TemporaryFolder other;
+  WriteFile(other / "b.pol", "TWA\t6\n90\t5\n120\t6\n");
+  WriteFile(other / kDefaultPolar, "TWA\t6\n90\t5\n120\t6\n");
+  EXPECT_TRUE(Model.Open(PolarModel::kReference, (other / "b.pol").string()).Loaded);
+  EXPECT_EQ(Model.FilePath(0), Program / kDefaultPolar);
+  std::filesystem::remove(Program / kDefaultPolar);
+  EXPECT_EQ(Model.FilePath(0), other / kDefaultPolar) << "then in the folder of the polar opened last";
+  std::filesystem::remove(other / kDefaultPolar);
+  EXPECT_EQ(Model.FilePath(0), Program / kDefaultPolar);
+}
+
+TEST_F(PolarModelTest, LooksForARelativeNameInTheSharedFolderLast) {
+  const TemporaryFolder shared;
+  WriteFile(shared / kDefaultPolar, kSmallPolar);
+  PolarModel model({Program / "bin", shared.Path()});
+  model.Reset(nullptr);
+  EXPECT_EQ(model.FilePath(0), shared / kDefaultPolar);
+}
+
+TEST_F(PolarModelTest, OpensANewPolarUnscaledAndHidesTheReference) {
+  Model.TakeFactor("0.9");
+  EXPECT_TRUE(Model.Load(0).Loaded);
+  EXPECT_FLOAT_EQ(Model.Table().Value(0, 1, 1), 3.6F);
+  EXPECT_TRUE(Model.Open(PolarModel::kReference, (Program / kDefaultPolar).string()).Loaded);
+  EXPECT_EQ(Model.PolarsShown(), 2);
+  EXPECT_EQ(Model.Settings().SpeedFactor, 0.9F) << "a reference leaves the factor alone";
+  EXPECT_TRUE(Model.Open(PolarModel::kMain, (Program / kDefaultPolar).string()).Loaded);
+  EXPECT_EQ(Model.PolarsShown(), 1);
+  EXPECT_EQ(Model.Settings().SpeedFactor, 1.0F);
+  EXPECT_EQ(Model.Table().Value(0, 1, 1), 4.0F);
+}
+
+TEST_F(PolarModelTest, ShowsNoReferenceThatFailedToLoad) {
+  EXPECT_FALSE(Model.Open(PolarModel::kReference, (Program / "missing.pol").string()).Loaded);
+  EXPECT_EQ(Model.PolarsShown(), 1);
+  EXPECT_EQ(Model.Settings().File[1], (Program / "missing.pol").string());
+}
+
+TEST_F(PolarModelTest, TurnsTheCourseOffWhenItIsChosenAgain) {
+  EXPECT_FALSE(Model.Settings().CourseWaypoint);
+  Model.ChooseCourse(CourseSource::WaypointBearing);
+  EXPECT_TRUE(Model.Settings().CourseWaypoint);
+  Model.ChooseCourse(CourseSource::TargetBearing);
+  EXPECT_TRUE(Model.Settings().CourseWaypoint);
+  EXPECT_EQ(Model.Settings().CourseWaypointIndex, CourseSource::TargetBearing);
+  Model.ChooseCourse(CourseSource::TargetBearing);
+  EXPECT_FALSE(Model.Settings().CourseWaypoint);
+  Model.ChooseCourse(CourseSource::TargetBearing);
+  EXPECT_TRUE(Model.Settings().CourseWaypoint) << "any item activates while none is active";
+}
+
+TEST_F(PolarModelTest, AveragesWhileTheWindowIsHiddenAndLooksUpInSight) {
+  Model.Average(4.0F);
+  EXPECT_FALSE(Model.Update(TrackMode::Track, Sailing(80.0F, 20.0F, 8.0F), false));
+  EXPECT_EQ(Model.PolarSpeed(), 0.0F);
+  EXPECT_TRUE(Model.Update(TrackMode::Track, Sailing(80.0F, 20.0F, 12.0F), true)) << "a new mode";
+  EXPECT_EQ(Model.Values().BoatSpeed, 9.0F);
+  EXPECT_NEAR(Model.PolarSpeed(), 11.0F, 1e-3F);
+  EXPECT_EQ(Model.PolarSpeedText(), "11.0 deg");
+  EXPECT_FALSE(Model.Update(TrackMode::Track, Sailing(-80.0F, 20.0F, 9.0F), true));
+}
+
+TEST_F(PolarModelTest, LooksUpTheTrueWindInEitherPlotType) {
+  Model.Average(0.0F);
+  Model.ShowWind(PlotType::ApparentWind);
+  Model.Update(TrackMode::Manual, Sailing(-60.0F, 20.0F, 8.0F), true);
+  PolarTable table = TableOf(kSmallPolar);
+  table.Type(PlotType::ApparentWind);
+  EXPECT_NEAR(Model.PolarSpeed(), table.PolarSpeed(0, 60.0F, 20.0F), 1e-3F);
+}
+
+TEST_F(PolarModelTest, ReadsOutSpeedsAndWind) {
+  EXPECT_EQ(Model.Readout().BoatValue, "");
+  EXPECT_EQ(Model.Readout().ReferenceCaption, "Polar (Kts)");
+  Model.Average(0.0F);
+  Model.Update(TrackMode::Track, Sailing(-80.0F, 20.0F, 8.25F), true);
+  PolarReadout readout = Model.Readout();
+  EXPECT_EQ(readout.ReferenceValue, "11.0");
+  EXPECT_EQ(readout.BoatCaption, "Boat (Kts)");
+  EXPECT_EQ(readout.BoatValue, "8.3");
+  EXPECT_EQ(readout.BoatPercent, "75%");
+  EXPECT_EQ(readout.WindSpeedCaption, "TWS (Kts)");
+  EXPECT_EQ(readout.WindSpeedValue, "20.0");
+  EXPECT_EQ(readout.WindAngleCaption, "TWA (R)");
+  EXPECT_EQ(readout.WindAngleValue, "-80");
+
+  Model.ShowWind(PlotType::ApparentWind);
+  Model.Boat(BoatType::MotorAndSail);
+  readout = Model.Readout();
+  EXPECT_EQ(readout.ReferenceCaption, "Motor (Kts)");
+  EXPECT_EQ(readout.ReferenceValue, "3.0");
+  EXPECT_EQ(readout.BoatPercent, "275%");
+  EXPECT_EQ(readout.WindSpeedCaption, "AWS (Kts)");
+  EXPECT_EQ(readout.WindSpeedValue, "23.0");
+  EXPECT_EQ(readout.WindAngleCaption, "AWA (R)");
+  EXPECT_EQ(readout.WindAngleValue, "-40");
+}
+
+TEST_F(PolarModelTest, GivesNoPercentageOfNothing) {
+  Model.Average(0.0F);
+  Model.Update(TrackMode::Track, Sailing(10.0F, 20.0F, 8.0F), true);
+  EXPECT_EQ(Model.Readout().ReferenceValue, "0.0");
+  EXPECT_EQ(Model.Readout().BoatPercent, "");
+}
+
+TEST_F(PolarModelTest, WritesPresentValuesIntoTheMenus) {
+  EXPECT_EQ(Model.ScalingCaption(), "Set Scaling (100%)...");
+  EXPECT_EQ(Model.TargetBearingCaption(), "Set Target Bearing (0 M)...");
+  EXPECT_EQ(Model.MotorSpeedCaption(), "Set Motor Only Speed to Target/Waypoint (3.0 Kts)...");
+  EXPECT_TRUE(Model.TakeFactor("0.955"));
+  EXPECT_TRUE(Model.TakeBearing("-90.4"));
+  EXPECT_TRUE(Model.TakeMotorSpeed("5.25"));
+  EXPECT_EQ(Model.ScalingCaption(), "Set Scaling (96%)...");
+  EXPECT_EQ(Model.TargetBearingCaption(), "Set Target Bearing (270 M)...");
+  EXPECT_EQ(Model.MotorSpeedCaption(), "Set Motor Only Speed to Target/Waypoint (5.3 Kts)...");
+}
+
+TEST_F(PolarModelTest, TakesNoNumberThatCannotBe) {
+  for (const char* text : {"", "x", "0", "-1", "nan", "inf", "1e99", "5 kn"}) {
+    EXPECT_FALSE(Model.TakeRange(text)) << text;
+    EXPECT_FALSE(Model.TakeFactor(text)) << text;
+  }
+  EXPECT_FALSE(Model.TakeBearing("north"));
+  EXPECT_FALSE(Model.TakeMotorSpeed(""));
+  EXPECT_EQ(Model.Settings().SpeedRange, 10.0F);
+  EXPECT_EQ(Model.Settings().SpeedFactor, 1.0F);
+  EXPECT_TRUE(Model.TakeRange(" 14.5 "));
+  EXPECT_EQ(Model.Settings().SpeedRange, 14.5F);
+}
+
+TEST_F(PolarModelTest, ReadsTheCellUnderTheMouseOut) {
+  const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 20.0);
+  const PlotPoint at = PointAt(geometry, -120.0, 14.0);
+  const auto found = Model.Nearest(at.X + 15.0, at.Y + 15.0, geometry);
+  ASSERT_TRUE(found.has_value()) << "450 px squared away";
+  EXPECT_EQ(found->Text, "-120.0\n20\n14.0");
+  EXPECT_FALSE(found->Reference);
+  // 20 * 20 + 10 * 10 is just no longer near.
+  EXPECT_FALSE(Model.Nearest(at.X - 20.0, at.Y + 10.0, geometry).has_value());
+  EXPECT_TRUE(Model.Nearest(at.X - 19.9, at.Y + 10.0, geometry).has_value());
+}
+
+TEST_F(PolarModelTest, ReadsTheReferenceOutWhereItIsNearer) {
+  WriteFile(Program / "r.pol", "TWA\t20\n80\t11\n120\t16\n");
+  const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 20.0);
+  const PlotPoint at = PointAt(geometry, 120.0, 16.0);
+  EXPECT_EQ(Model.Nearest(at.X, at.Y, geometry)->Text, "120.0\n20\n14.0") << "hidden";
+  ASSERT_TRUE(Model.Open(PolarModel::kReference, (Program / "r.pol").string()).Loaded);
+  EXPECT_EQ(Model.Nearest(at.X, at.Y, geometry)->Text, "120.0\n20\n16.0");
+  EXPECT_TRUE(Model.Nearest(at.X, at.Y, geometry)->Reference);
+  const PlotPoint both = PointAt(geometry, 80.0, 11.0);
+  EXPECT_FALSE(Model.Nearest(both.X, both.Y, geometry)->Reference) << "the own polar wins a tie";
+}
+
+// What is asked
+
+TEST_F(PolarModelTest, AsksForTheRange) {
+  Dialogs.Texts = {"7.5", "", "x", std::nullopt, "-2"};
+  EXPECT_TRUE(AskRange(Model, Dialogs));
+  EXPECT_EQ(Model.Settings().SpeedRange, 7.5F);
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_FALSE(AskRange(Model, Dialogs));
+    EXPECT_EQ(Model.Settings().SpeedRange, 7.5F);
+  }
+  EXPECT_EQ(Dialogs.Questions[0].Title, "Polar Plot - Speed Range");
+  EXPECT_EQ(Dialogs.Questions[0].Text, "Enter the maximun speed (Kts) for the polar plot display.");
+  EXPECT_EQ(Dialogs.Presets[0], "10");
+  EXPECT_EQ(Dialogs.Presets[1], "7.5");
+}
+
+TEST_F(PolarModelTest, AsksForTheFactorAndLoadsTheOwnPolarAnew) {
+  Dialogs.Texts = {"0.5"};
+  EXPECT_TRUE(AskScaling(Model, Dialogs));
+  EXPECT_EQ(Model.Table().Value(0, 1, 1), 2.0F);
+  EXPECT_EQ(Dialogs.Questions[0].Title, "AutoPilot - Polar Plot - Speed Factor");
+  EXPECT_EQ(Dialogs.Questions[0].Text,
+            "Enter the scaling factor, used to scale the polar plot speed data.  The scaling factor is "
+            "normally set to 1, but can be set to other values to compensate for bad weather or heavy "
+            "displacement.");
+  EXPECT_EQ(Dialogs.Presets[0], "1");
+  Dialogs.Texts = {"2"};
+  EXPECT_TRUE(AskScaling(Model, Dialogs));
+  EXPECT_EQ(Model.Table().Value(0, 1, 1), 8.0F) << "from the file, not from what was scaled before";
+}
+
+TEST_F(PolarModelTest, AsksForTheBearingAndTheMotorSpeed) {
+  Dialogs.Texts = {"361", "4.5"};
+  EXPECT_TRUE(AskTargetBearing(Model, Dialogs));
+  EXPECT_EQ(Model.Settings().CourseTargetBearing, 1.0F);
+  EXPECT_TRUE(AskMotorSpeed(Model, Dialogs));
+  EXPECT_EQ(Model.Settings().BoatMotorSpeed, 4.5F);
+  EXPECT_EQ(Dialogs.Questions[0].Title, "Polar Plot - Target Bearing");
+  EXPECT_EQ(Dialogs.Questions[0].Text, "Enter the Target Bearing.");
+  EXPECT_EQ(Dialogs.Questions[1].Title, "Polar Plot - Motor Speed");
+  EXPECT_EQ(Dialogs.Questions[1].Text, "Enter the Motor Only Speed to Traget/Waypoint.");
+}
+
+TEST_F(PolarModelTest, AsksForTheColour) {
+  EXPECT_FALSE(AskColor(Model, Dialogs));
+  EXPECT_EQ(Model.Settings().SpeedColor, 0U);
+  Dialogs.Colour = 0x0080FFU;
+  EXPECT_TRUE(AskColor(Model, Dialogs));
+  EXPECT_EQ(Model.Settings().SpeedColor, 0x0080FFU);
+}
+
+TEST_F(PolarModelTest, TellsWhatIsWrongWithAFileThatIsOpened) {
+  WriteFile(Program / "bad.pol", "polar\n");
+  WriteFile(Program / "cut.pol", "TWA\t6\n90\t5");
+  Dialogs.Files = {std::nullopt, (Program / "bad.pol").string(), (Program / "cut.pol").string()};
+  EXPECT_FALSE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_EQ(Dialogs.FileDialogs[0].Title, "(*.pol)|*.pol");
+  EXPECT_EQ(Dialogs.FileDialogs[0].Text, (Program / kDefaultPolar).string());
+  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  ASSERT_EQ(Dialogs.Messages.size(), 1U);
+  EXPECT_EQ(Dialogs.Messages[0].Text, "Polar File Error: No TWA Data");
+  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_EQ(Dialogs.Messages.size(), 1U) << "a last line without an end is not told";
+}
+
+TEST_F(PolarModelTest, SavesUnderANewName) {
+  const std::string file = (Program / "new.pol").string();
+  Dialogs.Files = {std::nullopt, file};
+  EXPECT_FALSE(PolarSaveAs(Model, Dialogs));
+  EXPECT_TRUE(PolarSaveAs(Model, Dialogs));
+  EXPECT_TRUE(Dialogs.Warnings.empty());
+  EXPECT_EQ(Model.Settings().File[0], file);
+  EXPECT_EQ(ReadFile(file).substr(0, 16), "TWA\t6\t10\t14\t20\r\n");
+  EXPECT_EQ(Dialogs.FileDialogs[1].Title, "(*.pol)|*.pol");
+  EXPECT_EQ(Dialogs.FileDialogs[1].Text, (Program / kDefaultPolar).string());
+}
+
+TEST_F(PolarModelTest, AsksBeforeItReplacesAFileThatHoldsSomething) {
+  const std::string file = (Program / "old.pol").string();
+  WriteFile(file, "old");
+  WriteFile(Program / "empty.pol", "");
+  Dialogs.Files = {file, file, (Program / "empty.pol").string()};
+  Dialogs.Answers = {false, true};
+  EXPECT_FALSE(PolarSaveAs(Model, Dialogs));
+  EXPECT_EQ(ReadFile(file), "old");
+  EXPECT_EQ(Model.Settings().File[0], kDefaultPolar);
+  EXPECT_EQ(Dialogs.Warnings[0].Title, "AutoPilot - Save As");
+  EXPECT_EQ(Dialogs.Warnings[0].Text, file + "file already exists.\nDo you want to replace it?");
+  EXPECT_TRUE(PolarSaveAs(Model, Dialogs));
+  EXPECT_EQ(ReadFile(file).substr(0, 3), "TWA");
+  EXPECT_TRUE(PolarSaveAs(Model, Dialogs));
+  EXPECT_EQ(Dialogs.Warnings.size(), 2U) << "an empty file is nothing to ask about";
+}
+
+TEST_F(PolarModelTest, TellsWhySavingFailedAndKeepsItsName) {
+  WriteFile(Program / "file", "x");
+  Dialogs.Files = {(Program / "file" / "a.pol").string()};
+  EXPECT_FALSE(PolarSaveAs(Model, Dialogs));
+  ASSERT_EQ(Dialogs.Messages.size(), 1U);
+  EXPECT_NE(Dialogs.Messages[0].Text.find("a.pol"), std::string::npos);
+  EXPECT_EQ(Model.Settings().File[0], kDefaultPolar);
+}
+
+// What is drawn
+
+TEST_F(PolarModelTest, MakesTheStillPictureAnewOnlyWhenItChanges) {
+  PolarScene scene(Model);
+  const auto version = scene.Still(400, 300).Version;
+  Model.Average(0.0F);
+  Model.Update(TrackMode::Track, Sailing(80.0F, 12.0F, 8.0F), true);
+  EXPECT_EQ(scene.Still(400, 300).Version, version);
+  EXPECT_NE(scene.Still(401, 300).Version, version);
+  std::vector<std::uint64_t> versions{scene.Still(400, 300).Version};
+  const auto changed = [&] {
+    versions.push_back(scene.Still(400, 300).Version);
+    return versions[versions.size() - 2] != versions.back();
+  };
+  EXPECT_FALSE(changed());
+  Model.Range(8.0F);
+  EXPECT_TRUE(changed());
+  Model.ToggleWindSpeedLabel();
+  EXPECT_TRUE(changed());
+  Model.Color(255U);
+  EXPECT_TRUE(changed());
+  Model.ShowWind(PlotType::ApparentWind);
+  EXPECT_TRUE(changed());
+  EXPECT_TRUE(Model.Load(0).Loaded);
+  EXPECT_TRUE(changed());
+}
+
+TEST_F(PolarModelTest, DrawsNoBoatBeforeValuesCome) {
+  PolarScene scene(Model);
+  scene.Still(400, 300);
+  EXPECT_FALSE(scene.Moving().Boat.has_value());
+  EXPECT_FALSE(scene.Moving().Arrow.has_value());
+  EXPECT_TRUE(scene.Moving().Wind.empty());
+  Model.Average(0.0F);
+  Model.Update(TrackMode::Track, Sailing(-90.0F, 12.0F, 5.0F), true);
+  const PolarMoving moving = scene.Moving();
+  ASSERT_TRUE(moving.Boat.has_value());
+  // Half of the range to port of the centre.
+  EXPECT_NEAR(moving.Boat->Point.X, 75.0, 1e-3);
+  EXPECT_NEAR(moving.Boat->Point.Y, 150.0, 1e-3);
+  EXPECT_TRUE(moving.Arrow.has_value());
+  EXPECT_FALSE(moving.Wind.empty());
+  EXPECT_TRUE(moving.ReferenceWind.empty());
+}
+
+TEST_F(PolarModelTest, NamesThePolarsWithTheirScaling) {
+  PolarScene scene(Model);
+  EXPECT_EQ(scene.Still(900, 500).Keys, std::vector<std::string>{"Fast Sled 60ft"});
+  Model.TakeFactor("0.9");
+  ASSERT_TRUE(Model.Open(PolarModel::kReference, (Program / kDefaultPolar).string()).Loaded);
+  EXPECT_EQ(scene.Still(900, 500).Keys,
+            (std::vector<std::string>{"Fast Sled 60ft 90%", "Fast Sled 60ft 90%"}));
+  EXPECT_FALSE(scene.Still(900, 500).Reference.empty());
+}
+
+}  // namespace
+}  // namespace veerwatch

@@ -1,0 +1,98 @@
+// A polar window on fakes, driven by object names and real events.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QtTest/QTest>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "polar/frmPolar.h"
+#include "tests/support/PolarText.h"
+#include "tests/support/QueuedDialogs.h"
+#include "tests/support/TemporaryFolder.h"
+
+namespace veerwatch {
+
+class PolarWindowTester : public testing::Test, public PolarListener {
+ public:
+  TemporaryFolder Program;
+  Profile Store;
+  QueuedDialogs Dialogs;
+  std::unique_ptr<frmPolar> Window;
+  std::vector<std::pair<std::string, std::string>> Values;  ///< told for the history
+  std::vector<bool> Shown;                                  ///< told about the window
+
+  PolarWindowTester() { WriteFile(Program / kDefaultPolar, kSmallPolar); }
+
+  void OnPolarValue(std::string_view channel, std::string_view value) override {
+    Values.emplace_back(channel, value);
+  }
+  void OnPolarVisible(bool visible) override { Shown.push_back(visible); }
+
+  void Make() {
+    Window = std::make_unique<frmPolar>(PolarParts{Store, Dialogs, *this, {Program.Path(), {}}});
+  }
+  void Start() {
+    Make();
+    Window->show();
+    Window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Window.get()));
+  }
+
+  template <class Control>
+  Control& Find(const char* name) const {
+    auto* control = Window->findChild<Control*>(QString::fromLatin1(name));
+    if (control == nullptr) {
+      throw std::runtime_error(std::string("no control ") + name);
+    }
+    return *control;
+  }
+  QWidget& Plot() const { return Find<QWidget>("pctPlot"); }
+  bool Ticked(const char* item) const { return Find<QAction>(item).isChecked(); }
+  const PolarSettings& Set() const { return Window->Model().Settings(); }
+
+  /// Opens the item's menu and clicks on the item.
+  void Choose(const char* item) const {
+    auto& action = Find<QAction>(item);
+    auto* menu = qobject_cast<QMenu*>(action.parent());
+    ASSERT_NE(menu, nullptr) << item;
+    menu->popup(Window->mapToGlobal(QPoint(10, 10)));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(menu)) << item;
+    QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(&action).center());
+    ASSERT_FALSE(menu->isVisible()) << item;
+  }
+
+  /// Makes the plot a square of `size` [px].
+  void Square(int size) const {
+    Window->resize(Window->size() + QSize(size, size) - Plot().size());
+    QApplication::processEvents();
+    ASSERT_EQ(Plot().size(), QSize(size, size));
+  }
+
+  QImage Grab(const std::string& name) const {
+    QApplication::processEvents();
+    const QImage image = Window->grab().toImage();
+    image.save(QStringLiteral("veerwatch-polar-%1.png").arg(QString::fromStdString(name)));
+    return image;
+  }
+  /// The plot alone.
+  QImage GrabPlot() const {
+    QApplication::processEvents();
+    return Plot().grab().toImage();
+  }
+
+  /// One set of values.
+  void Sail(float angle, float wind, float boat, TrackMode mode = TrackMode::Track) const {
+    Window->PolarUpdate(mode, true, 100.0F, boat, angle * 0.6F, wind + 4.0F, angle, wind, false, 0.0F, 0.0F);
+  }
+};
+
+}  // namespace veerwatch
