@@ -74,9 +74,9 @@ int Complain(std::string text) {
 /// A number as the program reads it everywhere else; CLI11 alone would also take "nan" and "inf".
 const CLI::Validator kNumber(
     [](const std::string& text) {
-      return veerwatch::StrictNumber(text) ? std::string() : "no number: " + text;
+      return veerwatch::StrictNumber(text) ? std::string() : text + " is not a number";
     },
-    "");
+    "NUMBER");
 
 /// "polar" and its three commands.
 class PolarArguments {
