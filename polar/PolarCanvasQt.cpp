@@ -14,7 +14,7 @@ namespace {
 
 // Widths of lines [px] at the design size of the plot [px]; thinner on a smaller one.
 constexpr qreal kDesignSize = 700.0;
-constexpr qreal kCurveWidth = 1.5;
+constexpr qreal kCurveWidth = 1.8;
 constexpr qreal kWindWidth = 4.0;
 constexpr qreal kHalo = 2.6;
 /// How strongly the minor curves of a dense table show.
@@ -151,7 +151,7 @@ void PolarCanvasQt::PaintGrid(QPainter& painter) const {
 }
 
 void PolarCanvasQt::PaintCurves(QPainter& painter) const {
-  const qreal size = std::clamp(m_still.Geometry.CentreX * 2.0 / kDesignSize, 0.6, 1.6);
+  const qreal size = std::clamp(m_still.Geometry.CentreX * 2.0 / kDesignSize, 0.65, 1.6);
   const QColor curve = m_colours.Curve(m_still.SpeedColor);
   QColor faint = curve;
   faint.setAlphaF(static_cast<float>(kMinorShare));
@@ -175,10 +175,10 @@ void PolarCanvasQt::PaintKeys(QPainter& painter) const {
     const QRectF box = In(m_still.Legend.Keys[i]);
     const bool right = m_still.Legend.Corners && i == 1;
     painter.setFont(TextFont(font(), box.height() * 0.62));
-    const qreal sample = box.height() * 1.7;
+    const qreal sample = box.height() * 1.5;
     const QFontMetricsF metrics(painter.font(), painter.device());
     const QString name =
-        metrics.elidedText(Text(m_still.Keys[i]), Qt::ElideRight, box.width() - sample * 1.25);
+        metrics.elidedText(Text(m_still.Keys[i]), Qt::ElideMiddle, box.width() - sample * 1.25);
     const qreal width = metrics.horizontalAdvance(name) + sample * 1.25;
     const qreal x = right ? box.right() - width : box.left();
     const qreal y = box.center().y();

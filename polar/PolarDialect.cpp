@@ -45,11 +45,14 @@ std::string_view Trimmed(std::string_view text) {
   if (first == std::string_view::npos) {
     return {};
   }
-  text = text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-  if (text.size() >= 2 && text.front() == '"' && text.back() == '"') {
-    return Trimmed(text.substr(1, text.size() - 2));
-  }
-  return text;
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+/// A cell without blanks and quotes around it.
+std::string_view Bare(std::string_view cell) {
+  cell = Trimmed(cell);
+  const bool quoted = cell.size() >= 2 && cell.front() == '"' && cell.back() == '"';
+  return quoted ? Trimmed(cell.substr(1, cell.size() - 2)) : cell;
 }
 
 bool IsComment(std::string_view line) {
@@ -85,14 +88,14 @@ std::vector<std::string_view> Cells(std::string_view line, char separator) {
     std::size_t at = line.find_first_not_of(kBlanks);
     while (at != std::string_view::npos) {
       const std::size_t end = std::min(line.find_first_of(kBlanks, at), line.size());
-      cells.push_back(Trimmed(line.substr(at, end - at)));
+      cells.push_back(Bare(line.substr(at, end - at)));
       at = line.find_first_not_of(kBlanks, end);
     }
     return cells;
   }
   for (std::size_t at = 0; at <= line.size();) {
     const std::size_t end = std::min(line.find(separator, at), line.size());
-    cells.push_back(Trimmed(line.substr(at, end - at)));
+    cells.push_back(Bare(line.substr(at, end - at)));
     at = end + 1;
   }
   // A separator behind the last cell means nothing.

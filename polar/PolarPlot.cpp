@@ -370,7 +370,9 @@ namespace {
 /// Shares of the space in a legend cell.
 constexpr double kCaptionShare = 0.3;
 /// Width of the longest usual value, as "12.3 104%", in shares of its height.
-constexpr double kLongestValue = 4.6;
+constexpr double kLongestValue = 4.9;
+/// Least height of the captions [px].
+constexpr double kLeastCaption = 7.5;
 
 /// A cell in a box: the caption above the value.
 LegendCell CellIn(const PlotBox& box) {
@@ -386,7 +388,7 @@ double CornerWidth(double half, double rows) {
 }
 
 void LayColumn(PolarLegend& legend, const PlotBox& box, int keys) {
-  const double keyHeight = std::min(box.Height * 0.05, 22.0);
+  const double keyHeight = std::clamp(box.Height * 0.03, 9.0, 20.0);
   const double cellHeight = std::min((box.Height - (keys + 1) * keyHeight * 1.5) / 4.0, box.Width * 0.56);
   double y = box.Y;
   for (LegendCell* cell : {&legend.Boat, &legend.Reference, &legend.WindSpeed, &legend.WindAngle}) {
@@ -396,12 +398,12 @@ void LayColumn(PolarLegend& legend, const PlotBox& box, int keys) {
   for (int key = keys; key > 0; --key) {
     legend.Keys.push_back({box.X, box.Y + box.Height - key * keyHeight * 1.4, box.Width, keyHeight * 1.4});
   }
-  legend.CaptionText = legend.Boat.Caption.Height * 0.62;
-  legend.ValueText = std::min(legend.Boat.Value.Height * 0.92, box.Width * 0.24);
+  legend.CaptionText = std::max(legend.Boat.Caption.Height * 0.62, kLeastCaption);
+  legend.ValueText = std::min(legend.Boat.Value.Height * 0.92, box.Width / kLongestValue);
 }
 
 void LayRow(PolarLegend& legend, const PlotBox& box, int keys) {
-  const double keyHeight = keys > 0 ? std::clamp(box.Height * 0.11, 11.0, 22.0) : 0.0;
+  const double keyHeight = keys > 0 ? std::clamp(box.Height * 0.11, 9.0, 18.0) : 0.0;
   const double height = box.Height - keys * keyHeight * 1.4;
   const bool twice = height > box.Width * 0.36;
   const double cellWidth = box.Width / (twice ? 2.0 : 4.0);
@@ -417,8 +419,8 @@ void LayRow(PolarLegend& legend, const PlotBox& box, int keys) {
   for (int key = keys; key > 0; --key) {
     legend.Keys.push_back({box.X, box.Y + box.Height - key * keyHeight * 1.4, box.Width, keyHeight * 1.4});
   }
-  legend.CaptionText = legend.Boat.Caption.Height * 0.62;
-  legend.ValueText = std::min(legend.Boat.Value.Height * 0.92, cellWidth * 0.22);
+  legend.CaptionText = std::max(legend.Boat.Caption.Height * 0.62, kLeastCaption);
+  legend.ValueText = std::min(legend.Boat.Value.Height * 0.92, legend.Boat.Value.Width / kLongestValue);
 }
 
 void LayCorners(PolarLegend& legend, double width, double height, int keys) {

@@ -339,7 +339,7 @@ int Count(const QImage& image, const PlotPoint& centre, int radius, const QColor
         continue;
       }
       const QColor pixel = image.pixelColor(at);
-      constexpr int kNear = 40;
+      constexpr int kNear = 70;
       count += std::abs(pixel.red() - colour.red()) < kNear &&
                        std::abs(pixel.green() - colour.green()) < kNear &&
                        std::abs(pixel.blue() - colour.blue()) < kNear
@@ -351,12 +351,12 @@ int Count(const QImage& image, const PlotPoint& centre, int radius, const QColor
 }
 
 TEST_F(PolarWindow, DrawsEachCellWhereItBelongsInTheSpeedColour) {
-  Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
+  Store.ProfileSet("Polar Data", "Speed Range", 20.0F);
   Store.ProfileSet("Polar Data", "Speed Color", static_cast<float>(0x00C800));
   Start();
-  Square(500);
+  Square(700);
   const QImage image = GrabPlot();
-  const auto geometry = PlotGeometry(500.0, 500.0, 16.0);
+  const auto geometry = PlotGeometry(700.0, 700.0, 20.0);
   const PolarTable table = TableOf(kSmallPolar);
   for (int column = 1; column <= 4; ++column) {
     for (int row = 2; row <= 3; ++row) {
@@ -372,13 +372,13 @@ TEST_F(PolarWindow, DrawsEachCellWhereItBelongsInTheSpeedColour) {
 }
 
 TEST_F(PolarWindow, PacksColoursBlueFirst) {
-  Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
+  Store.ProfileSet("Polar Data", "Speed Range", 20.0F);
   Start();
-  Square(500);
+  Square(700);
   Dialogs.Colour = 0x0000E6U;
   Choose("mnuOverlayColor");
   EXPECT_EQ(Dialogs.Colours, std::vector<std::uint32_t>{0U});
-  const PlotPoint cell = PointAt(PlotGeometry(500.0, 500.0, 16.0), 80.0, 11.0);
+  const PlotPoint cell = PointAt(PlotGeometry(700.0, 700.0, 20.0), 80.0, 11.0);
   EXPECT_GT(Count(GrabPlot(), cell, 2, QColor(0xE6, 0, 0)), 2) << "red";
 }
 
@@ -416,8 +416,8 @@ TEST_F(PolarWindow, DrawsTheReferenceInItsOwnColour) {
   WriteFile(Program / "r.pol", "TWA\t10\n60\t13\n90\t13\n120\t13\n");
   Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
   Start();
-  Square(500);
-  const auto geometry = PlotGeometry(500.0, 500.0, 16.0);
+  Square(700);
+  const auto geometry = PlotGeometry(700.0, 700.0, 16.0);
   const QColor reference = PolarPaletteQt(Window->palette()).Reference;
   const auto seen = [&] {
     const QImage image = GrabPlot();
@@ -441,8 +441,8 @@ TEST_F(PolarWindow, DrawsTheReferenceInItsOwnColour) {
 TEST_F(PolarWindow, DrawsItsCurvesInTheForegroundOfAnyPalette) {
   Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
   Start();
-  Square(500);
-  const PlotPoint cell = PointAt(PlotGeometry(500.0, 500.0, 16.0), 80.0, 11.0);
+  Square(700);
+  const PlotPoint cell = PointAt(PlotGeometry(700.0, 700.0, 16.0), 80.0, 11.0);
   QPalette dark(QColor(0x2a, 0x2d, 0x31), QColor(0x1b, 0x1e, 0x22));
   dark.setColor(QPalette::WindowText, QColor(0xe6, 0xea, 0xee));
   Window->setPalette(dark);
