@@ -387,6 +387,11 @@ double CornerWidth(double half, double rows) {
   return half - std::sqrt(half * half - up * up);
 }
 
+/// Height of the captions: legible still, and smaller than the values.
+double CaptionBeside(const PolarLegend& legend) {
+  return std::max(legend.Boat.Caption.Height * 0.62, std::min(kLeastCaption, legend.ValueText * 0.8));
+}
+
 void LayColumn(PolarLegend& legend, const PlotBox& box, int keys) {
   const double keyHeight = std::clamp(box.Height * 0.03, 9.0, 20.0);
   const double cellHeight = std::min((box.Height - (keys + 1) * keyHeight * 1.5) / 4.0, box.Width * 0.56);
@@ -398,8 +403,8 @@ void LayColumn(PolarLegend& legend, const PlotBox& box, int keys) {
   for (int key = keys; key > 0; --key) {
     legend.Keys.push_back({box.X, box.Y + box.Height - key * keyHeight * 1.4, box.Width, keyHeight * 1.4});
   }
-  legend.CaptionText = std::max(legend.Boat.Caption.Height * 0.62, kLeastCaption);
   legend.ValueText = std::min(legend.Boat.Value.Height * 0.92, box.Width / kLongestValue);
+  legend.CaptionText = CaptionBeside(legend);
 }
 
 void LayRow(PolarLegend& legend, const PlotBox& box, int keys) {
@@ -419,8 +424,8 @@ void LayRow(PolarLegend& legend, const PlotBox& box, int keys) {
   for (int key = keys; key > 0; --key) {
     legend.Keys.push_back({box.X, box.Y + box.Height - key * keyHeight * 1.4, box.Width, keyHeight * 1.4});
   }
-  legend.CaptionText = std::max(legend.Boat.Caption.Height * 0.62, kLeastCaption);
   legend.ValueText = std::min(legend.Boat.Value.Height * 0.92, legend.Boat.Value.Width / kLongestValue);
+  legend.CaptionText = CaptionBeside(legend);
 }
 
 void LayCorners(PolarLegend& legend, double width, double height, int keys) {

@@ -413,7 +413,11 @@ TEST_F(PolarWindow, DrawsTheCurveOfThePresentWind) {
 }
 
 TEST_F(PolarWindow, DrawsTheReferenceInItsOwnColour) {
-  WriteFile(Program / "r.pol", "TWA\t10\n60\t13\n90\t13\n120\t13\n");
+  std::string arc = "TWA\t10\n";
+  for (int angle = 60; angle <= 120; angle += 3) {
+    arc += std::to_string(angle) + "\t13\n";
+  }
+  WriteFile(Program / "r.pol", arc);
   Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
   Start();
   Square(700);
