@@ -17,6 +17,8 @@ constexpr qreal kDesignSize = 700.0;
 constexpr qreal kCurveWidth = 1.8;
 constexpr qreal kWindWidth = 4.0;
 constexpr qreal kHalo = 2.6;
+/// Time between two repaints at least [ms].
+constexpr int kRest = 180;
 /// How strongly the minor curves of a dense table show.
 constexpr qreal kMinorShare = 0.3;
 
@@ -75,6 +77,13 @@ void HaloText(QPainter& painter, const QPointF& centre, const QString& text, con
 
 PolarCanvasQt::PolarCanvasQt(QWidget* parent) : QWidget(parent), m_colours(palette()) {
   setMouseTracking(true);
+  m_rest.setSingleShot(true);
+  m_rest.setInterval(kRest);
+  connect(&m_rest, &QTimer::timeout, this, [this] {
+    if (m_stale) {
+      update();
+    }
+  });
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -83,10 +92,15 @@ void PolarCanvasQt::Show(const PolarStill& still, PolarMoving moving) {
     m_still = still;
   }
   m_moving = std::move(moving);
-  update();
+  m_stale = true;
+  if (!m_rest.isActive()) {
+    update();
+  }
 }
 
 void PolarCanvasQt::paintEvent(QPaintEvent* /*event*/) {
+  m_stale = false;
+  m_rest.start();
   const qreal ratio = devicePixelRatioF();
   const QSize pixels = (QSizeF(size()) * ratio).toSize();
   if (m_pictured != m_still.Version || m_picture.size() != pixels) {

@@ -31,7 +31,7 @@ void PolarModel::Reset(const Profile* profile) {
 }
 
 std::filesystem::path PolarModel::FilePath(int slot) const {
-  const std::filesystem::path name(m_settings.File[static_cast<std::size_t>(slot)]);
+  std::filesystem::path name(m_settings.File[static_cast<std::size_t>(slot)]);
   if (name.is_absolute()) {
     return name;
   }
@@ -53,7 +53,7 @@ PolarLoadResult PolarModel::Open(int slot, const std::string& file) {
     m_settings.SpeedFactor = 1.0F;
   }
   m_settings.File[static_cast<std::size_t>(slot)] = file;
-  const PolarLoadResult result = Load(slot);
+  PolarLoadResult result = Load(slot);
   if (result.Loaded) {
     m_shown = slot == kReference ? 2 : 1;
   }

@@ -371,6 +371,8 @@ namespace {
 constexpr double kCaptionShare = 0.3;
 /// Width of the longest usual value, as "12.3 104%", in shares of its height.
 constexpr double kLongestValue = 4.9;
+/// Most height of a legend cell in shares of its width.
+constexpr double kCellShape = 0.56;
 /// Least height of the captions [px].
 constexpr double kLeastCaption = 7.5;
 
@@ -394,7 +396,8 @@ double CaptionBeside(const PolarLegend& legend) {
 
 void LayColumn(PolarLegend& legend, const PlotBox& box, int keys) {
   const double keyHeight = std::clamp(box.Height * 0.03, 9.0, 20.0);
-  const double cellHeight = std::min((box.Height - (keys + 1) * keyHeight * 1.5) / 4.0, box.Width * 0.56);
+  const double cellHeight =
+      std::min((box.Height - (keys + 1) * keyHeight * 1.5) / 4.0, box.Width * kCellShape);
   double y = box.Y;
   for (LegendCell* cell : {&legend.Boat, &legend.Reference, &legend.WindSpeed, &legend.WindAngle}) {
     *cell = CellIn({box.X, y, box.Width, cellHeight * 0.9});
@@ -410,9 +413,11 @@ void LayColumn(PolarLegend& legend, const PlotBox& box, int keys) {
 void LayRow(PolarLegend& legend, const PlotBox& box, int keys) {
   const double keyHeight = keys > 0 ? std::clamp(box.Height * 0.11, 9.0, 18.0) : 0.0;
   const double height = box.Height - keys * keyHeight * 1.4;
-  const bool twice = height > box.Width * 0.36;
+  // In one row or in two, whichever makes the values larger.
+  const bool twice =
+      std::min(height / 2.0, box.Width / 2.0 * kCellShape) > std::min(height, box.Width / 4.0 * kCellShape);
   const double cellWidth = box.Width / (twice ? 2.0 : 4.0);
-  const double cellHeight = std::min(height / (twice ? 2.0 : 1.0), cellWidth * 0.56);
+  const double cellHeight = std::min(height / (twice ? 2.0 : 1.0), cellWidth * kCellShape);
   int index = 0;
   for (LegendCell* cell : {&legend.Boat, &legend.Reference, &legend.WindSpeed, &legend.WindAngle}) {
     const int column = twice ? index % 2 : index;

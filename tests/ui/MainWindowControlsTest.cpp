@@ -44,7 +44,7 @@ TEST_F(MainWindowControls, OfferEveryCommandAndDisableThoseWithoutAWindow) {
   const std::vector<std::tuple<const char*, const char*, bool>> commands{
       {"mnuFileDefault", "Default", true},           {"mnuFileExit", "Exit", true},
       {"mnuViewDiagram", "Block Diagram...", false}, {"mnuViewHistory", "History Plot...", false},
-      {"mnuViewPolar", "Polar Plot...", false},      {"mnuOptionsInput", "Input...", false},
+      {"mnuViewPolar", "Polar Plot...", true},       {"mnuOptionsInput", "Input...", false},
       {"mnuOptionsData", "Data...", false},          {"mnuOptionsOutput", "Output...", false},
       {"mnuOptionsTrack", "Tracking...", false},     {"mnuOptionsSimulate", "Simulate...", false},
       {"mnuHelpDiagram", "Block Diagram...", false}, {"mnuHelpAbout", "About...", false},
