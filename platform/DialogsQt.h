@@ -1,4 +1,4 @@
-// Message boxes, beep and foreground on the real desktop.
+// Message boxes, file and colour dialogs, beep and foreground on the real desktop.
 #pragma once
 
 #include <QPointer>
@@ -17,11 +17,18 @@ class DialogsQt final : public Dialogs {
 
   /// Closing the box counts as No.
   bool AskYesNo(const std::string& title, const std::string& text) override;
+  void Inform(const std::string& title, const std::string& text) override;
+  std::optional<std::string> SaveFile(const std::string& title, const std::string& filter,
+                                      const std::string& proposed) override;
+  std::optional<std::uint32_t> PickColour(std::uint32_t bgr) override;
   void Beep() override;
   void ToForeground() override;
   bool IsForeground() const override;
 
  private:
+  /// The window that the user works in, to stand in front of.
+  QWidget* Parent() const;
+
   QPointer<QWidget> m_window;
 };
 
