@@ -92,6 +92,7 @@ void frmMain::ConnectControls() {
   connect(m_menu.mnuFileDefault, &QAction::triggered, this, [this] { ProfileRecall(false); });
   connect(m_menu.mnuViewPolar, &QAction::triggered, this, [this] { PolarShow(); });
   connect(m_menu.mnuFileExit, &QAction::triggered, this, &QWidget::close);
+  connect(m_menu.mnuViewHistory, &QAction::triggered, this, [this] { mnuViewHistory_Click(); });
   for (const TrackMode mode : {TrackMode::Off, TrackMode::Setup, TrackMode::Manual, TrackMode::Track}) {
     connect(m_tbrTrack->Button(mode), &QAction::triggered, this,
             [this, mode] { tbrTrack_ButtonClick(mode); });
@@ -205,6 +206,10 @@ void frmMain::closeEvent(QCloseEvent* event) {
   if (m_polar) {
     m_polar->PolarStore();
   }
+  if (m_history) {
+    m_history->Unload();
+    m_history->hide();
+  }
   if (const auto failure = m_parts.Store.Commit(m_sProfileFile)) {
     std::fprintf(stderr, "%s\n", failure->c_str());
   }
@@ -298,13 +303,43 @@ void frmMain::NudgeKey(int index) {
   }
 }
 
+// The history window
+
+frmHistory& frmMain::History() {
+  if (!m_history) {
+    m_history = std::make_unique<frmHistory>(frmHistory::Parts{m_clock, m_parts.Asks, m_parts.Store});
+    m_history->VisibleChanged([this](bool visible) { m_menu.mnuViewHistory->setChecked(visible); });
+  }
+  return *m_history;
+}
+
+void frmMain::HistoryShow() {
+  frmHistory& window = History();
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
+void frmMain::mnuViewHistory_Click() {
+  HistoryShow();
+  // The click has turned the tick over.
+  m_menu.mnuViewHistory->setChecked(true);
+}
+
 // What the helm tells
 
 void frmMain::Panel(int index, const QString& text) { ShowText(*m_status[At(index)], text); }
 
-void frmMain::OnHeading(float heading) { ShowText(*m_panel->lblHeading, Number(heading, "0")); }
+void frmMain::OnHeading(float heading) {
+  ShowText(*m_panel->lblHeading, Number(heading, "0"));
+  History().SetValue("Heading", heading, "M");
+}
 
-void frmMain::OnBoatSpeed(float speed) { ShowText(*m_panel->lblBoatSpeed, Number(speed, "0.0")); }
+void frmMain::OnBoatSpeed(float speed) {
+  ShowText(*m_panel->lblBoatSpeed, Number(speed, "0.0"));
+  History().SetValue("Boat Speed", speed, "Kts");
+}
 
 void frmMain::OnWaypoint(float /*range*/, float bearing) {
   ShowText(*m_panel->lblWaypointBearing, Number(bearing, "0"));
@@ -313,11 +348,15 @@ void frmMain::OnWaypoint(float /*range*/, float bearing) {
 void frmMain::OnWindApparent(float angle, float speed) {
   ShowText(*m_panel->lblAppWindAngle, Number(angle, "0"));
   ShowText(*m_panel->lblAppWindSpeed, Number(speed, "0.0"));
+  History().SetValue("App Wind Angle", angle, "R");
+  History().SetValue("App Wind Speed", speed, "Kts");
 }
 
 void frmMain::OnWindTrue(float angle, float speed) {
   ShowText(*m_panel->lblTrueWindAngle, Number(angle, "0"));
   ShowText(*m_panel->lblTrueWindSpeed, Number(speed, "0.0"));
+  History().SetValue("True Wind Angle", angle, "M");
+  History().SetValue("True Wind Speed", speed, "Kts");
 }
 
 void frmMain::OnWindIndicator(float direction, float speed) {
@@ -348,6 +387,12 @@ void frmMain::OnDelta(float apparent, float trueWind) {
 }
 
 void frmMain::OnAutoPilot(float bearing) { m_panel->txtAutoPilot->Follow(Number(bearing, "0.0")); }
+
+void frmMain::OnPilotDelta(float error) { HistorySample("Pilot Delta", FormatNumber(error, "0.0") + " deg"); }
+
+void frmMain::OnPilotHeading(float bearing) {
+  HistorySample("Pilot Heading", FormatNumber(bearing, "0.00") + " deg");
+}
 
 void frmMain::OnAlarm(TrackSide side, float error) {
   m_parts.Asks.ToForeground();

@@ -15,10 +15,12 @@
 #include "app/MainWindowApi.h"
 #include "app/SettingsProfile.h"
 #include "app/frmMainCommands.h"
+#include "history/frmHistory.h"
 #include "platform/Dialogs.h"
 #include "platform/Profile.h"
 #include "platform/Random.h"
 #include "platform/SerialPort.h"
+#include "platform/SystemClock.h"
 #include "platform/Timer.h"
 #include "polar/PolarListener.h"
 #include "polar/frmPolar.h"
@@ -70,6 +72,11 @@ class frmMain final : public QMainWindow,
   void TrackSetManual() override { m_helm.Modes().TrackSetManual(); }
   void TrackSetTrack() override { m_helm.Modes().TrackSetTrack(); }
 
+  /// Feeds the history's chart with a text of a number, a blank and the units.
+  void HistorySample(std::string_view name, std::string_view text) {
+    History().Chart().SampleAdd(name, text);
+  }
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
@@ -99,6 +106,11 @@ class frmMain final : public QMainWindow,
   void cmdDesired_Click(int index);
   void NudgeKey(int index);
 
+  void HistoryShow() override;
+  bool HistoryVisible() const override { return m_history && m_history->isVisible(); }
+  frmHistory& History();
+  void mnuViewHistory_Click();
+
   void OnHeading(float heading) override;
   void OnBoatSpeed(float speed) override;
   void OnWaypoint(float range, float bearing) override;
@@ -111,6 +123,8 @@ class frmMain final : public QMainWindow,
   void OnDesired(float apparent, float trueWind) override;
   void OnDelta(float apparent, float trueWind) override;
   void OnAutoPilot(float bearing) override;
+  void OnPilotDelta(float error) override;
+  void OnPilotHeading(float bearing) override;
   void OnAlarm(TrackSide side, float error) override;
   void OnAlarmOver() override;
   void OnTrackMode(TrackMode mode) override;
@@ -119,6 +133,9 @@ class frmMain final : public QMainWindow,
 
   void PolarShow() override;
   bool PolarVisible() const override;
+  void OnPolarValue(std::string_view channel, std::string_view value) override {
+    HistorySample(channel, value);
+  }
   void OnPolarVisible(bool visible) override;
 
   MainWindowParts m_parts;
@@ -126,6 +143,8 @@ class frmMain final : public QMainWindow,
   frmMainModeBar* m_tbrTrack;
   InstrumentPanelQt* m_panel;
   std::array<QLabel*, 3> m_status{};
+  SystemClock m_clock;
+  std::unique_ptr<frmHistory> m_history;  ///< from the first value on
   Helm m_helm;
   std::unique_ptr<frmPolar> m_polar;  ///< null until it is shown for the first time
   bool m_ask = true;                  ///< a close still has to ask

@@ -56,7 +56,8 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   mnuFileExit->setMenuRole(QAction::QuitRole);
   QMenu* view = window.menuBar()->addMenu(QStringLiteral("&View"));
   mnuViewDiagram = Command(window, view, "mnuViewDiagram", "&Block Diagram...", false);
-  mnuViewHistory = Command(window, view, "mnuViewHistory", "&History Plot...", false);
+  mnuViewHistory = Command(window, view, "mnuViewHistory", "&History Plot...", true);
+  mnuViewHistory->setCheckable(true);
   mnuViewPolar = Command(window, view, "mnuViewPolar", "&Polar Plot...", true);
   mnuViewPolar->setCheckable(true);
   QMenu* options = window.menuBar()->addMenu(QStringLiteral("&Options"));

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QImage>
 
+#include "bench/NoDialogs.h"
 #include "platform/Dialogs.h"
 #include "polar/PolarListener.h"
 #include "polar/frmPolar.h"
@@ -12,26 +13,6 @@
 namespace veerwatch {
 
 namespace {
-
-class NoDialogs final : public Dialogs {
- public:
-  bool AskYesNo(const std::string&, const std::string&) override { return false; }
-  bool WarnYesNo(const std::string&, const std::string&) override { return false; }
-  void Inform(const std::string&, const std::string&) override {}
-  std::optional<std::string> AskText(const std::string&, const std::string&, const std::string&) override {
-    return std::nullopt;
-  }
-  std::optional<std::string> OpenFile(const std::string&, const std::string&) override {
-    return std::nullopt;
-  }
-  std::optional<std::string> SaveFile(const std::string&, const std::string&) override {
-    return std::nullopt;
-  }
-  std::optional<std::uint32_t> PickColour(std::uint32_t) override { return std::nullopt; }
-  void Beep() override {}
-  void ToForeground() override {}
-  bool IsForeground() const override { return false; }
-};
 
 constexpr int kSize = 800;  // [px]
 
@@ -105,12 +86,3 @@ BENCHMARK(PolarDrawBoat)->Unit(benchmark::kMillisecond);
 }  // namespace
 
 }  // namespace veerwatch
-
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application(argc, argv);
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
-}

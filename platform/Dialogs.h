@@ -1,5 +1,5 @@
-// The one door for everything that asks or calls the user: message boxes, the beep, the foreground.
-// DialogsQt is the real one; tests answer beforehand.
+// The one door for everything that asks or calls the user: message boxes, file and colour dialogs, the beep,
+// the foreground. DialogsQt is the real one; tests answer beforehand.
 #pragma once
 
 #include <cstdint>
@@ -26,6 +26,11 @@ class Dialogs {
   virtual std::optional<std::string> OpenFile(const std::string& filter, const std::string& proposed) = 0;
   /// The same for a file to write; asks nothing about one that there is already.
   virtual std::optional<std::string> SaveFile(const std::string& filter, const std::string& proposed) = 0;
+  /// Asks for a file to write to and, before it replaces one, whether it may. `filter` is as "Pictures
+  /// (*.png)"; `proposed` is a file name without folder. The path is in UTF-8, with the filter's ending where
+  /// the user typed none; nothing when it was cancelled.
+  virtual std::optional<std::string> ExportFile(const std::string& title, const std::string& filter,
+                                                const std::string& proposed) = 0;
   /// Lets the user choose a colour, 0xBBGGRR, starting at `present`; nothing when it was cancelled.
   virtual std::optional<std::uint32_t> PickColour(std::uint32_t present) = 0;
   /// Sounds the desktop's beep once.

@@ -7,6 +7,8 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QMessageBox>
+#include <QRegularExpression>
+#include <QStandardPaths>
 
 namespace veerwatch {
 
@@ -26,8 +28,8 @@ bool YesNo(QMessageBox::Icon sign, const std::string& title, const std::string& 
 std::optional<std::string> ChooseFile(QFileDialog& dialog, const std::string& filter,
                                       const std::string& proposed) {
   const QStringList parts = QString::fromStdString(filter).split(QLatin1Char('|'));
-  const QString pattern = parts.last();
-  const QString description = parts.first();
+  const QString& pattern = parts.last();
+  const QString& description = parts.first();
   dialog.setNameFilter(description.contains(pattern) ? description
                                                      : QStringLiteral("%1 (%2)").arg(description, pattern));
   dialog.setDefaultSuffix(QFileInfo(pattern).suffix());
@@ -95,6 +97,21 @@ std::optional<std::string> DialogsQt::SaveFile(const std::string& filter, const 
   dialog.setFileMode(QFileDialog::AnyFile);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
   return ChooseFile(dialog, filter, proposed);
+}
+
+std::optional<std::string> DialogsQt::ExportFile(const std::string& title, const std::string& filter,
+                                                 const std::string& proposed) {
+  const QString kinds = QString::fromStdString(filter);
+  QFileDialog dialog(Parent(), QString::fromStdString(title),
+                     QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation), kinds);
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.selectFile(QString::fromStdString(proposed));
+  static const QRegularExpression ending(QStringLiteral("\\*\\.(\\w+)"));
+  dialog.setDefaultSuffix(ending.match(kinds).captured(1));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+    return std::nullopt;
+  }
+  return dialog.selectedFiles().constFirst().toStdString();
 }
 
 std::optional<std::uint32_t> DialogsQt::PickColour(std::uint32_t present) {

@@ -1,4 +1,4 @@
-// Message boxes, beep and foreground on the real desktop.
+// Message boxes, file and colour dialogs, beep and foreground on the real desktop.
 #pragma once
 
 #include <QPointer>
@@ -23,6 +23,8 @@ class DialogsQt final : public Dialogs {
                                      const std::string& preset) override;
   std::optional<std::string> OpenFile(const std::string& filter, const std::string& proposed) override;
   std::optional<std::string> SaveFile(const std::string& filter, const std::string& proposed) override;
+  std::optional<std::string> ExportFile(const std::string& title, const std::string& filter,
+                                        const std::string& proposed) override;
   std::optional<std::uint32_t> PickColour(std::uint32_t present) override;
   void Beep() override;
   void ToForeground() override;

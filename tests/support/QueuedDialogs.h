@@ -1,6 +1,7 @@
 // Answers to the questions of a window, given beforehand; nothing is shown.
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <optional>
@@ -20,6 +21,14 @@ class QueuedDialogs final : public Dialogs {
 
   std::deque<bool> Answers;         ///< answers to the next questions; No behind them
   std::vector<Question> Questions;  ///< what was asked
+
+  struct FileQuestion {
+    std::string Title;
+    std::string Filter;
+    std::string Proposed;
+  };
+  std::vector<FileQuestion> FileQuestions;  ///< the files to export to that were asked for
+
   int Beeps = 0;
   int Foregrounds = 0;      ///< calls of ToForeground
   bool Foreground = false;  ///< whether the main window is in the foreground
@@ -71,6 +80,11 @@ class QueuedDialogs final : public Dialogs {
   }
   std::optional<std::string> SaveFile(const std::string& filter, const std::string& proposed) override {
     return OpenFile(filter, proposed);
+  }
+  std::optional<std::string> ExportFile(const std::string& title, const std::string& filter,
+                                        const std::string& proposed) override {
+    FileQuestions.push_back({title, filter, proposed});
+    return Next(Files, std::nullopt);
   }
   std::optional<std::uint32_t> PickColour(std::uint32_t present) override {
     Colours.push_back(present);

@@ -43,7 +43,7 @@ TEST_F(MainWindowControls, OfferEveryCommandAndDisableThoseWithoutAWindow) {
   Start(kOnPorts);
   const std::vector<std::tuple<const char*, const char*, bool>> commands{
       {"mnuFileDefault", "Default", true},           {"mnuFileExit", "Exit", true},
-      {"mnuViewDiagram", "Block Diagram...", false}, {"mnuViewHistory", "History Plot...", false},
+      {"mnuViewDiagram", "Block Diagram...", false}, {"mnuViewHistory", "History Plot...", true},
       {"mnuViewPolar", "Polar Plot...", true},       {"mnuOptionsInput", "Input...", false},
       {"mnuOptionsData", "Data...", false},          {"mnuOptionsOutput", "Output...", false},
       {"mnuOptionsTrack", "Tracking...", false},     {"mnuOptionsSimulate", "Simulate...", false},

@@ -1,0 +1,51 @@
+// The history's own nine traces and how a chart is set up for them. Used by frmHistory.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "history/StripChartOperations.h"
+
+namespace veerwatch {
+
+/// One day of samples, one every ten seconds.
+inline constexpr std::int16_t kHistorySlotSeconds = 10;
+inline constexpr double kHistorySlots = 86400.0 / 10.0;
+inline constexpr std::int16_t kHistorySpan = 1800;
+
+struct HistoryTrace {
+  const char* Name;
+  const char* Units;
+  std::int16_t Group;  ///< 0 speeds, 1 angles
+};
+
+/// Traces 1 to 9. Deliberate: the true wind angle is set up with "R" and fed with "M".
+inline constexpr std::array<HistoryTrace, 9> kHistoryTraces{{
+    {"Boat Speed", "Kts", 0},
+    {"Heading", "M", 1},
+    {"True Wind Speed", "Kts", 0},
+    {"True Wind Angle", "R", 1},
+    {"App Wind Speed", "Kts", 0},
+    {"App Wind Angle", "R", 1},
+    {"Pilot Heading", "Deg", 1},
+    {"Pilot Delta", "Deg", 1},
+    {"Polar Speed", "Kts", 0},
+}};
+
+/// Traces [1, 9] whose names are the titles of groups 1 to 3.
+inline constexpr std::array<int, 3> kHistoryGroupTitles{3, 4, 1};
+
+/// Sets a chart up from scratch; `windowColour` is the colour of the window around it, 0xRRGGBB.
+void HistorySetUp(StripChartOperations& chart, std::uint32_t windowColour);
+
+/// A value as the chart is fed with it: one decimal, a blank, the units.
+std::string HistoryText(float value, std::string_view units);
+
+/// Half of the sum of a length and the place that it begins at, as the configuration pop-up is placed
+/// [twips]. Deliberate: on the axis on which the chart begins above 0 this is neither its centre nor the
+/// window's.
+std::int16_t HistoryPopupPlace(double length, double begin);
+
+}  // namespace veerwatch

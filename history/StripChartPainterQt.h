@@ -1,0 +1,63 @@
+// Strokes the numbers of a StripChartPicture.
+#pragma once
+
+#include <QFont>
+#include <QPainter>
+#include <QPolygonF>
+#include <array>
+#include <vector>
+
+#include "history/StripChartColoursQt.h"
+#include "history/StripChartPicture.h"
+
+namespace veerwatch {
+
+/// The widths of texts in one font at any height, from the widths of single characters.
+class TextMeasureQt final : public TextMeasure {
+ public:
+  explicit TextMeasureQt(const QFont& font);
+  double Width(std::string_view text, double height) const override;
+  /// The font at a height [px].
+  QFont At(double height) const;
+
+ private:
+  QFont m_font;
+  std::array<double, 128> m_widths{};  ///< of the ASCII characters in a font of 1 px
+};
+
+class StripChartPainterQt {
+ public:
+  /// Everything outlives the painter; the painter is at work on a surface in the chart's pixels.
+  StripChartPainterQt(QPainter& painter, const StripChartPicture& picture, const TextMeasureQt& measure,
+                      const StripChartColoursQt& colours, const std::vector<QColor>& traceColours,
+                      const std::vector<QColor>& groupColours)
+      : m_painter(painter),
+        m_picture(picture),
+        m_measure(measure),
+        m_colours(colours),
+        m_traceColours(traceColours),
+        m_groupColours(groupColours) {}
+
+  /// What stays while samples arrive: panels, axes and all of the traces but their newest bucket.
+  void PaintStill();
+  /// The newest bucket of every trace, and the legend.
+  void PaintLive();
+  /// What stands under the mouse.
+  void PaintReading(const ChartReading& reading);
+
+ private:
+  void PaintAxes(const ChartPanel& panel);
+  void PaintLine(const ChartTrace& trace, const TraceLine& line);
+  void PaintText(const ChartText& text, const QColor& colour, bool bold = false);
+  QColor TraceColour(int trace) const { return m_traceColours[static_cast<std::size_t>(trace)]; }
+
+  QPainter& m_painter;
+  const StripChartPicture& m_picture;
+  const TextMeasureQt& m_measure;
+  const StripChartColoursQt& m_colours;
+  const std::vector<QColor>& m_traceColours;
+  const std::vector<QColor>& m_groupColours;
+  QPolygonF m_points;
+};
+
+}  // namespace veerwatch

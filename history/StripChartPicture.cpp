@@ -1,0 +1,405 @@
+#include "history/StripChartPicture.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "history/ClockText.h"
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr std::int64_t kMillisecondsPerSecond = 1000;
+/// Columns are not narrower than this [px].
+constexpr double kLeastColumn = 1.0;
+/// Slots without a sample after which a newest value counts as old.
+constexpr std::int64_t kOldAfter = 2;
+
+// Parts of the text height.
+constexpr double kEdge = 0.55;        // around everything
+constexpr double kPanelGap = 0.45;    // between panels
+constexpr double kTitleRow = 1.55;    // above a plot
+constexpr double kTimeRow = 1.75;     // below the last plot
+constexpr double kTickText = 0.92;    // height of a tick's text
+constexpr double kTickRoom = 2.1;     // height per tick of a value axis
+constexpr double kTwoLineCell = 3.0;  // a legend cell of this height has the name above the value
+
+const char* const kNoValue = "\xE2\x80\x93";
+
+double TextFor(const ChartView& view) {
+  constexpr double kPerWidth = 1.0 / 62.0;
+  constexpr double kPerHeight = 1.0 / 40.0;
+  constexpr double kMost = 22.0;
+  return std::clamp(std::min(view.Width * kPerWidth, view.Height * kPerHeight), view.LeastTextHeight,
+                    std::max(view.LeastTextHeight, kMost));
+}
+
+std::string ValueText(float value) { return FormatNumber(value, "0.0"); }
+
+/// The wall clock where a slot begins, that of slots which are not held worked out from those which are.
+std::int64_t WallAt(const StripChartData& data, std::int64_t slot) {
+  const std::int64_t held = std::clamp(slot, data.FirstSlot(), data.LastSlot());
+  return data.Wall(held) + (slot - held) * data.SlotMilliseconds();
+}
+
+}  // namespace
+
+std::int64_t SlotsOfSpan(const StripChartData& data, int span) {
+  return std::max<std::int64_t>(1, span * kMillisecondsPerSecond / data.SlotMilliseconds());
+}
+
+void StripChartPicture::Compose(const ChartSubject& subject, const ChartView& view,
+                                const TextMeasure& measure) {
+  UtcOffset = view.UtcOffset;
+  LayOut(subject, view, measure);
+  for (ChartPanel& panel : Panels) {
+    ComposePanel(subject, panel, measure);
+  }
+  ComposeTime(subject.Data, measure);
+}
+
+void StripChartPicture::LayOut(const ChartSubject& subject, const ChartView& view,
+                               const TextMeasure& measure) {
+  TextHeight = TextFor(view);
+  const double text = TextHeight;
+  const double edge = kEdge * text;
+  Legend.clear();
+
+  // The panels that have something to show, their buffers kept.
+  std::size_t used = 0;
+  std::vector<double> shares;
+  bool directions = false;
+  for (std::size_t group = 0; group < subject.Titles.size(); ++group) {
+    std::vector<int> shown;
+    for (std::size_t i = 0; i < subject.Groups.size(); ++i) {
+      if (subject.Groups[i].Group == static_cast<int>(group) && subject.Settings.Traces[i].Shown) {
+        shown.push_back(static_cast<int>(i));
+        directions = directions || subject.Groups[i].Kind == ScaleKind::Compass;
+      }
+    }
+    if (shown.empty()) {
+      continue;
+    }
+    if (Panels.size() <= used) {
+      Panels.emplace_back();
+    }
+    ChartPanel& panel = Panels[used++];
+    panel.Group = static_cast<int>(group);
+    panel.Traces.resize(shown.size());
+    for (std::size_t i = 0; i < shown.size(); ++i) {
+      panel.Traces[i].Trace = shown[i];
+    }
+    constexpr double kLeastShare = 2.0;
+    shares.push_back(std::max(static_cast<double>(shown.size()), kLeastShare));
+  }
+  Panels.resize(used);
+
+  const double tick = kTickText * text;
+  const double left = measure.Width("-1800", tick) + 0.7 * text;
+  const double right = directions ? measure.Width("3600", tick) + 0.9 * text : 0.7 * text;
+  constexpr double kLegendShare = 0.19;
+  const double legend = std::max(view.Width * kLegendShare, measure.Width("AWA -188.8", text) + 1.5 * text);
+  PlotArea.X = left;
+  PlotArea.Width = std::max(view.Width - left - right - legend, 1.0);
+  const double bottom = std::max(view.Height - kTimeRow * text, edge + 1.0);
+  TimeArea = {PlotArea.X, bottom, PlotArea.Width, kTimeRow * text};
+
+  double sum = 0.0;
+  for (const double share : shares) {
+    sum += share;
+  }
+  const double gaps = kPanelGap * text * static_cast<double>(used > 0 ? used - 1 : 0);
+  const double room = std::max(bottom - edge - gaps, 0.0);
+  double top = edge;
+  for (std::size_t i = 0; i < used; ++i) {
+    const double height = room * shares[i] / sum;
+    const double title = std::min(kTitleRow * text, height / 2.0);
+    Panels[i].Plot = {PlotArea.X, top + title, PlotArea.Width, std::max(height - title, 1.0)};
+    const double legendLeft = PlotArea.Right() + right;
+    PlaceLegend(subject, Panels[i],
+                {legendLeft, top, std::max(view.Width - legendLeft - 0.3 * text, 1.0), height}, measure);
+    top += height + kPanelGap * text;
+  }
+  PlotArea.Y = used > 0 ? Panels.front().Plot.Y : edge;
+  PlotArea.Height = std::max(bottom - PlotArea.Y, 1.0);
+
+  const std::int64_t span = SlotsOfSpan(subject.Data, subject.Settings.Span);
+  SlotWidth = PlotArea.Width / static_cast<double>(span);
+  PerBucket =
+      std::max<std::int64_t>(1, static_cast<std::int64_t>(std::ceil(kLeastColumn / SlotWidth - 1e-9)));
+  // Whole columns, so that they stay what they are while the time goes on.
+  EndSlot = (view.EndSlot + PerBucket - 1) / PerBucket * PerBucket;
+  LiveSlot = subject.Data.LastSlot() < EndSlot ? subject.Data.LastSlot() / PerBucket * PerBucket : EndSlot;
+}
+
+void StripChartPicture::PlaceLegend(const ChartSubject& subject, const ChartPanel& panel, const ChartBox& box,
+                                    const TextMeasure& measure) {
+  const double text = TextHeight;
+  constexpr double kLargestCell = 6.0;
+  const double count = static_cast<double>(panel.Traces.size());
+  const double cell = std::min(box.Height / count, kLargestCell * text);
+  double top = box.Y;
+  for (const ChartTrace& drawn : panel.Traces) {
+    const StripChartData::Trace& trace = subject.Data.Traces()[static_cast<std::size_t>(drawn.Trace)];
+    const NewestValue& newest = trace.Newest;
+    ChartLegendEntry entry;
+    entry.Trace = drawn.Trace;
+    entry.Cell = {box.X, top, box.Width, cell};
+    const double bar = std::max(3.0, 0.3 * text);
+    entry.Swatch = {box.X, top + 0.1 * cell, bar, 0.8 * cell};
+    const double left = box.X + bar + 0.5 * text;
+    const double width = std::max(box.Right() - left, 1.0);
+    const bool none = newest.Slot == NewestValue::kNever || !std::isfinite(newest.Value);
+    entry.Old = none || subject.Data.LastSlot() - newest.Slot >= kOldAfter;
+    entry.Value.Text = none ? kNoValue : ValueText(newest.Value);
+    entry.Units.Text = trace.ShownUnits();
+    entry.Units.Height = text * 0.9;
+    const double units = measure.Width(entry.Units.Text, entry.Units.Height);
+    const double longest = measure.Width("-188.8", 1.0);
+    if (cell >= kTwoLineCell * text) {
+      const double name = 1.2 * text;
+      entry.Name.Text = measure.Width(trace.Name, text) <= width ? trace.Name : ShortName(trace.Name);
+      entry.Name.Box = {left, top + 0.07 * cell, width, name};
+      entry.Name.Height = text;
+      const double valueRoom = std::max(width - units - 0.5 * text, 1.0);
+      entry.Value.Height = std::min({0.86 * cell - name, 3.2 * text, valueRoom / longest});
+      const double valueWidth =
+          std::max(longest * entry.Value.Height, measure.Width(entry.Value.Text, entry.Value.Height));
+      entry.Value.Box = {left, entry.Name.Box.Bottom(), valueWidth, 0.86 * cell - name};
+      entry.Units.Box = {entry.Value.Box.Right() + 0.35 * text, entry.Value.Box.Y,
+                         std::max(box.Right() - entry.Value.Box.Right() - 0.35 * text, 0.0),
+                         entry.Value.Box.Height};
+    } else {
+      // One line: a name as long as it fits, the value at the right, the units where there is room left.
+      entry.Value.Height = std::min(0.85 * cell, 1.15 * text);
+      const double value = longest * entry.Value.Height;
+      const double unitsWidth = measure.Width("Kts", entry.Units.Height) + 0.35 * text;
+      const double full = measure.Width(trace.Name, text);
+      const std::string brief = ShortName(trace.Name);
+      const bool fits = full + 0.5 * text + value + unitsWidth <= width;
+      const bool withUnits =
+          measure.Width(brief, text) + 0.5 * text + value + std::max(units + 0.35 * text, unitsWidth) <=
+          width;
+      const double right = withUnits ? box.Right() - std::max(units + 0.35 * text, unitsWidth) : box.Right();
+      entry.Name.Text = fits ? trace.Name : brief;
+      entry.Name.Height = std::min(text, 0.85 * cell);
+      entry.Name.Box = {left, top, std::max(right - value - left, 0.0), cell};
+      entry.Value.Box = {right - value, top, value, cell};
+      entry.Units.Box = {right + 0.35 * text, top, std::max(box.Right() - right - 0.35 * text, 0.0), cell};
+      if (!withUnits) {
+        entry.Units.Text.clear();
+      }
+    }
+    entry.Value.Align = ChartText::Side::Right;
+    Legend.push_back(entry);
+    top += cell;
+  }
+}
+
+void StripChartPicture::ComposePanel(const ChartSubject& subject, ChartPanel& panel,
+                                     const TextMeasure& measure) const {
+  const double text = TextHeight;
+  const int ticks = std::max(2, static_cast<int>(panel.Plot.Height / (kTickRoom * text)));
+  const std::int64_t firstSlot = EndSlot - SlotsOfSpan(subject.Data, subject.Settings.Span);
+
+  // One axis per scale in use; the panel's own at the left, that of directions at the right.
+  panel.Axes.clear();
+  for (ChartTrace& drawn : panel.Traces) {
+    const auto at = static_cast<std::size_t>(drawn.Trace);
+    drawn.Frame.Plot = panel.Plot;
+    drawn.Frame.EndSlot = EndSlot;
+    drawn.Frame.SlotWidth = SlotWidth;
+    drawn.Frame.PerBucket = PerBucket;
+    GatherBuckets(subject.Data, subject.Data.Traces()[at], firstSlot, EndSlot - 1, PerBucket, drawn.Buckets);
+    const int scale = subject.Groups[at].Scale;
+    if (std::none_of(panel.Axes.begin(), panel.Axes.end(),
+                     [scale](const ChartAxis& axis) { return axis.ScaleIndex == scale; })) {
+      ChartAxis axis;
+      axis.ScaleIndex = scale;
+      axis.Scale.Kind = subject.Groups[at].Kind;
+      axis.Title.Text = scale == panel.Group ? subject.Titles[static_cast<std::size_t>(panel.Group)]
+                                             : subject.Data.Traces()[at].Name;
+      if (axis.Scale.Kind == ScaleKind::Linear) {
+        axis.Units.Text = subject.Data.Traces()[at].ShownUnits();
+      }
+      panel.Axes.push_back(axis);
+    }
+  }
+  std::sort(panel.Axes.begin(), panel.Axes.end(),
+            [](const ChartAxis& a, const ChartAxis& b) { return a.ScaleIndex < b.ScaleIndex; });
+
+  for (ChartAxis& axis : panel.Axes) {
+    const bool right = axis.ScaleIndex != panel.Group;
+    const ScaleChoice& choice = subject.Settings.Scales[static_cast<std::size_t>(axis.ScaleIndex)];
+    if (choice.Automatic) {
+      std::vector<ValueInterval> shown;
+      for (const ChartTrace& drawn : panel.Traces) {
+        if (subject.Groups[static_cast<std::size_t>(drawn.Trace)].Scale == axis.ScaleIndex) {
+          for (const TraceBucket& bucket : drawn.Buckets) {
+            shown.push_back({static_cast<double>(bucket.Low), static_cast<double>(bucket.High)});
+          }
+        }
+      }
+      axis.Scale = AutomaticScale(axis.Scale.Kind, shown, ticks);
+    } else {
+      axis.Scale = FixedScale(axis.Scale.Kind, static_cast<double>(choice.Low),
+                              static_cast<double>(choice.High), ticks);
+    }
+    const ChartBox& plot = panel.Plot;
+    const double titleHeight = kTitleRow * text;
+    axis.Title.Height = text;
+    axis.Title.Align = right ? ChartText::Side::Right : ChartText::Side::Left;
+    axis.Title.Box = {plot.X, plot.Y - titleHeight, plot.Width, titleHeight};
+    // Bold titles are wider than they are measured.
+    constexpr double kBold = 1.13;
+    const double unitsLeft = plot.X + kBold * measure.Width(axis.Title.Text, text) + 0.5 * text;
+    axis.Units.Height = 0.9 * text;
+    axis.Units.Box = {unitsLeft, axis.Title.Box.Y, std::max(plot.Right() - unitsLeft, 0.0), titleHeight};
+    for (const ValueTick& tick : Ticks(axis.Scale)) {
+      const double y =
+          plot.Bottom() - (tick.Value - axis.Scale.Low) / (axis.Scale.High - axis.Scale.Low) * plot.Height;
+      ChartText label;
+      label.Text = tick.Text;
+      label.Height = kTickText * text;
+      label.Align = right ? ChartText::Side::Left : ChartText::Side::Right;
+      const double height = 1.3 * text;
+      const double gap = 0.35 * text;
+      label.Box = right ? ChartBox{plot.Right() + gap, y - height / 2.0,
+                                   measure.Width(tick.Text, label.Height) + 1.0, height}
+                        : ChartBox{0.0, y - height / 2.0, plot.X - gap, height};
+      axis.Labels.push_back(label);
+      axis.TickY.push_back(y);
+    }
+  }
+  // Both titles share a row: the right one goes where they would meet.
+  if (panel.Axes.size() > 1 &&
+      measure.Width(panel.Axes[0].Title.Text, text) + measure.Width(panel.Axes[1].Title.Text, text) + text >
+          panel.Plot.Width) {
+    panel.Axes[1].Title.Text.clear();
+  }
+
+  for (ChartTrace& drawn : panel.Traces) {
+    const int scale = subject.Groups[static_cast<std::size_t>(drawn.Trace)].Scale;
+    for (const ChartAxis& axis : panel.Axes) {
+      if (axis.ScaleIndex == scale) {
+        drawn.Frame.Scale = axis.Scale;
+      }
+    }
+    std::size_t live = drawn.Buckets.size();
+    if (live > 0 && drawn.Buckets.back().Slot >= LiveSlot) {
+      --live;
+    }
+    TraceBuckets(drawn.Frame, drawn.Buckets, 0, live, drawn.Past);
+    TraceBuckets(drawn.Frame, drawn.Buckets, live, drawn.Buckets.size(), drawn.Live);
+  }
+}
+
+void StripChartPicture::ComposeTime(const StripChartData& data, const TextMeasure& measure) {
+  TimeTicks.clear();
+  Jumps.clear();
+  if (data.LastSlot() == StripChartData::kNone || Panels.empty()) {
+    return;
+  }
+  const double text = TextHeight;
+  const double height = kTickText * text;
+  const double labelWidth = measure.Width("00:00", height);
+  const double slotSeconds = static_cast<double>(data.SlotMilliseconds()) / kMillisecondsPerSecond;
+  const std::int64_t step =
+      TimeStep(std::max(60.0, (labelWidth + 1.6 * text) / SlotWidth * slotSeconds)) * kMillisecondsPerSecond;
+  const std::int64_t offset = UtcOffset * kMillisecondsPerSecond;
+  const std::int64_t first = EndSlot - static_cast<std::int64_t>(std::lround(PlotArea.Width / SlotWidth));
+  double free = 0.0;  // labels may begin here
+
+  for (std::int64_t begin = first; begin < EndSlot;) {
+    // The slots up to the next jump share a straight clock.
+    std::int64_t end = begin + 1;
+    while (end < EndSlot && !(end > data.FirstSlot() && end <= data.LastSlot() && data.JumpedBefore(end))) {
+      ++end;
+    }
+    const double beginX = PlotArea.Right() - static_cast<double>(EndSlot - begin) * SlotWidth;
+    if (begin != first) {
+      Jumps.push_back(beginX);
+    }
+    // Slots ran evenly from the last one on that they were measured at.
+    const std::int64_t reference = std::clamp(end - 1, data.FirstSlot(), data.LastSlot());
+    const std::int64_t beginWall = WallAt(data, reference) - (reference - begin) * data.SlotMilliseconds();
+    const std::int64_t endWall = beginWall + (end - begin) * data.SlotMilliseconds();
+    std::int64_t wall = (beginWall + offset) / step * step - offset;
+    for (wall += wall < beginWall ? step : 0; wall < endWall; wall += step) {
+      ChartTimeTick tick;
+      tick.X = beginX + static_cast<double>(wall - beginWall) / static_cast<double>(data.SlotMilliseconds()) *
+                            SlotWidth;
+      const double left = tick.X - labelWidth / 2.0;
+      if (left >= free && left + labelWidth <= TimeArea.Right() + 2.0 * text) {
+        tick.Label.Text = ClockText(wall, UtcOffset);
+        tick.Label.Height = height;
+        tick.Label.Align = ChartText::Side::Middle;
+        tick.Label.Box = {left, TimeArea.Y, labelWidth, TimeArea.Height};
+        free = left + labelWidth + 0.5 * text;
+      }
+      TimeTicks.push_back(tick);
+    }
+    begin = end;
+  }
+}
+
+std::optional<ChartReading> StripChartPicture::ReadAt(const ChartSubject& subject, double x, double y) const {
+  const auto panel = std::find_if(Panels.begin(), Panels.end(),
+                                  [&](const ChartPanel& each) { return each.Plot.Contains(x, y); });
+  if (panel == Panels.end() || subject.Data.LastSlot() == StripChartData::kNone) {
+    return std::nullopt;
+  }
+  const double fromEnd = (panel->Plot.Right() - x) / SlotWidth;
+  const std::int64_t slot = EndSlot - 1 - static_cast<std::int64_t>(std::floor(fromEnd));
+  const std::int64_t bucket = slot / PerBucket * PerBucket;
+  if (slot < subject.Data.FirstSlot() || slot > subject.Data.LastSlot()) {
+    return std::nullopt;
+  }
+  ChartReading reading;
+  reading.Panel = static_cast<std::size_t>(panel - Panels.begin());
+  reading.Time = ClockTextSeconds(subject.Data.Wall(std::max(bucket, subject.Data.FirstSlot())), UtcOffset);
+  double nearest = 0.0;
+  for (const ChartTrace& drawn : panel->Traces) {
+    const auto found =
+        std::lower_bound(drawn.Buckets.begin(), drawn.Buckets.end(), bucket,
+                         [](const TraceBucket& each, std::int64_t at) { return each.Slot < at; });
+    if (found == drawn.Buckets.end() || found->Slot != bucket) {
+      continue;
+    }
+    const StripChartData::Trace& trace = subject.Data.Traces()[static_cast<std::size_t>(drawn.Trace)];
+    reading.X = drawn.Frame.X(static_cast<double>(bucket) + static_cast<double>(PerBucket) / 2.0);
+    const double value = static_cast<double>(found->Latest);
+    ChartReading::Value shown;
+    shown.Trace = drawn.Trace;
+    const ValueScale& scale = drawn.Frame.Scale;
+    shown.Y = std::clamp(drawn.Frame.Y(scale.Circular() ? OnTurnAbove(value, scale.Low) : value),
+                         panel->Plot.Y, panel->Plot.Bottom());
+    shown.Text = trace.Name + " " + ValueText(found->Latest);
+    if (!trace.ShownUnits().empty()) {
+      shown.Text += " " + std::string(trace.ShownUnits());
+    }
+    if (ValueText(found->Low) != ValueText(found->High)) {
+      const auto named = [&scale](float edge) {
+        if (!scale.Circular()) {
+          return ValueText(edge);
+        }
+        const double least = scale.Kind == ScaleKind::Relative ? -180.0 : 0.0;
+        return ValueText(static_cast<float>(OnTurnAbove(static_cast<double>(edge), least)));
+      };
+      shown.Text += " (" + named(found->Low) + " to " + named(found->High) + ")";
+    }
+    const double distance = std::fabs(shown.Y - y);
+    if (reading.Values.empty() || distance < nearest) {
+      nearest = distance;
+      reading.Nearest = reading.Values.size();
+    }
+    reading.Values.push_back(shown);
+  }
+  if (reading.Values.empty()) {
+    return std::nullopt;
+  }
+  return reading;
+}
+
+}  // namespace veerwatch

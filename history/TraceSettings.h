@@ -1,0 +1,53 @@
+// What the user chose for a strip chart, and how the profile keeps it.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "history/StripChartData.h"
+#include "platform/Profile.h"
+
+namespace veerwatch {
+
+struct TraceChoice {
+  bool Shown = true;
+  std::optional<std::uint32_t> Colour;  ///< 0xRRGGBB; nothing: the chart's own, which suits its back colour
+};
+
+struct ScaleChoice {
+  bool Automatic = true;
+  float Low = 0.0F;    ///< lower edge of the fixed scale
+  float High = 20.0F;  ///< upper edge, above Low
+
+  bool operator==(const ScaleChoice&) const = default;
+};
+
+struct TraceSettings {
+  std::vector<TraceChoice> Traces;  ///< as the chart's traces
+  std::vector<ScaleChoice> Scales;  ///< as the chart's scales
+  int Span = 1800;                  ///< visible time [s], one of kSpans
+};
+
+/// The spans to choose from [s].
+inline constexpr int kSpans[] = {600, 1200, 1800, 3600, 7200, 10800, 21600, 43200, 86400};
+
+/// Bounds of the edges of a fixed scale.
+inline constexpr float kLeastEdge = -9999.0F;
+inline constexpr float kMostEdge = 9999.0F;
+
+/// Whether two edges make a fixed scale: finite, in bounds and `low` below `high`.
+bool ScaleFits(float low, float high);
+
+/// Overlays what section `name` of the profile holds on settings that have their sizes and defaults already.
+/// What is missing or damaged leaves its default: a text that is no truth value, a colour other than
+/// "#RRGGBB", a span that is none of kSpans, a pair of edges that makes no scale.
+void TraceSettingsRead(const Profile& profile, std::string_view name,
+                       const std::vector<StripChartData::Trace>& traces, TraceSettings& settings);
+
+/// Sets every key of section `name`. A colour that was not chosen is written as "Default".
+void TraceSettingsWrite(Profile& profile, std::string_view name,
+                        const std::vector<StripChartData::Trace>& traces, const TraceSettings& settings);
+
+}  // namespace veerwatch

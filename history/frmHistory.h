@@ -1,0 +1,76 @@
+// The history window: a strip chart of the instrument and autopilot values of one day. The main window loads
+// it at the first value, feeds it, and shows it; it records whether it is visible or not. Its place and the
+// chart's choices are kept in the profile.
+#pragma once
+
+#include <QFrame>
+#include <QWidget>
+#include <functional>
+#include <string_view>
+
+#include "history/StripChartQt.h"
+#include "history/WindowPlace.h"
+#include "platform/Clock.h"
+#include "platform/Dialogs.h"
+#include "platform/Profile.h"
+
+namespace veerwatch {
+
+class frmHistory final : public QWidget {
+ public:
+  /// What the window works with; everything outlives it.
+  struct Parts {
+    const Clock& Time;
+    Dialogs& Asks;
+    Profile& Store;
+  };
+
+  /// Sets the chart up and takes place and choices from the profile. The window is not shown.
+  explicit frmHistory(const Parts& parts);
+
+  /// Feeds a value with one decimal. An unknown name is ignored.
+  void SetValue(std::string_view name, float value, std::string_view units);
+
+  /// Opens the chart's configuration pop-up.
+  void ConfigurePopup();
+
+  /// Puts place and choices into the profile, which the caller commits.
+  void Unload();
+
+  StripChart& Chart() { return *m_chart; }
+
+  /// Whom to tell when the window comes or goes.
+  void VisibleChanged(std::function<void(bool visible)> handler) { m_visibleChanged = std::move(handler); }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void moveEvent(QMoveEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  /// The window's frame as the profile keeps it [twips].
+  struct Place {
+    float Top = 0.0F;
+    float Left = 0.0F;
+    float Height = 4000.0F;
+    float Width = 4000.0F;
+  };
+
+  std::uint32_t WindowColour() const;
+  void LoadPlace();
+  void FitFrame();
+  void NotePlace();
+
+  Parts m_parts;
+  StripChart* m_chart;
+  QFrame* m_line;  ///< across the top
+  Place m_place;
+  QRect m_wanted;         ///< the frame that was loaded [px]
+  bool m_fitted = false;  ///< the frame has the size that was loaded
+  std::function<void(bool)> m_visibleChanged;
+};
+
+}  // namespace veerwatch
