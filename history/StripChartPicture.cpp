@@ -377,7 +377,7 @@ std::optional<ChartReading> StripChartPicture::ReadAt(const ChartSubject& subjec
                          panel->Plot.Y, panel->Plot.Bottom());
     shown.Text = trace.Name + " " + ValueText(found->Latest);
     if (!trace.ShownUnits().empty()) {
-      shown.Text += " " + std::string(trace.ShownUnits());
+      shown.Text.append(1, ' ').append(trace.ShownUnits());
     }
     if (ValueText(found->Low) != ValueText(found->High)) {
       const auto named = [&scale](float edge) {
