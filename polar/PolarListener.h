@@ -12,6 +12,9 @@ class PolarListener {
   virtual void OnPolarValue(std::string_view /*channel*/, std::string_view /*value*/) {}
   /// The window was shown or hidden.
   virtual void OnPolarVisible(bool /*visible*/) {}
+  /// A turn was asked for: to `newHeading` from the present `heading` [deg magnetic, [0, 360)], with the
+  /// averaged true wind at `windAngleTrue` [deg relative, negative to port].
+  virtual void OnManoeuvre(float /*newHeading*/, float /*heading*/, float /*windAngleTrue*/) {}
 };
 
 }  // namespace veerwatch
