@@ -50,6 +50,7 @@ frmMain::frmMain(const MainWindowParts& parts)
       m_menu(*this),
       m_tbrTrack(new frmMainModeBar(*this)),
       m_panel(new InstrumentPanelQt(this)),
+      m_others(m_parts, m_menu),
       m_helm(*this, parts.MSCommNmea, parts.MSCommPilot, parts.tmrNmea, parts.Random, *this) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(QString::fromLatin1(kApplicationTitle));
@@ -90,9 +91,7 @@ void frmMain::MakeStatusBar() {
 
 void frmMain::ConnectControls() {
   connect(m_menu.mnuFileDefault, &QAction::triggered, this, [this] { ProfileRecall(false); });
-  connect(m_menu.mnuViewPolar, &QAction::triggered, this, [this] { PolarShow(); });
   connect(m_menu.mnuFileExit, &QAction::triggered, this, &QWidget::close);
-  connect(m_menu.mnuViewHistory, &QAction::triggered, this, [this] { mnuViewHistory_Click(); });
   for (const TrackMode mode : {TrackMode::Off, TrackMode::Setup, TrackMode::Manual, TrackMode::Track}) {
     connect(m_tbrTrack->Button(mode), &QAction::triggered, this,
             [this, mode] { tbrTrack_ButtonClick(mode); });
@@ -139,7 +138,7 @@ void frmMain::ProfileRecall(bool recall) {
     if (m_parts.Store.Load(m_sProfileFile) == Profile::LoadResult::Unreadable) {
       std::fprintf(stderr, "%s: cannot be read, defaults are used\n", m_sProfileFile.c_str());
     }
-    ProfileRead(m_parts.Store, *this, *this);
+    ProfileRead(m_parts.Store, *this, m_others);
   }
   m_panel->txtAutoPilot->Show(Number(m_fAutoPilot, "0.0"));
   for (int index = 1; index <= 2; ++index) {
@@ -202,21 +201,13 @@ void frmMain::closeEvent(QCloseEvent* event) {
   if (present.Load(m_sProfileFile) == Profile::LoadResult::Read) {
     m_parts.Store = std::move(present);
   }
-  ProfileWrite(m_parts.Store, *this, *this);
-  if (m_polar) {
-    m_polar->PolarStore();
-  }
-  if (m_history) {
-    m_history->Unload();
-    m_history->hide();
-  }
+  ProfileWrite(m_parts.Store, *this, m_others);
+  m_others.Store();
   if (const auto failure = m_parts.Store.Commit(m_sProfileFile)) {
     std::fprintf(stderr, "%s\n", failure->c_str());
   }
   m_unloaded = true;
-  if (m_polar) {
-    m_polar->hide();
-  }
+  m_others.Hide();
   event->accept();
 }
 
@@ -303,42 +294,18 @@ void frmMain::NudgeKey(int index) {
   }
 }
 
-// The history window
-
-frmHistory& frmMain::History() {
-  if (!m_history) {
-    m_history = std::make_unique<frmHistory>(frmHistory::Parts{m_clock, m_parts.Asks, m_parts.Store});
-    m_history->VisibleChanged([this](bool visible) { m_menu.mnuViewHistory->setChecked(visible); });
-  }
-  return *m_history;
-}
-
-void frmMain::HistoryShow() {
-  frmHistory& window = History();
-  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
-  window.show();
-  window.raise();
-  window.activateWindow();
-}
-
-void frmMain::mnuViewHistory_Click() {
-  HistoryShow();
-  // The click has turned the tick over.
-  m_menu.mnuViewHistory->setChecked(true);
-}
-
 // What the helm tells
 
 void frmMain::Panel(int index, const QString& text) { ShowText(*m_status[At(index)], text); }
 
 void frmMain::OnHeading(float heading) {
   ShowText(*m_panel->lblHeading, Number(heading, "0"));
-  History().SetValue("Heading", heading, "M");
+  m_others.OnHeading(heading);
 }
 
 void frmMain::OnBoatSpeed(float speed) {
   ShowText(*m_panel->lblBoatSpeed, Number(speed, "0.0"));
-  History().SetValue("Boat Speed", speed, "Kts");
+  m_others.OnBoatSpeed(speed);
 }
 
 void frmMain::OnWaypoint(float /*range*/, float bearing) {
@@ -348,15 +315,13 @@ void frmMain::OnWaypoint(float /*range*/, float bearing) {
 void frmMain::OnWindApparent(float angle, float speed) {
   ShowText(*m_panel->lblAppWindAngle, Number(angle, "0"));
   ShowText(*m_panel->lblAppWindSpeed, Number(speed, "0.0"));
-  History().SetValue("App Wind Angle", angle, "R");
-  History().SetValue("App Wind Speed", speed, "Kts");
+  m_others.OnWindApparent(angle, speed);
 }
 
 void frmMain::OnWindTrue(float angle, float speed) {
   ShowText(*m_panel->lblTrueWindAngle, Number(angle, "0"));
   ShowText(*m_panel->lblTrueWindSpeed, Number(speed, "0.0"));
-  History().SetValue("True Wind Angle", angle, "M");
-  History().SetValue("True Wind Speed", speed, "Kts");
+  m_others.OnWindTrue(angle, speed);
 }
 
 void frmMain::OnWindIndicator(float direction, float speed) {
@@ -388,12 +353,6 @@ void frmMain::OnDelta(float apparent, float trueWind) {
 
 void frmMain::OnAutoPilot(float bearing) { m_panel->txtAutoPilot->Follow(Number(bearing, "0.0")); }
 
-void frmMain::OnPilotDelta(float error) { HistorySample("Pilot Delta", FormatNumber(error, "0.0") + " deg"); }
-
-void frmMain::OnPilotHeading(float bearing) {
-  HistorySample("Pilot Heading", FormatNumber(bearing, "0.00") + " deg");
-}
-
 void frmMain::OnAlarm(TrackSide side, float error) {
   m_parts.Asks.ToForeground();
   m_panel->ShowAlarm(side);
@@ -415,33 +374,6 @@ void frmMain::OnTrackMode(TrackMode mode) {
 }
 
 void frmMain::OnTrackRefused(std::string_view reason) { Panel(kPilotPanel, Text(reason)); }
-
-void frmMain::OnPolarUpdate(TrackMode mode, const InstrumentData& record) {
-  if (m_polar) {
-    m_polar->PolarUpdate(mode, record.HeadingValid, record.Heading, record.BoatSpeed,
-                         record.WindAngleApparent, record.WindSpeedApparent, record.WindAngleTrue,
-                         record.WindSpeedTrue, record.WaypointValid, record.WaypointBearing,
-                         record.WaypointRange);
-  }
-}
-
-// The other windows
-
-void frmMain::PolarShow() {
-  if (!m_polar) {
-    m_polar = std::make_unique<frmPolar>(PolarParts{m_parts.Store, m_parts.Asks, *this, m_parts.Polars});
-    m_polar->setWindowIcon(windowIcon());
-  }
-  m_polar->setWindowState(m_polar->windowState() & ~Qt::WindowMinimized);
-  m_polar->show();
-  m_polar->raise();
-  m_polar->activateWindow();
-  m_menu.mnuViewPolar->setChecked(true);
-}
-
-bool frmMain::PolarVisible() const { return m_polar && m_polar->isVisible(); }
-
-void frmMain::OnPolarVisible(bool visible) { m_menu.mnuViewPolar->setChecked(visible); }
 
 void frmMain::ShowControls() {
   const TrackSide side = m_helm.Loop().Side();

@@ -6,45 +6,19 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <array>
-#include <memory>
 #include <string>
 #include <string_view>
 
 #include "app/Helm.h"
 #include "app/InstrumentPanelQt.h"
 #include "app/MainWindowApi.h"
-#include "app/SettingsProfile.h"
+#include "app/MainWindowParts.h"
+#include "app/OtherWindowsQt.h"
 #include "app/frmMainCommands.h"
-#include "history/frmHistory.h"
-#include "platform/Dialogs.h"
-#include "platform/Profile.h"
-#include "platform/Random.h"
-#include "platform/SerialPort.h"
-#include "platform/SystemClock.h"
-#include "platform/Timer.h"
-#include "polar/PolarListener.h"
-#include "polar/frmPolar.h"
 
 namespace veerwatch {
 
-/// What the main window works with; everything outlives it.
-struct MainWindowParts {
-  SerialPort& MSCommNmea;   ///< the instrument port
-  SerialPort& MSCommPilot;  ///< the pilot port
-  Timer& tmrNmea;           ///< ticks into tmrNmea_Timer()
-  Timer& tmrUnload;         ///< ticks into tmrUnload_Timer()
-  RandomSource& Random;
-  Dialogs& Asks;
-  Profile& Store;
-  std::string ProfileFile;  ///< path of the profile
-  PolarFolders Polars{};    ///< where polar files lie
-};
-
-class frmMain final : public QMainWindow,
-                      public MainWindowApi,
-                      private HelmView,
-                      private RememberedWindows,
-                      private PolarListener {
+class frmMain final : public QMainWindow, public MainWindowApi, private HelmView {
  public:
   /// Makes the window and touches no port.
   explicit frmMain(const MainWindowParts& parts);
@@ -73,9 +47,7 @@ class frmMain final : public QMainWindow,
   void TrackSetTrack() override { m_helm.Modes().TrackSetTrack(); }
 
   /// Feeds the history's chart with a text of a number, a blank and the units.
-  void HistorySample(std::string_view name, std::string_view text) {
-    History().Chart().SampleAdd(name, text);
-  }
+  void HistorySample(std::string_view name, std::string_view text) { m_others.HistorySample(name, text); }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -106,11 +78,6 @@ class frmMain final : public QMainWindow,
   void cmdDesired_Click(int index);
   void NudgeKey(int index);
 
-  void HistoryShow() override;
-  bool HistoryVisible() const override { return m_history && m_history->isVisible(); }
-  frmHistory& History();
-  void mnuViewHistory_Click();
-
   void OnHeading(float heading) override;
   void OnBoatSpeed(float speed) override;
   void OnWaypoint(float range, float bearing) override;
@@ -123,33 +90,26 @@ class frmMain final : public QMainWindow,
   void OnDesired(float apparent, float trueWind) override;
   void OnDelta(float apparent, float trueWind) override;
   void OnAutoPilot(float bearing) override;
-  void OnPilotDelta(float error) override;
-  void OnPilotHeading(float bearing) override;
+  void OnPilotDelta(float error) override { m_others.OnPilotDelta(error); }
+  void OnPilotHeading(float bearing) override { m_others.OnPilotHeading(bearing); }
   void OnAlarm(TrackSide side, float error) override;
   void OnAlarmOver() override;
   void OnTrackMode(TrackMode mode) override;
   void OnTrackRefused(std::string_view reason) override;
-  void OnPolarUpdate(TrackMode mode, const InstrumentData& record) override;
-
-  void PolarShow() override;
-  bool PolarVisible() const override;
-  void OnPolarValue(std::string_view channel, std::string_view value) override {
-    HistorySample(channel, value);
+  void OnPolarUpdate(TrackMode mode, const InstrumentData& record) override {
+    m_others.OnPolarUpdate(mode, record);
   }
-  void OnPolarVisible(bool visible) override;
 
   MainWindowParts m_parts;
   frmMainMenu m_menu;
   frmMainModeBar* m_tbrTrack;
   InstrumentPanelQt* m_panel;
   std::array<QLabel*, 3> m_status{};
-  SystemClock m_clock;
-  std::unique_ptr<frmHistory> m_history;  ///< from the first value on
+  OtherWindowsQt m_others;
   Helm m_helm;
-  std::unique_ptr<frmPolar> m_polar;  ///< null until it is shown for the first time
-  bool m_ask = true;                  ///< a close still has to ask
-  bool m_asking = false;              ///< the question of the close is open
-  bool m_unloaded = false;            ///< the profile is written, everything is closed
+  bool m_ask = true;        ///< a close still has to ask
+  bool m_asking = false;    ///< the question of the close is open
+  bool m_unloaded = false;  ///< the profile is written, everything is closed
 };
 
 }  // namespace veerwatch

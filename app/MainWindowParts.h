@@ -1,0 +1,28 @@
+// What the main window works with: real parts from the program, scripted ones from the tests.
+#pragma once
+
+#include <string>
+
+#include "platform/Dialogs.h"
+#include "platform/Profile.h"
+#include "platform/Random.h"
+#include "platform/SerialPort.h"
+#include "platform/Timer.h"
+#include "polar/PolarModel.h"
+
+namespace veerwatch {
+
+/// Everything outlives the window.
+struct MainWindowParts {
+  SerialPort& MSCommNmea;   ///< the instrument port
+  SerialPort& MSCommPilot;  ///< the pilot port
+  Timer& tmrNmea;           ///< ticks into frmMain::tmrNmea_Timer()
+  Timer& tmrUnload;         ///< ticks into frmMain::tmrUnload_Timer()
+  RandomSource& Random;
+  Dialogs& Asks;
+  Profile& Store;
+  std::string ProfileFile;  ///< path of the profile
+  PolarFolders Polars{};    ///< where polar files lie
+};
+
+}  // namespace veerwatch

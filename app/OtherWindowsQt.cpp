@@ -1,0 +1,102 @@
+#include "app/OtherWindowsQt.h"
+
+#include "app/IconsQt.h"
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+
+namespace {
+
+/// Shows the window in front of all others.
+void BringUp(QWidget& window) {
+  window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+  window.show();
+  window.raise();
+  window.activateWindow();
+}
+
+}  // namespace
+
+OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& menu)
+    : m_parts(parts), m_menu(menu) {
+  QObject::connect(menu.mnuViewHistory, &QAction::triggered, [this] { HistoryShow(); });
+  QObject::connect(menu.mnuViewPolar, &QAction::triggered, [this] { PolarShow(); });
+}
+
+void OtherWindowsQt::Store() {
+  if (m_polar) {
+    m_polar->PolarStore();
+  }
+  if (m_history) {
+    m_history->Unload();
+  }
+}
+
+void OtherWindowsQt::Hide() {
+  if (m_history) {
+    m_history->hide();
+  }
+  if (m_polar) {
+    m_polar->hide();
+  }
+}
+
+// The history window
+
+frmHistory& OtherWindowsQt::History() {
+  if (!m_history) {
+    m_history = std::make_unique<frmHistory>(frmHistory::Parts{m_clock, m_parts.Asks, m_parts.Store});
+    m_history->VisibleChanged([this](bool visible) { m_menu.mnuViewHistory->setChecked(visible); });
+  }
+  return *m_history;
+}
+
+void OtherWindowsQt::HistoryShow() {
+  BringUp(History());
+  // A click on the command has turned its tick over.
+  m_menu.mnuViewHistory->setChecked(true);
+}
+
+void OtherWindowsQt::OnHeading(float heading) { History().SetValue("Heading", heading, "M"); }
+
+void OtherWindowsQt::OnBoatSpeed(float speed) { History().SetValue("Boat Speed", speed, "Kts"); }
+
+void OtherWindowsQt::OnWindApparent(float angle, float speed) {
+  History().SetValue("App Wind Angle", angle, "R");
+  History().SetValue("App Wind Speed", speed, "Kts");
+}
+
+void OtherWindowsQt::OnWindTrue(float angle, float speed) {
+  History().SetValue("True Wind Angle", angle, "M");
+  History().SetValue("True Wind Speed", speed, "Kts");
+}
+
+void OtherWindowsQt::OnPilotDelta(float error) {
+  HistorySample("Pilot Delta", FormatNumber(error, "0.0") + " deg");
+}
+
+void OtherWindowsQt::OnPilotHeading(float bearing) {
+  HistorySample("Pilot Heading", FormatNumber(bearing, "0.00") + " deg");
+}
+
+// The polar window
+
+void OtherWindowsQt::PolarShow() {
+  if (!m_polar) {
+    m_polar = std::make_unique<frmPolar>(PolarParts{m_parts.Store, m_parts.Asks, *this, m_parts.Polars});
+    m_polar->setWindowIcon(ProgramIcon());
+  }
+  BringUp(*m_polar);
+  m_menu.mnuViewPolar->setChecked(true);
+}
+
+void OtherWindowsQt::OnPolarUpdate(TrackMode mode, const InstrumentData& record) {
+  if (m_polar) {
+    m_polar->PolarUpdate(mode, record.HeadingValid, record.Heading, record.BoatSpeed,
+                         record.WindAngleApparent, record.WindSpeedApparent, record.WindAngleTrue,
+                         record.WindSpeedTrue, record.WaypointValid, record.WaypointBearing,
+                         record.WaypointRange);
+  }
+}
+
+}  // namespace veerwatch

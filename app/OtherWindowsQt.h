@@ -1,0 +1,62 @@
+// The windows beside the main window: makes each at its first use, shows it, passes on what the helm tells,
+// and stores and hides them all at the close. The main window hands on every event that one of them shows; an
+// event for a window that is not loaded does nothing, but the first value loads the history.
+#pragma once
+
+#include <memory>
+#include <string_view>
+
+#include "app/Helm.h"
+#include "app/MainWindowParts.h"
+#include "app/SettingsProfile.h"
+#include "app/frmMainCommands.h"
+#include "history/frmHistory.h"
+#include "platform/SystemClock.h"
+#include "polar/PolarListener.h"
+#include "polar/frmPolar.h"
+
+namespace veerwatch {
+
+class OtherWindowsQt final : public HelmView, public RememberedWindows, private PolarListener {
+ public:
+  /// Connects the commands of `menu` that show a window. All of them outlive this.
+  OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& menu);
+
+  /// Puts what the windows keep into the profile, which the caller commits.
+  void Store();
+  void Hide();
+
+  /// Feeds the history's chart with a text of a number, a blank and the units.
+  void HistorySample(std::string_view name, std::string_view text) {
+    History().Chart().SampleAdd(name, text);
+  }
+
+  void HistoryShow() override;
+  bool HistoryVisible() const override { return m_history && m_history->isVisible(); }
+  void PolarShow() override;
+  bool PolarVisible() const override { return m_polar && m_polar->isVisible(); }
+
+  void OnHeading(float heading) override;
+  void OnBoatSpeed(float speed) override;
+  void OnWindApparent(float angle, float speed) override;
+  void OnWindTrue(float angle, float speed) override;
+  void OnPilotDelta(float error) override;
+  void OnPilotHeading(float bearing) override;
+  void OnPolarUpdate(TrackMode mode, const InstrumentData& record) override;
+
+ private:
+  frmHistory& History();
+
+  void OnPolarValue(std::string_view channel, std::string_view value) override {
+    HistorySample(channel, value);
+  }
+  void OnPolarVisible(bool visible) override { m_menu.mnuViewPolar->setChecked(visible); }
+
+  const MainWindowParts& m_parts;
+  const frmMainMenu& m_menu;
+  SystemClock m_clock;
+  std::unique_ptr<frmHistory> m_history;  ///< from the first value on
+  std::unique_ptr<frmPolar> m_polar;      ///< null until it is shown for the first time
+};
+
+}  // namespace veerwatch
