@@ -132,6 +132,24 @@ void RedrawAfterSample(benchmark::State& state) {
 }
 BENCHMARK(RedrawAfterSample)->Arg(1800)->Arg(kDay)->Unit(benchmark::kMillisecond);
 
+/// The first sample of a slot, with which everything moves on: taken, composed and painted.
+void RedrawAfterSlot(benchmark::State& state) {
+  Day day(static_cast<int>(state.range(0)));
+  QImage image(kWidth, kHeight, QImage::Format_ARGB32_Premultiplied);
+  int count = 0;
+  for (auto _ : state) {
+    day.Time.Time.Steady += kHistorySlotSeconds * 1000LL;
+    day.Time.Time.Wall += kHistorySlotSeconds * 1000LL;
+    ++count;
+    day.Chart.SampleAdd("Heading", count % 2 == 0 ? "5.1 M" : "4.9 M");
+    day.Chart.Refresh();
+    day.Chart.render(&image);
+  }
+  state.counters["full_redraws"] = static_cast<double>(day.Chart.FullRedraws());
+}
+// Few enough that the other traces still fill most of the chart at the end.
+BENCHMARK(RedrawAfterSlot)->Arg(1800)->Iterations(40)->Unit(benchmark::kMillisecond);
+
 /// Heap memory that the program holds [bytes].
 double HeapInUse() { return static_cast<double>(mallinfo2().uordblks); }
 

@@ -195,10 +195,13 @@ void StripChart::ShowPopup() {
 
 void StripChart::PickColour(int trace) {
   const auto at = static_cast<std::size_t>(trace);
+  if (at >= m_settings.Traces.size()) {
+    return;
+  }
   m_popup->close();
   const QRgb now = m_colours.Trace(at, m_settings.Traces[at].Colour).rgb();
   const auto picked = m_dialogs.PickColour(Turned(now & 0xFFFFFFU));
-  if (picked && at < m_settings.Traces.size()) {
+  if (picked) {
     m_settings.Traces[at].Colour = Turned(*picked & 0xFFFFFFU);
     Changed();
   }

@@ -120,7 +120,9 @@ void StripChartPainterQt::PaintLine(const ChartTrace& trace, const TraceLine& li
   }
   m_painter.setRenderHint(QPainter::Antialiasing, true);
   const double width = m_picture.PerBucket > 1 ? 1.0 : std::max(1.4, 0.115 * m_picture.TextHeight);
-  m_painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::RoundCap, Qt::BevelJoin));
+  // Piece by piece, each reaching half the width over its ends: stroking a whole polyline with its joins
+  // takes five times as long.
+  m_painter.setPen(QPen(colour, width, Qt::SolidLine, Qt::SquareCap));
   for (std::size_t i = 0; i < line.Starts.size(); ++i) {
     const std::size_t begin = line.Starts[i];
     const std::size_t end = line.End(i);
@@ -128,11 +130,12 @@ void StripChartPainterQt::PaintLine(const ChartTrace& trace, const TraceLine& li
       m_painter.drawPoint(QPointF(line.Points[begin].X, line.Points[begin].Y));
       continue;
     }
-    m_points.clear();
-    for (std::size_t at = begin; at < end; ++at) {
-      m_points.append(QPointF(line.Points[at].X, line.Points[at].Y));
+    m_pieces.clear();
+    for (std::size_t at = begin; at + 1 < end; ++at) {
+      m_pieces.append(
+          QLineF(line.Points[at].X, line.Points[at].Y, line.Points[at + 1].X, line.Points[at + 1].Y));
     }
-    m_painter.drawPolyline(m_points);
+    m_painter.drawLines(m_pieces);
   }
 }
 

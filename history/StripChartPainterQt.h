@@ -2,8 +2,9 @@
 #pragma once
 
 #include <QFont>
+#include <QLineF>
+#include <QList>
 #include <QPainter>
-#include <QPolygonF>
 #include <array>
 #include <vector>
 
@@ -57,7 +58,7 @@ class StripChartPainterQt {
   const StripChartColoursQt& m_colours;
   const std::vector<QColor>& m_traceColours;
   const std::vector<QColor>& m_groupColours;
-  QPolygonF m_points;
+  QList<QLineF> m_pieces;
 };
 
 }  // namespace veerwatch
