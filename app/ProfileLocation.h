@@ -5,11 +5,10 @@
 
 namespace veerwatch {
 
-/// "Veerwatch.ini" in `programFolder`, beside the program; but for an installed copy, whose folder is
-/// `installFolder` or not `programFolderWritable`, "veerwatch/Veerwatch.ini" in `configFolder`, the user's
-/// folder for settings.
-std::filesystem::path ProfileLocation(const std::filesystem::path& programFolder,
-                                      const std::filesystem::path& installFolder,
+/// "Veerwatch.ini" in `programFolder`, beside the program; but for an `installed` copy, or where that folder
+/// is not `programFolderWritable`, "veerwatch/Veerwatch.ini" in `configFolder`, the user's folder for
+/// settings.
+std::filesystem::path ProfileLocation(const std::filesystem::path& programFolder, bool installed,
                                       const std::filesystem::path& configFolder, bool programFolderWritable);
 
 }  // namespace veerwatch

@@ -1,9 +1,12 @@
 #include "app/ProgramQt.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QFileInfo>
 #include <QSessionManager>
 #include <QStandardPaths>
+#include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <random>
 
@@ -20,19 +23,41 @@ namespace {
 
 std::filesystem::path PathOf(const QString& path) { return std::filesystem::path(path.toStdU16String()); }
 
-/// Where this copy of the program keeps its profile.
-std::string ProfileFile() {
-  const QString folder = QCoreApplication::applicationDirPath();
-  const QString config = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-  return ProfileLocation(PathOf(folder), VEERWATCH_INSTALL_FOLDER, PathOf(config),
-                         QFileInfo(folder).isWritable())
-      .string();
-}
-
 /// Where polar files with relative names lie.
 PolarFolders PolarFiles() {
   const std::filesystem::path program = PathOf(QCoreApplication::applicationDirPath());
   return {program, program / VEERWATCH_SHARED_FOLDER};
+}
+
+/// Where this copy of the program keeps its profile. It is an installed one when its data lie where they are
+/// installed to, seen from the program.
+std::string ProfileFile() {
+  const QString folder = QCoreApplication::applicationDirPath();
+  const QString config = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+  std::error_code error;
+  const bool installed = std::filesystem::is_directory(PathOf(folder) / VEERWATCH_SHARED_FOLDER, error);
+  return ProfileLocation(PathOf(folder), installed, PathOf(config), QFileInfo(folder).isWritable()).string();
+}
+
+/// Reads the command line; answers --help, --version and mistakes itself and ends the program then. Gives the
+/// path of the profile.
+std::string ReadCommandLine(const QApplication& application) {
+  QCommandLineParser line;
+  line.setApplicationDescription(QStringLiteral("Steers a boat's autopilot by the wind."));
+  line.addHelpOption();
+  line.addVersionOption();
+  const QCommandLineOption profile(QStringLiteral("profile"),
+                                   QStringLiteral("Keep the settings in <file> instead of the usual place."),
+                                   QStringLiteral("file"));
+  line.addOption(profile);
+  line.process(application);
+  if (!line.positionalArguments().isEmpty()) {
+    std::fprintf(stderr, "veerwatch: unexpected argument %s; --help shows the known ones\n",
+                 qPrintable(line.positionalArguments().constFirst()));
+    std::exit(2);
+  }
+  return line.isSet(profile) ? QFileInfo(line.value(profile)).absoluteFilePath().toStdString()
+                             : ProfileFile();
 }
 
 }  // namespace
@@ -41,7 +66,10 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
   QApplication application(argc, argv);
   QApplication::setApplicationName(QString::fromLatin1(kApplicationTitle));
+  QApplication::setApplicationVersion(QStringLiteral(VEERWATCH_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral("veerwatch"));
+
+  const std::string profileFile = ReadCommandLine(application);
 
   Profile profile;
   SerialPortQt MSCommNmea(profile);
@@ -52,7 +80,7 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   DialogsQt dialogs;
 
   frmMain window(
-      {MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, random, dialogs, profile, ProfileFile(), PolarFiles()});
+      {MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, random, dialogs, profile, profileFile, PolarFiles()});
   dialogs.Window(&window);
   tmrNmea.Ticks([&window] { window.tmrNmea_Timer(); });
   tmrUnload.Ticks([&window] { window.tmrUnload_Timer(); });

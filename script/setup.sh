@@ -20,6 +20,8 @@ kPackages=(
   libgtest-dev
   libgmock-dev
   libbenchmark-dev
+  dpkg-dev                                     # finds what the package depends on
+  file
   fonts-dejavu-core                            # without any font the windows show empty boxes
 )
 
