@@ -17,37 +17,7 @@ namespace veerwatch {
 namespace {
 
 constexpr int kSlot = 0;
-constexpr std::size_t kLongestPair = 4096;
-
-PolarTable Loaded(const std::string& file, float factor) {
-  PolarTable table;
-  const PolarLoadResult result = PolarLoad(table, kSlot, factor, file);
-  if (!result.Loaded) {
-    throw CommandError(file + ": " + (result.Error.empty() ? "the last line has no line end" : result.Error));
-  }
-  return table;
-}
-
-/// A pair of numbers with blanks between them.
-std::optional<std::pair<float, float>> Pair(std::string_view line) {
-  constexpr std::string_view kBlanks = " \t\r";
-  const std::size_t first = line.find_first_not_of(kBlanks);
-  const std::size_t gap = line.find_first_of(kBlanks, std::min(first, line.size()));
-  if (gap == std::string_view::npos) {
-    return std::nullopt;
-  }
-  const std::size_t second = line.find_first_not_of(kBlanks, gap);
-  if (second == std::string_view::npos) {
-    return std::nullopt;
-  }
-  const std::size_t end = line.find_last_not_of(kBlanks) + 1;
-  const auto angle = StrictNumber(line.substr(first, gap - first));
-  const auto wind = StrictNumber(line.substr(second, end - second));
-  if (!angle || !wind) {
-    return std::nullopt;
-  }
-  return std::pair{*angle, *wind};
-}
+constexpr std::size_t kLongestLine = 4096;
 
 struct Range {
   float Least = 0.0F;
@@ -84,8 +54,33 @@ bool Ascending(int count, Seen seen) {
 
 }  // namespace
 
+PolarTable LoadedPolar(const std::string& file, float factor) {
+  PolarTable table;
+  const PolarLoadResult result = PolarLoad(table, kSlot, factor, file);
+  if (!result.Loaded) {
+    throw CommandError(file + ": " + (result.Error.empty() ? "the last line has no line end" : result.Error));
+  }
+  return table;
+}
+
+std::vector<float> LineNumbers(std::string_view line, std::size_t count) {
+  constexpr std::string_view kBlanks = " \t\r";
+  std::vector<float> numbers;
+  std::size_t at = line.find_first_not_of(kBlanks);
+  while (line.size() <= kLongestLine && at != std::string_view::npos) {
+    const std::size_t end = std::min(line.find_first_of(kBlanks, at), line.size());
+    const auto number = StrictNumber(line.substr(at, end - at));
+    if (!number || numbers.size() == count) {
+      return {};
+    }
+    numbers.push_back(*number);
+    at = line.find_first_not_of(kBlanks, end);
+  }
+  return numbers.size() == count ? numbers : std::vector<float>();
+}
+
 void PolarSpeedCommand(const PolarSpeedOptions& options, std::istream& in, std::ostream& out) {
-  PolarTable table = Loaded(options.File, options.Factor);
+  PolarTable table = LoadedPolar(options.File, options.Factor);
   table.Type(options.Apparent ? PlotType::ApparentWind : PlotType::TrueWind);
   const auto speed = [&table](float angle, float wind) {
     return ShortestText(table.PolarSpeed(kSlot, std::fabs(angle), wind));
@@ -96,16 +91,16 @@ void PolarSpeedCommand(const PolarSpeedOptions& options, std::istream& in, std::
   }
   std::string line;
   for (long number = 1; std::getline(in, line); ++number) {
-    const auto pair = line.size() > kLongestPair ? std::nullopt : Pair(line);
-    if (!pair) {
+    const auto pair = LineNumbers(line, 2);
+    if (pair.empty()) {
       throw CommandError("line " + std::to_string(number) + ": no angle and wind speed");
     }
-    out << speed(pair->first, pair->second) << '\n';
+    out << speed(pair[0], pair[1]) << '\n';
   }
 }
 
 void PolarCheckCommand(const std::string& file, std::ostream& out) {
-  const PolarTable table = Loaded(file, 1.0F);
+  const PolarTable table = LoadedPolar(file);
   const int rows = table.PolarRows(kSlot);
   const int columns = table.PolarColumns(kSlot);
   out << "rows " << rows << '\n'

@@ -5,6 +5,10 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <string_view>
+#include <vector>
+
+#include "polar/PolarTable.h"
 
 namespace veerwatch {
 
@@ -15,6 +19,13 @@ struct PolarSpeedOptions {
   std::optional<float> Angle;      ///< [deg]; the side does not matter
   std::optional<float> WindSpeed;  ///< true wind speed [kn]
 };
+
+/// The table of a file, with each speed multiplied by `factor`. Throws CommandError with what is wrong with
+/// it.
+PolarTable LoadedPolar(const std::string& file, float factor = 1.0F);
+
+/// The `count` numbers of a line, with blanks between them; empty when it holds anything else.
+std::vector<float> LineNumbers(std::string_view line, std::size_t count);
 
 /// Writes the speed at the angle and wind speed, alone on a line [kn]. Without them, reads pairs "angle wind"
 /// from `in`, a line each, and writes a speed for each. Throws CommandError.

@@ -10,8 +10,7 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-/// A single as the number that its shortest text says, so that 12.4 is written "12.4".
-double Number(float value) { return StrictDouble(ShortestText(value)).value_or(0.0); }
+double Number(float value) { return JsonNumber(value); }
 
 /// Bytes as the code points of the same numbers, in UTF-8.
 std::string CodePoints(const std::string& bytes) {
@@ -66,6 +65,8 @@ void AddSteering(Json& object, const Steering& steering) {
 }
 
 }  // namespace
+
+double JsonNumber(float value) { return StrictDouble(ShortestText(value)).value_or(0.0); }
 
 std::string TraceLine(const std::string& line, const Steering& steering) {
   Json object;

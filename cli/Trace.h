@@ -7,6 +7,9 @@
 
 namespace veerwatch {
 
+/// A single as the number that its shortest text says, so that 12.4 is written "12.4".
+double JsonNumber(float value);
+
 /// A replayed line: "line" and "error" with bytes above 127 as the same code points, "status", "used", and
 /// the keys of TraceTick.
 std::string TraceLine(const std::string& line, const Steering& steering);

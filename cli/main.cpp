@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
 #include <exception>
 #include <fstream>
 #include <iostream>
@@ -10,6 +11,7 @@
 #include <set>
 #include <string>
 
+#include "cli/CourseCommands.h"
 #include "cli/PolarCommands.h"
 #include "cli/Replay.h"
 #include "cli/Simulate.h"
@@ -78,14 +80,75 @@ const CLI::Validator kNumber(
     },
     "NUMBER");
 
-/// "polar" and its three commands.
+/// Adds an option that takes a number.
+template <class Value>
+CLI::Option* AddNumber(CLI::App* command, const char* name, Value& value, const char* text,
+                       const char* type) {
+  return command->add_option(name, value, text)->check(kNumber)->type_name(type);
+}
+
+/// "polar targets" and "polar best".
+class CourseArguments {
+ public:
+  explicit CourseArguments(CLI::App* polar)
+      : m_targets(polar->add_subcommand("targets", "Print how best to sail towards a bearing")),
+        m_best(polar->add_subcommand("best", "Print the best wind angles upwind and downwind")) {
+    m_targets->add_option("FILE", m_options.File, "The polar file")->required();
+    const std::array<CLI::Option*, 4> query{
+        AddNumber(m_targets, "--heading", m_query.Heading,
+                  "Present heading [deg]; without one, lines \"heading bearing twa tws\" from stdin", "H"),
+        AddNumber(m_targets, "--bearing", m_query.TargetBearing, "Bearing to sail to [deg]", "B"),
+        AddNumber(m_targets, "--twa", m_query.WindAngleTrue,
+                  "True wind angle on that heading [deg, negative to port]", "A"),
+        AddNumber(m_targets, "--tws", m_query.WindSpeedTrue, "True wind speed [kn]", "S")};
+    for (CLI::Option* one : query) {
+      for (CLI::Option* other : query) {
+        if (one != other) {
+          one->needs(other);
+        }
+      }
+    }
+    m_heading = query.front();
+    AddNumber(m_targets, "--range", m_options.Range, "Distance to sail [nm]: print times too", "R")
+        ->check(CLI::NonNegativeNumber);
+    AddNumber(m_targets, "--boat-speed", m_options.BoatSpeed,
+              "The boat's speed now [kn]: scale every speed by it over the polar's", "V");
+    m_targets->add_flag("--json", m_options.Json, "A JSON object instead, one a line");
+    m_best->add_option("FILE", m_options.File, "The polar file")->required();
+    AddNumber(m_best, "--tws", m_windSpeed, "True wind speed [kn]", "S")->required();
+  }
+
+  /// Runs the command that was given; false when it was none of these.
+  bool Run() {
+    if (*m_targets) {
+      if (*m_heading) {
+        m_options.Query = m_query;
+      }
+      veerwatch::PolarTargetsCommand(m_options, std::cin, std::cout);
+    } else if (*m_best) {
+      veerwatch::PolarBestCommand(m_options.File, m_windSpeed, std::cout);
+    }
+    return *m_targets || *m_best;
+  }
+
+ private:
+  CLI::App* m_targets;
+  CLI::App* m_best;
+  CLI::Option* m_heading = nullptr;
+  veerwatch::CourseQuery m_query;
+  veerwatch::PolarTargetsOptions m_options;
+  float m_windSpeed = 0.0F;
+};
+
+/// "polar" and its commands.
 class PolarArguments {
  public:
   explicit PolarArguments(CLI::App& app)
       : m_polar(app.add_subcommand("polar", "Look into polar files")),
         m_speed(m_polar->add_subcommand("speed", "Print boat speeds by wind angle and wind speed")),
         m_check(m_polar->add_subcommand("check", "Print rows, columns and ranges, or what is wrong")),
-        m_convert(m_polar->add_subcommand("convert", "Turn other spellings into this program's format")) {
+        m_convert(m_polar->add_subcommand("convert", "Turn other spellings into this program's format")),
+        m_course(m_polar) {
     m_polar->require_subcommand(1);
     m_speed->add_option("FILE", m_options.File, "The polar file")->required();
     m_speed->add_option("--factor", m_options.Factor, "Multiplies each speed (default 1)")
@@ -109,7 +172,10 @@ class PolarArguments {
 
   bool Given() const { return m_polar->parsed(); }
 
-  void Run() const {
+  void Run() {
+    if (m_course.Run()) {
+      return;
+    }
     if (*m_speed) {
       veerwatch::PolarSpeedCommand(m_options, std::cin, std::cout);
     } else if (*m_check) {
@@ -124,6 +190,7 @@ class PolarArguments {
   CLI::App* m_speed;
   CLI::App* m_check;
   CLI::App* m_convert;
+  CourseArguments m_course;
   veerwatch::PolarSpeedOptions m_options;
   std::string m_out;
 };
@@ -174,7 +241,7 @@ int Run(int argc, char** argv) {
       ->type_name("S");
   simulateCommand->add_flag("--realtime", simulate.RealTime, "A tick a second");
 
-  const PolarArguments polar(app);
+  PolarArguments polar(app);
 
   try {
     app.parse(argc, argv);

@@ -1,0 +1,35 @@
+#include "polar/BestAngles.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "tests/support/PolarText.h"
+
+namespace veerwatch {
+namespace {
+
+TEST(FindBestAngles, FindsTheMostWayToWindwardAndToLeeward) {
+  const BestAngles best =
+      FindBestAngles(TableOf("TWA\t5\t20\n40\t6\t6\n90\t6\t6\n150\t8\t8\n180\t6\t6\n"), 12.0F);
+  ASSERT_TRUE(best.Upwind && best.Downwind);
+  EXPECT_EQ(best.Upwind->Angle, 40.0F);
+  EXPECT_NEAR(best.Upwind->MadeGood, 6.0 * 0.76604444, 1e-5);
+  // From 8 kn at 150 degrees the speed falls by 2 kn over 30 degrees: the most of (18 - a / 15) * -cos(a)
+  // lies where tan(a) = -(1 / 15) / ((18 - a / 15) * pi / 180), at about 153.76 degrees.
+  EXPECT_NEAR(best.Downwind->Angle, 153.76, 0.06);
+  const double radians = static_cast<double>(best.Downwind->Angle) * std::acos(-1.0) / 180.0;
+  EXPECT_NEAR(best.Downwind->MadeGood,
+              (18.0 - static_cast<double>(best.Downwind->Angle) / 15.0) * -std::cos(radians), 1e-5);
+}
+
+TEST(FindBestAngles, HasNoneWhereThePolarMakesNoWay) {
+  const BestAngles reach = FindBestAngles(TableOf("TWA\t5\t20\n91\t6\t6\n150\t8\t8\n"), 12.0F);
+  EXPECT_FALSE(reach.Upwind.has_value());
+  EXPECT_TRUE(reach.Downwind.has_value());
+  const BestAngles empty = FindBestAngles(PolarTable(), 12.0F);
+  EXPECT_FALSE(empty.Upwind || empty.Downwind);
+}
+
+}  // namespace
+}  // namespace veerwatch
