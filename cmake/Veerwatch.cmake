@@ -1,26 +1,26 @@
 # What every target of the project shares.
-add_library(veerwatch_options INTERFACE)
-target_include_directories(veerwatch_options INTERFACE ${PROJECT_SOURCE_DIR})
-target_compile_features(veerwatch_options INTERFACE cxx_std_20)
-target_compile_options(veerwatch_options INTERFACE
+add_library(veerwatch_common INTERFACE)
+target_include_directories(veerwatch_common INTERFACE ${PROJECT_SOURCE_DIR})
+target_compile_features(veerwatch_common INTERFACE cxx_std_20)
+target_compile_options(veerwatch_common INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wdouble-promotion -Wshadow
   $<$<BOOL:${VEERWATCH_WERROR}>:-Werror>)
 if(VEERWATCH_SANITIZE)
-  target_compile_options(veerwatch_options INTERFACE
+  target_compile_options(veerwatch_common INTERFACE
     -fsanitize=address,undefined,float-cast-overflow,float-divide-by-zero -fno-sanitize-recover=all)
-  target_link_options(veerwatch_options INTERFACE
+  target_link_options(veerwatch_common INTERFACE
     -fsanitize=address,undefined,float-cast-overflow,float-divide-by-zero)
 endif()
 
 # veerwatch_add_library(NAME SOURCES... ): the Qt-free library of one folder.
 function(veerwatch_add_library name)
   add_library(${name} STATIC ${ARGN})
-  target_link_libraries(${name} PUBLIC veerwatch_options)
+  target_link_libraries(${name} PUBLIC veerwatch_common)
 endfunction()
 
 # veerwatch_add_program(NAME SOURCES...): an executable beside the others, directly in the build folder.
 function(veerwatch_add_program name)
   add_executable(${name} ${ARGN})
-  target_link_libraries(${name} PRIVATE veerwatch_options)
+  target_link_libraries(${name} PRIVATE veerwatch_common)
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR})
 endfunction()

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "control/TrackGains.h"
 #include "instruments/MathLib.h"
 
 namespace veerwatch {
@@ -10,15 +11,13 @@ bool TrackLoop::StartTracking() {
   if (!(m_settings.m_fTrackBandwidth > 0.0F)) {
     return false;
   }
-  const double w = 4.0 / static_cast<double>(m_settings.m_fTrackBandwidth);
-  const double gainIntegral =
-      w / (4.0 * std::pow(static_cast<double>(m_settings.m_fTrackDamping), 2.0) + 1.0);
-  const double gainProportional = w - gainIntegral;
-  if (!std::isfinite(gainIntegral) || !std::isfinite(gainProportional)) {
+  const auto gains = TrackGainsFor(static_cast<double>(m_settings.m_fTrackBandwidth),
+                                   static_cast<double>(m_settings.m_fTrackDamping));
+  if (!gains) {
     return false;
   }
-  m_trackGainIntegral = gainIntegral;
-  m_trackGainProportional = gainProportional;
+  m_trackGainIntegral = gains->Integral;
+  m_trackGainProportional = gains->Proportional;
   m_trackIntegral = 0.0;
   return true;
 }

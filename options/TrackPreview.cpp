@@ -1,0 +1,258 @@
+#include "options/TrackPreview.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+#include "instruments/MathLib.h"
+#include "options/TrackResponse.h"
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr double kFarthest = 1e9;
+constexpr double kMostShown = 1e6;  // [deg]
+constexpr double kGridTime = 10.0;  // [s]
+constexpr double kGridBearing = 1.0;
+
+int Nearest(double value) {
+  return static_cast<int>(std::nearbyint(std::clamp(value, -kFarthest, kFarthest)));
+}
+
+/// The numbers in the boxes.
+struct Numbers {
+  TrackResponseInputs Inputs;
+  double Min = 0.0;
+  double Max = 0.0;
+};
+
+/// Reads the boxes; gives the line about the first that is no number, or "".
+std::string Read(const TrackPreviewTexts& texts, Numbers& numbers) {
+  struct Box {
+    const char* Name;
+    const std::string& Text;
+    double& Value;
+  };
+  const std::array<Box, 7> boxes{{{"Bandwidth", texts.Bandwidth, numbers.Inputs.Bandwidth},
+                                  {"Damping", texts.Damping, numbers.Inputs.Damping},
+                                  {"Offset", texts.Offset, numbers.Inputs.Offset},
+                                  {"Noise", texts.Noise, numbers.Inputs.Noise},
+                                  {"Time", texts.Time, numbers.Inputs.Time},
+                                  {"Minimum", texts.Min, numbers.Min},
+                                  {"Maximum", texts.Max, numbers.Max}}};
+  for (const Box& box : boxes) {
+    const auto value = StrictDouble(box.Text);
+    if (!value) {
+      return std::string(box.Name).append(" is not a number");
+    }
+    box.Value = *value;
+  }
+  return {};
+}
+
+TrackScale ScaleFor(const Numbers& numbers, int width, int height) {
+  TrackScale scale;
+  scale.TimeEnd = numbers.Inputs.Time;
+  scale.TimeScale = (width - 1) / (scale.TimeEnd - scale.TimeStart);
+  scale.BearingMin = numbers.Min;
+  scale.BearingMax = numbers.Max;
+  scale.BearingOrigin = height - 1;
+  scale.BearingScale = -(height - 1) / (scale.BearingMax - scale.BearingMin);
+  return scale;
+}
+
+/// The line about numbers that cannot be drawn, or "".
+std::string TroubleWith(const Numbers& numbers) {
+  std::string trouble = TrackResponseTrouble(numbers.Inputs);
+  if (!trouble.empty()) {
+    return trouble;
+  }
+  if (std::fabs(numbers.Min) > kMostShown) {
+    return "Minimum must be within 1000000 degrees";
+  }
+  if (std::fabs(numbers.Max) > kMostShown) {
+    return "Maximum must be within 1000000 degrees";
+  }
+  if (numbers.Min == numbers.Max) {
+    return "Minimum and maximum must differ";
+  }
+  return {};
+}
+
+/// The grid lines at `from`, `from` + `step`, ... to `to`, each placed by `place`, of which a step moves the
+/// line by `spacing` units at most. Where they stand closer than the units there is one on every unit.
+template <class Place>
+std::vector<int> GridLines(double from, double to, double step, double spacing, const Place& place) {
+  std::vector<int> lines;
+  if (from > to) {
+    return lines;
+  }
+  if (std::fabs(spacing) > 1.0) {
+    double at = from;
+    while (at <= to) {
+      lines.push_back(place(at));
+      at += step;
+    }
+    return lines;
+  }
+  const int first = place(from);
+  const int last = place(from + std::floor((to - from) / step) * step);
+  const int way = first <= last ? 1 : -1;
+  for (int line = first; line != last + way; line += way) {
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+/// Gathers the points of a trace and leaves out those that do not show.
+class TraceGatherer {
+ public:
+  explicit TraceGatherer(std::vector<TrackPoint>& trace) : m_trace(trace) {}
+
+  void Add(const TrackPoint& point) {
+    if (m_count > 0 && point.Column != m_first.Column) {
+      Finish();
+    }
+    if (m_count == 0) {
+      m_first = point;
+      m_least = m_largest = point.Row;
+    }
+    m_least = std::min(m_least, point.Row);
+    m_largest = std::max(m_largest, point.Row);
+    m_lastRow = point.Row;
+    ++m_count;
+  }
+
+  /// Ends the column.
+  void Finish() {
+    m_trace.push_back(m_first);
+    const auto [low, high] = std::minmax(m_first.Row, m_lastRow);
+    if (m_least < low) {
+      m_trace.push_back({m_first.Column, m_least});
+    }
+    if (m_largest > high) {
+      m_trace.push_back({m_first.Column, m_largest});
+    }
+    if (m_count > 1) {
+      m_trace.push_back({m_first.Column, m_lastRow});
+    }
+    m_count = 0;
+  }
+
+ private:
+  std::vector<TrackPoint>& m_trace;
+  TrackPoint m_first;
+  int m_least = 0;
+  int m_largest = 0;
+  int m_lastRow = 0;
+  int m_count = 0;
+};
+
+/// The part of a piece between the rows `top` and `bottom`.
+std::optional<TrackStroke> Cut(TrackStroke stroke, double top, double bottom) {
+  const double rise = stroke.Y2 - stroke.Y1;
+  if (rise == 0.0) {
+    return stroke.Y1 >= top && stroke.Y1 <= bottom ? std::optional(stroke) : std::nullopt;
+  }
+  const double atTop = (top - stroke.Y1) / rise;
+  const double atBottom = (bottom - stroke.Y1) / rise;
+  const double begin = std::max(std::min(atTop, atBottom), 0.0);
+  const double end = std::min(std::max(atTop, atBottom), 1.0);
+  if (begin > end) {
+    return std::nullopt;
+  }
+  const double run = stroke.X2 - stroke.X1;
+  const TrackStroke whole = stroke;
+  if (begin > 0.0) {
+    stroke.X1 = whole.X1 + run * begin;
+    stroke.Y1 = whole.Y1 + rise * begin;
+  }
+  if (end < 1.0) {
+    stroke.X2 = whole.X1 + run * end;
+    stroke.Y2 = whole.Y1 + rise * end;
+  }
+  return stroke;
+}
+
+}  // namespace
+
+int TrackScale::TimeColumn(double time) const { return Nearest((time - TimeStart) * TimeScale); }
+
+int TrackScale::BearingRow(double bearing) const {
+  return Nearest((bearing - BearingMin) * BearingScale + BearingOrigin);
+}
+
+std::vector<TrackStroke> TrackPreview::Strokes() const {
+  std::vector<TrackStroke> strokes;
+  for (std::size_t i = 1; i < Trace.size(); ++i) {
+    const TrackPoint& from = Trace[i - 1];
+    const TrackPoint& to = Trace[i];
+    const TrackStroke whole{static_cast<double>(from.Column), static_cast<double>(from.Row),
+                            static_cast<double>(to.Column), static_cast<double>(to.Row)};
+    if (const auto stroke = Cut(whole, -Height, 2.0 * Height)) {
+      strokes.push_back(*stroke);
+    }
+  }
+  return strokes;
+}
+
+std::string TrackPreview::ReadOut(double x, double y) const {
+  if (Trace.empty()) {
+    return {};
+  }
+  const float time = ToSingle(x / Scale.TimeScale + Scale.TimeStart);
+  const float bearing = ToSingle((y - Scale.BearingOrigin) / Scale.BearingScale + Scale.BearingMin);
+  return std::string("time=").append(ShortestText(time)).append(", bearing=").append(ShortestText(bearing));
+}
+
+TrackPreview TrackPreviewDraw(const TrackPreviewTexts& texts, int width, int height, RandomSource& random) {
+  TrackPreview preview;
+  preview.Width = width;
+  preview.Height = height;
+  if (width < 2 || height < 2) {
+    return preview;
+  }
+  Numbers numbers;
+  preview.Trouble = Read(texts, numbers);
+  if (preview.Trouble.empty()) {
+    preview.Trouble = TroubleWith(numbers);
+  }
+  if (!preview.Trouble.empty()) {
+    return preview;
+  }
+  TrackScale scale = ScaleFor(numbers, width, height);
+  if (!std::isfinite(scale.TimeScale)) {
+    preview.Trouble = "Time is too short";
+    return preview;
+  }
+  if (!std::isfinite(scale.BearingScale)) {
+    preview.Trouble = "Minimum and maximum are too close";
+    return preview;
+  }
+  const auto series = TrackResponseSeries(numbers.Inputs, random);
+  if (!series) {
+    preview.Trouble = kTrackResponseDiverges;
+    return preview;
+  }
+
+  preview.Scale = scale;
+  const auto column = [&scale](double time) { return scale.TimeColumn(time); };
+  const auto row = [&scale](double bearing) { return scale.BearingRow(bearing); };
+  preview.Columns = GridLines(scale.TimeStart, scale.TimeEnd, kGridTime, kGridTime * scale.TimeScale, column);
+  preview.Rows =
+      GridLines(scale.BearingMin, scale.BearingMax, kGridBearing, kGridBearing * scale.BearingScale, row);
+  for (TrackReference& reference : preview.References) {
+    reference.Row = scale.BearingRow(reference.Bearing);
+  }
+  TraceGatherer trace(preview.Trace);
+  trace.Add({0, scale.BearingRow(numbers.Inputs.Offset)});
+  for (std::size_t second = 0; second < series->size(); ++second) {
+    trace.Add({scale.TimeColumn(static_cast<double>(second)), scale.BearingRow((*series)[second])});
+  }
+  trace.Finish();
+  return preview;
+}
+
+}  // namespace veerwatch

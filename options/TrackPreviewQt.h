@@ -1,0 +1,46 @@
+// The plot `pctTrack` of the loop's response on the Tracking tab. The options dialog says when it is drawn
+// and with what; under the mouse it tells time and bearing.
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+#include <functional>
+
+#include "options/TrackPreview.h"
+
+namespace veerwatch {
+
+class TrackPreviewQt final : public QWidget {
+ public:
+  /// `random` gives the noise and outlives the plot.
+  TrackPreviewQt(RandomSource& random, QWidget* parent);
+
+  /// Computes and draws the plot for its present size. A plot unit is a pixel of the screen. What is exposed
+  /// later shows the same picture.
+  void Draw(const TrackPreviewTexts& texts);
+  /// Called when the plot has another size or stands on a screen of another scale, so that it is drawn again.
+  void Resized(std::function<void()> handler) { m_resized = std::move(handler); }
+
+  /// What is drawn now.
+  const TrackPreview& Picture() const { return m_picture; }
+
+  QSize sizeHint() const override { return {480, 240}; }
+  QSize minimumSizeHint() const override { return {160, 80}; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+
+ private:
+  void Render();
+
+  RandomSource& m_random;
+  std::function<void()> m_resized;
+  TrackPreview m_picture;
+  QPixmap m_pixmap;
+  qreal m_ratio = 1.0;  ///< of the picture, pixels of the screen per unit of the widget
+};
+
+}  // namespace veerwatch

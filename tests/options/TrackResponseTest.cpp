@@ -1,0 +1,87 @@
+#include "options/TrackResponse.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "tests/support/FixedRandom.h"
+
+namespace veerwatch {
+namespace {
+
+using testing::DoubleNear;
+using testing::Pointwise;
+
+TEST(TrackResponse, TakesTheAccumulatorOfBeforeThePass) {
+  FixedRandom still;
+  const auto bearings = TrackResponseSeries({40.0, 1.0, 10.0, 0.0, 5.0}, still);
+  ASSERT_TRUE(bearings);
+  EXPECT_THAT(*bearings, Pointwise(testing::DoubleNear(1e-12),
+                                   {9.2, 8.448, 7.74144, 7.077888, 6.455033856, 5.87068342272}));
+}
+
+TEST(TrackResponse, AddsNoiseToEitherSideOfTheError) {
+  FixedRandom random({0.75, 0.0});
+  const auto bearings = TrackResponseSeries({20.0, 0.5, -8.0, 1.0, 4.9}, random);
+  ASSERT_TRUE(bearings);
+  EXPECT_THAT(*bearings, Pointwise(testing::DoubleNear(1e-12), {-7.15, -6.45, -5.6085, -4.93165, -4.1264}));
+  EXPECT_EQ(random.Draws, 5U);
+}
+
+TEST(TrackResponse, IsNotReducedToATurn) {
+  FixedRandom still;
+  const auto bearings = TrackResponseSeries({40.0, 1.0, 1000.0, 0.0, 1.0}, still);
+  ASSERT_TRUE(bearings);
+  EXPECT_NEAR(bearings->front(), 920.0, 1e-9);
+}
+
+TEST(TrackResponse, GivesNothingWhereItLeavesTheFiniteRange) {
+  FixedRandom still;
+  EXPECT_FALSE(TrackResponseSeries({0.001, 1.0, 10.0, 0.0, 120.0}, still));
+  EXPECT_FALSE(TrackResponseSeries({0.0, 1.0, 10.0, 0.0, 120.0}, still));
+  EXPECT_FALSE(TrackResponseSeries({40.0, 1.0, 10.0, 0.0, 1e9}, still));
+}
+
+TEST(TrackResponse, LongestRunIsComputed) {
+  FixedRandom still;
+  const auto bearings = TrackResponseSeries({40.0, 1.0, 10.0, 0.0, kMostTrackTime}, still);
+  ASSERT_TRUE(bearings);
+  EXPECT_EQ(bearings->size(), 1000001U);
+}
+
+TEST(TrackFigures, OvershootLiesBeyondZeroFromTheOffset) {
+  EXPECT_EQ(TrackFiguresOf(10.0, {5.0, -2.0, 1.0, 12.0}).Overshoot, 2.0);
+  EXPECT_EQ(TrackFiguresOf(10.0, {5.0, 2.0, 0.5}).Overshoot, 0.0);
+  EXPECT_EQ(TrackFiguresOf(-10.0, {-12.0, 3.0, -1.0}).Overshoot, 3.0);
+  EXPECT_EQ(TrackFiguresOf(-10.0, {-5.0, -1.0}).Overshoot, 0.0);
+}
+
+TEST(TrackFigures, OvershootWithoutAnOffsetIsTheLargestToEitherSide) {
+  EXPECT_EQ(TrackFiguresOf(0.0, {1.0, -2.0}).Overshoot, 2.0);
+  EXPECT_EQ(TrackFiguresOf(0.0, {3.0, -2.0}).Overshoot, 3.0);
+  EXPECT_EQ(TrackFiguresOf(0.0, {0.0, 0.0}).Overshoot, 0.0);
+}
+
+TEST(TrackFigures, SettlesAtTheSecondFromWhichItStaysWithinOneDegree) {
+  EXPECT_EQ(TrackFiguresOf(5.0, {4.0, 0.5, -1.5, -1.0, 1.0, 0.0}).SettlingTime, 3U);
+  EXPECT_EQ(TrackFiguresOf(5.0, {0.5, 0.5}).SettlingTime, 0U);
+  EXPECT_EQ(TrackFiguresOf(5.0, {0.5, 0.5, 1.01}).SettlingTime, std::nullopt);
+}
+
+TEST(TrackFigures, SteadyStateIsTheRunFromHalfOfItsLastSecondOn) {
+  EXPECT_DOUBLE_EQ(TrackFiguresOf(9.0, {9.0, 9.0, 3.0, -4.0, 0.0}).SteadyRootMeanSquare,
+                   std::sqrt(25.0 / 3.0));
+  EXPECT_DOUBLE_EQ(TrackFiguresOf(9.0, {9.0, 9.0, 3.0, 3.0}).SteadyRootMeanSquare, 3.0);
+  EXPECT_EQ(TrackFiguresOf(9.0, {-7.0}).SteadyRootMeanSquare, 7.0);
+  EXPECT_EQ(TrackFiguresOf(9.0, {9.0, 0.0}).SteadyRootMeanSquare, 0.0);
+}
+
+TEST(TrackFigures, StayFiniteForTheLargestBearings) {
+  const double most = std::numeric_limits<double>::max();
+  EXPECT_DOUBLE_EQ(TrackFiguresOf(1.0, {most, -most, most, -most}).SteadyRootMeanSquare, most);
+}
+
+}  // namespace
+}  // namespace veerwatch
