@@ -135,7 +135,8 @@ void InstrumentPanelQt::Enable(const TrackControls& controls, TrackMode mode, Tr
 }
 
 void InstrumentPanelQt::ShowAlarm(TrackSide side) {
-  lblDelta[static_cast<std::size_t>(side) - 1]->BackColour(kAlarmColour);
+  lblDelta[static_cast<std::size_t>(side) - 1]->BackColour(
+      ShadeFor(palette().color(QPalette::Window), kAlarmColour));
 }
 
 void InstrumentPanelQt::HideAlarm() {

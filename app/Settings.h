@@ -58,6 +58,8 @@ struct Settings {
   /// Desired wind angles [deg relative, (-180, 180]]: index 1 apparent, 2 true; index 0 is not used.
   std::array<float, 3> DesiredAngle{0.0F, 45.0F, 92.0F};
 
+  bool m_bNightColours = false;  ///< red on black in every window
+
   /// Path of the profile file.
   std::string m_sProfileFile;
 };

@@ -18,6 +18,7 @@ constexpr std::int16_t kFirstPort = 1;
 void SettingsDefault(Settings& settings) {
   Settings defaults;
   defaults.m_eTrackMode = settings.m_eTrackMode;
+  defaults.m_bNightColours = settings.m_bNightColours;
   defaults.m_sProfileFile = std::move(settings.m_sProfileFile);
   settings = std::move(defaults);
 }
@@ -64,6 +65,8 @@ void ProfileRead(const Profile& profile, Settings& settings, RememberedWindows& 
   angle("Track", "Desired 2", settings.DesiredAngle[2], FoldRelative);
   profile.ProfileGet("Track", "Max SteerTo", settings.m_fTrackMaxSteerTo);
 
+  profile.ProfileGet("View", "Night Colours", settings.m_bNightColours);
+
   bool visible = false;
   profile.ProfileGet("History Window", "Visible", visible);
   if (visible) {
@@ -109,6 +112,7 @@ void ProfileWrite(Profile& profile, const Settings& settings, const RememberedWi
   profile.ProfileSet("Track", "Desired 1", settings.DesiredAngle[1]);
   profile.ProfileSet("Track", "Desired 2", settings.DesiredAngle[2]);
   profile.ProfileSet("Track", "Max SteerTo", settings.m_fTrackMaxSteerTo);
+  profile.ProfileSet("View", "Night Colours", settings.m_bNightColours);
   profile.ProfileSet("History Window", "Visible", windows.HistoryVisible());
   profile.ProfileSet("Polar Window", "Visible", windows.PolarVisible());
 }

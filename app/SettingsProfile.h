@@ -17,8 +17,8 @@ class RememberedWindows {
   virtual bool PolarVisible() const { return false; }
 };
 
-/// Sets every setting that the profile may hold, and the simulated time, to its default. The mode and the
-/// path of the profile stay.
+/// Sets every setting that the profile may hold, and the simulated time, to its default. The mode, the path
+/// of the profile and the night colours stay: nobody at night wants a white screen for a default.
 void SettingsDefault(Settings& settings);
 
 /// Overlays what the profile holds. Angles are folded; a text that is no number under a numeric key, a number

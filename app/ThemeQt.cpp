@@ -1,20 +1,20 @@
 #include "app/ThemeQt.h"
 
+#include <QApplication>
+#include <QToolTip>
+
 namespace veerwatch {
 
-namespace {
-
-constexpr int kMiddleLightness = 128;
-
-}  // namespace
-
-QColor Mixed(const QColor& under, const QColor& over, qreal share) {
-  const auto part = [share](int a, int b) { return qRound(a + (b - a) * share); };
-  return {part(under.red(), over.red()), part(under.green(), over.green()), part(under.blue(), over.blue())};
+void WearNightColours(bool night) {
+  // Tool tips have a palette of their own, without which they would light up the cabin.
+  static const QPalette desktopTips = QToolTip::palette();
+  QApplication::setPalette(night ? NightPalette() : QPalette());
+  QToolTip::setPalette(night ? NightPalette() : desktopTips);
 }
 
 ThemeQt::ThemeQt(const QPalette& palette)
-    : Dark(palette.color(QPalette::Active, QPalette::Window).lightness() < kMiddleLightness),
+    : Dark(IsDark(palette.color(QPalette::Active, QPalette::Window))),
+      Night(IsNight(palette.color(QPalette::Active, QPalette::Window))),
       Window(palette.color(QPalette::Active, QPalette::Window)),
       Text(palette.color(QPalette::Active, QPalette::WindowText)) {
   const QColor white(Qt::white);
@@ -27,9 +27,18 @@ ThemeQt::ThemeQt(const QPalette& palette)
   Accent = Dark ? QColor(0x5a, 0xb4, 0xe6) : QColor(0x0b, 0x5f, 0x9e);
   Port = {Dark ? QColor(0xa8, 0x32, 0x2b) : QColor(0xb9, 0x2b, 0x24), white};
   Starboard = {Dark ? QColor(0x1d, 0x74, 0x3f) : QColor(0x17, 0x74, 0x3c), white};
+  if (Night) {
+    // Both sides are red now: port is the darker one, and the arrows tell.
+    Accent = QColor(0xff, 0x5a, 0x30);
+    Port = {QColor(0x78, 0x0c, 0x06), QColor(0xff, 0x9a, 0x78)};
+    Starboard = {QColor(0xd8, 0x4a, 0x1c), QColor(Qt::black)};
+  }
 }
 
 ThemeQt::Pair ThemeQt::Mode(TrackMode mode) const {
+  if (Night) {
+    return {QColor(0xf0, 0x40, 0x1c), Qt::black};
+  }
   switch (mode) {
     case TrackMode::Setup:
       return {Dark ? QColor(0x36, 0x71, 0xae) : QColor(0x2a, 0x68, 0xa8), Qt::white};

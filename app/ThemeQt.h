@@ -1,10 +1,11 @@
-// The colours of the main window, derived from the desktop's palette, light or dark.
+// The colours of the main window, derived from the palette that it wears: light, dark or the night's.
 #pragma once
 
 #include <QColor>
 #include <QPalette>
 
 #include "control/TrackMode.h"
+#include "platform/ColoursQt.h"
 
 namespace veerwatch {
 
@@ -18,6 +19,7 @@ struct ThemeQt {
   explicit ThemeQt(const QPalette& palette);
 
   bool Dark;
+  bool Night;
   QColor Window;
   QColor Card;
   QColor Edge;   ///< line around a card
@@ -33,7 +35,7 @@ struct ThemeQt {
   Pair Mode(TrackMode mode) const;
 };
 
-/// `share` [0, 1] of `over` on `under`.
-QColor Mixed(const QColor& under, const QColor& over, qreal share);
+/// Dresses every window of the program in the night palette, or again in that of the desktop.
+void WearNightColours(bool night);
 
 }  // namespace veerwatch

@@ -75,6 +75,8 @@ frmMain::frmMain(const MainWindowParts& parts)
 void frmMain::MakeStatusBar() {
   auto* bar = new QStatusBar(this);
   bar->setObjectName(QStringLiteral("StatusBar"));
+  // The frame is grip enough; the bar's own keeps its colours at night.
+  bar->setSizeGripEnabled(false);
   const std::array<const char*, 3> toolTips{"Pilot Status", "Input Data Status", "Output Data Status"};
   for (std::size_t i = 0; i < m_status.size(); ++i) {
     auto* panel = new CaptionQt(QStringLiteral("StatusBar(%1)").arg(i + 1), QString(), bar);
@@ -92,6 +94,10 @@ void frmMain::MakeStatusBar() {
 void frmMain::ConnectControls() {
   connect(m_menu.mnuFileDefault, &QAction::triggered, this, [this] { ProfileRecall(false); });
   connect(m_menu.mnuFileExit, &QAction::triggered, this, &QWidget::close);
+  connect(m_menu.mnuViewNight, &QAction::toggled, this, [this](bool checked) {
+    m_bNightColours = checked;
+    WearNightColours(checked);
+  });
   for (const TrackMode mode : {TrackMode::Off, TrackMode::Setup, TrackMode::Manual, TrackMode::Track}) {
     connect(m_tbrTrack->Button(mode), &QAction::triggered, this,
             [this, mode] { tbrTrack_ButtonClick(mode); });
@@ -140,6 +146,7 @@ void frmMain::ProfileRecall(bool recall) {
     }
     ProfileRead(m_parts.Store, *this, m_others);
   }
+  m_menu.mnuViewNight->setChecked(m_bNightColours);
   m_panel->txtAutoPilot->Show(Number(m_fAutoPilot, "0.0"));
   for (int index = 1; index <= 2; ++index) {
     m_panel->txtDesired[At(index)]->Show(Number(DesiredAngle[static_cast<std::size_t>(index)], "0"));

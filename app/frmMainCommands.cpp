@@ -60,6 +60,10 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   mnuViewHistory->setCheckable(true);
   mnuViewPolar = Command(window, view, "mnuViewPolar", "&Polar Plot...", true);
   mnuViewPolar->setCheckable(true);
+  view->addSeparator();
+  mnuViewNight = Command(window, view, "mnuViewNight", "&Night Colours", true);
+  mnuViewNight->setCheckable(true);
+  mnuViewNight->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
   QMenu* options = window.menuBar()->addMenu(QStringLiteral("&Options"));
   mnuOptionsInput = Command(window, options, "mnuOptionsInput", "&Input...", false);
   mnuOptionsData = Command(window, options, "mnuOptionsData", "&Data...", false);

@@ -18,6 +18,7 @@ struct frmMainMenu {
   QAction* mnuViewDiagram;
   QAction* mnuViewHistory;
   QAction* mnuViewPolar;
+  QAction* mnuViewNight;
   QAction* mnuOptionsInput;
   QAction* mnuOptionsData;
   QAction* mnuOptionsOutput;

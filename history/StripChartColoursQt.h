@@ -1,4 +1,5 @@
-// The colours of a strip chart, derived from the colour that it stands on, light or dark.
+// The colours of a strip chart, derived from the colour that it stands on, light, dark or the
+// night's.
 #pragma once
 
 #include <QColor>
@@ -16,6 +17,7 @@ struct StripChartColoursQt {
   QColor Trace(std::size_t number, const std::optional<std::uint32_t>& chosen) const;
 
   bool Dark;
+  bool Night;
   QColor Back;
   QColor Text;
   QColor Caption;  ///< text that accompanies

@@ -1,20 +1,11 @@
 #include "polar/PolarPaletteQt.h"
 
+#include "platform/ColoursQt.h"
+
 namespace veerwatch {
 
-namespace {
-
-constexpr int kMiddleLightness = 128;
-
-QColor Mixed(const QColor& under, const QColor& over, qreal share) {
-  const auto part = [share](int a, int b) { return qRound(a + (b - a) * share); };
-  return {part(under.red(), over.red()), part(under.green(), over.green()), part(under.blue(), over.blue())};
-}
-
-}  // namespace
-
 PolarPaletteQt::PolarPaletteQt(const QPalette& palette)
-    : Dark(palette.color(QPalette::Active, QPalette::Window).lightness() < kMiddleLightness),
+    : Dark(IsDark(palette.color(QPalette::Active, QPalette::Window))),
       Surface(palette.color(QPalette::Active, QPalette::Window)),
       Foreground(palette.color(QPalette::Active, QPalette::WindowText)) {
   Disc = Dark ? Mixed(Surface, QColor(Qt::black), 0.3)
@@ -26,6 +17,9 @@ PolarPaletteQt::PolarPaletteQt(const QPalette& palette)
   Wind = Dark ? QColor(0x4f, 0xc3, 0xf7) : QColor(0x02, 0x6a, 0xb8);
   Boat = Dark ? QColor(0xff, 0xb7, 0x2e) : QColor(0xcf, 0x3a, 0x05);
   MousePlate = Dark ? QColor(0xd4, 0xd8, 0xdc) : QColor(0xff, 0xfb, 0xe6);
+  for (QColor* colour : {&Reference, &Wind, &Boat, &MousePlate}) {
+    *colour = ShadeFor(Surface, *colour);
+  }
 }
 
 QColor PolarPaletteQt::Curve(std::uint32_t speedColor) const {
@@ -33,8 +27,9 @@ QColor PolarPaletteQt::Curve(std::uint32_t speedColor) const {
     return Foreground;
   }
   constexpr std::uint32_t kByte = 0xFFU;
-  return {static_cast<int>(speedColor & kByte), static_cast<int>((speedColor >> 8U) & kByte),
-          static_cast<int>((speedColor >> 16U) & kByte)};
+  const QColor chosen(static_cast<int>(speedColor & kByte), static_cast<int>((speedColor >> 8U) & kByte),
+                      static_cast<int>((speedColor >> 16U) & kByte));
+  return ShadeFor(Surface, chosen);
 }
 
 }  // namespace veerwatch

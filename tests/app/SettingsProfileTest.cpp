@@ -107,6 +107,23 @@ TEST(SettingsDefault, SetsEveryDefault) {
   EXPECT_EQ(settings.DesiredAngle[2], 92.0F);
 }
 
+TEST(SettingsProfile, TheNightColoursAreKept) {
+  EXPECT_TRUE(ReadFrom(With("View", "Night Colours", "True")).m_bNightColours);
+  EXPECT_FALSE(ReadFrom(Profile()).m_bNightColours);
+  Settings settings;
+  settings.m_bNightColours = true;
+  Profile profile;
+  ProfileWrite(profile, settings, Windows{});
+  EXPECT_EQ(profile.Text("View", "Night Colours"), "True");
+}
+
+TEST(SettingsDefault, LeavesTheNightColours) {
+  Settings settings;
+  settings.m_bNightColours = true;
+  SettingsDefault(settings);
+  EXPECT_TRUE(settings.m_bNightColours);
+}
+
 TEST(SettingsDefault, LeavesTheModeAndThePathOfTheProfile) {
   Settings settings;
   settings.m_eTrackMode = TrackMode::Manual;

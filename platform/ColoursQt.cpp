@@ -1,0 +1,59 @@
+#include "platform/ColoursQt.h"
+
+#include <algorithm>
+
+namespace veerwatch {
+
+namespace {
+
+constexpr int kMiddleLightness = 128;
+constexpr QColor kNightWindow(0x0c, 0x00, 0x00);
+constexpr QColor kNightText(0xff, 0x46, 0x28);
+
+}  // namespace
+
+QColor Mixed(const QColor& under, const QColor& over, qreal share) {
+  const auto part = [share](int a, int b) { return qRound(a + (b - a) * share); };
+  return {part(under.red(), over.red()), part(under.green(), over.green()), part(under.blue(), over.blue())};
+}
+
+bool IsDark(const QColor& window) { return window.lightness() < kMiddleLightness; }
+
+bool IsNight(const QColor& window) { return window.rgb() == kNightWindow.rgb(); }
+
+QPalette NightPalette() {
+  const QColor black(Qt::black);
+  const QColor raised = Mixed(kNightWindow, kNightText, 0.14);
+  const QColor dimmed = Mixed(kNightWindow, kNightText, 0.58);
+  QPalette palette(raised, kNightWindow);
+  for (const QPalette::ColorRole role :
+       {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::BrightText,
+        QPalette::ToolTipText, QPalette::Link, QPalette::LinkVisited}) {
+    palette.setColor(role, kNightText);
+    palette.setColor(QPalette::Disabled, role, dimmed);
+  }
+  palette.setColor(QPalette::PlaceholderText, dimmed);
+  palette.setColor(QPalette::Base, black);
+  palette.setColor(QPalette::AlternateBase, kNightWindow);
+  palette.setColor(QPalette::ToolTipBase, raised);
+  palette.setColor(QPalette::Highlight, Mixed(kNightWindow, kNightText, 0.45));
+  palette.setColor(QPalette::HighlightedText, QColor(0xff, 0xa0, 0x80));
+  palette.setColor(QPalette::Light, Mixed(kNightWindow, kNightText, 0.3));
+  palette.setColor(QPalette::Midlight, Mixed(kNightWindow, kNightText, 0.22));
+  palette.setColor(QPalette::Mid, Mixed(kNightWindow, kNightText, 0.18));
+  palette.setColor(QPalette::Dark, Mixed(kNightWindow, kNightText, 0.08));
+  palette.setColor(QPalette::Shadow, black);
+  return palette;
+}
+
+QColor NightShade(const QColor& colour) {
+  constexpr float kMostGreen = 0.3F;
+  const float brightness = 0.299F * colour.redF() + 0.587F * colour.greenF() + 0.114F * colour.blueF();
+  const float most = std::max({colour.redF(), colour.greenF(), colour.blueF()});
+  // Bright colours stay apart from middling ones, black stays black.
+  const float red = std::min(1.0F, 1.35F * brightness);
+  const float green = most > 0.0F ? red * kMostGreen * colour.greenF() / most : 0.0F;
+  return QColor::fromRgbF(red, green, 0.0F, colour.alphaF());
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,110 @@
+// Red on black over every window, judged by the pixels. Each grab is kept as a picture in the folder that the
+// tests run in.
+
+#include <QAction>
+#include <QApplication>
+#include <QImage>
+#include <QToolTip>
+
+#include "tests/ui/MainWindowTester.h"
+
+namespace veerwatch {
+namespace {
+
+class NightColours : public MainWindowTester {
+ public:
+  ~NightColours() override { WearNightColours(false); }
+
+  static QImage Grab(QWidget& window, const char* name) {
+    QTest::qWait(0);
+    const QImage image = window.grab().toImage();
+    image.save(QStringLiteral("veerwatch-night-%1.png").arg(QLatin1String(name)));
+    return image;
+  }
+
+  static QWidget* Other(const char* name) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->objectName() == QLatin1String(name)) {
+        return window;
+      }
+    }
+    return nullptr;
+  }
+
+  QAction& Command() { return Find<QAction>("mnuViewNight"); }
+};
+
+/// How many pixels of a picture would hurt eyes that are used to the dark: bluish, or greener than an orange.
+int Hurting(const QImage& image) {
+  int count = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      const QRgb pixel = image.pixel(x, y);
+      if (qBlue(pixel) > 130 || qBlue(pixel) > qRed(pixel) || 10 * qGreen(pixel) > 7 * qRed(pixel) + 60) {
+        ++count;
+      }
+    }
+  }
+  return count;
+}
+
+double MeanBrightness(const QImage& image) {
+  double sum = 0.0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      sum += qGray(image.pixel(x, y));
+    }
+  }
+  return sum / (static_cast<double>(image.width()) * image.height());
+}
+
+TEST_F(NightColours, EveryWindowIsRedOnBlack) {
+  Start(std::string(kSimulated) + "[Polar Window]\nVisible=True\n[History Window]\nVisible=True\n");
+  Window->resize(1160, 760);
+  for (int i = 0; i < 30; ++i) {
+    tmrNmea.Tick();
+  }
+  Command().trigger();
+  ASSERT_TRUE(Command().isChecked());
+  EXPECT_TRUE(Window->m_bNightColours);
+  for (const char* name : {"frmMain", "frmPolar", "frmHistory"}) {
+    QWidget* window = Other(name);
+    ASSERT_NE(window, nullptr) << name;
+    const QImage image = Grab(*window, name);
+    EXPECT_EQ(Hurting(image), 0) << name;
+    EXPECT_LT(MeanBrightness(image), 30.0) << name;
+  }
+}
+
+TEST_F(NightColours, GoAgain) {
+  Start(kSimulated);
+  const QPalette desktop = QApplication::palette();
+  const QPalette tips = QToolTip::palette();
+  Command().trigger();
+  EXPECT_NE(QApplication::palette().color(QPalette::Window), desktop.color(QPalette::Window));
+  EXPECT_NE(QToolTip::palette().color(QPalette::ToolTipBase), tips.color(QPalette::ToolTipBase));
+  Command().trigger();
+  EXPECT_EQ(QApplication::palette().color(QPalette::Window), desktop.color(QPalette::Window));
+  EXPECT_EQ(QToolTip::palette().color(QPalette::ToolTipBase), tips.color(QPalette::ToolTipBase));
+  EXPECT_FALSE(Window->m_bNightColours);
+}
+
+TEST_F(NightColours, ComeBackWithTheProfileAndStayWithTheDefaults) {
+  Start(std::string(kSimulated) + "[View]\nNight Colours=True\n");
+  EXPECT_TRUE(Command().isChecked());
+  EXPECT_TRUE(IsNight(Window->palette().color(QPalette::Window)));
+  Window->ProfileRecall(false);
+  EXPECT_TRUE(Command().isChecked());
+  EXPECT_TRUE(IsNight(Window->palette().color(QPalette::Window)));
+}
+
+TEST(NightShade, KeepsBlackBlackAndTakesTheBlueOut) {
+  EXPECT_EQ(NightShade(Qt::black), QColor(Qt::black));
+  EXPECT_EQ(NightShade(Qt::white).blue(), 0);
+  EXPECT_EQ(NightShade(Qt::white).red(), 255);
+  EXPECT_GT(NightShade(QColor(0x5a, 0xb8, 0xee)).red(), NightShade(QColor(0x10, 0x30, 0x60)).red());
+  EXPECT_EQ(NightShade(QColor(255, 255, 255, 100)).alpha(), 100);
+}
+
+}  // namespace
+}  // namespace veerwatch
