@@ -1,8 +1,12 @@
-// The program with a remote control on its standard input, for tests that need somebody at the buttons.
-// Ports, timers and profile are the program's own. One command a line, one answer a line:
+// The program with a remote control on its standard input, for tests that need somebody at the buttons and
+// for the pictures of the manual. Names are looked for in all windows. Ports, timers and profile are the
+// program's own. One command a line, one answer a line:
 //   click NAME   triggers an action or clicks a button               "clicked NAME"
 //   text NAME    asks for the text of a label or an entry box        "text NAME=TEXT"
 //   watch NAME   asks for every text that a label shows from now on  "shows NAME=TEXT", the present one first
+//   type NAME TEXT    puts a text into an entry box and takes it    "typed NAME"
+//   size NAME W H     gives a window that size [px]                 "sized NAME"
+//   grab NAME FILE    keeps a picture of a window, PNG              "grabbed NAME"
 //   quit         closes the main window, as the end of the input does
 // "ready" is said once in the beginning; "no NAME" when there is none of that name or it is disabled.
 
@@ -10,6 +14,7 @@
 
 #include <QAbstractButton>
 #include <QAction>
+#include <QApplication>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -67,14 +72,59 @@ class Remote final : public QObject {
     }
   }
 
+  /// What has that name, in whichever window; null without.
+  template <class Type>
+  static Type* Find(const QString& name) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (auto* found = window->findChild<Type*>(name)) {
+        return found;
+      }
+    }
+    return nullptr;
+  }
+
+  static QWidget* Window(const QString& name) {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (window->objectName() == name && window->isVisible()) {
+        return window;
+      }
+    }
+    return nullptr;
+  }
+
+  /// The verbs with more than a name; false for others, and where nothing has that name.
+  static bool ObeyWith(const QString& verb, const QString& name, const QString& rest) {
+    QWidget* window = Window(name);
+    auto* box = Find<QLineEdit>(name);
+    if (verb == QLatin1String("type") && box != nullptr) {
+      box->setFocus();
+      box->selectAll();
+      box->insert(rest);
+      emit box->returnPressed();
+      Say(QStringLiteral("typed ") + name);
+    } else if (verb == QLatin1String("size") && window != nullptr) {
+      window->resize(rest.section(QLatin1Char(' '), 0, 0).toInt(), rest.section(QLatin1Char(' '), 1).toInt());
+      Say(QStringLiteral("sized ") + name);
+    } else if (verb == QLatin1String("grab") && window != nullptr && window->grab().save(rest)) {
+      Say(QStringLiteral("grabbed ") + name);
+    } else {
+      return false;
+    }
+    return true;
+  }
+
   void Obey(const QString& verb, const QString& name) {
     if (verb == QLatin1String("quit")) {
       m_window.close();
       return;
     }
+    const QString first = name.section(QLatin1Char(' '), 0, 0);
+    if (ObeyWith(verb, first, name.section(QLatin1Char(' '), 1))) {
+      return;
+    }
     if (verb == QLatin1String("click")) {
-      auto* action = m_window.findChild<QAction*>(name);
-      auto* button = m_window.findChild<QAbstractButton*>(name);
+      auto* action = Find<QAction>(name);
+      auto* button = Find<QAbstractButton>(name);
       if (action != nullptr && action->isEnabled()) {
         action->trigger();
       } else if (button != nullptr && button->isEnabled()) {
@@ -86,8 +136,8 @@ class Remote final : public QObject {
       Say(QStringLiteral("clicked ") + name);
       return;
     }
-    auto* label = m_window.findChild<QLabel*>(name);
-    const auto* box = m_window.findChild<QLineEdit*>(name);
+    auto* label = Find<QLabel>(name);
+    const auto* box = Find<QLineEdit>(name);
     if (verb == QLatin1String("watch") && label != nullptr) {
       label->installEventFilter(this);
       SayWhenNew(*label);
