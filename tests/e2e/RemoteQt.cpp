@@ -1,13 +1,13 @@
 // The program with a remote control on its standard input, for tests that need somebody at the buttons and
-// for the pictures of the manual. Names are looked for in all windows. Ports, timers and profile are the
-// program's own. One command a line, one answer a line:
-//   click NAME   triggers an action or clicks a button               "clicked NAME"
-//   text NAME    asks for the text of a label or an entry box        "text NAME=TEXT"
-//   watch NAME   asks for every text that a label shows from now on  "shows NAME=TEXT", the present one first
-//   type NAME TEXT    puts a text into an entry box and takes it    "typed NAME"
-//   size NAME W H     gives a window that size [px]                 "sized NAME"
-//   grab NAME FILE    keeps a picture of a window, PNG              "grabbed NAME"
-//   quit         closes the main window, as the end of the input does
+// for the pictures of the manual. A NAME is looked for in all windows, WINDOW/NAME in that one. Ports, timers
+// and profile are the program's own. One command a line, one answer a line:
+//   click NAME      triggers an action or clicks a button          "clicked NAME"
+//   text NAME       asks for the text of a label or an entry box   "text NAME=TEXT"
+//   watch NAME      asks for every text that a label shows, the present one first  "shows NAME=TEXT"
+//   type NAME TEXT  puts a text into an entry box and takes it     "typed NAME"
+//   size NAME W H   gives a window that size [px]                  "sized NAME"
+//   grab NAME FILE  keeps a picture of a window, PNG               "grabbed NAME"
+//   quit            closes the main window, as the end of the input does
 // "ready" is said once in the beginning; "no NAME" when there is none of that name or it is disabled.
 
 #include <unistd.h>
@@ -72,11 +72,13 @@ class Remote final : public QObject {
     }
   }
 
-  /// What has that name, in whichever window; null without.
+  /// What has that name, in the window that is named too or in whichever; null without.
   template <class Type>
   static Type* Find(const QString& name) {
+    const QString inside = name.contains(QLatin1Char('/')) ? name.section(QLatin1Char('/'), 0, 0) : QString();
     for (QWidget* window : QApplication::topLevelWidgets()) {
-      if (auto* found = window->findChild<Type*>(name)) {
+      auto* found = window->findChild<Type*>(name.section(QLatin1Char('/'), -1));
+      if (found != nullptr && (inside.isEmpty() || window->objectName() == inside)) {
         return found;
       }
     }
