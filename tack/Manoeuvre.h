@@ -1,5 +1,5 @@
-// A timed turn of the autopilot to a new heading: which kind of turn it is, where it ends, and where the pilot
-// stands after every second of it. The manoeuvre dialog drives it; it knows no window and no clock.
+// A timed turn of the autopilot to a new heading: which kind of turn it is, where it ends, and where the
+// pilot stands after every second of it. The manoeuvre dialog drives it; it knows no window and no clock.
 #pragma once
 
 namespace veerwatch {

@@ -22,8 +22,9 @@ TEST(TackSettings, AreWrittenRateBeforeOvershoot) {
   settings.Rate[3] = 2.5F;
   settings.Overshoot[1] = -1.25F;
   TackStore(profile, settings);
-  EXPECT_EQ(profile.Content(),
-            "[Tack Data]\nRate 1=5\nOvershoot 1=-1.25\nRate 2=10\nOvershoot 2=5\nRate 3=2.5\nOvershoot 3=0\n");
+  EXPECT_EQ(
+      profile.Content(),
+      "[Tack Data]\nRate 1=5\nOvershoot 1=-1.25\nRate 2=10\nOvershoot 2=5\nRate 3=2.5\nOvershoot 3=0\n");
 }
 
 TEST(TackSettings, ComeBackAsTheyWereWritten) {
