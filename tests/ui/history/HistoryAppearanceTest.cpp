@@ -3,19 +3,11 @@
 
 #include <QImage>
 
+#include "tests/ui/DarkPalette.h"
 #include "tests/ui/history/HistoryTester.h"
 
 namespace veerwatch {
 namespace {
-
-QPalette DarkPalette() {
-  QPalette palette(QColor(0x2A, 0x2D, 0x31), QColor(0x1B, 0x1E, 0x22));
-  palette.setColor(QPalette::Base, QColor(0x12, 0x14, 0x17));
-  palette.setColor(QPalette::WindowText, QColor(0xE6, 0xEA, 0xEE));
-  palette.setColor(QPalette::Text, QColor(0xE6, 0xEA, 0xEE));
-  palette.setColor(QPalette::ButtonText, QColor(0xE6, 0xEA, 0xEE));
-  return palette;
-}
 
 class HistoryAppearance : public HistoryTester, public testing::WithParamInterface<const char*> {
  public:
