@@ -22,6 +22,9 @@ class MainWindowApi : public Settings {
   /// Moves the held wind angle and the autopilot bearing by `change` [deg, positive to starboard]; only in
   /// Track.
   virtual void TrackSteerTo(float change) = 0;
+  /// Sets and shows the autopilot bearing [deg magnetic, any turn] for the manoeuvre that has the pilot. One
+  /// that is not finite changes nothing.
+  virtual void AutoPilotSet(float bearing) = 0;
   virtual void TrackSetOff() = 0;
   virtual void TrackSetSetup() = 0;
   virtual void TrackSetManual() = 0;

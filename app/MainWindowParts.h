@@ -18,6 +18,7 @@ struct MainWindowParts {
   SerialPort& MSCommPilot;  ///< the pilot port
   Timer& tmrNmea;           ///< ticks into frmMain::tmrNmea_Timer()
   Timer& tmrUnload;         ///< ticks into frmMain::tmrUnload_Timer()
+  Timer& TimerTack;         ///< ticks into TimerTack_Timer()
   RandomSource& Random;
   Dialogs& Asks;
   Profile& Store;

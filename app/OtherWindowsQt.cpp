@@ -17,8 +17,9 @@ void BringUp(QWidget& window) {
 
 }  // namespace
 
-OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& menu)
-    : m_parts(parts), m_menu(menu) {
+OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& menu, MainWindowApi& main,
+                               QWidget* window)
+    : m_parts(parts), m_menu(menu), m_main(main), m_window(window) {
   QObject::connect(menu.mnuViewHistory, &QAction::triggered, [this] { HistoryShow(); });
   QObject::connect(menu.mnuViewPolar, &QAction::triggered, [this] { PolarShow(); });
 }
@@ -30,6 +31,9 @@ void OtherWindowsQt::Store() {
   if (m_history) {
     m_history->Unload();
   }
+  if (m_tack) {
+    m_tack->Unload();
+  }
 }
 
 void OtherWindowsQt::Hide() {
@@ -38,6 +42,9 @@ void OtherWindowsQt::Hide() {
   }
   if (m_polar) {
     m_polar->hide();
+  }
+  if (m_tack) {
+    m_tack->hide();
   }
 }
 
@@ -96,6 +103,39 @@ void OtherWindowsQt::OnPolarUpdate(TrackMode mode, const InstrumentData& record)
                          record.WindAngleApparent, record.WindSpeedApparent, record.WindAngleTrue,
                          record.WindSpeedTrue, record.WaypointValid, record.WaypointBearing,
                          record.WaypointRange);
+  }
+}
+
+// The manoeuvre
+
+void OtherWindowsQt::OnManoeuvre(float newHeading, float heading, float windAngleTrue) {
+  if (!m_tack) {
+    m_tack = std::make_unique<frmTack>(TackParts{m_main, m_parts.TimerTack, m_parts.Store}, m_window);
+  }
+  m_tack->TackOpen(newHeading, heading, m_main.m_fAutoPilot, windAngleTrue);
+}
+
+void OtherWindowsQt::TimerTack_Timer() {
+  if (m_tack) {
+    m_tack->TimerTack_Timer();
+  }
+}
+
+void OtherWindowsQt::PilotTaken() {
+  if (m_tack) {
+    m_tack->PilotTaken();
+  }
+}
+
+void OtherWindowsQt::OnTrackMode(TrackMode mode) {
+  if (mode != TrackMode::Manual) {
+    PilotTaken();
+  }
+}
+
+void OtherWindowsQt::OnInputState(std::string_view text) {
+  if (text != "Running" && text != "Simulate") {
+    PilotTaken();
   }
 }
 

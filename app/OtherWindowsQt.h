@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "app/Helm.h"
+#include "app/MainWindowApi.h"
 #include "app/MainWindowParts.h"
 #include "app/SettingsProfile.h"
 #include "app/frmMainCommands.h"
@@ -14,13 +15,15 @@
 #include "platform/SystemClock.h"
 #include "polar/PolarListener.h"
 #include "polar/frmPolar.h"
+#include "tack/frmTack.h"
 
 namespace veerwatch {
 
 class OtherWindowsQt final : public HelmView, public RememberedWindows, private PolarListener {
  public:
-  /// Connects the commands of `menu` that show a window. All of them outlive this.
-  OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& menu);
+  /// Connects the commands of `menu` that show a window. `window` is the main window. All of them outlive
+  /// this.
+  OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& menu, MainWindowApi& main, QWidget* window);
 
   /// Puts what the windows keep into the profile, which the caller commits.
   void Store();
@@ -31,9 +34,16 @@ class OtherWindowsQt final : public HelmView, public RememberedWindows, private 
     History().Chart().SampleAdd(name, text);
   }
 
+  /// Another hand than the manoeuvre's is on the pilot: a running manoeuvre ends, with the pilot as it is.
+  /// Called for a bearing that the user sets; every mode but Manual and an input that falls silent or stops,
+  /// as it does at the close, come here by themselves.
+  void PilotTaken();
+  void TimerTack_Timer();
+
   void HistoryShow() override;
   bool HistoryVisible() const override { return m_history && m_history->isVisible(); }
   void PolarShow() override;
+  void OnManoeuvre(float newHeading, float heading, float windAngleTrue) override;
   bool PolarVisible() const override { return m_polar && m_polar->isVisible(); }
 
   void OnHeading(float heading) override;
@@ -42,6 +52,8 @@ class OtherWindowsQt final : public HelmView, public RememberedWindows, private 
   void OnWindTrue(float angle, float speed) override;
   void OnPilotDelta(float error) override;
   void OnPilotHeading(float bearing) override;
+  void OnTrackMode(TrackMode mode) override;
+  void OnInputState(std::string_view text) override;
   void OnPolarUpdate(TrackMode mode, const InstrumentData& record) override;
 
  private:
@@ -54,9 +66,12 @@ class OtherWindowsQt final : public HelmView, public RememberedWindows, private 
 
   const MainWindowParts& m_parts;
   const frmMainMenu& m_menu;
+  MainWindowApi& m_main;
+  QWidget* m_window;
   SystemClock m_clock;
   std::unique_ptr<frmHistory> m_history;  ///< from the first value on
   std::unique_ptr<frmPolar> m_polar;      ///< null until it is shown for the first time
+  std::unique_ptr<frmTack> m_tack;        ///< the same
 };
 
 }  // namespace veerwatch

@@ -76,14 +76,16 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   SerialPortQt MSCommPilot(profile);
   TimerQt tmrNmea(QStringLiteral("tmrNmea"));
   TimerQt tmrUnload(QStringLiteral("tmrUnload"));
+  TimerQt TimerTack(QStringLiteral("TimerTack"));
   SeededRandom random(std::random_device{}());
   DialogsQt dialogs;
 
-  frmMain window(
-      {MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, random, dialogs, profile, profileFile, PolarFiles()});
+  frmMain window({MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, TimerTack, random, dialogs, profile,
+                  profileFile, PolarFiles()});
   dialogs.Window(&window);
   tmrNmea.Ticks([&window] { window.tmrNmea_Timer(); });
   tmrUnload.Ticks([&window] { window.tmrUnload_Timer(); });
+  TimerTack.Ticks([&window] { window.TimerTack_Timer(); });
   OnTerminationRequest(&window, [&window] { window.CloseUnasked(); });
   QObject::connect(
       &application, &QGuiApplication::commitDataRequest, &window,

@@ -50,7 +50,7 @@ frmMain::frmMain(const MainWindowParts& parts)
       m_menu(*this),
       m_tbrTrack(new frmMainModeBar(*this)),
       m_panel(new InstrumentPanelQt(this)),
-      m_others(m_parts, m_menu),
+      m_others(m_parts, m_menu, *this, this),
       m_helm(*this, parts.MSCommNmea, parts.MSCommPilot, parts.tmrNmea, parts.Random, *this) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(QString::fromLatin1(kApplicationTitle));
@@ -155,6 +155,11 @@ void frmMain::ProfileRecall(bool recall) {
   if (m_bSimulate) {
     TrackSetManual();
   }
+}
+
+void frmMain::AutoPilotSet(float bearing) {
+  m_helm.Loop().SetAutoPilot(static_cast<double>(bearing));
+  OnAutoPilot(m_fAutoPilot);
 }
 
 // The close
@@ -268,9 +273,14 @@ void frmMain::optControl_Click(int index) {
   ShowModeText();
 }
 
-void frmMain::txtAutoPilot_Taken() {
-  m_helm.Loop().SetAutoPilot(static_cast<double>(LeadingNumber(m_panel->txtAutoPilot->text().toStdString())));
+void frmMain::TakeAutoPilot(double bearing) {
+  m_others.PilotTaken();
+  m_helm.Loop().SetAutoPilot(bearing);
   m_panel->txtAutoPilot->Show(Number(m_fAutoPilot, "0.0"));
+}
+
+void frmMain::txtAutoPilot_Taken() {
+  TakeAutoPilot(static_cast<double>(LeadingNumber(m_panel->txtAutoPilot->text().toStdString())));
 }
 
 void frmMain::txtDesired_Taken(int index) {
@@ -285,8 +295,7 @@ void frmMain::cmdAutoPilot_Click(int index) {
     TrackSteerTo(NudgeOf(index));
     return;
   }
-  m_helm.Loop().SetAutoPilot(static_cast<double>(m_fAutoPilot) + static_cast<double>(NudgeOf(index)));
-  m_panel->txtAutoPilot->Show(Number(m_fAutoPilot, "0.0"));
+  TakeAutoPilot(static_cast<double>(m_fAutoPilot) + static_cast<double>(NudgeOf(index)));
 }
 
 void frmMain::cmdDesired_Click(int index) { TrackSteerTo(NudgeOf(index)); }
@@ -373,6 +382,7 @@ void frmMain::OnAlarmOver() {
 }
 
 void frmMain::OnTrackMode(TrackMode mode) {
+  m_others.OnTrackMode(mode);
   if (mode != TrackMode::Switching) {
     m_tbrTrack->Button(mode)->setChecked(true);
   }

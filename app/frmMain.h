@@ -31,6 +31,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
 
   void tmrNmea_Timer() { m_helm.Tick(); }
   void tmrUnload_Timer();
+  void TimerTack_Timer() { m_others.TimerTack_Timer(); }
 
   bool NmeaStart() override { return m_helm.Receiver().NmeaStart(); }
   void NmeaStop() override { m_helm.Receiver().NmeaStop(); }
@@ -41,6 +42,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
     m_helm.Boat().SimulateTime(time, timeWaypointBearing, timeWaypointRange);
   }
   void TrackSteerTo(float change) override { m_helm.Loop().TrackSteerTo(change); }
+  void AutoPilotSet(float bearing) override;
   void TrackSetOff() override { m_helm.Modes().TrackSetOff(); }
   void TrackSetSetup() override { m_helm.Modes().TrackSetSetup(); }
   void TrackSetManual() override { m_helm.Modes().TrackSetManual(); }
@@ -48,6 +50,12 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
 
   /// Feeds the history's chart with a text of a number, a blank and the units.
   void HistorySample(std::string_view name, std::string_view text) { m_others.HistorySample(name, text); }
+
+  /// Opens the manoeuvre dialog for a turn to `newHeading` from the present `heading` [deg magnetic] with the
+  /// wind at `windAngle` [deg relative, positive to starboard].
+  void TackOpen(float newHeading, float heading, float windAngle) {
+    m_others.OnManoeuvre(newHeading, heading, windAngle);
+  }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -72,6 +80,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
 
   void tbrTrack_ButtonClick(TrackMode mode);
   void optControl_Click(int index);
+  void TakeAutoPilot(double bearing);
   void txtAutoPilot_Taken();
   void txtDesired_Taken(int index);
   void cmdAutoPilot_Click(int index);
@@ -85,6 +94,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void OnWindTrue(float angle, float speed) override;
   void OnWindIndicator(float direction, float speed) override;
   void OnValuesBlanked() override;
+  void OnInputState(std::string_view text) override { m_others.OnInputState(text); }
   void OnInputStatus(std::string_view text) override;
   void OnOutputStatus(std::string_view text) override;
   void OnDesired(float apparent, float trueWind) override;

@@ -225,9 +225,9 @@ std::optional<double> StrictDouble(std::string_view text) {
   return scanned.Text.empty() || scanned.End != trimmed.size() ? std::nullopt : Convert<double>(scanned);
 }
 
-float LeadingNumber(std::string_view text) {
+float LeadingNumber(std::string_view text, float otherwise) {
   const Scanned scanned = ScanNumber(Trim(text), Exponent::Ignored);
-  return scanned.Text.empty() ? 0.0F : ToFloat(scanned).value_or(0.0F);
+  return scanned.Text.empty() ? otherwise : ToFloat(scanned).value_or(otherwise);
 }
 
 }  // namespace veerwatch

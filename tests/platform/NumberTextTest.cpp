@@ -322,6 +322,15 @@ TEST(LeadingNumber, IsZeroForATextThatBeginsWithNone) {
   }
 }
 
+TEST(LeadingNumber, IsWhatTheCallerSaysForATextThatBeginsWithNone) {
+  for (const char* text :
+       {"", " ", "-", "nan", "inf", "north", "99999999999999999999999999999999999999999"}) {
+    EXPECT_EQ(LeadingNumber(text, 12.5F), 12.5F) << text;
+  }
+  EXPECT_EQ(LeadingNumber("0", 12.5F), 0.0F);
+  EXPECT_EQ(LeadingNumber("7 M", 12.5F), 7.0F);
+}
+
 TEST(LeadingNumber, IsZeroForANumberThatIsTooLarge) {
   EXPECT_EQ(LeadingNumber(std::string(100, '9')), 0.0F);
   EXPECT_EQ(LeadingNumber("-4" + std::string(38, '0')), 0.0F);

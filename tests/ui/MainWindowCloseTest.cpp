@@ -92,8 +92,8 @@ TEST_F(MainWindowClose, OfTheSessionAsksNothing) {
 TEST_F(MainWindowClose, OfTheSessionEndsAnOpenQuestion) {
   DialogsQt dialogs;
   WriteProfile(kOnPorts);
-  Window = std::make_unique<frmMain>(
-      MainWindowParts{NmeaPort, PilotPort, tmrNmea, tmrUnload, Random, dialogs, Store, ProfileFile()});
+  Window = std::make_unique<frmMain>(MainWindowParts{NmeaPort, PilotPort, tmrNmea, tmrUnload, TimerTack,
+                                                     Random, dialogs, Store, ProfileFile()});
   dialogs.Window(Window.get());
   Window->Form_Load();
   Window->show();

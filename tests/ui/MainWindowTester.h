@@ -29,6 +29,7 @@ class MainWindowTester : public testing::Test {
   ScriptedPort PilotPort;
   HandTimer tmrNmea;
   HandTimer tmrUnload;
+  HandTimer TimerTack;
   FixedRandom Random;
   QueuedDialogs Dialogs;
   Profile Store;
@@ -46,10 +47,11 @@ class MainWindowTester : public testing::Test {
 
   /// Makes the window without loading it.
   void Make() {
-    Window = std::make_unique<frmMain>(
-        MainWindowParts{NmeaPort, PilotPort, tmrNmea, tmrUnload, Random, Dialogs, Store, ProfileFile()});
+    Window = std::make_unique<frmMain>(MainWindowParts{NmeaPort, PilotPort, tmrNmea, tmrUnload, TimerTack,
+                                                       Random, Dialogs, Store, ProfileFile()});
     tmrNmea.OnTick = [this] { Window->tmrNmea_Timer(); };
     tmrUnload.OnTick = [this] { Window->tmrUnload_Timer(); };
+    TimerTack.OnTick = [this] { Window->TimerTack_Timer(); };
   }
 
   /// Makes, loads and shows the window with a profile of that content.

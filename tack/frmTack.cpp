@@ -1,0 +1,252 @@
+#include "tack/frmTack.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <utility>
+
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr int kTimerInterval = 1000;  // [ms]
+constexpr int kTextHeight = 18;       // [px]
+constexpr int kEntryHeight = 24;
+constexpr int kHeadingHeight = 44;
+constexpr int kMargin = 24;
+constexpr int kSpacing = 14;
+constexpr QSize kButtonSize(150, 52);
+constexpr int kBarHeight = 30;
+constexpr int kStepGap = 2;
+/// Part of the text's colour in a text that does not answer.
+constexpr float kDimmed = 0.6F;
+
+constexpr std::array<const char*, 4> kWords{"", "Steer", "Tack", "Jibe"};
+constexpr const char* kManual = "Set tracking mode to Manual";
+constexpr const char* kOvershoot = "Overshoot the heading";
+constexpr const char* kLimit = "Limit the rate of change";
+
+std::size_t IndexOf(ManoeuvreKind kind) { return static_cast<std::size_t>(kind); }
+
+QString Text(const std::string& text) { return QString::fromStdString(text); }
+
+/// `share` [0, 1] of `over` on `under`.
+QColor Mixed(const QColor& under, const QColor& over, float share) {
+  const auto part = [share](float low, float high) { return low + (high - low) * share; };
+  return QColor::fromRgbF(part(under.redF(), over.redF()), part(under.greenF(), over.greenF()),
+                          part(under.blueF(), over.blueF()));
+}
+
+QFont Sized(QFont font, int pixels) {
+  font.setPixelSize(pixels);
+  return font;
+}
+
+/// A box for one number of up to `pattern`'s width, in figures of `pixels`.
+QLineEdit* Entry(const char* name, const QString& toolTip, const QString& pattern, int pixels,
+                 QWidget* parent) {
+  auto* box = new QLineEdit(parent);
+  box->setObjectName(QLatin1String(name));
+  box->setAccessibleName(toolTip);
+  box->setToolTip(toolTip);
+  box->setAlignment(Qt::AlignRight);
+  box->setFont(Sized(box->font(), pixels));
+  const QSize figures = box->fontMetrics().size(Qt::TextSingleLine, pattern);
+  box->setFixedSize(figures.width() + pixels, figures.height() * 5 / 4);
+  return box;
+}
+
+QLabel* Caption(const char* name, const QString& text, QWidget* buddy, QWidget* parent) {
+  auto* label = new QLabel(text, parent);
+  label->setObjectName(QLatin1String(name));
+  label->setBuddy(buddy);
+  return label;
+}
+
+}  // namespace
+
+frmTack::frmTack(const TackParts& parts, QWidget* main) : QDialog(main), m_parts(parts) {
+  setObjectName(QStringLiteral("frmTack"));
+  setModal(false);
+  TackRecall(m_parts.Store, m_settings);
+  m_parts.TimerTack.Interval(kTimerInterval);
+  MakeControls();
+}
+
+void frmTack::MakeControls() {
+  setFont(Sized(font(), kTextHeight));
+  txtHeading =
+      Entry("txtHeading", QStringLiteral("Heading to turn to"), QStringLiteral("0000"), kHeadingHeight, this);
+  txtOvershoot = Entry("txtOvershoot", QStringLiteral("How far to turn past the heading, then left to you"),
+                       QStringLiteral("0000.0"), kEntryHeight, this);
+  txtRate =
+      Entry("txtRate", QStringLiteral("How fast to turn"), QStringLiteral("0000.0"), kEntryHeight, this);
+  lblPrompt = Caption("lblPrompt", QString(), txtHeading, this);
+  lblPrompt->setFont(Sized(lblPrompt->font(), kEntryHeight));
+  lstTack = new QListWidget(this);
+  lstTack->setObjectName(QStringLiteral("lstTack"));
+  lstTack->setAccessibleName(QStringLiteral("Steps"));
+  lstTack->setToolTip(QStringLiteral("What happens when you press OK"));
+  lstTack->setFocusPolicy(Qt::NoFocus);
+  lstTack->setSelectionMode(QAbstractItemView::NoSelection);
+  lstTack->setFrameShape(QFrame::NoFrame);
+  lstTack->setSpacing(kStepGap);
+  lstTack->viewport()->setAutoFillBackground(false);
+  ProgressBarTack = new QProgressBar(this);
+  ProgressBarTack->setObjectName(QStringLiteral("ProgressBarTack"));
+  ProgressBarTack->setAccessibleName(QStringLiteral("Turned so far"));
+  ProgressBarTack->setToolTip(QStringLiteral("Degrees turned so far"));
+  ProgressBarTack->setFormat(QStringLiteral("%v of %m deg"));
+  ProgressBarTack->setAlignment(Qt::AlignCenter);
+  ProgressBarTack->setFixedHeight(kBarHeight);
+  QSizePolicy keepsItsPlace = ProgressBarTack->sizePolicy();
+  keepsItsPlace.setRetainSizeWhenHidden(true);
+  ProgressBarTack->setSizePolicy(keepsItsPlace);
+  cmdOk = new QPushButton(QStringLiteral("OK"), this);
+  cmdOk->setObjectName(QStringLiteral("cmdOk"));
+  cmdOk->setToolTip(QStringLiteral("Take the pilot and begin to turn"));
+  cmdOk->setDefault(true);
+  cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
+  cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
+  cmdCancel->setToolTip(QStringLiteral("Stop here and leave the pilot as it is"));
+  // A second Enter must not stop the turn that the first one began.
+  cmdCancel->setAutoDefault(false);
+  for (QPushButton* button : {cmdOk, cmdCancel}) {
+    button->setMinimumSize(kButtonSize);
+  }
+  connect(cmdOk, &QPushButton::clicked, this, [this] { cmdOk_Click(); });
+  connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+
+  auto* grid = new QGridLayout;
+  grid->setHorizontalSpacing(kSpacing);
+  grid->setVerticalSpacing(kSpacing);
+  grid->addWidget(lblPrompt, 0, 0);
+  grid->addWidget(txtHeading, 0, 1);
+  grid->addWidget(new QLabel(QStringLiteral("deg M"), this), 0, 2);
+  grid->addWidget(Caption("lblOvershoot", QStringLiteral("&Overshoot"), txtOvershoot, this), 1, 0);
+  grid->addWidget(txtOvershoot, 1, 1, Qt::AlignRight);
+  grid->addWidget(new QLabel(QStringLiteral("deg"), this), 1, 2);
+  grid->addWidget(Caption("lblRate", QStringLiteral("&Rate of Change (deg/sec)"), txtRate, this), 2, 0);
+  grid->addWidget(txtRate, 2, 1, Qt::AlignRight);
+  grid->setColumnStretch(0, 1);
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(kSpacing);
+  buttons->addStretch();
+  buttons->addWidget(cmdOk);
+  buttons->addWidget(cmdCancel);
+  auto* all = new QVBoxLayout(this);
+  all->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
+  all->setSpacing(kSpacing);
+  all->addLayout(grid);
+  all->addWidget(lstTack);
+  all->addWidget(ProgressBarTack);
+  all->addLayout(buttons);
+  all->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void frmTack::TackOpen(float newHeading, float heading, float autoPilot, float windAngle) {
+  if (!m_turn.Open(newHeading, heading, autoPilot, windAngle)) {
+    return;
+  }
+  Steering(false);
+  m_newHeading = newHeading;
+  ShowKind();
+  Dim();
+  ProgressBarTack->hide();
+  txtHeading->selectAll();
+  txtHeading->setFocus();
+  show();
+  raise();
+  activateWindow();
+}
+
+void frmTack::Dim() {
+  QPalette colours;
+  for (const auto& [text, ground] :
+       {std::pair{QPalette::Text, QPalette::Base}, std::pair{QPalette::ButtonText, QPalette::Button}}) {
+    colours.setColor(
+        QPalette::Disabled, text,
+        Mixed(palette().color(QPalette::Active, ground), palette().color(QPalette::Active, text), kDimmed));
+  }
+  setPalette(colours);
+}
+
+void frmTack::ShowKind() {
+  const std::size_t kind = IndexOf(m_turn.Kind());
+  const QString word = QLatin1String(kWords[kind]);
+  setWindowTitle(QStringLiteral("Veerwatch - ") + word);
+  lblPrompt->setText(QStringLiteral("&%1 to new heading:").arg(word));
+  txtHeading->setText(Text(FormatNumber(m_newHeading, "0")));
+  txtOvershoot->setText(Text(ShortestText(m_settings.Overshoot[kind])));
+  txtRate->setText(Text(ShortestText(m_settings.Rate[kind])));
+  lstTack->clear();
+  for (const char* step : {kManual, kOvershoot, kLimit}) {
+    if (step != kOvershoot || m_turn.Direction() != 0) {
+      lstTack->addItem(QStringLiteral("%1) %2").arg(lstTack->count() + 1).arg(QLatin1String(step)));
+    }
+  }
+  // Room for the steps of a tack, so that all three kinds are of one size.
+  constexpr int kMostSteps = 3;
+  lstTack->setFixedHeight(kMostSteps * (lstTack->sizeHintForRow(0) + 2 * kStepGap));
+}
+
+void frmTack::Steering(bool steering) {
+  m_parts.TimerTack.Enabled(steering);
+  txtHeading->setReadOnly(steering);
+  for (QWidget* control :
+       {static_cast<QWidget*>(cmdOk), static_cast<QWidget*>(txtOvershoot), static_cast<QWidget*>(txtRate)}) {
+    control->setEnabled(!steering);
+  }
+}
+
+void frmTack::cmdOk_Click() {
+  m_parts.Main.TrackSetManual();
+  const std::size_t kind = IndexOf(m_turn.Kind());
+  m_settings.Overshoot[kind] = LeadingNumber(txtOvershoot->text().toStdString());
+  m_settings.Rate[kind] = LeadingNumber(txtRate->text().toStdString());
+  // A text that is no heading leaves the one that was asked for.
+  m_turn.Start(LeadingNumber(txtHeading->text().toStdString(), m_newHeading), m_settings.Overshoot[kind],
+               m_settings.Rate[kind]);
+  // A bar without a length would show a turn that never ends.
+  ProgressBarTack->setRange(0, std::max(1, static_cast<int>(std::lround(std::fabs(m_turn.Change())))));
+  ShowProgress();
+  ProgressBarTack->show();
+  Steering(true);
+}
+
+void frmTack::ShowProgress() {
+  ProgressBarTack->setValue(static_cast<int>(std::lround(std::fabs(m_turn.Progress()))));
+}
+
+void frmTack::TimerTack_Timer() {
+  if (!m_parts.TimerTack.Enabled()) {
+    return;
+  }
+  const bool arrived = m_turn.Tick();
+  ShowProgress();
+  txtHeading->setText(Text(FormatNumber(m_turn.Heading(), "0")));
+  m_parts.Main.AutoPilotSet(m_turn.AutoPilot());
+  if (arrived) {
+    accept();
+    parentWidget()->activateWindow();
+  }
+}
+
+void frmTack::PilotTaken() {
+  if (m_parts.TimerTack.Enabled()) {
+    reject();
+  }
+}
+
+void frmTack::Unload() { TackStore(m_parts.Store, m_settings); }
+
+void frmTack::done(int result) {
+  m_parts.TimerTack.Enabled(false);
+  QDialog::done(result);
+}
+
+}  // namespace veerwatch
