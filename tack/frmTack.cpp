@@ -41,6 +41,8 @@ QColor Mixed(const QColor& under, const QColor& over, float share) {
                           part(under.blueF(), over.blueF()));
 }
 
+QString Prompt(const char* word) { return QStringLiteral("&%1 to new heading:").arg(QLatin1String(word)); }
+
 QFont Sized(QFont font, int pixels) {
   font.setPixelSize(pixels);
   return font;
@@ -87,6 +89,11 @@ void frmTack::MakeControls() {
       Entry("txtRate", QStringLiteral("How fast to turn"), QStringLiteral("0000.0"), kEntryHeight, this);
   lblPrompt = Caption("lblPrompt", QString(), txtHeading, this);
   lblPrompt->setFont(Sized(lblPrompt->font(), kEntryHeight));
+  // Room for the longest, so that all three kinds are of one size.
+  for (const char* word : kWords) {
+    lblPrompt->setText(Prompt(word));
+    lblPrompt->setMinimumWidth(std::max(lblPrompt->minimumWidth(), lblPrompt->sizeHint().width()));
+  }
   lstTack = new QListWidget(this);
   lstTack->setObjectName(QStringLiteral("lstTack"));
   lstTack->setAccessibleName(QStringLiteral("Steps"));
@@ -177,9 +184,8 @@ void frmTack::Dim() {
 
 void frmTack::ShowKind() {
   const std::size_t kind = IndexOf(m_turn.Kind());
-  const QString word = QLatin1String(kWords[kind]);
-  setWindowTitle(QStringLiteral("Veerwatch - ") + word);
-  lblPrompt->setText(QStringLiteral("&%1 to new heading:").arg(word));
+  setWindowTitle(QStringLiteral("Veerwatch - ") + QLatin1String(kWords[kind]));
+  lblPrompt->setText(Prompt(kWords[kind]));
   txtHeading->setText(Text(FormatNumber(m_newHeading, "0")));
   txtOvershoot->setText(Text(ShortestText(m_settings.Overshoot[kind])));
   txtRate->setText(Text(ShortestText(m_settings.Rate[kind])));
@@ -189,7 +195,7 @@ void frmTack::ShowKind() {
       lstTack->addItem(QStringLiteral("%1) %2").arg(lstTack->count() + 1).arg(QLatin1String(step)));
     }
   }
-  // Room for the steps of a tack, so that all three kinds are of one size.
+  // Room for the steps of a tack, for the same reason.
   constexpr int kMostSteps = 3;
   lstTack->setFixedHeight(kMostSteps * (lstTack->sizeHintForRow(0) + 2 * kStepGap));
 }
