@@ -7,6 +7,7 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/ColoursQt.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -23,7 +24,7 @@ constexpr QSize kButtonSize(150, 52);
 constexpr int kBarHeight = 30;
 constexpr int kStepGap = 2;
 /// Part of the text's colour in a text that does not answer.
-constexpr float kDimmed = 0.6F;
+constexpr double kDimmed = 0.6;
 
 constexpr std::array<const char*, 4> kWords{"", "Steer", "Tack", "Jibe"};
 constexpr const char* kManual = "Set tracking mode to Manual";
@@ -33,13 +34,6 @@ constexpr const char* kLimit = "Limit the rate of change";
 std::size_t IndexOf(ManoeuvreKind kind) { return static_cast<std::size_t>(kind); }
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
-
-/// `share` [0, 1] of `over` on `under`.
-QColor Mixed(const QColor& under, const QColor& over, float share) {
-  const auto part = [share](float low, float high) { return low + (high - low) * share; };
-  return QColor::fromRgbF(part(under.redF(), over.redF()), part(under.greenF(), over.greenF()),
-                          part(under.blueF(), over.blueF()));
-}
 
 QString Prompt(const char* word) { return QStringLiteral("&%1 to new heading:").arg(QLatin1String(word)); }
 
