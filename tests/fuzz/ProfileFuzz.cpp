@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -12,16 +11,11 @@
 
 #include "app/SettingsProfile.h"
 #include "platform/Profile.h"
+#include "tests/fuzz/Demand.h"
 
 namespace {
 
 using namespace veerwatch;
-
-void Demand(bool holds) {
-  if (!holds) {
-    std::abort();
-  }
-}
 
 /// The file of this process, removed at its end.
 struct File {
@@ -68,7 +62,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   profile.ProfileSet("A section of the test", "Key", "value");
   Demand(profile.Content().compare(0, content.size(), content) == 0);
 
-  // All keys, onto the disk and back: the same settings, and nothing is left to change.
+  // All keys, onto the disk and back: the same settings, and nothing is left to change. It takes most of the
+  // time: in one of sixteen.
+  constexpr std::size_t kRoundTrip = 16;
+  if (size % kRoundTrip != 0) {
+    return 0;
+  }
   ProfileWrite(profile, settings, windows);
   const std::string full = profile.Content();
   Write(file.Path, full);

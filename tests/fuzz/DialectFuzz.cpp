@@ -1,0 +1,41 @@
+// Any bytes as a polar of somebody else's spelling: a table in order, or a line that says what is wrong.
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <sstream>
+#include <string>
+
+#include "polar/PolarDialect.h"
+#include "polar/PolarFile.h"
+#include "tests/fuzz/Demand.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace veerwatch;
+  static PolarTable table;
+  table.PolarRows(0) = 0;
+  table.PolarColumns(0) = 0;
+  std::istringstream stream{std::string(reinterpret_cast<const char*>(data), size)};
+  if (const auto problem = PolarReadDialect(table, 0, stream)) {
+    Demand(!problem->empty(), "a reason");
+    Demand(table.PolarRows(0) == 0 && table.PolarColumns(0) == 0, "a slot that is left alone");
+    return 0;
+  }
+  const int rows = table.PolarRows(0);
+  const int columns = table.PolarColumns(0);
+  Demand(rows >= 1 && rows <= PolarTable::kMostRows, "rows");
+  Demand(columns >= 1 && columns <= PolarTable::kMostColumns, "columns");
+  for (int row = 0; row <= rows; ++row) {
+    for (int column = row == 0 ? 1 : 0; column <= columns; ++column) {
+      Demand(std::isfinite(table.Value(0, row, column)), "a finite cell");
+    }
+    Demand(row < 2 || table.Value(0, row, 0) > table.Value(0, row - 1, 0), "angles that ascend");
+  }
+  for (int column = 2; column <= columns; ++column) {
+    Demand(table.Value(0, 0, column) > table.Value(0, 0, column - 1), "winds that ascend");
+  }
+  // What is written is the program's own spelling.
+  PolarTable again;
+  std::istringstream own(PolarText(table, 0));
+  Demand(PolarRead(again, 0, 1.0F, own).Loaded, "a table that loads");
+  return 0;
+}

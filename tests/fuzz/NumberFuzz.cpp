@@ -1,0 +1,72 @@
+// Any text as a number, and any number as a text.
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string>
+#include <string_view>
+
+#include "instruments/CompassPoint.h"
+#include "instruments/MathLib.h"
+#include "nmea/FieldNumber.h"
+#include "nmea/Fields.h"
+#include "platform/NumberText.h"
+#include "polar/CourseCaptions.h"
+#include "tests/fuzz/Demand.h"
+
+namespace {
+
+using namespace veerwatch;
+
+void DemandText(std::string_view text) {
+  const float leading = LeadingNumber(text);
+  Demand(std::isfinite(leading), "a finite leading number");
+  const auto whole = StrictNumber(text);
+  const auto exact = StrictDouble(text);
+  Demand(!whole || std::isfinite(*whole), "a finite number");
+  Demand(!exact || std::isfinite(*exact), "a finite double");
+  Demand(!whole || exact, "a single is a double");
+  if (whole) {
+    const std::string shortest = ShortestText(*whole);
+    Demand(StrictNumber(shortest) == *whole, "the shortest text reads back");
+  }
+  const std::string_view trimmed = Trim(text);
+  Demand(trimmed.empty() || (trimmed.front() != ' ' && trimmed.back() != ' '), "no blanks at the ends");
+}
+
+void DemandNumber(float value) {
+  const std::string shortest = ShortestText(value);
+  if (!std::isfinite(value)) {
+    Demand(shortest.empty() && FormatNumber(value, "0.0").empty(), "no text for what is no number");
+    return;
+  }
+  Demand(StrictNumber(shortest) == value, "the shortest text reads back");
+  Demand(shortest.find('e') == std::string::npos, "no exponent");
+  for (const std::string_view pattern : {"0", "0.0", "0.00", "000.0", "00", ".0"}) {
+    const std::string text = FormatNumber(value, pattern);
+    const auto back = StrictDouble(text);
+    Demand(back.has_value(), "a formatted number is one");
+    const double off = std::fabs(*back - static_cast<double>(value));
+    Demand(off <= 0.5000001 + std::fabs(static_cast<double>(value)) * 1e-6,
+           "not further off than the rounding");
+    Demand(text != "-0" && text != "-0.0" && text != "-0.00", "no negative zero");
+  }
+  const float bearing = FoldBearing(static_cast<double>(value));
+  Demand(bearing >= 0.0F && bearing < 360.0F, "a folded bearing");
+  const float relative = FoldRelative(static_cast<double>(value));
+  Demand(relative > -180.0F && relative <= 180.0F, "a folded angle");
+  Demand(!CompassPointName(bearing).empty() && CompassPointName(bearing) != "??", "a compass point");
+  DemandNumbers(FormatHours(static_cast<double>(value)));
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  DemandText({reinterpret_cast<const char*>(data), size});
+  float value = 0.0F;
+  for (std::size_t at = 0; at + sizeof value <= size; at += sizeof value) {
+    std::memcpy(&value, data + at, sizeof value);
+    DemandNumber(value);
+  }
+  return 0;
+}
