@@ -2,7 +2,9 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSessionManager>
 #include <QStandardPaths>
 #include <cstdio>
@@ -60,6 +62,23 @@ std::string ReadCommandLine(const QApplication& application) {
                              : ProfileFile();
 }
 
+/// Takes the profile for this process, so that no second program writes it or fights for its ports. False,
+/// with the user told, when another one runs with it. Where no lock can be set nobody is kept out.
+bool TakeProfile(QLockFile& lock, const std::string& profileFile, Dialogs& dialogs) {
+  // One that was left behind by a killed program is told by its process.
+  lock.setStaleLockTime(0);
+  if (lock.tryLock() || lock.error() != QLockFile::LockFailedError) {
+    return true;
+  }
+  const std::string text =
+      "Veerwatch is running already with these settings:\r" + profileFile +
+      "\rClose it first, or start this one with settings of its own: veerwatch --profile FILE";
+  std::fprintf(stderr, "veerwatch: %s: another Veerwatch is running with this profile\n",
+               profileFile.c_str());
+  dialogs.Inform(kApplicationTitle, text);
+  return false;
+}
+
 }  // namespace
 
 int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& started) {
@@ -71,6 +90,14 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
 
   const std::string profileFile = ReadCommandLine(application);
 
+  DialogsQt dialogs;
+  QDir().mkpath(QFileInfo(QString::fromStdString(profileFile)).path());
+  QLockFile lock(QString::fromStdString(profileFile + ".lock"));
+  if (!TakeProfile(lock, profileFile, dialogs)) {
+    constexpr int kRunsAlready = 3;
+    return kRunsAlready;
+  }
+
   Profile profile;
   SerialPortQt MSCommNmea(profile);
   SerialPortQt MSCommPilot(profile);
@@ -78,7 +105,6 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   TimerQt tmrUnload(QStringLiteral("tmrUnload"));
   TimerQt TimerTack(QStringLiteral("TimerTack"));
   SeededRandom random(std::random_device{}());
-  DialogsQt dialogs;
 
   frmMain window({MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, TimerTack, random, dialogs, profile,
                   profileFile, PolarFiles()});

@@ -7,7 +7,8 @@ class QWidget;
 
 namespace veerwatch {
 
-/// Runs the program until its main window is closed, and gives its exit status. Once per process. `started`
+/// Runs the program until its main window is closed, and gives its exit status; 3 when another one runs with
+/// the same profile. Once per process. `started`
 /// is called with the main window when it is shown.
 int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& started = {});
 

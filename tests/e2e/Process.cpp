@@ -33,6 +33,9 @@ Process::Process(const fs::path& program, const std::string& profile) {
   std::signal(SIGPIPE, SIG_IGN);
 }
 
+Process::Process(const Process* other)
+    : m_folder(other->m_folder), m_owns(false), m_program(other->m_program) {}
+
 Process::~Process() {
   if (Runs()) {
     ::kill(m_pid, SIGKILL);
@@ -43,8 +46,10 @@ Process::~Process() {
       ::close(descriptor);
     }
   }
-  std::error_code ignored;
-  fs::remove_all(m_folder, ignored);
+  if (m_owns) {
+    std::error_code ignored;
+    fs::remove_all(m_folder, ignored);
+  }
 }
 
 std::string Process::Profile() const {
@@ -53,7 +58,7 @@ std::string Process::Profile() const {
   return text.str();
 }
 
-bool Process::Start() {
+bool Process::Start(const std::vector<std::string>& arguments) {
   std::array<int, 2> input{};
   std::array<int, 2> output{};
   if (::pipe2(input.data(), O_CLOEXEC) != 0 || ::pipe2(output.data(), O_CLOEXEC) != 0) {
@@ -74,15 +79,20 @@ bool Process::Start() {
     entries.push_back(entry.data());
   }
   entries.push_back(nullptr);
-  std::string name = m_program.string();
-  std::array<char*, 2> arguments{name.data(), nullptr};
+  std::vector<std::string> words{m_program.string()};
+  words.insert(words.end(), arguments.begin(), arguments.end());
+  std::vector<char*> line;
+  for (std::string& word : words) {
+    line.push_back(word.data());
+  }
+  line.push_back(nullptr);
 
   posix_spawn_file_actions_t files;
   posix_spawn_file_actions_init(&files);
   posix_spawn_file_actions_adddup2(&files, input[0], STDIN_FILENO);
   posix_spawn_file_actions_adddup2(&files, output[1], STDOUT_FILENO);
   posix_spawn_file_actions_adddup2(&files, output[1], STDERR_FILENO);
-  const int failure = ::posix_spawn(&m_pid, name.c_str(), &files, nullptr, arguments.data(), entries.data());
+  const int failure = ::posix_spawn(&m_pid, line.front(), &files, nullptr, line.data(), entries.data());
   posix_spawn_file_actions_destroy(&files);
   ::close(input[0]);
   ::close(output[1]);
@@ -111,6 +121,8 @@ const std::string& Process::Said() {
 }
 
 void Process::Terminate() const { ::kill(m_pid, SIGTERM); }
+
+void Process::Kill() const { ::kill(m_pid, SIGKILL); }
 
 bool Process::Runs() {
   if (m_pid < 0 || m_end) {

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 #include <thread>
+#include <vector>
 
 namespace veerwatch {
 
@@ -29,7 +30,9 @@ class Process {
  public:
   /// Puts `program` and the profile into a new temporary folder.
   Process(const std::filesystem::path& program, const std::string& profile);
-  /// Ends what still runs, the hard way, and removes the folder.
+  /// The same program in the folder, and with the profile, of `other`, which outlives it.
+  explicit Process(const Process* other);
+  /// Ends what still runs, the hard way, and removes its own folder.
   ~Process();
   Process(const Process&) = delete;
   Process& operator=(const Process&) = delete;
@@ -39,7 +42,7 @@ class Process {
   std::string Profile() const;
 
   /// Starts it, offscreen. Once.
-  bool Start();
+  bool Start(const std::vector<std::string>& arguments = {});
 
   /// Writes a line to its standard input.
   void Tell(const std::string& line);
@@ -49,6 +52,9 @@ class Process {
 
   /// Sends SIGTERM.
   void Terminate() const;
+  /// Sends SIGKILL.
+  void Kill() const;
+  pid_t Id() const { return m_pid; }
 
   /// True while it runs.
   bool Runs();
@@ -58,6 +64,7 @@ class Process {
 
  private:
   std::filesystem::path m_folder;
+  bool m_owns = true;  ///< the folder
   std::filesystem::path m_program;
   pid_t m_pid = -1;
   int m_input = -1;
