@@ -13,6 +13,7 @@
 
 #include "cli/CourseCommands.h"
 #include "cli/PolarCommands.h"
+#include "cli/PreviewCommand.h"
 #include "cli/Replay.h"
 #include "cli/Simulate.h"
 #include "platform/NumberText.h"
@@ -195,6 +196,32 @@ class PolarArguments {
   std::string m_out;
 };
 
+/// "preview".
+class PreviewArguments {
+ public:
+  explicit PreviewArguments(CLI::App& app)
+      : m_preview(app.add_subcommand("preview", "Print how the loop would pull an offset back to zero")) {
+    AddNumber(m_preview, "--bandwidth", m_options.Inputs.Bandwidth, "Tracking bandwidth [s]", "B")
+        ->required();
+    AddNumber(m_preview, "--damping", m_options.Inputs.Damping, "Tracking damping factor", "D")->required();
+    AddNumber(m_preview, "--offset", m_options.Inputs.Offset, "Bearing at the start [deg] (default 10)", "O");
+    AddNumber(m_preview, "--noise", m_options.Inputs.Noise, "Noise to either side [deg] (default 1)", "N");
+    m_preview->add_option("--seed", m_options.Seed, "Seed of the noise (default 1)")
+        ->check(kWholeNumber)
+        ->type_name("S");
+    AddNumber(m_preview, "--time", m_options.Inputs.Time, "Seconds to run (default 120)", "T");
+    m_preview->add_flag("--summary", m_options.Summary,
+                        "Overshoot, settling time and steady state instead of the seconds");
+  }
+
+  bool Given() const { return m_preview->parsed(); }
+  void Run() const { veerwatch::PreviewCommand(m_options, std::cout); }
+
+ private:
+  CLI::App* m_preview;
+  veerwatch::PreviewOptions m_options;
+};
+
 void RunReplay(const veerwatch::ReplayOptions& options, const std::optional<std::string>& file) {
   if (!file) {
     veerwatch::Replay(options, std::cin, std::cout);
@@ -242,6 +269,7 @@ int Run(int argc, char** argv) {
   simulateCommand->add_flag("--realtime", simulate.RealTime, "A tick a second");
 
   PolarArguments polar(app);
+  const PreviewArguments preview(app);
 
   try {
     app.parse(argc, argv);
@@ -258,6 +286,8 @@ int Run(int argc, char** argv) {
   replay.Ends = raw ? veerwatch::LineEnds::CarriageReturn : veerwatch::LineEnds::Any;
   if (polar.Given()) {
     polar.Run();
+  } else if (preview.Given()) {
+    preview.Run();
   } else if (*replayCommand) {
     RunReplay(replay, file);
   } else {

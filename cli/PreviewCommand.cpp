@@ -1,0 +1,49 @@
+#include "cli/PreviewCommand.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+#include "cli/Steering.h"
+#include "instruments/MathLib.h"
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+
+namespace {
+
+bool FitsSingle(double value) {
+  return std::fabs(value) <= static_cast<double>(std::numeric_limits<float>::max());
+}
+
+std::string Text(double value) { return ShortestText(ToSingle(value)); }
+
+}  // namespace
+
+void PreviewCommand(const PreviewOptions& options, std::ostream& out) {
+  const std::string trouble = TrackResponseTrouble(options.Inputs);
+  if (!trouble.empty()) {
+    throw CommandError(trouble);
+  }
+  SeededRandom random(options.Seed);
+  const auto bearings = TrackResponseSeries(options.Inputs, random);
+  if (!bearings || !std::all_of(bearings->begin(), bearings->end(), FitsSingle)) {
+    throw CommandError(kTrackResponseDiverges);
+  }
+  if (!options.Summary) {
+    for (std::size_t second = 0; second < bearings->size(); ++second) {
+      out << second << ' ' << Text((*bearings)[second]) << '\n';
+    }
+    return;
+  }
+  const TrackFigures figures = TrackFiguresOf(options.Inputs.Offset, *bearings);
+  out << "overshoot " << Text(figures.Overshoot) << " deg\n";
+  if (figures.SettlingTime) {
+    out << "settling time " << *figures.SettlingTime << " s\n";
+  } else {
+    out << "not settled\n";
+  }
+  out << "steady state " << Text(figures.SteadyRootMeanSquare) << " deg rms\n";
+}
+
+}  // namespace veerwatch
