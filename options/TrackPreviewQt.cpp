@@ -60,7 +60,8 @@ void TrackPreviewQt::Render() {
     painter.scale(m_ratio, m_ratio);
     painter.setFont(font());
     painter.setPen(foreground);
-    painter.drawText(rect(), Qt::AlignCenter, QString::fromStdString(m_picture.Trouble));
+    painter.drawText(rect(), static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap,
+                     QString::fromStdString(m_picture.Trouble));
     painter.end();
     m_pixmap.setDevicePixelRatio(m_ratio);
     return;
@@ -88,9 +89,11 @@ void TrackPreviewQt::Render() {
   for (const TrackStroke& stroke : m_picture.Strokes()) {
     strokes.append(QLineF(stroke.X1, stroke.Y1, stroke.X2, stroke.Y2));
   }
-  painter.setRenderHint(QPainter::Antialiasing);
+  // With seconds closer than the columns there is nothing to smooth, and much to draw.
+  const bool smooth = m_picture.Scale.TimeScale >= 1.0;
+  painter.setRenderHint(QPainter::Antialiasing, smooth);
   painter.translate(0.5, 0.5);
-  painter.setPen(QPen(foreground, kTraceWidth * m_ratio, Qt::SolidLine, Qt::RoundCap));
+  painter.setPen(QPen(foreground, smooth ? kTraceWidth * m_ratio : line, Qt::SolidLine, Qt::RoundCap));
   painter.drawLines(strokes);
   painter.end();
   m_pixmap.setDevicePixelRatio(m_ratio);
