@@ -7,6 +7,8 @@
 #include <QToolTip>
 #include <cstdlib>
 
+#include "platform/ColoursQt.h"
+
 namespace veerwatch {
 
 namespace {
@@ -23,9 +25,7 @@ QColor GridColour(const QPalette& palette) {
   if (std::abs(qGray(grey.rgb()) - qGray(text.rgb())) >= kLeastDifference) {
     return grey;
   }
-  const QColor base = palette.color(QPalette::Base);
-  const auto part = [](int under, int over) { return qRound(under + (over - under) * kShare); };
-  return {part(base.red(), text.red()), part(base.green(), text.green()), part(base.blue(), text.blue())};
+  return Mixed(palette.color(QPalette::Base), text, kShare);
 }
 
 }  // namespace
@@ -81,8 +81,10 @@ void TrackPreviewQt::Render() {
   for (const int row : m_picture.Rows) {
     fillLine(0, row, pixels.width(), 0, grid);
   }
+  const QColor window = palette().color(QPalette::Active, QPalette::Window);
   for (const TrackReference& reference : m_picture.References) {
-    fillLine(0, reference.Row, pixels.width(), 0, QColor(static_cast<QRgb>(reference.Rgb | 0xFF000000U)));
+    const QColor colour(static_cast<QRgb>(reference.Rgb | 0xFF000000U));
+    fillLine(0, reference.Row, pixels.width(), 0, ShadeFor(window, colour));
   }
 
   QVector<QLineF> strokes;

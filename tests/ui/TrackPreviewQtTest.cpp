@@ -11,6 +11,7 @@
 
 #include "options/LoopDiagramQt.h"
 #include "options/TrackPreviewQt.h"
+#include "platform/ColoursQt.h"
 #include "tests/support/FixedRandom.h"
 
 namespace veerwatch {
@@ -80,6 +81,20 @@ TEST_F(TrackPreviewWidget, PaintsGridReferencesAndTrace) {
     // The points of 1 and 2 seconds.
     EXPECT_EQ(image.pixelColor(2, 66), text);
     EXPECT_EQ(image.pixelColor(4, 73), text);
+  }
+}
+
+TEST_F(TrackPreviewWidget, HasNoBlueAndLittleGreenAtNight) {
+  Plot.setPalette(NightPalette());
+  Plot.Draw(Texts());
+  const QImage image = Grabbed(Plot, "track-preview-night", true);
+  EXPECT_GT(image.pixelColor(5, 150).red(), image.pixelColor(5, 140).red());
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      const QColor colour = image.pixelColor(x, y);
+      ASSERT_LE(colour.green() * 2, colour.red()) << x << ", " << y;
+      ASSERT_LE(colour.blue() * 2, colour.red()) << x << ", " << y;
+    }
   }
 }
 
