@@ -19,7 +19,7 @@ constexpr qreal kTraceWidth = 1.4;
 /// the background.
 QColor GridColour(const QPalette& palette) {
   constexpr int kLeastDifference = 60;
-  constexpr qreal kShare = 0.3;
+  constexpr qreal kShare = 0.22;
   const QColor grey = palette.color(QPalette::Disabled, QPalette::WindowText);
   const QColor text = palette.color(QPalette::Text);
   if (std::abs(qGray(grey.rgb()) - qGray(text.rgb())) >= kLeastDifference) {

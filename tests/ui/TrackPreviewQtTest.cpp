@@ -13,22 +13,14 @@
 #include "options/TrackPreviewQt.h"
 #include "platform/ColoursQt.h"
 #include "tests/support/FixedRandom.h"
+#include "tests/ui/DarkPalette.h"
 
 namespace veerwatch {
 namespace {
 
 TrackPreviewTexts Texts() { return {"40", "1", "10", "0", "120", "-5", "15"}; }
 
-QPalette Shade(bool dark) {
-  if (!dark) {
-    return QApplication::palette();
-  }
-  QPalette palette(QColor(0x2A, 0x2D, 0x31), QColor(0x1B, 0x1E, 0x22));
-  palette.setColor(QPalette::Base, QColor(0x12, 0x14, 0x17));
-  palette.setColor(QPalette::WindowText, QColor(0xE6, 0xEA, 0xEE));
-  palette.setColor(QPalette::Text, QColor(0xE6, 0xEA, 0xEE));
-  return palette;
-}
+QPalette Shade(bool dark) { return dark ? DarkPalette() : QApplication::palette(); }
 
 QImage Grabbed(QWidget& widget, const char* name, bool dark) {
   const QImage image = widget.grab().toImage();
