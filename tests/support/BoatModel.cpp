@@ -1,0 +1,281 @@
+#include "tests/support/BoatModel.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <numbers>
+
+#include "platform/NumberText.h"
+#include "tests/support/Sentences.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr double kRadian = std::numbers::pi / 180.0;
+constexpr double kMilesPerDegree = 60.0;
+constexpr double kSecondsPerHour = 3600.0;
+
+double Turn360(double angle) {
+  const double turn = std::fmod(angle, 360.0);
+  return turn < 0.0 ? turn + 360.0 : turn;
+}
+
+double Turn180(double angle) {
+  const double turn = std::remainder(angle, 360.0);
+  return turn <= -180.0 ? 180.0 : turn;
+}
+
+/// Velocities and ways, to the north and to the east.
+struct Vector {
+  double North = 0.0;
+  double East = 0.0;
+
+  Vector operator+(const Vector& other) const { return {North + other.North, East + other.East}; }
+  Vector operator-(const Vector& other) const { return {North - other.North, East - other.East}; }
+  double Length() const { return std::hypot(North, East); }
+  /// [deg true, [0, 360)]
+  double Direction() const { return Turn360(std::atan2(East, North) / kRadian); }
+};
+
+Vector Towards(double direction, double length) {
+  return {length * std::cos(direction * kRadian), length * std::sin(direction * kRadian)};
+}
+
+/// The part of a distance that is left to go shrinks by this factor in one tick.
+double Remains(double lag) { return lag > 0.0 ? std::exp(-BoatModel::kTick / lag) : 0.0; }
+
+/// Nothing in the eye of the wind, the most on a reach, less before the wind.
+double PolarSpeed(const BoatSettings& settings, double angle, double windSpeed) {
+  const double off = std::fabs(angle);
+  const double drive = 1.0 - std::exp(-std::pow(off / 35.0, 2.0));
+  const double aft = 1.0 - 0.25 * std::pow(off / 180.0, 4.0);
+  return settings.HullSpeed * drive * aft * (1.0 - std::exp(-windSpeed / 8.0));
+}
+
+/// To the side that the wind blows to [deg, positive to starboard].
+double LeewayAt(const BoatSettings& settings, double angle) {
+  return std::fabs(angle) < 90.0 ? -settings.Leeway * std::sin(2.0 * angle * kRadian) : 0.0;
+}
+
+double DeviationAt(const BoatSettings& settings, double headingTrue) {
+  return settings.Deviation * std::sin(headingTrue * kRadian);
+}
+
+double CompassAt(const BoatSettings& settings, double headingTrue) {
+  return Turn360(headingTrue - settings.Variation - DeviationAt(settings, headingTrue));
+}
+
+/// The true heading on which the compass shows `compass`.
+double HeadingAt(const BoatSettings& settings, double compass) {
+  double heading = compass + settings.Variation;
+  for (int i = 0; i < 20; ++i) {
+    heading = compass + settings.Variation + DeviationAt(settings, heading);
+  }
+  return Turn360(heading);
+}
+
+Vector Way(const EarthPlace& from, const EarthPlace& to) {
+  return {(to.Latitude - from.Latitude) * kMilesPerDegree,
+          (to.Longitude - from.Longitude) * kMilesPerDegree * std::cos(from.Latitude * kRadian)};
+}
+
+EarthPlace Moved(const EarthPlace& from, const Vector& way) {
+  return {from.Latitude + way.North / kMilesPerDegree,
+          from.Longitude + way.East / kMilesPerDegree / std::cos(from.Latitude * kRadian)};
+}
+
+UtcMoment MomentAt(double seconds) {
+  using namespace std::chrono;
+  const auto whole = duration_cast<std::chrono::seconds>(duration<double>(seconds));
+  const sys_seconds now = sys_days{year{2026} / January / 1} + hours{9} + whole;
+  const auto midnight = floor<days>(now);
+  const year_month_day date{midnight};
+  const hh_mm_ss time{now - midnight};
+  return {static_cast<int>(time.hours().count()),
+          static_cast<int>(time.minutes().count()),
+          static_cast<int>(time.seconds().count()),
+          static_cast<int>(static_cast<unsigned>(date.day())),
+          static_cast<int>(static_cast<unsigned>(date.month())),
+          static_cast<int>(date.year()) % 100};
+}
+
+}  // namespace
+
+BoatSettings GustyBoat() {
+  BoatSettings settings;
+  settings.GustDeviation = 0.2;
+  settings.ShiftDeviation = 4.0;
+  settings.YawDeviation = 1.5;
+  settings.VaneNoise = 1.5;
+  settings.SpeedNoise = 0.1;
+  return settings;
+}
+
+BoatModel::BoatModel(const BoatSettings& settings, double heading, std::uint64_t seed)
+    : m_settings(settings), m_random(seed), m_bearing(heading), m_wheel(heading) {
+  m_keel = HeadingAt(settings, heading);
+  m_state.Heading = m_keel;
+  m_state.Compass = CompassAt(settings, m_keel);
+  m_waypoint = Moved(m_state.Place, Towards(m_keel, 10.0));
+  MoveWind();
+  const double angle = Turn180(m_state.WindFrom - m_keel);
+  m_state.Speed = PolarSpeed(settings, angle, m_state.WindSpeed);
+  Move();
+  m_vaneAhead = m_state.ApparentSpeed * std::cos(m_state.ApparentAngle * kRadian);
+  m_vaneRight = m_state.ApparentSpeed * std::sin(m_state.ApparentAngle * kRadian);
+}
+
+std::string BoatModel::Step(double seconds) {
+  m_sent.clear();
+  m_waiting += seconds;
+  constexpr double kAlmost = 1e-9;
+  while (m_waiting >= kTick - kAlmost) {
+    m_waiting -= kTick;
+    Tick();
+  }
+  return m_sent;
+}
+
+void BoatModel::Tick() {
+  ++m_ticks;
+  m_state.Seconds = static_cast<double>(m_ticks) * kTick;
+  MoveWind();
+  Turn();
+  Move();
+  ReadVane();
+  Send();
+}
+
+double BoatModel::Gauss() {
+  // Two uniform numbers, of which the first is never 0, to one normal number.
+  const double radius = std::sqrt(-2.0 * std::log(1.0 - m_random.Next()));
+  return radius * std::cos(2.0 * std::numbers::pi * m_random.Next());
+}
+
+void BoatModel::Wander(double& value, double memory) {
+  const double kept = Remains(memory);
+  value = kept * value + std::sqrt(1.0 - kept * kept) * Gauss();
+}
+
+void BoatModel::MoveWind() {
+  Wander(m_gust, m_settings.GustTime);
+  Wander(m_shift, m_settings.ShiftTime);
+  Wander(m_yaw, m_settings.YawTime);
+  m_state.WindSpeed = std::max(0.0, m_settings.WindSpeed * (1.0 + m_settings.GustDeviation * m_gust));
+  m_state.WindFrom = Turn360(m_settings.WindFrom + m_settings.ShiftDeviation * m_shift);
+}
+
+void BoatModel::Turn() {
+  const double missing = Turn180((m_engaged ? m_bearing : m_wheel) - m_state.Compass);
+  const double asked = std::clamp(missing / m_settings.TurnLag, -m_settings.TurnRate, m_settings.TurnRate);
+  m_turnRate = asked + (m_turnRate - asked) * Remains(m_settings.RudderLag);
+  m_keel = Turn360(m_keel + m_turnRate * kTick);
+  m_state.Heading = Turn360(m_keel + m_settings.YawDeviation * m_yaw);
+  m_state.Compass = CompassAt(m_settings, m_state.Heading);
+}
+
+void BoatModel::Move() {
+  const Vector current = Towards(m_settings.CurrentTo, m_settings.CurrentSpeed);
+  const Vector wind = Towards(m_state.WindFrom + 180.0, m_state.WindSpeed);
+
+  const Vector overWater = wind - current;
+  m_state.TrueSpeed = overWater.Length();
+  m_state.TrueAngle = Turn180(overWater.Direction() + 180.0 - m_state.Heading);
+
+  const double wanted = PolarSpeed(m_settings, m_state.TrueAngle, m_state.TrueSpeed);
+  m_state.Speed = wanted + (m_state.Speed - wanted) * Remains(m_settings.SpeedLag);
+  const double leeway = LeewayAt(m_settings, m_state.TrueAngle);
+  const Vector ground = Towards(m_state.Heading + leeway, m_state.Speed) + current;
+  m_state.Course = ground.Direction();
+  m_state.SpeedOverGround = ground.Length();
+  const double miles = kTick / kSecondsPerHour;
+  m_state.Place = Moved(m_state.Place, {ground.North * miles, ground.East * miles});
+
+  const Vector apparent = wind - ground;
+  m_state.ApparentSpeed = apparent.Length();
+  m_state.ApparentAngle = Turn180(apparent.Direction() + 180.0 - m_state.Heading);
+}
+
+void BoatModel::ReadVane() {
+  const double ahead = m_state.ApparentSpeed * std::cos(m_state.ApparentAngle * kRadian);
+  const double right = m_state.ApparentSpeed * std::sin(m_state.ApparentAngle * kRadian);
+  const double remains = Remains(m_settings.VaneLag);
+  m_vaneAhead = ahead + (m_vaneAhead - ahead) * remains;
+  m_vaneRight = right + (m_vaneRight - right) * remains;
+}
+
+void BoatModel::Send() {
+  const auto due = [this](double period) {
+    const auto ticks = std::max<std::int64_t>(1, std::llround(period / kTick));
+    return m_ticks % ticks == 0;
+  };
+  const auto speed = [this](double knots) { return std::max(0.0, knots + m_settings.SpeedNoise * Gauss()); };
+  if (due(m_settings.HeadingPeriod)) {
+    Line(EncodeHdg(m_state.Compass, m_settings.Variation));
+  }
+  if (due(m_settings.OtherPeriod)) {
+    Line(EncodeVhw(m_state.Compass + m_settings.Variation, m_state.Compass, speed(m_state.Speed)));
+    const double ground = speed(m_state.SpeedOverGround);
+    Line(EncodeRmc(MomentAt(m_state.Seconds), m_state.Place, ground, m_state.Course, m_settings.Variation));
+    Line(EncodeVtg(m_state.Course, m_state.Course - m_settings.Variation, ground));
+    Line(EncodeHvm(m_settings.Variation));
+    SendWaypoint();
+  }
+  if (due(m_settings.WindPeriod)) {
+    const double apparent = std::atan2(m_vaneRight, m_vaneAhead) / kRadian + m_settings.VaneNoise * Gauss();
+    Line(EncodeMwv(apparent, 'R', speed(std::hypot(m_vaneAhead, m_vaneRight))));
+    if (m_settings.TrueWindSensor) {
+      const double trueAngle = m_state.TrueAngle + m_settings.VaneNoise * Gauss();
+      Line(EncodeMwv(trueAngle, 'T', speed(m_state.TrueSpeed)));
+    }
+  }
+}
+
+void BoatModel::SendWaypoint() {
+  const Vector way = Way(m_state.Place, m_waypoint);
+  const double closing = m_state.SpeedOverGround * std::cos((way.Direction() - m_state.Course) * kRadian);
+  Line(EncodeRmb(m_waypoint, way.Length(), way.Direction(), closing));
+}
+
+void BoatModel::PilotStandby(double heading) {
+  m_engaged = false;
+  m_wheel = heading;
+}
+
+void BoatModel::Steer(std::string_view bytes) {
+  for (const char byte : bytes) {
+    if (byte == '\r') {
+      TakeLine();
+      m_received.clear();
+    } else if (byte != '\n') {
+      m_received.push_back(byte);
+    }
+  }
+}
+
+void BoatModel::TakeLine() {
+  constexpr std::size_t kHeadingToSteer = 13;
+  const std::string_view line = m_received;
+  constexpr std::size_t kAddress = 7;  // "$ECAPB,"
+  const std::size_t star = line.find('*');
+  if (line.size() < kAddress || line.front() != '$' || line.substr(3, 4) != "APB," ||
+      star == std::string_view::npos || WithChecksum(line.substr(0, star)) != line) {
+    ++m_badSentences;
+    return;
+  }
+  std::string_view rest = line.substr(0, star);
+  for (std::size_t field = 0; field < kHeadingToSteer; ++field) {
+    const std::size_t comma = rest.find(',');
+    rest = comma == std::string_view::npos ? std::string_view{} : rest.substr(comma + 1);
+  }
+  const auto bearing = StrictDouble(rest.substr(0, rest.find(',')));
+  if (!bearing) {
+    ++m_badSentences;
+    return;
+  }
+  ++m_goodSentences;
+  m_bearing = *bearing;
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,141 @@
+// A sailing boat with its instruments and its autopilot, for tests that close the loop: sends the sentences
+// that a boat sends and follows the bearing of the autopilot sentences that it is given. Its geometry is its
+// own, so that it can stand against the program's.
+//
+// Turning: the pilot asks for a rate of turn in proportion to what its compass misses, bounded by what the
+// boat can turn; the boat takes up that rate with the lag of the rudder. Speed: comes to that of a smooth
+// polar with a lag. Wind: a mean with gusts and shifts, noise whose memory fades exponentially. All of it
+// follows from the settings and the seed alone.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/Random.h"
+#include "tests/support/Encode.h"
+
+namespace veerwatch {
+
+struct BoatSettings {
+  // Hull and pilot.
+  double TurnLag = 4.0;       ///< time constant of the turn to a new bearing [s], above 0
+  double TurnRate = 8.0;      ///< fastest turn [deg/s]
+  double RudderLag = 0.5;     ///< time constant with which a rate of turn is taken up [s]
+  double YawDeviation = 0.0;  ///< standard deviation of what the waves add to the heading [deg]
+  double YawTime = 2.0;       ///< memory of the waves [s]
+  double HullSpeed = 8.0;     ///< what the speed through the water comes to in strong wind [kn]
+  double SpeedLag = 15.0;     ///< time constant of the speed [s]
+  double Leeway = 4.0;        ///< most leeway, at 45 degrees off the true wind [deg]
+
+  // Wind over ground.
+  double WindFrom = 200.0;      ///< mean direction that it blows from [deg true]
+  double WindSpeed = 12.0;      ///< mean speed [kn]
+  double GustDeviation = 0.0;   ///< standard deviation of the speed, as a part of its mean
+  double GustTime = 12.0;       ///< memory of the gusts [s]
+  double ShiftDeviation = 0.0;  ///< standard deviation of the direction [deg]
+  double ShiftTime = 40.0;      ///< memory of the shifts [s]
+
+  // Water and earth.
+  double CurrentTo = 90.0;    ///< direction that the current sets to [deg true]
+  double CurrentSpeed = 0.0;  ///< [kn]
+  double Variation = 3.0;     ///< [deg, east positive]
+
+  // Instruments.
+  double Deviation = 2.0;       ///< most deviation of the one compass, on east and west [deg]
+  double VaneLag = 1.0;         ///< time constant of the wind instrument [s], 0 for none
+  double VaneNoise = 0.0;       ///< standard deviation of each wind angle sent [deg]
+  double SpeedNoise = 0.0;      ///< standard deviation of each speed sent [kn]
+  double WindPeriod = 1.0;      ///< time between wind sentences [s]
+  double HeadingPeriod = 1.0;   ///< time between compass sentences [s]
+  double OtherPeriod = 1.0;     ///< time between the sentences of log and satellite receiver [s]
+  bool TrueWindSensor = false;  ///< sends a true wind behind each apparent one
+};
+
+/// A gusty afternoon in a seaway: gusts of 20 percent, shifts of 4 degrees, noise on every instrument.
+BoatSettings GustyBoat();
+
+/// What the boat really does.
+struct BoatState {
+  double Seconds = 0.0;          ///< since the start
+  double Heading = 0.0;          ///< with the waves [deg true, [0, 360)]
+  double Compass = 0.0;          ///< what the compass shows [deg magnetic, [0, 360)]
+  double Speed = 0.0;            ///< through the water [kn]
+  double Course = 0.0;           ///< over ground [deg true, [0, 360)]
+  double SpeedOverGround = 0.0;  ///< [kn]
+  double WindFrom = 0.0;         ///< over ground, with shifts [deg true, [0, 360)]
+  double WindSpeed = 0.0;        ///< over ground, with gusts [kn]
+  double ApparentAngle = 0.0;    ///< without the lag of the instrument [deg relative, (-180, 180]]
+  double ApparentSpeed = 0.0;    ///< [kn]
+  double TrueAngle = 0.0;        ///< of the wind over the water, off the bow [deg relative, (-180, 180]]
+  double TrueSpeed = 0.0;        ///< [kn]
+  EarthPlace Place{50.0, -5.0};
+};
+
+class BoatModel {
+ public:
+  /// The length of one step of the model [s]; periods are rounded to it.
+  static constexpr double kTick = 0.05;
+
+  /// Starts on `heading` [deg magnetic, as its compass shows it] at the speed that belongs to it, with a
+  /// waypoint ten miles ahead, and holds that heading until a first autopilot sentence comes.
+  BoatModel(const BoatSettings& settings, double heading, std::uint64_t seed);
+
+  /// Sails on for `seconds` and gives what the instruments sent meanwhile: whole lines, each with CR and LF.
+  /// Parts of a tick wait for the next call.
+  std::string Step(double seconds);
+
+  /// Bytes for the autopilot, in pieces of any size. The heading to steer of each good autopilot sentence
+  /// becomes the bearing; any other line is counted and leaves it.
+  void Steer(std::string_view bytes);
+
+  /// Whether the pilot steers. While it does not, somebody at the wheel keeps `heading` [deg magnetic].
+  void PilotStandby(double heading);
+  void PilotEngage() { m_engaged = true; }
+
+  /// May be changed while sailing.
+  BoatSettings& Set() { return m_settings; }
+  const BoatState& State() const { return m_state; }
+  double Bearing() const { return m_bearing; }  ///< that the pilot was told last [deg magnetic]
+  int GoodSentences() const { return m_goodSentences; }
+  int BadSentences() const { return m_badSentences; }
+
+ private:
+  void Tick();
+  void MoveWind();
+  void Turn();
+  void Move();
+  void ReadVane();
+  void Send();
+  void SendWaypoint();
+  double Gauss();
+  /// One tick of a noise with memory, of unit deviation.
+  void Wander(double& value, double memory);
+  void Line(const std::string& sentence) { m_sent.append(sentence).append("\r\n"); }
+  void TakeLine();
+
+  BoatSettings m_settings;
+  BoatState m_state;
+  SeededRandom m_random;
+  std::int64_t m_ticks = 0;
+  double m_waiting = 0.0;  ///< [s] not sailed yet
+  std::string m_sent;
+
+  double m_gust = 0.0;
+  double m_shift = 0.0;
+  double m_yaw = 0.0;
+  double m_keel = 0.0;      ///< heading without the waves [deg true]
+  double m_turnRate = 0.0;  ///< [deg/s]
+  double m_vaneAhead = 0.0;
+  double m_vaneRight = 0.0;
+  EarthPlace m_waypoint;
+
+  bool m_engaged = true;
+  double m_bearing = 0.0;
+  double m_wheel = 0.0;
+  std::string m_received;
+  int m_goodSentences = 0;
+  int m_badSentences = 0;
+};
+
+}  // namespace veerwatch
