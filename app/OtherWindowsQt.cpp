@@ -22,6 +22,16 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
     : m_parts(parts), m_menu(menu), m_main(main), m_window(window) {
   QObject::connect(menu.mnuViewHistory, &QAction::triggered, [this] { HistoryShow(); });
   QObject::connect(menu.mnuViewPolar, &QAction::triggered, [this] { PolarShow(); });
+  for (const auto& [command, tab] :
+       {std::pair{menu.mnuOptionsInput, frmOptions::Input}, std::pair{menu.mnuOptionsData, frmOptions::Data},
+        std::pair{menu.mnuOptionsOutput, frmOptions::Output},
+        std::pair{menu.mnuOptionsTrack, frmOptions::Tracking},
+        std::pair{menu.mnuOptionsSimulate, frmOptions::Simulate}}) {
+    QObject::connect(command, &QAction::triggered, [this, selected = tab] {
+      Options().TabSelect(selected);
+      Options().ShowCenter();
+    });
+  }
 }
 
 void OtherWindowsQt::Store() {
@@ -39,6 +49,9 @@ void OtherWindowsQt::Store() {
 void OtherWindowsQt::Hide() {
   if (m_history) {
     m_history->hide();
+  }
+  if (m_options) {
+    m_options->hide();
   }
   if (m_polar) {
     m_polar->hide();
@@ -133,9 +146,56 @@ void OtherWindowsQt::OnTrackMode(TrackMode mode) {
   }
 }
 
+// The options dialog
+
+frmOptions& OtherWindowsQt::Options() {
+  if (!m_options) {
+    m_options = std::make_unique<frmOptions>(frmOptions::Parts{m_main, *this, m_parts.Asks, m_parts.Random});
+    m_options->setWindowIcon(ProgramIcon());
+    m_options->NmeaStatus(m_inputState);
+    m_options->PilotStatus(m_outputState);
+    m_options->Closed([this] { m_options.release()->deleteLater(); });
+  }
+  return *m_options;
+}
+
+bool OtherWindowsQt::PilotPortOpen() const {
+  const bool shared = m_main.m_iNmeaPort == m_main.m_iPilotPort;
+  return (shared ? m_parts.MSCommNmea : m_parts.MSCommPilot).PortOpen();
+}
+
 void OtherWindowsQt::OnInputState(std::string_view text) {
+  m_inputState = text;
+  if (m_options) {
+    m_options->NmeaStatus(text);
+  }
   if (text != "Running" && text != "Simulate") {
     PilotTaken();
+  }
+}
+
+void OtherWindowsQt::OnOutputState(std::string_view text) {
+  m_outputState = text;
+  if (m_options) {
+    m_options->PilotStatus(text);
+  }
+}
+
+void OtherWindowsQt::OnNmeaListCleared() {
+  if (m_options) {
+    m_options->NmeaListClear();
+  }
+}
+
+void OtherWindowsQt::OnNmeaData(std::string_view line, bool used) {
+  if (m_options) {
+    m_options->NmeaData(line, used);
+  }
+}
+
+void OtherWindowsQt::OnNmeaError(std::string_view text) {
+  if (m_options) {
+    m_options->NmeaError(text);
   }
 }
 

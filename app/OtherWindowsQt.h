@@ -1,9 +1,11 @@
 // The windows beside the main window: makes each at its first use, shows it, passes on what the helm tells,
 // and stores and hides them all at the close. The main window hands on every event that one of them shows; an
-// event for a window that is not loaded does nothing, but the first value loads the history.
+// event for a window that is not loaded does nothing, but the first value loads the history and the first
+// sentence to the autopilot the options dialog.
 #pragma once
 
 #include <memory>
+#include <string>
 #include <string_view>
 
 #include "app/Helm.h"
@@ -12,6 +14,7 @@
 #include "app/SettingsProfile.h"
 #include "app/frmMainCommands.h"
 #include "history/frmHistory.h"
+#include "options/frmOptions.h"
 #include "platform/SystemClock.h"
 #include "polar/PolarListener.h"
 #include "polar/frmPolar.h"
@@ -19,7 +22,10 @@
 
 namespace veerwatch {
 
-class OtherWindowsQt final : public HelmView, public RememberedWindows, private PolarListener {
+class OtherWindowsQt final : public HelmView,
+                             public RememberedWindows,
+                             private PolarListener,
+                             private OptionsPorts {
  public:
   /// Connects the commands of `menu` that show a window. `window` is the main window. All of them outlive
   /// this.
@@ -46,6 +52,9 @@ class OtherWindowsQt final : public HelmView, public RememberedWindows, private 
   void OnManoeuvre(float newHeading, float heading, float windAngleTrue) override;
   bool PolarVisible() const override { return m_polar && m_polar->isVisible(); }
 
+  /// The options dialog, made where it is not there yet.
+  frmOptions& Options();
+
   void OnHeading(float heading) override;
   void OnBoatSpeed(float speed) override;
   void OnWindApparent(float angle, float speed) override;
@@ -53,8 +62,13 @@ class OtherWindowsQt final : public HelmView, public RememberedWindows, private 
   void OnPilotDelta(float error) override;
   void OnPilotHeading(float bearing) override;
   void OnTrackMode(TrackMode mode) override;
-  void OnInputState(std::string_view text) override;
   void OnPolarUpdate(TrackMode mode, const InstrumentData& record) override;
+  void OnInputState(std::string_view text) override;
+  void OnOutputState(std::string_view text) override;
+  void OnNmeaListCleared() override;
+  void OnNmeaData(std::string_view line, bool used) override;
+  void OnNmeaError(std::string_view text) override;
+  void OnPilotData(std::string_view sentence) override { Options().PilotData(sentence); }
 
  private:
   frmHistory& History();
@@ -64,6 +78,9 @@ class OtherWindowsQt final : public HelmView, public RememberedWindows, private 
   }
   void OnPolarVisible(bool visible) override { m_menu.mnuViewPolar->setChecked(visible); }
 
+  bool NmeaPortOpen() const override { return m_parts.MSCommNmea.PortOpen(); }
+  bool PilotPortOpen() const override;
+
   const MainWindowParts& m_parts;
   const frmMainMenu& m_menu;
   MainWindowApi& m_main;
@@ -72,6 +89,9 @@ class OtherWindowsQt final : public HelmView, public RememberedWindows, private 
   std::unique_ptr<frmHistory> m_history;  ///< from the first value on
   std::unique_ptr<frmPolar> m_polar;      ///< null until it is shown for the first time
   std::unique_ptr<frmTack> m_tack;        ///< the same
+  std::unique_ptr<frmOptions> m_options;  ///< from its first use on, until its frame is closed
+  std::string m_inputState;               ///< what the dialog shows when it is made
+  std::string m_outputState;
 };
 
 }  // namespace veerwatch

@@ -94,9 +94,14 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void OnWindTrue(float angle, float speed) override;
   void OnWindIndicator(float direction, float speed) override;
   void OnValuesBlanked() override;
-  void OnInputState(std::string_view text) override { m_others.OnInputState(text); }
   void OnInputStatus(std::string_view text) override;
   void OnOutputStatus(std::string_view text) override;
+  void OnInputState(std::string_view text) override { m_others.OnInputState(text); }
+  void OnOutputState(std::string_view text) override { m_others.OnOutputState(text); }
+  void OnNmeaListCleared() override { m_others.OnNmeaListCleared(); }
+  void OnNmeaData(std::string_view line, bool used) override { m_others.OnNmeaData(line, used); }
+  void OnNmeaError(std::string_view text) override { m_others.OnNmeaError(text); }
+  void OnPilotData(std::string_view sentence) override { m_others.OnPilotData(sentence); }
   void OnDesired(float apparent, float trueWind) override;
   void OnDelta(float apparent, float trueWind) override;
   void OnAutoPilot(float bearing) override;

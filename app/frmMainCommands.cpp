@@ -65,11 +65,11 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   mnuViewNight->setCheckable(true);
   mnuViewNight->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
   QMenu* options = window.menuBar()->addMenu(QStringLiteral("&Options"));
-  mnuOptionsInput = Command(window, options, "mnuOptionsInput", "&Input...", false);
-  mnuOptionsData = Command(window, options, "mnuOptionsData", "&Data...", false);
-  mnuOptionsOutput = Command(window, options, "mnuOptionsOutput", "&Output...", false);
-  mnuOptionsTrack = Command(window, options, "mnuOptionsTrack", "&Tracking...", false);
-  mnuOptionsSimulate = Command(window, options, "mnuOptionsSimulate", "&Simulate...", false);
+  mnuOptionsInput = Command(window, options, "mnuOptionsInput", "&Input...", true);
+  mnuOptionsData = Command(window, options, "mnuOptionsData", "&Data...", true);
+  mnuOptionsOutput = Command(window, options, "mnuOptionsOutput", "&Output...", true);
+  mnuOptionsTrack = Command(window, options, "mnuOptionsTrack", "&Tracking...", true);
+  mnuOptionsSimulate = Command(window, options, "mnuOptionsSimulate", "&Simulate...", true);
   QMenu* help = window.menuBar()->addMenu(QStringLiteral("&Help"));
   mnuHelpDiagram = Command(window, help, "mnuHelpDiagram", "&Block Diagram...", false);
   mnuHelpAbout = Command(window, help, "mnuHelpAbout", "&About...", false);

@@ -225,6 +225,12 @@ std::optional<double> StrictDouble(std::string_view text) {
   return scanned.Text.empty() || scanned.End != trimmed.size() ? std::nullopt : Convert<double>(scanned);
 }
 
+bool HasFormOfNumber(std::string_view text) {
+  const std::string_view trimmed = Trim(text);
+  const Scanned scanned = ScanNumber(trimmed, Exponent::Read);
+  return !scanned.Text.empty() && scanned.End == trimmed.size();
+}
+
 float LeadingNumber(std::string_view text, float otherwise) {
   const Scanned scanned = ScanNumber(Trim(text), Exponent::Ignored);
   return scanned.Text.empty() ? otherwise : ToFloat(scanned).value_or(otherwise);

@@ -28,6 +28,9 @@ std::optional<float> StrictNumber(std::string_view text);
 /// The same, in double precision.
 std::optional<double> StrictDouble(std::string_view text);
 
+/// Whether a whole text is written as a number, as StrictNumber reads it, however large.
+bool HasFormOfNumber(std::string_view text);
+
 /// The number that a text begins with, after blanks; what follows is ignored. `otherwise` when it begins with
 /// none or the number is too large for a single.
 float LeadingNumber(std::string_view text, float otherwise = 0.0F);

@@ -357,5 +357,14 @@ TEST(LeadingNumber, IsAlwaysFinite) {
   }
 }
 
+TEST(HasFormOfNumber, AsksForTheWholeTextAndNotForItsSize) {
+  for (const char* text : {"5", " -5.25 ", "1e3", "1e999", "+.5"}) {
+    EXPECT_TRUE(HasFormOfNumber(text)) << text;
+  }
+  for (const char* text : {"", " ", "5x", "1e", "nan", "inf", "0x10", "5 5", "-"}) {
+    EXPECT_FALSE(HasFormOfNumber(text)) << text;
+  }
+}
+
 }  // namespace
 }  // namespace veerwatch

@@ -44,9 +44,9 @@ TEST_F(MainWindowControls, OfferEveryCommandAndDisableThoseWithoutAWindow) {
   const std::vector<std::tuple<const char*, const char*, bool>> commands{
       {"mnuFileDefault", "Default", true},           {"mnuFileExit", "Exit", true},
       {"mnuViewDiagram", "Block Diagram...", false}, {"mnuViewHistory", "History Plot...", true},
-      {"mnuViewPolar", "Polar Plot...", true},       {"mnuOptionsInput", "Input...", false},
-      {"mnuOptionsData", "Data...", false},          {"mnuOptionsOutput", "Output...", false},
-      {"mnuOptionsTrack", "Tracking...", false},     {"mnuOptionsSimulate", "Simulate...", false},
+      {"mnuViewPolar", "Polar Plot...", true},       {"mnuOptionsInput", "Input...", true},
+      {"mnuOptionsData", "Data...", true},           {"mnuOptionsOutput", "Output...", true},
+      {"mnuOptionsTrack", "Tracking...", true},      {"mnuOptionsSimulate", "Simulate...", true},
       {"mnuHelpDiagram", "Block Diagram...", false}, {"mnuHelpAbout", "About...", false},
   };
   for (const auto& [name, text, enabled] : commands) {

@@ -1,0 +1,38 @@
+#include "options/OptionNumber.h"
+
+#include <cmath>
+#include <limits>
+
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+
+std::string_view FaultText(OptionFault fault) {
+  switch (fault) {
+    case OptionFault::TypeMismatch:
+      return "Type mismatch";
+    case OptionFault::Overflow:
+      return "Overflow";
+    case OptionFault::InvalidValue:
+      break;
+  }
+  return "Invalid property value";
+}
+
+Converted<float> ToOptionSingle(std::string_view text) {
+  if (const auto number = StrictNumber(text)) {
+    return *number;
+  }
+  return HasFormOfNumber(text) ? OptionFault::Overflow : OptionFault::TypeMismatch;
+}
+
+Converted<std::int16_t> ToOptionInteger(float number) {
+  const double nearest = std::nearbyint(static_cast<double>(number));
+  using Limits = std::numeric_limits<std::int16_t>;
+  if (!(nearest >= Limits::min() && nearest <= Limits::max())) {
+    return OptionFault::Overflow;
+  }
+  return static_cast<std::int16_t>(nearest);
+}
+
+}  // namespace veerwatch

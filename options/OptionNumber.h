@@ -1,0 +1,30 @@
+// The strict conversions of what stands in the entry boxes of the options dialog.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <variant>
+
+namespace veerwatch {
+
+/// Why a text cannot be stored.
+enum class OptionFault {
+  TypeMismatch,  ///< no number
+  Overflow,      ///< too large for what it is stored in
+  InvalidValue,  ///< a number that the setting cannot be
+};
+
+/// "Type mismatch", "Overflow", "Invalid property value".
+std::string_view FaultText(OptionFault fault);
+
+/// A number, or why there is none.
+template <class Number>
+using Converted = std::variant<Number, OptionFault>;
+
+/// The whole text as a single; blanks around it are left out.
+Converted<float> ToOptionSingle(std::string_view text);
+
+/// `number` as an integer of 16 bits, the nearest one, the even one of two.
+Converted<std::int16_t> ToOptionInteger(float number);
+
+}  // namespace veerwatch

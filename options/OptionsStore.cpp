@@ -1,0 +1,165 @@
+#include "options/OptionsStore.h"
+
+#include <array>
+#include <cassert>
+#include <initializer_list>
+
+#include "options/SimulateTimeText.h"
+
+namespace veerwatch {
+
+namespace {
+
+enum class Range { Any, NotNegative, Positive };
+
+/// A text and the setting that it goes to.
+struct Item {
+  const std::string& Text;
+  float& Setting;
+  Range Allowed = Range::Any;
+};
+
+bool Allows(Range range, float value) {
+  switch (range) {
+    case Range::NotNegative:
+      return value >= 0.0F;
+    case Range::Positive:
+      return value > 0.0F;
+    case Range::Any:
+      break;
+  }
+  return true;
+}
+
+/// Stores them one after the other, up to the first fault.
+std::optional<OptionFault> StoreSingles(std::initializer_list<Item> items) {
+  for (const Item& item : items) {
+    const Converted<float> number = ToOptionSingle(item.Text);
+    if (const auto* fault = std::get_if<OptionFault>(&number)) {
+      return *fault;
+    }
+    const float value = std::get<float>(number);
+    if (!Allows(item.Allowed, value)) {
+      return OptionFault::InvalidValue;
+    }
+    item.Setting = value;
+  }
+  return std::nullopt;
+}
+
+std::int16_t Source(int index) {
+  assert(index == 0 || index == 1);
+  return static_cast<std::int16_t>(index);
+}
+
+}  // namespace
+
+std::optional<std::string> OptionsStore::Store(const OptionsForm& form) {
+  struct Group {
+    const char* Name;
+    Fault (OptionsStore::*Store)(const OptionsForm&);
+  };
+  constexpr std::array<Group, 5> kGroups{{{"Data", &OptionsStore::StoreData},
+                                          {"Input", &OptionsStore::StoreInput},
+                                          {"Output", &OptionsStore::StoreOutput},
+                                          {"Simulate", &OptionsStore::StoreSimulate},
+                                          {"Tracking", &OptionsStore::StoreTracking}}};
+  for (const Group& group : kGroups) {
+    if (const Fault fault = (this->*group.Store)(form)) {
+      std::string message(group.Name);
+      message.append(" Options Problem ").append(FaultText(*fault));
+      return message;
+    }
+  }
+  return std::nullopt;
+}
+
+OptionsStore::Fault OptionsStore::StoreData(const OptionsForm& form) {
+  m_main.m_iNmeaBoatSpeed = Source(form.NmeaBoatSpeed);
+  m_main.m_iNmeaHeading = Source(form.NmeaHeading);
+  for (std::size_t i = 0; i < kOptionSentences.size(); ++i) {
+    m_main.*kOptionSentences[i].Setting = form.NmeaSentence[i];
+  }
+  m_main.m_iNmeaTrueWind = Source(form.NmeaTrueWind);
+  return StoreSingles(
+      {{form.NmeaTrueWindAverage, m_main.m_fNmeaTrueWindAverage, Range::NotNegative},
+       {form.NmeaWindIndicatorAverage, m_main.m_fNmeaWindIndicatorAverage, Range::NotNegative}});
+}
+
+OptionsStore::Fault OptionsStore::StoreInput(const OptionsForm& form) {
+  return StorePort(form.NmeaPort, m_ports.NmeaPortOpen(), m_main.m_iNmeaPort);
+}
+
+OptionsStore::Fault OptionsStore::StoreOutput(const OptionsForm& form) {
+  return StorePort(form.PilotPort, m_ports.PilotPortOpen(), m_main.m_iPilotPort);
+}
+
+OptionsStore::Fault OptionsStore::StorePort(const std::string& text, bool open, std::int16_t& port) {
+  const Converted<float> number = ToOptionSingle(text);
+  if (const auto* fault = std::get_if<OptionFault>(&number)) {
+    return *fault;
+  }
+  const Converted<std::int16_t> integer = ToOptionInteger(std::get<float>(number));
+  if (const auto* fault = std::get_if<OptionFault>(&integer)) {
+    return *fault;
+  }
+  const std::int16_t wanted = std::get<std::int16_t>(integer);
+  if (wanted < 1) {
+    return OptionFault::InvalidValue;
+  }
+  if (std::get<float>(number) != static_cast<float>(port) && open) {
+    m_main.TrackSetOff();
+    port = wanted;
+    m_main.TrackSetSetup();
+  }
+  port = wanted;
+  return std::nullopt;
+}
+
+OptionsStore::Fault OptionsStore::StoreSimulate(const OptionsForm& form) {
+  if (form.Simulate != m_main.m_bSimulate) {
+    m_main.TrackSetOff();
+    m_main.m_bSimulate = form.Simulate;
+    m_main.TrackSetSetup();
+  }
+  if (const Fault fault = StoreSingles({{form.SimulateBoatSpeed, m_main.m_fSimulateBoatSpeed},
+                                        {form.SimulateCompassOffset, m_main.m_fSimulateCompassOffset},
+                                        {form.SimulateNoiseAngle, m_main.m_fSimulateNoiseAngle},
+                                        {form.SimulateNoiseSpeed, m_main.m_fSimulateNoiseSpeed}})) {
+    return fault;
+  }
+  if (const Fault fault = StoreTime(form.SimulateTime)) {
+    return fault;
+  }
+  return StoreSingles({{form.SimulateTrueWindAngle, m_main.m_fSimulateTrueWindAngle},
+                       {form.SimulateTrueWindSpeed, m_main.m_fSimulateTrueWindSpeed},
+                       {form.SimulateVariation, m_main.m_fSimulateVariation},
+                       {form.SimulateWaypointBrg, m_main.m_fSimulateWaypointBearing},
+                       {form.SimulateWaypointRng, m_main.m_fSimulateWaypointRange}});
+}
+
+OptionsStore::Fault OptionsStore::StoreTime(const std::string& text) {
+  const Converted<float> time = SimulateTimeParse(text);
+  if (const auto* fault = std::get_if<OptionFault>(&time)) {
+    return *fault;
+  }
+  const float hours = std::get<float>(time);
+  if (hours != m_main.m_fSimulateTime) {
+    // The boat moves by the difference.
+    float bearing = 0.0F;
+    float range = 0.0F;
+    m_main.SimulateTime(hours, bearing, range);
+    m_main.m_fSimulateTime = hours;
+  }
+  return std::nullopt;
+}
+
+OptionsStore::Fault OptionsStore::StoreTracking(const OptionsForm& form) {
+  m_main.m_bTrackAlarm = form.TrackAlarm;
+  return StoreSingles({{form.TrackAlarmLimit, m_main.m_fTrackAlarmLimit, Range::NotNegative},
+                       {form.TrackBandwidth, m_main.m_fTrackBandwidth, Range::Positive},
+                       {form.TrackDamping, m_main.m_fTrackDamping, Range::NotNegative},
+                       {form.TrackMaxSteerTo, m_main.m_fTrackMaxSteerTo}});
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,54 @@
+// Stores the form of the options dialog in the settings, group by group, and restarts what works on another
+// port or on the simulator then.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "app/MainWindowApi.h"
+#include "options/OptionNumber.h"
+#include "options/OptionsForm.h"
+
+namespace veerwatch {
+
+/// Which ports are open now.
+class OptionsPorts {
+ public:
+  virtual ~OptionsPorts() = default;
+  /// The port that the instruments are read from.
+  virtual bool NmeaPortOpen() const = 0;
+  /// The port that the autopilot is written to: with equal port numbers that of the instruments.
+  virtual bool PilotPortOpen() const = 0;
+};
+
+class OptionsStore {
+ public:
+  /// Both outlive this.
+  OptionsStore(MainWindowApi& main, const OptionsPorts& ports) : m_main(main), m_ports(ports) {}
+
+  /// Stores the groups "Data", "Input", "Output", "Simulate" and "Tracking" in this order. Stops at the first
+  /// text that cannot be stored and gives the message for it, as "Input Options Problem Type mismatch"; what
+  /// was stored before stays stored. Nothing when everything is stored.
+  /// Refused are a port below 1, a bandwidth that is not above 0, and a damping, an average or an alarm limit
+  /// below 0. A port is compared as a number, so "1.0" is port 1 and restarts nothing; a text that is no port
+  /// restarts nothing either.
+  std::optional<std::string> Store(const OptionsForm& form);
+
+ private:
+  /// Nothing when it is stored.
+  using Fault = std::optional<OptionFault>;
+
+  Fault StoreData(const OptionsForm& form);
+  Fault StoreInput(const OptionsForm& form);
+  Fault StoreOutput(const OptionsForm& form);
+  Fault StoreSimulate(const OptionsForm& form);
+  Fault StoreTracking(const OptionsForm& form);
+  Fault StorePort(const std::string& text, bool open, std::int16_t& port);
+  Fault StoreTime(const std::string& text);
+
+  MainWindowApi& m_main;
+  const OptionsPorts& m_ports;
+};
+
+}  // namespace veerwatch

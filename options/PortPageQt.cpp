@@ -1,0 +1,90 @@
+#include "options/PortPageQt.h"
+
+#include <QButtonGroup>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace veerwatch {
+
+namespace {
+
+QRadioButton* NewOption(const char* caption, const PortPageTexts::Control& texts, QWidget* parent) {
+  auto* option = new QRadioButton(QLatin1String(caption), parent);
+  NameControl(*option, texts.Name, texts.Hint);
+  return option;
+}
+
+/// A row of options of which the first is chosen.
+QHBoxLayout* OptionRow(const std::array<QRadioButton*, 2>& options, QWidget* parent) {
+  auto* group = new QButtonGroup(parent);
+  auto* row = new QHBoxLayout;
+  for (QRadioButton* option : options) {
+    group->addButton(option);
+    row->addWidget(option);
+  }
+  options[0]->setChecked(true);
+  row->addStretch();
+  return row;
+}
+
+}  // namespace
+
+const PortPageTexts& InputPageTexts() {
+  static constexpr PortPageTexts kTexts{
+      {"txtNmeaPort", "Input Comm Port"},
+      {"lblNmeaStatus", "Input Comm Status"},
+      {"optNmeaListOff", "Input Display Comm Data - Off"},
+      {"optNmeaListOn", "Input Display Comm Data - On"},
+      // Deliberate: "Nema".
+      {"lstNmeaData", "Input Nema Data, Highlighted indicates Decoded Data"},
+      {{{"optNmeaDataFormat(1)", "Display Data Format - Raw NMEA"},
+        {"optNmeaDataFormat(2)", "Display Data Format - Decoded Error"}}},
+      {"&Raw NMEA", "D&ecoded Error"}};
+  return kTexts;
+}
+
+const PortPageTexts& OutputPageTexts() {
+  // Deliberate: "OptPilotListOff" begins with a capital letter.
+  static constexpr PortPageTexts kTexts{{"txtPilotPort", "Output Comm Port"},
+                                        {"lblPilotStatus", "Output Comm Status"},
+                                        {"OptPilotListOff", "Output Display Comm Data - Off"},
+                                        {"optPilotListOn", "Output Display Comm Data - On"},
+                                        {"lstPilotData", "Output Nema Data"}};
+  return kTexts;
+}
+
+PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
+    : QWidget(parent),
+      Port(new OptionEntryQt(texts.Port.Name, texts.Port.Hint, this)),
+      Status(new QLabel(this)),
+      ListOff(NewOption("Of&f", texts.ListOff, this)),
+      ListOn(NewOption("O&n", texts.ListOn, this)) {
+  NameControl(*Status, texts.Status.Name, texts.Status.Hint);
+  Status->setAccessibleName(QLatin1String(texts.Status.Hint));
+  Status->setTextFormat(Qt::PlainText);
+
+  auto* port = new QHBoxLayout;
+  port->addWidget(Port);
+  port->addSpacing(kGroupGap / 2);
+  port->addWidget(Status, 1);
+  auto* rows = new QGridLayout;
+  rows->setColumnStretch(1, 1);
+  rows->addWidget(NewCaption("&Comm:", Port, this), 0, 0);
+  rows->addLayout(port, 0, 1);
+  rows->addWidget(NewText("Display:", this), 1, 0);
+  rows->addLayout(OptionRow({ListOff, ListOn}, this), 1, 1);
+  if (texts.Format[0].Name != nullptr) {
+    for (std::size_t i = 0; i < Format.size(); ++i) {
+      Format[i] = NewOption(texts.FormatCaption[i], texts.Format[i], this);
+    }
+    rows->addWidget(NewText("Format:", this), 2, 0);
+    rows->addLayout(OptionRow(Format, this), 2, 1);
+  }
+  List = new LiveListQt(texts.List.Name, texts.List.Hint, this);
+  auto* page = new QVBoxLayout(this);
+  page->addLayout(rows);
+  page->addWidget(List, 1);
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,49 @@
+#include "options/SentenceListQt.h"
+
+#include <QHeaderView>
+#include <utility>
+
+namespace veerwatch {
+
+SentenceListQt::SentenceListQt(QWidget* parent) : QTreeWidget(parent) {
+  setObjectName(QStringLiteral("lstNmeaSentence"));
+  setAccessibleName(QStringLiteral("Nmea Sentences"));
+  setHeaderLabel(QStringLiteral("Nmea Sentences"));
+  setRootIsDecorated(false);
+  setUniformRowHeights(true);
+  setSelectionMode(NoSelection);
+  header()->setSectionsMovable(false);
+  for (const OptionSentence& sentence : kOptionSentences) {
+    auto* row = new QTreeWidgetItem(this, {QString::fromLatin1(sentence.Text)});
+    row->setData(0, Qt::UserRole, QString::fromLatin1(sentence.Key));
+    row->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+    row->setCheckState(0, Qt::Unchecked);
+  }
+  setCurrentItem(topLevelItem(0));
+}
+
+void SentenceListQt::Show(const OptionsForm& form) {
+  for (std::size_t i = 0; i < form.NmeaSentence.size(); ++i) {
+    topLevelItem(static_cast<int>(i))->setCheckState(0, form.NmeaSentence[i] ? Qt::Checked : Qt::Unchecked);
+  }
+}
+
+void SentenceListQt::Read(OptionsForm& form) const {
+  for (std::size_t i = 0; i < form.NmeaSentence.size(); ++i) {
+    form.NmeaSentence[i] = topLevelItem(static_cast<int>(i))->checkState(0) == Qt::Checked;
+  }
+}
+
+void SentenceListQt::Changed(std::function<void()> handler) {
+  connect(this, &QTreeWidget::itemChanged, this, [tell = std::move(handler)] { tell(); });
+}
+
+QSize SentenceListQt::minimumSizeHint() const {
+  int height = header()->sizeHint().height() + 2 * frameWidth();
+  for (int row = 0; row < topLevelItemCount(); ++row) {
+    height += sizeHintForRow(row);
+  }
+  return {sizeHintForColumn(0) + 2 * frameWidth(), height};
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,185 @@
+#include "options/SimulatePageQt.h"
+
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QVBoxLayout>
+#include <algorithm>
+
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr const char* kTimeHint = "Move Ahead in Time (h:mm)";
+
+/// Two arrows, one above the other, and nothing between them.
+class SpinnerBarQt final : public QScrollBar {
+ public:
+  using QScrollBar::QScrollBar;
+  QSize sizeHint() const override {
+    const int text = QFontMetrics(font()).height();
+    return {std::max(text, style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this)), 2 * text};
+  }
+  QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
+QHBoxLayout* Row(std::initializer_list<QWidget*> widgets) {
+  auto* row = new QHBoxLayout;
+  for (QWidget* widget : widgets) {
+    row->addWidget(widget);
+  }
+  row->addStretch();
+  return row;
+}
+
+}  // namespace
+
+SimulatePageQt::SimulatePageQt(QWidget* parent)
+    : QWidget(parent),
+      chkSimulate(new QCheckBox(QStringLiteral("Simu&late Data"), this)),
+      frmSimulate(new QGroupBox(QStringLiteral("Data"), this)),
+      txtSimulateBoatSpeed(new OptionEntryQt("txtSimulateBoatSpeed", "Boat Speed (Kts)", this)),
+      txtSimulateTrueWindAngle(
+          new OptionEntryQt("txtSimulateTrueWindAngle", "True Wind Direction (T)", this)),
+      vscSimulateTrueWindAngle(NewSpinners("vscSimulateTrueWindAngle", "True Wind Direction (T)", "degrees")),
+      txtSimulateTrueWindSpeed(new OptionEntryQt("txtSimulateTrueWindSpeed", "True Wind Speed (Kts)", this)),
+      txtSimulateVariation(new OptionEntryQt("txtSimulateVariation", "Magnetic Variation (Deg)", this)),
+      txtSimulateCompassOffset(new OptionEntryQt("txtSimulateCompassOffset", "Compass Offset", this)),
+      txtSimulateNoiseSpeed(new OptionEntryQt("txtSimulateNoiseSpeed", "Added Random Noise (+/- Kts)", this)),
+      txtSimulateNoiseAngle(new OptionEntryQt("txtSimulateNoiseAngle", "Added Random Noise (+/- Deg)", this)),
+      txtSimulateWaypointBrg(new OptionEntryQt("txtSimulateWaypointBrg", "Waypoint Bearing (M)", this)),
+      txtSimulateWaypointRng(new OptionEntryQt("txtSimulateWaypointRng", "Waypoint Range (nm)", this)),
+      txtSimulateTime(new OptionEntryQt("txtSimulateTime", kTimeHint, this)),
+      vscSimulateTime(NewSpinners("vscSimulateTime", kTimeHint, "minutes")),
+      lblSimulateWaypointBrg(
+          new OptionResultQt("lblSimulateWaypointBrg", "Time, Waypoint Bearing (M)", this)),
+      // Deliberate: "(mn)", without a blank before it.
+      lblSimulateWaypointRng(new OptionResultQt("lblSimulateWaypointRng", "Time, Waypoint Range(mn)", this)),
+      chkSimulateAutoApply(new QCheckBox(QStringLiteral("A&uto Apply"), this)) {
+  NameControl(*chkSimulate, "chkSimulate", "Simulate Data");
+  NameControl(*chkSimulateAutoApply, "chkSimulateAutoApply", "Auto Apply");
+  frmSimulate->setObjectName(QStringLiteral("frmSimulate"));
+  QSizePolicy place = frmSimulate->sizePolicy();
+  place.setRetainSizeWhenHidden(true);
+  frmSimulate->setSizePolicy(place);
+  txtSimulateWaypointRng->setText(QStringLiteral("20.0"));
+  txtSimulateTime->setText(QStringLiteral("0.00"));
+  lblSimulateWaypointRng->setText(QStringLiteral("20.0"));
+  // A mnemonic then marks the change as a click does.
+  connect(chkSimulate, &QCheckBox::pressed, chkSimulate, [this] { chkSimulate->setFocus(); });
+  LayOut();
+}
+
+std::array<QScrollBar*, 2> SimulatePageQt::NewSpinners(const char* name, const char* hint, const char* unit) {
+  std::array<QScrollBar*, 2> bars{};
+  for (std::size_t i = 0; i < bars.size(); ++i) {
+    auto* bar = new SpinnerBarQt(Qt::Vertical, this);
+    NameControl(*bar, "", hint);
+    bar->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i));
+    bar->setAccessibleName(QStringLiteral("%1 %2").arg(i == 0 ? 10 : 1).arg(QLatin1String(unit)));
+    bar->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    bar->setRange(-1, 1);
+    bar->setPageStep(1);
+    bars[i] = bar;
+  }
+  return bars;
+}
+
+void SimulatePageQt::LayOut() {
+  auto* rows = new QGridLayout(frmSimulate);
+  const auto place = [this, rows](int row, int column, const char* caption, QWidget* named, QLayout* what) {
+    rows->addWidget(NewCaption(caption, named, this), row, column);
+    rows->addLayout(what, row, column + 1);
+  };
+  const auto spinning = [](OptionEntryQt* box, const std::array<QScrollBar*, 2>& bars) {
+    QHBoxLayout* row = Row({box, bars[0], bars[1]});
+    return row;
+  };
+  place(0, 0, "&Boat Speed (Kts)", txtSimulateBoatSpeed, Row({txtSimulateBoatSpeed}));
+  place(1, 0, "True &Wind Direction (T)", txtSimulateTrueWindAngle,
+        spinning(txtSimulateTrueWindAngle, vscSimulateTrueWindAngle));
+  place(2, 0, "True Wind S&peed (Kts)", txtSimulateTrueWindSpeed, Row({txtSimulateTrueWindSpeed}));
+  place(3, 0, "Magnetic &Variation (Deg)", txtSimulateVariation, Row({txtSimulateVariation}));
+  place(4, 0, "O&ffset (Deg)", txtSimulateCompassOffset, Row({txtSimulateCompassOffset}));
+  place(0, 3, "&Noise", txtSimulateNoiseSpeed, Row({txtSimulateNoiseSpeed, NewText("Kts", this)}));
+  place(1, 3, "Angl&e Noise", txtSimulateNoiseAngle, Row({txtSimulateNoiseAngle, NewText("Deg", this)}));
+  place(2, 3, "Wa&ypoint (M,nm)", txtSimulateWaypointBrg,
+        Row({txtSimulateWaypointBrg, txtSimulateWaypointRng}));
+  txtSimulateWaypointRng->setAccessibleName(QStringLiteral("Waypoint Range"));
+  place(3, 3, "Ti&me", txtSimulateTime, spinning(txtSimulateTime, vscSimulateTime));
+  rows->addLayout(Row({lblSimulateWaypointBrg, lblSimulateWaypointRng, NewText("M,nm", this)}), 4, 4);
+  rows->addWidget(chkSimulateAutoApply, 5, 4);
+  rows->setColumnMinimumWidth(2, kGroupGap);
+  rows->setColumnStretch(5, 1);
+  auto* page = new QVBoxLayout(this);
+  page->addWidget(chkSimulate);
+  page->addWidget(frmSimulate);
+  page->addStretch();
+}
+
+void SimulatePageQt::Show(const OptionsForm& form) {
+  frmSimulate->setVisible(form.Simulate);
+  chkSimulate->setChecked(form.Simulate);
+  txtSimulateBoatSpeed->setText(QString::fromStdString(form.SimulateBoatSpeed));
+  txtSimulateCompassOffset->setText(QString::fromStdString(form.SimulateCompassOffset));
+  txtSimulateNoiseAngle->setText(QString::fromStdString(form.SimulateNoiseAngle));
+  txtSimulateNoiseSpeed->setText(QString::fromStdString(form.SimulateNoiseSpeed));
+  txtSimulateTime->setText(QString::fromStdString(form.SimulateTime));
+  txtSimulateTrueWindAngle->setText(QString::fromStdString(form.SimulateTrueWindAngle));
+  txtSimulateTrueWindSpeed->setText(QString::fromStdString(form.SimulateTrueWindSpeed));
+  txtSimulateVariation->setText(QString::fromStdString(form.SimulateVariation));
+  txtSimulateWaypointBrg->setText(QString::fromStdString(form.SimulateWaypointBrg));
+  txtSimulateWaypointRng->setText(QString::fromStdString(form.SimulateWaypointRng));
+}
+
+void SimulatePageQt::Read(OptionsForm& form) const {
+  form.Simulate = chkSimulate->isChecked();
+  form.SimulateBoatSpeed = txtSimulateBoatSpeed->text().toStdString();
+  form.SimulateCompassOffset = txtSimulateCompassOffset->text().toStdString();
+  form.SimulateNoiseAngle = txtSimulateNoiseAngle->text().toStdString();
+  form.SimulateNoiseSpeed = txtSimulateNoiseSpeed->text().toStdString();
+  form.SimulateTime = txtSimulateTime->text().toStdString();
+  form.SimulateTrueWindAngle = txtSimulateTrueWindAngle->text().toStdString();
+  form.SimulateTrueWindSpeed = txtSimulateTrueWindSpeed->text().toStdString();
+  form.SimulateVariation = txtSimulateVariation->text().toStdString();
+  form.SimulateWaypointBrg = txtSimulateWaypointBrg->text().toStdString();
+  form.SimulateWaypointRng = txtSimulateWaypointRng->text().toStdString();
+}
+
+void SimulatePageQt::ShowWaypoint(float bearing, float range) {
+  lblSimulateWaypointBrg->setText(QString::fromStdString(FormatNumber(bearing, "0")));
+  lblSimulateWaypointRng->setText(QString::fromStdString(FormatNumber(range, "0.0")));
+}
+
+void SimulatePageQt::OnSpinner(QScrollBar* bar, OptionEntryQt* box, SpinnerStep size, Step step,
+                               const std::function<void()>& told) {
+  connect(bar, &QScrollBar::valueChanged, this, [bar, box, size, step, told](int scroll) {
+    bar->setEnabled(false);
+    box->setText(QString::fromStdString(step(box->text().toStdString(), size, scroll)));
+    {
+      const QSignalBlocker quiet(bar);
+      bar->setValue(0);
+    }
+    bar->setEnabled(true);
+    told();
+  });
+}
+
+void SimulatePageQt::Stepped(std::function<void()> time, std::function<void()> angle) {
+  for (const SpinnerStep size : {SpinnerStep::Coarse, SpinnerStep::Fine}) {
+    const auto index = static_cast<std::size_t>(size);
+    OnSpinner(vscSimulateTime[index], txtSimulateTime, size, SimulateTimeStep, time);
+    OnSpinner(vscSimulateTrueWindAngle[index], txtSimulateTrueWindAngle, size, SimulateAngleStep, angle);
+  }
+}
+
+std::array<OptionEntryQt*, 10> SimulatePageQt::Marking() const {
+  return {txtSimulateBoatSpeed,  txtSimulateCompassOffset, txtSimulateTrueWindAngle, txtSimulateTrueWindSpeed,
+          txtSimulateVariation,  txtSimulateWaypointBrg,   txtSimulateWaypointRng,   txtSimulateTime,
+          txtSimulateNoiseAngle, txtSimulateNoiseSpeed};
+}
+
+}  // namespace veerwatch

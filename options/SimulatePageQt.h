@@ -1,0 +1,60 @@
+// The Simulate page of the options dialog: the simulated boat, its wind and its waypoint.
+#pragma once
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QScrollBar>
+#include <array>
+#include <functional>
+
+#include "options/OptionControlsQt.h"
+#include "options/OptionsForm.h"
+#include "options/SimulateSpinner.h"
+
+namespace veerwatch {
+
+class SimulatePageQt final : public QWidget {
+ public:
+  explicit SimulatePageQt(QWidget* parent);
+
+  /// Also shows or hides the boxes: they are there while the simulator is on.
+  void Show(const OptionsForm& form);
+  void Read(OptionsForm& form) const;
+
+  /// Shows the waypoint at the time in the box.
+  void ShowWaypoint(float bearing, float range);
+
+  /// Whom to tell when the time, or the angle, was stepped with a scroll bar.
+  void Stepped(std::function<void()> time, std::function<void()> angle);
+
+  /// The boxes whose change leaves something to apply.
+  std::array<OptionEntryQt*, 10> Marking() const;
+
+  QCheckBox* chkSimulate;
+  QGroupBox* frmSimulate;
+  OptionEntryQt* txtSimulateBoatSpeed;
+  OptionEntryQt* txtSimulateTrueWindAngle;
+  std::array<QScrollBar*, 2> vscSimulateTrueWindAngle;  ///< coarse, fine
+  OptionEntryQt* txtSimulateTrueWindSpeed;
+  OptionEntryQt* txtSimulateVariation;
+  OptionEntryQt* txtSimulateCompassOffset;
+  OptionEntryQt* txtSimulateNoiseSpeed;
+  OptionEntryQt* txtSimulateNoiseAngle;
+  OptionEntryQt* txtSimulateWaypointBrg;
+  OptionEntryQt* txtSimulateWaypointRng;
+  OptionEntryQt* txtSimulateTime;
+  std::array<QScrollBar*, 2> vscSimulateTime;  ///< coarse, fine
+  OptionResultQt* lblSimulateWaypointBrg;
+  OptionResultQt* lblSimulateWaypointRng;
+  QCheckBox* chkSimulateAutoApply;
+
+ private:
+  using Step = std::string (*)(std::string_view, SpinnerStep, int);
+
+  std::array<QScrollBar*, 2> NewSpinners(const char* name, const char* hint, const char* unit);
+  void LayOut();
+  void OnSpinner(QScrollBar* bar, OptionEntryQt* box, SpinnerStep size, Step step,
+                 const std::function<void()>& told);
+};
+
+}  // namespace veerwatch

@@ -1,0 +1,133 @@
+#include "options/TrackPageQt.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+
+namespace veerwatch {
+
+namespace {
+
+// Deliberate: the bounds carry the hint of the time.
+constexpr const char* kTimeHint = "Track Time (sec)";
+
+OptionEntryQt* NewPreviewEntry(const char* name, const char* hint, const char* text, QWidget* parent) {
+  auto* box = new OptionEntryQt(name, hint, parent);
+  box->setText(QLatin1String(text));
+  return box;
+}
+
+}  // namespace
+
+TrackPageQt::TrackPageQt(RandomSource& random, QWidget* parent)
+    : QWidget(parent),
+      chkTrackAlarm(new QCheckBox(QStringLiteral("Tracking A&larm"), this)),
+      txtTrackAlarmLimit(
+          new OptionEntryQt("txtTrackAlarmLimit", "Tracking Alarm Limit (deg, +/- from Desired)", this)),
+      txtTrackBandwidth(new OptionEntryQt("txtTrackBandwidth", "Tracking Bandwidth (sec)", this)),
+      txtTrackDamping(new OptionEntryQt("txtTrackDamping", "Tracking Damping Factor (default=1)", this)),
+      txtTrackMaxSteerTo(new OptionEntryQt("txtTrackMaxSteerTo", "Range (deg)", this)),
+      txtTrackOffset(NewPreviewEntry("txtTrackOffset", "Initial Track Offset  (deg)", "10", this)),
+      txtTrackNoise(NewPreviewEntry("txtTrackNoise", "Added Random Noise (+/- Deg)", "1", this)),
+      txtTrackTime(NewPreviewEntry("txtTrackTime", kTimeHint, "120", this)),
+      txtTrackMin(NewPreviewEntry("txtTrackMin", kTimeHint, "-5", this)),
+      txtTrackMax(NewPreviewEntry("txtTrackMax", kTimeHint, "15", this)),
+      pctTrack(new TrackPreviewQt(random, this)) {
+  NameControl(*chkTrackAlarm, "chkTrackAlarm", "Tracking Alarm");
+  txtTrackAlarmLimit->setAccessibleName(QStringLiteral("Alarm Limit"));
+  txtTrackMin->setAccessibleName(QStringLiteral("Lowest Bearing"));
+  txtTrackMax->setAccessibleName(QStringLiteral("Highest Bearing"));
+  auto* page = new QVBoxLayout(this);
+  page->addWidget(NewOptions());
+  page->addWidget(NewResponse(), 1);
+  pctTrack->Resized([this] { TrackPreviewDraw(); });
+}
+
+QWidget* TrackPageQt::NewOptions() {
+  auto* frame = new QGroupBox(QStringLiteral("Tracking Options"), this);
+  auto* rows = new QGridLayout(frame);
+  rows->addWidget(NewText("Alarm:", this), 0, 0);
+  rows->addWidget(chkTrackAlarm, 0, 1, 1, 2);
+  rows->addWidget(NewText("+/-", this), 0, 4, Qt::AlignRight);
+  rows->addWidget(txtTrackAlarmLimit, 0, 5);
+  rows->addWidget(NewText("deg", this), 0, 6);
+  rows->addWidget(NewCaption("&Bandwidth:", txtTrackBandwidth, this), 1, 0);
+  rows->addWidget(txtTrackBandwidth, 1, 1);
+  rows->addWidget(NewText("sec", this), 1, 2);
+  rows->addWidget(NewCaption("Max Steer To without &Prompt:", txtTrackMaxSteerTo, this), 1, 4,
+                  Qt::AlignRight);
+  rows->addWidget(txtTrackMaxSteerTo, 1, 5);
+  rows->addWidget(NewText("deg", this), 1, 6);
+  rows->addWidget(NewCaption("Da&mping:", txtTrackDamping, this), 2, 0);
+  rows->addWidget(txtTrackDamping, 2, 1);
+  rows->setColumnMinimumWidth(3, kGroupGap);
+  rows->setColumnStretch(7, 1);
+  return frame;
+}
+
+QWidget* TrackPageQt::NewResponse() {
+  // Deliberate: "Responce".
+  auto* frame = new QGroupBox(QStringLiteral("Tracking Responce"), this);
+  auto* inputs = new QHBoxLayout;
+  const auto input = [this, inputs](const char* caption, OptionEntryQt* box, const char* unit) {
+    inputs->addWidget(NewCaption(caption, box, this));
+    inputs->addWidget(box);
+    inputs->addWidget(NewText(unit, this));
+    inputs->addSpacing(kGroupGap);
+  };
+  input("O&ffset", txtTrackOffset, "deg");
+  input("&Noise", txtTrackNoise, "deg");
+  input("Tim&e", txtTrackTime, "sec");
+  inputs->addStretch();
+  // The bounds of the plot stand at its ends.
+  auto* bounds = new QVBoxLayout;
+  bounds->addWidget(txtTrackMax);
+  bounds->addStretch();
+  bounds->addWidget(NewText("deg", this), 0, Qt::AlignRight);
+  bounds->addStretch();
+  bounds->addWidget(txtTrackMin);
+  auto* plot = new QHBoxLayout;
+  plot->addLayout(bounds);
+  plot->addWidget(pctTrack, 1);
+  auto* rows = new QVBoxLayout(frame);
+  rows->addLayout(inputs);
+  rows->addLayout(plot, 1);
+  return frame;
+}
+
+void TrackPageQt::Show(const OptionsForm& form) {
+  chkTrackAlarm->setChecked(form.TrackAlarm);
+  txtTrackAlarmLimit->setText(QString::fromStdString(form.TrackAlarmLimit));
+  txtTrackBandwidth->setText(QString::fromStdString(form.TrackBandwidth));
+  txtTrackDamping->setText(QString::fromStdString(form.TrackDamping));
+  txtTrackMaxSteerTo->setText(QString::fromStdString(form.TrackMaxSteerTo));
+}
+
+void TrackPageQt::Read(OptionsForm& form) const {
+  form.TrackAlarm = chkTrackAlarm->isChecked();
+  form.TrackAlarmLimit = txtTrackAlarmLimit->text().toStdString();
+  form.TrackBandwidth = txtTrackBandwidth->text().toStdString();
+  form.TrackDamping = txtTrackDamping->text().toStdString();
+  form.TrackMaxSteerTo = txtTrackMaxSteerTo->text().toStdString();
+}
+
+void TrackPageQt::TrackPreviewDraw() {
+  TrackPreviewTexts texts;
+  texts.Bandwidth = txtTrackBandwidth->text().toStdString();
+  texts.Damping = txtTrackDamping->text().toStdString();
+  texts.Offset = txtTrackOffset->text().toStdString();
+  texts.Noise = txtTrackNoise->text().toStdString();
+  texts.Time = txtTrackTime->text().toStdString();
+  texts.Min = txtTrackMin->text().toStdString();
+  texts.Max = txtTrackMax->text().toStdString();
+  pctTrack->Draw(texts);
+}
+
+std::array<OptionEntryQt*, 8> TrackPageQt::Marking() const {
+  // Deliberate: txtTrackMaxSteerTo is not one of them.
+  return {txtTrackAlarmLimit, txtTrackBandwidth, txtTrackDamping, txtTrackOffset,
+          txtTrackMin,        txtTrackMax,       txtTrackTime,    txtTrackNoise};
+}
+
+}  // namespace veerwatch

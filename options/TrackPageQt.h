@@ -1,0 +1,46 @@
+// The Tracking page of the options dialog: the constants of the loop, and a preview of how it responds with
+// them.
+#pragma once
+
+#include <QCheckBox>
+#include <array>
+
+#include "options/OptionControlsQt.h"
+#include "options/OptionsForm.h"
+#include "options/TrackPreviewQt.h"
+#include "platform/Random.h"
+
+namespace veerwatch {
+
+class TrackPageQt final : public QWidget {
+ public:
+  TrackPageQt(RandomSource& random, QWidget* parent);
+
+  void Show(const OptionsForm& form);
+  void Read(OptionsForm& form) const;
+
+  /// Draws the preview with what stands in its boxes.
+  void TrackPreviewDraw();
+
+  /// The boxes whose change leaves something to apply.
+  std::array<OptionEntryQt*, 8> Marking() const;
+
+  QCheckBox* chkTrackAlarm;
+  OptionEntryQt* txtTrackAlarmLimit;
+  OptionEntryQt* txtTrackBandwidth;
+  OptionEntryQt* txtTrackDamping;
+  OptionEntryQt* txtTrackMaxSteerTo;
+  // Of the preview alone.
+  OptionEntryQt* txtTrackOffset;
+  OptionEntryQt* txtTrackNoise;
+  OptionEntryQt* txtTrackTime;
+  OptionEntryQt* txtTrackMin;
+  OptionEntryQt* txtTrackMax;
+  TrackPreviewQt* pctTrack;
+
+ private:
+  QWidget* NewOptions();
+  QWidget* NewResponse();
+};
+
+}  // namespace veerwatch

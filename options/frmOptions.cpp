@@ -1,0 +1,348 @@
+#include "options/frmOptions.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QLayout>
+#include <QScreen>
+#include <algorithm>
+#include <initializer_list>
+
+#include "options/LoopDiagramQt.h"
+#include "options/SimulateTimeText.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr int kTwipsPerPixel = 15;
+// Around the tabs and the buttons, and between two buttons [px].
+constexpr int kMargin = 120 / kTwipsPerPixel;
+constexpr int kGap = 240 / kTwipsPerPixel;
+
+constexpr QSize kUsualSize(880, 640);
+constexpr double kScreenShare = 0.94;
+/// How much larger than the desktop's the texts are, to be read standing.
+constexpr double kTextShare = 1.15;
+
+QString Text(std::string_view text) {
+  return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+}  // namespace
+
+frmOptions::frmOptions(const Parts& parts)
+    : m_parts(parts), m_store(parts.Main, parts.Ports), SSTab(new QTabWidget(this)) {
+  setObjectName(QStringLiteral("frmOptions"));
+  setWindowTitle(QStringLiteral("Veerwatch - Options"));
+  setWindowFlags(Qt::Window);
+  setAttribute(Qt::WA_QuitOnClose, false);
+  LargerText();
+  MakeTabs();
+  MakeButtons();
+  ConnectMarks();
+  connect(SSTab, &QTabWidget::currentChanged, this, [this](int index) { SSTab_Click(index); });
+  m_simulate->Stepped(
+      [this] {
+        SimulateWaypointShow();
+        vscSimulate_Changed();
+      },
+      [this] { vscSimulate_Changed(); });
+  OptionsReload();
+  Fit();
+  const QSize screenRoom = screen()->availableSize() * kScreenShare;
+  resize(kUsualSize.expandedTo(minimumSize()).boundedTo(screenRoom));
+}
+
+// What it is made of
+
+void frmOptions::MakeTabs() {
+  SSTab->setObjectName(QStringLiteral("SSTab"));
+  m_input = new PortPageQt(InputPageTexts(), SSTab);
+  m_data = new DataPageQt(SSTab);
+  m_output = new PortPageQt(OutputPageTexts(), SSTab);
+  m_track = new TrackPageQt(m_parts.Random, SSTab);
+  m_simulate = new SimulatePageQt(SSTab);
+  SSTab->addTab(m_input, QStringLiteral("&Input"));
+  SSTab->addTab(m_data, QStringLiteral("&Data"));
+  SSTab->addTab(m_output, QStringLiteral("&Output"));
+  SSTab->addTab(new OptionPageQt(m_track, SSTab), QStringLiteral("&Tracking"));
+  SSTab->addTab(new OptionPageQt(m_simulate, SSTab), QStringLiteral("&Simulate"));
+  SSTab->addTab(new LoopDiagramQt(SSTab), QStringLiteral("Dia&gram"));
+  for (QRadioButton* option : m_input->Format) {
+    connect(option, &QRadioButton::clicked, this, [this] { NmeaListClear(); });
+    connect(option, &QRadioButton::toggled, this, [this] { NmeaListClear(); });
+  }
+  lstNmeaSentence = new SentenceListQt(this);
+  lstNmeaSentence->hide();
+  m_data->SentencePlace->setMinimumSize(lstNmeaSentence->minimumSizeHint());
+  m_data->SentencePlace->installEventFilter(this);
+  setTabOrder(m_data->txtNmeaTrueWindAverage, lstNmeaSentence);
+}
+
+void frmOptions::MakeButtons() {
+  const auto button = [this](const char* name, const char* text) {
+    auto* made = new QPushButton(QLatin1String(text), this);
+    made->setObjectName(QLatin1String(name));
+    made->setAutoDefault(false);
+    return made;
+  };
+  cmdOk = button("cmdOk", "OK");
+  cmdCancel = button("cmdCancel", "Cancel");
+  cmdApply = button("cmdApply", "&Apply");
+  cmdOk->setDefault(true);
+  connect(cmdOk, &QPushButton::clicked, this, [this] { cmdOk_Click(); });
+  connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
+  connect(cmdApply, &QPushButton::clicked, this, [this] { cmdApply_Click(); });
+}
+
+void frmOptions::ConnectMarks() {
+  const auto marks = [this](OptionEntryQt* box) {
+    connect(box, &QLineEdit::textChanged, this, [this, box] { Mark(box); });
+  };
+  for (OptionEntryQt* box :
+       {m_input->Port, m_data->txtNmeaTrueWindAverage, m_data->txtNmeaWindIndicatorAverage, m_output->Port}) {
+    marks(box);
+  }
+  for (OptionEntryQt* box : m_simulate->Marking()) {
+    marks(box);
+  }
+  for (OptionEntryQt* box : m_track->Marking()) {
+    marks(box);
+  }
+  connect(m_simulate->chkSimulate, &QCheckBox::toggled, this, [this] { Mark(m_simulate->chkSimulate); });
+  lstNmeaSentence->Changed([this] { Mark(lstNmeaSentence); });
+}
+
+// Its layout
+
+void frmOptions::LargerText() {
+  QFont larger = QApplication::font();
+  if (larger.pixelSize() > 0) {
+    larger.setPixelSize(qRound(larger.pixelSize() * kTextShare));
+  } else {
+    larger.setPointSizeF(larger.pointSizeF() * kTextShare);
+  }
+  setFont(larger);
+}
+
+QSize frmOptions::LeastSize() const {
+  const QSize tabs = SSTab->minimumSizeHint();
+  const int buttons = cmdOk->width() + cmdCancel->width() + cmdApply->width() + 2 * kGap;
+  return {std::max(tabs.width(), buttons) + 2 * kMargin,
+          kMargin + tabs.height() + kMargin + cmdApply->height() + kMargin};
+}
+
+void frmOptions::Fit() {
+  // All three as large as the largest, with room for a bold text.
+  QSize size(0, 0);
+  for (const QPushButton* button : {cmdOk, cmdCancel, cmdApply}) {
+    QFont bold = button->font();
+    bold.setBold(true);
+    const int text = button->fontMetrics().horizontalAdvance(button->text());
+    const int larger = QFontMetrics(bold).horizontalAdvance(button->text()) - text;
+    size = size.expandedTo(button->sizeHint() + QSize(larger, 0));
+  }
+  for (QPushButton* button : {cmdOk, cmdCancel, cmdApply}) {
+    button->resize(size);
+  }
+  m_data->SentencePlace->setMinimumSize(lstNmeaSentence->minimumSizeHint());
+  setMinimumSize(LeastSize().boundedTo(screen()->availableSize() * kScreenShare));
+  LayOut();
+}
+
+void frmOptions::LayOut() {
+  const int top = height() - kMargin - cmdApply->height();
+  cmdApply->move(width() - kMargin - cmdApply->width(), top);
+  cmdCancel->move(cmdApply->x() - kGap - cmdCancel->width(), top);
+  cmdOk->move(cmdCancel->x() - kGap - cmdOk->width(), top);
+  SSTab->setGeometry(kMargin, kMargin, width() - 2 * kMargin, top - 2 * kMargin);
+  // The lists end a margin off the edges of the tab control, not off those of the page in it.
+  const QWidget* shown = SSTab->currentWidget();
+  const QRect page(shown->mapTo(SSTab, QPoint(0, 0)), shown->size());
+  const QMargins margins(kMargin - page.left(), kGap, kMargin - (SSTab->width() - page.right() - 1),
+                         kMargin - (SSTab->height() - page.bottom() - 1));
+  for (const QWidget* listPage : std::initializer_list<const QWidget*>{m_input, m_data, m_output}) {
+    listPage->layout()->setContentsMargins(margins);
+  }
+}
+
+void frmOptions::ShowCenter() {
+  const QRect display = screen()->geometry();
+  ShowAt({display.left() + (display.width() - frameGeometry().width()) / 2,
+          std::max(display.top(), display.top() + (display.height() - frameGeometry().height()) / 2)});
+}
+
+void frmOptions::ShowAt(QPoint topLeft) {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  move(topLeft);
+  show();
+  raise();
+  activateWindow();
+}
+
+// What the ports tell
+
+void frmOptions::NmeaError(std::string_view line) {
+  if (isVisible() && m_input->Format[1]->isChecked()) {
+    NmeaList(line, false);
+  }
+}
+
+void frmOptions::NmeaData(std::string_view line, bool checked) {
+  if (isVisible() && m_input->Format[0]->isChecked()) {
+    NmeaList(line, checked);
+  }
+}
+
+void frmOptions::NmeaList(std::string_view line, bool checked) {
+  if (isVisible() && m_input->ListOn->isChecked()) {
+    m_input->List->Add(line, checked);
+  }
+}
+
+void frmOptions::PilotData(std::string_view line) {
+  if (isVisible() && m_output->ListOn->isChecked() && SSTab->isTabEnabled(Output)) {
+    m_output->List->Add(line, false);
+  }
+}
+
+void frmOptions::NmeaStatus(std::string_view text) { m_input->Status->setText(Text(text)); }
+
+void frmOptions::PilotStatus(std::string_view text) { m_output->Status->setText(Text(text)); }
+
+// Settings to controls and back
+
+OptionsForm frmOptions::Form() const {
+  OptionsForm form;
+  m_data->Read(form);
+  lstNmeaSentence->Read(form);
+  form.NmeaPort = m_input->Port->text().toStdString();
+  form.PilotPort = m_output->Port->text().toStdString();
+  m_simulate->Read(form);
+  m_track->Read(form);
+  return form;
+}
+
+void frmOptions::OptionsReload() {
+  const OptionsForm form = OptionsFormOf(m_parts.Main);
+  m_data->Show(form);
+  lstNmeaSentence->Show(form);
+  m_input->Port->setText(QString::fromStdString(form.NmeaPort));
+  m_output->Port->setText(QString::fromStdString(form.PilotPort));
+  m_input->List->Clear();
+  m_output->List->Clear();
+  m_simulate->Show(form);
+  m_track->Show(form);
+  SimulateWaypointShow();
+  ApplyBold(false);
+}
+
+bool frmOptions::OptionsApply() {
+  if (const auto problem = m_store.Store(Form())) {
+    m_parts.Asks.Inform(kApplicationTitle, *problem);
+    return false;
+  }
+  ApplyBold(false);
+  return true;
+}
+
+void frmOptions::SimulateWaypointShow() {
+  const Converted<float> time = SimulateTimeParse(m_simulate->txtSimulateTime->text().toStdString());
+  const float* hours = std::get_if<float>(&time);
+  float bearing = 0.0F;
+  float range = 0.0F;
+  m_parts.Main.SimulateTime(hours != nullptr ? *hours : 0.0F, bearing, range);
+  m_simulate->ShowWaypoint(bearing, range);
+}
+
+// What the user does
+
+void frmOptions::cmdOk_Click() {
+  if (OptionsApply()) {
+    hide();
+  }
+}
+
+void frmOptions::cmdCancel_Click() {
+  hide();
+  ApplyBold(false);
+}
+
+void frmOptions::cmdApply_Click() {
+  if (OptionsApply()) {
+    OptionsReload();
+  }
+  if (SSTab->currentIndex() == Tracking) {
+    m_track->TrackPreviewDraw();
+  }
+}
+
+void frmOptions::SSTab_Click(int index) {
+  lstNmeaSentence->setVisible(index == Data);
+  if (index == Data) {
+    lstNmeaSentence->raise();
+  } else if (index == Tracking) {
+    m_track->TrackPreviewDraw();
+  }
+}
+
+void frmOptions::vscSimulate_Changed() {
+  if (m_simulate->chkSimulateAutoApply->isChecked()) {
+    cmdApply_Click();
+  } else {
+    ApplyBold(true);
+  }
+}
+
+void frmOptions::Mark(const QWidget* control) {
+  if (control == QApplication::focusWidget()) {
+    ApplyBold(true);
+  }
+}
+
+void frmOptions::ApplyBold(bool bold) {
+  QFont font = cmdApply->font();
+  font.setBold(bold);
+  cmdApply->setFont(font);
+}
+
+// What the desktop does
+
+void frmOptions::closeEvent(QCloseEvent* event) {
+  event->accept();
+  hide();
+  if (m_closed) {
+    m_closed();
+  }
+}
+
+void frmOptions::resizeEvent(QResizeEvent* event) {
+  QDialog::resizeEvent(event);
+  LayOut();
+}
+
+void frmOptions::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::ApplicationFontChange) {
+    LargerText();
+  }
+}
+
+bool frmOptions::event(QEvent* event) {
+  const bool handled = QDialog::event(event);
+  if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) {
+    Fit();
+  }
+  return handled;
+}
+
+bool frmOptions::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == m_data->SentencePlace &&
+      (event->type() == QEvent::Resize || event->type() == QEvent::Move || event->type() == QEvent::Show)) {
+    lstNmeaSentence->setGeometry(
+        QRect(m_data->SentencePlace->mapTo(this, QPoint(0, 0)), m_data->SentencePlace->size()));
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,115 @@
+// The options dialog: every setting of the main window on six tabs, with live lists of what comes in and goes
+// out. It copies the settings into its controls when it is loaded and after each Apply, and back on Apply and
+// OK. It is hidden by OK and Cancel, with what was typed still in it, and destroyed when it is closed by its
+// frame. Whoever owns it routes to it what the ports tell; nothing is listed while it is not visible.
+#pragma once
+
+#include <QDialog>
+#include <QPushButton>
+#include <QTabWidget>
+#include <functional>
+#include <string_view>
+#include <utility>
+
+#include "app/MainWindowApi.h"
+#include "options/DataPageQt.h"
+#include "options/OptionsStore.h"
+#include "options/PortPageQt.h"
+#include "options/SentenceListQt.h"
+#include "options/SimulatePageQt.h"
+#include "options/TrackPageQt.h"
+#include "platform/Dialogs.h"
+#include "platform/Random.h"
+
+namespace veerwatch {
+
+class frmOptions final : public QDialog {
+ public:
+  /// What the dialog works with; everything outlives it.
+  struct Parts {
+    MainWindowApi& Main;
+    const OptionsPorts& Ports;
+    Dialogs& Asks;
+    RandomSource& Random;
+  };
+
+  enum Tab { Input = 0, Data = 1, Output = 2, Tracking = 3, Simulate = 4, Diagram = 5 };
+
+  /// Loads the settings. The dialog is not shown.
+  explicit frmOptions(const Parts& parts);
+
+  /// Selects a tab [0, 5].
+  void TabSelect(int index) { SSTab->setCurrentIndex(index); }
+  /// Shows the dialog in the middle of its screen.
+  void ShowCenter();
+  /// Shows the dialog with the upper left corner of its frame there [px of the desktop].
+  void ShowAt(QPoint topLeft);
+
+  /// A line that failed, behind the kind of failure; listed with "Decoded Error".
+  void NmeaError(std::string_view line);
+  /// A received line and whether it was used; listed with "Raw NMEA".
+  void NmeaData(std::string_view line, bool checked);
+  /// Lists a line, highlighted when `checked`, where the display of the input is on.
+  void NmeaList(std::string_view line, bool checked);
+  /// Empties the list of the input.
+  void NmeaListClear() { m_input->List->Clear(); }
+  /// A sentence to the autopilot, without its line end.
+  void PilotData(std::string_view line);
+
+  /// Shows the state of the input, and of the output.
+  void NmeaStatus(std::string_view text);
+  void PilotStatus(std::string_view text);
+
+  /// Whom to tell when the dialog was closed by its frame, to destroy it.
+  void Closed(std::function<void()> handler) { m_closed = std::move(handler); }
+
+  /// Cancels.
+  void reject() override { cmdCancel_Click(); }
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void MakeTabs();
+  void MakeButtons();
+  void ConnectMarks();
+  void LargerText();
+  QSize LeastSize() const;
+  void Fit();
+  void LayOut();
+
+  OptionsForm Form() const;
+  void OptionsReload();
+  bool OptionsApply();
+  void SimulateWaypointShow();
+
+  void cmdOk_Click();
+  void cmdCancel_Click();
+  void cmdApply_Click();
+  void SSTab_Click(int index);
+  void vscSimulate_Changed();
+
+  /// Leaves something to apply, when `control` has the keyboard.
+  void Mark(const QWidget* control);
+  void ApplyBold(bool bold);
+
+  Parts m_parts;
+  OptionsStore m_store;
+  QTabWidget* SSTab;
+  PortPageQt* m_input;
+  DataPageQt* m_data;
+  PortPageQt* m_output;
+  TrackPageQt* m_track;
+  SimulatePageQt* m_simulate;
+  SentenceListQt* lstNmeaSentence;
+  QPushButton* cmdOk;
+  QPushButton* cmdCancel;
+  QPushButton* cmdApply;
+  std::function<void()> m_closed;
+};
+
+}  // namespace veerwatch

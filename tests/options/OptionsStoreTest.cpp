@@ -1,0 +1,302 @@
+#include "options/OptionsStore.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+#include <functional>
+#include <map>
+
+#include "tests/support/FakeMainWindow.h"
+#include "tests/support/SetPorts.h"
+
+namespace veerwatch {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// A form in which every setting differs from its default.
+OptionsForm OtherForm() {
+  OptionsForm form;
+  form.NmeaTrueWind = 0;
+  form.NmeaHeading = 0;
+  form.NmeaBoatSpeed = 0;
+  form.NmeaTrueWindAverage = "3.5";
+  form.NmeaWindIndicatorAverage = "30";
+  form.NmeaPort = "7";
+  form.PilotPort = "8";
+  form.Simulate = true;
+  form.SimulateBoatSpeed = "6.5";
+  form.SimulateCompassOffset = "-2";
+  form.SimulateNoiseAngle = "1.5";
+  form.SimulateNoiseSpeed = "0.5";
+  form.SimulateTime = "2:15";
+  form.SimulateTrueWindAngle = "215";
+  form.SimulateTrueWindSpeed = "17.5";
+  form.SimulateVariation = "-3";
+  form.SimulateWaypointBrg = "268";
+  form.SimulateWaypointRng = "12.5";
+  form.TrackAlarm = false;
+  form.TrackAlarmLimit = "8";
+  form.TrackBandwidth = "25";
+  form.TrackDamping = "2.5";
+  form.TrackMaxSteerTo = "15";
+  return form;
+}
+
+class OptionsStoring : public testing::Test {
+ public:
+  FakeMainWindow Main;
+  SetPorts Ports;
+  OptionsStore Store{Main, Ports};
+
+  bool DataStored() const {
+    return Main.m_iNmeaTrueWind == 0 && Main.m_iNmeaHeading == 0 && Main.m_iNmeaBoatSpeed == 0 &&
+           !Main.m_bNmeaSentenceHDG && !Main.m_bNmeaSentenceHVM && !Main.m_bNmeaSentenceMWV &&
+           !Main.m_bNmeaSentenceRMB && !Main.m_bNmeaSentenceRMC && !Main.m_bNmeaSentenceVHW &&
+           !Main.m_bNmeaSentenceVTG && Main.m_fNmeaTrueWindAverage == 3.5F &&
+           Main.m_fNmeaWindIndicatorAverage == 30.0F;
+  }
+  bool InputStored() const { return Main.m_iNmeaPort == 7; }
+  bool OutputStored() const { return Main.m_iPilotPort == 8; }
+  bool SimulateStored() const {
+    return Main.m_bSimulate && Main.m_fSimulateBoatSpeed == 6.5F && Main.m_fSimulateCompassOffset == -2.0F &&
+           Main.m_fSimulateNoiseAngle == 1.5F && Main.m_fSimulateNoiseSpeed == 0.5F &&
+           Main.m_fSimulateTime == 2.25F && Main.m_fSimulateTrueWindAngle == 215.0F &&
+           Main.m_fSimulateTrueWindSpeed == 17.5F && Main.m_fSimulateVariation == -3.0F &&
+           Main.m_fSimulateWaypointBearing == 268.0F && Main.m_fSimulateWaypointRange == 12.5F;
+  }
+  bool TrackingStored() const {
+    return !Main.m_bTrackAlarm && Main.m_fTrackAlarmLimit == 8.0F && Main.m_fTrackBandwidth == 25.0F &&
+           Main.m_fTrackDamping == 2.5F && Main.m_fTrackMaxSteerTo == 15.0F;
+  }
+};
+
+TEST_F(OptionsStoring, StoresEverySetting) {
+  EXPECT_EQ(Store.Store(OtherForm()), std::nullopt);
+  EXPECT_TRUE(DataStored());
+  EXPECT_TRUE(InputStored());
+  EXPECT_TRUE(OutputStored());
+  EXPECT_TRUE(SimulateStored());
+  EXPECT_TRUE(TrackingStored());
+}
+
+TEST_F(OptionsStoring, EachSentenceGoesToItsOwnSetting) {
+  const std::map<std::string, bool Settings::*> settings{
+      {"HDG", &Settings::m_bNmeaSentenceHDG}, {"HVM", &Settings::m_bNmeaSentenceHVM},
+      {"MWV", &Settings::m_bNmeaSentenceMWV}, {"RMB", &Settings::m_bNmeaSentenceRMB},
+      {"RMC", &Settings::m_bNmeaSentenceRMC}, {"VHW", &Settings::m_bNmeaSentenceVHW},
+      {"VTG", &Settings::m_bNmeaSentenceVTG}};
+  ASSERT_EQ(settings.size(), kOptionSentences.size());
+  for (std::size_t i = 0; i < kOptionSentences.size(); ++i) {
+    OptionsForm form = OtherForm();
+    form.NmeaSentence[i] = true;
+    ASSERT_EQ(Store.Store(form), std::nullopt);
+    for (const auto& [key, setting] : settings) {
+      EXPECT_EQ(Main.*setting, key == kOptionSentences[i].Key) << key;
+    }
+  }
+}
+
+TEST_F(OptionsStoring, AFormOfTheSettingsChangesNothingAndRestartsNothing) {
+  Ports.Nmea = Ports.Pilot = true;
+  ASSERT_EQ(Store.Store(OtherForm()), std::nullopt);
+  Main.Calls.clear();
+  Main.SimulateTimes.clear();
+  EXPECT_EQ(Store.Store(OptionsFormOf(Main)), std::nullopt);
+  EXPECT_TRUE(DataStored() && InputStored() && OutputStored() && SimulateStored() && TrackingStored());
+  EXPECT_THAT(Main.Calls, IsEmpty());
+  EXPECT_THAT(Main.SimulateTimes, IsEmpty());
+}
+
+TEST_F(OptionsStoring, ShowsTheSettingsInTheirShortestForm) {
+  Main.m_fTrackDamping = 0.7F;
+  Main.m_fSimulateTime = 1.5F;
+  const OptionsForm form = OptionsFormOf(Main);
+  EXPECT_EQ(form.TrackDamping, "0.7");
+  EXPECT_EQ(form.SimulateTime, "1:30");
+  EXPECT_EQ(form.NmeaPort, "5");
+  EXPECT_EQ(form.SimulateBoatSpeed, "8");
+  EXPECT_EQ(form.NmeaWindIndicatorAverage, "60");
+}
+
+// Each group that fails, with what is stored before it.
+
+struct Failing {
+  const char* Group;
+  std::function<void(OptionsForm&)> Spoil;
+  int Stored;  ///< groups before it
+};
+
+class OptionsStoringFails : public OptionsStoring, public testing::WithParamInterface<Failing> {};
+
+TEST_P(OptionsStoringFails, BehindWhatWasStoredBefore) {
+  OptionsForm form = OtherForm();
+  GetParam().Spoil(form);
+  EXPECT_EQ(Store.Store(form), std::string(GetParam().Group) + " Options Problem Type mismatch");
+  EXPECT_EQ(DataStored(), GetParam().Stored > 0);
+  EXPECT_EQ(InputStored(), GetParam().Stored > 1);
+  EXPECT_EQ(OutputStored(), GetParam().Stored > 2);
+  EXPECT_EQ(SimulateStored(), GetParam().Stored > 3);
+  EXPECT_FALSE(TrackingStored());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Groups, OptionsStoringFails,
+    testing::Values(Failing{"Data", [](OptionsForm& form) { form.NmeaWindIndicatorAverage = "x"; }, 0},
+                    Failing{"Input", [](OptionsForm& form) { form.NmeaPort = ""; }, 1},
+                    Failing{"Output", [](OptionsForm& form) { form.PilotPort = "COM3"; }, 2},
+                    Failing{"Simulate", [](OptionsForm& form) { form.SimulateWaypointRng = "1 2"; }, 3},
+                    Failing{"Tracking", [](OptionsForm& form) { form.TrackMaxSteerTo = "ten"; }, 4}),
+    [](const auto& failing) { return failing.param.Group; });
+
+TEST_F(OptionsStoring, KeepsWhatAGroupStoredBeforeItFailed) {
+  OptionsForm form = OtherForm();
+  form.SimulateTime = "1:x";
+  EXPECT_EQ(Store.Store(form), "Simulate Options Problem Type mismatch");
+  EXPECT_TRUE(Main.m_bSimulate);
+  EXPECT_EQ(Main.m_fSimulateBoatSpeed, 6.5F);
+  EXPECT_EQ(Main.m_fSimulateCompassOffset, -2.0F);
+  EXPECT_EQ(Main.m_fSimulateNoiseAngle, 1.5F);
+  EXPECT_EQ(Main.m_fSimulateNoiseSpeed, 0.5F);
+  EXPECT_EQ(Main.m_fSimulateTrueWindAngle, Settings{}.m_fSimulateTrueWindAngle);
+  EXPECT_EQ(Main.m_fSimulateTime, 0.0F);
+}
+
+TEST_F(OptionsStoring, StoresTheTrueWindAverageBeforeTheOther) {
+  OptionsForm form = OtherForm();
+  form.NmeaWindIndicatorAverage = "";
+  Store.Store(form);
+  EXPECT_EQ(Main.m_fNmeaTrueWindAverage, 3.5F);
+  form = OtherForm();
+  Main.m_fNmeaWindIndicatorAverage = 60.0F;
+  form.NmeaTrueWindAverage = "";
+  Store.Store(form);
+  EXPECT_EQ(Main.m_fNmeaWindIndicatorAverage, 60.0F);
+}
+
+// Values that a setting cannot be.
+
+TEST_F(OptionsStoring, RefusesWhatTheLoopCannotWorkWith) {
+  const std::vector<std::pair<std::string, std::function<void(OptionsForm&)>>> spoilt{
+      {"Data", [](OptionsForm& form) { form.NmeaTrueWindAverage = "-0.1"; }},
+      {"Data", [](OptionsForm& form) { form.NmeaWindIndicatorAverage = "-1"; }},
+      {"Input", [](OptionsForm& form) { form.NmeaPort = "0"; }},
+      {"Output", [](OptionsForm& form) { form.PilotPort = "-3"; }},
+      {"Tracking", [](OptionsForm& form) { form.TrackAlarmLimit = "-1"; }},
+      {"Tracking", [](OptionsForm& form) { form.TrackBandwidth = "0"; }},
+      {"Tracking", [](OptionsForm& form) { form.TrackBandwidth = "-5"; }},
+      {"Tracking", [](OptionsForm& form) { form.TrackDamping = "-0.5"; }},
+  };
+  for (const auto& [group, spoil] : spoilt) {
+    OptionsForm form = OtherForm();
+    spoil(form);
+    EXPECT_EQ(Store.Store(form), group + " Options Problem Invalid property value");
+    EXPECT_GT(Main.m_fTrackBandwidth, 0.0F);
+    EXPECT_GE(Main.m_fTrackDamping, 0.0F);
+    EXPECT_GE(Main.m_iNmeaPort, 1);
+  }
+  OptionsForm form = OtherForm();
+  form.NmeaTrueWindAverage = form.TrackDamping = form.TrackAlarmLimit = "0";
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+}
+
+TEST_F(OptionsStoring, TellsOfNumbersThatAreTooLarge) {
+  OptionsForm form = OtherForm();
+  form.NmeaPort = "40000";
+  EXPECT_EQ(Store.Store(form), "Input Options Problem Overflow");
+  form = OtherForm();
+  form.SimulateBoatSpeed = "1e39";
+  EXPECT_EQ(Store.Store(form), "Simulate Options Problem Overflow");
+}
+
+TEST_F(OptionsStoring, KeepsEverySettingFinite) {
+  for (const char* text : {"nan", "inf", "-inf", "1e39", "-1e39", "1e999", "infinity", "NAN(1)"}) {
+    OptionsForm form = OtherForm();
+    form.SimulateNoiseAngle = text;
+    EXPECT_NE(Store.Store(form), std::nullopt) << text;
+    EXPECT_EQ(Main.m_fSimulateNoiseAngle, 4.0F) << text;
+  }
+}
+
+// The ports
+
+TEST_F(OptionsStoring, AnOpenInputPortIsChangedBetweenOffAndSetup) {
+  Ports.Nmea = true;
+  OptionsForm form = OptionsFormOf(Main);
+  form.NmeaPort = "7";
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.Calls, ElementsAre("Off 5 5", "Setup 7 5"));
+}
+
+TEST_F(OptionsStoring, AnOpenOutputPortIsChangedBetweenOffAndSetup) {
+  Ports.Pilot = true;
+  OptionsForm form = OptionsFormOf(Main);
+  form.PilotPort = "8";
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.Calls, ElementsAre("Off 5 5", "Setup 5 8"));
+}
+
+TEST_F(OptionsStoring, AClosedPortIsChangedWithoutTurningTrackingOff) {
+  OptionsForm form = OptionsFormOf(Main);
+  form.NmeaPort = "7";
+  form.PilotPort = "8";
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.Calls, IsEmpty());
+  EXPECT_TRUE(InputStored());
+  EXPECT_TRUE(OutputStored());
+}
+
+TEST_F(OptionsStoring, ComparesPortsAsNumbers) {
+  Ports.Nmea = Ports.Pilot = true;
+  OptionsForm form = OptionsFormOf(Main);
+  form.NmeaPort = " 5.0 ";
+  form.PilotPort = "0.5e1";
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.Calls, IsEmpty());
+  // Another number that is the same port.
+  form.NmeaPort = "5.25";
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.Calls, ElementsAre("Off 5 5", "Setup 5 5"));
+}
+
+TEST_F(OptionsStoring, ATextThatIsNoPortRestartsNothing) {
+  Ports.Nmea = true;
+  OptionsForm form = OptionsFormOf(Main);
+  for (const char* text : {"", "x", "99999", "0"}) {
+    form.NmeaPort = text;
+    EXPECT_NE(Store.Store(form), std::nullopt);
+  }
+  EXPECT_THAT(Main.Calls, IsEmpty());
+  EXPECT_EQ(Main.m_iNmeaPort, 5);
+}
+
+// The simulator
+
+TEST_F(OptionsStoring, TheSimulatorIsSwitchedBetweenOffAndSetup) {
+  OptionsForm form = OptionsFormOf(Main);
+  form.Simulate = true;
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.Calls, ElementsAre("Off 5 5", "Setup 5 5 simulating"));
+  EXPECT_TRUE(Main.m_bSimulate);
+}
+
+TEST_F(OptionsStoring, ATimeThatDiffersMovesTheBoat) {
+  OptionsForm form = OptionsFormOf(Main);
+  form.SimulateTime = "1:30";
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.SimulateTimes, ElementsAre(1.5F));
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.SimulateTimes, ElementsAre(1.5F));
+}
+
+TEST_F(OptionsStoring, APlainDecimalIsStoredAsTime0) {
+  OptionsForm form = OptionsFormOf(Main);
+  Main.m_fSimulateTime = 2.0F;
+  form.SimulateTime = "1.5";
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_EQ(Main.m_fSimulateTime, 0.0F);
+}
+
+}  // namespace
+}  // namespace veerwatch

@@ -1,0 +1,42 @@
+// A main window in memory: its settings, and the calls of its operations in order.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "app/MainWindowApi.h"
+
+namespace veerwatch {
+
+class FakeMainWindow final : public MainWindowApi {
+ public:
+  std::vector<std::string> Calls;    ///< with the ports and the simulator at the moment of the call
+  std::vector<float> SimulateTimes;  ///< times that SimulateTime was asked for [h]
+  float WaypointBearing = 77.0F;     ///< what SimulateTime answers
+  float WaypointRange = 6.25F;
+
+  bool NmeaStart() override { return true; }
+  void NmeaStop() override {}
+  void PilotStart() override {}
+  void PilotStop() override {}
+  void ProfileRecall(bool /*recall*/) override {}
+  void SimulateTime(float time, float& timeWaypointBearing, float& timeWaypointRange) override {
+    SimulateTimes.push_back(time);
+    m_fSimulateTime = time;
+    timeWaypointBearing = WaypointBearing;
+    timeWaypointRange = WaypointRange;
+  }
+  void TrackSteerTo(float /*change*/) override {}
+  void TrackSetOff() override { Note("Off"); }
+  void TrackSetSetup() override { Note("Setup"); }
+  void TrackSetManual() override { Note("Manual"); }
+  void TrackSetTrack() override { Note("Track"); }
+
+ private:
+  void Note(const char* mode) {
+    Calls.push_back(std::string(mode) + " " + std::to_string(m_iNmeaPort) + " " +
+                    std::to_string(m_iPilotPort) + (m_bSimulate ? " simulating" : ""));
+  }
+};
+
+}  // namespace veerwatch
