@@ -51,7 +51,7 @@ DataPageQt::DataPageQt(QWidget* parent)
   page->addWidget(SentencePlace, 1);
 }
 
-void DataPageQt::Show(const OptionsForm& form) {
+void DataPageQt::Show(const OptionsForm& form) const {
   cmbNmeaTrueWind->setCurrentIndex(form.NmeaTrueWind);
   cmbNmeaHeading->setCurrentIndex(form.NmeaHeading);
   cmbNmeaBoatSpeed->setCurrentIndex(form.NmeaBoatSpeed);

@@ -13,7 +13,7 @@ class DataPageQt final : public QWidget {
  public:
   explicit DataPageQt(QWidget* parent);
 
-  void Show(const OptionsForm& form);
+  void Show(const OptionsForm& form) const;
   void Read(OptionsForm& form) const;
 
   QComboBox* cmbNmeaTrueWind;

@@ -120,7 +120,7 @@ void SimulatePageQt::LayOut() {
   page->addStretch();
 }
 
-void SimulatePageQt::Show(const OptionsForm& form) {
+void SimulatePageQt::Show(const OptionsForm& form) const {
   frmSimulate->setVisible(form.Simulate);
   chkSimulate->setChecked(form.Simulate);
   txtSimulateBoatSpeed->setText(QString::fromStdString(form.SimulateBoatSpeed));
@@ -149,7 +149,7 @@ void SimulatePageQt::Read(OptionsForm& form) const {
   form.SimulateWaypointRng = txtSimulateWaypointRng->text().toStdString();
 }
 
-void SimulatePageQt::ShowWaypoint(float bearing, float range) {
+void SimulatePageQt::ShowWaypoint(float bearing, float range) const {
   lblSimulateWaypointBrg->setText(QString::fromStdString(FormatNumber(bearing, "0")));
   lblSimulateWaypointRng->setText(QString::fromStdString(FormatNumber(range, "0.0")));
 }
@@ -168,7 +168,7 @@ void SimulatePageQt::OnSpinner(QScrollBar* bar, OptionEntryQt* box, SpinnerStep 
   });
 }
 
-void SimulatePageQt::Stepped(std::function<void()> time, std::function<void()> angle) {
+void SimulatePageQt::Stepped(const std::function<void()>& time, const std::function<void()>& angle) {
   for (const SpinnerStep size : {SpinnerStep::Coarse, SpinnerStep::Fine}) {
     const auto index = static_cast<std::size_t>(size);
     OnSpinner(vscSimulateTime[index], txtSimulateTime, size, SimulateTimeStep, time);

@@ -18,14 +18,14 @@ class SimulatePageQt final : public QWidget {
   explicit SimulatePageQt(QWidget* parent);
 
   /// Also shows or hides the boxes: they are there while the simulator is on.
-  void Show(const OptionsForm& form);
+  void Show(const OptionsForm& form) const;
   void Read(OptionsForm& form) const;
 
   /// Shows the waypoint at the time in the box.
-  void ShowWaypoint(float bearing, float range);
+  void ShowWaypoint(float bearing, float range) const;
 
   /// Whom to tell when the time, or the angle, was stepped with a scroll bar.
-  void Stepped(std::function<void()> time, std::function<void()> angle);
+  void Stepped(const std::function<void()>& time, const std::function<void()>& angle);
 
   /// The boxes whose change leaves something to apply.
   std::array<OptionEntryQt*, 10> Marking() const;

@@ -96,7 +96,7 @@ QWidget* TrackPageQt::NewResponse() {
   return frame;
 }
 
-void TrackPageQt::Show(const OptionsForm& form) {
+void TrackPageQt::Show(const OptionsForm& form) const {
   chkTrackAlarm->setChecked(form.TrackAlarm);
   txtTrackAlarmLimit->setText(QString::fromStdString(form.TrackAlarmLimit));
   txtTrackBandwidth->setText(QString::fromStdString(form.TrackBandwidth));
@@ -112,7 +112,7 @@ void TrackPageQt::Read(OptionsForm& form) const {
   form.TrackMaxSteerTo = txtTrackMaxSteerTo->text().toStdString();
 }
 
-void TrackPageQt::TrackPreviewDraw() {
+void TrackPageQt::TrackPreviewDraw() const {
   TrackPreviewTexts texts;
   texts.Bandwidth = txtTrackBandwidth->text().toStdString();
   texts.Damping = txtTrackDamping->text().toStdString();

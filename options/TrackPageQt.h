@@ -16,11 +16,11 @@ class TrackPageQt final : public QWidget {
  public:
   TrackPageQt(RandomSource& random, QWidget* parent);
 
-  void Show(const OptionsForm& form);
+  void Show(const OptionsForm& form) const;
   void Read(OptionsForm& form) const;
 
   /// Draws the preview with what stands in its boxes.
-  void TrackPreviewDraw();
+  void TrackPreviewDraw() const;
 
   /// The boxes whose change leaves something to apply.
   std::array<OptionEntryQt*, 8> Marking() const;

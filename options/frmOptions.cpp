@@ -166,10 +166,16 @@ void frmOptions::LayOut() {
   }
 }
 
-void frmOptions::ShowCenter() {
+QPoint frmOptions::Centre() const {
   const QRect display = screen()->geometry();
-  ShowAt({display.left() + (display.width() - frameGeometry().width()) / 2,
-          std::max(display.top(), display.top() + (display.height() - frameGeometry().height()) / 2)});
+  const QSize spare = (display.size() - frameGeometry().size()).expandedTo({0, 0});
+  return display.topLeft() + QPoint(spare.width() / 2, spare.height() / 2);
+}
+
+void frmOptions::ShowCenter() {
+  ShowAt(Centre());
+  // The frame may have its size only now.
+  move(Centre());
 }
 
 void frmOptions::ShowAt(QPoint topLeft) {

@@ -81,6 +81,7 @@ class frmOptions final : public QDialog {
   QSize LeastSize() const;
   void Fit();
   void LayOut();
+  QPoint Centre() const;
 
   OptionsForm Form() const;
   void OptionsReload();

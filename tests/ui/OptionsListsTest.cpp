@@ -1,0 +1,164 @@
+// The live lists of the options dialog.
+
+#include <QAbstractItemView>
+#include <QScrollBar>
+
+#include "tests/ui/OptionsTester.h"
+
+namespace veerwatch {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class OptionsLists : public OptionsTester {};
+
+TEST_F(OptionsLists, TakeLinesOnlyWhenOnAndVisible) {
+  Start(frmOptions::Input);
+  Window->NmeaData("off", true);
+  Click("optNmeaListOn");
+  Window->NmeaData("on", true);
+  EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("on"));
+  Window->hide();
+  Window->NmeaData("hidden", true);
+  EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("on"));
+  Show(frmOptions::Input);
+  Click("optNmeaListOff");
+  Window->NmeaList("off again", true);
+  EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("on"));
+}
+
+TEST_F(OptionsLists, FollowTheFormat) {
+  Start(frmOptions::Input);
+  Click("optNmeaListOn");
+  Window->NmeaError("Decode Error - raw selected");
+  EXPECT_THAT(Lines("lstNmeaData"), IsEmpty());
+  Window->NmeaData("$A", true);
+  EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("$A"));
+  Click("optNmeaDataFormat(2)");
+  EXPECT_THAT(Lines("lstNmeaData"), IsEmpty());
+  Window->NmeaData("$B", true);
+  EXPECT_THAT(Lines("lstNmeaData"), IsEmpty());
+  Window->NmeaError("Decode Error - $C");
+  EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("Decode Error - $C"));
+  EXPECT_FALSE(Highlighted("lstNmeaData", 0));
+  Click("optNmeaDataFormat(2)");
+  EXPECT_THAT(Lines("lstNmeaData"), IsEmpty());
+}
+
+TEST_F(OptionsLists, HighlightWhatWasUsed) {
+  Start(frmOptions::Input);
+  Click("optNmeaListOn");
+  Window->NmeaData("$A", true);
+  Window->NmeaData("$B", false);
+  EXPECT_TRUE(Highlighted("lstNmeaData", 0));
+  EXPECT_FALSE(Highlighted("lstNmeaData", 1));
+  // Also in what is painted.
+  QApplication::processEvents();
+  auto& list = Find<QListView>("lstNmeaData");
+  const QImage image = list.viewport()->grab().toImage();
+  const auto ground = [&](int row) {
+    const QRect place = list.visualRect(list.model()->index(row, 0));
+    return image.pixel(place.right() - 2, place.center().y());
+  };
+  EXPECT_NE(ground(0), ground(1));
+}
+
+TEST_F(OptionsLists, HoldTheNewest101Of10000Lines) {
+  Start(frmOptions::Input);
+  Click("optNmeaListOn");
+  for (int i = 1; i <= 10000; ++i) {
+    Window->NmeaData("line " + std::to_string(i), i % 3 == 0);
+    if (i == 100 || i == 101 || i == 102) {
+      EXPECT_EQ(Lines("lstNmeaData").size(), i == 100 ? 100U : 101U);
+    }
+    if (i % 500 == 0) {
+      QApplication::processEvents();
+    }
+  }
+  const auto lines = Lines("lstNmeaData");
+  ASSERT_EQ(lines.size(), 101U);
+  EXPECT_EQ(lines.front(), "line 9900");
+  EXPECT_EQ(lines.back(), "line 10000");
+  EXPECT_TRUE(Highlighted("lstNmeaData", 0));
+  EXPECT_FALSE(Highlighted("lstNmeaData", 1));
+}
+
+TEST_F(OptionsLists, ScrollToTheNewestLine) {
+  Start(frmOptions::Input);
+  Click("optNmeaListOn");
+  auto& list = Find<QListView>("lstNmeaData");
+  for (int i = 0; i < 300; ++i) {
+    Window->NmeaData("line " + std::to_string(i), false);
+  }
+  QApplication::processEvents();
+  EXPECT_EQ(list.verticalScrollBar()->value(), list.verticalScrollBar()->maximum());
+  const QRect last = list.visualRect(list.model()->index(100, 0));
+  EXPECT_TRUE(list.viewport()->rect().contains(last));
+  list.verticalScrollBar()->setValue(0);
+  Window->NmeaData("one more", false);
+  QApplication::processEvents();
+  EXPECT_EQ(list.verticalScrollBar()->value(), list.verticalScrollBar()->maximum());
+}
+
+TEST_F(OptionsLists, AreClearedByAReloadAndByAStartOfTheInput) {
+  Start(frmOptions::Input);
+  Click("optNmeaListOn");
+  Window->NmeaData("$A", true);
+  Window->NmeaListClear();
+  EXPECT_THAT(Lines("lstNmeaData"), IsEmpty());
+  Window->NmeaData("$B", true);
+  Tab(frmOptions::Output);
+  Click("optPilotListOn");
+  Window->PilotData("$ECAPB");
+  Click("cmdApply");
+  EXPECT_THAT(Lines("lstNmeaData"), IsEmpty());
+  EXPECT_THAT(Lines("lstPilotData"), IsEmpty());
+}
+
+TEST_F(OptionsLists, OfTheOutputTakesWhatIsSent) {
+  Start(frmOptions::Output);
+  Window->PilotData("off");
+  Click("optPilotListOn");
+  for (int i = 1; i <= 150; ++i) {
+    Window->PilotData("$ECAPB " + std::to_string(i));
+  }
+  ASSERT_EQ(Lines("lstPilotData").size(), 101U);
+  EXPECT_EQ(Lines("lstPilotData").front(), "$ECAPB 50");
+  EXPECT_FALSE(Highlighted("lstPilotData", 100));
+  // The other tabs do not matter, a disabled one does.
+  Tab(frmOptions::Input);
+  Window->PilotData("from elsewhere");
+  EXPECT_EQ(Lines("lstPilotData").back(), "from elsewhere");
+  Find<QTabWidget>("SSTab").setTabEnabled(frmOptions::Output, false);
+  Window->PilotData("disabled");
+  EXPECT_EQ(Lines("lstPilotData").back(), "from elsewhere");
+  Find<QTabWidget>("SSTab").setTabEnabled(frmOptions::Output, true);
+  Window->hide();
+  Window->PilotData("hidden");
+  EXPECT_EQ(Lines("lstPilotData").back(), "from elsewhere");
+}
+
+TEST_F(OptionsLists, ShowHostileLinesWithoutHarm) {
+  Start(frmOptions::Input);
+  Click("optNmeaListOn");
+  Window->NmeaData(std::string_view("\0\x1b[2J\t<b>\xff\xfe\n\x80", 12), false);
+  Window->NmeaData(std::string(4096, '\xc3'), true);
+  Window->NmeaData("", false);
+  EXPECT_FALSE(Window->grab().isNull());
+  const auto lines = Lines("lstNmeaData");
+  EXPECT_EQ(lines[0], "\u00b7\u00b7[2J\u00b7<b>\u00ff\u00fe\u00b7");
+  EXPECT_EQ(lines.size(), 3U);
+}
+
+TEST_F(OptionsLists, UseAFixedWidth) {
+  Start(frmOptions::Input);
+  for (const char* name : {"lstNmeaData", "lstPilotData"}) {
+    const QFontMetrics metrics(Find<QWidget>(name).font());
+    EXPECT_EQ(metrics.horizontalAdvance('i'), metrics.horizontalAdvance('W')) << name;
+    EXPECT_GE(metrics.height(), Window->fontMetrics().height() - 2) << name;
+  }
+}
+
+}  // namespace
+}  // namespace veerwatch
