@@ -27,6 +27,7 @@ class FakeMainWindow final : public MainWindowApi {
     timeWaypointRange = WaypointRange;
   }
   void TrackSteerTo(float /*change*/) override {}
+  void AutoPilotSet(float /*bearing*/) override {}
   void TrackSetOff() override { Note("Off"); }
   void TrackSetSetup() override { Note("Setup"); }
   void TrackSetManual() override { Note("Manual"); }
