@@ -17,6 +17,8 @@ constexpr qreal kDesignSize = 700.0;
 constexpr qreal kCurveWidth = 1.8;
 constexpr qreal kWindWidth = 4.0;
 constexpr qreal kHalo = 2.6;
+constexpr qreal kLegWidth = 2.0;
+constexpr qreal kLegNowWidth = 3.6;
 /// Time between two repaints at least [ms].
 constexpr int kRest = 180;
 /// How strongly the minor curves of a dense table show.
@@ -98,9 +100,12 @@ void PolarCanvasQt::Show(const PolarStill& still, PolarMoving moving) {
   }
 }
 
-void PolarCanvasQt::paintEvent(QPaintEvent* /*event*/) {
-  m_stale = false;
-  m_rest.start();
+void PolarCanvasQt::paintEvent(QPaintEvent* event) {
+  // A part is painted for what stands on the plot; what is new there comes with the whole.
+  if (event->rect() == rect()) {
+    m_stale = false;
+    m_rest.start();
+  }
   const qreal ratio = devicePixelRatioF();
   const QSize pixels = (QSizeF(size()) * ratio).toSize();
   if (m_pictured != m_still.Version || m_picture.size() != pixels) {
@@ -231,6 +236,7 @@ void PolarCanvasQt::PaintMoving(QPainter& painter) const {
     painter.setBrush(m_colours.Wind);
     painter.drawPolygon(head);
   }
+  PaintLegs(painter, size);
   if (m_moving.Boat) {
     const BoatPoint& boat = *m_moving.Boat;
     painter.setFont(TextFont(font(), 30.0 * size, QFont::Black));
@@ -242,6 +248,20 @@ void PolarCanvasQt::PaintMoving(QPainter& painter) const {
     }
   }
   PaintLegend(painter);
+}
+
+void PolarCanvasQt::PaintLegs(QPainter& painter, qreal size) const {
+  painter.setBrush(Qt::NoBrush);
+  for (const PolarLeg& leg : m_moving.Legs) {
+    const qreal width = (leg.Now ? kLegNowWidth : kLegWidth) * size;
+    const QColor colour = leg.PortTack ? m_colours.PortTack : m_colours.StarboardTack;
+    for (const QPen& pen : {RoundPen(m_colours.Disc, width + kHalo * size), RoundPen(colour, width)}) {
+      painter.setPen(pen);
+      for (const PlotStroke* stroke : {&leg.Arrow.Line, &leg.Arrow.HeadLeft, &leg.Arrow.HeadRight}) {
+        painter.drawLine(At(stroke->From), At(stroke->To));
+      }
+    }
+  }
 }
 
 void PolarCanvasQt::PaintLegend(QPainter& painter) const {

@@ -40,6 +40,7 @@ class PolarCanvasQt final : public QWidget {
   void PaintLabels(QPainter& painter, bool winds) const;
   void PaintKeys(QPainter& painter) const;
   void PaintMoving(QPainter& painter) const;
+  void PaintLegs(QPainter& painter, qreal size) const;
   void PaintLegend(QPainter& painter) const;
 
   PolarPaletteQt m_colours;

@@ -74,7 +74,6 @@ PolarMenuQt::PolarMenuQt(QMainWindow& window) {
       Ticked(Item(course, "mnuCourseScale", "Scale Projected Times and Speeds by Current Boat Speed"));
   Separator(course, "mnuSeparator8");
   mnuCourseLedger = Item(course, "mnuCourseLedger", "Show Course Ledger");
-  mnuCourseLedger->setEnabled(false);
 
   mnuLedger = new QMenu(QStringLiteral("Ledger"), &window);
   mnuLedger->setObjectName(QStringLiteral("mnuLedger"));

@@ -150,6 +150,22 @@ bool PolarModel::Update(TrackMode mode, const PolarValues& values, bool visible)
 
 std::string PolarModel::PolarSpeedText() const { return FormatNumber(m_polarSpeed, "0.0") + " deg"; }
 
+std::optional<float> PolarModel::CourseBearing() const {
+  if (!Received() || !m_settings.CourseWaypoint || !Values().HeadingValid) {
+    return std::nullopt;
+  }
+  switch (m_settings.CourseWaypointIndex) {
+    case CourseSource::TargetBearing:
+      return m_settings.CourseTargetBearing;
+    case CourseSource::WaypointBearing:
+    case CourseSource::WaypointRange:
+      return Values().WaypointValid ? std::optional(Values().WaypointBearing) : std::nullopt;
+    case CourseSource::None:
+      break;
+  }
+  return std::nullopt;
+}
+
 float PolarModel::WindAngle() const {
   return m_settings.Type == PlotType::ApparentWind ? Values().WindAngleApparent : Values().WindAngleTrue;
 }

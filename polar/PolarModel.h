@@ -112,6 +112,10 @@ class PolarModel {
   /// The same as the history keeps it. Deliberate: a speed with the unit "deg".
   std::string PolarSpeedText() const;
 
+  /// Where the course leads: the target bearing or that of the waypoint [deg magnetic]. Nothing without a
+  /// source, without a valid heading, and for the waypoint without a valid one.
+  std::optional<float> CourseBearing() const;
+
   PolarReadout Readout() const;
   /// The wind that the plot shows: apparent or true [deg relative], [kn].
   float WindAngle() const;

@@ -20,6 +20,9 @@ struct PolarPaletteQt {
   QColor Reference;  ///< curves of the reference polar
   QColor Wind;       ///< the wind that blows now: its curve and its arrow
   QColor Boat;       ///< the boat's point
+  QColor Target;     ///< the bearing to sail to
+  QColor StarboardTack;
+  QColor PortTack;
   QColor MousePlate;
 
   /// The colour of the curves for a setting of 0xBBGGRR.

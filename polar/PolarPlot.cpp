@@ -365,6 +365,22 @@ BoatPoint MakeBoatPoint(const PolarGeometry& geometry, double angle, double spee
   return {PointAt(geometry, angle, speed), false};
 }
 
+LegArrow MakeLegArrow(const PolarGeometry& geometry, double angle, double speed) {
+  constexpr double kHeadAngle = 30.0;
+  // In shares of the outer radius, and of the line for a short one.
+  constexpr double kHead = 0.07;
+  constexpr double kMostHead = 0.5;
+  const double radius = OuterRadius(geometry);
+  const double length = std::min(speed * geometry.ScaleX, radius);
+  const PlotPoint tip = AtRadius(geometry, angle, length);
+  const double head = std::min(kHead * radius, kMostHead * length);
+  const auto back = [&](double side) {
+    const double radians = (angle + 180.0 + side) * kRadiansPerDegree;
+    return PlotPoint{tip.X + head * std::sin(radians), tip.Y - head * std::cos(radians)};
+  };
+  return {{{geometry.CentreX, geometry.CentreY}, tip}, {tip, back(kHeadAngle)}, {tip, back(-kHeadAngle)}};
+}
+
 namespace {
 
 /// Shares of the space in a legend cell.
@@ -472,9 +488,15 @@ void LayCorners(PolarLegend& legend, double width, double height, int keys) {
   legend.Corners = true;
 }
 
+/// What of `whole` is the legend's when `taken` is somebody else's.
+double LeftOver(double whole, double taken) {
+  constexpr double kLeast = 0.3;
+  return taken > 0.0 && whole - taken >= kLeast * whole ? whole - taken : whole;
+}
+
 }  // namespace
 
-PolarLegend LayLegend(double width, double height, int keys) {
+PolarLegend LayLegend(double width, double height, int keys, const PlotRoom& taken) {
   /// Room beside the plot from which on the legend stands there, in shares of the plot.
   constexpr double kRoom = 0.24;
   const double side = std::min(width, height);
@@ -482,9 +504,11 @@ PolarLegend LayLegend(double width, double height, int keys) {
   PolarLegend legend;
   if (width - side > kRoom * side) {
     const double columnWidth = std::min(width - side - 2.0 * margin, side * 0.6);
-    LayColumn(legend, {side + margin, margin, columnWidth, height - 2.0 * margin}, keys);
+    const double free = LeftOver(height, taken.Height);
+    LayColumn(legend, {side + margin, margin, columnWidth, free - 2.0 * margin}, keys);
   } else if (height - side > kRoom * side) {
-    LayRow(legend, {margin, side + margin, width - 2.0 * margin, height - side - 2.0 * margin}, keys);
+    const double free = LeftOver(width, taken.Width);
+    LayRow(legend, {margin, side + margin, free - 2.0 * margin, height - side - 2.0 * margin}, keys);
   } else {
     LayCorners(legend, width, height, keys);
   }

@@ -108,6 +108,15 @@ struct BoatPoint {
 };
 BoatPoint MakeBoatPoint(const PolarGeometry& geometry, double angle, double speed);
 
+/// A leg of the course: a line from the centre with an arrow head of two strokes at its point.
+struct LegArrow {
+  PlotStroke Line;
+  PlotStroke HeadLeft;  ///< from the point backwards, 30 degrees off the line
+  PlotStroke HeadRight;
+};
+/// For `speed` [kn, above 0] at the wind angle `angle` [deg]; a leg beyond the outer ring ends on it.
+LegArrow MakeLegArrow(const PolarGeometry& geometry, double angle, double speed);
+
 /// One value of the legend.
 struct LegendCell {
   PlotBox Caption;
@@ -128,7 +137,15 @@ struct PolarLegend {
   bool Corners = false;
 };
 
-/// For an area of `width` by `height` and `keys` names.
-PolarLegend LayLegend(double width, double height, int keys);
+/// Room that something else takes at the lower right [px].
+struct PlotRoom {
+  double Width = 0.0;
+  double Height = 0.0;
+  bool operator==(const PlotRoom&) const = default;
+};
+
+/// For an area of `width` by `height` and `keys` names. Beside or below the plot the legend leaves `taken`
+/// free, unless too little would be left for it.
+PolarLegend LayLegend(double width, double height, int keys, const PlotRoom& taken = {});
 
 }  // namespace veerwatch

@@ -29,7 +29,7 @@ std::string PolarScene::NameOf(int slot) const {
   return name;
 }
 
-const PolarStill& PolarScene::Still(int width, int height) {
+const PolarStill& PolarScene::Still(int width, int height, const PlotRoom& taken) {
   const auto& settings = m_model.Settings();
   const float wind = m_model.WindAngle();
   if (m_model.Received() && (m_speedsToPort ? wind < -kChangeSides : wind > kChangeSides)) {
@@ -37,6 +37,7 @@ const PolarStill& PolarScene::Still(int width, int height) {
   }
   const Key key{width,
                 height,
+                taken,
                 m_model.Version(),
                 m_model.PolarsShown(),
                 settings.PlotLabelWindSpeed,
@@ -65,13 +66,13 @@ const PolarStill& PolarScene::Still(int width, int height) {
                         {static_cast<double>(settings.SpeedRange), still.TextHeight,
                          settings.PlotLabelWindSpeed, m_speedsToPort},
                         still.Main);
-  still.Legend = LayLegend(width, height, static_cast<int>(still.Keys.size()));
+  still.Legend = LayLegend(width, height, static_cast<int>(still.Keys.size()), taken);
   still.SpeedColor = settings.SpeedColor;
   m_still = std::move(still);
   return m_still;
 }
 
-PolarMoving PolarScene::Moving() const {
+PolarMoving PolarScene::Moving(const std::vector<LedgerLeg>& legs) const {
   PolarMoving moving;
   moving.Readout = m_model.Readout();
   if (!m_model.Received()) {
@@ -86,6 +87,9 @@ PolarMoving PolarScene::Moving() const {
   const auto angle = static_cast<double>(m_model.WindAngle());
   moving.Arrow = MakeWindArrow(geometry, angle, m_still.TextHeight);
   moving.Boat = MakeBoatPoint(geometry, angle, static_cast<double>(m_model.Values().BoatSpeed));
+  for (const LedgerLeg& leg : legs) {
+    moving.Legs.push_back({MakeLegArrow(geometry, leg.WindAngle, leg.Speed), leg.PortTack, leg.Now});
+  }
   return moving;
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "polar/CourseLedger.h"
 #include "polar/PolarModel.h"
 #include "polar/PolarPlot.h"
 
@@ -24,11 +25,19 @@ struct PolarStill {
   std::uint32_t SpeedColor = 0;   ///< 0xBBGGRR; 0 for the foreground colour
 };
 
+/// A leg of the course.
+struct PolarLeg {
+  LegArrow Arrow;
+  bool PortTack = false;
+  bool Now = false;  ///< the leg to sail now
+};
+
 struct PolarMoving {
   std::vector<PlotLine> Wind;           ///< the own polar in the present true wind
   std::vector<PlotLine> ReferenceWind;  ///< the reference in it
   std::optional<WindArrow> Arrow;       ///< none until values have come
   std::optional<BoatPoint> Boat;
+  std::vector<PolarLeg> Legs;
   PolarReadout Readout;
 };
 
@@ -36,17 +45,18 @@ class PolarScene {
  public:
   explicit PolarScene(const PolarModel& model) : m_model(model) {}
 
-  /// The still part in an area of `width` by `height` [px].
-  const PolarStill& Still(int width, int height);
+  /// The still part in an area of `width` by `height`, of which `taken` is not the legend's [px].
+  const PolarStill& Still(int width, int height, const PlotRoom& taken = {});
 
-  /// The moving part, in the geometry of the latest still one.
-  PolarMoving Moving() const;
+  /// The moving part with the legs of a course, in the geometry of the latest still one.
+  PolarMoving Moving(const std::vector<LedgerLeg>& legs = {}) const;
 
  private:
   /// All that the still part depends on.
   struct Key {
     int Width = -1;
     int Height = -1;
+    PlotRoom Taken;
     std::uint64_t Table = 0;
     int Shown = 0;
     bool WindLabels = false;

@@ -1,13 +1,14 @@
 #include "polar/frmPolar.h"
 
 #include <QCloseEvent>
-#include <QFrame>
 #include <QGuiApplication>
-#include <QPushButton>
+#include <QPointer>
 #include <QScreen>
+#include <QTimer>
 #include <algorithm>
 #include <cmath>
 
+#include "polar/CoursePauseQt.h"
 #include "polar/PolarQuestions.h"
 
 namespace veerwatch {
@@ -45,7 +46,8 @@ frmPolar::frmPolar(const PolarParts& parts)
       m_scene(m_model),
       m_menu(*this),
       m_canvas(new PolarCanvasQt(this)),
-      lblMouse(new QLabel(m_canvas)) {
+      lblMouse(new QLabel(m_canvas)),
+      m_course(m_canvas) {
   setObjectName(QStringLiteral("frmPolar"));
   setWindowTitle(QStringLiteral("Veerwatch - Polar"));
   setAttribute(Qt::WA_QuitOnClose, false);
@@ -67,25 +69,9 @@ frmPolar::frmPolar(const PolarParts& parts)
   lblMouse->setMargin(4);
   lblMouse->setAutoFillBackground(true);
   lblMouse->hide();
-  MakeCourseControls();
   ConnectMenus();
+  ConnectCourse();
   PolarInit(true);
-}
-
-void frmPolar::MakeCourseControls() {
-  auto* ledger = new QFrame(m_canvas);
-  ledger->setObjectName(QStringLiteral("frmLedger"));
-  ledger->setToolTip(QStringLiteral("You can drag this ledger to a different location"));
-  auto* steer = new QLabel(QStringLiteral("Steer -100 >"), m_canvas);
-  steer->setObjectName(QStringLiteral("lblSteer"));
-  auto* cmdSteer = new QPushButton(QStringLiteral("Steer -100 >"), m_canvas);
-  cmdSteer->setObjectName(QStringLiteral("cmdSteer"));
-  auto* cmdTack = new QPushButton(QStringLiteral("Tack"), m_canvas);
-  cmdTack->setObjectName(QStringLiteral("cmdTack"));
-  for (QWidget* control : {static_cast<QWidget*>(ledger), static_cast<QWidget*>(steer),
-                           static_cast<QWidget*>(cmdSteer), static_cast<QWidget*>(cmdTack)}) {
-    control->hide();
-  }
 }
 
 template <class Command>
@@ -121,6 +107,21 @@ void frmPolar::ConnectMenus() {
     OnItem(m_menu.mnuBoatType[i], [this, i] { m_model.Boat(static_cast<BoatType>(i)); });
   }
   OnItem(m_menu.mnuBoatMotorSpeed, [this] { AskMotorSpeed(m_model, m_parts.Asks); });
+}
+
+void frmPolar::ConnectCourse() {
+  OnItem(m_menu.mnuCourseLedger, [this] { m_course.Want(true); });
+  OnItem(m_menu.mnuLedgerHide, [this] { m_course.Want(false); });
+  const auto turn = [this](float LedgerContent::*heading) {
+    if (m_ledger) {
+      m_parts.Tells.OnManoeuvre((*m_ledger).*heading, m_model.Values().Heading,
+                                m_model.Values().WindAngleTrue);
+    }
+  };
+  LedgerPanelQt& ledger = m_course.Ledger();
+  ledger.Steer = [turn] { turn(&LedgerContent::SteerHeading); };
+  ledger.Tack = [turn] { turn(&LedgerContent::TackHeading); };
+  ledger.MenuWanted = [this](QPoint at) { m_menu.mnuLedger->popup(at); };
 }
 
 void frmPolar::PolarInit(bool recall) {
@@ -169,26 +170,77 @@ void frmPolar::PolarUpdate(TrackMode mode, bool headingValid, float heading, flo
   if (newMode) {
     PolarMenus();
   }
+  if (!CourseUpdate() || !isVisible()) {
+    return;
+  }
   PolarDraw();
   m_parts.Tells.OnPolarValue("Polar Speed", m_model.PolarSpeedText());
+}
+
+bool frmPolar::CourseUpdate() {
+  if (m_searching) {
+    m_missed = true;
+    return false;
+  }
+  const QPointer<frmPolar> alive(this);
+  const auto bearing = m_model.CourseBearing();
+  if (!bearing) {
+    CourseHide();
+    return true;
+  }
+  const PolarValues values = m_model.Values();
+  CourseLedger(values.Heading, *bearing, values.WindAngleTrue, values.WindSpeedTrue, values.BoatSpeed,
+               m_model.PolarSpeed());
+  return !alive.isNull();
+}
+
+void frmPolar::CourseLedger(float heading, float targetBearing, float windAngleTrue, float windSpeedTrue,
+                            float boatSpeed, float polarSpeed) {
+  const QPointer<frmPolar> alive(this);
+  const LedgerInput input{{heading, targetBearing, windAngleTrue, windSpeedTrue},
+                          boatSpeed,
+                          polarSpeed,
+                          m_model.Values().WaypointRange};
+  m_searching = true;
+  const auto solution =
+      m_memory.Solve(m_model.Table(), m_model.Version(), input.Query, CoursePause(this, m_parts.PauseAfter));
+  if (!alive) {
+    return;
+  }
+  m_searching = false;
+  if (std::exchange(m_missed, false)) {
+    QTimer::singleShot(0, this, [this] { Follow(); });
+  }
+  if (solution) {
+    m_ledger = veerwatch::CourseLedger(m_model.Settings(), input, *solution);
+    m_course.Show(*m_ledger);
+  }
+}
+
+void frmPolar::CourseHide() {
+  m_ledger.reset();
+  m_course.Hide();
 }
 
 void frmPolar::PolarMenus() { m_menu.Refresh(m_model); }
 
 void frmPolar::PolarDraw() {
   lblMouse->hide();
-  const PolarStill& still = m_scene.Still(m_canvas->width(), m_canvas->height());
-  m_canvas->Show(still, m_scene.Moving());
+  const PolarStill& still = m_scene.Still(m_canvas->width(), m_canvas->height(), m_course.Room());
+  m_course.Place(still);
+  m_canvas->Show(still, m_scene.Moving(m_ledger ? m_ledger->Legs : std::vector<LedgerLeg>()));
 }
 
 void frmPolar::Follow() {
   PolarMenus();
-  PolarDraw();
+  if (CourseUpdate()) {
+    PolarDraw();
+  }
 }
 
 void frmPolar::pctPlot_MouseDown(QPointF at) {
   m_pressed = at;
-  const auto& geometry = m_scene.Still(m_canvas->width(), m_canvas->height()).Geometry;
+  const auto& geometry = m_scene.Still(m_canvas->width(), m_canvas->height(), m_course.Room()).Geometry;
   const auto found = m_model.Nearest(at.x(), at.y(), geometry);
   lblMouse->setVisible(found.has_value());
   if (!found) {
@@ -220,6 +272,13 @@ void frmPolar::closeEvent(QCloseEvent* event) {
 void frmPolar::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
   m_parts.Tells.OnPolarVisible(true);
+}
+
+void frmPolar::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && m_ledger) {
+    m_course.Show(*m_ledger);
+  }
 }
 
 void frmPolar::hideEvent(QHideEvent* event) {

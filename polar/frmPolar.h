@@ -4,10 +4,13 @@
 
 #include <QLabel>
 #include <QMainWindow>
+#include <optional>
 
 #include "control/TrackMode.h"
 #include "platform/Dialogs.h"
 #include "platform/Profile.h"
+#include "polar/CourseControlsQt.h"
+#include "polar/CourseTargets.h"
 #include "polar/PolarCanvasQt.h"
 #include "polar/PolarListener.h"
 #include "polar/PolarMenuQt.h"
@@ -22,6 +25,7 @@ struct PolarParts {
   Dialogs& Asks;
   PolarListener& Tells;
   PolarFolders Folders;
+  int PauseAfter = 10;  ///< time after which a search for a course lets the window live [ms]
 };
 
 class frmPolar final : public QMainWindow {
@@ -51,10 +55,20 @@ class frmPolar final : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void hideEvent(QHideEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
-  void MakeCourseControls();
   void ConnectMenus();
+  void ConnectCourse();
+  /// Shows the course to where the model says, or hides it. False when the caller has to leave at once: a
+  /// search runs already and is done again behind it, or the window is no more.
+  bool CourseUpdate();
+  /// Searches the best course to `targetBearing` and shows its ledger, its legs and the turns; none of it
+  /// when the window was closed in a pause of the search.
+  void CourseLedger(float heading, float targetBearing, float windAngleTrue, float windSpeedTrue,
+                    float boatSpeed, float polarSpeed);
+  /// Hides what belongs to a course.
+  void CourseHide();
   /// A command that changes the model: menus and plot follow.
   void Follow();
   /// Runs `command` and refreshes menus and plot when an item is chosen.
@@ -70,6 +84,11 @@ class frmPolar final : public QMainWindow {
   PolarMenuQt m_menu;
   PolarCanvasQt* m_canvas;
   QLabel* lblMouse;
+  CourseControlsQt m_course;
+  CourseMemory m_memory;
+  std::optional<LedgerContent> m_ledger;  ///< of the present course
+  bool m_searching = false;
+  bool m_missed = false;  ///< something came while a search ran
   QPointF m_pressed;
 };
 

@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 
 #include <QMouseEvent>
-#include <QPushButton>
 
 #include "tests/ui/PolarWindowTester.h"
 
@@ -56,19 +55,6 @@ TEST_F(PolarWindow, HasItsCaptionAndItsMenus) {
                           "mnuBoatMotorSpeed=Set Motor Only Speed to Target/Waypoint (3.0 Kts)..."));
   EXPECT_EQ(Find<QMenu>("mnuLedger").title(), QStringLiteral("Ledger"));
   EXPECT_THAT(Items(Find<QMenu>("mnuLedger")), ElementsAre("mnuLedgerHide=Hide Ledger"));
-}
-
-TEST_F(PolarWindow, KeepsTheLedgerAndItsButtonsOutOfSight) {
-  Store.ProfileSet("Polar Data", "Course Waypoint", true);
-  Store.ProfileSet("Polar Data", "Course Waypoint Index", std::int16_t{0});
-  Start();
-  Sail(80.0F, 20.0F, 9.0F);
-  EXPECT_FALSE(Find<QAction>("mnuCourseLedger").isEnabled());
-  for (const char* name : {"frmLedger", "lblSteer", "cmdSteer", "cmdTack"}) {
-    EXPECT_FALSE(Find<QWidget>(name).isVisible()) << name;
-  }
-  EXPECT_EQ(Find<QLabel>("lblSteer").text(), QStringLiteral("Steer -100 >"));
-  EXPECT_EQ(Find<QPushButton>("cmdTack").text(), QStringLiteral("Tack"));
 }
 
 TEST_F(PolarWindow, TicksItsDefaults) {

@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QtTest/QTest>
+#include <array>
 #include <memory>
 #include <string>
 #include <utility>
@@ -29,6 +30,9 @@ class PolarWindowTester : public testing::Test, public PolarListener {
   std::unique_ptr<frmPolar> Window;
   std::vector<std::pair<std::string, std::string>> Values;  ///< told for the history
   std::vector<bool> Shown;                                  ///< told about the window
+  /// New heading, heading and true wind angle of each turn that was asked for.
+  std::vector<std::array<float, 3>> Turns;
+  int PauseAfter = 10;  ///< [ms]
 
   PolarWindowTester() { WriteFile(Program / kDefaultPolar, kSmallPolar); }
 
@@ -36,9 +40,12 @@ class PolarWindowTester : public testing::Test, public PolarListener {
     Values.emplace_back(channel, value);
   }
   void OnPolarVisible(bool visible) override { Shown.push_back(visible); }
+  void OnManoeuvre(float newHeading, float heading, float windAngleTrue) override {
+    Turns.push_back({newHeading, heading, windAngleTrue});
+  }
 
   void Make() {
-    Window = std::make_unique<frmPolar>(PolarParts{Store, Dialogs, *this, {Program.Path(), {}}});
+    Window = std::make_unique<frmPolar>(PolarParts{Store, Dialogs, *this, {Program.Path(), {}}, PauseAfter});
   }
   void Start() {
     Make();

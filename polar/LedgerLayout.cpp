@@ -1,0 +1,136 @@
+#include "polar/LedgerLayout.h"
+
+#include <algorithm>
+
+namespace veerwatch {
+
+namespace {
+
+// In heights of the text.
+constexpr double kLine = 1.5;
+constexpr double kRowLine = 1.7;
+constexpr double kTitle = 2.0;
+constexpr double kButton = 2.5;
+constexpr double kMargin = 0.8;
+constexpr double kGap = 0.6;
+constexpr double kColumnGap = 1.4;
+constexpr double kSample = 1.1;
+
+constexpr std::size_t kRows = 6;
+
+/// Line and column of each figure: the boat and its legs at the left, the target at the right, the waypoint
+/// below them.
+struct Cell {
+  int Line;
+  int Column;
+};
+constexpr std::array<Cell, 9> kCells{
+    {{0, 0}, {1, 0}, {2, 0}, {0, 1}, {1, 1}, {3, 0}, {3, 1}, {4, 0}, {4, 1}}};
+constexpr std::size_t kTime = 8;
+
+}  // namespace
+
+LedgerLayout LayLedger(const LedgerTexts& texts) {
+  const double unit = texts.Height;
+  const double left = texts.Caption + kGap * unit + texts.LegValue;
+  const double right = texts.Caption + kGap * unit + texts.Value;
+  const double rows = (kSample + kGap) * unit + texts.Label + 2.0 * (kGap * unit + texts.Number);
+  const double figures = left + kColumnGap * unit + right;
+  const bool longTime = texts.LongValue > 0.0 && texts.Figures > kTime;
+  const double time = longTime ? texts.Caption + kGap * unit + texts.LongValue : 0.0;
+  const double margin = kMargin * unit;
+  const double inner = std::max({figures, texts.Rows ? rows : 0.0, time});
+
+  LedgerLayout layout;
+  layout.Text = unit;
+  layout.Width = inner + 2.0 * margin;
+  layout.Title = {0.0, 0.0, layout.Width, kTitle * unit};
+  double y = layout.Title.Height + kGap * unit;
+
+  // What is left over widens the two columns alike.
+  const double spare = (inner - figures) / 2.0;
+  const std::array<PlotBox, 2> columns{
+      {{margin, 0.0, left + spare, 0.0},
+       {margin + left + spare + kColumnGap * unit, 0.0, right + spare, 0.0}}};
+  int last = 0;
+  for (std::size_t i = 0; i < std::min(texts.Figures, kCells.size()); ++i) {
+    const bool whole = longTime && i == kTime;
+    const Cell cell = whole ? Cell{kCells[i].Line + 1, 0} : kCells[i];
+    PlotBox column = columns[static_cast<std::size_t>(cell.Column)];
+    column.Width = whole ? inner : column.Width;
+    last = std::max(last, cell.Line);
+    const double top = y + cell.Line * kLine * unit;
+    const double value = column.Width - texts.Caption - kGap * unit;
+    layout.Figures.push_back({{column.X, top, texts.Caption, kLine * unit},
+                              {column.X + column.Width - value, top, value, kLine * unit}});
+  }
+  y += (last + 1) * kLine * unit + kGap * unit;
+
+  for (std::size_t row = 0; texts.Rows && row < kRows; ++row) {
+    const double height = kRowLine * unit;
+    const double speedX = layout.Width - margin - texts.Number;
+    const double angleX = speedX - kGap * unit - texts.Number;
+    const double labelX = margin + (kSample + kGap) * unit;
+    layout.Separators.push_back({{margin, y}, {layout.Width - margin, y}});
+    layout.Rows.push_back({{margin, y, kSample * unit, height},
+                           {labelX, y, angleX - kGap * unit - labelX, height},
+                           {angleX, y, texts.Number, height},
+                           {speedX, y, texts.Number, height}});
+    y += height;
+  }
+  y += texts.Rows ? kGap * unit : 0.0;
+
+  const double button = (inner - kGap * unit) / 2.0;
+  layout.Steer = {margin, y, button, kButton * unit};
+  layout.Tack = {margin + button + kGap * unit, y, button, kButton * unit};
+  layout.Height = y + kButton * unit + margin;
+  return layout;
+}
+
+double LedgerTextHeight(double width, double height) {
+  constexpr double kShare = 0.0165;
+  constexpr double kLeast = 8.5;
+  constexpr double kMost = 18.0;
+  return std::clamp(std::min(width, height) * kShare, kLeast, kMost);
+}
+
+bool LedgerFits(const LedgerLayout& layout, double width, double height) {
+  constexpr double kMostWidth = 0.75;
+  constexpr double kMostHeight = 0.6;
+  return layout.Width <= kMostWidth * width && layout.Height <= kMostHeight * height;
+}
+
+PlotPoint LedgerHome(const PlotBox& panel, double width, double height, bool legendInCorners) {
+  constexpr double kEdge = 8.0;
+  const double x = legendInCorners ? (width - panel.Width) / 2.0 : width - kEdge - panel.Width;
+  return KeepInside({x, height - kEdge - panel.Height, panel.Width, panel.Height}, width, height);
+}
+
+PlotBox SteerPlace(const PolarGeometry& geometry, const std::vector<PlotLabel>& labels, double width,
+                   double height) {
+  // Shares of the outer radius, the best first.
+  constexpr std::array<double, 7> kAhead{0.66, 0.62, 0.7, 0.58, 0.74, 0.54, 0.78};
+  const auto at = [&](double ahead) {
+    return PlotBox{geometry.CentreX - width / 2.0, geometry.CentreY * (1.0 - ahead) - height / 2.0, width,
+                   height};
+  };
+  for (const double ahead : kAhead) {
+    const PlotBox box = at(ahead);
+    const auto covers = [&box](const PlotLabel& label) {
+      const PlotBox& other = label.Box;
+      return box.X < other.X + other.Width && other.X < box.X + box.Width && box.Y < other.Y + other.Height &&
+             other.Y < box.Y + box.Height;
+    };
+    if (std::none_of(labels.begin(), labels.end(), covers)) {
+      return box;
+    }
+  }
+  return at(kAhead.front());
+}
+
+PlotPoint KeepInside(const PlotBox& panel, double width, double height) {
+  return {std::max(0.0, std::min(panel.X, width - panel.Width)),
+          std::max(0.0, std::min(panel.Y, height - panel.Height))};
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,72 @@
+// Where everything stands in the course ledger's panel, and where the panel stands on the plot. Plain numbers
+// [px], origin at the upper left; LedgerPanelQt strokes them.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <vector>
+
+#include "polar/PolarPlot.h"
+
+namespace veerwatch {
+
+/// Widths that the texts take [px].
+struct LedgerTexts {
+  double Height = 11.0;     ///< of the text
+  double Caption = 0.0;     ///< the widest column heading
+  double LegValue = 0.0;    ///< a heading with its share or time
+  double Value = 0.0;       ///< any other figure
+  double LongValue = 0.0;   ///< the time under sail with that under motor; 0 for none
+  double Label = 0.0;       ///< the widest row label
+  double Number = 0.0;      ///< an angle or a speed of a row
+  std::size_t Figures = 0;  ///< how many there are: 5, 7 or 9
+  bool Rows = true;         ///< false leaves the rows out
+};
+
+struct LedgerFigurePlace {
+  PlotBox Heading;
+  PlotBox Value;
+};
+
+struct LedgerRowPlace {
+  PlotBox Sample;  ///< of the row's colour
+  PlotBox Label;
+  PlotBox Angle;
+  PlotBox Speed;
+};
+
+struct LedgerLayout {
+  double Width = 0.0;
+  double Height = 0.0;
+  double Text = 0.0;  ///< height of the text
+  PlotBox Title;
+  std::vector<LedgerFigurePlace> Figures;
+  std::vector<LedgerRowPlace> Rows;    ///< six, or none
+  std::vector<PlotStroke> Separators;  ///< between the rows
+  PlotBox Steer;
+  PlotBox Tack;
+};
+
+/// Title, figures in two columns, rows with lines between them, buttons.
+LedgerLayout LayLedger(const LedgerTexts& texts);
+
+/// Height of the ledger's text on a plot of `width` by `height`.
+double LedgerTextHeight(double width, double height);
+
+/// Whether `layout` leaves enough of a plot of `width` by `height` to be seen.
+bool LedgerFits(const LedgerLayout& layout, double width, double height);
+
+/// The upper left corner of a panel that nobody has moved: at the lower right, or at the middle below where
+/// the legend has the corners.
+PlotPoint LedgerHome(const PlotBox& panel, double width, double height, bool legendInCorners);
+
+/// Where a plate of `width` by `height` stands ahead of the boat, in the sector where none sails, clear of
+/// the labels of the grid where it can.
+PlotBox SteerPlace(const PolarGeometry& geometry, const std::vector<PlotLabel>& labels, double width,
+                   double height);
+
+/// The place nearest to that of `panel` at which it lies inside of `width` by `height`; the upper left corner
+/// for one that is larger.
+PlotPoint KeepInside(const PlotBox& panel, double width, double height);
+
+}  // namespace veerwatch

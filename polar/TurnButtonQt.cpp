@@ -1,0 +1,106 @@
+#include "polar/TurnButtonQt.h"
+
+#include <QPainter>
+
+namespace veerwatch {
+
+namespace {
+
+constexpr QColor kStarboard(128, 255, 128);
+constexpr QColor kPort(255, 128, 128);
+constexpr QColor kOnColour(0x14, 0x18, 0x14);
+constexpr qreal kRadius = 4.0;
+
+/// A plate with a text, in the colours given.
+void PaintPlate(QPainter& painter, const QRect& place, const QString& text, const QColor& back,
+                const QColor& letters, const QPen& edge) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(edge);
+  painter.setBrush(back);
+  painter.drawRoundedRect(QRectF(place).adjusted(1.0, 1.0, -1.0, -1.0), kRadius, kRadius);
+  painter.setPen(letters);
+  painter.drawText(place, Qt::AlignCenter, text);
+}
+
+QColor Faded(QColor colour, float share) {
+  colour.setAlphaF(share);
+  return colour;
+}
+
+constexpr float kEdge = 0.35F;
+
+/// Gives `control` the back colour of `face` and a text colour for it.
+void WearTurn(QWidget& control, const TurnFace& face) {
+  // Asked of the window, whose colours are the desktop's own.
+  QPalette colours = control.window()->palette();
+  QColor back = colours.color(QPalette::Active, QPalette::Window);
+  QColor text = colours.color(QPalette::Active, QPalette::WindowText);
+  if (face.Back != TurnColor::Own) {
+    back = face.Back == TurnColor::Starboard ? kStarboard : kPort;
+    text = kOnColour;
+  }
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    for (const auto role : {QPalette::Button, QPalette::Window}) {
+      colours.setColor(group, role, back);
+    }
+    for (const auto role : {QPalette::ButtonText, QPalette::WindowText}) {
+      colours.setColor(group, role, text);
+    }
+  }
+  if (colours != control.palette()) {
+    control.setPalette(colours);
+  }
+}
+
+}  // namespace
+
+TurnLabelQt::TurnLabelQt(const QString& name, const QString& caption, QWidget* parent)
+    : QLabel(caption, parent) {
+  setObjectName(name);
+  setTextFormat(Qt::PlainText);
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+}
+
+void TurnLabelQt::Show(const TurnFace& face) {
+  WearTurn(*this, face);
+  setText(QString::fromStdString(face.Caption));
+}
+
+void TurnLabelQt::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  const QColor text = palette().color(QPalette::WindowText);
+  PaintPlate(painter, rect(), this->text(), palette().color(QPalette::Window), text, Faded(text, kEdge));
+}
+
+TurnButtonQt::TurnButtonQt(const QString& name, const QString& caption, QWidget* parent)
+    : QPushButton(caption, parent) {
+  setObjectName(name);
+  setAttribute(Qt::WA_Hover);
+  setCursor(Qt::ArrowCursor);
+}
+
+void TurnButtonQt::Show(const TurnFace& face) {
+  WearTurn(*this, face);
+  setText(QString::fromStdString(face.Caption));
+}
+
+void TurnButtonQt::paintEvent(QPaintEvent* /*event*/) {
+  constexpr float kDimText = 0.45F;
+  constexpr float kDimEdge = 0.2F;
+  constexpr int kMiddleLightness = 128;
+  QPainter painter(this);
+  QColor back = palette().color(QPalette::Button);
+  const QColor text = palette().color(QPalette::ButtonText);
+  if (!isEnabled()) {
+    PaintPlate(painter, rect(), this->text(), back, Faded(text, kDimText), Faded(text, kDimEdge));
+    return;
+  }
+  if (isDown()) {
+    back = back.darker(125);
+  } else if (underMouse()) {
+    back = back.lightness() > kMiddleLightness ? back.darker(108) : back.lighter(135);
+  }
+  PaintPlate(painter, rect(), this->text(), back, text, QPen(Faded(text, kEdge), hasFocus() ? 2.0 : 1.0));
+}
+
+}  // namespace veerwatch

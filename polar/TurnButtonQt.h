@@ -1,0 +1,33 @@
+// What shows a turn: a button or a label in the colour of its side, its text readable on it in any palette.
+#pragma once
+
+#include <QLabel>
+#include <QPushButton>
+
+#include "polar/CourseCaptions.h"
+
+namespace veerwatch {
+
+// Both have their colours in their palette: Button and ButtonText, Window and WindowText.
+
+class TurnLabelQt final : public QLabel {
+ public:
+  TurnLabelQt(const QString& name, const QString& caption, QWidget* parent);
+
+  void Show(const TurnFace& face);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+class TurnButtonQt final : public QPushButton {
+ public:
+  TurnButtonQt(const QString& name, const QString& caption, QWidget* parent);
+
+  void Show(const TurnFace& face);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+};
+
+}  // namespace veerwatch

@@ -1,0 +1,118 @@
+#include "polar/LedgerLayout.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace veerwatch {
+namespace {
+
+constexpr double kSlack = 1e-9;
+
+LedgerTexts Texts(std::size_t figures, bool rows, bool longTime) {
+  return {11.0, 66.0, 62.0, 36.0, longTime ? 120.0 : 0.0, 190.0, 28.0, figures, rows};
+}
+
+std::vector<PlotBox> Boxes(const LedgerLayout& layout) {
+  std::vector<PlotBox> boxes{layout.Title, layout.Steer, layout.Tack};
+  for (const LedgerFigurePlace& figure : layout.Figures) {
+    boxes.insert(boxes.end(), {figure.Heading, figure.Value});
+  }
+  for (const LedgerRowPlace& row : layout.Rows) {
+    boxes.insert(boxes.end(), {row.Sample, row.Label, row.Angle, row.Speed});
+  }
+  return boxes;
+}
+
+bool Overlap(const PlotBox& a, const PlotBox& b) {
+  return a.X + kSlack < b.X + b.Width && b.X + kSlack < a.X + a.Width && a.Y + kSlack < b.Y + b.Height &&
+         b.Y + kSlack < a.Y + a.Height;
+}
+
+TEST(LayLedger, GivesEveryTextItsRoomAndNoneThatOfAnother) {
+  for (const std::size_t figures : {5U, 7U, 9U}) {
+    for (const bool rows : {true, false}) {
+      for (const bool longTime : {true, false}) {
+        const LedgerTexts texts = Texts(figures, rows, longTime);
+        const LedgerLayout layout = LayLedger(texts);
+        const auto boxes = Boxes(layout);
+        for (std::size_t i = 0; i < boxes.size(); ++i) {
+          EXPECT_GE(boxes[i].X, 0.0);
+          EXPECT_LE(boxes[i].X + boxes[i].Width, layout.Width + kSlack);
+          EXPECT_LE(boxes[i].Y + boxes[i].Height, layout.Height + kSlack);
+          for (std::size_t k = i + 1; k < boxes.size(); ++k) {
+            EXPECT_FALSE(Overlap(boxes[i], boxes[k])) << figures << " figures, boxes " << i << ", " << k;
+          }
+        }
+        ASSERT_EQ(layout.Figures.size(), figures);
+        EXPECT_EQ(layout.Rows.size(), rows ? 6U : 0U);
+        EXPECT_EQ(layout.Separators.size(), layout.Rows.size());
+        EXPECT_GE(layout.Figures[1].Value.Width, texts.LegValue - kSlack);
+        if (figures == 9U) {
+          EXPECT_GE(layout.Figures[8].Value.Width, (longTime ? texts.LongValue : texts.Value) - kSlack);
+        }
+        for (const LedgerRowPlace& row : layout.Rows) {
+          EXPECT_GE(row.Label.Width, texts.Label - kSlack);
+        }
+      }
+    }
+  }
+}
+
+TEST(LedgerHome, IsAtTheLowerRightOrBetweenTheCornersOfTheLegend) {
+  const PlotBox panel{0.0, 0.0, 300.0, 200.0};
+  EXPECT_EQ(LedgerHome(panel, 1000.0, 700.0, false).X, 692.0);
+  EXPECT_EQ(LedgerHome(panel, 1000.0, 700.0, false).Y, 492.0);
+  EXPECT_EQ(LedgerHome(panel, 700.0, 700.0, true).X, 200.0);
+  EXPECT_EQ(LedgerHome(panel, 200.0, 100.0, false).X, 0.0);
+}
+
+TEST(KeepInside, MovesAPanelBackAsLittleAsItCan) {
+  const auto at = [](double x, double y) {
+    const PlotPoint point = KeepInside({x, y, 100.0, 50.0}, 400.0, 300.0);
+    return std::pair{point.X, point.Y};
+  };
+  EXPECT_EQ(at(20.0, 30.0), (std::pair{20.0, 30.0}));
+  EXPECT_EQ(at(-20.0, 30.0), (std::pair{0.0, 30.0}));
+  EXPECT_EQ(at(380.0, 299.0), (std::pair{300.0, 250.0}));
+  const PlotPoint large = KeepInside({50.0, 50.0, 500.0, 500.0}, 400.0, 300.0);
+  EXPECT_EQ(large.X, 0.0);
+  EXPECT_EQ(large.Y, 0.0);
+}
+
+TEST(SteerPlace, KeepsClearOfTheLabelsOfTheGrid) {
+  const PolarGeometry geometry = PlotGeometry(700.0, 700.0, 10.0);
+  const PlotBox free = SteerPlace(geometry, {}, 120.0, 30.0);
+  EXPECT_EQ(free.X, 290.0);
+  EXPECT_NEAR(free.Y, 350.0 * 0.34 - 15.0, kSlack);
+  const PlotLabel label{PlotLabelKind::Speed, {380.0, free.Y + 25.0, 20.0, 14.0}, "8"};
+  EXPECT_FALSE(Overlap(SteerPlace(geometry, {label}, 120.0, 30.0), label.Box));
+  const PlotLabel everywhere{PlotLabelKind::Speed, {0.0, 0.0, 700.0, 700.0}, "8"};
+  EXPECT_EQ(SteerPlace(geometry, {everywhere}, 120.0, 30.0).Y, free.Y);
+}
+
+TEST(MakeLegArrow, EndsAtTheSpeedPointWithStrokesThirtyDegreesOffTheLine) {
+  const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 10.0);
+  // Ahead: the strokes run backwards, 30 degrees to either side of straight down; 0.07 of 200 px are 14.
+  const LegArrow ahead = MakeLegArrow(geometry, 0.0, 5.0);
+  EXPECT_NEAR(ahead.Line.From.X, 200.0, 1e-9);
+  EXPECT_NEAR(ahead.Line.From.Y, 200.0, 1e-9);
+  EXPECT_NEAR(ahead.Line.To.X, 200.0, 1e-9);
+  EXPECT_NEAR(ahead.Line.To.Y, 100.0, 1e-9);
+  EXPECT_NEAR(ahead.HeadLeft.To.X, 200.0 - 7.0, 1e-6);
+  EXPECT_NEAR(ahead.HeadRight.To.X, 200.0 + 7.0, 1e-6);
+  EXPECT_NEAR(ahead.HeadLeft.To.Y, 100.0 + 14.0 * 0.8660254, 1e-6);
+  EXPECT_NEAR(ahead.HeadRight.To.Y, 100.0 + 14.0 * 0.8660254, 1e-6);
+  const LegArrow abeam = MakeLegArrow(geometry, -90.0, 5.0);
+  EXPECT_NEAR(abeam.Line.To.X, 100.0, 1e-9);
+  EXPECT_NEAR(abeam.HeadLeft.From.X, 100.0, 1e-9);
+  EXPECT_NEAR(abeam.HeadLeft.To.X, 100.0 + 14.0 * 0.8660254, 1e-6);
+}
+
+TEST(MakeLegArrow, EndsOnTheOuterRing) {
+  const LegArrow arrow = MakeLegArrow(PlotGeometry(400.0, 400.0, 10.0), 180.0, 25.0);
+  EXPECT_NEAR(arrow.Line.To.Y, 400.0, 1e-9);
+}
+
+}  // namespace
+}  // namespace veerwatch
