@@ -507,8 +507,10 @@ PolarLegend LayLegend(double width, double height, int keys, const PlotRoom& tak
     const double free = LeftOver(height, taken.Height);
     LayColumn(legend, {side + margin, margin, columnWidth, free - 2.0 * margin}, keys);
   } else if (height - side > kRoom * side) {
-    const double free = LeftOver(width, taken.Width);
-    LayRow(legend, {margin, side + margin, free - 2.0 * margin, height - side - 2.0 * margin}, keys);
+    // To the left of what is taken or, where it is too narrow there, above.
+    const double left = LeftOver(width, taken.Width);
+    const double above = left < width ? height - side : LeftOver(height - side, taken.Height);
+    LayRow(legend, {margin, side + margin, left - 2.0 * margin, above - 2.0 * margin}, keys);
   } else {
     LayCorners(legend, width, height, keys);
   }

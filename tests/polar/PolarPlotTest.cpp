@@ -291,5 +291,23 @@ TEST(PolarLegend, KeepsClearOfTheRingAndOfItselfAtEverySize) {
   }
 }
 
+TEST(PolarLegend, LeavesTheRoomThatIsTakenAtTheLowerRight) {
+  const auto clear = [](double width, double height) {
+    const PlotRoom taken{300.0, 280.0};
+    const PolarLegend legend = LayLegend(width, height, 1, taken);
+    const PlotBox room{width - taken.Width, height - taken.Height, taken.Width, taken.Height};
+    EXPECT_FALSE(legend.Corners);
+    std::vector<PlotBox> boxes = legend.Keys;
+    for (const LegendCell* cell : {&legend.Reference, &legend.Boat, &legend.WindSpeed, &legend.WindAngle}) {
+      boxes.insert(boxes.end(), {cell->Caption, cell->Value});
+    }
+    return std::none_of(boxes.begin(), boxes.end(),
+                        [&room](const PlotBox& box) { return Overlap(box, room); });
+  };
+  EXPECT_TRUE(clear(1000.0, 720.0)) << "beside the plot";
+  EXPECT_TRUE(clear(600.0, 1000.0)) << "below it, at the left";
+  EXPECT_TRUE(clear(320.0, 1000.0)) << "below it, above";
+}
+
 }  // namespace
 }  // namespace veerwatch
