@@ -20,7 +20,7 @@ PolarPaletteQt::PolarPaletteQt(const QPalette& palette)
   StarboardTack = Dark ? QColor(0x4a, 0xd6, 0x7a) : QColor(0x12, 0x85, 0x3a);
   PortTack = Dark ? QColor(0xff, 0x6b, 0x78) : QColor(0xc4, 0x10, 0x34);
   MousePlate = Dark ? QColor(0xd4, 0xd8, 0xdc) : QColor(0xff, 0xfb, 0xe6);
-  for (QColor* colour : {&Reference, &Wind, &Boat, &MousePlate}) {
+  for (QColor* colour : {&Reference, &Wind, &Boat, &Target, &StarboardTack, &PortTack, &MousePlate}) {
     *colour = ShadeFor(Surface, *colour);
   }
 }

@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+#include "platform/ColoursQt.h"
+
 namespace veerwatch {
 
 namespace {
@@ -10,6 +12,8 @@ constexpr QColor kStarboard(128, 255, 128);
 constexpr QColor kPort(255, 128, 128);
 constexpr QColor kOnColour(0x14, 0x18, 0x14);
 constexpr qreal kRadius = 4.0;
+/// How strong a colour is at night, when it must not dazzle.
+constexpr qreal kNightShare = 0.25;
 
 /// A plate with a text, in the colours given.
 void PaintPlate(QPainter& painter, const QRect& place, const QString& text, const QColor& back,
@@ -36,8 +40,10 @@ void WearTurn(QWidget& control, const TurnFace& face) {
   QColor back = colours.color(QPalette::Active, QPalette::Window);
   QColor text = colours.color(QPalette::Active, QPalette::WindowText);
   if (face.Back != TurnColor::Own) {
-    back = face.Back == TurnColor::Starboard ? kStarboard : kPort;
-    text = kOnColour;
+    const QColor side = face.Back == TurnColor::Starboard ? kStarboard : kPort;
+    const bool night = IsNight(back);
+    back = night ? Mixed(back, NightShade(side), kNightShare) : side;
+    text = night ? text : kOnColour;
   }
   for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
     for (const auto role : {QPalette::Button, QPalette::Window}) {

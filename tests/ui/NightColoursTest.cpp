@@ -59,7 +59,9 @@ double MeanBrightness(const QImage& image) {
 }
 
 TEST_F(NightColours, EveryWindowIsRedOnBlack) {
-  Start(std::string(kSimulated) + "[Polar Window]\nVisible=True\n[History Window]\nVisible=True\n");
+  Start(std::string(kSimulated) +
+        "[Polar Window]\nVisible=True\n[Polar Data]\nCourse Waypoint=True\nCourse Waypoint Index=2\n"
+        "[History Window]\nVisible=True\n");
   Window->resize(1160, 760);
   for (int i = 0; i < 30; ++i) {
     tmrNmea.Tick();
