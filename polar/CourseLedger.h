@@ -60,9 +60,9 @@ struct LedgerInput {
   float WaypointRange = 0.0F;  ///< [nm]
 };
 
-/// The ledger for the course source, the scaling and the boat in `settings`. With Course Scale, or under
-/// motor and sail, all speeds follow the boat's own. Leg times are the shares of the whole time. Under motor
-/// and sail the time at the motor speed stands behind that under sail.
+/// The ledger for the course source, the scaling and the boat in `settings`. With Course Scale all speeds
+/// follow the boat's own. Deliberate: under motor and sail they do so without it too. Leg times are the shares
+/// of the whole time. Under motor and sail the time at the motor speed stands behind that under sail.
 LedgerContent CourseLedger(const PolarSettings& settings, const LedgerInput& input,
                            const CourseSolution& solution);
 

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "polar/LedgerPanelQt.h"
+#include "tests/ui/DarkPalette.h"
 #include "tests/ui/PolarWindowTester.h"
 
 namespace veerwatch {
@@ -29,12 +30,6 @@ double Contrast(const QColor& a, const QColor& b) {
   const double lighter = std::max(Luminance(a), Luminance(b));
   const double darker = std::min(Luminance(a), Luminance(b));
   return (lighter + 0.05) / (darker + 0.05);
-}
-
-QPalette DarkPalette() {
-  QPalette dark(QColor(0x2a, 0x2d, 0x31), QColor(0x1b, 0x1e, 0x22));
-  dark.setColor(QPalette::WindowText, QColor(0xe6, 0xea, 0xee));
-  return dark;
 }
 
 class PolarLedger : public PolarWindowTester {
@@ -434,6 +429,17 @@ TEST_F(PolarLedger, SearchesOnceForTheSameWind) {
   other.Heading = 130.0F;
   At(other);
   EXPECT_TRUE(paused);
+}
+
+TEST_F(PolarLedger, PausesOnlyWhenItTakesLong) {
+  constexpr int kHour = 3600000;
+  PauseAfter = kHour;
+  StartTo(100.0F);
+  bool paused = false;
+  QTimer::singleShot(0, Window.get(), [&] { paused = true; });
+  At({});
+  EXPECT_TRUE(Shows());
+  EXPECT_FALSE(paused);
 }
 
 TEST_F(PolarLedger, LooksTheSameInTheDark) {
