@@ -7,6 +7,7 @@
 //   type NAME TEXT  puts a text into an entry box and takes it     "typed NAME"
 //   size NAME W H   gives a window that size [px]                  "sized NAME"
 //   grab NAME FILE  keeps a picture of a window, PNG               "grabbed NAME"
+//   delays          how late events were since the last time       "delays COUNT MEDIAN P99 P999 MOST", in ms
 //   quit            closes the main window, as the end of the input does
 // "ready" is said once in the beginning; "no NAME" when there is none of that name or it is disabled.
 
@@ -15,17 +16,78 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSocketNotifier>
+#include <QTimer>
+#include <algorithm>
 #include <array>
+#include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <map>
+#include <vector>
 
 #include "app/ProgramQt.h"
 
 namespace {
+
+/// How late the event loop is: a timer of a fixed interval, measured each time that it comes.
+class Delays final : public QObject {
+ public:
+  explicit Delays(QObject* parent) : QObject(parent), m_counts(kMost) {
+    m_timer.setTimerType(Qt::PreciseTimer);
+    connect(&m_timer, &QTimer::timeout, this, [this] { Measure(); });
+    m_timer.start(kInterval);
+    m_clock.start();
+  }
+
+  /// The delays since the last call; the first call comes from before anything was measured.
+  QString Take() {
+    const QString text = QStringLiteral("delays %1 %2 %3 %4 %5")
+                             .arg(m_count)
+                             .arg(Quantile(0.5), 0, 'f', 1)
+                             .arg(Quantile(0.99), 0, 'f', 1)
+                             .arg(Quantile(0.999), 0, 'f', 1)
+                             .arg(Quantile(1.0), 0, 'f', 1);
+    m_counts.assign(kMost, 0);
+    m_count = 0;
+    return text;
+  }
+
+ private:
+  static constexpr int kInterval = 5;            // [ms]
+  static constexpr std::size_t kMost = 100'000;  // tenths of a millisecond that are told apart
+  static constexpr double kTenths = 10.0;        // of a millisecond
+
+  void Measure() {
+    const double passed = static_cast<double>(m_clock.nsecsElapsed()) / 1e6;
+    m_clock.restart();
+    const double late = std::max(0.0, passed - kInterval);
+    ++m_counts[std::min(static_cast<std::size_t>(late * kTenths), kMost - 1)];
+    ++m_count;
+  }
+
+  /// [ms], not less than what that part of the delays was.
+  double Quantile(double part) const {
+    const auto wanted = static_cast<std::uint64_t>(std::ceil(part * static_cast<double>(m_count)));
+    std::uint64_t seen = 0;
+    for (std::size_t at = 0; at < m_counts.size(); ++at) {
+      seen += m_counts[at];
+      if (seen >= wanted && m_count > 0) {
+        return static_cast<double>(at + 1) / kTenths;
+      }
+    }
+    return 0.0;
+  }
+
+  QTimer m_timer;
+  QElapsedTimer m_clock;
+  std::vector<std::uint64_t> m_counts;
+  std::uint64_t m_count = 0;
+};
 
 class Remote final : public QObject {
  public:
@@ -120,6 +182,13 @@ class Remote final : public QObject {
       m_window.close();
       return;
     }
+    if (verb == QLatin1String("delays")) {
+      if (m_delays == nullptr) {
+        m_delays = new Delays(this);
+      }
+      Say(m_delays->Take());
+      return;
+    }
     const QString first = name.section(QLatin1Char(' '), 0, 0);
     if (ObeyWith(verb, first, name.section(QLatin1Char(' '), 1))) {
       return;
@@ -153,6 +222,7 @@ class Remote final : public QObject {
   QWidget& m_window;
   QSocketNotifier m_notifier;
   QByteArray m_line;
+  Delays* m_delays = nullptr;  ///< from the first time that somebody asks
   std::map<const QLabel*, QString> m_shown;
 };
 
