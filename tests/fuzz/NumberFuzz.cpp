@@ -5,11 +5,13 @@
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <variant>
 
 #include "instruments/CompassPoint.h"
 #include "instruments/MathLib.h"
 #include "nmea/FieldNumber.h"
 #include "nmea/Fields.h"
+#include "options/SimulateTimeText.h"
 #include "platform/NumberText.h"
 #include "polar/CourseCaptions.h"
 #include "tests/fuzz/Demand.h"
@@ -29,6 +31,21 @@ void DemandText(std::string_view text) {
   if (whole) {
     const std::string shortest = ShortestText(*whole);
     Demand(StrictNumber(shortest) == *whole, "the shortest text reads back");
+  }
+  const auto option = ToOptionSingle(text);
+  if (const float* single = std::get_if<float>(&option)) {
+    Demand(whole == *single, "a box takes what is a number");
+    const auto integer = ToOptionInteger(*single);
+    Demand(std::holds_alternative<OptionFault>(integer) == (std::fabs(*single) > 32768.0F) ||
+               std::fabs(std::fabs(*single) - 32768.0F) <= 1.0F,
+           "a port is an integer of 16 bits");
+  } else {
+    Demand(std::get<OptionFault>(option) != OptionFault::InvalidValue, "no number, or one too large");
+  }
+  const auto time = SimulateTimeParse(text);
+  if (const float* hours = std::get_if<float>(&time)) {
+    Demand(std::isfinite(*hours), "a finite time");
+    DemandNumbers(SimulateTimeFormat(*hours));
   }
   const std::string_view trimmed = Trim(text);
   Demand(trimmed.empty() || (trimmed.front() != ' ' && trimmed.back() != ' '), "no blanks at the ends");
