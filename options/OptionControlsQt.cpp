@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char* kWidestNumber = "-00000.00";
 /// Part of the screen that a page takes without scrolling.
-constexpr double kScreenShare = 0.75;
+constexpr double kScreenShare = 0.9;
 
 }  // namespace
 

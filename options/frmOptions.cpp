@@ -123,6 +123,12 @@ void frmOptions::LargerText() {
     larger.setPointSizeF(larger.pointSizeF() * kTextShare);
   }
   setFont(larger);
+  // They have a font of their own and take its size from the page around them when it changes.
+  for (const char* name : {"lstNmeaData", "lstPilotData"}) {
+    if (auto* list = findChild<QListView*>(QLatin1String(name))) {
+      list->setFont(larger);
+    }
+  }
 }
 
 QSize frmOptions::LeastSize() const {
@@ -327,16 +333,11 @@ void frmOptions::resizeEvent(QResizeEvent* event) {
   LayOut();
 }
 
-void frmOptions::changeEvent(QEvent* event) {
-  QDialog::changeEvent(event);
-  if (event->type() == QEvent::ApplicationFontChange) {
-    LargerText();
-  }
-}
-
 bool frmOptions::event(QEvent* event) {
   const bool handled = QDialog::event(event);
-  if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) {
+  if (event->type() == QEvent::ApplicationFontChange) {
+    LargerText();
+  } else if (event->type() == QEvent::LayoutRequest || event->type() == QEvent::Show) {
     Fit();
   }
   return handled;
