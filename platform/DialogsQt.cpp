@@ -14,10 +14,36 @@ namespace veerwatch {
 
 namespace {
 
+/// `text` with line breaks for its carriage returns.
+QString Lines(const std::string& text) {
+  return QString::fromStdString(text).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
+
+/// A message that is read while the program goes on. It goes with the window that it belongs to.
+class MessageQt final : public QMessageBox {
+ public:
+  MessageQt(const QString& title, const QString& text, QWidget* parent)
+      : QMessageBox(Warning, title, text, Ok, parent) {
+    setTextFormat(Qt::PlainText);
+    setAttribute(Qt::WA_DeleteOnClose);
+    setModal(false);
+    if (parent != nullptr) {
+      parent->installEventFilter(this);
+    }
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (watched == parentWidget() && event->type() == QEvent::Hide && !event->spontaneous()) {
+      close();
+    }
+    return QMessageBox::eventFilter(watched, event);
+  }
+};
+
 bool YesNo(QMessageBox::Icon sign, const std::string& title, const std::string& text, QWidget* parent) {
-  QString lines = QString::fromStdString(text);
-  lines.replace(QLatin1Char('\r'), QLatin1Char('\n'));
-  QMessageBox box(sign, QString::fromStdString(title), lines, QMessageBox::Yes | QMessageBox::No, parent);
+  QMessageBox box(sign, QString::fromStdString(title), Lines(text), QMessageBox::Yes | QMessageBox::No,
+                  parent);
   box.setTextFormat(Qt::PlainText);
   box.setEscapeButton(QMessageBox::No);
   box.setDefaultButton(QMessageBox::No);
@@ -48,6 +74,10 @@ constexpr int kByte = 0xFF;
 
 QWidget* DialogsQt::Parent() const {
   QWidget* active = QApplication::activeWindow();
+  // A message is gone when the user has read it, so nothing belongs to it.
+  while (dynamic_cast<MessageQt*>(active) != nullptr) {
+    active = active->parentWidget();
+  }
   return active != nullptr ? active : m_window.data();
 }
 
@@ -60,12 +90,16 @@ bool DialogsQt::WarnYesNo(const std::string& title, const std::string& text) {
 }
 
 void DialogsQt::Inform(const std::string& title, const std::string& text) {
-  auto* box = new QMessageBox(QMessageBox::Warning, QString::fromStdString(title),
-                              QString::fromStdString(text), QMessageBox::Ok, Parent());
-  box->setTextFormat(Qt::PlainText);
-  box->setAttribute(Qt::WA_DeleteOnClose);
-  box->setModal(false);
-  box->show();
+  QWidget* parent = Parent();
+  const QString lines = Lines(text);
+  if (parent != nullptr) {
+    for (QObject* child : parent->children()) {
+      if (auto* before = dynamic_cast<MessageQt*>(child); before != nullptr && before->text() == lines) {
+        before->close();
+      }
+    }
+  }
+  (new MessageQt(QString::fromStdString(title), lines, parent))->show();
 }
 
 std::optional<std::string> DialogsQt::AskText(const std::string& title, const std::string& prompt,

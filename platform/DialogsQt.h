@@ -18,6 +18,7 @@ class DialogsQt final : public Dialogs {
   /// Closing the box counts as No.
   bool AskYesNo(const std::string& title, const std::string& text) override;
   bool WarnYesNo(const std::string& title, const std::string& text) override;
+  /// The message takes the place of the same one that is still open, and goes when its window is hidden.
   void Inform(const std::string& title, const std::string& text) override;
   std::optional<std::string> AskText(const std::string& title, const std::string& prompt,
                                      const std::string& preset) override;

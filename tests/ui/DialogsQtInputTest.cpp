@@ -80,7 +80,7 @@ TEST(DialogsQtInput, WarnsBeforeYesAndNo) {
 
 TEST(DialogsQtInput, DoesNotWaitForAMessageToBeRead) {
   DialogsQt dialogs;
-  dialogs.Inform("Title", "Something is wrong");
+  dialogs.Inform("Title", "Something\ris wrong");
   EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
   QMessageBox* shown = nullptr;
   for (QWidget* widget : QApplication::topLevelWidgets()) {
@@ -89,7 +89,7 @@ TEST(DialogsQtInput, DoesNotWaitForAMessageToBeRead) {
     }
   }
   ASSERT_NE(shown, nullptr);
-  EXPECT_EQ(shown->text(), QStringLiteral("Something is wrong"));
+  EXPECT_EQ(shown->text(), QStringLiteral("Something\nis wrong"));
   shown->close();
 }
 
