@@ -83,7 +83,6 @@ void frmOptions::MakeButtons() {
   const auto button = [this](const char* name, const char* text) {
     auto* made = new QPushButton(QLatin1String(text), this);
     made->setObjectName(QLatin1String(name));
-    made->setAutoDefault(false);
     return made;
   };
   cmdOk = button("cmdOk", "OK");

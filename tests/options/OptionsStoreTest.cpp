@@ -175,6 +175,75 @@ TEST_F(OptionsStoring, StoresTheTrueWindAverageBeforeTheOther) {
   EXPECT_EQ(Main.m_fNmeaWindIndicatorAverage, 60.0F);
 }
 
+// Every text in the order in which they are stored, each failing in turn.
+
+struct OrderedText {
+  const char* Group;
+  std::string OptionsForm::*Text;
+  std::function<bool(const Settings&)> Stored;
+};
+
+const std::vector<OrderedText>& OrderedTexts() {
+  static const std::vector<OrderedText> kTexts{
+      {"Data", &OptionsForm::NmeaTrueWindAverage,
+       [](const Settings& main) { return main.m_fNmeaTrueWindAverage == 3.5F; }},
+      {"Data", &OptionsForm::NmeaWindIndicatorAverage,
+       [](const Settings& main) { return main.m_fNmeaWindIndicatorAverage == 30.0F; }},
+      {"Input", &OptionsForm::NmeaPort, [](const Settings& main) { return main.m_iNmeaPort == 7; }},
+      {"Output", &OptionsForm::PilotPort, [](const Settings& main) { return main.m_iPilotPort == 8; }},
+      {"Simulate", &OptionsForm::SimulateBoatSpeed,
+       [](const Settings& main) { return main.m_fSimulateBoatSpeed == 6.5F; }},
+      {"Simulate", &OptionsForm::SimulateCompassOffset,
+       [](const Settings& main) { return main.m_fSimulateCompassOffset == -2.0F; }},
+      {"Simulate", &OptionsForm::SimulateNoiseAngle,
+       [](const Settings& main) { return main.m_fSimulateNoiseAngle == 1.5F; }},
+      {"Simulate", &OptionsForm::SimulateNoiseSpeed,
+       [](const Settings& main) { return main.m_fSimulateNoiseSpeed == 0.5F; }},
+      {"Simulate", &OptionsForm::SimulateTime,
+       [](const Settings& main) { return main.m_fSimulateTime == 2.25F; }},
+      {"Simulate", &OptionsForm::SimulateTrueWindAngle,
+       [](const Settings& main) { return main.m_fSimulateTrueWindAngle == 215.0F; }},
+      {"Simulate", &OptionsForm::SimulateTrueWindSpeed,
+       [](const Settings& main) { return main.m_fSimulateTrueWindSpeed == 17.5F; }},
+      {"Simulate", &OptionsForm::SimulateVariation,
+       [](const Settings& main) { return main.m_fSimulateVariation == -3.0F; }},
+      {"Simulate", &OptionsForm::SimulateWaypointBrg,
+       [](const Settings& main) { return main.m_fSimulateWaypointBearing == 268.0F; }},
+      {"Simulate", &OptionsForm::SimulateWaypointRng,
+       [](const Settings& main) { return main.m_fSimulateWaypointRange == 12.5F; }},
+      {"Tracking", &OptionsForm::TrackAlarmLimit,
+       [](const Settings& main) { return main.m_fTrackAlarmLimit == 8.0F; }},
+      {"Tracking", &OptionsForm::TrackBandwidth,
+       [](const Settings& main) { return main.m_fTrackBandwidth == 25.0F; }},
+      {"Tracking", &OptionsForm::TrackDamping,
+       [](const Settings& main) { return main.m_fTrackDamping == 2.5F; }},
+      {"Tracking", &OptionsForm::TrackMaxSteerTo,
+       [](const Settings& main) { return main.m_fTrackMaxSteerTo == 15.0F; }},
+  };
+  return kTexts;
+}
+
+TEST_F(OptionsStoring, StoresTheTextsInTheirOrderUpToTheOneThatFails) {
+  for (std::size_t failing = 0; failing < OrderedTexts().size(); ++failing) {
+    const OrderedText& spoilt = OrderedTexts()[failing];
+    FakeMainWindow main;
+    OptionsForm form = OtherForm();
+    // As long as a box takes it, and no number.
+    form.*spoilt.Text = std::string(100000, '9').append(":x");
+    EXPECT_EQ(OptionsStore(main, Ports).Store(form),
+              std::string(spoilt.Group) + " Options Problem " +
+                  (spoilt.Text == &OptionsForm::SimulateTime ? "Overflow" : "Type mismatch"));
+    for (std::size_t i = 0; i < OrderedTexts().size(); ++i) {
+      EXPECT_EQ(OrderedTexts()[i].Stored(main), i < failing) << failing << ", " << i;
+    }
+    // What is chosen stands in front of the texts of its group.
+    EXPECT_EQ(main.m_iNmeaTrueWind, 0) << failing;
+    EXPECT_FALSE(main.m_bNmeaSentenceVTG) << failing;
+    EXPECT_EQ(main.m_bSimulate, failing >= 4) << failing;
+    EXPECT_EQ(main.m_bTrackAlarm, failing < 14) << failing;
+  }
+}
+
 // Values that a setting cannot be.
 
 TEST_F(OptionsStoring, RefusesWhatTheLoopCannotWorkWith) {

@@ -78,6 +78,25 @@ TEST_F(NightColours, EveryWindowIsRedOnBlack) {
   }
 }
 
+TEST_F(NightColours, EveryPageOfTheOptionsIsRedOnBlack) {
+  Start(kSimulated);
+  Command().trigger();
+  Find<QAction>("mnuOptionsInput").trigger();
+  auto* options = dynamic_cast<frmOptions*>(Other("frmOptions"));
+  ASSERT_NE(options, nullptr);
+  options->findChild<QRadioButton*>(QStringLiteral("optNmeaListOn"))->setChecked(true);
+  for (int i = 0; i < 30; ++i) {
+    options->NmeaData("$WIMWV,040,R,10.0,N,A", i % 2 == 0);
+  }
+  for (int tab = 0; tab < 6; ++tab) {
+    options->TabSelect(tab);
+    const QImage image = Grab(*options, qPrintable(QStringLiteral("frmOptions-%1").arg(tab)));
+    EXPECT_EQ(Hurting(image), 0) << tab;
+    // The page is raised from the window.
+    EXPECT_LT(MeanBrightness(image), 40.0) << tab;
+  }
+}
+
 TEST_F(NightColours, GoAgain) {
   Start(kSimulated);
   const QPalette desktop = QApplication::palette();

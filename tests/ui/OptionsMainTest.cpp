@@ -199,6 +199,26 @@ TEST_F(OptionsMain, ACommandRightAfterTheCloseOpensANewOne) {
   EXPECT_TRUE(Loaded()->isVisible());
 }
 
+TEST_F(OptionsMain, WhatTheWiresTellBetweenItsCloseAndItsEndGoesToANewOne) {
+  Start(kOnPorts);
+  Mode(5);
+  Open("mnuOptionsOutput");
+  ClickIn("optPilotListOn");
+  Loaded()->close();
+  NmeaPort.Receive("$WIMWV,x,R,8.0,N,A\r" + Winds("40", "60"));
+  NmeaPort.Receive(Winds("41", "61"));
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  int dialogs = 0;
+  for (QWidget* widget : QApplication::topLevelWidgets()) {
+    dialogs += dynamic_cast<frmOptions*>(widget) != nullptr ? 1 : 0;
+  }
+  EXPECT_EQ(dialogs, 1);
+  EXPECT_FALSE(Loaded()->isVisible());
+  EXPECT_TRUE(Lines("lstPilotData").empty());
+  EXPECT_TRUE(In<QRadioButton>("OptPilotListOff").isChecked());
+  EXPECT_EQ(In<QLabel>("lblPilotStatus").text(), "Running");
+}
+
 TEST_F(OptionsMain, CancelKeepsItsTextsForTheNextCommand) {
   Start(kOnPorts);
   Open("mnuOptionsTrack");
