@@ -93,6 +93,27 @@ TEST(DialogsQtInput, DoesNotWaitForAMessageToBeRead) {
   shown->close();
 }
 
+TEST(DialogsQtInput, AMessageOutlivesTheOneThatWasOpenBefore) {
+  QWidget window;
+  window.show();
+  DialogsQt dialogs;
+  dialogs.Window(&window);
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  dialogs.Inform("Title", "First");
+  auto* first = window.findChild<QMessageBox*>();
+  ASSERT_NE(first, nullptr);
+  first->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(first));
+  dialogs.Inform("Title", "Second");
+  first->close();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  auto* second = window.findChild<QMessageBox*>();
+  ASSERT_NE(second, nullptr);
+  EXPECT_EQ(second->text(), QStringLiteral("Second"));
+  EXPECT_TRUE(second->isVisible());
+}
+
 TEST(DialogsQtInput, SavesOverAFileWithoutAskingItself) {
   const TemporaryFolder folder;
   WriteFile(folder / "old.pol", "old");
