@@ -1,5 +1,7 @@
 #include "app/OtherWindowsQt.h"
 
+#include <QScreen>
+
 #include "app/IconsQt.h"
 #include "platform/NumberText.h"
 
@@ -21,6 +23,10 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
                                QWidget* window)
     : m_parts(parts), m_menu(menu), m_main(main), m_window(window) {
   QObject::connect(menu.mnuViewHistory, &QAction::triggered, [this] { HistoryShow(); });
+  for (const QAction* command : {menu.mnuViewDiagram, menu.mnuHelpDiagram}) {
+    QObject::connect(command, &QAction::triggered, [this] { DiagramShow(); });
+  }
+  QObject::connect(menu.mnuHelpAbout, &QAction::triggered, [this] { AboutShow(); });
   QObject::connect(menu.mnuViewPolar, &QAction::triggered, [this] { PolarShow(); });
   for (const auto& [command, tab] :
        {std::pair{menu.mnuOptionsInput, frmOptions::Input}, std::pair{menu.mnuOptionsData, frmOptions::Data},
@@ -47,6 +53,12 @@ void OtherWindowsQt::Store() {
 }
 
 void OtherWindowsQt::Hide() {
+  if (m_about) {
+    m_about->hide();
+  }
+  if (m_diagram) {
+    m_diagram->hide();
+  }
   if (m_history) {
     m_history->hide();
   }
@@ -141,6 +153,7 @@ void OtherWindowsQt::PilotTaken() {
 }
 
 void OtherWindowsQt::OnTrackMode(TrackMode mode) {
+  DiagramLights();
   if (mode != TrackMode::Manual) {
     PilotTaken();
   }
@@ -169,6 +182,7 @@ void OtherWindowsQt::OnInputState(std::string_view text) {
   if (m_options) {
     m_options->NmeaStatus(text);
   }
+  DiagramLights();
   if (text != "Running" && text != "Simulate") {
     PilotTaken();
   }
@@ -197,6 +211,56 @@ void OtherWindowsQt::OnNmeaError(std::string_view text) {
   if (m_options) {
     m_options->NmeaError(text);
   }
+}
+
+// The block diagram and the about box
+
+void OtherWindowsQt::DiagramShow() {
+  if (!m_diagram) {
+    m_diagram = std::make_unique<frmDiagram>(static_cast<DiagramListener&>(*this));
+    m_diagram->setWindowIcon(ProgramIcon());
+  }
+  DiagramLights();
+  BringUp(*m_diagram);
+  m_menu.mnuViewDiagram->setChecked(true);
+}
+
+void OtherWindowsQt::DiagramLights() {
+  if (!m_diagram) {
+    return;
+  }
+  m_diagram->ShowState(DiagramStateOf(
+      {m_inputState, NmeaPortOpen(), m_main.m_eTrackMode, m_main.m_bSimulate, PilotPortOpen()}));
+}
+
+void OtherWindowsQt::OnDiagramOptions(int tab, const DiagramAnchor& anchor) {
+  frmOptions& options = Options();
+  options.TabSelect(tab);
+  const QRect screen = m_diagram->screen()->availableGeometry();
+  const auto corner = [&options, &anchor, screen] {
+    const QSize size = options.frameGeometry().size();
+    const DiagramPlace place = DiagramShowNear(anchor, size.width(), size.height(),
+                                               screen.x() + screen.width(), screen.y() + screen.height());
+    return QPoint(place.Left, place.Top);
+  };
+  options.ShowAt(corner());
+  // The frame may have its size only now.
+  options.move(corner());
+}
+
+void OtherWindowsQt::OnDiagramHistory() {
+  if (HistoryVisible()) {
+    m_history->ConfigurePopup();
+  } else {
+    HistoryShow();
+  }
+}
+
+void OtherWindowsQt::AboutShow() {
+  if (!m_about) {
+    m_about = std::make_unique<frmAbout>(kApplicationTitle, VEERWATCH_VERSION, ProgramIcon());
+  }
+  BringUp(*m_about);
 }
 
 }  // namespace veerwatch

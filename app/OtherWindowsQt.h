@@ -13,6 +13,9 @@
 #include "app/MainWindowParts.h"
 #include "app/SettingsProfile.h"
 #include "app/frmMainCommands.h"
+#include "diagram/DiagramListener.h"
+#include "diagram/frmAbout.h"
+#include "diagram/frmDiagram.h"
 #include "history/frmHistory.h"
 #include "options/frmOptions.h"
 #include "platform/SystemClock.h"
@@ -25,7 +28,8 @@ namespace veerwatch {
 class OtherWindowsQt final : public HelmView,
                              public RememberedWindows,
                              private PolarListener,
-                             private OptionsPorts {
+                             private OptionsPorts,
+                             private DiagramListener {
  public:
   /// Connects the commands of `menu` that show a window. `window` is the main window. All of them outlive
   /// this.
@@ -45,6 +49,10 @@ class OtherWindowsQt final : public HelmView,
   /// as it does at the close, come here by themselves.
   void PilotTaken();
   void TimerTack_Timer();
+
+  /// Brings the lights of the block diagram up to date: at every tick of the input, and by itself at a change
+  /// of the mode or of the input.
+  void DiagramLights();
 
   void HistoryShow() override;
   bool HistoryVisible() const override { return m_history && m_history->isVisible(); }
@@ -73,6 +81,13 @@ class OtherWindowsQt final : public HelmView,
  private:
   frmHistory& History();
 
+  void DiagramShow();
+  void AboutShow();
+  void OnDiagramOptions(int tab, const DiagramAnchor& anchor) override;
+  void OnDiagramPolar() override { PolarShow(); }
+  void OnDiagramHistory() override;
+  void OnDiagramVisible(bool visible) override { m_menu.mnuViewDiagram->setChecked(visible); }
+
   void OnPolarValue(std::string_view channel, std::string_view value) override {
     HistorySample(channel, value);
   }
@@ -90,8 +105,10 @@ class OtherWindowsQt final : public HelmView,
   std::unique_ptr<frmPolar> m_polar;      ///< null until it is shown for the first time
   std::unique_ptr<frmTack> m_tack;        ///< the same
   std::unique_ptr<frmOptions> m_options;  ///< from its first use on, until its frame is closed
-  std::string m_inputState;               ///< what the dialog shows when it is made
-  std::string m_outputState;
+  std::unique_ptr<frmDiagram> m_diagram;  ///< null until it is shown for the first time
+  std::unique_ptr<frmAbout> m_about;      ///< the same
+  std::string m_inputState;               ///< as the receiver told it last
+  std::string m_outputState;              ///< as the pilot output told it last
 };
 
 }  // namespace veerwatch

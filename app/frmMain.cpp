@@ -175,6 +175,11 @@ void frmMain::CloseUnasked() {
   }
 }
 
+void frmMain::tmrNmea_Timer() {
+  m_helm.Tick();
+  m_others.DiagramLights();
+}
+
 void frmMain::tmrUnload_Timer() {
   m_parts.tmrUnload.Enabled(false);
   close();

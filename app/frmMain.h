@@ -29,7 +29,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   /// Closes in order without asking anything, even while a question is open: for the end of the session.
   void CloseUnasked();
 
-  void tmrNmea_Timer() { m_helm.Tick(); }
+  void tmrNmea_Timer();
   void tmrUnload_Timer();
   void TimerTack_Timer() { m_others.TimerTack_Timer(); }
 

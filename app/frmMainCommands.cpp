@@ -37,10 +37,9 @@ constexpr int kLeastTextHeight = 9;
 constexpr int kSlack = 2;
 
 /// A new command in `menu`.
-QAction* Command(QMainWindow& window, QMenu* menu, const char* name, const char* text, bool enabled) {
+QAction* Command(QMainWindow& window, QMenu* menu, const char* name, const char* text) {
   auto* action = new QAction(QLatin1String(text), &window);
   action->setObjectName(QLatin1String(name));
-  action->setEnabled(enabled);
   menu->addAction(action);
   return action;
 }
@@ -49,30 +48,31 @@ QAction* Command(QMainWindow& window, QMenu* menu, const char* name, const char*
 
 frmMainMenu::frmMainMenu(QMainWindow& window) {
   QMenu* file = window.menuBar()->addMenu(QStringLiteral("&File"));
-  mnuFileDefault = Command(window, file, "mnuFileDefault", "&Default", true);
+  mnuFileDefault = Command(window, file, "mnuFileDefault", "&Default");
   file->addSeparator();
-  mnuFileExit = Command(window, file, "mnuFileExit", "E&xit", true);
+  mnuFileExit = Command(window, file, "mnuFileExit", "E&xit");
   mnuFileExit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
   mnuFileExit->setMenuRole(QAction::QuitRole);
   QMenu* view = window.menuBar()->addMenu(QStringLiteral("&View"));
-  mnuViewDiagram = Command(window, view, "mnuViewDiagram", "&Block Diagram...", false);
-  mnuViewHistory = Command(window, view, "mnuViewHistory", "&History Plot...", true);
+  mnuViewDiagram = Command(window, view, "mnuViewDiagram", "&Block Diagram...");
+  mnuViewDiagram->setCheckable(true);
+  mnuViewHistory = Command(window, view, "mnuViewHistory", "&History Plot...");
   mnuViewHistory->setCheckable(true);
-  mnuViewPolar = Command(window, view, "mnuViewPolar", "&Polar Plot...", true);
+  mnuViewPolar = Command(window, view, "mnuViewPolar", "&Polar Plot...");
   mnuViewPolar->setCheckable(true);
   view->addSeparator();
-  mnuViewNight = Command(window, view, "mnuViewNight", "&Night Colours", true);
+  mnuViewNight = Command(window, view, "mnuViewNight", "&Night Colours");
   mnuViewNight->setCheckable(true);
   mnuViewNight->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
   QMenu* options = window.menuBar()->addMenu(QStringLiteral("&Options"));
-  mnuOptionsInput = Command(window, options, "mnuOptionsInput", "&Input...", true);
-  mnuOptionsData = Command(window, options, "mnuOptionsData", "&Data...", true);
-  mnuOptionsOutput = Command(window, options, "mnuOptionsOutput", "&Output...", true);
-  mnuOptionsTrack = Command(window, options, "mnuOptionsTrack", "&Tracking...", true);
-  mnuOptionsSimulate = Command(window, options, "mnuOptionsSimulate", "&Simulate...", true);
+  mnuOptionsInput = Command(window, options, "mnuOptionsInput", "&Input...");
+  mnuOptionsData = Command(window, options, "mnuOptionsData", "&Data...");
+  mnuOptionsOutput = Command(window, options, "mnuOptionsOutput", "&Output...");
+  mnuOptionsTrack = Command(window, options, "mnuOptionsTrack", "&Tracking...");
+  mnuOptionsSimulate = Command(window, options, "mnuOptionsSimulate", "&Simulate...");
   QMenu* help = window.menuBar()->addMenu(QStringLiteral("&Help"));
-  mnuHelpDiagram = Command(window, help, "mnuHelpDiagram", "&Block Diagram...", false);
-  mnuHelpAbout = Command(window, help, "mnuHelpAbout", "&About...", false);
+  mnuHelpDiagram = Command(window, help, "mnuHelpDiagram", "&Block Diagram...");
+  mnuHelpAbout = Command(window, help, "mnuHelpAbout", "&About...");
 }
 
 frmMainModeBar::frmMainModeBar(QMainWindow& window) : QToolBar(&window), m_theme(window.palette()) {

@@ -11,7 +11,7 @@
 
 namespace veerwatch {
 
-/// The menu's commands. Those whose window is not there are disabled.
+/// The menu's commands.
 struct frmMainMenu {
   QAction* mnuFileDefault;
   QAction* mnuFileExit;

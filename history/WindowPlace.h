@@ -3,10 +3,9 @@
 
 #include <vector>
 
-namespace veerwatch {
+#include "platform/Twips.h"
 
-/// Twips in a pixel at a scale of 100 %.
-inline constexpr double kTwipsPerPixel = 15.0;
+namespace veerwatch {
 
 /// A rectangle [px].
 struct PlaceBox {

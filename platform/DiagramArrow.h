@@ -1,12 +1,12 @@
-// The arrowheads of the diagrams. A diagram is drawn in twips, of which 15 make a pixel at its own size.
+// The arrowheads of the diagrams. A diagram is drawn in twips.
 #pragma once
 
 #include <string_view>
 #include <vector>
 
-namespace veerwatch {
+#include "platform/Twips.h"
 
-inline constexpr double kTwipsPerPixel = 15.0;
+namespace veerwatch {
 
 /// A straight line [twips, downwards and to the right].
 struct DiagramLine {

@@ -1,0 +1,60 @@
+// The picture of the whole system as plain numbers; frmDiagram strokes it and lays its buttons and labels out
+// by it.
+//
+//    Wind  --+               +- Computer ----------------------------------+
+//            +-- NMEA 0183 --|-> [Input] -> [Control Loop] -> [Output] ----|-- NMEA 0183 --> Autopilot
+//    Speed --+               |      +--------> [Polar Plot]                |
+//                            |      +--------> [History Plot]              |
+//                            +---------------------------------------------+
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "platform/DiagramArrow.h"
+
+namespace veerwatch {
+
+/// A rectangle [twips].
+struct BlockArea {
+  double X = 0.0;
+  double Y = 0.0;
+  double Width = 0.0;
+  double Height = 0.0;
+};
+
+/// A text in the middle of its area, or the box of a device with its name in it.
+struct BlockLabel {
+  std::string_view Name;  ///< of the control
+  std::string_view Text;
+  BlockArea Area;
+  bool Framed = false;  ///< a device: a box around the text
+};
+
+struct BlockButton {
+  std::string_view Name;
+  std::string_view Caption;
+  std::string_view ToolTip;
+  BlockArea Area;
+};
+
+struct BlockDiagram {
+  double Width = 0.0;     ///< [twips]
+  double Height = 0.0;    ///< [twips]
+  double TextSize = 0.0;  ///< height of the letters' font [twips]
+  BlockArea Computer;     ///< the frame around the buttons
+  std::vector<BlockButton> Buttons;
+  std::vector<BlockLabel> Labels;
+  /// Where the state of cmdInput, cmdControl and cmdOutput is written, above each.
+  std::vector<BlockLabel> States;
+  std::vector<DiagramLine> Lines;         ///< the ways without an arrow
+  std::vector<DiagramLine> lnArrowRight;  ///< the ways that end in an arrow
+};
+
+/// The diagram at its own size.
+BlockDiagram BlockDiagramMade();
+
+/// The strokes of the arrowheads of all lines of `lnArrowRight`.
+std::vector<DiagramLine> BlockArrowHeads(const BlockDiagram& diagram);
+
+}  // namespace veerwatch

@@ -1,0 +1,54 @@
+#include "diagram/DiagramState.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr DiagramBoxState kSimulate{DiagramLight::Ready, "Simulate"};
+constexpr DiagramBoxState kNotOpen{DiagramLight::Trouble, "Not Open"};
+
+DiagramBoxState InputOf(const DiagramSystem& system) {
+  if (system.Input == "Simulate") {
+    return kSimulate;
+  }
+  if (system.Input == "No Input Data") {
+    return {DiagramLight::Trouble, "No Input Data"};
+  }
+  if (system.Input != "Running") {
+    return {DiagramLight::Off, "Stopped"};
+  }
+  return system.InputOpen ? DiagramBoxState{DiagramLight::Good, "Running"} : kNotOpen;
+}
+
+DiagramBoxState ControlOf(TrackMode mode) {
+  switch (mode) {
+    case TrackMode::Setup:
+      return {DiagramLight::Ready, "Setup"};
+    case TrackMode::Manual:
+      return {DiagramLight::ByHand, "Manual"};
+    case TrackMode::Track:
+      return {DiagramLight::Good, "Track"};
+    case TrackMode::Off:
+    case TrackMode::Switching:
+      break;
+  }
+  return {DiagramLight::Off, "Off"};
+}
+
+DiagramBoxState OutputOf(const DiagramSystem& system) {
+  if (system.Mode == TrackMode::Off || system.Mode == TrackMode::Switching) {
+    return {DiagramLight::Off, "Stopped"};
+  }
+  if (system.Simulate) {
+    return kSimulate;
+  }
+  return system.OutputOpen ? DiagramBoxState{DiagramLight::Good, "Open"} : kNotOpen;
+}
+
+}  // namespace
+
+DiagramState DiagramStateOf(const DiagramSystem& system) {
+  return {InputOf(system), ControlOf(system.Mode), OutputOf(system)};
+}
+
+}  // namespace veerwatch

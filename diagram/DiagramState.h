@@ -1,0 +1,45 @@
+// What the boxes of the block diagram say about the system, and the light that each one shows.
+#pragma once
+
+#include <string_view>
+
+#include "control/TrackMode.h"
+
+namespace veerwatch {
+
+enum class DiagramLight {
+  Off,      ///< does nothing
+  Ready,    ///< set up, or a simulation
+  ByHand,   ///< the user steers
+  Good,     ///< works
+  Trouble,  ///< should work and does not
+};
+
+struct DiagramBoxState {
+  DiagramLight Light = DiagramLight::Off;
+  std::string_view Text;
+
+  bool operator==(const DiagramBoxState&) const = default;
+};
+
+struct DiagramState {
+  DiagramBoxState Input;
+  DiagramBoxState Control;
+  DiagramBoxState Output;
+
+  bool operator==(const DiagramState&) const = default;
+};
+
+/// What the helm is doing.
+struct DiagramSystem {
+  std::string_view Input;  ///< state of the input as the receiver tells it: "Running", "Simulate", ...
+  bool InputOpen = false;  ///< the port of the instruments
+  TrackMode Mode = TrackMode::Off;
+  bool Simulate = false;
+  bool OutputOpen = false;  ///< the port to the pilot
+};
+
+/// The state of the three boxes. A port that is closed in mode Off is not in trouble.
+DiagramState DiagramStateOf(const DiagramSystem& system);
+
+}  // namespace veerwatch
