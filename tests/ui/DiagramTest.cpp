@@ -132,15 +132,14 @@ TEST_F(Diagram, TheOptionsOpenBelowTheMiddleOfTheButtonWhereTheScreenHasRoom) {
   QWidget* options = TopLevel("frmOptions");
   const QRect screen = diagram->screen()->availableGeometry();
   const QSize size = options->frameGeometry().size();
-  // Without a window manager there are no frames: inner and outer sizes are the same.
-  ASSERT_EQ(diagram->frameGeometry().size(), diagram->size());
+  const QSize frame = diagram->frameGeometry().size() - diagram->size();
   diagram->resize(diagram->minimumSize());
   diagram->move(screen.topLeft());
   for (const char* name : {"cmdInput", "cmdControl", "cmdOutput"}) {
     Press(name);
     const QRect button = Button(name).geometry();
-    const QPoint wanted =
-        diagram->pos() + QPoint(button.x() + qRound(button.width() / 2.0), button.bottom() + 1);
+    const QPoint wanted = diagram->pos() + QPoint(frame.width(), frame.height()) +
+                          QPoint(button.x() + qRound(button.width() / 2.0), button.bottom() + 1);
     EXPECT_EQ(options->pos().x(), std::min(wanted.x(), screen.x() + screen.width() - size.width())) << name;
     EXPECT_EQ(options->pos().y(), std::min(wanted.y(), screen.y() + screen.height() - size.height())) << name;
   }
