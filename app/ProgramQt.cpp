@@ -94,6 +94,8 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   QDir().mkpath(QFileInfo(QString::fromStdString(profileFile)).path());
   QLockFile lock(QString::fromStdString(profileFile + ".lock"));
   if (!TakeProfile(lock, profileFile, dialogs)) {
+    // Until the message is closed.
+    QApplication::exec();
     constexpr int kRunsAlready = 3;
     return kRunsAlready;
   }

@@ -23,6 +23,9 @@ TEST(Instances, TheSecondOneOfAProfileSaysSoAndTouchesNothing) {
   ASSERT_TRUE(second.Start());
   EXPECT_TRUE(Says(second, "another Veerwatch is running with this profile")) << second.Said();
   EXPECT_EQ(second.Said().find("ready"), std::string::npos);
+  EXPECT_TRUE(second.Runs()) << "its message waits to be read";
+  second.Terminate();
+  EXPECT_TRUE(second.AwaitEnd().has_value());
   EXPECT_TRUE(first.Runs());
   EXPECT_EQ(first.Profile(), kSimulated) << "nothing was written";
   first.Tell("quit");
