@@ -94,7 +94,9 @@ class Sailor {
     }
   }
 
+  /// Its exit status. It is switched off first, as it asks while it tracks.
   std::optional<int> Close() {
+    Ask("click tbrTrack(1)");
     m_program.Tell("quit");
     return m_program.AwaitEnd();
   }
