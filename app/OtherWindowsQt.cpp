@@ -41,11 +41,11 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
 }
 
 void OtherWindowsQt::Store() {
-  if (m_polar) {
-    m_polar->PolarStore();
-  }
   if (m_history) {
     m_history->Unload();
+  }
+  if (m_polar) {
+    m_polar->PolarStore();
   }
   if (m_tack) {
     m_tack->Unload();

@@ -117,6 +117,22 @@ TEST_F(MainWindowClose, WritesTheProfileOnce) {
   EXPECT_FALSE(std::filesystem::exists(ProfileFile()));
 }
 
+TEST_F(MainWindowClose, StoresTheHistoryThenThePolarThenTheManoeuvre) {
+  Start(kOnPorts);
+  for (const char* window : {"mnuViewPolar", "mnuViewHistory"}) {
+    Find<QAction>(window).trigger();
+  }
+  Window->TackOpen(190.0F, 100.0F, 45.0F);
+  Window->close();
+  const std::string profile = ReadProfile();
+  const std::size_t history = profile.find("[History Trace]");
+  const std::size_t polar = profile.find("[Polar Data]");
+  const std::size_t manoeuvre = profile.find("[Tack Data]");
+  ASSERT_NE(manoeuvre, std::string::npos) << profile;
+  EXPECT_LT(history, polar);
+  EXPECT_LT(polar, manoeuvre);
+}
+
 TEST_F(MainWindowClose, KeepsWhatTheNextStartReads) {
   Start(std::string("; my boat\n") + kOnPorts);
   Type("txtAutoPilot", "12.3");
