@@ -266,6 +266,8 @@ void frmPolar::pctPlot_MouseMove(QPointF at) {
 
 void frmPolar::closeEvent(QCloseEvent* event) {
   PolarStore();
+  // Nothing follows the course of a closed window; opened again, it waits for the next update.
+  CourseHide();
   event->accept();
 }
 

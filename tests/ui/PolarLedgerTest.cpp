@@ -142,6 +142,22 @@ TEST_F(PolarLedger, NeedsAHeadingAndForAWaypointTheWaypoint) {
   EXPECT_TRUE(Shows()) << "a target bearing needs no waypoint";
 }
 
+TEST_F(PolarLedger, OffersNoTurnOfLongAgoWhenTheWindowOpensAgain) {
+  StartTo(100.0F);
+  At({});
+  ASSERT_TRUE(Shows());
+  Window->close();
+  Moment later;
+  later.Heading = 250.0F;
+  later.WindAngle = 120.0F;
+  At(later);
+  Window->show();
+  EXPECT_FALSE(Shows());
+  At(later);
+  EXPECT_TRUE(Shows());
+  EXPECT_EQ(Figures()[0], "Heading (M)=250");
+}
+
 TEST_F(PolarLedger, ShowsTheFiguresOfItsSource) {
   StartTo(100.0F);
   At({});
