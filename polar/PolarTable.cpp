@@ -24,6 +24,10 @@ float Interpolate(float x, float x1, float x2, float y1, float y2) {
   if (x1 == x2 || y1 == y2) {
     return y1;
   }
+  // At its end the line is exact: rounding would lead below a speed of 0.
+  if (x == x2) {
+    return y2;
+  }
   const double slope = (static_cast<double>(y2) - static_cast<double>(y1)) /
                        (static_cast<double>(x2) - static_cast<double>(x1));
   return ToSingle(static_cast<double>(y1) + slope * (static_cast<double>(x) - static_cast<double>(x1)));

@@ -17,6 +17,14 @@ TEST(Interpolate, GivesTheFirstValueWhereThereIsNoLine) {
   EXPECT_EQ(Interpolate(5.0F, 2.0F, 3.0F, 7.0F, 7.0F), 7.0F);
 }
 
+TEST(Interpolate, IsExactAtItsEnds) {
+  for (int i = 1; i < 2000; ++i) {
+    const float speed = static_cast<float>(i) * 0.0123F;
+    EXPECT_EQ(Interpolate(180.0F, 0.0F, 180.0F, speed, 0.0F), 0.0F) << speed;
+    EXPECT_EQ(Interpolate(0.0F, 0.0F, 180.0F, speed, 0.0F), speed);
+  }
+}
+
 TEST(Interpolate, GoesOnBeyondItsEnds) {
   EXPECT_EQ(Interpolate(0.0F, 1.0F, 2.0F, 10.0F, 20.0F), 0.0F);
   EXPECT_EQ(Interpolate(3.0F, 1.0F, 2.0F, 10.0F, 20.0F), 30.0F);
