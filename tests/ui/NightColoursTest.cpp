@@ -66,10 +66,13 @@ TEST_F(NightColours, EveryWindowIsRedOnBlack) {
   for (int i = 0; i < 30; ++i) {
     tmrNmea.Tick();
   }
+  for (const char* command : {"mnuOptionsInput", "mnuViewDiagram"}) {
+    Find<QAction>(command).trigger();
+  }
   Command().trigger();
   ASSERT_TRUE(Command().isChecked());
   EXPECT_TRUE(Window->m_bNightColours);
-  for (const char* name : {"frmMain", "frmPolar", "frmHistory"}) {
+  for (const char* name : {"frmMain", "frmPolar", "frmHistory", "frmOptions", "frmDiagram"}) {
     QWidget* window = Other(name);
     ASSERT_NE(window, nullptr) << name;
     const QImage image = Grab(*window, name);
