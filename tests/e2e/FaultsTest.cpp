@@ -55,7 +55,7 @@ TEST_F(Faults, AFloodOnTheInputLeavesTheProgramAnswering) {
   LaunchRemote(ProfileText(1, 2, "1=" + in.Device() + "\r\n2=" + out.Device() + "\r\n"));
   SailInManual(in, pilot);
   // Ten seconds at a hundred times the rate of a full line, as fast as the terminal takes them.
-  constexpr std::size_t kBytes = 480U * 100U * 10U;
+  constexpr std::size_t kBytes = std::size_t{480} * 100 * 10;
   const std::string wind = ApparentWind("041");
   std::size_t winds = 0;
   for (std::size_t sent = 0; sent < kBytes; ++winds, sent += wind.size()) {
@@ -101,7 +101,7 @@ TEST_F(Faults, MinutesOfNoiseEndWithTheFirstGoodSentence) {
   SailInManual(in, pilot);
   // As much as a line at 4800 baud brings in ten minutes.
   std::mt19937 random(77);
-  std::string noise(480U * 600U, '\0');
+  std::string noise(std::size_t{480} * 600, '\0');
   std::generate(noise.begin(), noise.end(), [&random] { return static_cast<char>(random() & 0xFFU); });
   ASSERT_TRUE(WriteAll(in, noise + "\r"));
   WriteAll(in, ApparentWind("061"));
