@@ -1,12 +1,14 @@
 #include "diagram/frmAbout.h"
 
+#include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
-#include <QLabel>
+#include <QImage>
 #include <QPushButton>
 #include <string>
 
 #include "diagram/AboutText.h"
+#include "platform/ColoursQt.h"
 
 namespace veerwatch {
 
@@ -41,10 +43,10 @@ frmAbout::frmAbout(std::string_view title, std::string_view version, const QIcon
   setWindowIcon(icon);
   setAttribute(Qt::WA_QuitOnClose, false);
 
-  auto* picIcon = new QLabel(this);
+  picIcon = new QLabel(this);
   picIcon->setObjectName(QStringLiteral("picIcon"));
   picIcon->setAccessibleName(QStringLiteral("Icon of the program"));
-  picIcon->setPixmap(icon.pixmap(QSize(kIconSize, kIconSize), devicePixelRatioF()));
+  ShowIcon();
   auto* lblTitle = Label("lblTitle", std::string(title), kTitleHeight, this);
   auto* line = new QFrame(this);
   line->setFrameShape(QFrame::HLine);
@@ -70,6 +72,24 @@ frmAbout::frmAbout(std::string_view title, std::string_view version, const QIcon
   grid->addWidget(cmdOk, 4, 1, Qt::AlignRight);
   grid->setSizeConstraint(QLayout::SetFixedSize);
   cmdOk->setFocus();
+}
+
+void frmAbout::ShowIcon() {
+  QImage image = windowIcon().pixmap(QSize(kIconSize, kIconSize), devicePixelRatioF()).toImage();
+  const QColor window = palette().color(QPalette::Window);
+  for (int y = 0; y < image.height() && IsNight(window); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      image.setPixelColor(x, y, NightShade(image.pixelColor(x, y)));
+    }
+  }
+  picIcon->setPixmap(QPixmap::fromImage(image));
+}
+
+void frmAbout::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) {
+    ShowIcon();
+  }
 }
 
 }  // namespace veerwatch

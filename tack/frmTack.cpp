@@ -1,5 +1,6 @@
 #include "tack/frmTack.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <algorithm>
@@ -71,6 +72,7 @@ frmTack::frmTack(const TackParts& parts, QWidget* main) : QDialog(main), m_parts
   TackRecall(m_parts.Store, m_settings);
   m_parts.TimerTack.Interval(kTimerInterval);
   MakeControls();
+  Dim();
 }
 
 void frmTack::MakeControls() {
@@ -156,7 +158,6 @@ void frmTack::TackOpen(float newHeading, float heading, float autoPilot, float w
   Steering(false);
   m_newHeading = newHeading;
   ShowKind();
-  Dim();
   ProgressBarTack->hide();
   txtHeading->selectAll();
   txtHeading->setFocus();
@@ -243,6 +244,13 @@ void frmTack::PilotTaken() {
 }
 
 void frmTack::Unload() { TackStore(m_parts.Store, m_settings); }
+
+void frmTack::changeEvent(QEvent* event) {
+  QDialog::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) {
+    Dim();
+  }
+}
 
 void frmTack::done(int result) {
   m_parts.TimerTack.Enabled(false);

@@ -48,6 +48,9 @@ class frmTack final : public QDialog {
   /// Every way to close the dialog stops the turn.
   void done(int result) override;
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   void MakeControls();
   void ShowKind();

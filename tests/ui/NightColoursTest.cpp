@@ -100,6 +100,35 @@ TEST_F(NightColours, EveryPageOfTheOptionsIsRedOnBlack) {
   }
 }
 
+TEST_F(NightColours, ADiagramTheAboutBoxAndATurnAreRedOnBlackAlsoWhenTheyAreOpenAlready) {
+  for (const bool before : {true, false}) {
+    Start(kOnPorts);
+    if (before) {
+      Command().trigger();
+    }
+    Window->TackOpen(190.0F, 100.0F, 45.0F);
+    QTest::mouseClick(Other("frmTack")->findChild<QPushButton*>(QStringLiteral("cmdOk")), Qt::LeftButton);
+    TimerTack.Tick(3);
+    Find<QAction>("mnuViewDiagram").trigger();
+    Find<QAction>("mnuHelpAbout").trigger();
+    if (!before) {
+      Command().trigger();
+    }
+    for (const char* name : {"frmTack", "frmDiagram", "frmAbout"}) {
+      const QImage image = Grab(*Other(name), name);
+      EXPECT_EQ(Hurting(image), 0) << name << before;
+      EXPECT_LT(MeanBrightness(image), 40.0) << name << before;
+    }
+    tmrNmea.Tick(4);
+    EXPECT_EQ(Hurting(Grab(*Other("frmDiagram"), "frmDiagram-silent")), 0);
+    Mode(7);
+    EXPECT_EQ(Hurting(Grab(*Other("frmDiagram"), "frmDiagram-track")), 0);
+    WearNightColours(false);
+    Window->close();
+    Window.reset();
+  }
+}
+
 TEST_F(NightColours, GoAgain) {
   Start(kSimulated);
   const QPalette desktop = QApplication::palette();
