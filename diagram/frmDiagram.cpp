@@ -51,7 +51,8 @@ std::pair<QColor, QColor> Colours(DiagramLight light, const QPalette& palette) {
       return pair;
   }
   if (IsNight(window)) {
-    return {NightShade(pair.first), light == DiagramLight::ByHand ? QColor(Qt::black) : text};
+    return {NightShade(pair.first),
+            light == DiagramLight::ByHand ? QColor(Qt::black) : palette.color(QPalette::HighlightedText)};
   }
   return pair;
 }
