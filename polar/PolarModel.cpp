@@ -44,8 +44,20 @@ std::filesystem::path PolarModel::FilePath(int slot) const {
 }
 
 PolarLoadResult PolarModel::Load(int slot) {
+  PolarLoadResult result = PolarLoad(m_table, slot, m_settings.SpeedFactor, FilePath(slot));
+  TableChanged();
+  return result;
+}
+
+void PolarModel::TableChanged() {
   ++m_version;
-  return PolarLoad(m_table, slot, m_settings.SpeedFactor, FilePath(slot));
+  if (Received()) {
+    LookUp();
+  }
+}
+
+void PolarModel::LookUp() {
+  m_polarSpeed = m_table.PolarSpeed(kMain, std::fabs(Values().WindAngleTrue), Values().WindSpeedTrue);
 }
 
 PolarLoadResult PolarModel::Open(int slot, const std::string& file) {
@@ -74,7 +86,7 @@ std::optional<std::string> PolarModel::SaveAs(const std::string& file) {
 void PolarModel::ShowWind(PlotType type) {
   m_settings.Type = type;
   m_table.Type(type);
-  ++m_version;
+  TableChanged();
 }
 
 void PolarModel::ToggleWindSpeedLabel() { m_settings.PlotLabelWindSpeed = !m_settings.PlotLabelWindSpeed; }
@@ -144,7 +156,7 @@ bool PolarModel::Update(TrackMode mode, const PolarValues& values, bool visible)
   }
   const bool changed = mode != m_mode;
   m_mode = mode;
-  m_polarSpeed = m_table.PolarSpeed(kMain, std::fabs(Values().WindAngleTrue), Values().WindSpeedTrue);
+  LookUp();
   return changed;
 }
 

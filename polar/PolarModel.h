@@ -125,6 +125,10 @@ class PolarModel {
   std::optional<PolarMouse> Nearest(double x, double y, const PolarGeometry& geometry) const;
 
  private:
+  /// What was found in the table or made of it counts no more.
+  void TableChanged();
+  void LookUp();
+
   PolarFolders m_folders;
   std::filesystem::path m_lastFolder;
   PolarSettings m_settings;

@@ -93,6 +93,17 @@ TEST_F(PolarModelTest, AveragesWhileTheWindowIsHiddenAndLooksUpInSight) {
   EXPECT_FALSE(Model.Update(TrackMode::Track, Sailing(-80.0F, 20.0F, 9.0F), true));
 }
 
+TEST_F(PolarModelTest, LooksUpAnewInAnotherPolar) {
+  Model.Average(0.0F);
+  Model.Update(TrackMode::Track, Sailing(80.0F, 20.0F, 8.0F), true);
+  ASSERT_NEAR(Model.PolarSpeed(), 11.0F, 1e-3F);
+  Model.TakeFactor("0.5");
+  Model.Load(PolarModel::kMain);
+  EXPECT_NEAR(Model.PolarSpeed(), 5.5F, 1e-3F) << "without waiting for an update";
+  EXPECT_TRUE(Model.Open(PolarModel::kMain, (Program / kDefaultPolar).string()).Loaded);
+  EXPECT_NEAR(Model.PolarSpeed(), 11.0F, 1e-3F);
+}
+
 TEST_F(PolarModelTest, LooksUpTheTrueWindInEitherPlotType) {
   Model.Average(0.0F);
   Model.ShowWind(PlotType::ApparentWind);
