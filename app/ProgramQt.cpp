@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QSessionManager>
 #include <QStandardPaths>
 #include <cstdio>
 #include <cstdlib>
@@ -13,6 +12,7 @@
 #include <random>
 
 #include "app/ProfileLocation.h"
+#include "app/SessionQt.h"
 #include "app/frmMain.h"
 #include "platform/DialogsQt.h"
 #include "platform/SerialPortQt.h"
@@ -115,9 +115,7 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   tmrUnload.Ticks([&window] { window.tmrUnload_Timer(); });
   TimerTack.Ticks([&window] { window.TimerTack_Timer(); });
   OnTerminationRequest(&window, [&window] { window.CloseUnasked(); });
-  QObject::connect(
-      &application, &QGuiApplication::commitDataRequest, &window,
-      [&window](QSessionManager&) { window.CloseUnasked(); }, Qt::DirectConnection);
+  const SessionQt session(application, window);
 
   window.Form_Load();
   window.show();

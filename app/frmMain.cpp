@@ -175,6 +175,19 @@ void frmMain::CloseUnasked() {
   }
 }
 
+void frmMain::KeepSettings() {
+  // What was edited in the file meanwhile stays.
+  Profile present;
+  if (present.Load(m_sProfileFile) == Profile::LoadResult::Read) {
+    m_parts.Store = std::move(present);
+  }
+  ProfileWrite(m_parts.Store, *this, m_others);
+  m_others.Store();
+  if (const auto failure = m_parts.Store.Commit(m_sProfileFile)) {
+    std::fprintf(stderr, "%s\n", failure->c_str());
+  }
+}
+
 void frmMain::tmrNmea_Timer() {
   m_helm.Tick();
   m_others.DiagramLights();
@@ -213,16 +226,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
-  // What was edited in the file meanwhile stays.
-  Profile present;
-  if (present.Load(m_sProfileFile) == Profile::LoadResult::Read) {
-    m_parts.Store = std::move(present);
-  }
-  ProfileWrite(m_parts.Store, *this, m_others);
-  m_others.Store();
-  if (const auto failure = m_parts.Store.Commit(m_sProfileFile)) {
-    std::fprintf(stderr, "%s\n", failure->c_str());
-  }
+  KeepSettings();
   m_unloaded = true;
   m_others.Hide();
   event->accept();

@@ -29,6 +29,9 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   /// Closes in order without asking anything, even while a question is open: for the end of the session.
   void CloseUnasked();
 
+  /// Writes the profile as a close does and goes on. What goes wrong is said on standard error.
+  void KeepSettings();
+
   void tmrNmea_Timer();
   void tmrUnload_Timer();
   void TimerTack_Timer() { m_others.TimerTack_Timer(); }

@@ -4,8 +4,8 @@
 
 # shellcheck disable=SC2034  # the lists are read by those who source this
 
-# What building, testing and running need beyond the base system. "a|b" are two names of one thing: the one that
-# is installed counts, else the first that apt knows.
+# What building and running need beyond the base system. "a|b" are two names of one thing: the one that is installed
+# counts, else the first that apt knows.
 kPackages=(
   g++
   cmake
@@ -17,12 +17,18 @@ kPackages=(
   qt6-wayland                                  # for a desktop that offers Wayland only
   libcli11-dev
   nlohmann-json3-dev
+  libbenchmark-dev
+  fonts-dejavu-core                            # without any font the windows show empty boxes
+)
+
+# What `test` needs besides.
+kTestPackages=(
   libgtest-dev
   libgmock-dev
-  libbenchmark-dev
   dpkg-dev                                     # finds what the package depends on
   file
-  fonts-dejavu-core                            # without any font the windows show empty boxes
+  libsm-dev                                    # a desktop's session, to log out of
+  xvfb                                         # and its screen
 )
 
 # What `.ci/run` needs besides.

@@ -92,6 +92,16 @@ class Listener {
     m_heard += m_pty->Read();
     return m_heard;
   }
+  /// The bearings of all that has come out, as soon as it ends with a whole sentence; nothing when it is
+  /// anything else than whole pilot sentences for half a minute.
+  std::optional<std::vector<std::string>> HearsBearings() {
+    std::optional<std::vector<std::string>> bearings;
+    Await([&] {
+      bearings = Bearings(Heard());
+      return bearings && !bearings->empty();
+    });
+    return bearings;
+  }
   /// True when exactly `text` comes out next; what came instead stays to be looked at.
   testing::AssertionResult Hears(const std::string& text) {
     Await([&] { return Heard().size() >= text.size(); });
@@ -117,14 +127,14 @@ inline bool WriteAll(Pty& pty, std::string_view text) {
 
 class RealPorts : public testing::Test {
  protected:
-  void Launch(const char* program, const std::string& profile) {
+  void Launch(const char* program, const std::string& profile, const Surroundings& around = {}) {
     m_program.emplace(program, profile);
-    ASSERT_TRUE(m_program->Start());
+    ASSERT_TRUE(m_program->Start({}, around));
   }
 
   /// Starts the program with the remote control and waits for its window.
-  void LaunchRemote(const std::string& profile) {
-    Launch(VEERWATCH_REMOTE, profile);
+  void LaunchRemote(const std::string& profile, const Surroundings& around = {}) {
+    Launch(VEERWATCH_REMOTE, profile, around);
     ASSERT_TRUE(Await([&] { return m_program->Said().find("ready\n") != std::string::npos; }))
         << m_program->Said();
   }
@@ -160,6 +170,20 @@ class RealPorts : public testing::Test {
     }
     const std::size_t from = m_program->Said().find(answer, m_seen) + answer.size();
     return m_program->Said().substr(from, end - from);
+  }
+
+  /// The memory [bytes] that the program has taken and not given back.
+  long MemoryInUse() {
+    m_seen = m_program->Said().size();
+    m_program->Tell("memory");
+    long bytes = 0;
+    Await([&] {
+      const std::size_t at = m_program->Said().find("memory ", m_seen);
+      return at != std::string::npos && m_program->Said().find('\n', at) != std::string::npos &&
+             std::sscanf(m_program->Said().c_str() + at, "memory %ld", &bytes) == 1;
+    });
+    EXPECT_GT(bytes, 0) << m_program->Said();
+    return bytes;
   }
 
   bool AwaitText(const std::string& name, const std::string& text) {

@@ -8,9 +8,12 @@
 //   size NAME W H   gives a window that size [px]                  "sized NAME"
 //   grab NAME FILE  keeps a picture of a window, PNG               "grabbed NAME"
 //   delays          how late events were since the last time       "delays COUNT MEDIAN P99 P999 MOST", in ms
+//   step CLOCK S    sets the "wall" or the "steady" clock forward, or back [s]     "stepped CLOCK"
+//   memory          how much it has taken and not given back       "memory BYTES"
 //   quit            closes the main window, as the end of the input does
 // "ready" is said once in the beginning; "no NAME" when there is none of that name or it is disabled.
 
+#include <malloc.h>
 #include <unistd.h>
 
 #include <QAbstractButton>
@@ -31,8 +34,26 @@
 #include <vector>
 
 #include "app/ProgramQt.h"
+#include "tests/e2e/SteppedClock.h"
+
+#ifdef __SANITIZE_ADDRESS__
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
+
+// What the desktop's libraries keep to the end of the program.
+extern "C" const char* __lsan_default_suppressions() { return "leak:libdbus-1\n"; }
+#endif
 
 namespace {
+
+/// What is allocated at this moment [bytes].
+std::size_t MemoryInUse() {
+#ifdef __SANITIZE_ADDRESS__
+  return __sanitizer_get_current_allocated_bytes();
+#else
+  const struct mallinfo2 info = mallinfo2();
+  return info.uordblks + info.hblkhd;
+#endif
+}
 
 /// How late the event loop is: a timer of a fixed interval, measured each time that it comes.
 class Delays final : public QObject {
@@ -169,6 +190,12 @@ class Remote final : public QObject {
     } else if (verb == QLatin1String("size") && window != nullptr) {
       window->resize(rest.section(QLatin1Char(' '), 0, 0).toInt(), rest.section(QLatin1Char(' '), 1).toInt());
       Say(QStringLiteral("sized ") + name);
+    } else if (verb == QLatin1String("step") && name == QLatin1String("wall")) {
+      veerwatch::StepWallClock(rest.toLongLong());
+      Say(QStringLiteral("stepped wall"));
+    } else if (verb == QLatin1String("step") && name == QLatin1String("steady")) {
+      veerwatch::StepSteadyClock(rest.toLongLong());
+      Say(QStringLiteral("stepped steady"));
     } else if (verb == QLatin1String("grab") && window != nullptr && window->grab().save(rest)) {
       Say(QStringLiteral("grabbed ") + name);
     } else {
@@ -187,6 +214,10 @@ class Remote final : public QObject {
         m_delays = new Delays(this);
       }
       Say(m_delays->Take());
+      return;
+    }
+    if (verb == QLatin1String("memory")) {
+      Say(QStringLiteral("memory %1").arg(MemoryInUse()));
       return;
     }
     const QString first = name.section(QLatin1Char(' '), 0, 0);

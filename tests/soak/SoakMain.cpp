@@ -213,9 +213,11 @@ int Soak(double hours, double speed) {
   std::printf(
       "event loop: 99.9 %% of its turns late by %.1f ms or less in half of the samples, %.1f in the worst\n",
       delay, delays.back());
-  std::printf("wind sentences %zu, sentences for the pilot %zu, bad ones %d\n", winds, orders,
-              wire.Boat().BadSentences());
-  const bool good = growth <= kMostGrowth && files == 0.0 && wire.Boat().BadSentences() == 0;
+  std::printf("wind sentences %zu, sentences for the pilot %zu (at speed 1: one for each), bad ones %d\n",
+              winds, orders, wire.Boat().BadSentences());
+  // Faster than a real line, several winds arrive in one piece, and only the newest heading is sent.
+  const bool eachWind = speed > 1.0 || winds == orders;
+  const bool good = growth <= kMostGrowth && files == 0.0 && wire.Boat().BadSentences() == 0 && eachWind;
   std::printf("%s\n", good ? "as promised" : "NOT as promised");
   return good ? 0 : 1;
 }

@@ -1,0 +1,35 @@
+#include "app/SessionQt.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QSessionManager>
+
+#include "app/frmMain.h"
+
+namespace veerwatch {
+
+SessionQt::SessionQt(QApplication& application, frmMain& window) : m_window(window) {
+  const auto save = [this](QSessionManager&) {
+    m_saved = true;
+    m_window.KeepSettings();
+  };
+  // The next session starts it with the same profile.
+  const auto remember = [](QSessionManager& manager) {
+    manager.setRestartCommand(QApplication::arguments()
+                              << QStringLiteral("-session")
+                              << manager.sessionId() + QLatin1Char('_') + manager.sessionKey());
+  };
+  // Directly: the session waits only while these run.
+  connect(&application, &QGuiApplication::commitDataRequest, this, save, Qt::DirectConnection);
+  connect(&application, &QGuiApplication::saveStateRequest, this, remember, Qt::DirectConnection);
+  application.installEventFilter(this);
+}
+
+bool SessionQt::eventFilter(QObject* watched, QEvent* event) {
+  if (m_saved && event->type() == QEvent::Quit && watched == QCoreApplication::instance()) {
+    m_window.CloseUnasked();
+  }
+  return false;
+}
+
+}  // namespace veerwatch

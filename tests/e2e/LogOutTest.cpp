@@ -1,0 +1,130 @@
+// The real program process in a desktop's session, on a real X server: what a log-out does to it.
+
+#include <optional>
+#include <sstream>
+#include <string>
+
+#include "tests/e2e/RealPorts.h"
+#include "tests/e2e/SessionManager.h"
+
+namespace veerwatch {
+namespace {
+
+using testing::Contains;
+using testing::HasSubstr;
+
+/// An X server that nobody looks at.
+class XServer {
+ public:
+  /// The value of DISPLAY; "" when there is none. Two that start at a time may want the same number.
+  std::string Display() {
+    for (int times = 0; times < 10; ++times) {
+      m_server.emplace();
+      m_server->Start({"Xvfb", "-displayfd", "1", "-nolisten", "tcp"});
+      Await([this] { return !Number().empty() || !m_server->Runs(); });
+      if (!Number().empty()) {
+        return ":" + Number();
+      }
+    }
+    return "";
+  }
+
+  const std::string& Said() { return m_server->Said(); }
+
+ private:
+  /// The line that is nothing but a number.
+  std::string Number() {
+    std::istringstream lines(m_server->Said());
+    for (std::string line; std::getline(lines, line) && !lines.eof();) {
+      if (!line.empty() && line.find_first_not_of("0123456789") == line.npos) {
+        return line;
+      }
+    }
+    return "";
+  }
+
+  std::optional<Child> m_server;
+};
+
+class LogOut : public RealPorts {
+ protected:
+  /// In a session, tracking an apparent wind of 40 degrees.
+  void Sail() {
+    const std::string display = m_screen.Display();
+    ASSERT_NE(display, "") << m_screen.Said();
+    m_profile = ProfileText(1, 2, "1=" + m_in.Device() + "\r\n2=" + m_out.Device() + "\r\n");
+    m_program.emplace(VEERWATCH_REMOTE, m_profile);
+    ASSERT_TRUE(m_program->Start(
+        {"--profile", (m_program->Folder() / "Veerwatch.ini").string()},
+        {{"QT_QPA_PLATFORM=xcb", "DISPLAY=" + display, "SESSION_MANAGER=" + Desktop.Address()}, {}}));
+    ASSERT_TRUE(Desktop.AwaitClient()) << m_program->Said();
+    ASSERT_TRUE(Says("ready")) << m_program->Said();
+    SailInManual(m_in, m_pilot);
+    Click("tbrTrack(7)");
+  }
+
+  void ExpectToSteer(const std::string& angle) {
+    const std::size_t before = m_pilot.Heard().size();
+    WriteAll(m_in, ApparentWind(angle));
+    EXPECT_TRUE(Await([&] {
+      Desktop.Serve();
+      return m_pilot.Heard().size() > before && m_pilot.Heard().ends_with("\r\n");
+    })) << m_program->Said();
+    EXPECT_TRUE(Bearings(m_pilot.Heard()).has_value());
+    EXPECT_EQ(Text("lblAppWindAngle"), std::to_string(std::stoi(angle)));
+  }
+
+  void ExpectWholeProfile() {
+    EXPECT_NE(m_program->Profile(), m_profile);
+    EXPECT_THAT(m_program->Profile(), HasSubstr("; a comment of the skipper\r\n"));
+    EXPECT_THAT(m_program->Profile(), HasSubstr("Sentence HDG=True\r\n"));
+  }
+
+  SessionManager Desktop;
+
+ private:
+  XServer m_screen;
+  Pty m_in;
+  Pty m_out;
+  Listener m_pilot{m_out};
+  std::string m_profile;
+};
+
+TEST_F(LogOut, EndsItInOrderWithoutAQuestion) {
+  Sail();
+  ASSERT_TRUE(Desktop.Save(true)) << m_program->Said();
+  ExpectWholeProfile();
+  ExpectToSteer("041");
+  Desktop.End();
+  EXPECT_EQ(m_program->AwaitEnd(), 0) << m_program->Said();
+  ExpectWholeProfile();
+}
+
+TEST_F(LogOut, ThatIsCalledOffLeavesItSteering) {
+  Sail();
+  ASSERT_TRUE(Desktop.Save(true)) << m_program->Said();
+  Desktop.CallOff();
+  ExpectToSteer("042");
+  ExpectOrderlyEnd();
+}
+
+TEST_F(LogOut, ASessionThatIsOnlySavedLeavesItSteering) {
+  Sail();
+  ASSERT_TRUE(Desktop.Save(false)) << m_program->Said();
+  ExpectWholeProfile();
+  ExpectToSteer("043");
+  ASSERT_TRUE(Desktop.Save(false)) << m_program->Said();
+  ExpectToSteer("044");
+  ExpectOrderlyEnd();
+}
+
+TEST_F(LogOut, TheNextSessionStartsItAsThisOneDid) {
+  Sail();
+  ASSERT_TRUE(Desktop.Save(true)) << m_program->Said();
+  EXPECT_THAT(Desktop.RestartCommand(), Contains("-session"));
+  EXPECT_THAT(Desktop.RestartCommand().front(), HasSubstr("veerwatch_remote"));
+  EXPECT_THAT(Desktop.RestartCommand(), Contains("--profile"));
+}
+
+}  // namespace
+}  // namespace veerwatch
