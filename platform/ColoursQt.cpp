@@ -48,7 +48,8 @@ QPalette NightPalette() {
 
 QColor NightShade(const QColor& colour) {
   constexpr float kMostGreen = 0.3F;
-  const float brightness = 0.299F * colour.redF() + 0.587F * colour.greenF() + 0.114F * colour.blueF();
+  // Red, which is what is left at night, counts for more than it does by day.
+  const float brightness = 0.45F * colour.redF() + 0.587F * colour.greenF() + 0.114F * colour.blueF();
   const float most = std::max({colour.redF(), colour.greenF(), colour.blueF()});
   // Bright colours stay apart from middling ones, black stays black.
   const float red = std::min(1.0F, 1.35F * brightness);

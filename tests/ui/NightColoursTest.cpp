@@ -157,6 +157,7 @@ TEST(NightShade, KeepsBlackBlackAndTakesTheBlueOut) {
   EXPECT_EQ(NightShade(Qt::white).red(), 255);
   EXPECT_GT(NightShade(QColor(0x5a, 0xb8, 0xee)).red(), NightShade(QColor(0x10, 0x30, 0x60)).red());
   EXPECT_EQ(NightShade(QColor(255, 255, 255, 100)).alpha(), 100);
+  EXPECT_GT(NightShade(Qt::red).red(), 150) << "a red line stays a line that is seen";
 }
 
 }  // namespace
