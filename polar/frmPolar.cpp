@@ -170,6 +170,10 @@ void frmPolar::PolarUpdate(TrackMode mode, bool headingValid, float heading, flo
   if (newMode) {
     PolarMenus();
   }
+  ShowUpdate();
+}
+
+void frmPolar::ShowUpdate() {
   if (!CourseUpdate() || !isVisible()) {
     return;
   }
@@ -209,7 +213,12 @@ void frmPolar::CourseLedger(float heading, float targetBearing, float windAngleT
   }
   m_searching = false;
   if (std::exchange(m_missed, false)) {
-    QTimer::singleShot(0, this, [this] { Follow(); });
+    QTimer::singleShot(0, this, [this] {
+      if (isVisible()) {
+        PolarMenus();
+        ShowUpdate();
+      }
+    });
   }
   if (solution) {
     m_ledger = veerwatch::CourseLedger(m_model.Settings(), input, *solution);

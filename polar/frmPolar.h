@@ -60,6 +60,8 @@ class frmPolar final : public QMainWindow {
  private:
   void ConnectMenus();
   void ConnectCourse();
+  /// Shows what the model made of an update, and tells the polar speed.
+  void ShowUpdate();
   /// Shows the course to where the model says, or hides it. False when the caller has to leave at once: a
   /// search runs already and is done again behind it, or the window is no more.
   bool CourseUpdate();

@@ -408,6 +408,7 @@ TEST_F(PolarLedger, IsNotEnteredAgainByAnUpdateInAPause) {
   EXPECT_EQ(Values.size(), 1U);
   EXPECT_EQ(Window->Model().Values().Heading, 150.0F) << "what came is not lost";
   QTRY_COMPARE(QString::fromStdString(Figures()[0]), QStringLiteral("Heading (M)=150"));
+  EXPECT_EQ(Values.size(), 2U) << "and its polar speed is told";
 }
 
 TEST_F(PolarLedger, IsGivenUpByACloseInAPause) {
