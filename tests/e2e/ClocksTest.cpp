@@ -13,9 +13,8 @@ constexpr int kDay = 24 * kHour;  // [s]
 class Clocks : public RealPorts {
  protected:
   /// On a wind of 40 degrees with the history open.
-  void Sail() {
-    LaunchRemote(ProfileText(1, 2, "1=" + In.Device() + "\r\n2=" + Out.Device() + "\r\n"));
-    SailInManual(In, Pilots);
+  void SailWithHistory() {
+    Sail();
     Click("mnuViewHistory");
   }
 
@@ -33,14 +32,10 @@ class Clocks : public RealPorts {
     EXPECT_TRUE(AwaitText("StatusBar(2)", ""));
     EXPECT_EQ(Text("StatusBar(3)"), "");
   }
-
-  Pty In;
-  Pty Out;
-  Listener Pilots{Out};
 };
 
 TEST_F(Clocks, TheWallClockMayBeSetWhileItSteers) {
-  Sail();
+  SailWithHistory();
   int angle = 41;
   for (const int seconds : {1, -1, kHour, -2 * kHour, 400 * kDay, -800 * kDay, kDay}) {
     Step("wall", seconds);
@@ -51,7 +46,7 @@ TEST_F(Clocks, TheWallClockMayBeSetWhileItSteers) {
 }
 
 TEST_F(Clocks, TheWallClockMayBeSetWhileItTracks) {
-  Sail();
+  SailWithHistory();
   Click("tbrTrack(7)");
   std::string bearing = Text("txtAutoPilot");
   std::size_t heard = 0;
@@ -84,7 +79,7 @@ struct Sleep {
 class Sleeps : public Clocks, public testing::WithParamInterface<Sleep> {};
 
 TEST_P(Sleeps, GoesOnWithWhatIsNew) {
-  Sail();
+  SailWithHistory();
   Step("wall", GetParam().Wall);
   Step("steady", GetParam().Steady);
   ASSERT_EQ(::kill(m_program->Id(), SIGSTOP), 0);
@@ -104,7 +99,7 @@ TEST_P(Sleeps, GoesOnWithWhatIsNew) {
 }
 
 TEST_P(Sleeps, SendsNothingOfItsOwn) {
-  Sail();
+  SailWithHistory();
   Step("wall", GetParam().Wall);
   Step("steady", GetParam().Steady);
   ASSERT_TRUE(AwaitText("StatusBar(2)", "No Input Data"));

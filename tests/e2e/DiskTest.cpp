@@ -53,16 +53,13 @@ TEST_F(Disk, OneThatBecomesReadOnlyKeepsTheOldProfile) {
 }
 
 TEST_F(Disk, OneThatIsReadOnlyLetsTheProgramSteer) {
-  Pty in;
-  Pty out;
-  Listener pilot(out);
-  const std::string profile = ProfileText(1, 2, "1=" + in.Device() + "\r\n2=" + out.Device() + "\r\n");
+  const std::string profile = BetweenTerminals();
   m_program.emplace(VEERWATCH_REMOTE, profile);
   fs::permissions(m_program->Folder(), fs::perms::owner_read | fs::perms::owner_exec);
   ASSERT_TRUE(
       m_program->Start({"--profile", (m_program->Folder() / "Veerwatch.ini").string()}, WithoutOverride()));
   ASSERT_TRUE(Says("ready")) << m_program->Said();
-  SailInManual(in, pilot);
+  SailInManual(In, Pilots);
   m_program->Terminate();
   EXPECT_EQ(m_program->AwaitEnd(), 0) << m_program->Said();
   fs::permissions(m_program->Folder(), fs::perms::owner_all);

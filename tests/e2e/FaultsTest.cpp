@@ -43,26 +43,22 @@ TEST_F(Faults, TheInputIsPulledTenTimes) {
 }
 
 TEST_F(Faults, AFloodOnTheInputLeavesTheProgramAnswering) {
-  Pty in;
-  Pty out;
-  Listener pilot(out);
-  LaunchRemote(ProfileText(1, 2, "1=" + in.Device() + "\r\n2=" + out.Device() + "\r\n"));
-  SailInManual(in, pilot);
+  Sail();
   // Ten seconds at a hundred times the rate of a full line, as fast as the terminal takes them.
   constexpr std::size_t kBytes = std::size_t{480} * 100 * 10;
   const std::string wind = ApparentWind("041");
   std::size_t winds = 0;
   for (std::size_t sent = 0; sent < kBytes; ++winds, sent += wind.size()) {
-    ASSERT_TRUE(WriteAll(in, wind));
+    ASSERT_TRUE(WriteAll(In, wind));
     constexpr std::size_t kEvery = 2000;
     if (winds % kEvery == 0) {
       EXPECT_EQ(Text("txtAutoPilot"), "100.0") << "in the middle of it";
     }
-    pilot.Heard();
+    Pilots.Heard();
   }
-  WriteAll(in, ApparentWind("055"));
+  WriteAll(In, ApparentWind("055"));
   ASSERT_TRUE(AwaitText("lblAppWindAngle", "55"));
-  const auto bearings = pilot.HearsBearings();
+  const auto bearings = Pilots.HearsBearings();
   ASSERT_TRUE(bearings.has_value());
   EXPECT_LE(bearings->size(), winds + 1);
   ExpectOrderlyEnd();
@@ -102,37 +98,29 @@ TEST_F(Faults, AFloodSkipsNoControlStep) {
 }
 
 TEST_F(Faults, HalfASentenceAndThenSilenceSendsNothing) {
-  Pty in;
-  Pty out;
-  Listener pilot(out);
-  LaunchRemote(ProfileText(1, 2, "1=" + in.Device() + "\r\n2=" + out.Device() + "\r\n"));
-  SailInManual(in, pilot);
+  Sail();
   const std::string wind = ApparentWind("044");
-  WriteAll(in, wind.substr(0, wind.size() / 2));
+  WriteAll(In, wind.substr(0, wind.size() / 2));
   ASSERT_TRUE(AwaitText("StatusBar(2)", "No Input Data"));
-  EXPECT_EQ(pilot.Heard(), "");
+  EXPECT_EQ(Pilots.Heard(), "");
   EXPECT_EQ(Text("lblAppWindAngle"), "40");
-  WriteAll(in, wind.substr(wind.size() / 2) + ApparentWind("045"));
+  WriteAll(In, wind.substr(wind.size() / 2) + ApparentWind("045"));
   EXPECT_TRUE(AwaitText("lblAppWindAngle", "45"));
   EXPECT_TRUE(AwaitText("StatusBar(2)", ""));
-  EXPECT_TRUE(pilot.Hears(Pilot("100.0")));
+  EXPECT_TRUE(Pilots.Hears(Pilot("100.0")));
   ExpectOrderlyEnd();
 }
 
 TEST_F(Faults, MinutesOfNoiseEndWithTheFirstGoodSentence) {
-  Pty in;
-  Pty out;
-  Listener pilot(out);
-  LaunchRemote(ProfileText(1, 2, "1=" + in.Device() + "\r\n2=" + out.Device() + "\r\n"));
-  SailInManual(in, pilot);
+  Sail();
   // As much as a line at 4800 baud brings in ten minutes.
   std::mt19937 random(77);
   std::string noise(std::size_t{480} * 600, '\0');
   std::generate(noise.begin(), noise.end(), [&random] { return static_cast<char>(random() & 0xFFU); });
-  ASSERT_TRUE(WriteAll(in, noise + "\r"));
-  WriteAll(in, ApparentWind("061"));
+  ASSERT_TRUE(WriteAll(In, noise + "\r"));
+  WriteAll(In, ApparentWind("061"));
   ASSERT_TRUE(AwaitText("lblAppWindAngle", "61"));
-  EXPECT_TRUE(pilot.Hears(Pilot("100.0")));
+  EXPECT_TRUE(Pilots.Hears(Pilot("100.0")));
   ExpectOrderlyEnd();
 }
 

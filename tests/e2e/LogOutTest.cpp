@@ -49,28 +49,28 @@ class XServer {
 class LogOut : public RealPorts {
  protected:
   /// In a session, tracking an apparent wind of 40 degrees.
-  void Sail() {
+  void SailInASession() {
     const std::string display = m_screen.Display();
     ASSERT_NE(display, "") << m_screen.Said();
-    m_profile = ProfileText(1, 2, "1=" + m_in.Device() + "\r\n2=" + m_out.Device() + "\r\n");
+    m_profile = BetweenTerminals();
     m_program.emplace(VEERWATCH_REMOTE, m_profile);
     ASSERT_TRUE(m_program->Start(
         {"--profile", (m_program->Folder() / "Veerwatch.ini").string()},
         {{"QT_QPA_PLATFORM=xcb", "DISPLAY=" + display, "SESSION_MANAGER=" + Desktop.Address()}, {}}));
     ASSERT_TRUE(Desktop.AwaitClient()) << m_program->Said();
     ASSERT_TRUE(Says("ready")) << m_program->Said();
-    SailInManual(m_in, m_pilot);
+    SailInManual(In, Pilots);
     Click("tbrTrack(7)");
   }
 
   void ExpectToSteer(const std::string& angle) {
-    const std::size_t before = m_pilot.Heard().size();
-    WriteAll(m_in, ApparentWind(angle));
+    const std::size_t before = Pilots.Heard().size();
+    WriteAll(In, ApparentWind(angle));
     EXPECT_TRUE(Await([&] {
       Desktop.Serve();
-      return m_pilot.Heard().size() > before && m_pilot.Heard().ends_with("\r\n");
+      return Pilots.Heard().size() > before && Pilots.Heard().ends_with("\r\n");
     })) << m_program->Said();
-    EXPECT_TRUE(Bearings(m_pilot.Heard()).has_value());
+    EXPECT_TRUE(Bearings(Pilots.Heard()).has_value());
     EXPECT_EQ(Text("lblAppWindAngle"), std::to_string(std::stoi(angle)));
   }
 
@@ -84,14 +84,11 @@ class LogOut : public RealPorts {
 
  private:
   XServer m_screen;
-  Pty m_in;
-  Pty m_out;
-  Listener m_pilot{m_out};
   std::string m_profile;
 };
 
 TEST_F(LogOut, EndsItInOrderWithoutAQuestion) {
-  Sail();
+  SailInASession();
   ASSERT_TRUE(Desktop.Save(true)) << m_program->Said();
   ExpectWholeProfile();
   ExpectToSteer("041");
@@ -101,7 +98,7 @@ TEST_F(LogOut, EndsItInOrderWithoutAQuestion) {
 }
 
 TEST_F(LogOut, ThatIsCalledOffLeavesItSteering) {
-  Sail();
+  SailInASession();
   ASSERT_TRUE(Desktop.Save(true)) << m_program->Said();
   Desktop.CallOff();
   ExpectToSteer("042");
@@ -109,7 +106,7 @@ TEST_F(LogOut, ThatIsCalledOffLeavesItSteering) {
 }
 
 TEST_F(LogOut, ASessionThatIsOnlySavedLeavesItSteering) {
-  Sail();
+  SailInASession();
   ASSERT_TRUE(Desktop.Save(false)) << m_program->Said();
   ExpectWholeProfile();
   ExpectToSteer("043");
@@ -119,7 +116,7 @@ TEST_F(LogOut, ASessionThatIsOnlySavedLeavesItSteering) {
 }
 
 TEST_F(LogOut, TheNextSessionStartsItAsThisOneDid) {
-  Sail();
+  SailInASession();
   ASSERT_TRUE(Desktop.Save(true)) << m_program->Said();
   EXPECT_THAT(Desktop.RestartCommand(), Contains("-session"));
   EXPECT_THAT(Desktop.RestartCommand().front(), HasSubstr("veerwatch_remote"));

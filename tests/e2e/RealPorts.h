@@ -200,6 +200,17 @@ class RealPorts : public testing::Test {
     ASSERT_TRUE(out.Hears(Pilot("100.0")));
   }
 
+  /// The profile of a program between In and Out.
+  std::string BetweenTerminals() const {
+    return ProfileText(1, 2, "1=" + In.Device() + "\r\n2=" + Out.Device() + "\r\n");
+  }
+
+  /// Starts the program between In and Out and brings it to Manual, on a wind of 40 degrees.
+  void Sail() {
+    LaunchRemote(BetweenTerminals());
+    SailInManual(In, Pilots);
+  }
+
   /// The program ends in order on SIGTERM, without a question, and leaves a whole profile.
   void ExpectOrderlyEnd() {
     ASSERT_TRUE(m_program->Runs()) << m_program->Said();
@@ -209,6 +220,9 @@ class RealPorts : public testing::Test {
     EXPECT_THAT(m_program->Profile(), testing::HasSubstr("Sentence HDG=True\r\n"));
   }
 
+  Pty In;
+  Pty Out;
+  Listener Pilots{Out};  ///< on Out
   std::optional<Process> m_program;
 
  private:

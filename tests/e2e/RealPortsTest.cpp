@@ -11,34 +11,31 @@ namespace {
 using testing::HasSubstr;
 
 TEST_F(RealPorts, SendsForEachWindInManualAndTrackButNotInSetup) {
-  Pty in;
-  Pty out;
-  Listener pilot(out);
-  LaunchRemote(ProfileText(1, 2, "1=" + in.Device() + "\r\n2=" + out.Device() + "\r\n"));
+  LaunchRemote(BetweenTerminals());
   for (int i = 0; i < 5; ++i) {
-    WriteAll(in, ApparentWind("040") + TrueWind("060"));
+    WriteAll(In, ApparentWind("040") + TrueWind("060"));
   }
-  WriteAll(in, ApparentWind("041"));
+  WriteAll(In, ApparentWind("041"));
   ASSERT_TRUE(AwaitText("lblAppWindAngle", "41"));
-  EXPECT_EQ(pilot.Heard(), "");
+  EXPECT_EQ(Pilots.Heard(), "");
 
-  SailInManual(in, pilot);
-  WriteAll(in, TrueWind("060"));
-  EXPECT_TRUE(pilot.Hears(Pilot("100.0")));
+  SailInManual(In, Pilots);
+  WriteAll(In, TrueWind("060"));
+  EXPECT_TRUE(Pilots.Hears(Pilot("100.0")));
 
   // With the gains of the defaults, 0.2 * 64 / 65 and 0.2 / 65, an error of 3 degrees moves the bearing by
   // 3 * 0.196923 and then by 3.009231 * 0.196923.
   Click("tbrTrack(7)");
-  WriteAll(in, ApparentWind("043"));
-  EXPECT_TRUE(pilot.Hears(Pilot("100.6")));
-  WriteAll(in, ApparentWind("043"));
-  EXPECT_TRUE(pilot.Hears(Pilot("101.2")));
+  WriteAll(In, ApparentWind("043"));
+  EXPECT_TRUE(Pilots.Hears(Pilot("100.6")));
+  WriteAll(In, ApparentWind("043"));
+  EXPECT_TRUE(Pilots.Hears(Pilot("101.2")));
   EXPECT_EQ(Text("txtAutoPilot"), "101.2");
 
   Click("tbrTrack(1)");
-  WriteAll(in, ApparentWind("050"));
+  WriteAll(In, ApparentWind("050"));
   Click("tbrTrack(5)");
-  EXPECT_EQ(pilot.Heard(), "");
+  EXPECT_EQ(Pilots.Heard(), "");
   ExpectOrderlyEnd();
   EXPECT_THAT(m_program->Profile(), HasSubstr("Bearing=101.183"));
 }
@@ -117,17 +114,13 @@ TEST_F(RealPorts, GoesOnWhenThePilotDeviceComesBack) {
 }
 
 TEST_F(RealPorts, SendsOnlyWholeSentencesAfterNobodyReadForLong) {
-  Pty in;
-  Pty out;
-  Listener pilot(out);
-  LaunchRemote(ProfileText(1, 2, "1=" + in.Device() + "\r\n2=" + out.Device() + "\r\n"));
-  SailInManual(in, pilot);
+  Sail();
   Click("tbrTrack(7)");
   // Far more sentences than the terminal holds; an error of one degree keeps the bearing on the move.
   constexpr int kWinds = 6000;
   long before = 0;
   for (int i = 0; i < kWinds; ++i) {
-    ASSERT_TRUE(WriteAll(in, ApparentWind("041")));
+    ASSERT_TRUE(WriteAll(In, ApparentWind("041")));
     if (i == kWinds / 4) {
       before = MemoryInUse();
     }
@@ -135,26 +128,22 @@ TEST_F(RealPorts, SendsOnlyWholeSentencesAfterNobodyReadForLong) {
   // A quarter of what the sentences since then would take.
   constexpr long kMostGrowth = kWinds / 4 * 60 / 4 * 3;
   EXPECT_LT(MemoryInUse() - before, kMostGrowth);
-  WriteAll(in, ApparentWind("039"));
+  WriteAll(In, ApparentWind("039"));
   ASSERT_TRUE(AwaitText("lblAppWindAngle", "39"));
   const std::string bearing = Text("txtAutoPilot");
   const std::string newest = Pilot(std::string(5 - std::min<std::size_t>(5, bearing.size()), '0') + bearing);
-  EXPECT_TRUE(Await([&] { return pilot.Heard().ends_with(newest); }));
-  const auto bearings = Bearings(pilot.Heard());
+  EXPECT_TRUE(Await([&] { return Pilots.Heard().ends_with(newest); }));
+  const auto bearings = Bearings(Pilots.Heard());
   ASSERT_TRUE(bearings.has_value());
   EXPECT_LT(bearings->size(), static_cast<std::size_t>(kWinds) / 2);
-  WriteAll(in, ApparentWind("040"));
-  EXPECT_TRUE(Await([&] { return pilot.Heard().size() == (bearings->size() + 1) * newest.size(); }));
-  EXPECT_TRUE(Bearings(pilot.Heard()).has_value());
+  WriteAll(In, ApparentWind("040"));
+  EXPECT_TRUE(Await([&] { return Pilots.Heard().size() == (bearings->size() + 1) * newest.size(); }));
+  EXPECT_TRUE(Bearings(Pilots.Heard()).has_value());
   ExpectOrderlyEnd();
 }
 
 TEST_F(RealPorts, SurvivesNoise) {
-  Pty in;
-  Pty out;
-  Listener pilot(out);
-  LaunchRemote(ProfileText(1, 2, "1=" + in.Device() + "\r\n2=" + out.Device() + "\r\n"));
-  SailInManual(in, pilot);
+  Sail();
   std::mt19937 random(20240607);
   std::string noise;
   for (int i = 0; i < 100'000; ++i) {
@@ -165,14 +154,14 @@ TEST_F(RealPorts, SurvivesNoise) {
   for (int i = 0; i < 20'000; ++i) {
     noise.push_back("$IMWVRC,*0123456789.AN\r"[random() % 23]);
   }
-  ASSERT_TRUE(WriteAll(in, noise + "\r"));
-  WriteAll(in, ApparentWind("077"));
+  ASSERT_TRUE(WriteAll(In, noise + "\r"));
+  WriteAll(In, ApparentWind("077"));
   ASSERT_TRUE(AwaitText("lblAppWindAngle", "77"));
-  EXPECT_TRUE(pilot.Hears(Pilot("100.0")));
+  EXPECT_TRUE(Pilots.Hears(Pilot("100.0")));
   // Noise on the pilot's side is read off and changes nothing.
-  ASSERT_TRUE(WriteAll(out, noise));
-  WriteAll(in, ApparentWind("078"));
-  EXPECT_TRUE(pilot.Hears(Pilot("100.0")));
+  ASSERT_TRUE(WriteAll(Out, noise));
+  WriteAll(In, ApparentWind("078"));
+  EXPECT_TRUE(Pilots.Hears(Pilot("100.0")));
   EXPECT_TRUE(AwaitText("StatusBar(3)", "Receive Error"));
   ExpectOrderlyEnd();
 }
@@ -187,19 +176,17 @@ TEST_F(RealPorts, StartsWithoutItsDevices) {
 }
 
 TEST_F(RealPorts, EndsInOrderOnRequestAndKeepsWhatItMeasured) {
-  Pty in;
-  Pty out;
-  Launch(VEERWATCH_PROGRAM, ProfileText(1, 2, "1=" + in.Device() + "\r\n2=" + out.Device() + "\r\n"));
+  Launch(VEERWATCH_PROGRAM, BetweenTerminals());
   // More than the terminal holds: when all of it is taken the program has read.
   const std::string winds = TrueWind("051") + ApparentWind("033");
   for (int i = 0; i < 4000; ++i) {
-    ASSERT_TRUE(WriteAll(in, winds)) << m_program->Said();
+    ASSERT_TRUE(WriteAll(In, winds)) << m_program->Said();
   }
-  EXPECT_EQ(out.Read(), "");
+  EXPECT_EQ(Out.Read(), "");
   ExpectOrderlyEnd();
   EXPECT_THAT(m_program->Profile(), HasSubstr("Desired 1=33\r\n"));
   EXPECT_THAT(m_program->Profile(), HasSubstr("Desired 2=51\r\n"));
-  EXPECT_THAT(m_program->Profile(), HasSubstr("1=" + in.Device() + "\r\n2=" + out.Device() + "\r\n"));
+  EXPECT_THAT(m_program->Profile(), HasSubstr("1=" + In.Device() + "\r\n2=" + Out.Device() + "\r\n"));
 }
 
 }  // namespace
