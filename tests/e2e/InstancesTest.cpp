@@ -1,16 +1,18 @@
 // Two programs at a time: one profile is taken by one of them, two profiles sail side by side.
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
+#include <string>
 
-#include "tests/e2e/Process.h"
+#include "tests/e2e/RealPorts.h"
 
 namespace veerwatch {
 namespace {
 
 constexpr const char* kSimulated = "[Simulate]\nNmea=True\n";
 
-bool Says(Process& program, std::string_view text) {
+bool HasSaid(Process& program, std::string_view text) {
   return Await([&] { return program.Said().find(text) != std::string::npos || !program.Runs(); }) &&
          program.Said().find(text) != std::string::npos;
 }
@@ -18,10 +20,10 @@ bool Says(Process& program, std::string_view text) {
 TEST(Instances, TheSecondOneOfAProfileSaysSoAndTouchesNothing) {
   Process first(VEERWATCH_REMOTE, kSimulated);
   ASSERT_TRUE(first.Start());
-  ASSERT_TRUE(Says(first, "ready"));
+  ASSERT_TRUE(HasSaid(first, "ready"));
   Process second(&first);
   ASSERT_TRUE(second.Start());
-  EXPECT_TRUE(Says(second, "another Veerwatch is running with this profile")) << second.Said();
+  EXPECT_TRUE(HasSaid(second, "another Veerwatch is running with this profile")) << second.Said();
   EXPECT_EQ(second.Said().find("ready"), std::string::npos);
   EXPECT_TRUE(second.Runs()) << "its message waits to be read";
   second.Terminate();
@@ -32,15 +34,60 @@ TEST(Instances, TheSecondOneOfAProfileSaysSoAndTouchesNothing) {
   EXPECT_EQ(first.AwaitEnd(), 0);
 }
 
+/// Whether a process has the file open.
+bool HasOpen(pid_t process, const std::string& file) {
+  for (const auto& entry : fs::directory_iterator("/proc/" + std::to_string(process) + "/fd")) {
+    std::error_code gone;
+    if (fs::read_symlink(entry, gone) == file) {
+      return true;
+    }
+  }
+  return false;
+}
+
+using OnePort = RealPorts;
+
+TEST_F(OnePort, IsLeftAloneByTheSecondOfAProfile) {
+  Sail();
+  EXPECT_TRUE(HasOpen(m_program->Id(), In.Device()));
+  Process second(&*m_program);
+  ASSERT_TRUE(second.Start());
+  ASSERT_TRUE(HasSaid(second, "another Veerwatch is running with this profile")) << second.Said();
+  EXPECT_FALSE(HasOpen(second.Id(), In.Device()));
+  EXPECT_FALSE(HasOpen(second.Id(), Out.Device()));
+  WriteAll(In, ApparentWind("041"));
+  EXPECT_TRUE(Pilots.Hears(Pilot("100.0")));
+  ASSERT_TRUE(AwaitText("lblAppWindAngle", "41"));
+  EXPECT_EQ(Pilots.Heard(), "");
+  second.Terminate();
+  EXPECT_TRUE(second.AwaitEnd().has_value());
+  ExpectOrderlyEnd();
+}
+
+TEST(Instances, ALinkToTheProfileIsTheSameProfile) {
+  Process first(VEERWATCH_REMOTE, kSimulated);
+  const std::string link = (first.Folder() / "link.ini").string();
+  std::filesystem::create_symlink("Veerwatch.ini", link);
+  ASSERT_TRUE(first.Start());
+  ASSERT_TRUE(HasSaid(first, "ready"));
+  Process second(&first);
+  ASSERT_TRUE(second.Start({"--profile", link}));
+  EXPECT_TRUE(HasSaid(second, "another Veerwatch is running with this profile")) << second.Said();
+  second.Terminate();
+  EXPECT_TRUE(second.AwaitEnd().has_value());
+  first.Tell("quit");
+  EXPECT_EQ(first.AwaitEnd(), 0);
+}
+
 TEST(Instances, AnotherProfileSailsBesideIt) {
   Process first(VEERWATCH_REMOTE, kSimulated);
   ASSERT_TRUE(first.Start());
-  ASSERT_TRUE(Says(first, "ready"));
+  ASSERT_TRUE(HasSaid(first, "ready"));
   const std::string other = (first.Folder() / "other.ini").string();
   std::ofstream(other) << kSimulated;
   Process second(&first);
   ASSERT_TRUE(second.Start({"--profile", other}));
-  ASSERT_TRUE(Says(second, "ready")) << second.Said();
+  ASSERT_TRUE(HasSaid(second, "ready")) << second.Said();
   second.Tell("quit");
   EXPECT_EQ(second.AwaitEnd(), 0);
   EXPECT_TRUE(first.Runs());
@@ -52,13 +99,13 @@ TEST(Instances, AnotherProfileSailsBesideIt) {
 TEST(Instances, AKilledOneKeepsNobodyOut) {
   Process first(VEERWATCH_REMOTE, kSimulated);
   ASSERT_TRUE(first.Start());
-  ASSERT_TRUE(Says(first, "ready"));
+  ASSERT_TRUE(HasSaid(first, "ready"));
   first.Kill();
   EXPECT_EQ(first.AwaitEnd(), -9);
   EXPECT_TRUE(std::filesystem::exists(first.Folder() / "Veerwatch.ini.lock"));
   Process second(&first);
   ASSERT_TRUE(second.Start());
-  EXPECT_TRUE(Says(second, "ready")) << second.Said();
+  EXPECT_TRUE(HasSaid(second, "ready")) << second.Said();
   second.Tell("quit");
   EXPECT_EQ(second.AwaitEnd(), 0);
 }
