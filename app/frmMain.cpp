@@ -178,8 +178,11 @@ void frmMain::CloseUnasked() {
 void frmMain::KeepSettings() {
   // What was edited in the file meanwhile stays.
   Profile present;
-  if (present.Load(m_sProfileFile) == Profile::LoadResult::Read) {
+  const Profile::LoadResult result = present.Load(m_sProfileFile);
+  if (result == Profile::LoadResult::Read) {
     m_parts.Store = std::move(present);
+  } else if (result == Profile::LoadResult::Unreadable) {
+    std::fprintf(stderr, "%s: cannot be read any more, it is put aside\n", m_sProfileFile.c_str());
   }
   ProfileWrite(m_parts.Store, *this, m_others);
   m_others.Store();

@@ -86,7 +86,6 @@ Profile::LoadResult Profile::Load(const std::filesystem::path& file) {
   if (status.type() == std::filesystem::file_type::not_found) {
     return LoadResult::Missing;
   }
-  m_unreadable = true;
   if (!std::filesystem::is_regular_file(status) || std::filesystem::file_size(file, error) > kLargestFile ||
       error) {
     return LoadResult::Unreadable;
@@ -95,7 +94,6 @@ Profile::LoadResult Profile::Load(const std::filesystem::path& file) {
   if (!bytes) {
     return LoadResult::Unreadable;
   }
-  m_unreadable = false;
   const std::string& content = *bytes;
   for (std::size_t at = 0; at < content.size();) {
     const std::size_t end = std::min(content.find_first_of("\r\n", at), content.size());
@@ -252,9 +250,10 @@ std::string Profile::Content() const {
 }
 
 std::optional<std::string> Profile::Commit(const std::filesystem::path& file) const {
-  if (m_unreadable) {
+  std::error_code error;
+  Profile present;
+  if (std::filesystem::is_regular_file(file, error) && present.Load(file) == LoadResult::Unreadable) {
     std::filesystem::path aside = file;
-    std::error_code error;
     do {
       aside += ".unreadable";
     } while (std::filesystem::exists(std::filesystem::symlink_status(aside, error)));

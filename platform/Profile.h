@@ -56,8 +56,8 @@ class Profile {
   }
 
   /// Writes all of it beside `file` and then puts it in place in one step, so that a crash or a full disk
-  /// never costs the old file. A file that Load could not read is put aside as "<file>.unreadable" first.
-  /// Nothing when done, else what went wrong, as one line.
+  /// never costs the old file. A file that lies there and cannot be read is put aside as "<file>.unreadable"
+  /// first. Nothing when done, else what went wrong, as one line.
   std::optional<std::string> Commit(const std::filesystem::path& file) const;
 
   /// All lines as they would be written.
@@ -76,7 +76,6 @@ class Profile {
 
   std::vector<Line> m_lines;
   std::string m_lineEnd = "\n";
-  bool m_unreadable = false;
 };
 
 }  // namespace veerwatch

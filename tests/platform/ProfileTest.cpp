@@ -517,6 +517,29 @@ TEST_F(ProfileTest, PutsAFileThatItCouldNotReadAsideFirst) {
   EXPECT_THAT(m_folder.Names(), UnorderedElementsAre("Veerwatch.ini", "Veerwatch.ini.unreadable"));
 }
 
+TEST_F(ProfileTest, PutsAFileAsideThatBecameUnreadableAfterTheLoad) {
+  WriteFile(m_file, "[S]\nK=1\n");
+  Profile profile;
+  ASSERT_EQ(profile.Load(m_file), Profile::LoadResult::Read);
+  const std::string large(Profile::kLargestFile + 1, ';');
+  WriteFile(m_file, large);
+  EXPECT_EQ(profile.Commit(m_file), std::nullopt);
+  EXPECT_EQ(ReadFile(m_file), "[S]\nK=1\n");
+  EXPECT_EQ(ReadFile(m_folder / "Veerwatch.ini.unreadable"), large);
+}
+
+TEST_F(ProfileTest, PutsAnUnreadableFileAsideOnce) {
+  WriteFile(m_file, std::string(Profile::kLargestFile + 1, ';'));
+  Profile profile;
+  ASSERT_EQ(profile.Load(m_file), Profile::LoadResult::Unreadable);
+  for (const char* value : {"1", "2", "3"}) {
+    profile.ProfileSet("S", "K", value);
+    EXPECT_EQ(profile.Commit(m_file), std::nullopt);
+  }
+  EXPECT_EQ(ReadFile(m_file), "[S]\nK=3\n");
+  EXPECT_THAT(m_folder.Names(), UnorderedElementsAre("Veerwatch.ini", "Veerwatch.ini.unreadable"));
+}
+
 TEST_F(ProfileTest, PutsEveryFileThatItCouldNotReadAsideUnderANameOfItsOwn) {
   const std::string large(Profile::kLargestFile + 1, ';');
   for (const char* mark : {"first", "second"}) {
