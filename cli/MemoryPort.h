@@ -24,6 +24,7 @@ class MemoryPort final : public SerialPort {
     m_waiting = {};
   }
   void Output(std::string_view /*sentence*/) override {}
+  void Withdraw() override {}
   void PollLineErrors() override {}
 
   /// Lets `bytes` arrive as one receive event.

@@ -19,13 +19,19 @@ PilotOutput::PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialP
 }
 
 void PilotOutput::PilotRelease() {
+  m_nmeaPort.Withdraw();
+  m_pilotPort.Withdraw();
+  CloseUnneeded();
+}
+
+void PilotOutput::CloseUnneeded() {
   if (m_settings.m_bSimulate || !OwnPort() || m_pilotPort.CommPort() != m_settings.m_iPilotPort) {
     m_pilotPort.PortOpen(false);
   }
 }
 
 void PilotOutput::PilotStart() {
-  PilotRelease();
+  CloseUnneeded();
   if (!m_started) {
     m_started = true;
     m_ticks = 0;

@@ -25,8 +25,8 @@ class PilotOutput final : public SerialPort::Events {
 
   PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Listener& listener);
 
-  /// Closes the pilot port where it is not needed or has another number than it should, so that the device is
-  /// free for the instruments.
+  /// Forgets a sentence that waits to be sent, and closes the pilot port where it is not needed or has
+  /// another number than it should, so that the device is free for the instruments.
   void PilotRelease();
 
   /// Opens the pilot port where it is needed. One that cannot be opened is shown as "Output Port n Not Open"
@@ -48,6 +48,7 @@ class PilotOutput final : public SerialPort::Events {
 
  private:
   bool OwnPort() const { return m_settings.m_iNmeaPort != m_settings.m_iPilotPort; }
+  void CloseUnneeded();
   void OpenPort();
   void Status(std::string_view text);
 

@@ -52,8 +52,12 @@ class SerialPort {
   virtual void Input(std::string& text) = 0;
 
   /// Hands one whole sentence to the port. Never blocks. While an earlier sentence has not left, the newest
-  /// takes the place of any that waits behind it. Without effect on a closed port.
+  /// takes the place of any that waits behind it; one that waits for longer than an input may be silent is
+  /// forgotten. Without effect on a closed port.
   virtual void Output(std::string_view sentence) = 0;
+
+  /// Forgets a sentence that waits behind one that has not left.
+  virtual void Withdraw() = 0;
 
   /// Asks the driver for line errors since the last time and raises an event, at once, for each kind that
   /// occurred. The port itself asks behind every receive event.

@@ -1,6 +1,5 @@
 #include "platform/SerialPortQt.h"
 
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QObject>
 #include <QThread>
@@ -23,6 +22,7 @@ namespace {
 constexpr qint64 kLargestUnread = qint64{64} * 1024;  // [bytes]
 constexpr int kOfferAgain = 100;                      // [ms]
 constexpr int kLookAgain = 20;                        // [ms], about ten characters at 4800 baud
+constexpr int kFreshTime = 4000;                      // [ms]
 constexpr int kLeaveTime = 250;                       // [ms], twice what a sentence takes at 4800 baud
 
 /// The device to open, free of links, so that two names of one device meet at the same lock; "" for anything
@@ -156,6 +156,7 @@ void SerialPortQt::Input(std::string& text) {
 
 void SerialPortQt::Output(std::string_view sentence) {
   if (m_open) {
+    m_fresh.setRemainingTime(kFreshTime);
     m_slot.Put(sentence);
     Pump();
   }
@@ -168,6 +169,9 @@ void SerialPortQt::Write(std::string_view sentence) {
 }
 
 void SerialPortQt::Pump() {
+  if (m_fresh.hasExpired()) {
+    m_slot.Clear();
+  }
   m_slot.Pump();
   // While Qt still holds characters bytesWritten calls again; nothing tells when the driver has sent its own.
   if (m_slot.Waiting() && m_port.bytesToWrite() == 0) {

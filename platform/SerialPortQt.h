@@ -6,6 +6,7 @@
 // while. At most 64 KiB wait unread in the port; then the driver's own buffer fills.
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QSerialPort>
 #include <QTimer>
 #include <functional>
@@ -47,6 +48,7 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
 
   void Input(std::string& text) override;
   void Output(std::string_view sentence) override;
+  void Withdraw() override { m_slot.Clear(); }
   void PollLineErrors() override;
 
  private:
@@ -73,6 +75,7 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
   QTimer m_loseTimer;
   QTimer m_pumpTimer;
   OutputSlot m_slot;
+  QDeadlineTimer m_fresh;  ///< until when a sentence that waits is worth sending
   std::unique_ptr<LineErrorCounters> m_counters;
   LineErrorWatch m_lineErrors;
 };

@@ -71,6 +71,15 @@ TEST_F(PilotOutputTest, AStartEmptiesThePanel) {
   EXPECT_EQ(m_view.OutputStatus, "");
 }
 
+TEST_F(PilotOutputTest, AReleaseForgetsWhatWaitsOnEitherPort) {
+  m_pilot.PilotStart();
+  EXPECT_EQ(m_pilotPort.Withdrawals, 0) << "a sentence of the mode before is still meant";
+  m_pilot.PilotRelease();
+  EXPECT_EQ(m_pilotPort.Withdrawals, 1);
+  EXPECT_EQ(m_nmeaPort.Withdrawals, 1);
+  EXPECT_TRUE(m_pilotPort.PortOpen());
+}
+
 TEST_F(PilotOutputTest, AStopClosesThePilotPort) {
   m_pilot.PilotStart();
   m_pilot.PilotStop();

@@ -186,6 +186,12 @@ class RealPorts : public testing::Test {
     return bytes;
   }
 
+  /// The sentence for the bearing that the autopilot's box shows.
+  std::string PresentSentence() {
+    const std::string bearing = Text("txtAutoPilot");
+    return Pilot(std::string(5 - std::min<std::size_t>(5, bearing.size()), '0') + bearing);
+  }
+
   bool AwaitText(const std::string& name, const std::string& text) {
     return Await([&] { return Text(name) == text; });
   }

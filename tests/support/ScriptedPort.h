@@ -19,6 +19,7 @@ class ScriptedPort final : public SerialPort {
   std::vector<std::string> Written;  ///< each sentence that was handed to the open port
   std::vector<int> OpenedNumbers;    ///< the number at every try to open a closed port
   int OutputWhileClosed = 0;         ///< sentences handed to the closed port
+  int Withdrawals = 0;               ///< calls of Withdraw
   int Polls = 0;                     ///< calls of PollLineErrors
   int Inputs = 0;                    ///< calls of Input
   std::string Waiting;               ///< characters that have arrived and wait to be read
@@ -94,6 +95,7 @@ class ScriptedPort final : public SerialPort {
       ++OutputWhileClosed;
     }
   }
+  void Withdraw() override { ++Withdrawals; }
   void PollLineErrors() override {
     ++Polls;
     for (const int commEvent : std::exchange(LineErrorsWaiting, {})) {
