@@ -7,6 +7,7 @@
 
 #include "app/Helm.h"
 #include "platform/NumberText.h"
+#include "tests/properties/Dice.h"
 #include "tests/support/Encode.h"
 #include "tests/support/FixedRandom.h"
 #include "tests/support/HandTimer.h"
@@ -17,22 +18,6 @@ namespace veerwatch {
 namespace {
 
 using What = SceneStep::What;
-
-/// Whole random numbers.
-class Dice {
- public:
-  explicit Dice(std::uint64_t seed) : m_random(seed) {}
-  int Within(int least, int most) {
-    return least + static_cast<int>(m_random.Next() * static_cast<double>(most - least + 1));
-  }
-  template <class T, std::size_t N>
-  T OneOf(const T (&choices)[N]) {
-    return choices[static_cast<std::size_t>(Within(0, static_cast<int>(N) - 1))];
-  }
-
- private:
-  SeededRandom m_random;
-};
 
 Settings RandomSettings(Dice& dice) {
   Settings settings;
@@ -54,39 +39,45 @@ class Labels final : public HelmView {
   SceneAnswer Shown;
 
   void OnHeading(float heading) override { Direction(heading); }
-  void OnBoatSpeed(float speed) override { Relative("speed", speed, "0.0"); }
-  void OnWaypoint(float /*range*/, float bearing) override { Direction(bearing); }
+  void OnBoatSpeed(float speed) override { Amount(speed); }
+  void OnWaypoint(float range, float bearing) override {
+    Amount(range);
+    Direction(bearing);
+  }
   void OnWindApparent(float angle, float speed) override {
-    Relative("apparent", angle, "0");
-    Relative("kn", speed, "0.0");
+    Relative(angle);
+    Amount(speed);
   }
   void OnWindTrue(float angle, float speed) override {
-    Relative("true", angle, "0");
-    Relative("kn", speed, "0.0");
+    Relative(angle);
+    Amount(speed);
   }
   void OnWindIndicator(float direction, float speed) override {
     Direction(direction);
-    Relative("indicator", speed, ".0");
+    Amount(speed);
   }
   void OnDesired(float apparent, float trueWind) override {
-    Relative("desired", apparent, "0");
-    Relative("desired", trueWind, "0");
+    Relative(apparent);
+    Relative(trueWind);
   }
   void OnDelta(float apparent, float trueWind) override {
     Shown.Delta[0] = apparent;
     Shown.Delta[1] = trueWind;
-    Relative("delta", apparent, "0.0");
-    Relative("delta", trueWind, "0.0");
+    Relative(apparent);
+    Relative(trueWind);
   }
   void OnAutoPilot(float bearing) override { Direction(bearing); }
+  void OnPilotDelta(float error) override { Relative(error); }
   void OnPilotHeading(float bearing) override { Direction(bearing); }
-  void OnAlarm(TrackSide /*side*/, float /*error*/) override { ++Shown.Alarms; }
+  void OnAlarm(TrackSide /*side*/, float error) override {
+    ++Shown.Alarms;
+    Relative(error);
+  }
 
  private:
   void Direction(float degrees) { Shown.Directions.push_back(static_cast<double>(degrees)); }
-  void Relative(std::string_view name, float value, std::string_view pattern) {
-    Shown.RelativeLabels.append(name).append(" ").append(FormatNumber(value, pattern)).append("\n");
-  }
+  void Relative(float degrees) { Shown.Relatives.push_back(static_cast<double>(degrees)); }
+  void Amount(float amount) { Shown.Amounts.push_back(static_cast<double>(amount)); }
 };
 
 /// The values of a step as a view sees them, in degrees.
@@ -105,6 +96,32 @@ class Seen {
 
   const SceneStep& m_step;
   const SceneView& m_view;
+};
+
+/// A wind angle that walks [0.1 deg].
+class Wind {
+ public:
+  Wind(Dice& dice, SceneWind winds)
+      : m_dice(dice),
+        m_winds(winds),
+        m_side(dice.OneOf({-1, 1})),
+        m_angle(winds == SceneWind::AllRound ? dice.Within(-1799, 1800) : dice.Within(300, 1500)) {}
+
+  int Next() {
+    m_angle += m_dice.Within(-100, 100);
+    if (m_winds == SceneWind::AllRound) {
+      m_angle = m_angle > 1800 ? m_angle - 3600 : m_angle <= -1800 ? m_angle + 3600 : m_angle;
+    } else {
+      m_angle = std::clamp(m_angle, 200, 1600);
+    }
+    return m_side * m_angle;
+  }
+
+ private:
+  Dice& m_dice;
+  SceneWind m_winds;
+  int m_side;
+  int m_angle;
 };
 
 /// The sentence of a step, or "" for one of the user's.
@@ -172,7 +189,7 @@ double BearingOf(const std::string& sentence) {
 
 }  // namespace
 
-Scene RandomScene(std::uint64_t seed, int steps) {
+Scene RandomScene(std::uint64_t seed, int steps, SceneWind winds) {
   Dice dice(seed);
   Scene scene;
   scene.Set = RandomSettings(dice);
@@ -180,8 +197,7 @@ Scene RandomScene(std::uint64_t seed, int steps) {
   SceneStep now;
   now.Direction = dice.Within(0, 3599);
   now.Variation = dice.Within(-250, 250);
-  const int side = dice.OneOf({-1, 1});
-  int wind = dice.Within(300, 1500);
+  Wind wind(dice, winds);
   scene.Steps.push_back({What::Setup});
   for (const What kind : {What::Vhw, What::Rmc}) {
     scene.Steps.push_back(now);
@@ -190,8 +206,7 @@ Scene RandomScene(std::uint64_t seed, int steps) {
   }
   for (int i = 0; i < steps; ++i) {
     now.Direction += dice.Within(-150, 150);
-    wind = std::clamp(wind + dice.Within(-100, 100), 200, 1600);
-    now.Relative = side * wind;
+    now.Relative = wind.Next();
     now.Amount = dice.Within(30, 300);
     // Half of the steps are winds, a few are the user's.
     constexpr What kInstruments[] = {What::Hdg, What::Hvm, What::Rmb, What::Rmc, What::Vhw, What::Vtg};
@@ -239,7 +254,8 @@ std::vector<SceneAnswer> Play(const Scene& scene, const SceneView& view) {
       nmeaPort.Receive(sentence + "\r\n");
     }
     SceneAnswer answer = labels.Shown;
-    labels.Shown.RelativeLabels.clear();
+    labels.Shown.Relatives.clear();
+    labels.Shown.Amounts.clear();
     labels.Shown.Directions.clear();
     answer.Record = helm.Data();
     answer.AutoPilot = settings.m_fAutoPilot;

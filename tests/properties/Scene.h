@@ -4,7 +4,6 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 #include <vector>
 
 #include "app/Settings.h"
@@ -61,15 +60,23 @@ struct SceneAnswer {
   float Delta[2] = {0.0F, 0.0F};    ///< as shown last
   double Integral = 0.0;            ///< of the loop
   int Alarms = 0;                   ///< told so far
-  std::string RelativeLabels;       ///< texts of every relative angle and every speed shown, in their order
+  std::vector<double> Relatives;    ///< every angle shown that is no direction, in their order [deg]
+  std::vector<double> Amounts;      ///< every speed and range shown, in their order [kn, nm]
   std::vector<double> Directions;   ///< every direction shown, in their order [deg]
   std::vector<double> ApbBearings;  ///< of each sentence sent [deg]
 };
 
+/// Where the wind of a scene may come from.
+enum class SceneWind {
+  AllRound,
+  OneSide,  ///< 20 to 160 degrees off one bow, so that no angle is half a turn off the desired one, which has
+            ///< no side to be mirrored to
+};
+
 /// A scene of `steps` steps and a few before them, whose angles walk. It begins with a heading, as the wind
-/// indicator takes north for one until it has come. The wind stays on one side of the boat, so that no angle
-/// is half a turn off the desired one; the limits of the alarm lie between the decimals of the sentences.
-Scene RandomScene(std::uint64_t seed, int steps);
+/// indicator takes north for one until it has come. The limits of the alarm lie between the decimals of the
+/// sentences.
+Scene RandomScene(std::uint64_t seed, int steps, SceneWind winds);
 
 /// An answer for each step.
 std::vector<SceneAnswer> Play(const Scene& scene, const SceneView& view);
