@@ -5,6 +5,7 @@
 #include <cstdint>
 
 #include "platform/Random.h"
+#include "tests/properties/Bearings.h"
 #include "tests/properties/Scene.h"
 #include "tests/support/RecordFault.h"
 
@@ -23,10 +24,6 @@ constexpr double kDecimal = 0.1 + kNear;
 
 /// So close to the bow or the stern the walking wind may change its side.
 constexpr double kNearLine = 10.0;
-
-double Off(double a, double b) { return std::fabs(std::remainder(a - b, 360.0)); }
-
-double Off(float a, float b) { return Off(static_cast<double>(a), static_cast<double>(b)); }
 
 /// How much a whole run of scenes has tried.
 struct Tried {
