@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <tuple>
 
 #include "tests/closedloop/Passage.h"
 #include "tests/closedloop/Response.h"
@@ -34,6 +36,26 @@ class Settled : public testing::Test {
       range.Most = std::max(range.Most, m_passage.ShownError());
     });
     return range;
+  }
+
+  /// Shifts the wind and follows it for long enough to have something added up, which it gives.
+  double BuildUp() {
+    Shift(15.0);
+    m_passage.Sail(20.0);
+    const double built = TheHelm().Loop().TrackIntegral();
+    EXPECT_GT(std::fabs(built), 0.05);
+    return built;
+  }
+  /// In Track at the present angle, the loop has nothing to swing out.
+  void ExpectTrackBeginsAtZero() {
+    m_passage.Track(TrackSide::True);
+    EXPECT_EQ(TheHelm().Loop().TrackIntegral(), 0.0);
+    ExpectAtRest();
+  }
+  void ExpectAtRest() {
+    const Range range = Sail(300.0);
+    EXPECT_GT(range.Least, -0.3);
+    EXPECT_LT(range.Most, 0.3);
   }
 
   Passage m_passage;
@@ -78,9 +100,9 @@ TEST(ClosedLoop, ATrueWindSensorBesideTheApparentWindDoublesThePasses) {
   EXPECT_GT(twice, once + 0.1);
 }
 
-TEST(ClosedLoop, TheAdvisedBandwidthSettlesWithLittleOvershoot) {
+TEST(ClosedLoop, TheAdvisedBandwidthSettlesWithLessThanAThirdOfOvershoot) {
   for (const double rate : {0.5, 1.0, 2.0, 5.0, 10.0}) {
-    for (const double lag : {1.0, 2.0, 4.0, 8.0, 12.0}) {
+    for (const double lag : {1.0, 2.0, 4.0, 6.0, 8.0, 12.0}) {
       ShiftCase what;
       what.Loop.Boat.WindPeriod = 1.0 / rate;
       what.Loop.Boat.TurnLag = lag;
@@ -88,24 +110,26 @@ TEST(ClosedLoop, TheAdvisedBandwidthSettlesWithLittleOvershoot) {
       what.Seconds = 300.0;
       const ShiftResult result = AnswerToShift(what);
       EXPECT_TRUE(result.Settled) << "rate " << rate << " lag " << lag;
-      EXPECT_LT(result.Overshoot, 0.35) << "rate " << rate << " lag " << lag;
+      EXPECT_LT(result.Overshoot, 1.0 / 3.0) << "rate " << rate << " lag " << lag;
     }
   }
 }
 
-class GustyWind : public testing::TestWithParam<double> {};
+/// A wind angle and a boat lag.
+class GustyWind : public testing::TestWithParam<std::tuple<double, double>> {};
 
 TEST_P(GustyWind, HoldsTheMeanAngleWithinOneDegree) {
+  const auto [angle, lag] = GetParam();
   for (const TrackSide side : {TrackSide::Apparent, TrackSide::True}) {
     for (const std::uint64_t seed : {1U, 2U}) {
       LoopCase what;
       what.Boat = GustyBoat();
-      what.Boat.TurnLag = 8.0;
+      what.Boat.TurnLag = lag;
       what.Side = side;
-      what.WindAngle = GetParam();
+      what.WindAngle = angle;
       const GustResult result = HoldInGusts(what, seed);
       EXPECT_LT(std::fabs(result.Shown), 1.0) << "seed " << seed;
-      if (side == TrackSide::Apparent || std::fabs(GetParam()) >= 90.0) {
+      if (side == TrackSide::Apparent || std::fabs(angle) >= 90.0) {
         // Upwind the true wind is worked out without the leeway, which no loop can see.
         EXPECT_LT(std::fabs(result.Real), 1.0) << "seed " << seed;
       }
@@ -114,38 +138,62 @@ TEST_P(GustyWind, HoldsTheMeanAngleWithinOneDegree) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Angles, GustyWind, testing::Values(45.0, -90.0, 150.0));
+INSTANTIATE_TEST_SUITE_P(AnglesAndLags, GustyWind,
+                         testing::Combine(testing::Values(45.0, -90.0, 160.0), testing::Values(2.0, 8.0)));
 
 TEST_F(Settled, DoesNotWindUpThroughManual) {
-  Shift(15.0);
-  m_passage.Sail(20.0);
-  const double built = TheHelm().Loop().TrackIntegral();
-  ASSERT_GT(std::fabs(built), 0.05);
+  const double built = BuildUp();
   TheHelm().Modes().TrackSetManual();
   TheHelm().Loop().SetAutoPilot(static_cast<double>(m_passage.Set.m_fAutoPilot) + 25.0);
   m_passage.Sail(300.0);
   EXPECT_EQ(TheHelm().Loop().TrackIntegral(), built) << "nothing adds up in Manual";
-  m_passage.Track(TrackSide::True);
-  EXPECT_EQ(TheHelm().Loop().TrackIntegral(), 0.0);
-  const Range range = Sail(300.0);
-  EXPECT_GT(range.Least, -0.3);
-  EXPECT_LT(range.Most, 0.3);
+  ExpectTrackBeginsAtZero();
+}
+
+TEST_F(Settled, DoesNotWindUpThroughSetup) {
+  const double built = BuildUp();
+  TheHelm().Modes().TrackSetSetup();
+  Shift(15.0);
+  m_passage.Sail(300.0);
+  EXPECT_EQ(TheHelm().Loop().TrackIntegral(), built) << "nothing adds up in Setup";
+  ExpectTrackBeginsAtZero();
 }
 
 TEST_F(Settled, DoesNotWindUpThroughOff) {
-  Shift(15.0);
-  m_passage.Sail(20.0);
+  const double built = BuildUp();
   TheHelm().Modes().TrackSetOff();
+  Shift(15.0);
   m_passage.Sail(300.0);
+  EXPECT_EQ(TheHelm().Loop().TrackIntegral(), built) << "nothing adds up in Off";
   TheHelm().Modes().TrackSetSetup();
   m_passage.Sail(20.0);
-  m_passage.Track(TrackSide::True);
-  const Range range = Sail(300.0);
-  EXPECT_GT(range.Least, -0.3);
-  EXPECT_LT(range.Most, 0.3);
+  EXPECT_EQ(TheHelm().Loop().TrackIntegral(), built);
+  ExpectTrackBeginsAtZero();
 }
 
 TEST_F(Settled, DoesNotWindUpThroughAnOutageOfTheInput) {
+  Shift(15.0);
+  const Range without = Sail(300.0);
+  Shift(-15.0);
+  m_passage.Sail(300.0);
+  // The wind shifts while nothing comes through.
+  m_passage.Input.Set().Cut = true;
+  m_passage.Sail(1.0);
+  const double integral = TheHelm().Loop().TrackIntegral();
+  const float bearing = m_passage.Set.m_fAutoPilot;
+  m_passage.Sail(300.0);
+  Shift(15.0);
+  m_passage.Sail(300.0);
+  EXPECT_EQ(TheHelm().Loop().TrackIntegral(), integral);
+  EXPECT_EQ(m_passage.Set.m_fAutoPilot, bearing);
+  EXPECT_GT(m_passage.RealError(), 14.0);
+  m_passage.Input.Set().Cut = false;
+  const Range with = Sail(300.0);
+  EXPECT_NEAR(with.Least, without.Least, 0.1) << "as much overshoot as without the outage";
+  ExpectAtRest();
+}
+
+TEST_F(Settled, AnOutageInTheMiddleOfACorrectionHoldsIt) {
   Shift(15.0);
   const Range without = Sail(300.0);
   Shift(-15.0);
@@ -155,16 +203,15 @@ TEST_F(Settled, DoesNotWindUpThroughAnOutageOfTheInput) {
   m_passage.Input.Set().Cut = true;
   m_passage.Sail(1.0);
   const double integral = TheHelm().Loop().TrackIntegral();
+  ASSERT_GT(std::fabs(integral), 0.05);
   const float bearing = m_passage.Set.m_fAutoPilot;
   m_passage.Sail(600.0);
   EXPECT_EQ(TheHelm().Loop().TrackIntegral(), integral);
   EXPECT_EQ(m_passage.Set.m_fAutoPilot, bearing);
   m_passage.Input.Set().Cut = false;
   const Range with = Sail(300.0);
-  EXPECT_GT(with.Least, without.Least - 0.5) << "no more overshoot than without the outage";
-  const Range rest = Sail(60.0);
-  EXPECT_GT(rest.Least, -0.3);
-  EXPECT_LT(rest.Most, 0.3);
+  EXPECT_GT(with.Least, without.Least) << "less overshoot than without the outage";
+  ExpectAtRest();
 }
 
 TEST(ClosedLoop, SettlesWithDroppedAndLateSentences) {

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "app/Settings.h"
 #include "control/TrackMode.h"
 #include "tests/closedloop/Wire.h"
 #include "tests/support/BoatModel.h"
@@ -14,9 +15,9 @@ struct LoopCase {
   BoatSettings Boat;
   WireSettings Wire;
   TrackSide Side = TrackSide::True;
-  double WindAngle = 90.0;  ///< true wind angle at the start [deg relative]
-  float Bandwidth = 20.0F;
-  float Damping = 4.0F;
+  double WindAngle = 90.0;                         ///< true wind angle at the start [deg relative]
+  float Bandwidth = Settings{}.m_fTrackBandwidth;  ///< the program's default
+  float Damping = Settings{}.m_fTrackDamping;      ///< the program's default
 };
 
 struct ShiftCase {
