@@ -1,5 +1,6 @@
 #include "polar/PolarTable.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "instruments/MathLib.h"
@@ -24,13 +25,17 @@ float Interpolate(float x, float x1, float x2, float y1, float y2) {
   if (x1 == x2 || y1 == y2) {
     return y1;
   }
-  // At its end the line is exact: rounding would lead below a speed of 0.
+  // At its ends the line is exact, and between them it stays between their heights: rounding would lead below
+  // a speed of 0.
   if (x == x2) {
     return y2;
   }
   const double slope = (static_cast<double>(y2) - static_cast<double>(y1)) /
                        (static_cast<double>(x2) - static_cast<double>(x1));
-  return ToSingle(static_cast<double>(y1) + slope * (static_cast<double>(x) - static_cast<double>(x1)));
+  const float y =
+      ToSingle(static_cast<double>(y1) + slope * (static_cast<double>(x) - static_cast<double>(x1)));
+  const bool between = (x > x1) != (x > x2);
+  return between ? std::clamp(y, std::min(y1, y2), std::max(y1, y2)) : y;
 }
 
 PolarTable::PolarTable()

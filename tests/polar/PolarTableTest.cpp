@@ -25,6 +25,15 @@ TEST(Interpolate, IsExactAtItsEnds) {
   }
 }
 
+TEST(Interpolate, StaysBetweenItsEndsHoweverItIsRounded) {
+  for (int i = 1; i < 2000; ++i) {
+    const float speed = static_cast<float>(i) * 0.0123F;
+    EXPECT_GE(Interpolate(0.0F, -49.0F, 1e-20F, speed, 0.0F), 0.0F) << speed;
+    EXPECT_GE(Interpolate(0.0F, 1e-20F, -49.0F, 0.0F, speed), 0.0F) << speed;
+    EXPECT_LE(Interpolate(0.0F, -49.0F, 1e-20F, 0.0F, speed), speed);
+  }
+}
+
 TEST(Interpolate, GoesOnBeyondItsEnds) {
   EXPECT_EQ(Interpolate(0.0F, 1.0F, 2.0F, 10.0F, 20.0F), 0.0F);
   EXPECT_EQ(Interpolate(3.0F, 1.0F, 2.0F, 10.0F, 20.0F), 30.0F);
@@ -142,6 +151,11 @@ TEST(PolarSpeed, IsFiniteAllOverTheTable) {
       }
     }
   }
+}
+
+TEST(PolarSpeed, IsNeverBelowZeroWithAngleHeadingsBelowZero) {
+  const PolarTable table = TableOf("TWA\t10\n-49\t1.6\n0.00000000000000000001\t0\n");
+  EXPECT_EQ(table.PolarSpeed(0, 0.0F, 10.0F), 0.0F);
 }
 
 TEST(PolarNearest, FindsTheCellUnderAPointOnEitherSide) {
