@@ -1,4 +1,4 @@
-// How a fuzz target says that something must hold.
+// How a fuzz target says that something must hold, and that its inputs get to where it matters.
 #pragma once
 
 #include <cmath>
@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
+#include <vector>
 
 namespace veerwatch {
 
@@ -23,6 +24,29 @@ inline void DemandNumbers(std::string_view text) {
   Demand(text.find("nan") == std::string_view::npos && text.find("inf") == std::string_view::npos,
          "a number");
 }
+
+/// A place that a target's inputs must get to, or its demands are never put to the test. The replay wants
+/// each seed at one of them and each of them reached by a seed. Lives as long as the program.
+class Landmark {
+ public:
+  explicit Landmark(const char* name) : m_name(name) { All().push_back(this); }
+  Landmark(const Landmark&) = delete;
+  Landmark& operator=(const Landmark&) = delete;
+
+  void Reach() { ++m_count; }
+
+  const char* Name() const { return m_name; }
+  std::size_t Count() const { return m_count; }
+
+  static std::vector<const Landmark*>& All() {
+    static std::vector<const Landmark*> all;
+    return all;
+  }
+
+ private:
+  const char* m_name;
+  std::size_t m_count = 0;
+};
 
 /// Takes values from the front of an input; zeros when it is used up.
 class Bytes {

@@ -1,5 +1,6 @@
 // Feeds a fuzz target without a fuzzer: every file of the folders on the command line, then a fixed number of
-// mutations of them, the same at every run.
+// mutations of them, the same at every run. A file must get the target to one of its landmarks unless its
+// name begins with "bad-", and all of them together to each.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -12,12 +13,35 @@
 #include <string>
 #include <vector>
 
+#include "tests/fuzz/Demand.h"
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace {
 
 void Feed(const std::string& input) {
   LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(input.data()), input.size());
+}
+
+/// How often all landmarks were reached.
+std::size_t Reached() {
+  std::size_t sum = 0;
+  for (const veerwatch::Landmark* landmark : veerwatch::Landmark::All()) {
+    sum += landmark->Count();
+  }
+  return sum;
+}
+
+/// Whether the seeds got to each landmark; says which ones they did not get to.
+bool ReachedAll() {
+  bool all = true;
+  for (const veerwatch::Landmark* landmark : veerwatch::Landmark::All()) {
+    if (landmark->Count() == 0) {
+      std::fprintf(stderr, "no seed reaches: %s\n", landmark->Name());
+      all = false;
+    }
+  }
+  return all;
 }
 
 /// One to eight changes: a byte, a cut, a repeated piece, or a piece of another input.
@@ -61,14 +85,24 @@ int main(int argc, char** argv) {
   }
   std::sort(files.begin(), files.end());
   std::vector<std::string> corpus;
+  bool good = true;
   for (const std::filesystem::path& file : files) {
     std::ifstream stream(file, std::ios::binary);
     corpus.emplace_back(std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>());
+    const std::size_t before = Reached();
     Feed(corpus.back());
+    const bool bad = file.filename().string().rfind("bad-", 0) == 0;
+    if (!bad && !veerwatch::Landmark::All().empty() && Reached() == before) {
+      std::fprintf(stderr, "a seed that gets nowhere: %s\n", file.string().c_str());
+      good = false;
+    }
   }
   if (corpus.empty()) {
     std::fprintf(stderr, "no inputs\n");
     return 2;
+  }
+  if (!ReachedAll() || !good) {
+    return 1;
   }
   std::mt19937 random(20);
   const int mutations = std::atoi(argv[1]);
