@@ -1,17 +1,19 @@
-// Any bytes on the instrument port in every mode: the record stays sound, the texts are numbers, and only
-// whole sentences leave.
+// Any bytes on the instrument port in every mode: the record stays sound, all that is told is a number, only
+// whole sentences leave, no memory grows, and the first good sentence behind it all counts.
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/Helm.h"
-#include "platform/NumberText.h"
 #include "tests/fuzz/Demand.h"
 #include "tests/support/FixedRandom.h"
 #include "tests/support/HandTimer.h"
+#include "tests/support/MemoryInUse.h"
 #include "tests/support/RecordFault.h"
 #include "tests/support/ScriptedPort.h"
 #include "tests/support/Sentences.h"
@@ -19,6 +21,12 @@
 namespace {
 
 using namespace veerwatch;
+
+Landmark sends("a sentence for the pilot");
+Landmark shares("a sentence for the pilot on the input's port");
+Landmark alarms("an alarm");
+Landmark cuts("a line that is too long");
+Landmark repeats("a stream that comes again and again");
 
 /// A sentence for the autopilot is the one that its bearing, three digits, a point and a digit, makes.
 void DemandPilotSentence(std::string_view sentence) {
@@ -34,8 +42,8 @@ void DemandPilotSentence(std::string_view sentence) {
   Demand(sentence == WithChecksum(body) + "\r\n");
 }
 
-/// Everything that is told becomes a text that somebody sees.
-class TextView final : public HelmView {
+/// Everything that is told is a number that somebody sees.
+class NumberView final : public HelmView {
  public:
   void OnHeading(float heading) override { Show(heading); }
   void OnBoatSpeed(float speed) override { Show(speed); }
@@ -48,21 +56,30 @@ class TextView final : public HelmView {
   void OnAutoPilot(float bearing) override { Show(bearing); }
   void OnPilotDelta(float error) override { Show(error); }
   void OnPilotHeading(float bearing) override { Show(bearing); }
+  void OnAlarm(TrackSide /*side*/, float error) override {
+    Show(error);
+    alarms.Reach();
+  }
+  void OnNmeaError(std::string_view text) override {
+    if (text.size() > LineFramer::kLongestLine) {
+      cuts.Reach();
+    }
+  }
 
  private:
   template <class... Values>
   static void Show(Values... values) {
-    (Demand(std::isfinite(values) && !FormatNumber(values, "0.0").empty(), "a text for a value"), ...);
+    (Demand(std::isfinite(values), "a value that is told"), ...);
   }
 };
 
-/// Now and then somebody turns a knob.
-void Change(Helm& helm, unsigned number) {
+/// Now and then somebody turns a knob; whether this time.
+bool Change(Helm& helm, unsigned number) {
   constexpr unsigned kEvery = 5;
   if (number % kEvery != 0) {
-    return;
+    return false;
   }
-  switch (number / kEvery % 6U) {
+  switch (number / kEvery % 7U) {
     case 0:
       helm.Modes().TrackSetManual();
       break;
@@ -78,54 +95,157 @@ void Change(Helm& helm, unsigned number) {
     case 4:
       helm.Modes().TrackSetSetup();
       break;
+    case 5:
+      helm.Modes().TrackSetOff();
+      break;
     default:
       helm.Modes().TrackSetTrack();
   }
+  return true;
+}
+
+/// What an input chooses in front of its stream.
+struct Choice {
+  explicit Choice(Bytes& bytes) {
+    const unsigned options = bytes.Byte();
+    Piece = bytes.Byte() + std::size_t{1};
+    const unsigned loop = bytes.Byte();
+    Knobs = options;
+    Store.m_iNmeaHeading = static_cast<std::int16_t>(options & 1U);
+    Store.m_iNmeaBoatSpeed = static_cast<std::int16_t>((options >> 1U) & 1U);
+    Store.m_iNmeaTrueWind = static_cast<std::int16_t>((options >> 2U) & 1U);
+    Store.m_fNmeaTrueWindAverage = (options & 8U) != 0 ? 0.0F : (options & 16U) != 0 ? 0.1F : 2.0F;
+    Side = (options & 32U) != 0 ? TrackSide::True : TrackSide::Apparent;
+    Store.m_iPilotPort = (options & 64U) != 0 ? Store.m_iNmeaPort : std::int16_t{6};
+    Store.m_bTrackAlarm = (options & 128U) == 0;
+    constexpr std::array<float, 4> kBandwidths{20.0F, 4.0F, 600.0F, 1e-30F};
+    constexpr std::array<float, 4> kDampings{4.0F, 0.7F, 0.0F, 1e30F};
+    Store.m_fTrackBandwidth = kBandwidths[loop & 3U];
+    Store.m_fTrackDamping = kDampings[(loop >> 2U) & 3U];
+    // Both take several times as long: each in one of sixteen.
+    Repeats = loop >> 4U == 1;
+    Stretches = loop >> 4U == 2;
+  }
+
+  Settings Store;
+  TrackSide Side = TrackSide::Apparent;
+  std::size_t Piece = 1;   ///< the longest that one receive event brings
+  unsigned Knobs = 0;      ///< where the turning of knobs begins
+  bool Repeats = false;    ///< the stream comes several times
+  bool Stretches = false;  ///< FF in the stream stands for many of the byte in front of it
+};
+
+/// The stream with the byte in front of the first FF as often as it takes for a line to be too long, or
+/// nearly.
+std::string Stretched(std::string_view bytes) {
+  constexpr std::size_t kTimes = LineFramer::kLongestLine - 20;
+  std::string stream(bytes);
+  if (const std::size_t at = stream.find('\xFF'); at != std::string::npos && at > 0) {
+    stream.replace(at, 1, kTimes, stream[at - 1]);
+  }
+  return stream;
+}
+
+/// A helm with its ports.
+class Rig {
+ public:
+  explicit Rig(const Choice& choice) : m_choice(choice), m_settings(choice.Store) {
+    m_timer.OnTick = [this] { m_helm.Tick(); };
+    m_helm.Modes().TrackSetSetup();
+    m_helm.Loop().Side(choice.Side);
+    m_helm.Modes().TrackSetTrack();
+  }
+
+  void Feed(std::string_view bytes) {
+    for (unsigned pieces = 1; !bytes.empty(); ++pieces) {
+      const std::string_view piece = bytes.substr(0, m_choice.Piece);
+      bytes.remove_prefix(piece.size());
+      m_nmeaPort.Receive(piece);
+      m_timer.Tick();
+      Demand(m_helm.Receiver().LineBuffer().size() <= LineFramer::kLongestLine);
+      // Only a whole line and a knob change anything else.
+      if (Change(m_helm, m_choice.Knobs + pieces) || piece.find('\r') != std::string_view::npos) {
+        DemandSound();
+      }
+    }
+    const bool shared = m_settings.m_iPilotPort == m_settings.m_iNmeaPort;
+    ScriptedPort& out = shared ? m_nmeaPort : m_pilotPort;
+    for (const std::string& sentence : out.Written) {
+      DemandPilotSentence(sentence);
+    }
+    if (!out.Written.empty()) {
+      (shared ? shares : sends).Reach();
+    }
+    Demand((shared ? m_pilotPort : m_nmeaPort).Written.empty(), "nothing for the other port");
+    // What the ports of the test remember grows with what they are given.
+    for (ScriptedPort* port : {&m_nmeaPort, &m_pilotPort}) {
+      std::vector<std::string>().swap(port->Written);
+      std::vector<int>().swap(port->OpenedNumbers);
+    }
+  }
+
+  /// Whatever came, the end of its line and a good sentence bring a wind.
+  void DemandRecovery() {
+    m_helm.Modes().TrackSetSetup();
+    m_nmeaPort.Receive("\r$IIMWV,123.0,R,4.0,N,A*39\r\n");
+    const InstrumentData& data = m_helm.Data();
+    Demand(data.WindApparentValid && data.WindAngleApparent == 123.0F && data.WindSpeedApparent == 4.0F,
+           "the first good sentence");
+  }
+
+ private:
+  void DemandSound() const {
+    Demand(RecordFault(m_helm.Data()).empty());
+    Demand(m_settings.m_fAutoPilot >= 0.0F && m_settings.m_fAutoPilot < 360.0F);
+    for (const TrackSide side : {TrackSide::Apparent, TrackSide::True}) {
+      const float desired = m_settings.DesiredAngle[static_cast<std::size_t>(side)];
+      Demand(desired >= -180.0F && desired <= 180.0F, "a desired angle");
+    }
+    Demand(std::isfinite(m_helm.Loop().TrackIntegral()));
+  }
+
+  const Choice& m_choice;
+  Settings m_settings;
+  NumberView m_view;
+  ScriptedPort m_nmeaPort;
+  ScriptedPort m_pilotPort;
+  HandTimer m_timer;
+  FixedRandom m_random;
+  Helm m_helm{m_settings, m_nmeaPort, m_pilotPort, m_timer, m_random, m_view};
+};
+
+/// What a stream brings again takes no more memory.
+void DemandNoGrowth(Rig& rig, const std::string& stream) {
+  // Buffers grow to what the longest line wants, which two strings hold in turn.
+  constexpr int kWarm = 3;
+  constexpr int kMeasured = 2;
+  for (int round = 0; round < kWarm; ++round) {
+    rig.Feed("\r");
+    rig.Feed(stream);
+  }
+  const std::size_t before = MemoryInUse();
+  for (int round = 0; round < kMeasured; ++round) {
+    rig.Feed("\r");
+    rig.Feed(stream);
+  }
+  Demand(MemoryInUse() <= before, "no memory that grows with what comes");
 }
 
 }  // namespace
 
-// The first byte chooses sources and side, the second the longest piece that one receive event brings;
+// The first three bytes choose sources, ports and loop, and the longest piece that one receive event brings;
 // between the pieces the modes change now and then.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  if (size < 2) {
-    return 0;
+  Bytes bytes(data, size);
+  const Choice choice(bytes);
+  const std::string stream = choice.Stretches ? Stretched(bytes.Rest()) : std::string(bytes.Rest());
+  Rig rig(choice);
+  rig.Feed(stream);
+  constexpr std::size_t kRepeated = 512;
+  if (choice.Repeats && stream.size() <= kRepeated) {
+    repeats.Reach();
+    DemandNoGrowth(rig, stream);
   }
-  const unsigned choice = data[0];
-  const std::size_t piece = data[1] + std::size_t{1};
-  std::string_view bytes(reinterpret_cast<const char*>(data) + 2, size - 2);
-
-  Settings settings;
-  settings.m_iPilotPort = 6;
-  settings.m_iNmeaHeading = static_cast<std::int16_t>(choice & 1U);
-  settings.m_iNmeaBoatSpeed = static_cast<std::int16_t>((choice >> 1U) & 1U);
-  settings.m_iNmeaTrueWind = static_cast<std::int16_t>((choice >> 2U) & 1U);
-  settings.m_fNmeaTrueWindAverage = (choice & 8U) != 0 ? 0.0F : (choice & 16U) != 0 ? 0.1F : 2.0F;
-  TextView view;
-  ScriptedPort nmeaPort;
-  ScriptedPort pilotPort;
-  HandTimer timer;
-  FixedRandom random;
-  Helm helm(settings, nmeaPort, pilotPort, timer, random, view);
-  timer.OnTick = [&helm] { helm.Tick(); };
-  helm.Modes().TrackSetSetup();
-  helm.Loop().Side((choice & 32U) != 0 ? TrackSide::True : TrackSide::Apparent);
-  helm.Modes().TrackSetTrack();
-
-  for (unsigned pieces = 1; !bytes.empty(); ++pieces) {
-    const std::size_t length = std::min(piece, bytes.size());
-    nmeaPort.Receive(bytes.substr(0, length));
-    bytes.remove_prefix(length);
-    timer.Tick();
-    Change(helm, choice + pieces);
-    Demand(RecordFault(helm.Data()).empty());
-    Demand(helm.Receiver().LineBuffer().size() <= LineFramer::kLongestLine);
-    Demand(settings.m_fAutoPilot >= 0.0F && settings.m_fAutoPilot < 360.0F);
-    Demand(std::isfinite(helm.Loop().TrackIntegral()));
-  }
-  for (const std::string& sentence : pilotPort.Written) {
-    DemandPilotSentence(sentence);
-  }
-  Demand(nmeaPort.Written.empty());
+  rig.DemandRecovery();
   return 0;
 }
