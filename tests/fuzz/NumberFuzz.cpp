@@ -1,8 +1,10 @@
 // Any text as a number, and any number as a text.
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -20,6 +22,23 @@ namespace {
 
 using namespace veerwatch;
 
+/// A field is taken when its number is within the bounds of its quantity, and then as it is.
+void DemandFields(std::string_view text, std::optional<float> number) {
+  struct Quantity {
+    std::optional<float> (*Read)(std::string_view);
+    float Least;
+    float Most;
+  };
+  constexpr std::array<Quantity, 4> kQuantities{{{AngleField, -360.0F, 360.0F},
+                                                 {VariationField, -180.0F, 180.0F},
+                                                 {SpeedField, 0.0F, 1000.0F},
+                                                 {RangeField, 0.0F, 100000.0F}}};
+  for (const Quantity& quantity : kQuantities) {
+    const bool fits = number && *number >= quantity.Least && *number <= quantity.Most;
+    Demand(quantity.Read(text) == (fits ? number : std::nullopt), "a field within its bounds");
+  }
+}
+
 void DemandText(std::string_view text) {
   const float leading = LeadingNumber(text);
   Demand(std::isfinite(leading), "a finite leading number");
@@ -32,6 +51,7 @@ void DemandText(std::string_view text) {
     const std::string shortest = ShortestText(*whole);
     Demand(StrictNumber(shortest) == *whole, "the shortest text reads back");
   }
+  DemandFields(text, whole);
   const auto option = ToOptionSingle(text);
   if (const float* single = std::get_if<float>(&option)) {
     Demand(whole == *single, "a box takes what is a number");
@@ -64,7 +84,13 @@ void DemandNumber(float value) {
     const auto back = StrictDouble(text);
     Demand(back.has_value(), "a formatted number is one");
     const double off = std::fabs(*back - static_cast<double>(value));
-    Demand(off <= 0.5000001 + std::fabs(static_cast<double>(value)) * 1e-6,
+    const std::size_t point = pattern.find('.');
+    const std::size_t decimals = point == std::string_view::npos ? 0 : pattern.size() - point - 1;
+    // What is rounded is the shortest text of the single, which is up to half a step of a single away from
+    // it.
+    constexpr double kHalfStep = 6e-8;
+    Demand(off <= 0.5 * std::pow(10.0, -static_cast<double>(decimals)) +
+                      std::fabs(static_cast<double>(value)) * kHalfStep,
            "not further off than the rounding");
     Demand(text != "-0" && text != "-0.0" && text != "-0.00", "no negative zero");
   }
