@@ -9,6 +9,8 @@
 #include "polar/PolarFile.h"
 #include "tests/fuzz/Demand.h"
 
+static veerwatch::Landmark reads("a table that is read");
+
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace veerwatch;
   static PolarTable table;
@@ -34,8 +36,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     Demand(table.Value(0, 0, column) > table.Value(0, 0, column - 1), "winds that ascend");
   }
   // What is written is the program's own spelling.
-  PolarTable again;
-  std::istringstream own(PolarText(table, 0));
+  const std::string text = PolarText(table, 0);
+  static PolarTable again;
+  std::istringstream own(text);
   Demand(PolarRead(again, 0, 1.0F, own).Loaded, "a table that loads");
+  Demand(PolarText(again, 0) == text, "a table that stays");
+  reads.Reach();
   return 0;
 }
