@@ -32,6 +32,8 @@ class SerialPort {
     virtual void OnComm(int commEvent) = 0;
     /// The device went away; the port has closed itself.
     virtual void OnPortLost() = 0;
+    /// The program itself stood still, and what had arrived meanwhile was dropped as too old.
+    virtual void OnPortOverslept() {}
   };
 
   virtual ~SerialPort() = default;
@@ -52,7 +54,7 @@ class SerialPort {
   virtual void Input(std::string& text) = 0;
 
   /// Hands one whole sentence to the port. Never blocks. While an earlier sentence has not left, the newest
-  /// takes the place of any that waits behind it; one that waits for longer than an input may be silent is
+  /// takes the place of any that waits behind it; one that waits for more than two seconds is
   /// forgotten. Without effect on a closed port.
   virtual void Output(std::string_view sentence) = 0;
 

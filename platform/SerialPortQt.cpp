@@ -20,9 +20,12 @@ namespace veerwatch {
 namespace {
 
 constexpr qint64 kLargestUnread = qint64{64} * 1024;  // [bytes]
+constexpr int kBeat = 500;                            // [ms]
+constexpr int kStandstill = 2000;                     // [ms] between two beats
+constexpr int kStaleTime = 300;                       // [ms], for the driver to hand over all that it holds
 constexpr int kOfferAgain = 100;                      // [ms]
 constexpr int kLookAgain = 20;                        // [ms], about ten characters at 4800 baud
-constexpr int kFreshTime = 4000;                      // [ms]
+constexpr int kFreshTime = 2000;                      // [ms], many times what a sentence takes
 constexpr int kLeaveTime = 250;                       // [ms], twice what a sentence takes at 4800 baud
 
 /// The device to open, free of links, so that two names of one device meet at the same lock; "" for anything
@@ -82,6 +85,8 @@ SerialPortQt::SerialPortQt(const Profile& profile, CountersMaker makeCounters)
   QObject::connect(&m_port, &QSerialPort::bytesWritten, &m_port, [this] { Pump(); });
   QObject::connect(&m_port, &QSerialPort::errorOccurred, &m_port,
                    [this](QSerialPort::SerialPortError error) { ErrorOccurred(error); });
+  m_beatTimer.setInterval(kBeat);
+  QObject::connect(&m_beatTimer, &QTimer::timeout, &m_port, [this] { Beat(); });
   QObject::connect(&m_offerTimer, &QTimer::timeout, &m_port, [this] { Offer(); });
   QObject::connect(&m_loseTimer, &QTimer::timeout, &m_port, [this] { Lose(); });
   QObject::connect(&m_pumpTimer, &QTimer::timeout, &m_port, [this] { Pump(); });
@@ -118,6 +123,8 @@ bool SerialPortQt::Open() {
   m_counters = m_makeCounters(m_port);
   m_lineErrors.Restart();
   PollLineErrors();
+  m_beat.start();
+  m_beatTimer.start();
   return true;
 }
 
@@ -140,6 +147,8 @@ void SerialPortQt::Close(int leaveTime) {
   m_port.clear(QSerialPort::Input);
   m_port.close();
   m_counters.reset();
+  m_beatTimer.stop();
+  m_stale = QDeadlineTimer();
   m_offerTimer.stop();
   m_loseTimer.stop();
   m_pumpTimer.stop();
@@ -190,8 +199,22 @@ void SerialPortQt::PollLineErrors() {
   }
 }
 
+void SerialPortQt::Beat() {
+  if (m_beat.restart() > kStandstill) {
+    m_stale.setRemainingTime(kStaleTime);
+    if (m_events != nullptr) {
+      m_events->OnPortOverslept();
+    }
+  }
+}
+
 void SerialPortQt::Offer() {
   if (!m_open || m_port.bytesAvailable() == 0) {
+    return;
+  }
+  Beat();
+  if (!m_stale.hasExpired()) {
+    m_port.readAll();
     return;
   }
   ++m_offering;

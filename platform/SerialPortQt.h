@@ -7,6 +7,7 @@
 #pragma once
 
 #include <QDeadlineTimer>
+#include <QElapsedTimer>
 #include <QSerialPort>
 #include <QTimer>
 #include <functional>
@@ -60,6 +61,8 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
   void Close(int leaveTime);
   void ErrorOccurred(QSerialPort::SerialPortError error);
   void Offer();
+  /// To be called all the time while the port is open. Behind a standstill of the program what waits is old.
+  void Beat();
   void Lose();
   void Pump();
   void Raise(int commEvent);
@@ -71,6 +74,9 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
   bool m_open = false;
   int m_offering = 0;  ///< receive events that are being handled, one inside the other
   QSerialPort m_port;
+  QTimer m_beatTimer;
+  QElapsedTimer m_beat;    ///< since the last beat
+  QDeadlineTimer m_stale;  ///< what arrives until then had waited through a standstill
   QTimer m_offerTimer;
   QTimer m_loseTimer;
   QTimer m_pumpTimer;

@@ -1,6 +1,8 @@
 // The real program process while its clocks jump and while it sleeps.
 
+#include <chrono>
 #include <csignal>
+#include <thread>
 
 #include "tests/e2e/RealPorts.h"
 
@@ -88,8 +90,11 @@ TEST_P(Sleeps, GoesOnWithWhatIsNew) {
     In.Write(ApparentWind("042"));
   }
   ASSERT_EQ(::kill(m_program->Id(), SIGCONT), 0);
-  ASSERT_TRUE(WriteAll(In, "\r\n" + ApparentWind("048")));
-  ASSERT_TRUE(AwaitText("lblAppWindAngle", "48"));
+  // Behind a long sleep what arrives with the old is old too.
+  ASSERT_TRUE(Await([&] {
+    WriteAll(In, "\r\n" + ApparentWind("048"));
+    return Text("lblAppWindAngle") == "48";
+  }));
   EXPECT_TRUE(Pilots.HearsBearings().has_value()) << Pilots.Heard();
   EXPECT_EQ(Text("txtAutoPilot"), "100.0");
   // What is told about the sentence that was cut off goes with the next one.
@@ -105,6 +110,31 @@ TEST_P(Sleeps, SendsNothingOfItsOwn) {
   ASSERT_TRUE(AwaitText("StatusBar(2)", "No Input Data"));
   EXPECT_EQ(Pilots.Heard(), "");
   ExpectToSteer("044");
+  ExpectOrderlyEnd();
+}
+
+TEST_F(Clocks, AStandstillTurnsTheBoatByNothingThatWaited) {
+  Sail();
+  Click("tbrTrack(7)");
+  WriteAll(In, ApparentWind("045"));
+  ASSERT_TRUE(Await([&] { return Text("txtAutoPilot") != "100.0"; }));
+  const double before = std::stod(Text("txtAutoPilot"));
+  ASSERT_EQ(::kill(m_program->Id(), SIGSTOP), 0);
+  for (int wind = 0; wind < 60; ++wind) {
+    ASSERT_TRUE(WriteAll(In, ApparentWind("045")));
+  }
+  std::this_thread::sleep_for(std::chrono::milliseconds(2500));
+  ASSERT_EQ(::kill(m_program->Id(), SIGCONT), 0);
+  int winds = 0;
+  ASSERT_TRUE(Await([&] {
+    WriteAll(In, ApparentWind("045"));
+    ++winds;
+    return std::stod(Text("txtAutoPilot")) > before;
+  }));
+  // An error of 5 degrees moves the bearing by hardly more than 1 at a step.
+  EXPECT_LT(std::stod(Text("txtAutoPilot")) - before, 1.3 * winds);
+  EXPECT_LT(std::stod(Text("txtAutoPilot")) - before, 10.0);
+  EXPECT_TRUE(Pilots.HearsBearings().has_value());
   ExpectOrderlyEnd();
 }
 

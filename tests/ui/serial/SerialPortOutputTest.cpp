@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "tests/e2e/SteppedClock.h"
 #include "tests/ui/serial/SerialPortQtFixture.h"
 
 namespace veerwatch {
@@ -65,6 +66,48 @@ TEST_F(SerialPortOutput, SendsWholeSentencesAndTheNewestLastWhenNobodyReadForLon
   EXPECT_EQ(last, kSentences - 1);
   EXPECT_THAT(m_owner.Codes, IsEmpty());
   EXPECT_EQ(m_owner.Lost, 0);
+}
+
+/// With a line that takes nothing: a filling is on its way, "waiting" waits behind it.
+class StuckLine : public SerialPortQtTest {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(m_port.PortOpen(true));
+    const std::string filler(1000, 'x');
+    for (int i = 0; i < 100; ++i) {
+      m_port.Output(filler);
+      QTest::qWait(1);
+    }
+    m_port.Output("waiting\r\n");
+  }
+
+  /// All that comes out from now on.
+  std::string Rest() {
+    std::string all;
+    for (int quiet = 0; quiet < 20; ++quiet) {
+      const std::string part = m_pty.Read();
+      all += part;
+      quiet = part.empty() ? quiet : 0;
+      QTest::qWait(10);
+    }
+    return all;
+  }
+};
+
+TEST_F(StuckLine, SendsWhatWaitsWhenItMovesAgain) { EXPECT_TRUE(Rest().ends_with("xwaiting\r\n")); }
+
+TEST_F(StuckLine, ForgetsWhatWaitsWhenItIsWithdrawn) {
+  m_port.Withdraw();
+  EXPECT_TRUE(Rest().ends_with("x"));
+  m_port.Output("next\r\n");
+  EXPECT_EQ(Rest(), "next\r\n");
+}
+
+TEST_F(StuckLine, ForgetsWhatHasWaitedForTwoSeconds) {
+  StepSteadyClock(3);
+  EXPECT_TRUE(Rest().ends_with("x"));
+  m_port.Output("next\r\n");
+  EXPECT_EQ(Rest(), "next\r\n");
 }
 
 TEST_F(SerialPortOutput, LetsTheSentenceOnItsWayLeaveWholeWhenItCloses) {

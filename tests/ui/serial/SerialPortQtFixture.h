@@ -51,6 +51,7 @@ class Owner : public SerialPort::Events {
     ++Lost;
     OpenWhenLost = Port.PortOpen();
   }
+  void OnPortOverslept() override { ++Overslept; }
   void Read() {
     Port.Input(m_input);
     Text += m_input;
@@ -61,6 +62,7 @@ class Owner : public SerialPort::Events {
   std::vector<int> Codes;
   std::string Text;
   int Lost = 0;
+  int Overslept = 0;
   bool OpenWhenLost = false;
 
  private:

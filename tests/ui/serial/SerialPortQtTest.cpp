@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "tests/e2e/SteppedClock.h"
 #include "tests/ui/serial/SerialPortQtFixture.h"
 
 namespace veerwatch {
@@ -91,6 +92,22 @@ TEST_F(SerialPortQtTest, GivesNothingWhenNothingWaits) {
   text = "old";
   m_port.Input(text);
   EXPECT_EQ(text, "");
+}
+
+TEST_F(SerialPortQtTest, DropsWhatWaitedThroughAStandstillOfTheProgram) {
+  ASSERT_TRUE(m_port.PortOpen(true));
+  PassAMark();
+  m_pty.Write("before the stand");
+  ASSERT_TRUE(Await([&] { return m_owner.Text.ends_with("stand"); }));
+  m_owner.Text.clear();
+  m_pty.Write("old");
+  StepSteadyClock(3);
+  ASSERT_TRUE(Await([&] { return m_owner.Overslept > 0; }));
+  QTest::qWait(400);
+  EXPECT_EQ(m_owner.Text, "");
+  m_pty.Write("new");
+  ASSERT_TRUE(Await([&] { return m_owner.Text == "new"; }));
+  EXPECT_EQ(m_owner.Overslept, 1);
 }
 
 TEST_F(SerialPortQtTest, RaisesNothingFromInsideACall) {
