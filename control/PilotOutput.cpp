@@ -68,7 +68,17 @@ void PilotOutput::OpenPort() {
 }
 
 void PilotOutput::Tick() {
-  if (!m_started || m_settings.m_bSimulate || !OwnPort()) {
+  if (!m_started || m_settings.m_bSimulate) {
+    return;
+  }
+  // The instruments were given its device.
+  if (m_pilotPort.CommPort() == m_settings.m_iNmeaPort) {
+    m_pilotPort.PortOpen(false);
+  }
+  if (!OwnPort()) {
+    if (m_notOpenShown) {
+      Status("");
+    }
     return;
   }
   ++m_ticks;

@@ -47,6 +47,8 @@ void TrackLoop::ControlStep() {
     m_listener.OnAutoPilot(m_settings.m_fAutoPilot);
     if (m_settings.m_bTrackAlarm) {
       TestAlarm(error);
+    } else {
+      WithdrawAlarm();
     }
   }
   if (mode != TrackMode::Setup) {

@@ -253,6 +253,28 @@ TEST_F(PilotOutputTest, AStoppedPortIsNotTriedAgain) {
   EXPECT_EQ(m_pilotPort.OpenedNumbers.size(), 1U);
 }
 
+TEST_F(PilotOutputTest, ATickLeavesADeviceToTheInstruments) {
+  m_pilot.PilotStart();
+  m_settings.m_iNmeaPort = 6;
+  m_settings.m_iPilotPort = 7;
+  m_pilot.Tick();
+  EXPECT_FALSE(m_pilotPort.PortOpen());
+  for (int i = 0; i < 3; ++i) {
+    m_pilot.Tick();
+  }
+  EXPECT_TRUE(m_pilotPort.PortOpen());
+  EXPECT_THAT(m_pilotPort.OpenedNumbers, ElementsAre(6, 7));
+}
+
+TEST_F(PilotOutputTest, ATickWithdrawsTheTextOfAPortThatIsNotNeededAnyMore) {
+  m_pilotPort.OpensOtherwise = false;
+  m_pilot.PilotStart();
+  EXPECT_EQ(m_view.OutputStatus, "Output Port 6 Not Open");
+  m_settings.m_iPilotPort = 5;
+  m_pilot.Tick();
+  EXPECT_EQ(m_view.OutputStatus, "");
+}
+
 TEST_F(PilotOutputTest, WithEqualNumbersNoTickOpensThePilotPort) {
   m_settings.m_iPilotPort = 5;
   m_pilot.PilotStart();

@@ -285,6 +285,15 @@ TEST_F(TrackLoopTest, TheAlarmNamesTheChosenSideAndIgnoresTheOther) {
   EXPECT_THAT(m_view.Only({"OnAlarm"}), ElementsAre("OnAlarm true 8"));
 }
 
+TEST_F(TrackLoopTest, AnAlarmThatIsSwitchedOffWhileItShowsIsWithdrawn) {
+  Track();
+  Step(10.0F);
+  m_settings.m_bTrackAlarm = false;
+  Step(10.0F);
+  Step(10.0F);
+  EXPECT_THAT(m_view.Only({"OnAlarm", "OnAlarmOver"}), ElementsAre("OnAlarm apparent 10", "OnAlarmOver"));
+}
+
 TEST_F(TrackLoopTest, ASwitchedOffAlarmIsNotRaised) {
   m_settings.m_bTrackAlarm = false;
   Track();
