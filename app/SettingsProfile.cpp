@@ -29,6 +29,12 @@ void ProfileRead(const Profile& profile, Settings& settings, RememberedWindows& 
     value = fold(static_cast<double>(value));
   };
 
+  const auto notNegative = [&profile](const char* section, const char* key, float& value) {
+    float read = value;
+    profile.ProfileGet(section, key, read);
+    value = read >= 0.0F ? read : value;
+  };
+
   profile.ProfileGet("Nmea", "Boat Speed", settings.m_iNmeaBoatSpeed, 0, kLastSource);
   profile.ProfileGet("Nmea", "Heading", settings.m_iNmeaHeading, 0, kLastSource);
   profile.ProfileGet("Nmea", "Port", settings.m_iNmeaPort, kFirstPort);
@@ -40,7 +46,7 @@ void ProfileRead(const Profile& profile, Settings& settings, RememberedWindows& 
   profile.ProfileGet("Nmea", "Sentence VHW", settings.m_bNmeaSentenceVHW);
   profile.ProfileGet("Nmea", "Sentence VTG", settings.m_bNmeaSentenceVTG);
   profile.ProfileGet("Nmea", "True Wind", settings.m_iNmeaTrueWind, 0, kLastSource);
-  profile.ProfileGet("Nmea", "True Wind Average", settings.m_fNmeaTrueWindAverage);
+  notNegative("Nmea", "True Wind Average", settings.m_fNmeaTrueWindAverage);
   profile.ProfileGet("Pilot", "Port", settings.m_iPilotPort, kFirstPort);
   angle("Pilot", "Bearing", settings.m_fAutoPilot, FoldBearing);
   profile.ProfileGet("Simulate", "Nmea", settings.m_bSimulate);
@@ -54,7 +60,7 @@ void ProfileRead(const Profile& profile, Settings& settings, RememberedWindows& 
   profile.ProfileGet("Simulate", "Waypoint Bearing", settings.m_fSimulateWaypointBearing);
   profile.ProfileGet("Simulate", "Waypoint Range", settings.m_fSimulateWaypointRange);
   profile.ProfileGet("Track", "Alarm", settings.m_bTrackAlarm);
-  profile.ProfileGet("Track", "Alarm Limit", settings.m_fTrackAlarmLimit);
+  notNegative("Track", "Alarm Limit", settings.m_fTrackAlarmLimit);
   float bandwidth = settings.m_fTrackBandwidth;
   profile.ProfileGet("Track", "Bandwidth", bandwidth);
   if (bandwidth > 0.0F) {

@@ -232,6 +232,17 @@ TEST(SettingsProfile, ABandwidthThatIsNotAboveZeroLeavesTheDefault) {
   EXPECT_EQ(ReadFrom(With("Track", "Bandwidth", "0.5")).m_fTrackBandwidth, 0.5F);
 }
 
+TEST(SettingsProfile, ANumberThatMayNotBeNegativeLeavesTheDefault) {
+  for (const std::string_view text : {"-1", "-0.001", "-1e38"}) {
+    EXPECT_EQ(ReadFrom(With("Nmea", "True Wind Average", text)).m_fNmeaTrueWindAverage,
+              Settings().m_fNmeaTrueWindAverage)
+        << text;
+    EXPECT_EQ(ReadFrom(With("Track", "Alarm Limit", text)).m_fTrackAlarmLimit, Settings().m_fTrackAlarmLimit)
+        << text;
+  }
+  EXPECT_EQ(ReadFrom(With("Nmea", "True Wind Average", "0")).m_fNmeaTrueWindAverage, 0.0F);
+}
+
 TEST(SettingsProfile, TheWindowsThatWereOpenAreShownAgainInTurn) {
   Settings settings;
   Windows windows;
