@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <utility>
 
 #include "app/IconsQt.h"
 #include "instruments/CompassPoint.h"
@@ -193,7 +194,20 @@ void frmMain::KeepSettings() {
 
 void frmMain::tmrNmea_Timer() {
   m_helm.Tick();
+  WatchWind();
   m_others.DiagramLights();
+}
+
+void frmMain::WatchWind() {
+  constexpr int kLost = 4;
+  bool lost = false;
+  for (int& age : m_windAge) {
+    age = std::min(age + 1, kLost);
+    lost = lost || age == kLost;
+  }
+  if (std::exchange(m_windLost, lost) != lost) {
+    ShowModeText();
+  }
 }
 
 void frmMain::tmrUnload_Timer() {
@@ -343,12 +357,14 @@ void frmMain::OnWaypoint(float /*range*/, float bearing) {
 void frmMain::OnWindApparent(float angle, float speed) {
   ShowText(*m_panel->lblAppWindAngle, Number(angle, "0"));
   ShowText(*m_panel->lblAppWindSpeed, Number(speed, "0.0"));
+  m_windAge[0] = 0;
   m_others.OnWindApparent(angle, speed);
 }
 
 void frmMain::OnWindTrue(float angle, float speed) {
   ShowText(*m_panel->lblTrueWindAngle, Number(angle, "0"));
   ShowText(*m_panel->lblTrueWindSpeed, Number(speed, "0.0"));
+  m_windAge[1] = 0;
   m_others.OnWindTrue(angle, speed);
 }
 
@@ -382,13 +398,22 @@ void frmMain::OnDelta(float apparent, float trueWind) {
 void frmMain::OnAutoPilot(float bearing) { m_panel->txtAutoPilot->Follow(Number(bearing, "0.0")); }
 
 void frmMain::OnAlarm(TrackSide side, float error) {
-  m_parts.Asks.ToForeground();
+  // Seen once, it leaves the user alone who works on its cause in another window of the program; and what is
+  // typed for another one does not end up in a box of this.
+  const QWidget* active = QApplication::activeWindow();
+  if (!isActiveWindow()) {
+    m_panel->setFocus();
+  }
+  if (!std::exchange(m_alarm, true) || active == nullptr || active == this) {
+    m_parts.Asks.ToForeground();
+  }
   m_panel->ShowAlarm(side);
   m_parts.Asks.Beep();
   Panel(kOutputPanel, QStringLiteral("Alarm Limit Exceeded ") + Number(error, "0"));
 }
 
 void frmMain::OnAlarmOver() {
+  m_alarm = false;
   m_panel->HideAlarm();
   Panel(kOutputPanel, QString());
 }
@@ -431,6 +456,8 @@ void frmMain::ShowModeText() {
   const bool needsInput = m_eTrackMode == TrackMode::Manual || m_eTrackMode == TrackMode::Track;
   if (needsInput && !m_helm.Receiver().Started()) {
     text += QStringLiteral(", Input Stopped");
+  } else if (needsInput && m_windLost) {
+    text += QStringLiteral(", No Wind");
   }
   Panel(kPilotPanel, text);
 }

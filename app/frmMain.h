@@ -80,6 +80,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void Panel(int index, const QString& text);
   void ShowControls();
   void ShowModeText();
+  /// A second has passed: the mode's text says when a wind has not come for four.
+  void WatchWind();
 
   void tbrTrack_ButtonClick(TrackMode mode);
   void optControl_Click(int index);
@@ -125,9 +127,12 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   std::array<QLabel*, 3> m_status{};
   OtherWindowsQt m_others;
   Helm m_helm;
-  bool m_ask = true;        ///< a close still has to ask
-  bool m_asking = false;    ///< the question of the close is open
-  bool m_unloaded = false;  ///< the profile is written, everything is closed
+  bool m_ask = true;     ///< a close still has to ask
+  bool m_alarm = false;  ///< is shown
+  bool m_windLost = false;
+  std::array<int, 2> m_windAge{};  ///< time without an apparent and a true wind [s]
+  bool m_asking = false;           ///< the question of the close is open
+  bool m_unloaded = false;         ///< the profile is written, everything is closed
 };
 
 }  // namespace veerwatch

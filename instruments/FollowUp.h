@@ -1,5 +1,5 @@
 // The steps that follow a fresh wind: the same after a wind sentence and after a simulator tick, in an order
-// of their own each.
+// of their own each. Deliberate: an enabled wind sentence that brings no wind runs them too.
 #pragma once
 
 namespace veerwatch {

@@ -21,6 +21,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSocketNotifier>
@@ -185,7 +186,10 @@ class Remote final : public QObject {
       box->setFocus();
       box->selectAll();
       box->insert(rest);
-      emit box->returnPressed();
+      for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent enter(type, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(box, &enter);
+      }
       Say(QStringLiteral("typed ") + name);
     } else if (verb == QLatin1String("size") && window != nullptr) {
       window->resize(rest.section(QLatin1Char(' '), 0, 0).toInt(), rest.section(QLatin1Char(' '), 1).toInt());

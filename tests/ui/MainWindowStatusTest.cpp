@@ -112,6 +112,55 @@ TEST_F(MainWindowStatus, ThePilotPanelSaysThatTheInputIsStopped) {
   EXPECT_EQ(Text("StatusBar(1)"), "Manual");
 }
 
+TEST_F(MainWindowStatus, ThePilotPanelSaysThatAWindIsLost) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("30", "40"));
+  Mode(7);
+  EXPECT_EQ(Text("StatusBar(1)"), "Tracking Apparent Wind");
+  const auto seconds = [&](int count, const std::string& sentence) {
+    for (int i = 0; i < count; ++i) {
+      NmeaPort.Receive(sentence);
+      tmrNmea.Tick();
+    }
+  };
+  seconds(10, Winds("30", "40"));
+  EXPECT_EQ(Text("StatusBar(1)"), "Tracking Apparent Wind");
+  // A wind instrument without a wind.
+  seconds(2, "$WIMWV,,R,,N,V\r");
+  EXPECT_EQ(Text("StatusBar(1)"), "Tracking Apparent Wind");
+  seconds(1, "$WIMWV,,R,,N,V\r");
+  EXPECT_EQ(Text("StatusBar(1)"), "Tracking Apparent Wind, No Wind");
+  EXPECT_EQ(Text("StatusBar(2)"), "") << "something comes in";
+  seconds(1, Winds("30", "40"));
+  EXPECT_EQ(Text("StatusBar(1)"), "Tracking Apparent Wind");
+  // Half of the wind is none.
+  seconds(4, "$WIMWV,30,R,10,N,A\r");
+  EXPECT_EQ(Text("StatusBar(1)"), "Tracking Apparent Wind, No Wind");
+  Mode(3);
+  EXPECT_EQ(Text("StatusBar(1)"), "Initialize");
+}
+
+TEST_F(MainWindowStatus, AnAlarmLeavesTheKeyboardInAnotherWindowOfTheProgram) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("30", "40"));
+  Mode(7);
+  Find<QLineEdit>("txtDesired(1)").setFocus();
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  NmeaPort.Receive("$WIMWV,50,R,10,N,A\r");
+  EXPECT_EQ(Dialogs.Foregrounds, 1) << "it is seen once";
+  EXPECT_FALSE(Find<QLineEdit>("txtDesired(1)").hasFocus());
+  EXPECT_EQ(Window->focusWidget() == &Find<QLineEdit>("txtDesired(1)"), false) << "nothing is typed into it";
+  NmeaPort.Receive("$WIMWV,50,R,10,N,A\r");
+  EXPECT_EQ(Dialogs.Foregrounds, 1) << "and then leaves the window alone";
+  EXPECT_EQ(Dialogs.Beeps, 2);
+  NmeaPort.Receive("$WIMWV,30,R,10,N,A\r");
+  NmeaPort.Receive("$WIMWV,50,R,10,N,A\r");
+  EXPECT_EQ(Dialogs.Foregrounds, 2) << "the next alarm is seen again";
+}
+
 TEST_F(MainWindowStatus, ARefusedTrackStaysInItsModeWithAReason) {
   Start(kOnPorts);
   Mode(5);
