@@ -13,7 +13,6 @@
 //   quit            closes the main window, as the end of the input does
 // "ready" is said once in the beginning; "no NAME" when there is none of that name or it is disabled.
 
-#include <malloc.h>
 #include <unistd.h>
 
 #include <QAbstractButton>
@@ -36,25 +35,14 @@
 
 #include "app/ProgramQt.h"
 #include "tests/e2e/SteppedClock.h"
+#include "tests/support/MemoryInUse.h"
 
 #ifdef __SANITIZE_ADDRESS__
-extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
-
 // What the desktop's libraries keep to the end of the program.
 extern "C" const char* __lsan_default_suppressions() { return "leak:libdbus-1\n"; }
 #endif
 
 namespace {
-
-/// What is allocated at this moment [bytes].
-std::size_t MemoryInUse() {
-#ifdef __SANITIZE_ADDRESS__
-  return __sanitizer_get_current_allocated_bytes();
-#else
-  const struct mallinfo2 info = mallinfo2();
-  return info.uordblks + info.hblkhd;
-#endif
-}
 
 /// How late the event loop is: a timer of a fixed interval, measured each time that it comes.
 class Delays final : public QObject {
@@ -221,7 +209,7 @@ class Remote final : public QObject {
       return;
     }
     if (verb == QLatin1String("memory")) {
-      Say(QStringLiteral("memory %1").arg(MemoryInUse()));
+      Say(QStringLiteral("memory %1").arg(veerwatch::MemoryInUse()));
       return;
     }
     const QString first = name.section(QLatin1Char(' '), 0, 0);

@@ -44,6 +44,7 @@ void DemandSettings(const Settings& settings) {
   Demand(settings.DesiredAngle[1] > -180.0F && settings.DesiredAngle[1] <= 180.0F);
   Demand(settings.DesiredAngle[2] > -180.0F && settings.DesiredAngle[2] <= 180.0F);
   Demand(settings.m_fTrackBandwidth > 0.0F);
+  Demand(settings.m_fNmeaTrueWindAverage >= 0.0F && settings.m_fTrackAlarmLimit >= 0.0F);
   Demand(settings.m_iNmeaPort >= 1 && settings.m_iPilotPort >= 1);
   for (const int source : {settings.m_iNmeaBoatSpeed, settings.m_iNmeaHeading, settings.m_iNmeaTrueWind}) {
     Demand(source == 0 || source == 1, "a source");
