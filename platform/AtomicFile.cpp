@@ -61,13 +61,29 @@ std::error_code WriteNew(const std::filesystem::path& file, std::string_view con
 
 #endif
 
+/// The file that `file` means behind all links, which need not be there yet. An error for links that lead
+/// nowhere.
+std::filesystem::path Target(std::filesystem::path file, std::error_code& error) {
+  constexpr int kMostLinks = 40;
+  std::error_code none;
+  for (int links = 0; std::filesystem::is_symlink(std::filesystem::symlink_status(file, none)); ++links) {
+    if (links == kMostLinks) {
+      error = std::make_error_code(std::errc::too_many_symbolic_link_levels);
+      return file;
+    }
+    file = file.parent_path() / std::filesystem::read_symlink(file, none);
+  }
+  const std::filesystem::path canonical = std::filesystem::weakly_canonical(file, none);
+  return none ? file : canonical;
+}
+
 }  // namespace
 
 std::optional<std::string> WriteAtomically(const std::filesystem::path& file, std::string_view content) {
   std::error_code error;
-  std::filesystem::path target = std::filesystem::weakly_canonical(file, error);
+  std::filesystem::path target = Target(file, error);
   if (error) {
-    target = file;
+    return "cannot write " + file.string() + ": " + error.message();
   }
   if (target.has_parent_path()) {
     std::filesystem::create_directories(target.parent_path(), error);

@@ -21,6 +21,11 @@ bool SameName(std::string_view a, std::string_view b) {
                     [&](char x, char y) { return lower(x) == lower(y); });
 }
 
+/// Text of two bytes a character, as some editors save it.
+bool IsWideText(std::string_view content) {
+  return content.starts_with("\xFF\xFE") || content.starts_with("\xFE\xFF");
+}
+
 /// Name of the section that a line opens, or nothing.
 std::optional<std::string_view> SectionName(std::string_view line) {
   if (line.starts_with(kByteOrderMark)) {
@@ -95,6 +100,9 @@ Profile::LoadResult Profile::Load(const std::filesystem::path& file) {
     return LoadResult::Unreadable;
   }
   const std::string& content = *bytes;
+  if (IsWideText(content)) {
+    return LoadResult::Unreadable;
+  }
   for (std::size_t at = 0; at < content.size();) {
     const std::size_t end = std::min(content.find_first_of("\r\n", at), content.size());
     const std::size_t endSize = content.compare(end, 2, "\r\n") == 0 ? 2 : (end < content.size() ? 1 : 0);

@@ -23,7 +23,7 @@ class Profile {
   enum class LoadResult { Read, Missing, Unreadable };
 
   /// Reads the file in place of what was held. A file that is missing or unreadable (no permission, no file,
-  /// too large) leaves the profile empty; whatever stands in a readable one is kept as lines.
+  /// too large, UTF-16) leaves the profile empty; whatever stands in a readable one is kept as lines.
   LoadResult Load(const std::filesystem::path& file);
 
   /// The whole value of a key, "" for an empty one or none. Section and key are found whatever their case,

@@ -123,8 +123,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Write(file.Path, content);
 
   Profile profile;
-  Demand(profile.Load(file.Path) == Profile::LoadResult::Read);
-  Demand(profile.Content() == content);
+  const bool wide = content.starts_with("\xFF\xFE") || content.starts_with("\xFE\xFF");
+  Demand((profile.Load(file.Path) == Profile::LoadResult::Read) == !wide);
+  Demand(profile.Content() == (wide ? "" : content));
 
   Settings settings;
   RememberedWindows windows;
@@ -134,7 +135,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   // A key of a section that no profile holds leaves all that was there in front of it.
   profile.ProfileSet("A section of the test", "Key", "value");
-  Demand(profile.Content().compare(0, content.size(), content) == 0);
+  Demand(wide || profile.Content().compare(0, content.size(), content) == 0);
 
   // All keys, onto the disk and back: the same settings, and nothing is left to change. It takes most of the
   // time: in one of sixteen.

@@ -81,6 +81,27 @@ TEST(WriteAtomically, KeepsALinkALinkAndReplacesItsTarget) {
   EXPECT_THAT(folder.Names(), UnorderedElementsAre("a.ini", "real"));
 }
 
+TEST(WriteAtomically, MakesTheFileThatALinkPointsTo) {
+  const TemporaryFolder folder;
+  fs::create_symlink("b.ini", folder / "a.ini");
+  fs::create_symlink(fs::path("not there yet") / "c.ini", folder / "b.ini");
+  EXPECT_EQ(WriteAtomically(folder / "a.ini", "text"), std::nullopt);
+  EXPECT_TRUE(fs::is_symlink(folder / "a.ini"));
+  EXPECT_TRUE(fs::is_symlink(folder / "b.ini"));
+  EXPECT_EQ(ReadFile(folder / "not there yet" / "c.ini"), "text");
+}
+
+TEST(WriteAtomically, LeavesLinksThatLeadNowhere) {
+  const TemporaryFolder folder;
+  fs::create_symlink("b.ini", folder / "a.ini");
+  fs::create_symlink("a.ini", folder / "b.ini");
+  const auto failure = WriteAtomically(folder / "a.ini", "text");
+  ASSERT_TRUE(failure.has_value());
+  EXPECT_NE(failure->find("a.ini"), std::string::npos);
+  EXPECT_TRUE(fs::is_symlink(folder / "a.ini"));
+  EXPECT_TRUE(fs::is_symlink(folder / "b.ini"));
+}
+
 TEST(WriteAtomically, SaysInOneLineThatAFolderIsInTheWayAndLeavesIt) {
   const TemporaryFolder folder;
   fs::create_directory(folder / "a.ini");

@@ -59,6 +59,16 @@ TEST_F(ProfileTest, AMissingFileIsNoErrorAndLeavesTheProfileEmpty) {
   EXPECT_TRUE(m_folder.Names().empty());
 }
 
+TEST_F(ProfileTest, TextOfTwoBytesACharacterIsUnreadable) {
+  using std::string_literals::operator""s;
+  for (const std::string& text : {"\xFF\xFE[\0S\0]\0"s, "\xFE\xFF\0[\0S\0]"s, "\xFF\xFE"s}) {
+    WriteFile(m_file, text);
+    Profile profile;
+    EXPECT_EQ(profile.Load(m_file), Profile::LoadResult::Unreadable);
+    EXPECT_EQ(profile.Content(), "");
+  }
+}
+
 TEST_F(ProfileTest, AFolderInPlaceOfTheFileIsUnreadable) {
   fs::create_directory(m_file);
   Profile profile;
