@@ -208,6 +208,10 @@ void frmMain::WatchWind() {
   if (std::exchange(m_windLost, lost) != lost) {
     ShowModeText();
   }
+  // Nothing is sent without a wind, and the next one would send what was missed of a turn in one step.
+  if (lost) {
+    m_others.PilotTaken();
+  }
 }
 
 void frmMain::tmrUnload_Timer() {

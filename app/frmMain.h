@@ -80,7 +80,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void Panel(int index, const QString& text);
   void ShowControls();
   void ShowModeText();
-  /// A second has passed: the mode's text says when a wind has not come for four.
+  /// A second has passed. Once a wind has not come for four of them the mode's text says so, and a manoeuvre
+  /// ends.
   void WatchWind();
 
   void tbrTrack_ButtonClick(TrackMode mode);

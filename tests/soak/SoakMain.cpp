@@ -31,8 +31,8 @@ constexpr double kStep = 1.0;           // of the boat [s]
 constexpr double kMostGrowth = 1024.0;  // of the memory in the second half [kB]
 // And up to this speed, at which the boat sends more than a line at 4800 baud carries:
 constexpr double kLineSpeed = 2.0;
-constexpr double kMostDelay =
-    20.0;  // 99.9 % of the turns of the event loop in any sample are late by less [ms]
+// 99.9 % of the turns of the event loop in any sample are late by less [ms].
+constexpr double kMostDelay = 20.0;
 
 struct Sample {
   double Time = 0.0;    ///< [s]

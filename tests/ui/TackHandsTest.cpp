@@ -63,6 +63,14 @@ INSTANTIATE_TEST_SUITE_P(
              },
              135.0F},
         Hand{"Silence", [](auto& test) { test.tmrNmea.Tick(4); }, 132.0F},
+        Hand{"ALostWind",
+             [](auto& test) {
+               for (int second = 0; second < 4; ++second) {
+                 test.NmeaPort.Receive("$IIHDG,100.0,,,,\r");
+                 test.tmrNmea.Tick();
+               }
+             },
+             132.0F},
         Hand{"TheInputStopped", [](auto& test) { test.Window->NmeaStop(); }, 132.0F},
         Hand{"TheDefaults", [](auto& test) { test.template Find<QAction>("mnuFileDefault").trigger(); },
              40.0F},
