@@ -405,7 +405,8 @@ void frmMain::OnAlarm(TrackSide side, float error) {
   // Seen once, it leaves the user alone who works on its cause in another window of the program; and what is
   // typed for another one does not end up in a box of this.
   const QWidget* active = QApplication::activeWindow();
-  if (!isActiveWindow()) {
+  const auto* box = dynamic_cast<const EntryBoxQt*>(focusWidget());
+  if (!isActiveWindow() && (box == nullptr || !box->Edited())) {
     m_panel->setFocus();
   }
   if (!std::exchange(m_alarm, true) || active == nullptr || active == this) {

@@ -151,14 +151,29 @@ TEST_F(MainWindowStatus, AnAlarmLeavesTheKeyboardInAnotherWindowOfTheProgram) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
   NmeaPort.Receive("$WIMWV,50,R,10,N,A\r");
   EXPECT_EQ(Dialogs.Foregrounds, 1) << "it is seen once";
-  EXPECT_FALSE(Find<QLineEdit>("txtDesired(1)").hasFocus());
-  EXPECT_EQ(Window->focusWidget() == &Find<QLineEdit>("txtDesired(1)"), false) << "nothing is typed into it";
+  EXPECT_NE(Window->focusWidget(), &Find<QLineEdit>("txtDesired(1)")) << "nothing is typed into it";
   NmeaPort.Receive("$WIMWV,50,R,10,N,A\r");
   EXPECT_EQ(Dialogs.Foregrounds, 1) << "and then leaves the window alone";
   EXPECT_EQ(Dialogs.Beeps, 2);
   NmeaPort.Receive("$WIMWV,30,R,10,N,A\r");
   NmeaPort.Receive("$WIMWV,50,R,10,N,A\r");
   EXPECT_EQ(Dialogs.Foregrounds, 2) << "the next alarm is seen again";
+}
+
+TEST_F(MainWindowStatus, AnAlarmLeavesABoxThatIsBeingTypedIn) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("30", "40"));
+  Mode(7);
+  Find<QLineEdit>("txtDesired(1)").setFocus();
+  Type("txtDesired(1)", "5");
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  NmeaPort.Receive("$WIMWV,50,R,10,N,A\r");
+  EXPECT_EQ(Window->focusWidget(), &Find<QLineEdit>("txtDesired(1)"))
+      << "it is taken or left later, by the user";
+  EXPECT_EQ(Window->DesiredAngle[1], 30.0F);
 }
 
 TEST_F(MainWindowStatus, ARefusedTrackStaysInItsModeWithAReason) {
