@@ -22,7 +22,8 @@ void StepSteadyClock(long long seconds) { g_steady += seconds > 0 ? seconds : 0;
 
 }  // namespace veerwatch
 
-// A program's own functions come before those of its libraries, for the libraries too.
+// A program's own functions come before those of its libraries, for the libraries too. Theirs have reserved
+// names for their parameters. NOLINTBEGIN(readability-inconsistent-declaration-parameter-name)
 extern "C" {
 
 int clock_gettime(clockid_t clock, timespec* time) noexcept {
@@ -64,3 +65,4 @@ std::time_t time(std::time_t* result) noexcept {
 }
 
 }  // extern "C"
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)
