@@ -9,6 +9,7 @@
 
 #include "platform/LineErrorCountersLinux.h"
 #include "platform/PortNames.h"
+#include "platform/SystemClock.h"
 
 #ifdef Q_OS_UNIX
 #include <sys/ioctl.h>
@@ -123,7 +124,7 @@ bool SerialPortQt::Open() {
   m_counters = m_makeCounters(m_port);
   m_lineErrors.Restart();
   PollLineErrors();
-  m_beat.start();
+  m_beat = SystemClock().Now().Steady;
   m_beatTimer.start();
   return true;
 }
@@ -200,7 +201,8 @@ void SerialPortQt::PollLineErrors() {
 }
 
 void SerialPortQt::Beat() {
-  if (m_beat.restart() > kStandstill) {
+  const std::int64_t now = SystemClock().Now().Steady;
+  if (now - std::exchange(m_beat, now) > kStandstill) {
     m_stale.setRemainingTime(kStaleTime);
     if (m_events != nullptr) {
       m_events->OnPortOverslept();

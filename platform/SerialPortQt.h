@@ -7,9 +7,9 @@
 #pragma once
 
 #include <QDeadlineTimer>
-#include <QElapsedTimer>
 #include <QSerialPort>
 #include <QTimer>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
@@ -75,8 +75,8 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
   int m_offering = 0;  ///< receive events that are being handled, one inside the other
   QSerialPort m_port;
   QTimer m_beatTimer;
-  QElapsedTimer m_beat;    ///< since the last beat
-  QDeadlineTimer m_stale;  ///< what arrives until then had waited through a standstill
+  std::int64_t m_beat = 0;  ///< the last one [ms], on the clock that goes on during sleep
+  QDeadlineTimer m_stale;   ///< what arrives until then had waited through a standstill
   QTimer m_offerTimer;
   QTimer m_loseTimer;
   QTimer m_pumpTimer;

@@ -76,6 +76,7 @@ struct Sleep {
   const char* Name;
   int Wall;    // [s]
   int Steady;  // [s]
+  int Boot;    // [s], beyond the steady one
 };
 
 class Sleeps : public Clocks, public testing::WithParamInterface<Sleep> {};
@@ -84,6 +85,7 @@ TEST_P(Sleeps, GoesOnWithWhatIsNew) {
   SailWithHistory();
   Step("wall", GetParam().Wall);
   Step("steady", GetParam().Steady);
+  Step("boot", GetParam().Boot);
   ASSERT_EQ(::kill(m_program->Id(), SIGSTOP), 0);
   // What the terminal holds waits for it.
   for (int i = 0; i < 2000; ++i) {
@@ -107,6 +109,7 @@ TEST_P(Sleeps, SendsNothingOfItsOwn) {
   SailWithHistory();
   Step("wall", GetParam().Wall);
   Step("steady", GetParam().Steady);
+  Step("boot", GetParam().Boot);
   ASSERT_TRUE(AwaitText("StatusBar(2)", "No Input Data"));
   EXPECT_EQ(Pilots.Heard(), "");
   ExpectToSteer("044");
@@ -139,9 +142,9 @@ TEST_F(Clocks, AStandstillTurnsTheBoatByNothingThatWaited) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Clocks, Sleeps,
-                         testing::Values(Sleep{"AMoment", 0, 0},
-                                         Sleep{"AnHourThatTheSteadyClockLeavesOut", kHour, 0},
-                                         Sleep{"AnHourThatBothClocksCount", kHour, kHour}),
+                         testing::Values(Sleep{"AMoment", 0, 0, 0},
+                                         Sleep{"AnHourThatTheSteadyClockLeavesOut", kHour, 0, kHour},
+                                         Sleep{"AnHourThatBothClocksCount", kHour, kHour, 0}),
                          [](const auto& sleep) { return std::string(sleep.param.Name); });
 
 }  // namespace

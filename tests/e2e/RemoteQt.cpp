@@ -8,9 +8,9 @@
 //   size NAME W H   gives a window that size [px]                  "sized NAME"
 //   grab NAME FILE  keeps a picture of a window, PNG               "grabbed NAME"
 //   delays          how late events were since the last time       "delays COUNT MEDIAN P99 P999 MOST", in ms
-//   step CLOCK S    sets the "wall" or the "steady" clock forward, or back [s]     "stepped CLOCK"
-//   memory          how much it has taken and not given back       "memory BYTES"
-//   quit            closes the main window, as the end of the input does
+//   step CLOCK S    sets the "wall", "steady" or "boot" clock forward, the wall clock also back [s]  "stepped
+//   CLOCK" memory          how much it has taken and not given back       "memory BYTES" quit closes the main
+//   window, as the end of the input does
 // "ready" is said once in the beginning; "no NAME" when there is none of that name or it is disabled.
 
 #include <unistd.h>
@@ -185,6 +185,9 @@ class Remote final : public QObject {
     } else if (verb == QLatin1String("step") && name == QLatin1String("wall")) {
       veerwatch::StepWallClock(rest.toLongLong());
       Say(QStringLiteral("stepped wall"));
+    } else if (verb == QLatin1String("step") && name == QLatin1String("boot")) {
+      veerwatch::StepBootClock(rest.toLongLong());
+      Say(QStringLiteral("stepped boot"));
     } else if (verb == QLatin1String("step") && name == QLatin1String("steady")) {
       veerwatch::StepSteadyClock(rest.toLongLong());
       Say(QStringLiteral("stepped steady"));

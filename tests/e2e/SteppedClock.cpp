@@ -13,12 +13,15 @@ namespace {
 
 std::atomic<long long> g_wall{0};    // [s]
 std::atomic<long long> g_steady{0};  // [s]
+std::atomic<long long> g_asleep{0};  // [s], what one of them counts besides
 
 }  // namespace
 
 void StepWallClock(long long seconds) { g_wall += seconds; }
 
 void StepSteadyClock(long long seconds) { g_steady += seconds > 0 ? seconds : 0; }
+
+void StepBootClock(long long seconds) { g_asleep += seconds > 0 ? seconds : 0; }
 
 }  // namespace veerwatch
 
@@ -37,8 +40,10 @@ int clock_gettime(clockid_t clock, timespec* time) noexcept {
       case CLOCK_MONOTONIC:
       case CLOCK_MONOTONIC_COARSE:
       case CLOCK_MONOTONIC_RAW:
-      case CLOCK_BOOTTIME:
         time->tv_sec += veerwatch::g_steady;
+        break;
+      case CLOCK_BOOTTIME:
+        time->tv_sec += veerwatch::g_steady + veerwatch::g_asleep;
         break;
       default:  // the time that a process has used
         break;

@@ -7,7 +7,10 @@ namespace veerwatch {
 /// Sets the wall clock forward, or back with seconds below 0.
 void StepWallClock(long long seconds);
 
-/// Sets the steady clock forward, as a sleep does on systems where it counts the time asleep. Never back.
+/// Sets the steady clocks forward, as a sleep does on systems where they count the time asleep. Never back.
 void StepSteadyClock(long long seconds);
+
+/// Sets only that steady clock forward that goes on during sleep, as a sleep does here. Never back.
+void StepBootClock(long long seconds);
 
 }  // namespace veerwatch

@@ -94,14 +94,14 @@ TEST_F(SerialPortQtTest, GivesNothingWhenNothingWaits) {
   EXPECT_EQ(text, "");
 }
 
-TEST_F(SerialPortQtTest, DropsWhatWaitedThroughAStandstillOfTheProgram) {
+class SerialPortQtStandstill : public SerialPortQtTest,
+                               public testing::WithParamInterface<void (*)(long long)> {};
+
+TEST_P(SerialPortQtStandstill, DropsWhatWaited) {
   ASSERT_TRUE(m_port.PortOpen(true));
   PassAMark();
-  m_pty.Write("before the stand");
-  ASSERT_TRUE(Await([&] { return m_owner.Text.ends_with("stand"); }));
-  m_owner.Text.clear();
   m_pty.Write("old");
-  StepSteadyClock(3);
+  GetParam()(3);
   ASSERT_TRUE(Await([&] { return m_owner.Overslept > 0; }));
   QTest::qWait(400);
   EXPECT_EQ(m_owner.Text, "");
@@ -109,6 +109,9 @@ TEST_F(SerialPortQtTest, DropsWhatWaitedThroughAStandstillOfTheProgram) {
   ASSERT_TRUE(Await([&] { return m_owner.Text == "new"; }));
   EXPECT_EQ(m_owner.Overslept, 1);
 }
+
+INSTANTIATE_TEST_SUITE_P(AwakeOrAsleep, SerialPortQtStandstill,
+                         testing::Values(&StepSteadyClock, &StepBootClock));
 
 TEST_F(SerialPortQtTest, RaisesNothingFromInsideACall) {
   bool inside = false;
