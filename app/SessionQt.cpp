@@ -9,12 +9,10 @@
 namespace veerwatch {
 
 SessionQt::SessionQt(QApplication& application, frmMain& window) : m_window(window) {
-  const auto save = [this](QSessionManager&) {
-    m_saved = true;
+  const auto save = [this](QSessionManager&) { m_window.KeepSettings(); };
+  // The next session starts it with the same profile. Some save no more than this.
+  const auto remember = [this](QSessionManager& manager) {
     m_window.KeepSettings();
-  };
-  // The next session starts it with the same profile.
-  const auto remember = [](QSessionManager& manager) {
     manager.setRestartCommand(QApplication::arguments()
                               << QStringLiteral("-session")
                               << manager.sessionId() + QLatin1Char('_') + manager.sessionKey());
@@ -26,7 +24,7 @@ SessionQt::SessionQt(QApplication& application, frmMain& window) : m_window(wind
 }
 
 bool SessionQt::eventFilter(QObject* watched, QEvent* event) {
-  if (m_saved && event->type() == QEvent::Quit && watched == QCoreApplication::instance()) {
+  if (event->type() == QEvent::Quit && watched == QCoreApplication::instance()) {
     m_window.CloseUnasked();
   }
   return false;

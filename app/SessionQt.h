@@ -20,7 +20,6 @@ class SessionQt final : public QObject {
 
  private:
   frmMain& m_window;
-  bool m_saved = false;  ///< by the session, at least once
 };
 
 }  // namespace veerwatch

@@ -97,6 +97,13 @@ TEST_F(LogOut, EndsItInOrderWithoutAQuestion) {
   ExpectWholeProfile();
 }
 
+TEST_F(LogOut, WithoutAnySaveEndsItInOrderToo) {
+  SailInASession();
+  Desktop.End();
+  EXPECT_EQ(m_program->AwaitEnd(), 0) << m_program->Said();
+  ExpectWholeProfile();
+}
+
 TEST_F(LogOut, ThatIsCalledOffLeavesItSteering) {
   SailInASession();
   ASSERT_TRUE(Desktop.Save(true)) << m_program->Said();
