@@ -14,6 +14,7 @@
 #include "app/ProfileLocation.h"
 #include "app/SessionQt.h"
 #include "app/frmMain.h"
+#include "platform/AtomicFile.h"
 #include "platform/DialogsQt.h"
 #include "platform/SerialPortQt.h"
 #include "platform/SignalsQt.h"
@@ -62,13 +63,6 @@ std::string ReadCommandLine(const QApplication& application) {
                              : ProfileFile();
 }
 
-/// The file itself where `file` is a link to it or lies behind one: all its names mean one profile.
-QString Resolved(const QString& file) {
-  const QFileInfo info(file);
-  const QString own = info.canonicalFilePath();
-  return own.isEmpty() ? QDir(info.absoluteDir().canonicalPath()).filePath(info.fileName()) : own;
-}
-
 /// Takes the profile for this process, so that no second program writes it or fights for its ports. False,
 /// with the user told, when another one runs with it. Where no lock can be set nobody is kept out.
 bool TakeProfile(QLockFile& lock, const std::string& profileFile, Dialogs& dialogs) {
@@ -99,7 +93,8 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
 
   DialogsQt dialogs;
   QDir().mkpath(QFileInfo(QString::fromStdString(profileFile)).path());
-  QLockFile lock(Resolved(QString::fromStdString(profileFile)) + QStringLiteral(".lock"));
+  std::error_code nowhere;
+  QLockFile lock(QString::fromStdString(LinkTarget(profileFile, nowhere).string() + ".lock"));
   if (!TakeProfile(lock, profileFile, dialogs)) {
     // Until the message is closed.
     QApplication::exec();

@@ -61,9 +61,9 @@ std::error_code WriteNew(const std::filesystem::path& file, std::string_view con
 
 #endif
 
-/// The file that `file` means behind all links, which need not be there yet. An error for links that lead
-/// nowhere.
-std::filesystem::path Target(std::filesystem::path file, std::error_code& error) {
+}  // namespace
+
+std::filesystem::path LinkTarget(std::filesystem::path file, std::error_code& error) {
   constexpr int kMostLinks = 40;
   std::error_code none;
   for (int links = 0; std::filesystem::is_symlink(std::filesystem::symlink_status(file, none)); ++links) {
@@ -77,11 +77,9 @@ std::filesystem::path Target(std::filesystem::path file, std::error_code& error)
   return none ? file : canonical;
 }
 
-}  // namespace
-
 std::optional<std::string> WriteAtomically(const std::filesystem::path& file, std::string_view content) {
   std::error_code error;
-  std::filesystem::path target = Target(file, error);
+  std::filesystem::path target = LinkTarget(file, error);
   if (error) {
     return "cannot write " + file.string() + ": " + error.message();
   }

@@ -261,11 +261,12 @@ std::optional<std::string> Profile::Commit(const std::filesystem::path& file) co
   std::error_code error;
   Profile present;
   if (std::filesystem::is_regular_file(file, error) && present.Load(file) == LoadResult::Unreadable) {
-    std::filesystem::path aside = file;
+    const std::filesystem::path target = LinkTarget(file, error);
+    std::filesystem::path aside = target;
     do {
       aside += ".unreadable";
     } while (std::filesystem::exists(std::filesystem::symlink_status(aside, error)));
-    std::filesystem::rename(file, aside, error);
+    std::filesystem::rename(target, aside, error);
     if (error) {
       return "cannot put " + file.string() + " aside: " + error.message();
     }
