@@ -85,8 +85,8 @@ class EntryBoxQt final : public QLineEdit {
   void Follow(const QString& text);
   /// Shows a value in place of whatever was typed.
   void Show(const QString& text);
-  /// Something was typed that nobody has taken yet.
-  bool Edited() const { return isModified() || text() != m_shown; }
+  /// Drops what was typed and not taken.
+  void Forget() { Show(m_shown); }
 
   QSize minimumSizeHint() const override { return {0, 0}; }
   QSize sizeHint() const override { return {0, 0}; }
@@ -96,6 +96,8 @@ class EntryBoxQt final : public QLineEdit {
   void focusOutEvent(QFocusEvent* event) override;
 
  private:
+  bool Edited() const { return isModified() || text() != m_shown; }
+
   QString m_pattern;
   QString m_shown;
   std::function<void()> m_taken;

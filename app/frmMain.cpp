@@ -199,7 +199,7 @@ void frmMain::tmrNmea_Timer() {
 }
 
 void frmMain::WatchWind() {
-  constexpr int kLost = 4;
+  constexpr int kLost = 5;  // the first tick may come at once
   bool lost = false;
   for (int& age : m_windAge) {
     age = std::min(age + 1, kLost);
@@ -208,7 +208,7 @@ void frmMain::WatchWind() {
   if (std::exchange(m_windLost, lost) != lost) {
     ShowModeText();
   }
-  // Nothing is sent without a wind, and the next one would send what was missed of a turn in one step.
+  // A turn that nobody hears of would be sent in one step with the next wind.
   if (lost) {
     m_others.PilotTaken();
   }
@@ -298,6 +298,7 @@ void frmMain::tbrTrack_ButtonClick(TrackMode mode) {
 }
 
 void frmMain::optControl_Click(int index) {
+  m_refused.clear();
   m_helm.Loop().Side(index == 2 ? TrackSide::True : TrackSide::Apparent);
   ShowControls();
   ShowModeText();
@@ -402,15 +403,18 @@ void frmMain::OnDelta(float apparent, float trueWind) {
 void frmMain::OnAutoPilot(float bearing) { m_panel->txtAutoPilot->Follow(Number(bearing, "0.0")); }
 
 void frmMain::OnAlarm(TrackSide side, float error) {
-  // Seen once, it leaves the user alone who works on its cause in another window of the program; and what is
-  // typed for another one does not end up in a box of this.
-  const QWidget* active = QApplication::activeWindow();
-  const auto* box = dynamic_cast<const EntryBoxQt*>(focusWidget());
-  if (!isActiveWindow() && (box == nullptr || !box->Edited())) {
+  // What is typed for another window does not end up in a box of this one.
+  if (!isActiveWindow()) {
+    if (auto* box = dynamic_cast<EntryBoxQt*>(focusWidget())) {
+      box->Forget();
+    }
     m_panel->setFocus();
   }
-  if (!std::exchange(m_alarm, true) || active == nullptr || active == this) {
+  // Seen once, it leaves the user alone who works on its cause in another window of the program.
+  const QWidget* active = QApplication::activeWindow();
+  if (!m_alarmSeen || active == nullptr || active == this) {
     m_parts.Asks.ToForeground();
+    m_alarmSeen = QApplication::activeModalWidget() == nullptr;
   }
   m_panel->ShowAlarm(side);
   m_parts.Asks.Beep();
@@ -418,12 +422,13 @@ void frmMain::OnAlarm(TrackSide side, float error) {
 }
 
 void frmMain::OnAlarmOver() {
-  m_alarm = false;
+  m_alarmSeen = false;
   m_panel->HideAlarm();
   Panel(kOutputPanel, QString());
 }
 
 void frmMain::OnTrackMode(TrackMode mode) {
+  m_refused.clear();
   m_others.OnTrackMode(mode);
   if (mode != TrackMode::Switching) {
     m_tbrTrack->Button(mode)->setChecked(true);
@@ -432,7 +437,10 @@ void frmMain::OnTrackMode(TrackMode mode) {
   ShowModeText();
 }
 
-void frmMain::OnTrackRefused(std::string_view reason) { Panel(kPilotPanel, Text(reason)); }
+void frmMain::OnTrackRefused(std::string_view reason) {
+  m_refused = Text(reason);
+  ShowModeText();
+}
 
 void frmMain::ShowControls() {
   const TrackSide side = m_helm.Loop().Side();
@@ -464,7 +472,7 @@ void frmMain::ShowModeText() {
   } else if (needsInput && m_windLost) {
     text += QStringLiteral(", No Wind");
   }
-  Panel(kPilotPanel, text);
+  Panel(kPilotPanel, m_refused.isEmpty() ? text : m_refused);
 }
 
 }  // namespace veerwatch

@@ -128,8 +128,9 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   std::array<QLabel*, 3> m_status{};
   OtherWindowsQt m_others;
   Helm m_helm;
-  bool m_ask = true;     ///< a close still has to ask
-  bool m_alarm = false;  ///< is shown
+  bool m_ask = true;         ///< a close still has to ask
+  bool m_alarmSeen = false;  ///< has brought the window to the front
+  QString m_refused;         ///< why Track was refused, until something else is chosen
   bool m_windLost = false;
   std::array<int, 2> m_windAge{};  ///< time without an apparent and a true wind [s]
   bool m_asking = false;           ///< the question of the close is open

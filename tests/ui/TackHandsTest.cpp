@@ -65,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(
         Hand{"Silence", [](auto& test) { test.tmrNmea.Tick(4); }, 132.0F},
         Hand{"ALostWind",
              [](auto& test) {
-               for (int second = 0; second < 4; ++second) {
+               for (int second = 0; second < 5; ++second) {
                  test.NmeaPort.Receive("$IIHDG,100.0,,,,\r");
                  test.tmrNmea.Tick();
                }
