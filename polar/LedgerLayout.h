@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "polar/PolarPlot.h"
+#include "polar/PolarGrid.h"
 
 namespace veerwatch {
 

@@ -8,8 +8,11 @@
 #include <vector>
 
 #include "polar/CourseLedger.h"
+#include "polar/PolarCurves.h"
+#include "polar/PolarGrid.h"
+#include "polar/PolarLegend.h"
+#include "polar/PolarMarks.h"
 #include "polar/PolarModel.h"
-#include "polar/PolarPlot.h"
 
 namespace veerwatch {
 

@@ -91,28 +91,5 @@ TEST(SteerPlace, KeepsClearOfTheLabelsOfTheGrid) {
   EXPECT_EQ(SteerPlace(geometry, {everywhere}, 120.0, 30.0).Y, free.Y);
 }
 
-TEST(MakeLegArrow, EndsAtTheSpeedPointWithStrokesThirtyDegreesOffTheLine) {
-  const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 10.0);
-  // Ahead: the strokes run backwards, 30 degrees to either side of straight down; 0.07 of 200 px are 14.
-  const LegArrow ahead = MakeLegArrow(geometry, 0.0, 5.0);
-  EXPECT_NEAR(ahead.Line.From.X, 200.0, 1e-9);
-  EXPECT_NEAR(ahead.Line.From.Y, 200.0, 1e-9);
-  EXPECT_NEAR(ahead.Line.To.X, 200.0, 1e-9);
-  EXPECT_NEAR(ahead.Line.To.Y, 100.0, 1e-9);
-  EXPECT_NEAR(ahead.HeadLeft.To.X, 200.0 - 7.0, 1e-6);
-  EXPECT_NEAR(ahead.HeadRight.To.X, 200.0 + 7.0, 1e-6);
-  EXPECT_NEAR(ahead.HeadLeft.To.Y, 100.0 + 14.0 * 0.8660254, 1e-6);
-  EXPECT_NEAR(ahead.HeadRight.To.Y, 100.0 + 14.0 * 0.8660254, 1e-6);
-  const LegArrow abeam = MakeLegArrow(geometry, -90.0, 5.0);
-  EXPECT_NEAR(abeam.Line.To.X, 100.0, 1e-9);
-  EXPECT_NEAR(abeam.HeadLeft.From.X, 100.0, 1e-9);
-  EXPECT_NEAR(abeam.HeadLeft.To.X, 100.0 + 14.0 * 0.8660254, 1e-6);
-}
-
-TEST(MakeLegArrow, EndsOnTheOuterRing) {
-  const LegArrow arrow = MakeLegArrow(PlotGeometry(400.0, 400.0, 10.0), 180.0, 25.0);
-  EXPECT_NEAR(arrow.Line.To.Y, 400.0, 1e-9);
-}
-
 }  // namespace
 }  // namespace veerwatch

@@ -1,0 +1,60 @@
+#include "polar/PolarMarks.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "instruments/MathLib.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr double kRadiansPerDegree = kPi / 180.0;
+
+}  // namespace
+
+WindArrow MakeWindArrow(const PolarGeometry& geometry, double angle, double textHeight) {
+  // In shares of the outer radius.
+  constexpr double kTail = 0.36;
+  constexpr double kTip = 0.06;
+  constexpr double kHeadLength = 0.12;
+  constexpr double kHeadHalf = 0.05;
+  const double radius = OuterRadius(geometry);
+  const double radians = angle * kRadiansPerDegree;
+  const PlotPoint tail = AtRadius(geometry, angle, radius * kTail);
+  const PlotPoint tip = AtRadius(geometry, angle, radius * kTip);
+  const PlotPoint neck = AtRadius(geometry, angle, radius * (kTip + kHeadLength));
+  const double rim = std::max(radius - 3.2 * textHeight, radius * kTail);
+  const double acrossX = std::cos(radians) * radius * kHeadHalf;
+  const double acrossY = std::sin(radians) * radius * kHeadHalf;
+  return {{AtRadius(geometry, angle, rim), tail},
+          {tail, tip},
+          {neck.X - acrossX, neck.Y - acrossY},
+          {neck.X + acrossX, neck.Y + acrossY}};
+}
+
+BoatPoint MakeBoatPoint(const PolarGeometry& geometry, double angle, double speed) {
+  const double radius = OuterRadius(geometry);
+  if (std::fabs(speed) * geometry.ScaleX > radius) {
+    return {AtRadius(geometry, angle, std::copysign(radius, speed)), true};
+  }
+  return {PointAt(geometry, angle, speed), false};
+}
+
+LegArrow MakeLegArrow(const PolarGeometry& geometry, double angle, double speed) {
+  constexpr double kHeadAngle = 30.0;
+  // In shares of the outer radius, and of the line for a short one.
+  constexpr double kHead = 0.07;
+  constexpr double kMostHead = 0.5;
+  const double radius = OuterRadius(geometry);
+  const double length = std::min(speed * geometry.ScaleX, radius);
+  const PlotPoint tip = AtRadius(geometry, angle, length);
+  const double head = std::min(kHead * radius, kMostHead * length);
+  const auto back = [&](double side) {
+    const double radians = (angle + 180.0 + side) * kRadiansPerDegree;
+    return PlotPoint{tip.X + head * std::sin(radians), tip.Y - head * std::cos(radians)};
+  };
+  return {{{geometry.CentreX, geometry.CentreY}, tip}, {tip, back(kHeadAngle)}, {tip, back(-kHeadAngle)}};
+}
+
+}  // namespace veerwatch

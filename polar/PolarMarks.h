@@ -1,0 +1,33 @@
+// What moves on the polar plot beside the curve: the wind, the boat and the legs of a course.
+#pragma once
+
+#include "polar/PolarPlot.h"
+
+namespace veerwatch {
+
+/// The wind: an arrow towards the centre, and a thin line from the angle labels to it.
+struct WindArrow {
+  PlotStroke Line;
+  PlotStroke Shaft;
+  PlotPoint HeadLeft;
+  PlotPoint HeadRight;
+};
+WindArrow MakeWindArrow(const PolarGeometry& geometry, double angle, double textHeight);
+
+/// The boat's point; one beyond the outer ring is held on it.
+struct BoatPoint {
+  PlotPoint Point;
+  bool Beyond = false;
+};
+BoatPoint MakeBoatPoint(const PolarGeometry& geometry, double angle, double speed);
+
+/// A leg of the course: a line from the centre with an arrow head of two strokes at its point.
+struct LegArrow {
+  PlotStroke Line;
+  PlotStroke HeadLeft;  ///< from the point backwards, 30 degrees off the line
+  PlotStroke HeadRight;
+};
+/// For `speed` [kn, above 0] at the wind angle `angle` [deg]; a leg beyond the outer ring ends on it.
+LegArrow MakeLegArrow(const PolarGeometry& geometry, double angle, double speed);
+
+}  // namespace veerwatch

@@ -1,0 +1,143 @@
+#include "polar/PolarCurves.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+
+#include "tests/support/PolarText.h"
+
+namespace veerwatch {
+namespace {
+
+double Far(const PlotPoint& a, const PlotPoint& b) { return std::hypot(a.X - b.X, a.Y - b.Y); }
+
+/// Distance from `point` to the nearest point of the lines.
+double Nearest(const std::vector<PlotLine>& lines, const PlotPoint& point) {
+  double nearest = 1e9;
+  for (const PlotLine& line : lines) {
+    for (const PlotPoint& other : line) {
+      nearest = std::min(nearest, Far(point, other));
+    }
+  }
+  return nearest;
+}
+
+TEST(SmoothLine, GoesThroughEveryKnotInSmallSteps) {
+  const std::vector<PlotPoint> knots{{10.0, 0.0}, {60.0, 30.0}, {80.0, 90.0}, {40.0, 150.0}};
+  const PlotLine line = SmoothLine(knots, 0.0);
+  for (const PlotPoint& knot : knots) {
+    EXPECT_LT(Nearest({line}, knot), 1e-9);
+  }
+  for (std::size_t i = 1; i < line.size(); ++i) {
+    EXPECT_LT(Far(line[i - 1], line[i]), 12.0);
+  }
+}
+
+TEST(SmoothLine, HasNoCorners) {
+  const PlotLine line =
+      SmoothLine({{10.0, 0.0}, {60.0, 30.0}, {80.0, 90.0}, {40.0, 150.0}, {0.0, 170.0}}, 0.0);
+  for (std::size_t i = 1; i + 1 < line.size(); ++i) {
+    const double before = std::atan2(line[i].Y - line[i - 1].Y, line[i].X - line[i - 1].X);
+    const double behind = std::atan2(line[i + 1].Y - line[i].Y, line[i + 1].X - line[i].X);
+    EXPECT_LT(std::fabs(std::remainder(behind - before, 2.0 * std::acos(-1.0))), 0.35) << i;
+  }
+}
+
+TEST(SmoothLine, LeavesTheAxisAtARightAngle) {
+  const PlotLine line = SmoothLine({{80.0, 20.0}, {60.0, 80.0}, {0.0, 100.0}}, 0.0);
+  const PlotPoint& last = line.back();
+  const PlotPoint& before = line[line.size() - 2];
+  EXPECT_NEAR(last.X, 0.0, 1e-9);
+  EXPECT_LT(std::fabs(last.Y - before.Y), 0.15 * std::fabs(last.X - before.X));
+}
+
+TEST(SmoothLine, SurvivesKnotsAtOnePlaceAndFarAway) {
+  EXPECT_TRUE(SmoothLine({}, 0.0).empty());
+  EXPECT_EQ(SmoothLine({{1.0, 1.0}, {1.0, 1.0}}, 0.0).size(), 1U);
+  for (const PlotPoint& point : SmoothLine({{0.0, 0.0}, {0.0, 0.0}, {1e40, -1e40}, {3.0, 4.0}}, 0.0)) {
+    EXPECT_TRUE(std::isfinite(point.X) && std::isfinite(point.Y));
+  }
+}
+
+TEST(ClipToDisc, CutsWhereTheLineCrosses) {
+  const auto parts = ClipToDisc({{-20.0, 0.0}, {0.0, 0.0}, {20.0, 0.0}, {0.0, 5.0}}, 0.0, 0.0, 10.0);
+  ASSERT_EQ(parts.size(), 2U);
+  EXPECT_NEAR(parts[0].front().X, -10.0, 1e-9);
+  EXPECT_NEAR(parts[0].back().X, 10.0, 1e-9);
+  EXPECT_NEAR(Far(parts[1].front(), {0.0, 0.0}), 10.0, 1e-9);
+  EXPECT_NEAR(Far(parts[1].back(), {0.0, 5.0}), 0.0, 1e-9);
+}
+
+TEST(ClipToDisc, CutsALineThatOnlyPassesThrough) {
+  const auto parts = ClipToDisc({{-20.0, 6.0}, {20.0, 6.0}}, 0.0, 0.0, 10.0);
+  ASSERT_EQ(parts.size(), 1U);
+  EXPECT_NEAR(parts[0].front().X, -8.0, 1e-9);
+  EXPECT_NEAR(parts[0].back().X, 8.0, 1e-9);
+  EXPECT_TRUE(ClipToDisc({{-20.0, 11.0}, {20.0, 11.0}}, 0.0, 0.0, 10.0).empty());
+}
+
+TEST(PolarCurves, GoThroughTheirCellsOnBothSides) {
+  const PolarTable table = TableOf(kSmallPolar);
+  const PolarGeometry geometry = PlotGeometry(500.0, 500.0, 16.0);
+  const auto curves = PolarCurves(table, 0, geometry);
+  ASSERT_EQ(curves.size(), 4U);
+  for (int column = 1; column <= 4; ++column) {
+    const PolarCurve& curve = curves[static_cast<std::size_t>(column - 1)];
+    EXPECT_EQ(curve.WindSpeed, table.Value(0, 0, column));
+    EXPECT_TRUE(curve.Major);
+    for (int row = 1; row <= 4; ++row) {
+      for (const double side : {1.0, -1.0}) {
+        const PlotPoint cell = PointAt(geometry, side * static_cast<double>(table.Value(0, row, 0)),
+                                       static_cast<double>(table.Value(0, row, column)));
+        EXPECT_LT(Nearest(curve.Lines, cell), 1e-6) << row << "," << column;
+      }
+    }
+  }
+}
+
+TEST(PolarCurves, StayWithinTheOuterRing) {
+  const PolarTable table =
+      TableOf("TWA\t6\t10\n30\t1\t300000000000000000000000000000000000000\n90\t9\t40\n150\t20\t2\n");
+  const PolarGeometry geometry = PlotGeometry(300.0, 300.0, 10.0);
+  for (const PolarCurve& curve : PolarCurves(table, 0, geometry)) {
+    for (const PlotLine& line : curve.Lines) {
+      for (const PlotPoint& point : line) {
+        EXPECT_LE(Far(point, {150.0, 150.0}), 150.0 + 1e-3);
+      }
+    }
+  }
+}
+
+TEST(PolarCurves, AreThinnedInADenseTable) {
+  PolarTable table;
+  table.PolarColumns(0) = 50;
+  table.PolarRows(0) = 2;
+  for (int column = 1; column <= 50; ++column) {
+    table.Value(0, 0, column) = static_cast<float>(column);
+  }
+  const auto curves = PolarCurves(table, 0, PlotGeometry(100.0, 100.0, 10.0));
+  EXPECT_EQ(curves.size(), 50U);
+  EXPECT_EQ(std::count_if(curves.begin(), curves.end(), [](const PolarCurve& curve) { return curve.Major; }),
+            10);
+}
+
+TEST(WindCurve, LiesBetweenItsNeighbours) {
+  const PolarTable table = TableOf(kSmallPolar);
+  const PolarGeometry geometry = PlotGeometry(500.0, 500.0, 16.0);
+  const PolarCurve curve = WindCurve(table, 0, 12.0F, geometry);
+  EXPECT_LT(Nearest(curve.Lines, PointAt(geometry, 80.0, 8.5)), 1e-4);
+  EXPECT_LT(Nearest(curve.Lines, PointAt(geometry, -120.0, 8.75)), 1e-4);
+}
+
+TEST(WindCurve, IsTheHighestColumnAboveAllAndNothingBelowTheLowest) {
+  const PolarTable table = TableOf(kSmallPolar);
+  const PolarGeometry geometry = PlotGeometry(500.0, 500.0, 16.0);
+  EXPECT_LT(Nearest(WindCurve(table, 0, 35.0F, geometry).Lines, PointAt(geometry, 120.0, 14.0)), 1e-4);
+  EXPECT_LT(Nearest(WindCurve(table, 0, 6.0F, geometry).Lines, PointAt(geometry, 120.0, 4.5)), 1e-4);
+  EXPECT_TRUE(WindCurve(table, 0, 5.9F, geometry).Lines.empty());
+  EXPECT_TRUE(WindCurve(PolarTable(), 0, 10.0F, geometry).Lines.empty());
+}
+
+}  // namespace
+}  // namespace veerwatch

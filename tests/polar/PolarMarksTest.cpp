@@ -1,0 +1,61 @@
+#include "polar/PolarMarks.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace veerwatch {
+namespace {
+
+double Far(const PlotPoint& a, const PlotPoint& b) { return std::hypot(a.X - b.X, a.Y - b.Y); }
+
+TEST(WindArrow, PointsFromTheWindToTheCentre) {
+  const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 10.0);
+  const PlotPoint centre{200.0, 200.0};
+  for (const double angle : {0.0, 45.0, -120.0, 180.0}) {
+    const WindArrow arrow = MakeWindArrow(geometry, angle, 12.0);
+    EXPECT_LT(Far(arrow.Shaft.To, centre), Far(arrow.Shaft.From, centre));
+    const double radians = angle * std::acos(-1.0) / 180.0;
+    const double out = Far(arrow.Shaft.From, centre);
+    EXPECT_NEAR(arrow.Shaft.From.X, 200.0 + out * std::sin(radians), 1e-6);
+    EXPECT_NEAR(arrow.Shaft.From.Y, 200.0 - out * std::cos(radians), 1e-6);
+    EXPECT_NEAR(Far(arrow.HeadLeft, arrow.Shaft.To), Far(arrow.HeadRight, arrow.Shaft.To), 1e-6);
+  }
+}
+
+TEST(BoatPoint, IsHeldOnTheOuterRing) {
+  const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 10.0);
+  const BoatPoint inside = MakeBoatPoint(geometry, 90.0, 5.0);
+  EXPECT_FALSE(inside.Beyond);
+  EXPECT_NEAR(inside.Point.X, 300.0, 1e-9);
+  const BoatPoint beyond = MakeBoatPoint(geometry, -90.0, 25.0);
+  EXPECT_TRUE(beyond.Beyond);
+  EXPECT_NEAR(beyond.Point.X, 0.0, 1e-9);
+  EXPECT_NEAR(beyond.Point.Y, 200.0, 1e-9);
+}
+
+TEST(MakeLegArrow, EndsAtTheSpeedPointWithStrokesThirtyDegreesOffTheLine) {
+  const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 10.0);
+  // Ahead: the strokes run backwards, 30 degrees to either side of straight down; 0.07 of 200 px are 14.
+  const LegArrow ahead = MakeLegArrow(geometry, 0.0, 5.0);
+  EXPECT_NEAR(ahead.Line.From.X, 200.0, 1e-9);
+  EXPECT_NEAR(ahead.Line.From.Y, 200.0, 1e-9);
+  EXPECT_NEAR(ahead.Line.To.X, 200.0, 1e-9);
+  EXPECT_NEAR(ahead.Line.To.Y, 100.0, 1e-9);
+  EXPECT_NEAR(ahead.HeadLeft.To.X, 200.0 - 7.0, 1e-6);
+  EXPECT_NEAR(ahead.HeadRight.To.X, 200.0 + 7.0, 1e-6);
+  EXPECT_NEAR(ahead.HeadLeft.To.Y, 100.0 + 14.0 * 0.8660254, 1e-6);
+  EXPECT_NEAR(ahead.HeadRight.To.Y, 100.0 + 14.0 * 0.8660254, 1e-6);
+  const LegArrow abeam = MakeLegArrow(geometry, -90.0, 5.0);
+  EXPECT_NEAR(abeam.Line.To.X, 100.0, 1e-9);
+  EXPECT_NEAR(abeam.HeadLeft.From.X, 100.0, 1e-9);
+  EXPECT_NEAR(abeam.HeadLeft.To.X, 100.0 + 14.0 * 0.8660254, 1e-6);
+}
+
+TEST(MakeLegArrow, EndsOnTheOuterRing) {
+  const LegArrow arrow = MakeLegArrow(PlotGeometry(400.0, 400.0, 10.0), 180.0, 25.0);
+  EXPECT_NEAR(arrow.Line.To.Y, 400.0, 1e-9);
+}
+
+}  // namespace
+}  // namespace veerwatch
