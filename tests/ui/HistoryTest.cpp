@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "tests/support/WaitQt.h"
 #include "tests/ui/MainWindowTester.h"
 
 namespace veerwatch {
@@ -101,7 +102,7 @@ TEST_F(History, OpensAgainWhenItWasOpen) {
   Start("[History Window]\nVisible=True\nWidth=7500\n");
   ASSERT_NE(Loaded(), nullptr);
   EXPECT_TRUE(Loaded()->isVisible());
-  QTRY_COMPARE(Loaded()->frameGeometry().width(), 500);
+  EXPECT_TRUE(WaitForEqual([] { return Loaded()->frameGeometry().width(); }, 500));
   EXPECT_TRUE(Menu().isChecked());
 }
 

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "polar/LedgerPanelQt.h"
+#include "tests/support/WaitQt.h"
 #include "tests/ui/DarkPalette.h"
 #include "tests/ui/PolarWindowTester.h"
 
@@ -407,7 +408,7 @@ TEST_F(PolarLedger, IsNotEnteredAgainByAnUpdateInAPause) {
   EXPECT_EQ(Figures()[0], "Heading (M)=135") << "the search went on to its own end";
   EXPECT_EQ(Values.size(), 1U);
   EXPECT_EQ(Window->Model().Values().Heading, 150.0F) << "what came is not lost";
-  QTRY_COMPARE(QString::fromStdString(Figures()[0]), QStringLiteral("Heading (M)=150"));
+  EXPECT_TRUE(WaitFor([this] { return Figures()[0] == "Heading (M)=150"; })) << Figures()[0];
   EXPECT_EQ(Values.size(), 2U) << "and its polar speed is told";
 }
 

@@ -10,6 +10,7 @@
 #include <QToolButton>
 #include <QWheelEvent>
 
+#include "tests/support/WaitQt.h"
 #include "tests/ui/history/HistoryTester.h"
 
 namespace veerwatch {
@@ -32,7 +33,7 @@ class HistoryWindow : public HistoryTester {
     const QSize around = Window->frameGeometry().size() - Window->size();
     Window->move(frame.topLeft());
     Window->resize(frame.size() - around);
-    QTRY_COMPARE(Window->frameGeometry(), frame);
+    ASSERT_TRUE(WaitForEqual([this] { return Window->frameGeometry(); }, frame));
   }
 
   std::string Stored(const char* key) const { return Store.Text("History Window", key); }
@@ -62,7 +63,7 @@ TEST_F(HistoryWindow, TheSizeInTheProfileIsThatOfTheFrame) {
   Store.ProfileSet("History Window", "Width", 7500.0F);
   Load();
   Show();
-  QTRY_COMPARE(Window->frameGeometry(), QRect(0, 0, 500, 400));
+  EXPECT_TRUE(WaitForEqual([this] { return Window->frameGeometry(); }, QRect(0, 0, 500, 400)));
 }
 
 TEST_F(HistoryWindow, TakesItsPlaceFromTheProfile) {
@@ -166,7 +167,7 @@ TEST_F(HistoryWindow, AnotherValueInTheSlotDrawsOnlyWhatChanges) {
   const std::string before = heading();
   const float value = Trace("Heading").Newest.Value;
   Window->SetValue("Heading", value + (value > 28.0F ? -0.1F : 0.1F), "M");
-  QTRY_VERIFY(heading() != before);
+  EXPECT_TRUE(WaitFor([&] { return heading() != before; }));
   Chart().grab();
   EXPECT_EQ(Chart().FullRedraws(), drawn);
 }
@@ -283,9 +284,9 @@ TEST_F(HistoryWindow, TheMouseShowsTheValueUnderIt) {
   const QImage before = Chart().grab().toImage();
   const ChartBox plot = Chart().Picture().Panels[1].Plot;
   QTest::mouseMove(&Chart(), QPoint(qRound(plot.X + plot.Width / 2.0), qRound(plot.Y + 20.0)));
-  QTRY_VERIFY(Chart().grab().toImage() != before);
+  EXPECT_TRUE(WaitFor([&] { return Chart().grab().toImage() != before; }));
   QTest::mouseMove(&Chart(), QPoint(798, 3));
-  QTRY_VERIFY(Chart().grab().toImage() == before);
+  EXPECT_TRUE(WaitFor([&] { return Chart().grab().toImage() == before; }));
 }
 
 // The configuration pop-up
@@ -397,7 +398,7 @@ TEST_F(HistoryWindow, ThePopupGoesBackToTheDefaults) {
   Find<QCheckBox>("chkTrace(5)").click();
   Find<QComboBox>("cmbSpan").setCurrentIndex(5);
   QTest::mouseClick(&Find<QPushButton>("cmdDefaults"), Qt::LeftButton);
-  QTRY_VERIFY(Chart().Settings().Traces[4].Shown);
+  EXPECT_TRUE(WaitFor([this] { return Chart().Settings().Traces[4].Shown; }));
   EXPECT_EQ(Chart().Settings().Span, 1800);
 }
 
