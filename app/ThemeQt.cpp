@@ -3,12 +3,27 @@
 #include <QApplication>
 #include <QToolTip>
 
+#include "platform/NightCaretQt.h"
+
 namespace veerwatch {
+
+namespace {
+
+constexpr double kCaptionContrast = 4.5;
+
+}  // namespace
 
 void WearNightColours(bool night) {
   // Tool tips have a palette of their own, without which they would light up the cabin.
   static const QPalette desktopTips = QToolTip::palette();
   QApplication::setPalette(night ? NightPalette() : QPalette());
+  // The pages of a dialog are filled with the colour of buttons, which is raised, a third brighter.
+  QPalette pages(NightPalette());
+  pages.setColor(QPalette::Button, Mixed(pages.color(QPalette::Window), Qt::black, 0.25));
+  QApplication::setPalette(night ? pages : QPalette(), "QTabWidget");
+  QApplication::setPalette(night ? pages : QPalette(), "QTabBar");
+  static NightCaretQt caret;
+  caret.Wear(night);
   QToolTip::setPalette(night ? NightPalette() : desktopTips);
 }
 
@@ -22,8 +37,8 @@ ThemeQt::ThemeQt(const QPalette& palette)
   Card = Dark ? Mixed(Window, Text, 0.055) : Mixed(Window, base, 0.85);
   Edge = Mixed(Card, Text, Dark ? 0.16 : 0.18);
   Field = Dark ? Mixed(Window, QColor(Qt::black), 0.35) : base;
-  Caption = Mixed(Card, Text, 0.74);
-  Dimmed = Mixed(Card, Text, Dark ? 0.58 : 0.62);
+  Caption = Legible(Card, Text, 0.74, kCaptionContrast);
+  Dimmed = Legible(Card, Text, Dark ? 0.58 : 0.62, kDimmedContrast);
   Accent = Dark ? QColor(0x5a, 0xb4, 0xe6) : QColor(0x0b, 0x5f, 0x9e);
   Port = {Dark ? QColor(0xa8, 0x32, 0x2b) : QColor(0xb9, 0x2b, 0x24), white};
   Starboard = {Dark ? QColor(0x1d, 0x74, 0x3f) : QColor(0x17, 0x74, 0x3c), white};
@@ -33,6 +48,11 @@ ThemeQt::ThemeQt(const QPalette& palette)
     Port = {QColor(0x78, 0x0c, 0x06), QColor(0xff, 0x9a, 0x78)};
     Starboard = {QColor(0xd8, 0x4a, 0x1c), QColor(Qt::black)};
   }
+}
+
+ThemeQt::Pair ThemeQt::Resting(const Pair& pair) const {
+  const QColor fill = Mixed(Card, pair.Fill, 0.12);
+  return {fill, Legible(fill, Text, Dark ? 0.58 : 0.62, kDimmedContrast)};
 }
 
 ThemeQt::Pair ThemeQt::Mode(TrackMode mode) const {

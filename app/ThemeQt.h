@@ -31,6 +31,9 @@ struct ThemeQt {
   Pair Port;       ///< nudges to port
   Pair Starboard;  ///< nudges to starboard
 
+  /// A button of that pair that does not answer now.
+  Pair Resting(const Pair& pair) const;
+
   /// The button of the mode that is on.
   Pair Mode(TrackMode mode) const;
 };

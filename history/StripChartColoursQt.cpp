@@ -8,6 +8,8 @@ namespace veerwatch {
 
 namespace {
 
+constexpr double kCaptionContrast = 4.5;
+
 struct Shades {
   QRgb OnDark;
   QRgb OnLight;
@@ -21,10 +23,10 @@ constexpr std::array<Shades, 9> kTraces{{
     {0xFF5CD190, 0xFF0A7A48, 0xFFFF5A30},  // heading
     {0xFF5AB8EE, 0xFF0B62A8, 0xFFFFA070},  // true wind speed
     {0xFF5AB8EE, 0xFF0B62A8, 0xFFFFA070},  // true wind angle
-    {0xFFF2A53A, 0xFFB85400, 0xFFB02010},  // apparent wind speed
-    {0xFFF2A53A, 0xFFB85400, 0xFFB02010},  // apparent wind angle
+    {0xFFF2A53A, 0xFFB85400, 0xFFE03018},  // apparent wind speed
+    {0xFFF2A53A, 0xFFB85400, 0xFFE03018},  // apparent wind angle
     {0xFFF28CC2, 0xFFB0246F, 0xFFE08000},  // pilot heading
-    {0xFFB9A2FF, 0xFF6540C4, 0xFFA04800},  // pilot delta
+    {0xFFB9A2FF, 0xFF6540C4, 0xFFC06000},  // pilot delta
     {0xFFE2D36A, 0xFF7A6800, 0xFFD09000},  // polar speed
 }};
 
@@ -33,8 +35,8 @@ constexpr std::array<Shades, 9> kTraces{{
 StripChartColoursQt::StripChartColoursQt(const QColor& back)
     : Dark(IsDark(back)), Night(IsNight(back)), Back(back) {
   Text = ShadeFor(back, Dark ? QColor(0xE8, 0xEC, 0xF0) : QColor(0x14, 0x18, 0x1C));
-  Caption = Mixed(Back, Text, Dark ? 0.72 : 0.76);
-  Dimmed = Mixed(Back, Text, Dark ? 0.56 : 0.62);
+  Caption = Legible(Back, Text, Dark ? 0.72 : 0.76, kCaptionContrast);
+  Dimmed = Legible(Back, Text, Dark ? 0.56 : 0.62, kDimmedContrast);
   const QColor plot = Plot(back);
   Grid = Mixed(plot, Text, Dark ? 0.11 : 0.10);
   Edge = Mixed(plot, Text, Dark ? 0.22 : 0.26);

@@ -1,6 +1,7 @@
 #include "platform/ColoursQt.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace veerwatch {
 
@@ -10,11 +11,36 @@ constexpr int kMiddleLightness = 128;
 constexpr QColor kNightWindow(0x0c, 0x00, 0x00);
 constexpr QColor kNightText(0xff, 0x46, 0x28);
 
+/// Source: WCAG 2, relative luminance.
+double Luminance(const QColor& colour) {
+  const auto linear = [](float part) {
+    const double value = static_cast<double>(part);
+    return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
 }  // namespace
 
 QColor Mixed(const QColor& under, const QColor& over, qreal share) {
   const auto part = [share](int a, int b) { return qRound(a + (b - a) * share); };
   return {part(under.red(), over.red()), part(under.green(), over.green()), part(under.blue(), over.blue())};
+}
+
+double Contrast(const QColor& a, const QColor& b) {
+  const auto [darker, lighter] = std::minmax({Luminance(a), Luminance(b)});
+  return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor Legible(const QColor& under, const QColor& over, qreal share, double least) {
+  constexpr qreal kStep = 0.01;
+  for (; share < 1.0; share += kStep) {
+    const QColor mixed = Mixed(under, over, share);
+    if (Contrast(under, mixed) >= least) {
+      return mixed;
+    }
+  }
+  return over;
 }
 
 bool IsDark(const QColor& window) { return window.lightness() < kMiddleLightness; }
@@ -24,7 +50,7 @@ bool IsNight(const QColor& window) { return window.rgb() == kNightWindow.rgb(); 
 QPalette NightPalette() {
   const QColor black(Qt::black);
   const QColor raised = Mixed(kNightWindow, kNightText, 0.14);
-  const QColor dimmed = Mixed(kNightWindow, kNightText, 0.58);
+  const QColor dimmed = Legible(kNightWindow, kNightText, 0.58, kDimmedContrast);
   QPalette palette(raised, kNightWindow);
   for (const QPalette::ColorRole role :
        {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::BrightText,
@@ -32,6 +58,9 @@ QPalette NightPalette() {
     palette.setColor(role, kNightText);
     palette.setColor(QPalette::Disabled, role, dimmed);
   }
+  palette.setColor(QPalette::ToolTipText, kNightText);
+  // What does not answer is not raised either.
+  palette.setColor(QPalette::Disabled, QPalette::Button, kNightWindow);
   palette.setColor(QPalette::PlaceholderText, dimmed);
   palette.setColor(QPalette::Base, black);
   palette.setColor(QPalette::AlternateBase, kNightWindow);

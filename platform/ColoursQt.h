@@ -9,6 +9,16 @@ namespace veerwatch {
 /// `share` [0, 1] of `over` on `under`.
 QColor Mixed(const QColor& under, const QColor& over, qreal share);
 
+/// Contrast ratio of two colours [1, 21]. Source: WCAG 2, relative luminance.
+double Contrast(const QColor& a, const QColor& b);
+
+/// `share` [0, 1] of `over` on `under`, and as much more of it as a text of that colour needs for a contrast
+/// of `least` [1, 21] to `under`; `over` itself where that is not enough.
+QColor Legible(const QColor& under, const QColor& over, qreal share, double least);
+
+/// Contrast of a text that does not answer now, or is no more of now.
+inline constexpr double kDimmedContrast = 4.2;
+
 /// Whether a window of that colour is dark.
 bool IsDark(const QColor& window);
 

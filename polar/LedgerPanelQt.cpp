@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "platform/ColoursQt.h"
+
 namespace veerwatch {
 
 namespace {
@@ -164,13 +166,14 @@ void LedgerPanelQt::paintEvent(QPaintEvent* /*event*/) {
 void LedgerPanelQt::PaintFigures(QPainter& painter) const {
   for (std::size_t i = 0; i < std::min(m_layout.Figures.size(), m_content.Figures.size()); ++i) {
     const LedgerFigure& figure = m_content.Figures[i];
-    painter.setOpacity(figure.Faint ? kFaint : 1.0);
-    painter.setPen(m_colours.Caption);
+    const auto pen = [&](const QColor& colour) {
+      painter.setPen(figure.Faint ? Legible(m_colours.Surface, colour, kFaint, kDimmedContrast) : colour);
+    };
+    pen(m_colours.Caption);
     Put(painter, m_layout.Figures[i].Heading, Qt::AlignLeft, figure.Heading);
-    painter.setPen(m_colours.Foreground);
+    pen(m_colours.Foreground);
     Put(painter, m_layout.Figures[i].Value, Qt::AlignRight, figure.Value);
   }
-  painter.setOpacity(1.0);
 }
 
 void LedgerPanelQt::PaintRows(QPainter& painter) const {
@@ -182,7 +185,11 @@ void LedgerPanelQt::PaintRows(QPainter& painter) const {
     const LedgerRowPlace& place = m_layout.Rows[i];
     const LedgerRow& row = m_content.Rows[i];
     const QRectF sample = In(place.Sample);
-    painter.setPen(QPen(ColourOf(row.Subject), m_layout.Text * 0.25));
+    QPen line(ColourOf(row.Subject), m_layout.Text * 0.25, Qt::SolidLine, Qt::FlatCap);
+    if (m_colours.Dashed(row.Subject == LedgerSubject::PortTack)) {
+      line.setDashPattern({1.6, 1.0});
+    }
+    painter.setPen(line);
     painter.drawLine(QPointF(sample.left(), sample.center().y()),
                      QPointF(sample.right(), sample.center().y()));
     painter.setPen(m_colours.Caption);

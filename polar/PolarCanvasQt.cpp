@@ -255,11 +255,15 @@ void PolarCanvasQt::PaintLegs(QPainter& painter, qreal size) const {
   for (const PolarLeg& leg : m_moving.Legs) {
     const qreal width = (leg.Now ? kLegNowWidth : kLegWidth) * size;
     const QColor colour = leg.PortTack ? m_colours.PortTack : m_colours.StarboardTack;
-    for (const QPen& pen : {RoundPen(m_colours.Disc, width + kHalo * size), RoundPen(colour, width)}) {
-      painter.setPen(pen);
-      for (const PlotStroke* stroke : {&leg.Arrow.Line, &leg.Arrow.HeadLeft, &leg.Arrow.HeadRight}) {
-        painter.drawLine(At(stroke->From), At(stroke->To));
-      }
+    const QPen halo = RoundPen(m_colours.Disc, width + kHalo * size);
+    const QPen head = RoundPen(colour, width);
+    const QPen line = m_colours.Dashed(leg.PortTack) ? DashedPen(colour, width, size) : head;
+    for (const auto& [linePen, headPen] : {std::pair{halo, halo}, std::pair{line, head}}) {
+      painter.setPen(linePen);
+      painter.drawLine(At(leg.Arrow.Line.From), At(leg.Arrow.Line.To));
+      painter.setPen(headPen);
+      painter.drawLine(At(leg.Arrow.HeadLeft.From), At(leg.Arrow.HeadLeft.To));
+      painter.drawLine(At(leg.Arrow.HeadRight.From), At(leg.Arrow.HeadRight.To));
     }
   }
 }

@@ -1,4 +1,5 @@
-// The colours of the polar plot, derived from the desktop's palette, light or dark.
+// The colours of the polar plot, derived from the palette that it wears: light, dark or the night's. At night
+// there is one hue, so brightness tells the boat, the wind and the curves apart, and dashes tell the tacks.
 #pragma once
 
 #include <QColor>
@@ -11,6 +12,7 @@ struct PolarPaletteQt {
   explicit PolarPaletteQt(const QPalette& palette);
 
   bool Dark;
+  bool Night;
   QColor Surface;     ///< behind everything
   QColor Disc;        ///< inside of the outer ring
   QColor Foreground;  ///< values, and the curves when no colour was chosen
@@ -24,6 +26,11 @@ struct PolarPaletteQt {
   QColor StarboardTack;
   QColor PortTack;
   QColor MousePlate;
+  QColor MouseMain;       ///< text on the plate: of the main polar
+  QColor MouseReference;  ///< of the reference polar
+
+  /// Whether the line of a leg is dashed.
+  bool Dashed(bool portTack) const { return Night && portTack; }
 
   /// The colour of the curves for a setting of 0xBBGGRR.
   QColor Curve(std::uint32_t speedColor) const;

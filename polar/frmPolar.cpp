@@ -21,8 +21,6 @@ constexpr double kScreenShare = 0.92;
 /// The mouse readout goes when the mouse is so far from where it was pressed [px].
 constexpr double kMouseLeash = 10.0;
 constexpr int kMouseGap = 12;
-constexpr QColor kMainMouse(0, 0, 255);
-constexpr QColor kReferenceMouse(160, 0, 96);
 
 /// A place that can be seen on one of the screens.
 bool OnScreen(const QRect& place) {
@@ -255,9 +253,10 @@ void frmPolar::pctPlot_MouseDown(QPointF at) {
   if (!found) {
     return;
   }
+  const PolarPaletteQt shades(palette());
   QPalette colours = lblMouse->palette();
-  colours.setColor(QPalette::Window, PolarPaletteQt(palette()).MousePlate);
-  colours.setColor(QPalette::WindowText, found->Reference ? kReferenceMouse : kMainMouse);
+  colours.setColor(QPalette::Window, shades.MousePlate);
+  colours.setColor(QPalette::WindowText, found->Reference ? shades.MouseReference : shades.MouseMain);
   lblMouse->setPalette(colours);
   lblMouse->setText(QString::fromStdString(found->Text));
   lblMouse->adjustSize();

@@ -170,9 +170,9 @@ void frmTack::Dim() {
   QPalette colours;
   for (const auto& [text, ground] :
        {std::pair{QPalette::Text, QPalette::Base}, std::pair{QPalette::ButtonText, QPalette::Button}}) {
-    colours.setColor(
-        QPalette::Disabled, text,
-        Mixed(palette().color(QPalette::Active, ground), palette().color(QPalette::Active, text), kDimmed));
+    colours.setColor(QPalette::Disabled, text,
+                     Legible(palette().color(QPalette::Active, ground),
+                             palette().color(QPalette::Active, text), kDimmed, kDimmedContrast));
   }
   setPalette(colours);
 }

@@ -129,6 +129,38 @@ TEST_F(NightColours, ADiagramTheAboutBoxAndATurnAreRedOnBlackAlsoWhenTheyAreOpen
   }
 }
 
+TEST_F(NightColours, ACaretIsRed) {
+  Start(kOnPorts);
+  Command().trigger();
+  Window->resize(1160, 760);
+  auto& box = Find<QLineEdit>("txtAutoPilot");
+  box.setFocus();
+  box.deselect();
+  box.setCursorPosition(0);
+  for (int i = 0; i < 3; ++i) {
+    // In one of them the caret is on.
+    EXPECT_EQ(Hurting(Grab(*Window, "caret")), 0);
+    QTest::qWait(QApplication::cursorFlashTime() / 3);
+  }
+  WearNightColours(false);
+}
+
+TEST_F(NightColours, APageIsNoBrighterThanItsWindow) {
+  Start(kSimulated);
+  Command().trigger();
+  Find<QAction>("mnuOptionsData").trigger();
+  auto* options = dynamic_cast<frmOptions*>(Other("frmOptions"));
+  ASSERT_NE(options, nullptr);
+  const QImage image = Grab(*options, "page");
+  const auto* page = options->findChild<QWidget*>(QStringLiteral("cmbNmeaHeading"))->parentWidget();
+  const QColor ground = image.pixelColor(page->mapTo(options, QPoint(2, page->height() - 3)));
+  EXPECT_LE(qGray(ground.rgb()), qGray(options->palette().color(QPalette::Window).rgb()) + 2) << ground.red();
+  const auto* apply = options->findChild<QPushButton*>(QStringLiteral("cmdApply"));
+  ASSERT_NE(apply, nullptr);
+  const QColor button = image.pixelColor(apply->mapTo(options, QPoint(6, apply->height() / 2)));
+  EXPECT_GT(button.red(), ground.red() + 15) << "buttons stay raised";
+}
+
 TEST_F(NightColours, GoAgain) {
   Start(kSimulated);
   const QPalette desktop = QApplication::palette();
