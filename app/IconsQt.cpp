@@ -24,12 +24,13 @@ QByteArray Drawing(const QString& name) {
   return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-QPixmap Rendered(const QByteArray& drawing, int size) {
-  QPixmap pixmap(size, size);
+/// The square drawing in a picture that is `share` times as wide, at its left.
+QPixmap Rendered(const QByteArray& drawing, int size, double share = 1.0) {
+  QPixmap pixmap(qRound(size * share), size);
   pixmap.fill(Qt::transparent);
   QSvgRenderer renderer(drawing);
   QPainter painter(&pixmap);
-  renderer.render(&painter);
+  renderer.render(&painter, QRectF(0.0, 0.0, size, size));
   return pixmap;
 }
 
@@ -42,8 +43,8 @@ QIcon ModeIcon(const QString& name, const QColor& off, const QColor& on) {
     const auto coloured = [&drawing](const QColor& colour) {
       return QByteArray(drawing).replace(kLineColour, colour.name().toLatin1());
     };
-    icon.addPixmap(Rendered(coloured(off), size), QIcon::Normal, QIcon::Off);
-    icon.addPixmap(Rendered(coloured(on), size), QIcon::Normal, QIcon::On);
+    icon.addPixmap(Rendered(coloured(off), size, kModeIconShare), QIcon::Normal, QIcon::Off);
+    icon.addPixmap(Rendered(coloured(on), size, kModeIconShare), QIcon::Normal, QIcon::On);
   }
   return icon;
 }

@@ -218,13 +218,18 @@ void InstrumentPanelQt::Place() {
   for (std::size_t i = 0; i < m_layout.Winds.size(); ++i) {
     place(optControl[i], m_layout.Winds[i].Option, buttons);
   }
-  place(cmdDesiredApp[0], app.Port, buttons);
-  place(cmdDesiredApp[1], app.Starboard, buttons);
-  place(cmdDesiredTrue[0], trueWind.Port, buttons);
-  place(cmdDesiredTrue[1], trueWind.Starboard, buttons);
-  const QFont narrow = Sized(font(), m_layout.ButtonText * 0.75, QFont::Bold);
-  place(cmdAutoPilot[0], m_layout.AutoPilot.Port, narrow);
-  place(cmdAutoPilot[1], m_layout.AutoPilot.Starboard, narrow);
+  // Both buttons of a pair have letters of one size.
+  const auto placeNudges = [&](const ControlArray<NudgeButtonQt>& pair, const PanelBox& port,
+                               const PanelBox& starboard) {
+    const int height = std::min(pair[0]->FittingTextHeight(buttons, port.Width),
+                                pair[1]->FittingTextHeight(buttons, starboard.Width));
+    const QFont letters = Sized(font(), height, QFont::Bold);
+    place(pair[0], port, letters);
+    place(pair[1], starboard, letters);
+  };
+  placeNudges(cmdDesiredApp, app.Port, app.Starboard);
+  placeNudges(cmdDesiredTrue, trueWind.Port, trueWind.Starboard);
+  placeNudges(cmdAutoPilot, m_layout.AutoPilot.Port, m_layout.AutoPilot.Starboard);
   Repaint();
 }
 

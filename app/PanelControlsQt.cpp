@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace veerwatch {
 
@@ -163,7 +164,12 @@ void CaptionQt::paintEvent(QPaintEvent* /*event*/) {
   painter.setPen(isEnabled() ? m_text : m_dimmed);
   const QRect room = contentsRect();
   painter.drawText(room, static_cast<int>(Qt::AlignLeft | Qt::AlignVCenter) | Qt::TextSingleLine,
-                   fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+                   fontMetrics().elidedText(text(), m_elide, room.width()));
+}
+
+int CaptionQt::TextWidth() const {
+  const QMargins margins = contentsMargins();
+  return fontMetrics().horizontalAdvance(text()) + 1 + margins.left() + margins.right();
 }
 
 // EntryBoxQt
@@ -225,6 +231,12 @@ void NudgeButtonQt::Theme(const ThemeQt& theme) {
   update();
 }
 
+int NudgeButtonQt::FittingTextHeight(const QFont& font, double width) const {
+  const QFontMetricsF metrics(font);
+  const qreal wanted = metrics.horizontalAdvance(text()) + metrics.capHeight() * kArrowRoom;
+  return wanted > width ? std::max(1, static_cast<int>(font.pixelSize() * width / wanted)) : font.pixelSize();
+}
+
 void NudgeButtonQt::focusInEvent(QFocusEvent* event) {
   m_showFocus = ByKeyboard(*event);
   QPushButton::focusInEvent(event);
@@ -235,11 +247,11 @@ void NudgeButtonQt::paintEvent(QPaintEvent* /*event*/) {
   painter.setRenderHint(QPainter::Antialiasing);
   const ThemeQt::Pair pair = m_toStarboard ? m_theme.Starboard : m_theme.Port;
   const QRectF box = QRectF(rect()).adjusted(1.0, 1.0, -1.0, -1.0);
+  const ThemeQt::Pair resting = m_theme.Resting(pair);
   QColor fill = pair.Fill;
   QColor text = pair.Text;
   if (!isEnabled()) {
-    fill = Mixed(m_theme.Card, pair.Fill, 0.12);
-    text = m_theme.Dimmed;
+    std::tie(fill, text) = std::tie(resting.Fill, resting.Text);
     painter.setPen(QPen(Mixed(m_theme.Card, pair.Fill, 0.55), 1.5));
   } else {
     if (isDown()) {
@@ -255,14 +267,8 @@ void NudgeButtonQt::paintEvent(QPaintEvent* /*event*/) {
     PaintFocus(painter, box, text);
   }
 
-  QFont letters = font();
-  QFontMetricsF metrics(letters);
+  const QFontMetricsF metrics(font());
   const QString caption = this->text();
-  const qreal wanted = metrics.horizontalAdvance(caption) + metrics.capHeight() * kArrowRoom;
-  if (wanted > width()) {
-    letters.setPixelSize(std::max(1, static_cast<int>(letters.pixelSize() * width() / wanted)));
-    metrics = QFontMetricsF(letters);
-  }
   const qreal arrow = metrics.capHeight();
   const qreal gap = arrow * 0.7;
   const qreal captionWidth = metrics.horizontalAdvance(caption);
@@ -272,11 +278,10 @@ void NudgeButtonQt::paintEvent(QPaintEvent* /*event*/) {
   const qreal tip = m_toStarboard ? arrowLeft + arrow : arrowLeft;
   const qreal foot = m_toStarboard ? arrowLeft : arrowLeft + arrow;
   painter.setPen(Qt::NoPen);
-  painter.setBrush(isEnabled() ? text : Mixed(m_theme.Card, pair.Fill, 0.75));
+  painter.setBrush(isEnabled() || m_theme.Night ? text : Mixed(m_theme.Card, pair.Fill, 0.75));
   painter.drawPolygon(QPolygonF(
       {QPointF(tip, middle), QPointF(foot, middle - arrow * 0.6), QPointF(foot, middle + arrow * 0.6)}));
   painter.setPen(text);
-  painter.setFont(letters);
   painter.drawText(QPointF(m_toStarboard ? left : left + arrow + gap, middle + metrics.capHeight() / 2.0),
                    caption);
 }

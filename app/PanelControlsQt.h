@@ -59,6 +59,10 @@ class CaptionQt final : public QLabel {
   CaptionQt(const QString& name, const QString& text, QWidget* parent);
 
   void Colours(const QColor& text, const QColor& dimmed);
+  /// Where a text that is too long is cut; at its end unless told otherwise.
+  void Elide(Qt::TextElideMode where) { m_elide = where; }
+  /// Room that the whole text takes with its margins [px].
+  int TextWidth() const;
 
   QSize minimumSizeHint() const override { return sizeHint(); }
   QSize sizeHint() const override;
@@ -69,6 +73,7 @@ class CaptionQt final : public QLabel {
  private:
   QColor m_text;
   QColor m_dimmed;
+  Qt::TextElideMode m_elide = Qt::ElideRight;
 };
 
 /// A box for one number. Enter takes the text and goes no further. Deliberate: leaving the box takes only a
@@ -109,6 +114,10 @@ class NudgeButtonQt final : public QPushButton {
   NudgeButtonQt(const QString& name, bool toStarboard, QWidget* parent);
 
   void Theme(const ThemeQt& theme);
+
+  /// The height [px] of letters with which the caption and its arrow fit into `width` [px], at most that of
+  /// `font`.
+  int FittingTextHeight(const QFont& font, double width) const;
 
   QSize minimumSizeHint() const override { return {0, 0}; }
   QSize sizeHint() const override { return {0, 0}; }

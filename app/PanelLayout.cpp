@@ -1,6 +1,7 @@
 #include "app/PanelLayout.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace veerwatch {
 
@@ -149,6 +150,49 @@ PanelLayout LayPanel(double width, double height) {
     layout.AutoPilot = design.Pilot(Column(band, 3, 4, gap));
   }
   return layout;
+}
+
+namespace {
+
+/// The width that leaves `room` filled when none of `needed`, which want more than that together, is wider.
+double CommonLimit(double room, std::vector<double> needed) {
+  std::sort(needed.begin(), needed.end());
+  double left = room;
+  for (std::size_t i = 0; i < needed.size(); ++i) {
+    const double equal = left / static_cast<double>(needed.size() - i);
+    if (needed[i] > equal) {
+      return equal;
+    }
+    left -= needed[i];
+  }
+  return room;
+}
+
+}  // namespace
+
+std::vector<double> ShareRoom(double room, const std::vector<double>& shares,
+                              const std::vector<double>& needed) {
+  std::vector<double> widths;
+  if (std::accumulate(needed.begin(), needed.end(), 0.0) > room) {
+    const double limit = CommonLimit(room, needed);
+    for (const double width : needed) {
+      widths.push_back(std::min(width, limit));
+    }
+    return widths;
+  }
+  const double all = std::accumulate(shares.begin(), shares.end(), 0.0);
+  double lacking = 0.0;
+  double spare = 0.0;
+  for (std::size_t i = 0; i < shares.size(); ++i) {
+    widths.push_back(room * shares[i] / all);
+    lacking += std::max(0.0, needed[i] - widths[i]);
+    spare += std::max(0.0, widths[i] - needed[i]);
+  }
+  for (std::size_t i = 0; i < widths.size(); ++i) {
+    const double over = widths[i] - needed[i];
+    widths[i] = over < 0.0 ? needed[i] : widths[i] - (spare > 0.0 ? over * lacking / spare : 0.0);
+  }
+  return widths;
 }
 
 }  // namespace veerwatch

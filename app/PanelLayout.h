@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 namespace veerwatch {
 
@@ -60,5 +61,11 @@ struct PanelLayout {
 /// The places for a panel of `width` by `height` [px, above 0]. A wide panel has the winds side by side above
 /// one row of instruments, a tall one has everything in two columns.
 PanelLayout LayPanel(double width, double height);
+
+/// Widths [px] of status panels side by side that share `room`. Each has its part of it, as `shares` (above
+/// 0) weigh them; one that needs more for its text, as `needed` says, takes it from those that have more than
+/// they need. Where the room is not enough for all, the widest give way, down to one width.
+std::vector<double> ShareRoom(double room, const std::vector<double>& shares,
+                              const std::vector<double>& needed);
 
 }  // namespace veerwatch

@@ -121,6 +121,9 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
 
   window.Form_Load();
   window.show();
+  // In front of the windows that the profile has opened again.
+  window.raise();
+  window.activateWindow();
   if (started) {
     started(window);
   }

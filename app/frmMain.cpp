@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -20,7 +21,6 @@ namespace {
 
 constexpr int kTimerInterval = 1000;  // [ms]
 constexpr QSize kSmallestSize(320, 220);
-constexpr int kPanelMargin = 10;  // [px]
 // Height of the status texts [px] at the default size of the window, and at the least.
 constexpr double kStatusTextHeight = 18.0;
 constexpr int kLeastStatusTextHeight = 11;
@@ -51,12 +51,14 @@ frmMain::frmMain(const MainWindowParts& parts)
       m_menu(*this),
       m_tbrTrack(new frmMainModeBar(*this)),
       m_panel(new InstrumentPanelQt(this)),
+      m_notice(new NoticeLineQt(this)),
+      m_status(new StatusPanelsQt(this)),
       m_others(m_parts, m_menu, *this, this),
       m_helm(*this, parts.MSCommNmea, parts.MSCommPilot, parts.tmrNmea, parts.Random, *this) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(QString::fromLatin1(kApplicationTitle));
   setWindowIcon(ProgramIcon());
-  setCentralWidget(m_panel);
+  MakeMiddle();
   setMinimumSize(kSmallestSize);
   QSize size = kDesignSize;
   if (const QScreen* display = screen()) {
@@ -73,22 +75,22 @@ frmMain::frmMain(const MainWindowParts& parts)
   m_parts.tmrUnload.Interval(kTimerInterval);
 }
 
+void frmMain::MakeMiddle() {
+  auto* middle = new QWidget(this);
+  auto* rows = new QVBoxLayout(middle);
+  rows->setContentsMargins(0, 0, 0, 0);
+  rows->setSpacing(0);
+  rows->addWidget(m_notice);
+  rows->addWidget(m_panel, 1);
+  setCentralWidget(middle);
+}
+
 void frmMain::MakeStatusBar() {
   auto* bar = new QStatusBar(this);
   bar->setObjectName(QStringLiteral("StatusBar"));
   // The frame is grip enough; the bar's own keeps its colours at night.
   bar->setSizeGripEnabled(false);
-  const std::array<const char*, 3> toolTips{"Pilot Status", "Input Data Status", "Output Data Status"};
-  for (std::size_t i = 0; i < m_status.size(); ++i) {
-    auto* panel = new CaptionQt(QStringLiteral("StatusBar(%1)").arg(i + 1), QString(), bar);
-    panel->setToolTip(QLatin1String(toolTips[i]));
-    panel->setAccessibleName(QLatin1String(toolTips[i]));
-    panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    panel->setContentsMargins(kPanelMargin, 3, kPanelMargin, 4);
-    // The reasons on the pilot's panel are the longest texts.
-    bar->addWidget(panel, i == 0 ? 5 : 3);
-    m_status[i] = panel;
-  }
+  bar->addWidget(m_status, 1);
   setStatusBar(bar);
 }
 
@@ -131,9 +133,8 @@ void frmMain::ConnectKeys() {
 void frmMain::ApplyTheme() {
   const ThemeQt theme(palette());
   m_tbrTrack->Theme(theme);
-  for (QLabel* panel : m_status) {
-    static_cast<CaptionQt*>(panel)->Colours(theme.Text, theme.Dimmed);
-  }
+  m_notice->Theme(theme);
+  m_status->Theme(theme);
 }
 
 void frmMain::Form_Load() { ProfileRecall(true); }
@@ -256,12 +257,10 @@ void frmMain::closeEvent(QCloseEvent* event) {
 void frmMain::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
   m_tbrTrack->Fit(size());
-  QFont status = font();
-  status.setPixelSize(std::max(kLeastStatusTextHeight,
-                               static_cast<int>(std::lround(kStatusTextHeight * WindowScale(size())))));
-  for (QLabel* panel : m_status) {
-    panel->setFont(status);
-  }
+  const int status = std::max(kLeastStatusTextHeight,
+                              static_cast<int>(std::lround(kStatusTextHeight * WindowScale(size()))));
+  m_notice->TextHeight(status);
+  m_status->TextHeight(status);
 }
 
 void frmMain::changeEvent(QEvent* event) {
@@ -343,8 +342,6 @@ void frmMain::NudgeKey(int index) {
 
 // What the helm tells
 
-void frmMain::Panel(int index, const QString& text) { ShowText(*m_status[At(index)], text); }
-
 void frmMain::OnHeading(float heading) {
   ShowText(*m_panel->lblHeading, Number(heading, "0"));
   m_others.OnHeading(heading);
@@ -386,9 +383,9 @@ void frmMain::OnWindIndicator(float direction, float speed) {
 
 void frmMain::OnValuesBlanked() { m_panel->BlankValues(); }
 
-void frmMain::OnInputStatus(std::string_view text) { Panel(kInputPanel, Text(text)); }
+void frmMain::OnInputStatus(std::string_view text) { m_status->Show(StatusPanelsQt::kInput, Text(text)); }
 
-void frmMain::OnOutputStatus(std::string_view text) { Panel(kOutputPanel, Text(text)); }
+void frmMain::OnOutputStatus(std::string_view text) { m_status->Show(StatusPanelsQt::kOutput, Text(text)); }
 
 void frmMain::OnDesired(float apparent, float trueWind) {
   m_panel->txtDesired[0]->Follow(Number(apparent, "0"));
@@ -418,13 +415,13 @@ void frmMain::OnAlarm(TrackSide side, float error) {
   }
   m_panel->ShowAlarm(side);
   m_parts.Asks.Beep();
-  Panel(kOutputPanel, QStringLiteral("Alarm Limit Exceeded ") + Number(error, "0"));
+  m_status->Show(StatusPanelsQt::kOutput, QStringLiteral("Alarm Limit Exceeded ") + Number(error, "0"));
 }
 
 void frmMain::OnAlarmOver() {
   m_alarmSeen = false;
   m_panel->HideAlarm();
-  Panel(kOutputPanel, QString());
+  m_status->Show(StatusPanelsQt::kOutput, QString());
 }
 
 void frmMain::OnTrackMode(TrackMode mode) {
@@ -472,7 +469,7 @@ void frmMain::ShowModeText() {
   } else if (needsInput && m_windLost) {
     text += QStringLiteral(", No Wind");
   }
-  Panel(kPilotPanel, m_refused.isEmpty() ? text : m_refused);
+  m_status->Show(StatusPanelsQt::kPilot, m_refused.isEmpty() ? text : m_refused);
 }
 
 }  // namespace veerwatch

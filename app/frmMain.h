@@ -3,7 +3,6 @@
 // profile are handed to it, real ones by main, scripted ones by tests.
 #pragma once
 
-#include <QLabel>
 #include <QMainWindow>
 #include <array>
 #include <string>
@@ -13,7 +12,9 @@
 #include "app/InstrumentPanelQt.h"
 #include "app/MainWindowApi.h"
 #include "app/MainWindowParts.h"
+#include "app/NoticeLineQt.h"
 #include "app/OtherWindowsQt.h"
+#include "app/StatusPanelsQt.h"
 #include "app/frmMainCommands.h"
 
 namespace veerwatch {
@@ -66,18 +67,13 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void changeEvent(QEvent* event) override;
 
  private:
-  // The panels of the status bar.
-  static constexpr int kPilotPanel = 1;
-  static constexpr int kInputPanel = 2;
-  static constexpr int kOutputPanel = 3;
-
   /// Asks; true when the close may go on.
   bool StopTracking();
+  void MakeMiddle();
   void MakeStatusBar();
   void ConnectControls();
   void ConnectKeys();
   void ApplyTheme();
-  void Panel(int index, const QString& text);
   void ShowControls();
   void ShowModeText();
   /// A second has passed. Once a wind has not come for four of them the mode's text says so, and a manoeuvre
@@ -125,7 +121,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   frmMainMenu m_menu;
   frmMainModeBar* m_tbrTrack;
   InstrumentPanelQt* m_panel;
-  std::array<QLabel*, 3> m_status{};
+  NoticeLineQt* m_notice;
+  StatusPanelsQt* m_status;
   OtherWindowsQt m_others;
   Helm m_helm;
   bool m_ask = true;         ///< a close still has to ask

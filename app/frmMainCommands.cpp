@@ -33,8 +33,6 @@ constexpr std::array<ModeButton, 4> kModes{{
 // Height of the mode texts [px] at the window's design size, and at the least.
 constexpr double kTextHeight = 26.0;
 constexpr int kLeastTextHeight = 9;
-/// Left over beside the buttons [px], lest the bar folds one away.
-constexpr int kSlack = 2;
 
 /// A new command in `menu`.
 QAction* Command(QMainWindow& window, QMenu* menu, const char* name, const char* text) {
@@ -123,9 +121,12 @@ void frmMainModeBar::Fit(const QSize& window) {
     Dress();
   }
   const int count = static_cast<int>(kModes.size());
-  const int room = window.width() - 2 * Margin() - (count - 1) * Gap() - kSlack;
-  for (const auto& [mode, action] : m_buttons) {
-    widgetForAction(action)->setFixedWidth(std::max(1, room / count));
+  int room = window.width() - 2 * Margin() - (count - 1) * Gap();
+  int left = count;
+  for (const ModeButton& mode : kModes) {
+    const int width = std::max(1, room / left--);
+    widgetForAction(Button(mode.Mode))->setFixedWidth(width);
+    room -= width;
   }
 }
 
@@ -135,8 +136,7 @@ int frmMainModeBar::Gap() const { return std::max(2, m_textHeight / 3); }
 
 void frmMainModeBar::Dress() {
   const int icon = std::max(8, m_textHeight * 5 / 4);
-  // Wider than the drawing: the gap to the text.
-  setIconSize(QSize(icon * 7 / 5, icon));
+  setIconSize(QSize(qRound(icon * kModeIconShare), icon));
   QString sheet =
       QStringLiteral(
           "QToolBar{background:%1;border:0;padding:%6px %7px 0 %7px;spacing:0}"

@@ -89,5 +89,35 @@ TEST(PanelLayout, GrowsItsTextsWithThePanel) {
   EXPECT_DOUBLE_EQ(LayPanel(2320.0, 1280.0).CaptionText, 2.0 * LayPanel(1160.0, 640.0).CaptionText);
 }
 
+using Widths = std::vector<double>;
+const Widths kShares{5.0, 3.0, 3.0};
+
+TEST(ShareRoom, WeighsTheSharesWhileAllFit) {
+  EXPECT_EQ(ShareRoom(1100.0, kShares, {100.0, 0.0, 300.0}), (Widths{500.0, 300.0, 300.0}));
+}
+
+TEST(ShareRoom, GivesALongTextTheFreeRoomOfTheOthers) {
+  // 100 too little; the others have 400 and 200 too much.
+  const Widths widths = ShareRoom(1100.0, kShares, {100.0, 100.0, 400.0});
+  EXPECT_DOUBLE_EQ(widths[2], 400.0);
+  EXPECT_NEAR(widths[0], 500.0 - 100.0 * 400.0 / 600.0, 1e-9);
+  EXPECT_NEAR(widths[1], 300.0 - 100.0 * 200.0 / 600.0, 1e-9);
+}
+
+TEST(ShareRoom, CutsTheWidestWhereThereIsTooLittle) {
+  EXPECT_EQ(ShareRoom(300.0, kShares, {400.0, 20.0, 150.0}), (Widths{140.0, 20.0, 140.0}));
+  EXPECT_EQ(ShareRoom(300.0, kShares, {400.0, 0.0, 50.0}), (Widths{250.0, 0.0, 50.0}));
+}
+
+TEST(ShareRoom, NeitherLeavesRoomNorTakesMore) {
+  for (const double room : {1.0, 200.0, 600.0, 5000.0}) {
+    for (const Widths& needed :
+         {Widths{0.0, 0.0, 0.0}, Widths{180.0, 90.0, 160.0}, Widths{900.0, 0.0, 900.0}}) {
+      const Widths widths = ShareRoom(room, kShares, needed);
+      EXPECT_NEAR(widths[0] + widths[1] + widths[2], room, 1e-6);
+    }
+  }
+}
+
 }  // namespace
 }  // namespace veerwatch

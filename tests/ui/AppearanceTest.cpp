@@ -45,20 +45,6 @@ int DrawnHeight(const QWidget& window, const QWidget& label, const QImage& image
   return bottom - top + 1;
 }
 
-/// Contrast ratio of two colours, 1 to 21. Source: WCAG 2, relative luminance.
-double Contrast(const QColor& a, const QColor& b) {
-  const auto luminance = [](const QColor& colour) {
-    const auto channel = [](double part) {
-      return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * channel(colour.redF()) + 0.7152 * channel(colour.greenF()) +
-           0.0722 * channel(colour.blueF());
-  };
-  const double one = luminance(a) + 0.05;
-  const double other = luminance(b) + 0.05;
-  return std::max(one, other) / std::min(one, other);
-}
-
 TEST_F(Appearance, FiguresAreAtLeast48PixelsHighAtTheDefaultSize) {
   Start(kSimulated);
   Window->resize(1160, 760);
@@ -80,19 +66,91 @@ TEST_F(Appearance, FiguresStayLargeOnASmallScreen) {
   }
 }
 
-TEST_F(Appearance, ColoursAreLegibleInBothPalettes) {
-  for (const QPalette& palette : {QApplication::palette(), DarkPalette()}) {
-    const ThemeQt theme(palette);
-    EXPECT_GE(Contrast(theme.Text, theme.Card), 7.0);
-    EXPECT_GE(Contrast(theme.Caption, theme.Card), 4.5);
-    EXPECT_GE(Contrast(theme.Dimmed, theme.Card), 4.5) << "what does not answer stays legible";
-    EXPECT_GE(Contrast(theme.Port.Text, theme.Port.Fill), 4.5);
-    EXPECT_GE(Contrast(theme.Starboard.Text, theme.Starboard.Fill), 4.5);
-    EXPECT_GT(theme.Port.Fill.red(), theme.Port.Fill.green());
-    EXPECT_GT(theme.Starboard.Fill.green(), theme.Starboard.Fill.red());
-    for (const TrackMode mode : {TrackMode::Off, TrackMode::Setup, TrackMode::Manual, TrackMode::Track}) {
-      EXPECT_GE(Contrast(theme.Mode(mode).Text, theme.Mode(mode).Fill), 4.5) << static_cast<int>(mode);
+TEST_F(Appearance, TheModeBarReachesFromCardToCardAtAnyWidth) {
+  Start(kSimulated);
+  auto& bar = Find<QToolBar>("tbrTrack");
+  for (int width = 321; width < 1500; width += 59) {
+    Window->resize(width, 760);
+    QTest::qWait(0);
+    const QWidget* first = bar.widgetForAction(&Find<QAction>("tbrTrack(1)"));
+    const QWidget* last = bar.widgetForAction(&Find<QAction>("tbrTrack(7)"));
+    ASSERT_TRUE(last->isVisible()) << width;
+    EXPECT_EQ(bar.width() - last->geometry().right() - 1, first->geometry().left()) << width;
+  }
+}
+
+/// Columns [px] of `image` in `area` from the first to the last that differ from its upper left pixel, and
+/// the widest gap between two of them.
+struct Drawn {
+  int First = -1;
+  int Last = -1;
+  int WidestGap = 0;
+};
+
+Drawn ColumnsOf(const QImage& image, const QRect& area) {
+  Drawn drawn;
+  for (int x = area.left(); x <= area.right(); ++x) {
+    bool any = false;
+    for (int y = area.top(); y <= area.bottom() && !any; ++y) {
+      any = std::abs(qGray(image.pixel(x, y)) - qGray(image.pixel(area.topLeft()))) > 60;
     }
+    if (any) {
+      drawn.WidestGap = drawn.First < 0 ? 0 : std::max(drawn.WidestGap, x - drawn.Last - 1);
+      drawn.First = drawn.First < 0 ? x : drawn.First;
+      drawn.Last = x;
+    }
+  }
+  return drawn;
+}
+
+TEST_F(Appearance, AnIconStandsAwayFromItsWord) {
+  Start(kSimulated);
+  Window->resize(1160, 760);
+  const QImage image = Grab("icons");
+  auto& bar = Find<QToolBar>("tbrTrack");
+  for (const char* name : {"tbrTrack(1)", "tbrTrack(3)", "tbrTrack(5)"}) {
+    const QWidget* button = bar.widgetForAction(&Find<QAction>(name));
+    const QRect inside =
+        QRect(button->mapTo(Window.get(), QPoint(0, 0)), button->size()).adjusted(8, 8, -8, -8);
+    EXPECT_GE(ColumnsOf(image, inside).WidestGap, 8) << name;
+  }
+}
+
+TEST_F(Appearance, BothNudgesOfAPairHaveLettersOfOneSize) {
+  Start(kSimulated);
+  for (const QSize& size : {QSize(1160, 760), QSize(640, 400), QSize(480, 900)}) {
+    Window->resize(size);
+    QTest::qWait(0);
+    for (const std::string pair : {"cmdAutoPilot", "cmdDesiredApp", "cmdDesiredTrue"}) {
+      const auto& port = Find<QWidget>((pair + "(1)").c_str());
+      const auto& starboard = Find<QWidget>((pair + "(2)").c_str());
+      EXPECT_EQ(port.font().pixelSize(), starboard.font().pixelSize()) << pair << size.width();
+      const QFontMetricsF metrics(starboard.font());
+      EXPECT_LT(metrics.horizontalAdvance(QStringLiteral("To Starboard")) + 2.0 * metrics.capHeight(),
+                starboard.width())
+          << pair << size.width();
+    }
+  }
+}
+
+TEST_F(Appearance, TheAlarmsFigureIsWholeInANarrowWindow) {
+  Start(kSimulated);
+  tmrNmea.Tick(3);
+  Mode(7);
+  Type("txtDesired(1)", "-170");
+  Enter("txtDesired(1)");
+  tmrNmea.Tick();
+  const auto& alarm = Find<QLabel>("StatusBar(3)");
+  ASSERT_TRUE(alarm.text().startsWith(QStringLiteral("Alarm Limit Exceeded ")));
+  for (const int width : {600, 520, 440}) {
+    Window->resize(width, 760);
+    QTest::qWait(0);
+    for (const char* name : {"StatusBar(1)", "StatusBar(3)"}) {
+      const auto& panel = Find<QLabel>(name);
+      EXPECT_GE(panel.contentsRect().width(), panel.fontMetrics().horizontalAdvance(panel.text()))
+          << name << " at " << width;
+    }
+    EXPECT_LE(alarm.geometry().right(), width);
   }
 }
 

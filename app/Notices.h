@@ -1,0 +1,40 @@
+// What the program has to say beside its status texts, in one line under the mode bar: any part gives a text
+// under its kind, and withdraws it when it holds no more. Standard library only.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace veerwatch {
+
+/// Who has something to say; the most important first.
+enum class NoticeKind {
+  Save,     ///< the settings could not be saved
+  Profile,  ///< the profile could not be read
+  Source,   ///< a source of data that brings nothing
+};
+
+class Notices {
+ public:
+  /// What `kind` has to say now; "" when nothing more.
+  void Set(NoticeKind kind, const std::string& text);
+
+  /// The user has read the first text: it goes until its kind says something else.
+  void Dismiss();
+
+  /// The texts that stand, the most important first.
+  std::vector<std::string> Texts() const;
+
+  /// The one line: the first text, and how many more there are. "" for none.
+  std::string Line() const;
+
+ private:
+  struct Notice {
+    std::string Text;
+    bool Read = false;
+  };
+  std::map<NoticeKind, Notice> m_notices;
+};
+
+}  // namespace veerwatch
