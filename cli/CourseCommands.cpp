@@ -85,7 +85,8 @@ void WriteJson(const Answer& answer, std::ostream& out) {
 }  // namespace
 
 void PolarTargetsCommand(const PolarTargetsOptions& options, std::istream& in, std::ostream& out) {
-  const PolarTable table = LoadedPolar(options.File);
+  PolarTable table = LoadedPolar(options.File);
+  table.Smooth(options.Smooth);
   const auto write = [&](const CourseQuery& query) {
     const Answer answer = Solve(table, options, query);
     options.Json ? WriteJson(answer, out) : WriteText(answer, out);
@@ -95,7 +96,7 @@ void PolarTargetsCommand(const PolarTargetsOptions& options, std::istream& in, s
     return;
   }
   std::string line;
-  for (long number = 1; std::getline(in, line); ++number) {
+  for (long number = 1; NextLine(in, number, line); ++number) {
     const auto values = LineNumbers(line, 4);
     if (values.empty()) {
       throw CommandError("line " + std::to_string(number) +
@@ -108,8 +109,10 @@ void PolarTargetsCommand(const PolarTargetsOptions& options, std::istream& in, s
   }
 }
 
-void PolarBestCommand(const std::string& file, float windSpeed, std::ostream& out) {
-  const BestAngles best = FindBestAngles(LoadedPolar(file), windSpeed);
+void PolarBestCommand(const PolarBestOptions& options, std::ostream& out) {
+  PolarTable table = LoadedPolar(options.File);
+  table.Smooth(options.Smooth);
+  const BestAngles best = FindBestAngles(table, options.WindSpeed);
   const auto write = [&out](const char* name, const std::optional<BestAngle>& angle) {
     out << name << ' ';
     if (angle) {

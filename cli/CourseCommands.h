@@ -17,14 +17,21 @@ struct PolarTargetsOptions {
   std::optional<float> Range;        ///< to the waypoint [nm]; adds the times
   std::optional<float> BoatSpeed;    ///< the boat's own [kn]; scales every speed by it over the polar's
   bool Json = false;
+  bool Smooth = false;  ///< PolarTable::Smooth
+};
+
+struct PolarBestOptions {
+  std::string File;
+  float WindSpeed = 0.0F;  ///< true wind [kn]
+  bool Smooth = false;     ///< PolarTable::Smooth
 };
 
 /// Writes the solution. Without a query, reads lines "heading bearing twa tws" from `in` and writes a
 /// solution for each: as JSON a line each, else in blocks with an empty line between. Throws CommandError.
 void PolarTargetsCommand(const PolarTargetsOptions& options, std::istream& in, std::ostream& out);
 
-/// Writes the best angles upwind and downwind in a wind of `windSpeed` [kn], with the speeds made good;
-/// "none" where the polar makes no way. Throws CommandError.
-void PolarBestCommand(const std::string& file, float windSpeed, std::ostream& out);
+/// Writes the best angles upwind and downwind, with the speeds made good; "none" where the polar makes no
+/// way. Throws CommandError.
+void PolarBestCommand(const PolarBestOptions& options, std::ostream& out);
 
 }  // namespace veerwatch

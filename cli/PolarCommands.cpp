@@ -63,11 +63,27 @@ PolarTable LoadedPolar(const std::string& file, float factor) {
   return table;
 }
 
+bool NextLine(std::istream& in, long number, std::string& line) {
+  constexpr int kEnd = std::char_traits<char>::eof();
+  std::streambuf& buffer = *in.rdbuf();
+  line.clear();
+  int c = buffer.sbumpc();
+  const bool any = c != kEnd;
+  for (; c != kEnd && c != '\n'; c = buffer.sbumpc()) {
+    if (line.size() == kLongestLine) {
+      throw CommandError("line " + std::to_string(number) + ": longer than " + std::to_string(kLongestLine) +
+                         " characters");
+    }
+    line.push_back(static_cast<char>(c));
+  }
+  return any;
+}
+
 std::vector<float> LineNumbers(std::string_view line, std::size_t count) {
   constexpr std::string_view kBlanks = " \t\r";
   std::vector<float> numbers;
   std::size_t at = line.find_first_not_of(kBlanks);
-  while (line.size() <= kLongestLine && at != std::string_view::npos) {
+  while (at != std::string_view::npos) {
     const std::size_t end = std::min(line.find_first_of(kBlanks, at), line.size());
     const auto number = StrictNumber(line.substr(at, end - at));
     if (!number || numbers.size() == count) {
@@ -82,6 +98,7 @@ std::vector<float> LineNumbers(std::string_view line, std::size_t count) {
 void PolarSpeedCommand(const PolarSpeedOptions& options, std::istream& in, std::ostream& out) {
   PolarTable table = LoadedPolar(options.File, options.Factor);
   table.Type(options.Apparent ? PlotType::ApparentWind : PlotType::TrueWind);
+  table.Smooth(options.Smooth);
   const auto speed = [&table](float angle, float wind) {
     return ShortestText(table.PolarSpeed(kSlot, std::fabs(angle), wind));
   };
@@ -90,7 +107,7 @@ void PolarSpeedCommand(const PolarSpeedOptions& options, std::istream& in, std::
     return;
   }
   std::string line;
-  for (long number = 1; std::getline(in, line); ++number) {
+  for (long number = 1; NextLine(in, number, line); ++number) {
     const auto pair = LineNumbers(line, 2);
     if (pair.empty()) {
       throw CommandError("line " + std::to_string(number) + ": no angle and wind speed");

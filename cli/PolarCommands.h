@@ -18,11 +18,16 @@ struct PolarSpeedOptions {
   bool Apparent = false;           ///< angles are apparent wind angles
   std::optional<float> Angle;      ///< [deg]; the side does not matter
   std::optional<float> WindSpeed;  ///< true wind speed [kn]
+  bool Smooth = false;             ///< PolarTable::Smooth, for true wind angles
 };
 
 /// The table of a file, with each speed multiplied by `factor`. Throws CommandError with what is wrong with
 /// it.
 PolarTable LoadedPolar(const std::string& file, float factor = 1.0F);
+
+/// Reads the line with this number, counted from 1, without its line feed; false behind the last one. Throws
+/// CommandError at a line that is longer than any question.
+bool NextLine(std::istream& in, long number, std::string& line);
 
 /// The `count` numbers of a line, with blanks between them; empty when it holds anything else.
 std::vector<float> LineNumbers(std::string_view line, std::size_t count);
@@ -31,7 +36,8 @@ std::vector<float> LineNumbers(std::string_view line, std::size_t count);
 /// from `in`, a line each, and writes a speed for each. Throws CommandError.
 void PolarSpeedCommand(const PolarSpeedOptions& options, std::istream& in, std::ostream& out);
 
-/// Writes the rows, columns and ranges of a file. Throws CommandError with what is wrong with it.
+/// Writes the rows, columns and ranges of a file, and what is odd in it. Throws CommandError with what is
+/// wrong with it.
 void PolarCheckCommand(const std::string& file, std::ostream& out);
 
 /// Reads a table in any of the known spellings and writes it in the program's own. What is rounded on the way

@@ -88,6 +88,8 @@ CLI::Option* AddNumber(CLI::App* command, const char* name, Value& value, const 
   return command->add_option(name, value, text)->check(kNumber)->type_name(type);
 }
 
+constexpr const char* kSmoothText = "Straight lines between the two neighbouring winds";
+
 /// "polar targets" and "polar best".
 class CourseArguments {
  public:
@@ -115,8 +117,10 @@ class CourseArguments {
     AddNumber(m_targets, "--boat-speed", m_options.BoatSpeed,
               "The boat's speed now [kn]: scale every speed by it over the polar's", "V");
     m_targets->add_flag("--json", m_options.Json, "A JSON object instead, one a line");
-    m_best->add_option("FILE", m_options.File, "The polar file")->required();
-    AddNumber(m_best, "--tws", m_windSpeed, "True wind speed [kn]", "S")->required();
+    m_targets->add_flag("--smooth", m_options.Smooth, kSmoothText);
+    m_best->add_option("FILE", m_bestOptions.File, "The polar file")->required();
+    AddNumber(m_best, "--tws", m_bestOptions.WindSpeed, "True wind speed [kn]", "S")->required();
+    m_best->add_flag("--smooth", m_bestOptions.Smooth, kSmoothText);
   }
 
   /// Runs the command that was given; false when it was none of these.
@@ -127,7 +131,7 @@ class CourseArguments {
       }
       veerwatch::PolarTargetsCommand(m_options, std::cin, std::cout);
     } else if (*m_best) {
-      veerwatch::PolarBestCommand(m_options.File, m_windSpeed, std::cout);
+      veerwatch::PolarBestCommand(m_bestOptions, std::cout);
     }
     return *m_targets || *m_best;
   }
@@ -138,7 +142,7 @@ class CourseArguments {
   CLI::Option* m_heading = nullptr;
   veerwatch::CourseQuery m_query;
   veerwatch::PolarTargetsOptions m_options;
-  float m_windSpeed = 0.0F;
+  veerwatch::PolarBestOptions m_bestOptions;
 };
 
 /// "polar" and its commands.
@@ -156,7 +160,10 @@ class PolarArguments {
         ->check(kNumber)
         ->check(CLI::PositiveNumber)
         ->type_name("F");
-    m_speed->add_flag("--apparent", m_options.Apparent, "Angles are apparent wind angles");
+    CLI::Option* apparent =
+        m_speed->add_flag("--apparent", m_options.Apparent, "Angles are apparent wind angles");
+    // Smooth lookups are by the true wind.
+    m_speed->add_flag("--smooth", m_options.Smooth, kSmoothText)->excludes(apparent);
     CLI::Option* angle =
         m_speed->add_option("--twa", m_options.Angle, "Wind angle [deg]; without one, pairs from stdin")
             ->check(kNumber)

@@ -120,12 +120,24 @@ class Writer {
          FormatNumber(query.WindSpeedTrue, "0.0"), LedgerSubject::Wind}};
   }
 
+  /// Where the plot has a leg: a smooth table was looked up in the true wind also where the plot shows the
+  /// apparent one [deg relative].
+  float PlotAngle(const CourseLeg& leg) const {
+    if (!m_settings.SmoothWinds || m_settings.Type == PlotType::TrueWind) {
+      return leg.WindAngle;
+    }
+    float speed = 0.0F;
+    float angle = 0.0F;
+    WindApparentFromTrue(m_input.Query.WindSpeedTrue, leg.WindAngle, leg.Speed, speed, angle);
+    return angle;
+  }
+
   void AddLegs(LedgerContent& content) const {
     for (std::size_t i = 0; i < m_solution.Legs.size(); ++i) {
       const CourseLeg& leg = m_solution.Legs[i];
       if (leg.Share > 0.0F && leg.Speed > 0.0F) {
         content.Legs.push_back(
-            {static_cast<double>(leg.WindAngle), static_cast<double>(leg.Speed), i == m_port, i == m_now});
+            {static_cast<double>(PlotAngle(leg)), static_cast<double>(leg.Speed), i == m_port, i == m_now});
       }
     }
   }

@@ -35,7 +35,7 @@ struct LedgerRow {
 
 /// A leg to draw.
 struct LedgerLeg {
-  double WindAngle = 0.0;  ///< [deg relative, (-180, 180]]
+  double WindAngle = 0.0;  ///< in the wind of the plot [deg relative, [-180, 180]]
   double Speed = 0.0;      ///< [kn]
   bool PortTack = false;
   bool Now = false;  ///< the leg to sail now

@@ -50,7 +50,7 @@ using CourseYield = std::function<bool()>;
 
 /// The solution for slot 0, from headings in steps of one degree up to 90 degrees to either side of the
 /// bearing. Of equal routes the one with the smallest offset to the right, then to the left, wins. The table
-/// is seen in its own wind, true or apparent.
+/// is seen in its own wind, true or apparent; a smooth one in the true wind alone.
 CourseSolution CourseTargets(const PolarTable& table, const CourseQuery& query);
 
 /// The same with pauses; nothing when `yield` ended it. The table is not read any more once `yield` was

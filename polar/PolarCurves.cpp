@@ -150,20 +150,13 @@ std::vector<PolarCurve> PolarCurves(const PolarTable& table, int slot, const Pol
 
 PolarCurve WindCurve(const PolarTable& table, int slot, float windSpeed, const PolarGeometry& geometry) {
   PolarCurve curve{windSpeed, true, {}};
-  const int columns = table.PolarColumns(slot);
-  int upper = 1;
-  while (upper <= columns && table.Value(slot, 0, upper) < windSpeed) {
-    ++upper;
-  }
-  if (columns < 1 || (upper == 1 && windSpeed < table.Value(slot, 0, 1))) {
+  const ColumnBracket columns = table.PolarFindColumn(slot, windSpeed);
+  if (columns.Lower == 0) {
     return curve;
   }
-  upper = std::min(upper, columns);
-  const int lower = std::max(1, upper - 1);
-  const float wind = std::min(windSpeed, table.Value(slot, 0, upper));
   std::vector<PlotPoint> knots;
   for (int row = 1; row <= table.PolarRows(slot); ++row) {
-    const PolarCell cell = table.PolarPointAt(slot, row, lower, upper, wind);
+    const PolarCell cell = table.PolarPointAt(slot, row, columns);
     knots.push_back(PointAt(geometry, static_cast<double>(cell.Angle), static_cast<double>(cell.BoatSpeed)));
   }
   curve.Lines = BothSides(knots, geometry);

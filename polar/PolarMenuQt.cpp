@@ -53,6 +53,7 @@ PolarMenuQt::PolarMenuQt(QMainWindow& window) {
   Separator(polars, "mnuSeparator4");
   mnuOverlayColor = Item(polars, "mnuOverlayColor", "Set Color...");
   mnuOverlayScale = Item(polars, "mnuOverlayScale", "Set Scaling...");
+  mnuOverlaySmooth = Ticked(Item(polars, "mnuOverlaySmooth", "Smooth Between Winds"));
   Separator(polars, "mnuSeparartor5");
   mnuOverlayFile2 = Ticked(Item(polars, "mnuOverlayFile2", "Show Reference..."));
 
@@ -97,6 +98,7 @@ void PolarMenuQt::Refresh(const PolarModel& model) const {
     custom = custom && !item->isChecked();
   }
   mnuRangeCustom->setChecked(custom);
+  mnuOverlaySmooth->setChecked(settings.SmoothWinds);
   mnuOverlayFile2->setChecked(model.PolarsShown() == 2);
   for (const auto& [seconds, item] : mnuAverage) {
     item->setChecked(seconds == settings.PlotAverage);

@@ -28,6 +28,7 @@ struct PolarMenuQt {
   QAction* mnuSaveAs;
   QAction* mnuOverlayColor;
   QAction* mnuOverlayScale;
+  QAction* mnuOverlaySmooth;
   QAction* mnuOverlayFile2;
   std::array<std::pair<float, QAction*>, 6> mnuAverage;  ///< by averaging time [s]
   std::array<QAction*, 3> mnuCourseWaypoint;

@@ -27,6 +27,7 @@ void PolarModel::Reset(const Profile* profile) {
   m_lastFolder.clear();
   m_shown = 1;
   m_table.Type(m_settings.Type);
+  m_table.Smooth(m_settings.SmoothWinds);
   ++m_version;
 }
 
@@ -90,6 +91,12 @@ void PolarModel::ShowWind(PlotType type) {
 }
 
 void PolarModel::ToggleWindSpeedLabel() { m_settings.PlotLabelWindSpeed = !m_settings.PlotLabelWindSpeed; }
+
+void PolarModel::ToggleSmoothWinds() {
+  m_settings.SmoothWinds = !m_settings.SmoothWinds;
+  m_table.Smooth(m_settings.SmoothWinds);
+  TableChanged();
+}
 
 void PolarModel::ChooseCourse(CourseSource source) {
   const bool again = m_settings.CourseWaypoint && m_settings.CourseWaypointIndex == source;

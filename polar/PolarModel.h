@@ -77,6 +77,7 @@ class PolarModel {
 
   void ShowWind(PlotType type);
   void ToggleWindSpeedLabel();
+  void ToggleSmoothWinds();
   void Range(float range) { m_settings.SpeedRange = range; }
   void Color(std::uint32_t color) { m_settings.SpeedColor = color; }
   void Average(float seconds) { m_settings.PlotAverage = seconds; }
@@ -107,7 +108,7 @@ class PolarModel {
   const PolarValues& Values() const { return m_averages.Values(); }
   TrackMode Mode() const { return m_mode; }
   /// Speed of the own polar in the present true wind [kn], as of the last update in sight. Deliberate: the
-  /// true wind is looked up also when the table is seen in apparent wind.
+  /// true wind is looked up also when the table is seen in apparent wind, where only a smooth table has it.
   float PolarSpeed() const { return m_polarSpeed; }
   /// The same as the history keeps it. Deliberate: a speed with the unit "deg".
   std::string PolarSpeedText() const;

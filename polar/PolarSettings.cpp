@@ -52,6 +52,7 @@ void PolarRecall(const Profile& profile, PolarSettings& settings) {
   GetChoice(profile, "Course Waypoint Index", settings.CourseWaypointIndex, CourseSource::None);
   profile.ProfileGet(kData, "Boat Motor Speed", settings.BoatMotorSpeed);
   GetChoice(profile, "Boat Type", settings.Boat, BoatType::MotorAndSail);
+  profile.ProfileGet(kData, "Smooth Between Winds", settings.SmoothWinds);
 }
 
 std::optional<WindowPlace> PolarPlaceRecall(const Profile& profile) {
@@ -85,6 +86,7 @@ void PolarStore(Profile& profile, const PolarSettings& settings, const std::file
   profile.ProfileSet(kData, "Course Waypoint Index", static_cast<std::int16_t>(settings.CourseWaypointIndex));
   profile.ProfileSet(kData, "Boat Motor Speed", settings.BoatMotorSpeed);
   profile.ProfileSet(kData, "Boat Type", static_cast<std::int16_t>(settings.Boat));
+  profile.ProfileSet(kData, "Smooth Between Winds", settings.SmoothWinds);
 }
 
 void PolarPlaceStore(Profile& profile, const WindowPlace& place) {

@@ -40,6 +40,7 @@ struct PolarSettings {
   CourseSource CourseWaypointIndex = CourseSource::None;
   float BoatMotorSpeed = 3.0F;  ///< under motor alone [kn]
   BoatType Boat = BoatType::SailOnly;
+  bool SmoothWinds = false;  ///< PolarTable::Smooth
 };
 
 /// Position and inner size of a window [px].

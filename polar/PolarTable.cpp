@@ -45,11 +45,30 @@ PolarCell PolarTable::PolarPoint(int slot, int row, int column) const {
   return Seen({Value(slot, row, 0), Value(slot, 0, column), Value(slot, row, column)});
 }
 
-PolarCell PolarTable::PolarPointAt(int slot, int row, int lowerColumn, int upperColumn,
-                                   float windSpeed) const {
-  return Seen({Value(slot, row, 0), windSpeed,
-               Interpolate(windSpeed, Value(slot, 0, lowerColumn), Value(slot, 0, upperColumn),
-                           Value(slot, row, lowerColumn), Value(slot, row, upperColumn))});
+PolarCell PolarTable::PolarPointAt(int slot, int row, const ColumnBracket& columns) const {
+  return Seen({Value(slot, row, 0), columns.WindSpeed, SpeedBetween(slot, row, columns)});
+}
+
+float PolarTable::SpeedBetween(int slot, int row, const ColumnBracket& columns) const {
+  const bool fromCalm = columns.Lower == 0;
+  return Interpolate(columns.WindSpeed, fromCalm ? 0.0F : Value(slot, 0, columns.Lower),
+                     Value(slot, 0, columns.Upper), fromCalm ? 0.0F : Value(slot, row, columns.Lower),
+                     Value(slot, row, columns.Upper));
+}
+
+ColumnBracket PolarTable::PolarFindColumn(int slot, float windSpeed) const {
+  const int columns = PolarColumns(slot);
+  if (columns < 1) {
+    return {};
+  }
+  if (windSpeed < Value(slot, 0, 1)) {
+    return {0, 1, std::max(windSpeed, 0.0F)};
+  }
+  int upper = 1;
+  while (upper < columns && Value(slot, 0, upper) < windSpeed) {
+    ++upper;
+  }
+  return {std::max(upper - 1, 1), upper, std::min(windSpeed, Value(slot, 0, upper))};
 }
 
 PolarCell PolarTable::Seen(PolarCell cell) const {
@@ -76,6 +95,26 @@ RowBracket PolarTable::PolarFindRow(int slot, int column, float angle) const {
 }
 
 float PolarTable::PolarSpeed(int slot, float angle, float windSpeed) const {
+  return m_smooth ? SmoothSpeed(slot, angle, windSpeed) : SteppedSpeed(slot, angle, windSpeed);
+}
+
+float PolarTable::SmoothSpeed(int slot, float angle, float windSpeed) const {
+  const ColumnBracket columns = PolarFindColumn(slot, windSpeed);
+  if (columns.Upper == 0) {
+    return 0.0F;
+  }
+  for (int row = 1; row < PolarRows(slot); ++row) {
+    const float lower = Value(slot, row, 0);
+    const float upper = Value(slot, row + 1, 0);
+    if (lower <= angle && angle <= upper) {
+      return Interpolate(angle, lower, upper, SpeedBetween(slot, row, columns),
+                         SpeedBetween(slot, row + 1, columns));
+    }
+  }
+  return 0.0F;
+}
+
+float PolarTable::SteppedSpeed(int slot, float angle, float windSpeed) const {
   const int rows = PolarRows(slot);
   const int columns = PolarColumns(slot);
   if (rows < 2 || columns < 1) {

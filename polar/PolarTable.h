@@ -26,6 +26,13 @@ struct RowBracket {
   PolarCell Upper;
 };
 
+/// The two neighbouring columns that a wind lies between.
+struct ColumnBracket {
+  int Lower = 0;           ///< 0 below the first column, whose speeds then start from 0 at no wind
+  int Upper = 0;           ///< 0 for a table without columns
+  float WindSpeed = 0.0F;  ///< the wind, at most that of the last column [kn]
+};
+
 /// The cell of a plot that is nearest to a position.
 struct NearestCell {
   PolarCell Cell;                ///< its angle is negative on the port side
@@ -69,8 +76,15 @@ class PolarTable {
   /// One cell, row and column at least 1.
   PolarCell PolarPoint(int slot, int row, int column) const;
 
-  /// The point of a row at `windSpeed` [kn], its boat speed on the straight line between two columns.
-  PolarCell PolarPointAt(int slot, int row, int lowerColumn, int upperColumn, float windSpeed) const;
+  /// How PolarSpeed leads from column to column; false at first.
+  bool Smooth() const { return m_smooth; }
+  void Smooth(bool smooth) { m_smooth = smooth; }
+
+  /// The point of a row between two columns, its boat speed on the straight line between theirs.
+  PolarCell PolarPointAt(int slot, int row, const ColumnBracket& columns) const;
+
+  /// The first column whose wind is `windSpeed` [kn] or more, and the one before it.
+  ColumnBracket PolarFindColumn(int slot, float windSpeed) const;
 
   /// The first pair of neighbouring rows of a column whose angles enclose `angle` [deg], both ends included.
   RowBracket PolarFindRow(int slot, int column, float angle) const;
@@ -80,6 +94,10 @@ class PolarTable {
   /// speed falls in a line to 0 at no wind, or is 0 at once where that is column 1. Deliberate: when the
   /// lookup steps down past columns whose wind is above the wanted one, the angles and the wind of the upper
   /// bracket follow, its two boat speeds stay those of the highest column.
+  ///
+  /// Smooth lies on the straight lines between the two rows and the two neighbouring columns instead, and
+  /// below the first column, also a single one, on the line from 0 at no wind. Its angles are true wind
+  /// angles, in whichever wind the table is seen. A cell of 0 counts as the speed that it is.
   float PolarSpeed(int slot, float angle, float windSpeed) const;
 
   /// The cell of either side of the plot that is nearest to (`x`, `y`) [px]; the first one wins a tie.
@@ -88,6 +106,10 @@ class PolarTable {
  private:
   /// A cell with a true angle as lookups and plot see it.
   PolarCell Seen(PolarCell cell) const;
+  float SteppedSpeed(int slot, float angle, float windSpeed) const;
+  float SmoothSpeed(int slot, float angle, float windSpeed) const;
+  /// Boat speed of a row between two columns [kn].
+  float SpeedBetween(int slot, int row, const ColumnBracket& columns) const;
 
   static std::size_t Index(int slot, int row, int column) {
     const int cell = (slot * (kMostRows + 1) + row) * (kMostColumns + 1) + column;
@@ -98,6 +120,7 @@ class PolarTable {
   std::array<std::int16_t, kSlots> m_rows{};
   std::array<std::int16_t, kSlots> m_columns{};
   PlotType m_type = PlotType::TrueWind;
+  bool m_smooth = false;
 };
 
 }  // namespace veerwatch

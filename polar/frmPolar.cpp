@@ -92,6 +92,7 @@ void frmPolar::ConnectMenus() {
   OnItem(m_menu.mnuSaveAs, [this] { PolarSaveAs(m_model, m_parts.Asks); });
   OnItem(m_menu.mnuOverlayColor, [this] { AskColor(m_model, m_parts.Asks); });
   OnItem(m_menu.mnuOverlayScale, [this] { AskScaling(m_model, m_parts.Asks); });
+  OnItem(m_menu.mnuOverlaySmooth, [this] { m_model.ToggleSmoothWinds(); });
   OnItem(m_menu.mnuOverlayFile2, [this] { AskOpen(m_model, PolarModel::kReference, m_parts.Asks); });
   for (const auto& [seconds, item] : m_menu.mnuAverage) {
     OnItem(item, [this, time = seconds] { m_model.Average(time); });

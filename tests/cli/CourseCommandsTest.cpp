@@ -142,14 +142,38 @@ TEST_F(CourseCommands, TargetsTellsWhatIsWrongWithAFile) {
   EXPECT_THAT(Stopped(""), testing::HasSubstr("missing.pol: "));
 }
 
+TEST_F(CourseCommands, TargetsReadsNoEndlessLine) {
+  Options.Query.reset();
+  EXPECT_EQ(Stopped("145 100 -45 12\n" + std::string(5000, ' ') + "145 100 -45 12\n"),
+            "line 2: longer than 4096 characters");
+}
+
+TEST_F(CourseCommands, AreSmoothWhenAsked) {
+  // In 10 kn between columns of 4, 8 and 12 kn: stepped 4 + (12 - 4) / 2, smooth 4 + (8 - 4) / 2 at 5 to 15.
+  WriteFile(Folder / "s.pol", "TWA\t5\t15\t25\n40\t4\t8\t12\n180\t4\t8\t12\n");
+  Options.File = (Folder / "s.pol").string();
+  Options.Query = CourseQuery{145.0F, 200.0F, -45.0F, 10.0F};
+  EXPECT_THAT(Targets(), testing::StartsWith("direct 8.00 kn\n"));
+  Options.Smooth = true;
+  EXPECT_THAT(Targets(), testing::StartsWith("direct 6.00 kn\n"));
+  Options.BoatSpeed = 3.0F;
+  EXPECT_THAT(Targets(), testing::StartsWith("direct 3.00 kn\n")) << "scaled by the smooth speed";
+  std::ostringstream out;
+  PolarBestCommand({Options.File, 10.0F, false}, out);
+  EXPECT_THAT(out.str(), testing::EndsWith("downwind 180.0 deg, 8.00 kn\n"));
+  out.str("");
+  PolarBestCommand({Options.File, 10.0F, true}, out);
+  EXPECT_THAT(out.str(), testing::EndsWith("downwind 180.0 deg, 6.00 kn\n"));
+}
+
 TEST_F(CourseCommands, BestPrintsBothAngles) {
   WriteFile(Folder / "b.pol", "TWA\t5\t20\n40\t6\t6\n90\t6\t6\n150\t8\t8\n180\t2\t2\n");
   std::ostringstream out;
-  PolarBestCommand((Folder / "b.pol").string(), 12.0F, out);
+  PolarBestCommand({(Folder / "b.pol").string(), 12.0F, false}, out);
   // 6 cos(40) and 8 cos(30).
   EXPECT_EQ(out.str(), "upwind 40.0 deg, 4.60 kn\ndownwind 150.0 deg, 6.93 kn\n");
   out.str("");
-  PolarBestCommand((Folder / "b.pol").string(), 0.0F, out);
+  PolarBestCommand({(Folder / "b.pol").string(), 0.0F, false}, out);
   EXPECT_EQ(out.str(), "upwind none\ndownwind none\n");
 }
 

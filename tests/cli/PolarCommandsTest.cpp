@@ -52,6 +52,22 @@ TEST_F(PolarCommands, SpeedSeesApparentAngles) {
   EXPECT_FLOAT_EQ(std::stof(Speeds({File("a.pol"), 1.0F, true, 60.0F, 20.0F})), expected);
 }
 
+TEST_F(PolarCommands, SpeedIsSmoothWhenAsked) {
+  PolarSpeedOptions options{File("a.pol"), 1.0F, false, 80.0F, 8.0F};
+  EXPECT_EQ(Speeds(options), "8\n");
+  options.Smooth = true;
+  EXPECT_EQ(Speeds(options), "6.5\n");
+}
+
+TEST_F(PolarCommands, SpeedReadsNoEndlessLine) {
+  const std::string line(4096, ' ');
+  EXPECT_EQ(Speeds({File("a.pol"), 1.0F, false, {}, {}}, line.substr(5) + "80 20\n"), "11\n");
+  EXPECT_EQ(Stopped([&] {
+              Speeds({File("a.pol"), 1.0F, false, {}, {}}, "80 20\n" + line + "80 20\n");
+            }),
+            "line 2: longer than 4096 characters");
+}
+
 TEST_F(PolarCommands, SpeedReadsPairs) {
   EXPECT_EQ(Speeds({File("a.pol"), 1.0F, false, {}, {}}, "80 20\n\t-120\t17 \r\n180 30"), "11\n12\n9\n");
   EXPECT_EQ(Speeds({File("a.pol"), 1.0F, false, {}, {}}, ""), "");

@@ -23,6 +23,24 @@ TEST(FindBestAngles, FindsTheMostWayToWindwardAndToLeeward) {
               (18.0 - static_cast<double>(best.Downwind->Angle) / 15.0) * -std::cos(radians), 1e-5);
 }
 
+TEST(FindBestAngles, LooksDeadDownwindToo) {
+  const BestAngles best = FindBestAngles(TableOf("TWA\t5\t20\n40\t6\t6\n150\t5\t5\n180\t9\t9\n"), 12.0F);
+  ASSERT_TRUE(best.Downwind.has_value());
+  EXPECT_EQ(best.Downwind->Angle, 180.0F);
+  EXPECT_EQ(best.Downwind->MadeGood, 9.0F);
+}
+
+TEST(FindBestAngles, FollowsSmoothLookups) {
+  PolarTable table = TableOf(kSmallPolar);
+  const BestAngles stepped = FindBestAngles(table, 8.0F);
+  table.Smooth(true);
+  const BestAngles smooth = FindBestAngles(table, 8.0F);
+  ASSERT_TRUE(stepped.Downwind && smooth.Downwind);
+  // Dead downwind 4 kn smooth and 6 kn stepped.
+  EXPECT_LT(smooth.Downwind->MadeGood, 5.0F);
+  EXPECT_GT(stepped.Downwind->MadeGood, 5.0F);
+}
+
 TEST(FindBestAngles, HasNoneWhereThePolarMakesNoWay) {
   const BestAngles reach = FindBestAngles(TableOf("TWA\t5\t20\n91\t6\t6\n150\t8\t8\n"), 12.0F);
   EXPECT_FALSE(reach.Upwind.has_value());

@@ -3,6 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <utility>
+
 #include "tests/support/PolarText.h"
 
 namespace veerwatch {
@@ -50,6 +53,41 @@ class Ledger : public testing::Test {
 TEST_F(Ledger, ShowsHeadingsAndSharesForATargetBearing) {
   EXPECT_THAT(Figures(), ElementsAre("Heading (M)=145", "Stb (M)=55 (50%)", "Prt (M)=145 (50%)",
                                      "Target (M)=100", "Target (Kts)=4.2"));
+}
+
+TEST_F(Ledger, SteersTheSameInEitherPlotWhenSmooth) {
+  PolarTable table = TableOf(kSmallPolar);
+  Input.Query.WindSpeedTrue = 8.0F;
+  const auto headings = [&](PlotType type) {
+    table.Type(type);
+    const CourseSolution solution = CourseTargets(table, Input.Query);
+    return std::pair(solution.Legs[0].Heading, solution.Legs[1].Heading);
+  };
+  EXPECT_NE(headings(PlotType::TrueWind), headings(PlotType::ApparentWind));
+  table.Smooth(true);
+  EXPECT_EQ(headings(PlotType::TrueWind), headings(PlotType::ApparentWind));
+}
+
+TEST_F(Ledger, DrawsSmoothLegsWhereThePlotHasThem) {
+  PolarTable table = TableOf(kSmallPolar);
+  table.Smooth(true);
+  Settings.SmoothWinds = true;
+  Input.Query.WindSpeedTrue = 10.0F;
+  const LedgerContent inTrue = Content(table);
+  Settings.Type = PlotType::ApparentWind;
+  table.Type(PlotType::ApparentWind);
+  const LedgerContent apparent = Content(table);
+  ASSERT_EQ(inTrue.Legs.size(), 2U);
+  ASSERT_EQ(apparent.Legs.size(), 2U);
+  for (std::size_t i = 0; i < 2; ++i) {
+    const double angle = inTrue.Legs[i].WindAngle * std::acos(-1.0) / 180.0;
+    const double speed = inTrue.Legs[i].Speed;
+    const double seen = std::atan2(10.0 * std::sin(angle), speed + 10.0 * std::cos(angle));
+    EXPECT_NEAR(apparent.Legs[i].WindAngle, seen * 180.0 / std::acos(-1.0), 1e-4);
+    EXPECT_EQ(apparent.Legs[i].Speed, speed);
+  }
+  EXPECT_LT(apparent.Legs[0].WindAngle * apparent.Legs[1].WindAngle, 0.0) << "one at either side";
+  EXPECT_EQ(Rows(apparent), Rows(inTrue));
 }
 
 TEST_F(Ledger, ShowsTheWaypointForItsBearing) {

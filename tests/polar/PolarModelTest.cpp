@@ -113,6 +113,31 @@ TEST_F(PolarModelTest, LooksUpTheTrueWindInEitherPlotType) {
   EXPECT_NEAR(Model.PolarSpeed(), table.PolarSpeed(0, 60.0F, 20.0F), 1e-3F);
 }
 
+TEST_F(PolarModelTest, LooksUpAnewWhenWindsBecomeSmooth) {
+  Model.Average(0.0F);
+  Model.Update(TrackMode::Manual, Sailing(-80.0F, 8.0F, 6.5F), true);
+  ASSERT_NEAR(Model.PolarSpeed(), 8.0F, 1e-3F);
+  const auto version = Model.Version();
+  Model.ToggleSmoothWinds();
+  EXPECT_TRUE(Model.Settings().SmoothWinds);
+  EXPECT_NEAR(Model.PolarSpeed(), 6.5F, 1e-3F) << "without waiting for an update";
+  EXPECT_EQ(Model.Readout().BoatPercent, "100%");
+  EXPECT_NE(Model.Version(), version) << "a solution of before counts no more";
+  Model.ShowWind(PlotType::ApparentWind);
+  EXPECT_NEAR(Model.PolarSpeed(), 6.5F, 1e-3F);
+  Model.ToggleSmoothWinds();
+  EXPECT_FALSE(Model.Table().Smooth());
+}
+
+TEST_F(PolarModelTest, StartsSmoothWhereTheProfileSaysSo) {
+  Profile profile;
+  profile.ProfileSet("Polar Data", "Smooth Between Winds", true);
+  Model.Reset(&profile);
+  EXPECT_TRUE(Model.Table().Smooth());
+  Model.Reset(nullptr);
+  EXPECT_FALSE(Model.Table().Smooth());
+}
+
 TEST_F(PolarModelTest, ReadsOutSpeedsAndWind) {
   EXPECT_EQ(Model.Readout().BoatValue, "");
   EXPECT_EQ(Model.Readout().ReferenceCaption, "Polar (Kts)");

@@ -32,6 +32,7 @@ TEST(PolarSettings, HaveTheirDefaults) {
   EXPECT_EQ(settings.CourseWaypointIndex, CourseSource::None);
   EXPECT_EQ(settings.BoatMotorSpeed, 3.0F);
   EXPECT_EQ(settings.Boat, BoatType::SailOnly);
+  EXPECT_FALSE(settings.SmoothWinds);
 }
 
 TEST(PolarSettings, AreWrittenUnderTheirKeys) {
@@ -41,7 +42,7 @@ TEST(PolarSettings, AreWrittenUnderTheirKeys) {
             "[Polar Data]\nFile 1=Fast Sled 60ft.pol\nFile 2=Fast Sled 60ft.pol\nPlot Average=2\n"
             "Plot Label WindSpeed=False\nPlot Type=0\nSpeed Color=0\nSpeed Factor=1\nSpeed Range=10\n"
             "Course Scale=True\nCourse Target Bearing=0\nCourse Waypoint=False\nCourse Waypoint Index=3\n"
-            "Boat Motor Speed=3\nBoat Type=0\n");
+            "Boat Motor Speed=3\nBoat Type=0\nSmooth Between Winds=False\n");
 }
 
 TEST(PolarSettings, ComeBackAsTheyWere) {
@@ -59,6 +60,7 @@ TEST(PolarSettings, ComeBackAsTheyWere) {
   settings.CourseWaypointIndex = CourseSource::WaypointRange;
   settings.BoatMotorSpeed = 4.5F;
   settings.Boat = BoatType::MotorAndSail;
+  settings.SmoothWinds = true;
   Profile profile;
   PolarStore(profile, settings, {});
   PolarSettings again;
@@ -76,6 +78,7 @@ TEST(PolarSettings, ComeBackAsTheyWere) {
   EXPECT_EQ(again.CourseWaypointIndex, CourseSource::WaypointRange);
   EXPECT_EQ(again.BoatMotorSpeed, 4.5F);
   EXPECT_EQ(again.Boat, BoatType::MotorAndSail);
+  EXPECT_TRUE(again.SmoothWinds);
 }
 
 TEST(PolarSettings, KeepTheirDefaultsWhereTheProfileHoldsNonsense) {

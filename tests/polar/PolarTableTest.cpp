@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
+#include <vector>
 
 #include "tests/support/PolarText.h"
 
@@ -156,6 +158,142 @@ TEST(PolarSpeed, IsFiniteAllOverTheTable) {
 TEST(PolarSpeed, IsNeverBelowZeroWithAngleHeadingsBelowZero) {
   const PolarTable table = TableOf("TWA\t10\n-49\t1.6\n0.00000000000000000001\t0\n");
   EXPECT_EQ(table.PolarSpeed(0, 0.0F, 10.0F), 0.0F);
+}
+
+/// The table of `text` with smooth lookups.
+PolarTable SmoothOf(const char* text) {
+  PolarTable table = TableOf(text);
+  table.Smooth(true);
+  return table;
+}
+
+TEST(PolarSpeedSmooth, LiesOnTheLinesBetweenTheTwoNeighbouringWinds) {
+  const PolarTable table = SmoothOf(kSmallPolar);
+  // At 80 degrees 5 kn in 6 and 8 in 10; at 120 degrees 4.5 and 7.5.
+  EXPECT_FLOAT_EQ(table.PolarSpeed(0, 80.0F, 8.0F), 6.5F);
+  EXPECT_FLOAT_EQ(table.PolarSpeed(0, 100.0F, 8.0F), 6.25F);
+  EXPECT_FLOAT_EQ(table.PolarSpeed(0, 80.0F, 17.0F), 10.0F) << "as without smooth";
+  for (int row = 1; row <= 4; ++row) {
+    for (int column = 1; column <= 4; ++column) {
+      EXPECT_EQ(table.PolarSpeed(0, table.Value(0, row, 0), table.Value(0, 0, column)),
+                table.Value(0, row, column));
+    }
+  }
+}
+
+TEST(PolarSpeedSmooth, HasNoStepAtAWind) {
+  const PolarTable table = SmoothOf(kSmallPolar);
+  for (const float wind : {6.0F, 10.0F, 14.0F, 20.0F}) {
+    for (float angle = 40.0F; angle <= 180.0F; angle += 2.5F) {
+      const float at = table.PolarSpeed(0, angle, wind);
+      EXPECT_NEAR(table.PolarSpeed(0, angle, wind - 0.001F), at, 0.002F) << angle << " " << wind;
+      EXPECT_NEAR(table.PolarSpeed(0, angle, wind + 0.001F), at, 0.002F) << angle << " " << wind;
+    }
+  }
+}
+
+TEST(PolarSpeedSmooth, GrowsFromNothingInNoWindAndStaysAboveTheLastWind) {
+  const PolarTable table = SmoothOf(kSmallPolar);
+  EXPECT_EQ(table.PolarSpeed(0, 80.0F, 0.0F), 0.0F);
+  EXPECT_FLOAT_EQ(table.PolarSpeed(0, 80.0F, 3.0F), 2.5F);
+  EXPECT_EQ(table.PolarSpeed(0, 80.0F, -3.0F), 0.0F);
+  EXPECT_EQ(table.PolarSpeed(0, 80.0F, 60.0F), 11.0F);
+  const PolarTable calm = SmoothOf("TWA\t0\t10\n40\t1\t5\n90\t2\t7\n");
+  EXPECT_EQ(calm.PolarSpeed(0, 90.0F, 0.0F), 2.0F) << "a column of no wind has speeds of its own";
+  EXPECT_FLOAT_EQ(calm.PolarSpeed(0, 90.0F, 5.0F), 4.5F);
+}
+
+TEST(PolarSpeedSmooth, LeadsTheOnlyWindToNothingAsAnyOther) {
+  const PolarTable table = SmoothOf("TWA\t10\n40\t5\n90\t7\n");
+  EXPECT_FLOAT_EQ(table.PolarSpeed(0, 65.0F, 5.0F), 3.0F);
+  EXPECT_FLOAT_EQ(table.PolarSpeed(0, 65.0F, 10.0F), 6.0F);
+  EXPECT_FLOAT_EQ(table.PolarSpeed(0, 65.0F, 30.0F), 6.0F);
+}
+
+TEST(PolarSpeedSmooth, IsNothingOutsideOfTheAnglesAndWithoutTwoRows) {
+  const PolarTable table = SmoothOf(kTwoWinds);
+  EXPECT_EQ(table.PolarSpeed(0, 29.9F, 15.0F), 0.0F);
+  EXPECT_EQ(table.PolarSpeed(0, 150.1F, 15.0F), 0.0F);
+  EXPECT_EQ(SmoothOf("TWA\t10\n40\t5\n").PolarSpeed(0, 40.0F, 10.0F), 0.0F);
+  EXPECT_EQ(SmoothOf("TWA\t10\t12\n").PolarSpeed(0, 40.0F, 10.0F), 0.0F);
+  PolarTable empty;
+  empty.Smooth(true);
+  EXPECT_EQ(empty.PolarSpeed(0, 60.0F, 10.0F), 0.0F);
+}
+
+TEST(PolarSpeedSmooth, TakesACellOfNothingForASpeed) {
+  // No speed is known in 20 kn: half way there it is half of that in 10.
+  const PolarTable table = SmoothOf("TWA\t10\t20\n40\t4\t\n90\t6\t0\n");
+  EXPECT_FLOAT_EQ(table.PolarSpeed(0, 90.0F, 15.0F), 3.0F);
+  EXPECT_EQ(table.PolarSpeed(0, 40.0F, 25.0F), 0.0F);
+}
+
+TEST(PolarSpeedSmooth, WorksOnTrueAnglesInEitherPlot) {
+  PolarTable table = SmoothOf(kSmallPolar);
+  std::vector<float> speeds;
+  const auto look = [&](float angle, float wind) { return table.PolarSpeed(0, angle, wind); };
+  for (float angle = 0.0F; angle <= 180.0F; angle += 10.0F) {
+    speeds.push_back(look(angle, 8.0F));
+  }
+  table.Type(PlotType::ApparentWind);
+  for (std::size_t i = 0; i < speeds.size(); ++i) {
+    EXPECT_EQ(look(static_cast<float>(i) * 10.0F, 8.0F), speeds[i]) << i;
+  }
+  EXPECT_LT(table.PolarPoint(0, 2, 2).Angle, 79.0F) << "what is drawn stays in the apparent wind";
+}
+
+TEST(PolarSpeedSmooth, IsFiniteAndNeverBelowZeroInAnyOrder) {
+  const PolarTable table = SmoothOf("TWA\t10\t6\t20\t20\n90\t5\t4\t9\t8\n40\t3\t2\t7\t7\n120\t6\t5\t9\t1\n");
+  for (float angle = 0.0F; angle <= 180.0F; angle += 7.5F) {
+    for (const float wind : {-5.0F, 0.0F, 1.0F, 6.0F, 8.0F, 10.0F, 12.0F, 20.0F, 1e30F}) {
+      const float speed = table.PolarSpeed(0, angle, wind);
+      EXPECT_TRUE(std::isfinite(speed) && speed >= 0.0F && speed <= 9.0F) << angle << " " << wind;
+    }
+  }
+}
+
+TEST(PolarFindColumn, GivesTheTwoWindsAround) {
+  const PolarTable table = TableOf(kSmallPolar);
+  const auto found = [&](float wind) {
+    const ColumnBracket columns = table.PolarFindColumn(0, wind);
+    return std::array<float, 3>{static_cast<float>(columns.Lower), static_cast<float>(columns.Upper),
+                                columns.WindSpeed};
+  };
+  EXPECT_EQ(found(5.0F), (std::array{0.0F, 1.0F, 5.0F}));
+  EXPECT_EQ(found(6.0F), (std::array{1.0F, 1.0F, 6.0F}));
+  EXPECT_EQ(found(12.0F), (std::array{2.0F, 3.0F, 12.0F}));
+  EXPECT_EQ(found(14.0F), (std::array{2.0F, 3.0F, 14.0F}));
+  EXPECT_EQ(found(20.0F), (std::array{3.0F, 4.0F, 20.0F}));
+  EXPECT_EQ(found(30.0F), (std::array{3.0F, 4.0F, 20.0F}));
+  EXPECT_EQ(PolarTable().PolarFindColumn(0, 8.0F).Upper, 0);
+}
+
+TEST(PolarSpeed, LooksInEveryColumnWhileOneOfThemHoldsAnApparentAngle) {
+  PolarTable table = TableOf("TWA\t6\t10\t14\t20\n40\t4\t6\t7\t8\n80\t5\t8\t9\t11\n120\t4.5\t7.5\t10\t14\n");
+  table.Type(PlotType::ApparentWind);
+  // The first row stands at 24.2 degrees in the first column and at 28.9 in the last.
+  ASSERT_LT(table.PolarPoint(0, 1, 2).Angle, 26.0F);
+  ASSERT_GT(table.PolarPoint(0, 1, 3).Angle, 26.0F);
+  const PolarCell low = table.PolarPoint(0, 1, 2);
+  const PolarCell high = table.PolarPoint(0, 2, 2);
+  EXPECT_FLOAT_EQ(table.PolarSpeed(0, 26.0F, 20.0F), Interpolate(26.0F, low.Angle, high.Angle, 6.0F, 8.0F));
+  // The last row stands at 73.9 degrees in the first column and at 77.0 in the last.
+  ASSERT_LT(table.PolarPoint(0, 3, 1).Angle, 76.0F);
+  const PolarCell near = table.PolarPoint(0, 2, 4);
+  const PolarCell far = table.PolarPoint(0, 3, 4);
+  ASSERT_GT(far.Angle, 76.0F);
+  EXPECT_FLOAT_EQ(table.PolarSpeed(0, 76.0F, 20.0F), Interpolate(76.0F, near.Angle, far.Angle, 11.0F, 14.0F));
+}
+
+TEST(PolarNearest, MeasuresEachWayByItsOwnScale) {
+  const PolarTable table = TableOf("TWA\t10\n0\t5\n90\t5\n");
+  const PolarGeometry geometry{100.0, 100.0, 20.0, 4.0};
+  const NearestCell abeam = table.PolarNearest(0, 200.0, 100.0, geometry);
+  EXPECT_EQ(abeam.Cell.Angle, 90.0F);
+  EXPECT_NEAR(abeam.SquaredDistance, 0.0, 1e-9);
+  const NearestCell ahead = table.PolarNearest(0, 100.0, 77.0, geometry);
+  EXPECT_EQ(ahead.Cell.Angle, 0.0F);
+  EXPECT_NEAR(ahead.SquaredDistance, 9.0, 1e-9);
 }
 
 TEST(PolarNearest, FindsTheCellUnderAPointOnEitherSide) {

@@ -189,6 +189,23 @@ TEST_F(PolarLedger, FollowsTheBoatSpeedWhileCourseScaleIsTicked) {
   EXPECT_EQ(Figures().back(), "Wpt (h:m)=2:50");
 }
 
+TEST_F(PolarLedger, SteersTheSameInEitherPlotWhenSmooth) {
+  WriteFile(Program / kDefaultPolar, kSmallPolar);
+  StartTo(100.0F);
+  Moment moment;
+  moment.WindSpeed = 8.0F;
+  At(moment);
+  const auto stepped = Figures();
+  Choose("mnuWindApparent");
+  ASSERT_NE(Figures(), stepped) << "looked up by the apparent wind";
+  Choose("mnuOverlaySmooth");
+  const auto smooth = Figures();
+  Choose("mnuWindTrue");
+  EXPECT_EQ(Figures(), smooth);
+  Choose("mnuOverlaySmooth");
+  EXPECT_EQ(Figures(), stepped) << "no solution of before is kept";
+}
+
 TEST_F(PolarLedger, UsesTheAverages) {
   Store.ProfileSet("Polar Data", "Plot Average", 2.0F);
   StartTo(100.0F);

@@ -40,7 +40,8 @@ TEST_F(PolarWindow, HasItsCaptionAndItsMenus) {
   EXPECT_THAT(Items(Find<QMenu>("mnuPolars")),
               ElementsAre("mnuOverlayFile1=Open...", "mnuSaveAs=Save As...", "mnuSeparator4=-",
                           "mnuOverlayColor=Set Color...", "mnuOverlayScale=Set Scaling (100%)...",
-                          "mnuSeparartor5=-", "mnuOverlayFile2=Show Reference..."));
+                          "mnuOverlaySmooth=Smooth Between Winds", "mnuSeparartor5=-",
+                          "mnuOverlayFile2=Show Reference..."));
   EXPECT_THAT(Items(Find<QMenu>("mnuAverage")),
               ElementsAre("mnuAverage0=  None", "mnuAverage2=  2 Sec", "mnuAverage4=  4 Sec",
                           "mnuAverage8=  8 Sec", "mnuAverage16=16 Sec", "mnuAverage32=32 Sec"));
@@ -180,6 +181,25 @@ TEST_F(PolarWindow, OpensScalesAndSavesPolars) {
   EXPECT_FALSE(Ticked("mnuOverlayFile2"));
   EXPECT_EQ(Window->Model().Table().Value(0, 1, 1), 6.0F);
   EXPECT_TRUE(Dialogs.Messages.empty());
+}
+
+TEST_F(PolarWindow, SmoothsBetweenWindsWhenTicked) {
+  Store.ProfileSet("Polar Data", "Plot Average", 0.0F);
+  Start();
+  EXPECT_FALSE(Ticked("mnuOverlaySmooth"));
+  Sail(80.0F, 8.0F, 6.5F);
+  EXPECT_EQ(Values.back().second, "8.0 deg");
+  Choose("mnuOverlaySmooth");
+  EXPECT_TRUE(Ticked("mnuOverlaySmooth"));
+  EXPECT_EQ(Window->Model().Readout().BoatPercent, "100%") << "without waiting for an update";
+  Sail(80.0F, 8.0F, 6.5F);
+  EXPECT_EQ(Values.back().second, "6.5 deg");
+  Window->PolarStore();
+  bool stored = false;
+  Store.ProfileGet("Polar Data", "Smooth Between Winds", stored);
+  EXPECT_TRUE(stored);
+  Choose("mnuOverlaySmooth");
+  EXPECT_FALSE(Ticked("mnuOverlaySmooth"));
 }
 
 TEST_F(PolarWindow, TellsAboutAMissingDefaultPolarAndGoesOn) {
