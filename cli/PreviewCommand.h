@@ -16,7 +16,8 @@ struct PreviewOptions {
 };
 
 /// Writes a line a second, time [s] and bearing [deg]; or the figures of TrackFigures, a line each. Throws
-/// CommandError where the inputs allow no response, or it leaves the range of a single.
+/// CommandError where the inputs allow no response, where the options would not take the bandwidth or the
+/// damping, or where the response leaves the range of a single.
 void PreviewCommand(const PreviewOptions& options, std::ostream& out);
 
 }  // namespace veerwatch

@@ -7,6 +7,18 @@
 
 namespace veerwatch {
 
+bool Allows(OptionRange range, float value) {
+  switch (range) {
+    case OptionRange::NotNegative:
+      return value >= 0.0F;
+    case OptionRange::Positive:
+      return value > 0.0F;
+    case OptionRange::Any:
+      break;
+  }
+  return true;
+}
+
 std::string_view FaultText(OptionFault fault) {
   switch (fault) {
     case OptionFault::TypeMismatch:

@@ -14,6 +14,15 @@ enum class OptionFault {
   InvalidValue,  ///< a number that the setting cannot be
 };
 
+/// What numbers a setting can be.
+enum class OptionRange { Any, NotNegative, Positive };
+
+/// The ranges of the loop's settings, for Apply and for whoever shows what they would do.
+inline constexpr OptionRange kTrackBandwidthRange = OptionRange::Positive;
+inline constexpr OptionRange kTrackDampingRange = OptionRange::NotNegative;
+
+bool Allows(OptionRange range, float value);
+
 /// "Type mismatch", "Overflow", "Invalid property value".
 std::string_view FaultText(OptionFault fault);
 

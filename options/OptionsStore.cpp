@@ -10,26 +10,12 @@ namespace veerwatch {
 
 namespace {
 
-enum class Range { Any, NotNegative, Positive };
-
 /// A text and the setting that it goes to.
 struct Item {
   const std::string& Text;
   float& Setting;
-  Range Allowed = Range::Any;
+  OptionRange Allowed = OptionRange::Any;
 };
-
-bool Allows(Range range, float value) {
-  switch (range) {
-    case Range::NotNegative:
-      return value >= 0.0F;
-    case Range::Positive:
-      return value > 0.0F;
-    case Range::Any:
-      break;
-  }
-  return true;
-}
 
 /// Stores them one after the other, up to the first fault.
 std::optional<OptionFault> StoreSingles(std::initializer_list<Item> items) {
@@ -82,8 +68,8 @@ OptionsStore::Fault OptionsStore::StoreData(const OptionsForm& form) {
   }
   m_main.m_iNmeaTrueWind = Source(form.NmeaTrueWind);
   return StoreSingles(
-      {{form.NmeaTrueWindAverage, m_main.m_fNmeaTrueWindAverage, Range::NotNegative},
-       {form.NmeaWindIndicatorAverage, m_main.m_fNmeaWindIndicatorAverage, Range::NotNegative}});
+      {{form.NmeaTrueWindAverage, m_main.m_fNmeaTrueWindAverage, OptionRange::NotNegative},
+       {form.NmeaWindIndicatorAverage, m_main.m_fNmeaWindIndicatorAverage, OptionRange::NotNegative}});
 }
 
 OptionsStore::Fault OptionsStore::StoreInput(const OptionsForm& form) {
@@ -156,9 +142,9 @@ OptionsStore::Fault OptionsStore::StoreTime(const std::string& text) {
 
 OptionsStore::Fault OptionsStore::StoreTracking(const OptionsForm& form) {
   m_main.m_bTrackAlarm = form.TrackAlarm;
-  return StoreSingles({{form.TrackAlarmLimit, m_main.m_fTrackAlarmLimit, Range::NotNegative},
-                       {form.TrackBandwidth, m_main.m_fTrackBandwidth, Range::Positive},
-                       {form.TrackDamping, m_main.m_fTrackDamping, Range::NotNegative},
+  return StoreSingles({{form.TrackAlarmLimit, m_main.m_fTrackAlarmLimit, OptionRange::NotNegative},
+                       {form.TrackBandwidth, m_main.m_fTrackBandwidth, kTrackBandwidthRange},
+                       {form.TrackDamping, m_main.m_fTrackDamping, kTrackDampingRange},
                        {form.TrackMaxSteerTo, m_main.m_fTrackMaxSteerTo}});
 }
 

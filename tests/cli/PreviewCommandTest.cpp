@@ -64,6 +64,13 @@ TEST(PreviewCommand, BadInputsStopItWithOneLine) {
   EXPECT_EQ(Stopped({30.0, 1.0, 10.0, 1.0, 1e9}), "Time must be at most 1000000 seconds");
 }
 
+TEST(PreviewCommand, RefusesWhatTheOptionsWouldNotTake) {
+  EXPECT_EQ(Stopped({-30.0, 1.0, 10.0, 1.0, 120.0}), "Bandwidth must be above 0");
+  EXPECT_EQ(Stopped({1e-50, 0.0, 10.0, 1.0, 120.0}), "Bandwidth must be above 0") << "0 as a single";
+  EXPECT_EQ(Stopped({30.0, -0.5, 10.0, 1.0, 120.0}), "Damping must not be below 0");
+  EXPECT_EQ(Stopped({30.0, 0.0, 10.0, 1.0, 120.0}), "");
+}
+
 TEST(PreviewCommand, ResponseBeyondASingleStopsIt) {
   const std::string grows = "Bandwidth: the response grows beyond all numbers";
   EXPECT_EQ(Stopped({0.01, 1.0, 10.0, 1.0, 1000.0}), grows);
