@@ -258,6 +258,11 @@ std::string Profile::Content() const {
 }
 
 std::optional<std::string> Profile::Commit(const std::filesystem::path& file) const {
+  const std::string content = Content();
+  if (content.size() > kLargestFile) {
+    return "cannot write " + file.string() + ": it would be larger than " + std::to_string(kLargestFile) +
+           " bytes, and not read again";
+  }
   std::error_code error;
   Profile present;
   if (std::filesystem::is_regular_file(file, error) && present.Load(file) == LoadResult::Unreadable) {
@@ -271,7 +276,7 @@ std::optional<std::string> Profile::Commit(const std::filesystem::path& file) co
       return "cannot put " + file.string() + " aside: " + error.message();
     }
   }
-  return WriteAtomically(file, Content());
+  return WriteAtomically(file, content);
 }
 
 }  // namespace veerwatch

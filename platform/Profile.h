@@ -57,7 +57,7 @@ class Profile {
 
   /// Writes all of it beside `file` and then puts it in place in one step, so that a crash or a full disk
   /// never costs the old file. A file that lies there and cannot be read is put aside as "<file>.unreadable"
-  /// first. Nothing when done, else what went wrong, as one line.
+  /// first. More than may be read again is not written. Nothing when done, else what went wrong, as one line.
   std::optional<std::string> Commit(const std::filesystem::path& file) const;
 
   /// All lines as they would be written.

@@ -87,6 +87,24 @@ TEST_F(ProfileTest, AFileWithoutReadPermissionIsUnreadable) {
   EXPECT_EQ(profile.Load(m_file), Profile::LoadResult::Unreadable);
 }
 
+TEST_F(ProfileTest, WritesNothingThatItWouldNotReadAgain) {
+  const std::string start = "[A]\nx=1\n";
+  const std::string before = start + std::string(Profile::kLargestFile - start.size() - 4, ';');
+  WriteFile(m_file, before);
+  Profile profile;
+  ASSERT_EQ(profile.Load(m_file), Profile::LoadResult::Read);
+  profile.ProfileSet("A", "x", "12345");
+  EXPECT_EQ(profile.Content().size(), Profile::kLargestFile);
+  EXPECT_EQ(profile.Commit(m_file), std::nullopt) << "the largest one";
+  EXPECT_EQ(profile.Load(m_file), Profile::LoadResult::Read);
+  WriteFile(m_file, before);
+  profile.ProfileSet("A", "x", "123456");
+  const auto failure = profile.Commit(m_file);
+  ASSERT_TRUE(failure.has_value());
+  EXPECT_NE(failure->find("larger than 1048576 bytes"), std::string::npos) << *failure;
+  EXPECT_TRUE(ReadFile(m_file) == before) << "the old one stays";
+}
+
 TEST_F(ProfileTest, AFileOfTheLargestSizeIsReadAndALargerOneIsNot) {
   const std::string start = "[S]\nK=5\n";
   std::string content = start + std::string(Profile::kLargestFile - start.size(), ';');
