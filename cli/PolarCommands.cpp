@@ -2,13 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <filesystem>
-#include <fstream>
 #include <string_view>
-#include <system_error>
 
 #include "cli/Steering.h"
 #include "platform/NumberText.h"
+#include "platform/WholeFile.h"
 #include "polar/PolarDialect.h"
 #include "polar/PolarFile.h"
 
@@ -50,6 +48,49 @@ bool Ascending(int count, Seen seen) {
     }
   }
   return true;
+}
+
+/// Where a column is slower than those of less wind.
+struct Fall {
+  int Angles = 0;       ///< at how many angles
+  int Row = 0;          ///< where it falls to the smallest share
+  double Share = 1.0;   ///< that share
+  float Before = 0.0F;  ///< the speed there in less wind [kn]
+};
+
+Fall FallOf(const PolarTable& table, int column) {
+  Fall fall;
+  for (int row = 1; row <= table.PolarRows(kSlot); ++row) {
+    float before = 0.0F;
+    for (int other = 1; other < column; ++other) {
+      before = std::max(before, table.Value(kSlot, row, other));
+    }
+    const float speed = table.Value(kSlot, row, column);
+    if (speed < before) {
+      ++fall.Angles;
+      const double share = static_cast<double>(speed) / static_cast<double>(before);
+      if (share < fall.Share) {
+        fall = {fall.Angles, row, share, before};
+      }
+    }
+  }
+  return fall;
+}
+
+/// Names the columns that fall at most angles, or at any of them by more than half.
+void WriteFalls(const PolarTable& table, std::ostream& out) {
+  constexpr double kHalf = 0.5;
+  const int rows = table.PolarRows(kSlot);
+  for (int column = 2; column <= table.PolarColumns(kSlot); ++column) {
+    const Fall fall = FallOf(table, column);
+    if (2 * fall.Angles > rows || fall.Share < kHalf) {
+      out << "boat speeds fall at " << ShortestText(table.Value(kSlot, 0, column))
+          << " kn: slower than in less wind at " << fall.Angles << " of " << rows << " angles, at "
+          << ShortestText(table.Value(kSlot, fall.Row, 0)) << " deg "
+          << ShortestText(table.Value(kSlot, fall.Row, column)) << " after " << ShortestText(fall.Before)
+          << " kn\n";
+    }
+  }
 }
 
 }  // namespace
@@ -128,40 +169,28 @@ void PolarCheckCommand(const std::string& file, std::ostream& out) {
   if (!Ascending(rows, [&](int row) { return table.Value(kSlot, row, 0); })) {
     out << "angles are not in ascending order\n";
   }
-  if (!Ascending(columns, [&](int column) { return table.Value(kSlot, 0, column); })) {
+  if (Ascending(columns, [&](int column) { return table.Value(kSlot, 0, column); })) {
+    WriteFalls(table, out);
+  } else {
     out << "wind speeds are not in ascending order\n";
   }
 }
 
 void PolarConvertCommand(const std::string& from, const std::string& to, std::ostream& notes) {
-  std::error_code error;
-  std::ifstream stream(from, std::ios::binary);
-  if (std::filesystem::is_directory(from, error) || !stream.is_open() || (stream.peek(), stream.bad())) {
-    throw CommandError("cannot read " + from);
+  const WholeFile whole = ReadWholeFile(from, kLargestDialect);
+  if (!whole.Error.empty()) {
+    throw CommandError("cannot read " + from + ": " + whole.Error);
   }
-  stream.clear();
   PolarTable table;
-  if (const auto trouble = PolarReadDialect(table, kSlot, stream)) {
-    throw CommandError(from + ": " + *trouble);
+  const DialectResult result = PolarReadDialect(table, kSlot, whole.Bytes);
+  if (!result.Error.empty()) {
+    throw CommandError(from + ": " + result.Error);
   }
-  const auto whole = [](float value) { return FormatNumber(value, "0"); };
-  bool rounded = false;
-  const auto look = [&](int count, const char* what, auto value) {
-    for (int i = 1; i <= count; ++i) {
-      rounded = rounded || whole(value(i)) != ShortestText(value(i));
-      if (i > 1 && whole(value(i)) == whole(value(i - 1))) {
-        throw CommandError(from + ": the " + what + " " + ShortestText(value(i - 1)) + " and " +
-                           ShortestText(value(i)) + " are one when rounded to whole numbers");
-      }
-    }
-  };
-  look(table.PolarRows(kSlot), "angles", [&](int row) { return table.Value(kSlot, row, 0); });
-  look(table.PolarColumns(kSlot), "wind speeds", [&](int column) { return table.Value(kSlot, 0, column); });
-  if (const auto failure = PolarSave(table, kSlot, to)) {
+  if (const auto failure = PolarSave(table, kSlot, to, PolarHeads::Exact)) {
     throw CommandError(*failure);
   }
-  if (rounded) {
-    notes << "veerwatch-cli: " << from << ": angles and wind speeds are rounded to whole numbers\n";
+  if (!result.Note.empty()) {
+    notes << "veerwatch-cli: " << from << ": " << result.Note << '\n';
   }
 }
 

@@ -40,8 +40,8 @@ void PolarSpeedCommand(const PolarSpeedOptions& options, std::istream& in, std::
 /// wrong with it.
 void PolarCheckCommand(const std::string& file, std::ostream& out);
 
-/// Reads a table in any of the known spellings and writes it in the program's own. What is rounded on the way
-/// is told in `notes`. Throws CommandError.
+/// Reads a table in any of the known spellings and writes it in the program's own, angles and wind speeds as
+/// they are. What is left out is told in `notes`. Throws CommandError.
 void PolarConvertCommand(const std::string& from, const std::string& to, std::ostream& notes);
 
 }  // namespace veerwatch

@@ -1,8 +1,7 @@
 #include "polar/PolarDialect.h"
 
 #include <algorithm>
-#include <array>
-#include <string_view>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -135,7 +134,8 @@ class Reader {
     }
   }
 
-  void Store(PolarTable& table, int slot, int lastLine) {
+  /// Gives the note.
+  std::string Store(PolarTable& table, int slot, int lastLine) {
     if (m_winds.empty()) {
       Fail(std::max(lastLine, 1), "no table");
     }
@@ -143,39 +143,43 @@ class Reader {
       Fail(lastLine, "no rows behind the wind speeds");
     }
     Sort();
-    const std::vector<Row> known = m_rows;
-    for (std::size_t row = 0; row < known.size(); ++row) {
-      for (std::size_t column = 0; column < m_winds.size(); ++column) {
-        m_rows[row].Speeds[column] = Filled(known, row, column);
+    const std::vector<std::size_t> kept = Kept();
+    // A row that cannot be filled ends it before anything is stored.
+    std::vector<std::vector<float>> speeds(m_rows.size());
+    for (std::size_t row = 0; row < m_rows.size(); ++row) {
+      for (const std::size_t wind : kept) {
+        speeds[row].push_back(Filled(row, wind));
       }
     }
-    for (std::size_t column = 0; column < m_winds.size(); ++column) {
-      table.Value(slot, 0, static_cast<int>(column) + 1) = m_winds[column].first;
+    for (std::size_t i = 0; i < kept.size(); ++i) {
+      table.Value(slot, 0, static_cast<int>(i) + 1) = m_winds[kept[i]].first;
     }
     for (std::size_t row = 0; row < m_rows.size(); ++row) {
       table.Value(slot, static_cast<int>(row) + 1, 0) = m_rows[row].Angle;
-      for (std::size_t column = 0; column < m_winds.size(); ++column) {
-        table.Value(slot, static_cast<int>(row) + 1, static_cast<int>(column) + 1) =
-            *m_rows[row].Speeds[column];
+      for (std::size_t i = 0; i < kept.size(); ++i) {
+        table.Value(slot, static_cast<int>(row) + 1, static_cast<int>(i) + 1) = speeds[row][i];
       }
     }
     table.PolarRows(slot) = static_cast<std::int16_t>(m_rows.size());
-    table.PolarColumns(slot) = static_cast<std::int16_t>(m_winds.size());
+    table.PolarColumns(slot) = static_cast<std::int16_t>(kept.size());
+    return kept.size() == m_winds.size() ? std::string()
+                                         : "of " + std::to_string(m_winds.size()) + " wind speeds " +
+                                               std::to_string(kept.size()) + " are kept";
   }
 
  private:
   void Header(int line, std::string_view text) {
     m_separator = SeparatorOf(Trimmed(text));
     const auto cells = Cells(m_separator == '\t' ? text : Trimmed(text), m_separator);
-    if (!IsCorner(cells.front())) {
-      Fail(line, 1, Quoted(cells.front()) + " where \"TWA\" should stand");
+    const std::string_view corner = cells.empty() ? std::string_view() : cells.front();
+    if (!IsCorner(corner)) {
+      Fail(line, 1, Quoted(corner) + " where \"TWA\" should stand");
     }
     if (cells.size() < 2) {
       Fail(line, 2, "no wind speeds");
     }
-    if (cells.size() - 1 > PolarTable::kMostColumns) {
-      Fail(line, PolarTable::kMostColumns + 2,
-           "more than " + std::to_string(PolarTable::kMostColumns) + " wind speeds");
+    if (cells.size() - 1 > kMostDialectWinds) {
+      Fail(line, kMostDialectWinds + 2, "more than " + std::to_string(kMostDialectWinds) + " wind speeds");
     }
     for (std::size_t i = 1; i < cells.size(); ++i) {
       const auto wind = CellNumber(cells[i], m_separator);
@@ -238,7 +242,19 @@ class Reader {
     }
   }
 
-  float Filled(const std::vector<Row>& known, std::size_t row, std::size_t column) const {
+  /// The wind speeds that a table has room for, of the sorted ones.
+  std::vector<std::size_t> Kept() const {
+    const std::size_t last = m_winds.size() - 1;
+    const std::size_t steps = std::min<std::size_t>(last, PolarTable::kMostColumns - 1);
+    std::vector<std::size_t> kept;
+    for (std::size_t i = 0; i <= steps; ++i) {
+      kept.push_back(steps == 0 ? 0 : (2 * i * last + steps) / (2 * steps));
+    }
+    return kept;
+  }
+
+  float Filled(std::size_t row, std::size_t column) const {
+    const std::vector<Row>& known = m_rows;
     if (const Speed own = known[row].Speeds[column]) {
       return *own;
     }
@@ -287,24 +303,10 @@ class Reader {
   std::vector<Row> m_rows;
 };
 
-std::string WholeText(std::istream& stream) {
-  std::string text;
-  std::array<char, 65536> part{};
-  while (stream.read(part.data(), part.size()), stream.gcount() > 0) {
-    text.append(part.data(), static_cast<std::size_t>(stream.gcount()));
-    if (text.size() > kLongestDialect) {
-      throw Trouble{"longer than " + std::to_string(kLongestDialect >> 20U) + " MiB"};
-    }
-  }
-  return text;
-}
-
 }  // namespace
 
-std::optional<std::string> PolarReadDialect(PolarTable& table, int slot, std::istream& stream) {
+DialectResult PolarReadDialect(PolarTable& table, int slot, std::string_view text) {
   try {
-    const std::string whole = WholeText(stream);
-    std::string_view text = whole;
     if (text.starts_with(kByteOrderMark)) {
       text.remove_prefix(kByteOrderMark.size());
     }
@@ -316,10 +318,9 @@ std::optional<std::string> PolarReadDialect(PolarTable& table, int slot, std::is
       const bool two = text.substr(end, 2) == "\r\n";
       text.remove_prefix(std::min(end + (two ? 2 : 1), text.size()));
     }
-    reader.Store(table, slot, line);
-    return std::nullopt;
+    return {{}, reader.Store(table, slot, line)};
   } catch (const Trouble& trouble) {
-    return trouble.Text;
+    return {trouble.Text, {}};
   }
 }
 

@@ -8,23 +8,32 @@
 // The program itself opens only its own format (polar/PolarFile); this is for converting.
 #pragma once
 
-#include <istream>
-#include <optional>
+#include <cstddef>
 #include <string>
+#include <string_view>
 
 #include "polar/PolarTable.h"
 
 namespace veerwatch {
 
-/// Longest text that is read [bytes].
-inline constexpr std::size_t kLongestDialect = 8U << 20U;
+/// Largest file that is worth reading [bytes].
+inline constexpr std::size_t kLargestDialect = 8U << 20U;
+/// Wind speeds that a text may have. A table has fewer.
+inline constexpr std::size_t kMostDialectWinds = 500;
 
-/// Reads a table into a slot, rows and columns in ascending order. Nothing when done, else what could not be
-/// read, as "line 3, column 2: ..." with cells counted from 1; the slot then is as it was.
+struct DialectResult {
+  /// What could not be read, as "line 3, column 2: ..." with cells counted from 1; "" when all was.
+  std::string Error;
+  /// What the table has otherwise than the text, in a few words; mostly "".
+  std::string Note;
+};
+
+/// Reads a table into a slot, rows and columns in ascending order. With an error the slot is as it was. Of
+/// more wind speeds than a table has columns, the first, the last and others at even steps are kept.
 ///
 /// A blank cell is filled on the straight line between its known neighbours in the row; else between those
 /// in the column; else, below the lowest known wind speed of its row, on the line from 0 at no wind; else
 /// with the value of the highest one.
-std::optional<std::string> PolarReadDialect(PolarTable& table, int slot, std::istream& stream);
+DialectResult PolarReadDialect(PolarTable& table, int slot, std::string_view text);
 
 }  // namespace veerwatch

@@ -1,12 +1,13 @@
 #include "polar/PolarFile.h"
 
-#include <cerrno>
-#include <fstream>
-#include <system_error>
+#include <sstream>
+#include <string_view>
+#include <utility>
 
 #include "instruments/MathLib.h"
 #include "platform/AtomicFile.h"
 #include "platform/NumberText.h"
+#include "platform/WholeFile.h"
 
 namespace veerwatch {
 
@@ -15,6 +16,28 @@ namespace {
 constexpr int kEnd = std::istream::traits_type::eof();
 constexpr std::size_t kLongestCell = 256;
 constexpr const char* kCorner = "TWA";
+
+constexpr const char* kTooManyRows = "more than 200 angles";
+constexpr const char* kTooManyColumns = "more than 50 wind speeds";
+static_assert(PolarTable::kMostRows == 200 && PolarTable::kMostColumns == 50);
+
+/// Which bound of a table a text goes beyond; null when it fits.
+const char* Beyond(std::string_view text) {
+  int row = 0;
+  int column = 0;
+  for (const char c : text) {
+    if (row > PolarTable::kMostRows) {
+      return kTooManyRows;
+    }
+    if (c == '\n') {
+      ++row;
+      column = 0;
+    } else if (c == '\t' && ++column > PolarTable::kMostColumns) {
+      return kTooManyColumns;
+    }
+  }
+  return nullptr;
+}
 
 PolarLoadResult Failed(const std::string& reason) { return {false, "Polar File Error: " + reason}; }
 
@@ -52,7 +75,7 @@ PolarLoadResult PolarRead(PolarTable& table, int slot, float speedFactor, std::i
       }
     } else {
       if (row > PolarTable::kMostRows || column > PolarTable::kMostColumns) {
-        return Failed("Subscript out of range");
+        return Failed(row > PolarTable::kMostRows ? kTooManyRows : kTooManyColumns);
       }
       const double number = static_cast<double>(LeadingNumber(cell));
       const bool speed = row > 0 && column > 0;
@@ -80,39 +103,38 @@ PolarLoadResult PolarRead(PolarTable& table, int slot, float speedFactor, std::i
 }
 
 PolarLoadResult PolarLoad(PolarTable& table, int slot, float speedFactor, const std::filesystem::path& file) {
-  std::error_code error;
-  const bool regular = std::filesystem::is_regular_file(file, error);
-  if (!regular) {
-    return Failed(error ? error.message() : "not a file");
+  WholeFile whole = ReadWholeFile(file, kLargestPolar);
+  if (!whole.Error.empty()) {
+    return Failed(whole.Error);
   }
-  errno = 0;
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream.is_open()) {
-    return Failed(std::generic_category().message(errno));
+  // Any other beginning is told by the reader, which stores nothing then.
+  if (const char* beyond = whole.Bytes.starts_with(kCorner) ? Beyond(whole.Bytes) : nullptr) {
+    return Failed(beyond);
   }
-  try {
-    return PolarRead(table, slot, speedFactor, stream);
-  } catch (const std::ios_base::failure& failure) {
-    // A read that the system refuses half way.
-    return Failed(failure.code().message());
-  }
+  std::istringstream stream(std::move(whole.Bytes));
+  return PolarRead(table, slot, speedFactor, stream);
 }
 
-std::string PolarText(const PolarTable& table, int slot) {
+std::string PolarText(const PolarTable& table, int slot, PolarHeads heads) {
+  const auto head = [heads](float value) {
+    return heads == PolarHeads::Whole ? FormatNumber(value, "0") : ShortestText(value);
+  };
   std::string text;
   for (int row = 0; row <= table.PolarRows(slot); ++row) {
     for (int column = 0; column <= table.PolarColumns(slot); ++column) {
       const bool corner = row == 0 && column == 0;
       const bool speed = row > 0 && column > 0;
-      text += corner ? kCorner : FormatNumber(table.Value(slot, row, column), speed ? "0.0" : "0");
+      const float value = table.Value(slot, row, column);
+      text += corner ? kCorner : speed ? FormatNumber(value, "0.0") : head(value);
       text += column < table.PolarColumns(slot) ? "\t" : "\r\n";
     }
   }
   return text;
 }
 
-std::optional<std::string> PolarSave(const PolarTable& table, int slot, const std::filesystem::path& file) {
-  return WriteAtomically(file, PolarText(table, slot));
+std::optional<std::string> PolarSave(const PolarTable& table, int slot, const std::filesystem::path& file,
+                                     PolarHeads heads) {
+  return WriteAtomically(file, PolarText(table, slot, heads));
 }
 
 }  // namespace veerwatch

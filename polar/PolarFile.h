@@ -27,20 +27,28 @@ struct PolarLoadResult {
 /// any number only the beginning is kept.
 CellEnd PolarReadCell(std::istream& file, std::string& text);
 
-/// Reads `file` into a slot of the table, each boat speed times `speedFactor`. Rows and columns are counted
-/// as lines become whole, so a failed load leaves what was read so far, and a failed header the counts of
-/// before. Deliberate: the last line must end with a line feed; the values of one that does not are stored
-/// but not counted, and the load is false without a text.
+/// Largest file that is read [bytes].
+inline constexpr std::uintmax_t kLargestPolar = 1U << 20U;
+
+/// Reads `file` into a slot of the table, each boat speed times `speedFactor`. A file that is larger than
+/// kLargestPolar, has more rows or columns than a table, or is no regular file changes nothing. Rows and
+/// columns are counted as lines become whole, so a failed load leaves what was read so far, and a failed
+/// header the counts of before. Deliberate: the last line must end with a line feed; the values of one that
+/// does not are stored but not counted, and the load is false without a text.
 PolarLoadResult PolarLoad(PolarTable& table, int slot, float speedFactor, const std::filesystem::path& file);
 
-/// The same from an open stream.
+/// The same from an open stream, of any length.
 PolarLoadResult PolarRead(PolarTable& table, int slot, float speedFactor, std::istream& file);
 
-/// The table of a slot as the text of a file: whole wind speeds and angles, speeds with one decimal, lines
-/// with CR LF. Deliberate: the speeds are the scaled ones that the table holds.
-std::string PolarText(const PolarTable& table, int slot);
+/// How wind speeds and angles are written: rounded to whole numbers, or as they are.
+enum class PolarHeads { Whole, Exact };
+
+/// The table of a slot as the text of a file: wind speeds and angles, speeds with one decimal, lines with
+/// CR LF. Deliberate: the speeds are the scaled ones that the table holds.
+std::string PolarText(const PolarTable& table, int slot, PolarHeads heads = PolarHeads::Whole);
 
 /// Writes a slot to `file` in one step. Nothing when done, else what went wrong, with the old file whole.
-std::optional<std::string> PolarSave(const PolarTable& table, int slot, const std::filesystem::path& file);
+std::optional<std::string> PolarSave(const PolarTable& table, int slot, const std::filesystem::path& file,
+                                     PolarHeads heads = PolarHeads::Whole);
 
 }  // namespace veerwatch

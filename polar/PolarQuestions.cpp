@@ -3,6 +3,8 @@
 #include <system_error>
 
 #include "platform/NumberText.h"
+#include "platform/WholeFile.h"
+#include "polar/PolarDialect.h"
 
 namespace veerwatch {
 
@@ -28,6 +30,49 @@ bool HoldsSomething(const std::filesystem::path& file) {
   const auto size = std::filesystem::file_size(file, error);
   // Of what is no plain file nobody knows the size.
   return error ? std::filesystem::exists(file, error) : size > 0;
+}
+
+/// Asks where to write a polar, and again before it replaces a file.
+std::optional<std::string> AskTarget(const std::string& proposed, Dialogs& asks) {
+  auto file = asks.SaveFile(kPolarFilter, proposed);
+  if (file && HoldsSomething(*file) &&
+      !asks.WarnYesNo("AutoPilot - Save As", *file + "file already exists.\nDo you want to replace it?")) {
+    file.reset();
+  }
+  return file;
+}
+
+/// A name for the polar that `file` becomes, beside it.
+std::string ConvertedName(std::filesystem::path file) {
+  const bool polar = file.extension() == ".pol";
+  return file.replace_filename(file.stem().string() + (polar ? " converted.pol" : ".pol")).string();
+}
+
+/// Offers to convert `file`, which failed to load into `slot` with `error`. False when it is a polar in no
+/// known spelling, so that nothing was asked.
+bool AskConvert(PolarModel& model, int slot, const std::string& file, const std::string& error,
+                Dialogs& asks) {
+  const WholeFile whole = ReadWholeFile(file, kLargestDialect);
+  PolarTable table;
+  const DialectResult read = PolarReadDialect(table, PolarModel::kMain, whole.Bytes);
+  if (!whole.Error.empty() || !read.Error.empty()) {
+    return false;
+  }
+  const std::string note = read.Note.empty() ? "" : "\n(" + read.Note + ")";
+  if (!asks.AskYesNo(kTitle, error + "\n\nIt is a polar in another spelling." + note +
+                                 "\nDo you want to convert it into a new file and open that?")) {
+    return true;
+  }
+  const auto target = AskTarget(ConvertedName(file), asks);
+  if (!target) {
+    return true;
+  }
+  if (const auto failure = PolarSave(table, PolarModel::kMain, *target, PolarHeads::Exact)) {
+    asks.Inform(kTitle, *failure);
+    return true;
+  }
+  Tell(model.Open(slot, *target), asks);
+  return true;
 }
 
 }  // namespace
@@ -73,17 +118,16 @@ bool AskOpen(PolarModel& model, int slot, Dialogs& asks) {
   if (!file) {
     return false;
   }
-  Tell(model.Open(slot, *file), asks);
+  const PolarLoadResult result = model.Open(slot, *file);
+  if (result.Error.empty() || !AskConvert(model, slot, *file, result.Error, asks)) {
+    Tell(result, asks);
+  }
   return true;
 }
 
 bool PolarSaveAs(PolarModel& model, Dialogs& asks) {
-  const auto file = asks.SaveFile(kPolarFilter, model.FilePath(PolarModel::kMain).string());
+  const auto file = AskTarget(model.FilePath(PolarModel::kMain).string(), asks);
   if (!file) {
-    return false;
-  }
-  if (HoldsSomething(*file) &&
-      !asks.WarnYesNo("AutoPilot - Save As", *file + "file already exists.\nDo you want to replace it?")) {
     return false;
   }
   if (const auto failure = model.SaveAs(*file)) {

@@ -17,7 +17,8 @@ bool AskTargetBearing(PolarModel& model, Dialogs& asks);
 bool AskMotorSpeed(PolarModel& model, Dialogs& asks);
 bool AskColor(PolarModel& model, Dialogs& asks);
 
-/// Opens a file into a slot and tells what was wrong with it. True when a file was chosen.
+/// Opens a file into a slot and tells what was wrong with it. One that is a polar in another spelling it
+/// offers to convert into a new file and to open that. True when a file was chosen.
 bool AskOpen(PolarModel& model, int slot, Dialogs& asks);
 
 /// Saves the own polar under a new name, with a question before an old file is replaced.

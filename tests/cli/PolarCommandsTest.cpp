@@ -126,15 +126,52 @@ TEST_F(PolarCommands, ConvertWritesWhatThisProgramOpens) {
   EXPECT_THAT(out.str(), testing::StartsWith("rows 2\ncolumns 2\n"));
 }
 
-TEST_F(PolarCommands, ConvertTellsWhatItRoundsAndStopsWhereTwoBecomeOne) {
-  WriteFile(Folder / "half.csv", "TWA;6;8.2\n40;4;5\n");
+TEST_F(PolarCommands, ConvertKeepsDecimalsAndTellsWhatItLeavesOut) {
+  WriteFile(Folder / "half.csv", "TWA;6;6.2\n40.5;4;5\n");
   std::ostringstream notes;
   PolarConvertCommand(File("half.csv"), File("out.pol"), notes);
-  EXPECT_THAT(notes.str(), testing::HasSubstr("rounded to whole numbers"));
-  WriteFile(Folder / "near.csv", "TWA;6;6.2\n40;4;5\n");
-  EXPECT_EQ(Stopped([&] { PolarConvertCommand(File("near.csv"), File("out2.pol"), notes); }),
-            File("near.csv") + ": the wind speeds 6 and 6.2 are one when rounded to whole numbers");
-  EXPECT_FALSE(std::filesystem::exists(Folder / "out2.pol"));
+  EXPECT_EQ(ReadFile(Folder / "out.pol"), "TWA\t6\t6.2\r\n40.5\t4.0\t5.0\r\n");
+  EXPECT_EQ(notes.str(), "");
+  std::string wide = "TWA";
+  for (int wind = 0; wind <= 60; ++wind) {
+    wide += ";" + std::to_string(wind);
+  }
+  WriteFile(Folder / "wide.csv", wide + "\n40;5\n90;6\n");
+  PolarConvertCommand(File("wide.csv"), File("out.pol"), notes);
+  EXPECT_EQ(notes.str(), "veerwatch-cli: " + File("wide.csv") + ": of 61 wind speeds 50 are kept\n");
+  std::ostringstream out;
+  PolarCheckCommand(File("out.pol"), out);
+  EXPECT_THAT(out.str(), testing::HasSubstr("columns 50\nangles 40 to 90 deg\nwind speeds 0 to 60 kn\n"));
+}
+
+TEST_F(PolarCommands, ConvertReadsNothingOfAnyLength) {
+  std::ostringstream notes;
+  WriteFile(Folder / "large.csv", std::string((8U << 20U) + 1, 'x'));
+  EXPECT_EQ(Stopped([&] { PolarConvertCommand(File("large.csv"), File("out.pol"), notes); }),
+            "cannot read " + File("large.csv") + ": larger than 8 MiB");
+  EXPECT_EQ(Stopped([&] { PolarConvertCommand("/dev/zero", File("out.pol"), notes); }),
+            "cannot read /dev/zero: not a file");
+  EXPECT_FALSE(std::filesystem::exists(Folder / "out.pol"));
+}
+
+TEST_F(PolarCommands, CheckNamesTheWindsAtWhichSpeedsFall) {
+  const auto falls = [&](const char* text) {
+    WriteFile(Folder / "f.pol", text);
+    std::ostringstream out;
+    PolarCheckCommand(File("f.pol"), out);
+    const std::size_t at = out.str().find("boat speeds fall");
+    return at == std::string::npos ? "" : out.str().substr(at);
+  };
+  EXPECT_EQ(
+      falls("TWA\t10\t20\t40\t60\n40\t5\t6\t0.1\t0.5\n90\t6\t8\t9\t0.4\n150\t5\t9\t11\t0.9\n"),
+      "boat speeds fall at 40 kn: slower than in less wind at 1 of 3 angles, at 40 deg 0.1 after 6 kn\n"
+      "boat speeds fall at 60 kn: slower than in less wind at 3 of 3 angles, at 90 deg 0.4 after 9 kn\n");
+  // A little slower upwind in strong wind is how boats sail; so is no speed at all at 0 degrees.
+  EXPECT_EQ(falls("TWA\t10\t20\n0\t0\t0\n40\t6\t5.8\n90\t6\t7\n"), "");
+  EXPECT_EQ(
+      falls("TWA\t10\t20\n0\t0\t0\n40\t6\t5.8\n90\t7\t6.9\n"),
+      "boat speeds fall at 20 kn: slower than in less wind at 2 of 3 angles, at 40 deg 5.8 after 6 kn\n");
+  EXPECT_EQ(falls(kSmallPolar), "");
 }
 
 TEST_F(PolarCommands, ConvertTellsWhatItCannotReadOrWrite) {
@@ -143,9 +180,9 @@ TEST_F(PolarCommands, ConvertTellsWhatItCannotReadOrWrite) {
   EXPECT_EQ(Stopped([&] { PolarConvertCommand(File("bad.csv"), File("out.pol"), notes); }),
             File("bad.csv") + ": line 2, column 3: \"x\" is no boat speed");
   EXPECT_EQ(Stopped([&] { PolarConvertCommand(File("none"), File("out.pol"), notes); }),
-            "cannot read " + File("none"));
+            "cannot read " + File("none") + ": No such file or directory");
   EXPECT_EQ(Stopped([&] { PolarConvertCommand(Folder.Path().string(), File("out.pol"), notes); }),
-            "cannot read " + Folder.Path().string());
+            "cannot read " + Folder.Path().string() + ": not a file");
   EXPECT_FALSE(std::filesystem::exists(Folder / "out.pol"));
   EXPECT_THAT(Stopped([&] { PolarConvertCommand(File("a.pol"), File("a.pol/x.pol"), notes); }),
               testing::StartsWith("cannot write "));

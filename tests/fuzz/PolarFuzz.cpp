@@ -32,6 +32,8 @@ struct Question {
     Settings.CourseWaypoint = true;
     Settings.CourseWaypointIndex = static_cast<CourseSource>(options % 3U);
     Settings.CourseScale = (options & 64U) != 0;
+    Settings.SmoothWinds = (options & 32U) != 0;
+    Settings.Type = SearchType;
     Settings.Boat = static_cast<BoatType>((options >> 7U) & 1U);
     Settings.SpeedFactor = bytes.Number(0.001, 10.0);
     Angle = bytes.Number(0.0, 180.0);
@@ -142,14 +144,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const bool negative = HasNegativeSpeed(table);
   for (const PlotType type : {PlotType::TrueWind, PlotType::ApparentWind}) {
     table.Type(type);
-    for (const float at : {question.Angle, 0.0F, 180.0F}) {
-      const float speed = table.PolarSpeed(0, at, question.Wind);
-      Demand(std::isfinite(speed), "a finite speed");
-      Demand(negative || speed >= 0.0F, "no negative speed");
+    for (const bool smooth : {false, true}) {
+      table.Smooth(smooth);
+      for (const float at : {question.Angle, 0.0F, 180.0F}) {
+        const float speed = table.PolarSpeed(0, at, question.Wind);
+        Demand(std::isfinite(speed), "a finite speed");
+        Demand(negative || speed >= 0.0F, "no negative speed");
+      }
     }
   }
   if (question.Searches) {
     table.Type(question.SearchType);
+    table.Smooth(question.Settings.SmoothWinds);
     DemandCourse(table, question, negative);
   }
   return 0;

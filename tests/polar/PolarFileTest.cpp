@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cmath>
@@ -204,6 +205,46 @@ TEST(PolarLoad, EndsEarlyInALineOfEndlessCells) {
   EXPECT_FALSE(PolarRead(table, 0, 1.0F, stream).Loaded);
 }
 
+/// What a load of a file tells; the table of before has to stay as it was.
+std::string Refused(const std::filesystem::path& file) {
+  PolarTable table = TableOf(kSmallPolar);
+  const PolarLoadResult result = PolarLoad(table, 0, 1.0F, file);
+  EXPECT_FALSE(result.Loaded);
+  EXPECT_EQ(PolarText(table, 0), PolarText(TableOf(kSmallPolar), 0));
+  return result.Error;
+}
+
+TEST(PolarLoad, RefusesAFileBeyondATableBeforeAnythingIsStored) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "a.pol", Table(201, 3));
+  EXPECT_EQ(Refused(folder / "a.pol"), "Polar File Error: more than 200 angles");
+  WriteFile(folder / "a.pol", Table(3, 51));
+  EXPECT_EQ(Refused(folder / "a.pol"), "Polar File Error: more than 50 wind speeds");
+  WriteFile(folder / "a.pol", Table(2, 3) + "90" + std::string(51, '\t') + "\n");
+  EXPECT_EQ(Refused(folder / "a.pol"), "Polar File Error: more than 50 wind speeds");
+  WriteFile(folder / "a.pol", "x" + Table(201, 51));
+  EXPECT_EQ(Refused(folder / "a.pol"), kNoTwa);
+  WriteFile(folder / "a.pol", Table(200, 50));
+  PolarTable table;
+  EXPECT_TRUE(PolarLoad(table, 0, 1.0F, folder / "a.pol").Loaded);
+}
+
+TEST(PolarLoad, RefusesAtOnceWhatIsTooLargeOrNoFile) {
+  const TemporaryFolder folder;
+  const std::string start = "TWA\t6\n30\t4\n60\t5";
+  WriteFile(folder / "a.pol", start + std::string(kLargestPolar - start.size() - 1, ' ') + "\n");
+  PolarTable table;
+  EXPECT_TRUE(PolarLoad(table, 0, 1.0F, folder / "a.pol").Loaded) << "the largest one";
+  WriteFile(folder / "a.pol", start + std::string(kLargestPolar - start.size(), ' ') + "\n");
+  EXPECT_EQ(Refused(folder / "a.pol"), "Polar File Error: larger than 1 MiB");
+  // 40 GB that take no room on the disk, behind a good beginning.
+  ASSERT_EQ(::truncate((folder / "a.pol").c_str(), off_t{40} << 30), 0);
+  EXPECT_EQ(Refused(folder / "a.pol"), "Polar File Error: larger than 1 MiB");
+  ASSERT_EQ(::mkfifo((folder / "pipe.pol").c_str(), 0600), 0);
+  EXPECT_EQ(Refused(folder / "pipe.pol"), "Polar File Error: not a file");
+  EXPECT_EQ(Refused("/dev/zero"), "Polar File Error: not a file");
+}
+
 TEST(PolarLoad, TellsWhyAFileCannotBeRead) {
   const TemporaryFolder folder;
   PolarTable table;
@@ -229,6 +270,11 @@ TEST(PolarLoad, TellsWhenAReadFailsHalfWay) {
 TEST(PolarSave, WritesWholeHeadsAndSpeedsWithOneDecimal) {
   const PolarTable table = TableOf("TWA\t6\t8.4\n30\t3.14\t4\n90.5\t5.25\t6\n");
   EXPECT_EQ(PolarText(table, 0), "TWA\t6\t8\r\n30\t3.1\t4.0\r\n91\t5.3\t6.0\r\n");
+}
+
+TEST(PolarSave, WritesHeadsAsTheyAreWhenAsked) {
+  const PolarTable table = TableOf("TWA\t6\t8.4\n30\t3.14\t4\n90.5\t5.25\t6\n");
+  EXPECT_EQ(PolarText(table, 0, PolarHeads::Exact), "TWA\t6\t8.4\r\n30\t3.1\t4.0\r\n90.5\t5.3\t6.0\r\n");
 }
 
 TEST(PolarSave, ComesBackAsItWas) {
