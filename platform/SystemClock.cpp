@@ -35,12 +35,15 @@ Moment SystemClock::Now() const {
 std::int32_t SystemClock::UtcOffset(std::int64_t wall) const {
   const auto seconds = static_cast<time_t>(wall / kMillisecondsPerSecond);
   tm local{};
+  // Looks at the computer's time zone again, which may be another one in the next port.
 #ifdef _WIN32
+  _tzset();
   if (localtime_s(&local, &seconds) != 0) {
     return 0;
   }
   return static_cast<std::int32_t>(_mkgmtime(&local) - seconds);
 #else
+  tzset();
   if (localtime_r(&seconds, &local) == nullptr) {
     return 0;
   }

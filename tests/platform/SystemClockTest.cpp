@@ -30,18 +30,35 @@ TEST(SystemClock, TellsTheWallTimeInMilliseconds) {
 }
 
 #ifndef _WIN32
-TEST(SystemClock, KnowsTheTimeZone) {
-  const char* kept = std::getenv("TZ");
-  const std::string zone = kept != nullptr ? kept : "";
-  setenv("TZ", "UTC-5:30", 1);
-  tzset();
-  EXPECT_EQ(SystemClock().UtcOffset(1774947600000), 5 * 3600 + 1800);
-  if (kept != nullptr) {
-    setenv("TZ", zone.c_str(), 1);
-  } else {
-    unsetenv("TZ");
+/// Puts the time zone of the computer back at its end.
+class SystemClockZone : public testing::Test {
+ public:
+  SystemClockZone() : m_known(std::getenv("TZ") != nullptr), m_kept(m_known ? std::getenv("TZ") : "") {}
+  ~SystemClockZone() override {
+    if (m_known) {
+      setenv("TZ", m_kept.c_str(), 1);
+    } else {
+      unsetenv("TZ");
+    }
+    tzset();
   }
-  tzset();
+
+ private:
+  bool m_known;
+  std::string m_kept;
+};
+
+TEST_F(SystemClockZone, IsKnown) {
+  setenv("TZ", "UTC-5:30", 1);
+  EXPECT_EQ(SystemClock().UtcOffset(1774947600000), 5 * 3600 + 1800);
+}
+
+TEST_F(SystemClockZone, MayChangeWhileTheProgramRuns) {
+  const SystemClock clock;
+  setenv("TZ", "UTC-1", 1);
+  EXPECT_EQ(clock.UtcOffset(1774947600000), 3600);
+  setenv("TZ", "UTC+2", 1);
+  EXPECT_EQ(clock.UtcOffset(1774947600000), -7200);
 }
 #endif
 
