@@ -11,10 +11,10 @@ namespace veerwatch {
 
 namespace {
 
-/// How far `value` is above a whole multiple of `step` [0, step).
-std::int64_t Above(std::int64_t value, std::int64_t step) {
+/// The whole multiple of `step` that `value` has reached.
+std::int64_t Whole(std::int64_t value, std::int64_t step) {
   const std::int64_t rest = value % step;
-  return rest < 0 ? rest + step : rest;
+  return value - (rest < 0 ? rest + step : rest);
 }
 
 /// A sample's text at its first blank: the number, and the units behind it.
@@ -92,27 +92,28 @@ bool StripChartData::SampleAdd(std::string_view name, std::string_view text, con
 }
 
 void StripChartData::Advance(const Moment& now) {
-  // The first slot begins at a whole multiple of its duration on the wall clock, and so do those behind it
-  // until the clock jumps.
+  const std::int64_t wall = Whole(now.Wall, m_slotTime);
   if (m_last == kNone) {
-    Open(0, now.Steady - Above(now.Wall, m_slotTime), now, false);
-    return;
-  }
-  const std::int64_t passed = now.Steady - m_seen.Steady;
-  const bool jumped = passed < 0 || std::llabs(now.Wall - m_seen.Wall - passed) > kJump;
-  const std::int64_t whole = std::max<std::int64_t>(now.Steady - m_lastBegin, 0) / m_slotTime;
-  if (jumped) {
+    Open(0, wall, false);
+  } else if (Jumped(now)) {
     constexpr std::int64_t kGap = 2;
-    Open(m_last + std::max(whole, kGap), now.Steady, now, true);
-  } else if (whole > 0) {
-    Open(m_last + whole, m_lastBegin + whole * m_slotTime, now, false);
-  } else {
-    m_seen = now;
+    // What had passed of the newest slot, and what the steady clock counted since.
+    const std::int64_t passed =
+        m_seen.Wall - Wall(m_last) + std::max<std::int64_t>(now.Steady - m_seen.Steady, 0);
+    Open(m_last + std::max(passed / m_slotTime, kGap), wall, true);
+  } else if (wall > Wall(m_last)) {
+    Open(m_last + (wall - Wall(m_last)) / m_slotTime, wall, false);
   }
+  m_seen = now;
 }
 
-void StripChartData::Open(std::int64_t slot, std::int64_t steadyBegin, const Moment& now, bool jumped) {
-  const std::int64_t wall = now.Wall - (now.Steady - steadyBegin);
+bool StripChartData::Jumped(const Moment& now) const {
+  const std::int64_t passed = now.Steady - m_seen.Steady;
+  // A clock that is set back again and again by a little does not hold the newest slot open.
+  return passed < 0 || std::llabs(now.Wall - m_seen.Wall - passed) > kJump || Wall(m_last) - now.Wall > kJump;
+}
+
+void StripChartData::Open(std::int64_t slot, std::int64_t wall, bool jumped) {
   const std::int64_t lastWall = m_last == kNone ? wall : Wall(m_last);
   for (std::int64_t skipped = std::max(m_last + 1, slot - SlotCount() + 1); skipped <= slot; ++skipped) {
     const std::size_t place = Place(skipped);
@@ -123,8 +124,6 @@ void StripChartData::Open(std::int64_t slot, std::int64_t steadyBegin, const Mom
                                               : wall - (slot - skipped) * m_slotTime;
   }
   m_last = slot;
-  m_lastBegin = steadyBegin;
-  m_seen = now;
 }
 
 std::int64_t StripChartData::FirstSlot() const {
@@ -132,7 +131,7 @@ std::int64_t StripChartData::FirstSlot() const {
 }
 
 bool StripChartData::JumpedBefore(std::int64_t slot) const {
-  return slot > FirstSlot() && std::llabs(Wall(slot) - Wall(slot - 1) - m_slotTime) > kJump;
+  return slot > FirstSlot() && Wall(slot) - Wall(slot - 1) != m_slotTime;
 }
 
 std::size_t StripChartData::Bytes() const {

@@ -2,10 +2,12 @@
 // newest value of every trace. Without a window and without a clock: every sample comes with its moment. Used
 // by the widget StripChart, which draws it, and by the text of "Save data...".
 //
-// Slots follow the steady clock. They are numbered from 0 on and only ever forwards; slot numbers are what
-// the rest of the chart calculates with. When a clock jumps (the wall clock against the steady one, or the
-// steady one backwards), the sample opens a new slot and one at least stays empty in front of it, so no slot
-// is ever written again after a later one, and none holds values from before and after the jump.
+// Slots begin at whole multiples of their duration on the wall clock. They are numbered from 0 on and only
+// ever forwards; slot numbers are what the rest of the chart calculates with. When a clock jumps (the wall
+// clock against the steady one, or the steady one backwards), the sample opens a new slot, as far after the
+// one before as the steady clock counted, and one at least stays empty in front of it. So no slot is ever
+// written again after a later one, and none holds values from before and after the jump. Deliberate: when the
+// clock is set back, a later slot has the time of an earlier one.
 #pragma once
 
 #include <array>
@@ -82,24 +84,25 @@ class StripChartData {
   std::int64_t FirstSlot() const;
   /// The place in the rings of a slot in [FirstSlot(), LastSlot()].
   std::size_t Place(std::int64_t slot) const { return static_cast<std::size_t>(slot) % m_walls.size(); }
-  /// The wall clock at the beginning of a slot in [FirstSlot(), LastSlot()] [ms since 1970 UTC].
+  /// The wall clock at the beginning of a slot in [FirstSlot(), LastSlot()] [ms since 1970 UTC], a whole
+  /// multiple of SlotMilliseconds().
   std::int64_t Wall(std::int64_t slot) const { return m_walls[Place(slot)]; }
-  /// Whether the wall clock jumped between a slot and the one before it.
+  /// Whether a slot does not follow the one before it on the wall clock, which jumped between them.
   bool JumpedBefore(std::int64_t slot) const;
 
   /// Heap memory held by the samples [bytes].
   std::size_t Bytes() const;
 
  private:
-  void Open(std::int64_t slot, std::int64_t steadyBegin, const Moment& now, bool jumped);
+  bool Jumped(const Moment& now) const;
+  void Open(std::int64_t slot, std::int64_t wall, bool jumped);
   void Forget();
 
   std::vector<Trace> m_traces;
   std::vector<std::int64_t> m_walls = std::vector<std::int64_t>(1, 0);
   std::int64_t m_slotTime = 10000;
   std::int64_t m_last = kNone;
-  std::int64_t m_lastBegin = 0;  ///< steady time at which the newest slot begins [ms]
-  Moment m_seen;                 ///< the latest moment
+  Moment m_seen;  ///< the latest moment
 };
 
 }  // namespace veerwatch

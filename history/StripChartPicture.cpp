@@ -321,9 +321,7 @@ void StripChartPicture::ComposeTime(const StripChartData& data, const TextMeasur
     if (begin != first) {
       Jumps.push_back(beginX);
     }
-    // Slots ran evenly from the last one on that they were measured at.
-    const std::int64_t reference = std::clamp(end - 1, data.FirstSlot(), data.LastSlot());
-    const std::int64_t beginWall = WallAt(data, reference) - (reference - begin) * data.SlotMilliseconds();
+    const std::int64_t beginWall = WallAt(data, begin);
     const std::int64_t endWall = beginWall + (end - begin) * data.SlotMilliseconds();
     std::int64_t wall = (beginWall + offset) / step * step - offset;
     for (wall += wall < beginWall ? step : 0; wall < endWall; wall += step) {

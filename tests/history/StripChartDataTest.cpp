@@ -120,6 +120,42 @@ TEST_F(StripChartDataTest, SlotsBeginAtFullTensOfSecondsOfTheWallClock) {
   EXPECT_EQ(Data.Wall(1), HandClock::kMorning + 10000);
 }
 
+/// The two clocks are read one after the other and in whole milliseconds, so their difference is not quite
+/// the same each time.
+TEST_F(StripChartDataTest, SlotsBeginAtFullTensAlthoughTheClocksAreReadOneAfterTheOther) {
+  for (int i = 0; i < 500; ++i) {
+    Moment now = Time.Time;
+    now.Steady += i % 3 - 1;
+    now.Wall += i % 7;
+    Data.SampleAdd("Boat Speed", "5 Kts", now);
+    Time.Pass(1000);
+  }
+  ASSERT_EQ(Data.LastSlot(), 49);
+  for (std::int64_t slot = 0; slot <= 49; ++slot) {
+    ASSERT_EQ(Data.Wall(slot), HandClock::kMorning + slot * 10000);
+  }
+}
+
+/// The wall clock is corrected by a few milliseconds every second, as a time server does it.
+TEST_F(StripChartDataTest, SlotsFollowAWallClockThatIsSlewed) {
+  for (const std::int64_t by : {5, -5}) {
+    Data.SampleBufferSet(10, 8640.0);
+    Time.Time.Wall = HandClock::kMorning;
+    for (int i = 0; i < 7200; ++i) {
+      Speed("5 Kts");
+      const std::int64_t last = Data.LastSlot();
+      ASSERT_EQ(Data.Wall(last) % 10000, 0);
+      ASSERT_LE(Data.Wall(last), Time.Time.Wall);
+      ASSERT_GT(Data.Wall(last) + 10000, Time.Time.Wall);
+      ASSERT_FALSE(Data.JumpedBefore(last));
+      Time.Pass(1000);
+      Time.Time.Wall += by;
+    }
+    EXPECT_NEAR(static_cast<double>(Data.LastSlot()), 720.0, 4.0);
+    EXPECT_EQ(Filled().size(), static_cast<std::size_t>(Data.LastSlot() + 1));
+  }
+}
+
 TEST_F(StripChartDataTest, ATimeWithoutSamplesIsAGap) {
   Speed("1 Kts");
   Time.Pass(50000);
@@ -183,7 +219,7 @@ TEST_F(StripChartDataTest, AWallClockSetForwardsLeavesAGap) {
   EXPECT_EQ(Filled(), (Slots{0, 2}));
   EXPECT_EQ(Slot(0).Latest, 1.0F);
   EXPECT_EQ(Slot(2).Latest, 2.0F);
-  EXPECT_EQ(Data.Wall(2), Time.Time.Wall);
+  EXPECT_EQ(Data.Wall(2), HandClock::kMorning + 3600000);
   EXPECT_TRUE(Data.JumpedBefore(2));
   Time.Pass(10000);
   Speed("3 Kts");
@@ -204,6 +240,17 @@ TEST_F(StripChartDataTest, AWallClockSetBackLeavesAGapAndWritesNoSlotAgain) {
   EXPECT_EQ(Data.Wall(7), Time.Time.Wall);
 }
 
+TEST_F(StripChartDataTest, AfterAClockWasSetBackTimesComeTwice) {
+  Speed("1 Kts");
+  Time.Pass(20000);
+  Time.Time.Wall -= 20000;
+  Speed("2 Kts");
+  EXPECT_EQ(Filled(), (Slots{0, 2}));
+  EXPECT_EQ(Data.Wall(0), HandClock::kMorning);
+  EXPECT_EQ(Data.Wall(2), HandClock::kMorning);
+  EXPECT_TRUE(Data.JumpedBefore(2));
+}
+
 TEST_F(StripChartDataTest, AClockThatIsSetByLessThanTwoSecondsLeavesNone) {
   Speed("1 Kts");
   for (const std::int64_t by : {1900, -1900, 1500, -1000}) {
@@ -212,6 +259,51 @@ TEST_F(StripChartDataTest, AClockThatIsSetByLessThanTwoSecondsLeavesNone) {
     Speed("1 Kts");
   }
   EXPECT_EQ(Filled(), (Slots{0, 1, 2, 3, 4}));
+}
+
+TEST_F(StripChartDataTest, AClockThatIsSetByTwoSecondsLeavesNoneAndByMoreDoes) {
+  for (const std::int64_t by : {2000, -2000}) {
+    Data.SampleBufferSet(10, 8640.0);
+    Time.Time.Wall = HandClock::kMorning + 3000;
+    Speed("1 Kts");
+    Time.Pass(12000);
+    Time.Time.Wall += by;
+    Speed("2 Kts");
+    EXPECT_EQ(Filled(), (Slots{0, 1})) << by;
+    Time.Pass(10000);
+    Time.Time.Wall += by + (by < 0 ? -1 : 1);
+    Speed("3 Kts");
+    EXPECT_EQ(Filled(), (Slots{0, 1, 3})) << by;
+  }
+}
+
+TEST_F(StripChartDataTest, AClockThatIsSetBackByALittleAgainAndAgainLeavesAGapInTheEnd) {
+  Speed("1 Kts");
+  for (int i = 0; i < 4; ++i) {
+    Time.Pass(1000);
+    Time.Time.Wall -= 1500;  // 08:59:59.5 and on to 08:59:58.0
+    Speed("2 Kts");
+    EXPECT_EQ(Filled(), Slots{0});
+  }
+  Time.Pass(1000);
+  Time.Time.Wall -= 1500;
+  Speed("3 Kts");
+  EXPECT_EQ(Filled(), (Slots{0, 2}));
+  EXPECT_EQ(Data.Wall(2), HandClock::kMorning - 10000);
+}
+
+/// A jump takes as many slots as the steady clock counted, rounded to those of the wall clock.
+TEST_F(StripChartDataTest, AJumpAfterASleepIsAsWideAsTheSleep) {
+  Time.Pass(3000);
+  Speed("1 Kts");
+  Time.Pass(597000);
+  Time.Time.Wall += 3600000;
+  Speed("2 Kts");
+  EXPECT_EQ(Filled(), (Slots{0, 60}));
+  EXPECT_EQ(Data.Wall(59), HandClock::kMorning + 590000);
+  EXPECT_EQ(Data.Wall(60), HandClock::kMorning + 3600000 + 600000);
+  EXPECT_TRUE(Data.JumpedBefore(60));
+  EXPECT_FALSE(Data.JumpedBefore(59));
 }
 
 TEST_F(StripChartDataTest, ASteadyClockThatRunsBackLeavesAGap) {
@@ -258,6 +350,7 @@ TEST_F(StripChartDataTest, AnyJumpsOfTheClocksKeepSlotsInOrder) {
     }
     last = Data.LastSlot();
     ASSERT_EQ(Slot(last).Latest, static_cast<float>(i));
+    ASSERT_EQ(Data.Wall(last) % 10000, 0);
   }
 }
 
