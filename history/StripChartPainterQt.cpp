@@ -30,35 +30,52 @@ Qt::Alignment Aligned(ChartText::Side side) {
   return Qt::AlignHCenter;
 }
 
-}  // namespace
+int FontPixels(double height) { return std::max(1, static_cast<int>(std::lround(height))); }
 
-TextMeasureQt::TextMeasureQt(const QFont& font) : m_font(font) {
-  const QFontMetricsF metrics(At(kReferenceHeight));
-  for (std::size_t code = 0; code < m_widths.size(); ++code) {
-    m_widths[code] = metrics.horizontalAdvance(QLatin1Char(static_cast<char>(code))) / kReferenceHeight;
-  }
-}
-
-QFont TextMeasureQt::At(double height) const {
-  QFont font = m_font;
-  font.setPixelSize(std::max(1, static_cast<int>(std::lround(height))));
-  return font;
-}
-
-double TextMeasureQt::Width(std::string_view text, double height) const {
+/// The width of a text from those of its characters, in a font of 1 px.
+double Sum(std::string_view text, const std::array<double, 128>& widths) {
   double width = 0.0;
   for (const char c : text) {
     const auto code = static_cast<unsigned char>(c);
     constexpr unsigned kContinued = 0x80;
     constexpr unsigned kContinuedMask = 0xC0;
-    if (code < m_widths.size()) {
-      width += m_widths[code];
+    if (code < widths.size()) {
+      width += widths[code];
     } else if ((code & kContinuedMask) != kContinued) {
       // Another character counts as a digit.
-      width += m_widths['0'];
+      width += widths['0'];
     }
   }
-  return width * height;
+  return width;
+}
+
+}  // namespace
+
+TextMeasureQt::TextMeasureQt(const QFont& font) : m_font(font) {
+  const auto measure = [](const QFont& reference, Widths& widths) {
+    const QFontMetricsF metrics(reference);
+    for (std::size_t code = 0; code < widths.size(); ++code) {
+      widths[code] = metrics.horizontalAdvance(QLatin1Char(static_cast<char>(code))) / kReferenceHeight;
+    }
+  };
+  QFont reference = At(kReferenceHeight);
+  measure(reference, m_widths);
+  reference.setBold(true);
+  measure(reference, m_boldWidths);
+}
+
+QFont TextMeasureQt::At(double height) const {
+  QFont font = m_font;
+  font.setPixelSize(FontPixels(height));
+  return font;
+}
+
+double TextMeasureQt::Width(std::string_view text, double height) const {
+  return Sum(text, m_widths) * FontPixels(height);
+}
+
+double TextMeasureQt::BoldWidth(std::string_view text, double height) const {
+  return Sum(text, m_boldWidths) * FontPixels(height);
 }
 
 void StripChartPainterQt::PaintText(const ChartText& text, const QColor& colour, bool bold) {
@@ -191,17 +208,17 @@ void StripChartPainterQt::PaintReading(const ChartReading& reading) {
   m_painter.setRenderHint(QPainter::Antialiasing, true);
   m_painter.setPen(QPen(m_colours.Caption, 1.0));
   m_painter.drawLine(QLineF(reading.X, m_picture.PlotArea.Y, reading.X, m_picture.PlotArea.Bottom()));
-  double width = m_measure.Width(reading.Time, text);
+  double width = m_measure.BoldWidth(reading.Time, text);
   for (const ChartReading::Value& value : reading.Values) {
     m_painter.setPen(QPen(m_colours.Back, 1.5));
     m_painter.setBrush(TraceColour(value.Trace));
     m_painter.drawEllipse(QPointF(reading.X, value.Y), 0.32 * text, 0.32 * text);
-    width = std::max(width, m_measure.Width(value.Text, text));
+    width = std::max(width, m_measure.BoldWidth(value.Text, text));
   }
   const double row = 1.35 * text;
   const double pad = 0.6 * text;
   const double swatch = 0.9 * text;
-  QRectF box(0.0, 0.0, width * 1.08 + swatch + 2.0 * pad,
+  QRectF box(0.0, 0.0, width + swatch + 2.0 * pad,
              row * static_cast<double>(reading.Values.size() + 1) + pad);
   const bool leftHalf = reading.X < m_picture.PlotArea.X + m_picture.PlotArea.Width / 2.0;
   const double right = m_picture.PlotArea.Right() + 0.5 * text;

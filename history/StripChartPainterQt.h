@@ -18,12 +18,16 @@ class TextMeasureQt final : public TextMeasure {
  public:
   explicit TextMeasureQt(const QFont& font);
   double Width(std::string_view text, double height) const override;
+  double BoldWidth(std::string_view text, double height) const override;
   /// The font at a height [px].
   QFont At(double height) const;
 
  private:
+  using Widths = std::array<double, 128>;
+
   QFont m_font;
-  std::array<double, 128> m_widths{};  ///< of the ASCII characters in a font of 1 px
+  Widths m_widths{};  ///< of the ASCII characters in a font of 1 px
+  Widths m_boldWidths{};
 };
 
 class StripChartPainterQt {

@@ -13,19 +13,14 @@ namespace {
 constexpr std::int64_t kMillisecondsPerSecond = 1000;
 /// Columns are not narrower than this [px].
 constexpr double kLeastColumn = 1.0;
-/// Slots without a sample after which a newest value counts as old.
-constexpr std::int64_t kOldAfter = 2;
 
 // Parts of the text height.
-constexpr double kEdge = 0.55;        // around everything
-constexpr double kPanelGap = 0.45;    // between panels
-constexpr double kTitleRow = 1.55;    // above a plot
-constexpr double kTimeRow = 1.75;     // below the last plot
-constexpr double kTickText = 0.92;    // height of a tick's text
-constexpr double kTickRoom = 2.1;     // height per tick of a value axis
-constexpr double kTwoLineCell = 3.0;  // a legend cell of this height has the name above the value
-
-const char* const kNoValue = "\xE2\x80\x93";
+constexpr double kEdge = 0.55;      // around everything
+constexpr double kPanelGap = 0.45;  // between panels
+constexpr double kTitleRow = 1.55;  // above a plot
+constexpr double kTimeRow = 1.75;   // below the last plot
+constexpr double kTickText = 0.92;  // height of a tick's text
+constexpr double kTickRoom = 2.1;   // height per tick of a value axis
 
 double TextFor(const ChartView& view) {
   constexpr double kPerWidth = 1.0 / 62.0;
@@ -99,7 +94,7 @@ void StripChartPicture::LayOut(const ChartSubject& subject, const ChartView& vie
   const double left = measure.Width("-1800", tick) + 0.7 * text;
   const double right = directions ? measure.Width("3600", tick) + 0.9 * text : 0.7 * text;
   constexpr double kLegendShare = 0.19;
-  const double legend = std::max(view.Width * kLegendShare, measure.Width("AWA -188.8", text) + 1.5 * text);
+  const double legend = std::max(view.Width * kLegendShare, LegendLeastWidth(text, measure));
   PlotArea.X = left;
   PlotArea.Width = std::max(view.Width - left - right - legend, 1.0);
   const double bottom = std::max(view.Height - kTimeRow * text, edge + 1.0);
@@ -117,10 +112,11 @@ void StripChartPicture::LayOut(const ChartSubject& subject, const ChartView& vie
     const double title = std::min(kTitleRow * text, height / 2.0);
     Panels[i].Plot = {PlotArea.X, top + title, PlotArea.Width, std::max(height - title, 1.0)};
     const double legendLeft = PlotArea.Right() + right;
-    PlaceLegend(subject, Panels[i],
-                {legendLeft, top, std::max(view.Width - legendLeft - 0.3 * text, 1.0), height}, measure);
+    PlaceLegendCells(Panels[i],
+                     {legendLeft, top, std::max(view.Width - legendLeft - 0.3 * text, 1.0), height});
     top += height + kPanelGap * text;
   }
+  ComposeLegend(subject.Data, text, measure, Legend);
   PlotArea.Y = used > 0 ? Panels.front().Plot.Y : edge;
   PlotArea.Height = std::max(bottom - PlotArea.Y, 1.0);
 
@@ -133,67 +129,17 @@ void StripChartPicture::LayOut(const ChartSubject& subject, const ChartView& vie
   LiveSlot = subject.Data.LastSlot() < EndSlot ? subject.Data.LastSlot() / PerBucket * PerBucket : EndSlot;
 }
 
-void StripChartPicture::PlaceLegend(const ChartSubject& subject, const ChartPanel& panel, const ChartBox& box,
-                                    const TextMeasure& measure) {
-  const double text = TextHeight;
+void StripChartPicture::PlaceLegendCells(const ChartPanel& panel, const ChartBox& box) {
   constexpr double kLargestCell = 6.0;
-  const double count = static_cast<double>(panel.Traces.size());
-  const double cell = std::min(box.Height / count, kLargestCell * text);
+  const double height =
+      std::min(box.Height / static_cast<double>(panel.Traces.size()), kLargestCell * TextHeight);
   double top = box.Y;
   for (const ChartTrace& drawn : panel.Traces) {
-    const StripChartData::Trace& trace = subject.Data.Traces()[static_cast<std::size_t>(drawn.Trace)];
-    const NewestValue& newest = trace.Newest;
     ChartLegendEntry entry;
     entry.Trace = drawn.Trace;
-    entry.Cell = {box.X, top, box.Width, cell};
-    const double bar = std::max(3.0, 0.3 * text);
-    entry.Swatch = {box.X, top + 0.1 * cell, bar, 0.8 * cell};
-    const double left = box.X + bar + 0.5 * text;
-    const double width = std::max(box.Right() - left, 1.0);
-    const bool none = newest.Slot == NewestValue::kNever || !std::isfinite(newest.Value);
-    entry.Old = none || subject.Data.LastSlot() - newest.Slot >= kOldAfter;
-    entry.Value.Text = none ? kNoValue : ValueText(newest.Value);
-    entry.Units.Text = trace.ShownUnits();
-    entry.Units.Height = text * 0.9;
-    const double units = measure.Width(entry.Units.Text, entry.Units.Height);
-    const double longest = measure.Width("-188.8", 1.0);
-    if (cell >= kTwoLineCell * text) {
-      const double name = 1.2 * text;
-      entry.Name.Text = measure.Width(trace.Name, text) <= width ? trace.Name : ShortName(trace.Name);
-      entry.Name.Box = {left, top + 0.07 * cell, width, name};
-      entry.Name.Height = text;
-      const double valueRoom = std::max(width - units - 0.5 * text, 1.0);
-      entry.Value.Height = std::min({0.86 * cell - name, 3.2 * text, valueRoom / longest});
-      const double valueWidth =
-          std::max(longest * entry.Value.Height, measure.Width(entry.Value.Text, entry.Value.Height));
-      entry.Value.Box = {left, entry.Name.Box.Bottom(), valueWidth, 0.86 * cell - name};
-      entry.Units.Box = {entry.Value.Box.Right() + 0.35 * text, entry.Value.Box.Y,
-                         std::max(box.Right() - entry.Value.Box.Right() - 0.35 * text, 0.0),
-                         entry.Value.Box.Height};
-    } else {
-      // One line: a name as long as it fits, the value at the right, the units where there is room left.
-      entry.Value.Height = std::min(0.85 * cell, 1.15 * text);
-      const double value = longest * entry.Value.Height;
-      const double unitsWidth = measure.Width("Kts", entry.Units.Height) + 0.35 * text;
-      const double full = measure.Width(trace.Name, text);
-      const std::string brief = ShortName(trace.Name);
-      const bool fits = full + 0.5 * text + value + unitsWidth <= width;
-      const bool withUnits =
-          measure.Width(brief, text) + 0.5 * text + value + std::max(units + 0.35 * text, unitsWidth) <=
-          width;
-      const double right = withUnits ? box.Right() - std::max(units + 0.35 * text, unitsWidth) : box.Right();
-      entry.Name.Text = fits ? trace.Name : brief;
-      entry.Name.Height = std::min(text, 0.85 * cell);
-      entry.Name.Box = {left, top, std::max(right - value - left, 0.0), cell};
-      entry.Value.Box = {right - value, top, value, cell};
-      entry.Units.Box = {right + 0.35 * text, top, std::max(box.Right() - right - 0.35 * text, 0.0), cell};
-      if (!withUnits) {
-        entry.Units.Text.clear();
-      }
-    }
-    entry.Value.Align = ChartText::Side::Right;
+    entry.Cell = {box.X, top, box.Width, height};
     Legend.push_back(entry);
-    top += cell;
+    top += height;
   }
 }
 
@@ -251,9 +197,7 @@ void StripChartPicture::ComposePanel(const ChartSubject& subject, ChartPanel& pa
     axis.Title.Height = text;
     axis.Title.Align = right ? ChartText::Side::Right : ChartText::Side::Left;
     axis.Title.Box = {plot.X, plot.Y - titleHeight, plot.Width, titleHeight};
-    // Bold titles are wider than they are measured.
-    constexpr double kBold = 1.13;
-    const double unitsLeft = plot.X + kBold * measure.Width(axis.Title.Text, text) + 0.5 * text;
+    const double unitsLeft = plot.X + measure.BoldWidth(axis.Title.Text, text) + 0.5 * text;
     axis.Units.Height = 0.9 * text;
     axis.Units.Box = {unitsLeft, axis.Title.Box.Y, std::max(plot.Right() - unitsLeft, 0.0), titleHeight};
     for (const ValueTick& tick : Ticks(axis.Scale)) {
@@ -273,9 +217,9 @@ void StripChartPicture::ComposePanel(const ChartSubject& subject, ChartPanel& pa
     }
   }
   // Both titles share a row: the right one goes where they would meet.
-  if (panel.Axes.size() > 1 &&
-      measure.Width(panel.Axes[0].Title.Text, text) + measure.Width(panel.Axes[1].Title.Text, text) + text >
-          panel.Plot.Width) {
+  if (panel.Axes.size() > 1 && measure.BoldWidth(panel.Axes[0].Title.Text, text) +
+                                       measure.Width(panel.Axes[1].Title.Text, text) + text >
+                                   panel.Plot.Width) {
     panel.Axes[1].Title.Text.clear();
   }
 

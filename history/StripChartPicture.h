@@ -6,23 +6,16 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
+#include "history/ChartLegend.h"
+#include "history/ChartText.h"
 #include "history/StripChartData.h"
 #include "history/TraceGroups.h"
 #include "history/TraceLine.h"
 #include "history/TraceSettings.h"
 
 namespace veerwatch {
-
-/// How wide a text is drawn.
-class TextMeasure {
- public:
-  virtual ~TextMeasure() = default;
-  /// [px] for a text of that height [px].
-  virtual double Width(std::string_view text, double height) const = 0;
-};
 
 /// From where the chart is looked at.
 struct ChartView {
@@ -39,15 +32,6 @@ struct ChartSubject {
   const std::vector<std::string>& Titles;  ///< of the groups
   const std::vector<TraceGroup>& Groups;   ///< of the traces
   const TraceSettings& Settings;
-};
-
-struct ChartText {
-  enum class Side { Left, Middle, Right };
-
-  std::string Text;
-  ChartBox Box;
-  double Height = 0.0;  ///< of the text
-  Side Align = Side::Left;
 };
 
 /// A value axis beside a panel.
@@ -79,17 +63,6 @@ struct ChartPanel {
 struct ChartTimeTick {
   double X = 0.0;
   ChartText Label;  ///< without a text where there is no room for one
-};
-
-/// A trace with its newest value, beside its panel.
-struct ChartLegendEntry {
-  int Trace = 0;
-  ChartBox Cell;
-  ChartBox Swatch;
-  ChartText Name;
-  ChartText Value;
-  ChartText Units;
-  bool Old = false;  ///< the value is no more of now
 };
 
 /// What a point of the chart shows.
@@ -132,8 +105,7 @@ struct StripChartPicture {
 
  private:
   void LayOut(const ChartSubject& subject, const ChartView& view, const TextMeasure& measure);
-  void PlaceLegend(const ChartSubject& subject, const ChartPanel& panel, const ChartBox& box,
-                   const TextMeasure& measure);
+  void PlaceLegendCells(const ChartPanel& panel, const ChartBox& box);
   void ComposePanel(const ChartSubject& subject, ChartPanel& panel, const TextMeasure& measure) const;
   void ComposeTime(const StripChartData& data, const TextMeasure& measure);
 };

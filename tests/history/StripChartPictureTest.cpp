@@ -19,6 +19,7 @@ class EvenMeasure final : public TextMeasure {
   double Width(std::string_view text, double height) const override {
     return 0.6 * height * static_cast<double>(text.size());
   }
+  double BoldWidth(std::string_view text, double height) const override { return 1.15 * Width(text, height); }
 };
 
 class StripChartPictureTest : public testing::Test {
@@ -129,6 +130,57 @@ TEST_F(StripChartPictureTest, FitsAnySize) {
       }
       EXPECT_FALSE(Times().empty());
     }
+  }
+}
+
+/// Every value is right-aligned with one decimal, so its point is where its right edge and its size are.
+TEST_F(StripChartPictureTest, TheValuesOfTheLegendStandUnderEachOtherByTheirPoints) {
+  for (const HistoryTrace& trace : kHistoryTraces) {
+    Add(trace.Name, trace.Group == 0 ? "7.0 Kts" : "-129.5 deg");
+  }
+  Add("Heading", "275.0 M");
+  for (const double width : {220.0, 267.0, 480.0, 1200.0, 3840.0}) {
+    for (const double height : {180.0, 265.0, 600.0, 2160.0}) {
+      SCOPED_TRACE(std::to_string(width) + " x " + std::to_string(height));
+      Compose(width, height);
+      const ChartText& first = Picture.Legend.front().Value;
+      for (const ChartLegendEntry& entry : Picture.Legend) {
+        EXPECT_EQ(entry.Value.Box.Right(), first.Box.Right());
+        EXPECT_EQ(entry.Value.Height, first.Height);
+        EXPECT_EQ(entry.Value.Align, ChartText::Side::Right);
+        // Right-aligned and bold it still begins behind the bar.
+        EXPECT_GT(entry.Value.Box.Right() - EvenMeasure().BoldWidth(entry.Value.Text, entry.Value.Height),
+                  entry.Swatch.Right());
+      }
+    }
+  }
+}
+
+TEST_F(StripChartPictureTest, AValueThatIsTooLongForTheLegendIsSmaller) {
+  Add("Heading", "90.0 M");
+  Add("Boat Speed", "-1234567.8 Kts");
+  for (const double height : {265.0, 600.0}) {
+    Compose(800.0, height);
+    const ChartText& heading = Picture.Legend[2].Value;
+    const ChartLegendEntry& boat = Picture.Legend[7];
+    ASSERT_EQ(boat.Trace, 0);
+    EXPECT_LT(boat.Value.Height, heading.Height);
+    EXPECT_GE(boat.Value.Box.Right() - EvenMeasure().BoldWidth(boat.Value.Text, boat.Value.Height),
+              boat.Swatch.Right());
+  }
+}
+
+TEST_F(StripChartPictureTest, LongUnitsLeaveTheValuesTheirRoom) {
+  Add("Heading", "90.0 M");
+  for (const double height : {265.0, 900.0}) {
+    Compose(800.0, height);
+    const double before = Picture.Legend[2].Value.Height;
+    Add("Boat Speed", "7.0 unitsOfManyLett");
+    Compose(800.0, height);
+    EXPECT_EQ(Picture.Legend[2].Value.Height, before);
+    EXPECT_EQ(Picture.Legend[7].Units.Text, "");
+    EXPECT_EQ(Picture.Legend[7].Value.Text, "7.0");
+    Add("Boat Speed", "7.0 Kts");
   }
 }
 
