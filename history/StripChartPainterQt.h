@@ -10,6 +10,7 @@
 
 #include "history/StripChartColoursQt.h"
 #include "history/StripChartPicture.h"
+#include "history/TraceStroke.h"
 
 namespace veerwatch {
 
@@ -62,6 +63,7 @@ class StripChartPainterQt {
   const StripChartColoursQt& m_colours;
   const std::vector<QColor>& m_traceColours;
   const std::vector<QColor>& m_groupColours;
+  TraceStroke m_stroke;
   QList<QLineF> m_pieces;
 };
 

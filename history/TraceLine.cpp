@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace veerwatch {
 
@@ -49,10 +50,9 @@ class Stroke {
     m_value = end;
   }
 
-  void Dot() {
-    m_open = false;
+  void Dot(double diameter) {
     if (m_value >= m_frame.Scale.Low && m_value <= m_frame.Scale.High) {
-      Append({m_x, m_frame.Y(m_value)});
+      m_line.Dots.push_back({{m_x, m_frame.Y(m_value)}, diameter});
     }
   }
 
@@ -137,6 +137,19 @@ class Stroke {
   bool m_open = false;  ///< the last polyline may go on
 };
 
+/// As large as fits between the columns beside it, so that single values in a row do not make a thick line.
+double DotDiameter(const TraceFrame& frame, const std::vector<TraceBucket>& buckets, std::size_t at) {
+  constexpr double kLeast = 2.0;
+  std::int64_t slots = std::numeric_limits<std::int64_t>::max();
+  if (at > 0) {
+    slots = buckets[at].Slot - buckets[at - 1].Slot;
+  }
+  if (at + 1 < buckets.size()) {
+    slots = std::min(slots, buckets[at + 1].Slot - buckets[at].Slot);
+  }
+  return std::clamp(static_cast<double>(slots) * frame.SlotWidth, kLeast, ChartDot::kDiameter);
+}
+
 }  // namespace
 
 void GatherBuckets(const StripChartData& data, const StripChartData::Trace& trace, std::int64_t first,
@@ -195,7 +208,7 @@ void TraceBuckets(const TraceFrame& frame, const std::vector<TraceBucket>& bucke
       stroke.MoveTo(x, static_cast<double>(bucket.Latest));
       const bool alone = i + 1 == buckets.size() || !buckets[i + 1].Joined;
       if (alone) {
-        stroke.Dot();
+        stroke.Dot(DotDiameter(frame, buckets, i));
       }
     }
   }

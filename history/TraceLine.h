@@ -59,15 +59,25 @@ struct TraceFrame {
   }
 };
 
+/// A value without a line to either side.
+struct ChartDot {
+  static constexpr double kDiameter = 5.0;  ///< [px]; less where the next column is nearer
+
+  ChartPoint Middle;
+  double Diameter = kDiameter;
+};
+
 /// A trace as it is stroked: polylines through the latest values, and bars over all that happened.
 struct TraceLine {
   std::vector<ChartPoint> Points;   ///< of all polylines, one behind the other
-  std::vector<std::size_t> Starts;  ///< where in Points each begins; one of a single point is a dot
+  std::vector<std::size_t> Starts;  ///< where in Points each begins; each has two points at least
+  std::vector<ChartDot> Dots;
   std::vector<ChartBox> Bars;
 
   void Clear() {
     Points.clear();
     Starts.clear();
+    Dots.clear();
     Bars.clear();
   }
   /// One past the last point of a polyline.
@@ -79,7 +89,7 @@ struct TraceLine {
 /// Traces the buckets [begin, end) into `line`. Nothing leaves the plot: what is beyond the scale is cut off
 /// at its edge. Where an angle passes the seam of its scale, one polyline ends at one edge and another begins
 /// at the other. No polyline goes on over a bucket that is not joined; when bucket `begin` is joined its line
-/// starts at the bucket before it.
+/// starts at the bucket before it. A bucket that is joined to none is a dot.
 void TraceBuckets(const TraceFrame& frame, const std::vector<TraceBucket>& buckets, std::size_t begin,
                   std::size_t end, TraceLine& line);
 

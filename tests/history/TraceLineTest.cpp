@@ -87,14 +87,42 @@ TEST_F(TraceLineTest, DoesNotCrossAValueThatIsNotFinite) {
   EXPECT_EQ(Line.Starts.size(), 2U);
 }
 
-TEST_F(TraceLineTest, ALonelySlotIsADot) {
+TEST_F(TraceLineTest, ALonelySlotIsADotOfFivePixels) {
   Define(TraceKind::Speed, kSpeeds);
   Feed({"1", "", "3", "", "5", "6"});
   Draw();
-  ASSERT_EQ(Line.Starts.size(), 3U);
-  EXPECT_EQ(Polyline(0), (Points{{15.0, 85.0}}));
-  EXPECT_EQ(Polyline(1), (Points{{35.0, 65.0}}));
-  EXPECT_EQ(Polyline(2).size(), 2U);
+  ASSERT_EQ(Line.Dots.size(), 2U);
+  EXPECT_EQ(Line.Dots[0].Middle, (ChartPoint{15.0, 85.0}));
+  EXPECT_EQ(Line.Dots[1].Middle, (ChartPoint{35.0, 65.0}));
+  EXPECT_EQ(Line.Dots[0].Diameter, 5.0);
+  EXPECT_EQ(Line.Dots[1].Diameter, 5.0);
+  ASSERT_EQ(Line.Starts.size(), 1U);
+  EXPECT_EQ(Polyline(0), (Points{{55.0, 45.0}, {65.0, 35.0}}));
+}
+
+TEST_F(TraceLineTest, DotsInARowDoNotMakeAThickLine) {
+  Define(TraceKind::Speed, kSpeeds);
+  Frame.SlotWidth = 2.0;
+  Feed({"1", "", "3", "", "", "5"});
+  Draw();
+  ASSERT_EQ(Line.Dots.size(), 3U);
+  EXPECT_EQ(Line.Dots[0].Diameter, 4.0);
+  EXPECT_EQ(Line.Dots[1].Diameter, 4.0);
+  EXPECT_EQ(Line.Dots[2].Diameter, 5.0);
+  Frame.SlotWidth = 0.5;
+  Draw();
+  for (const ChartDot& dot : Line.Dots) {
+    EXPECT_EQ(dot.Diameter, 2.0);
+  }
+}
+
+TEST_F(TraceLineTest, ADotBeyondAFixedScaleIsNotDrawn) {
+  Define(TraceKind::Speed, {ScaleKind::Linear, 2.0, 4.0, 1.0});
+  Feed({"1.9", "", "2", "", "4", "", "4.1"});
+  Draw();
+  ASSERT_EQ(Line.Dots.size(), 2U);
+  EXPECT_EQ(Line.Dots[0].Middle, (ChartPoint{35.0, 95.0}));
+  EXPECT_EQ(Line.Dots[1].Middle, (ChartPoint{55.0, 5.0}));
 }
 
 TEST_F(TraceLineTest, ABarShowsWhatHappenedInASlot) {
@@ -108,7 +136,8 @@ TEST_F(TraceLineTest, ABarShowsWhatHappenedInASlot) {
   EXPECT_EQ(Line.Bars[0].Width, 10.0);
   EXPECT_EQ(Line.Bars[0].Y, 25.0);
   EXPECT_EQ(Line.Bars[0].Bottom(), 75.0);
-  EXPECT_EQ(Polyline(0), (Points{{15.0, 65.0}}));
+  ASSERT_EQ(Line.Dots.size(), 1U);
+  EXPECT_EQ(Line.Dots[0].Middle, (ChartPoint{15.0, 65.0}));
 }
 
 TEST_F(TraceLineTest, AHeadingLeavesAtTheTopAndComesBackAtTheBottom) {
@@ -190,13 +219,56 @@ TEST_F(TraceLineTest, WhatIsBeyondAFixedScaleIsCutAtItsEdge) {
 TEST_F(TraceLineTest, ALineThatComesFromBeforeIsCutAtTheLeftEdge) {
   Define(TraceKind::Speed, kSpeeds);
   Frame.EndSlot = 12;
-  Frame.Plot = {10.0, 5.0, 100.0, 90.0};
   Feed({"0", "0", "9", "9"});
   Gather(1, 11);
   TraceBuckets(Frame, Buckets, 0, Buckets.size(), Line);
-  for (const ChartPoint& point : Line.Points) {
-    EXPECT_GE(point.X, 10.0 - 1e-9);
-  }
+  // From 5 to 15 px the line rises over the whole plot, whose edge is at 10.
+  ASSERT_EQ(Line.Starts.size(), 1U);
+  EXPECT_EQ(Polyline(0), (Points{{10.0, 50.0}, {15.0, 5.0}, {25.0, 5.0}}));
+}
+
+TEST_F(TraceLineTest, ALineIsCutAtTheLeftEdgeAndAtTheEdgeOfItsScale) {
+  Define(TraceKind::Speed, {ScaleKind::Linear, 0.0, 6.0, 1.0});
+  Frame.EndSlot = 12;
+  Feed({"0", "-9", "9"});
+  Gather(1, 11);
+  TraceBuckets(Frame, Buckets, 0, Buckets.size(), Line);
+  // It comes into the scale at 10 px, just at the edge, and leaves it 10 / 3 px further on.
+  ASSERT_EQ(Line.Points.size(), 2U);
+  EXPECT_NEAR(Line.Points[0].X, 10.0, 1e-9);
+  EXPECT_NEAR(Line.Points[0].Y, 95.0, 1e-9);
+  EXPECT_NEAR(Line.Points[1].X, 10.0 + 10.0 / 3.0, 1e-9);
+  EXPECT_NEAR(Line.Points[1].Y, 5.0, 1e-9);
+  Feed({"-9"});
+  Frame.EndSlot = 13;
+  Gather(1, 12);
+  TraceBuckets(Frame, Buckets, 0, Buckets.size(), Line);
+  // From 5 px, where it has 9, down to -9 at 15 px: in the scale between 6.7 and 10 px, left of the plot.
+  EXPECT_TRUE(Line.Points.empty());
+}
+
+TEST_F(TraceLineTest, ALineThatEndsAtTheLeftEdgeIsNotDrawn) {
+  Define(TraceKind::Speed, kSpeeds);
+  Frame.Plot = {15.0, 5.0, 95.0, 90.0};
+  Feed({"1", "2"});
+  Frame.EndSlot = 11;
+  Draw();
+  EXPECT_TRUE(Line.Points.empty());
+}
+
+TEST_F(TraceLineTest, ABarIsCutAtTheEdgesOfThePlot) {
+  Define(TraceKind::Speed, kSpeeds);
+  Frame.PerBucket = 4;
+  Frame.EndSlot = 10;
+  Frame.Plot = {30.0, 5.0, 80.0, 90.0};
+  Feed({"1", "2", "3", "4", "", "", "", "", "5", "6"});
+  Draw();
+  // Columns from 10 to 50 px and from 90 to 130 in a plot from 30 to 110.
+  ASSERT_EQ(Line.Bars.size(), 2U);
+  EXPECT_EQ(Line.Bars[0].X, 30.0);
+  EXPECT_EQ(Line.Bars[0].Width, 20.0);
+  EXPECT_EQ(Line.Bars[1].X, 90.0);
+  EXPECT_EQ(Line.Bars[1].Width, 20.0);
 }
 
 TEST_F(TraceLineTest, SeveralSlotsShareAColumn) {
