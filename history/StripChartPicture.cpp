@@ -32,6 +32,24 @@ double TextFor(const ChartView& view) {
 
 std::string ValueText(float value) { return FormatNumber(value, "0.0"); }
 
+/// The lowest and the highest value of a column behind its latest one; nothing where they are the same.
+std::string EdgesText(const ValueScale& scale, const TraceBucket& bucket) {
+  if (ValueText(bucket.Low) == ValueText(bucket.High)) {
+    return "";
+  }
+  // A turn whose edges have the same tenth.
+  constexpr float kAllRound = 359.95F;
+  if (scale.Circular() && bucket.High - bucket.Low > kAllRound) {
+    return " (all round)";
+  }
+  const auto named = [&scale](float edge) {
+    const double least = scale.Kind == ScaleKind::Relative ? -180.0 : 0.0;
+    return ValueText(scale.Circular() ? static_cast<float>(OnTurnAbove(static_cast<double>(edge), least))
+                                      : edge);
+  };
+  return " (" + named(bucket.Low) + " to " + named(bucket.High) + ")";
+}
+
 /// The wall clock where a slot begins, that of slots which are not held worked out from those which are.
 std::int64_t WallAt(const StripChartData& data, std::int64_t slot) {
   const std::int64_t held = std::clamp(slot, data.FirstSlot(), data.LastSlot());
@@ -321,16 +339,7 @@ std::optional<ChartReading> StripChartPicture::ReadAt(const ChartSubject& subjec
     if (!trace.ShownUnits().empty()) {
       shown.Text.append(1, ' ').append(trace.ShownUnits());
     }
-    if (ValueText(found->Low) != ValueText(found->High)) {
-      const auto named = [&scale](float edge) {
-        if (!scale.Circular()) {
-          return ValueText(edge);
-        }
-        const double least = scale.Kind == ScaleKind::Relative ? -180.0 : 0.0;
-        return ValueText(static_cast<float>(OnTurnAbove(static_cast<double>(edge), least)));
-      };
-      shown.Text += " (" + named(found->Low) + " to " + named(found->High) + ")";
-    }
+    shown.Text += EdgesText(scale, *found);
     const double distance = std::fabs(shown.Y - y);
     if (reading.Values.empty() || distance < nearest) {
       nearest = distance;

@@ -70,7 +70,8 @@ struct ChartReading {
   struct Value {
     int Trace = 0;
     double Y = 0.0;
-    std::string Text;  ///< name, value and units; lowest and highest where they differ
+    /// Name, value and units; lowest and highest where they differ, or "all round".
+    std::string Text;
   };
 
   std::size_t Panel = 0;

@@ -352,6 +352,48 @@ TEST_F(StripChartPictureTest, ReadsWhatStandsUnderAPoint) {
   }
 }
 
+TEST_F(StripChartPictureTest, ReadsATurnRightRoundAsAllRound) {
+  for (int degrees = 0; degrees < 720; degrees += 30) {
+    Add("Heading", std::to_string(degrees % 360) + ".0 M");
+    Add("True Wind Angle", std::to_string(degrees % 360 - 180) + ".0 M");
+    Add("Pilot Delta", std::to_string(degrees < 360 ? degrees : 359) + ".0 deg");
+  }
+  Compose();
+  const ChartBox& plot = Picture.Panels[1].Plot;
+  const auto reading = Picture.ReadAt(Subject(), plot.Right() - 0.5 * Picture.SlotWidth, plot.Y + 1.0);
+  ASSERT_TRUE(reading);
+  ASSERT_EQ(reading->Values.size(), 3U);
+  EXPECT_EQ(reading->Values[0].Text, "Heading 330.0 M (all round)");
+  EXPECT_EQ(reading->Values[1].Text, "True Wind Angle 150.0 M (all round)");
+  EXPECT_EQ(reading->Values[2].Text, "Pilot Delta 359.0 deg (0.0 to -1.0)");
+}
+
+TEST_F(StripChartPictureTest, ASpeedIsNeverAllRound) {
+  Add("Boat Speed", "0.0 Kts");
+  Add("Boat Speed", "400.0 Kts");
+  Compose();
+  const ChartBox& plot = Picture.Panels[2].Plot;
+  const auto reading = Picture.ReadAt(Subject(), plot.Right() - 0.5 * Picture.SlotWidth, plot.Y + 1.0);
+  ASSERT_TRUE(reading);
+  EXPECT_EQ(reading->Values[0].Text, "Boat Speed 400.0 Kts (0.0 to 400.0)");
+}
+
+/// Wherever in a slot its first value came: its time is a whole ten of seconds.
+TEST_F(StripChartPictureTest, ReadsTimesInWholeTensOfSeconds) {
+  Time.Pass(7999);
+  Add("Heading", "90.0 M");
+  Time.Time.Wall += 4321;
+  Time.Pass(1000);
+  Add("Heading", "91.0 M");
+  Compose();
+  const ChartBox& plot = Picture.Panels[1].Plot;
+  for (const auto& [slots, time] : {std::pair{0.5, "09:00:10"}, std::pair{2.5, "09:00:00"}}) {
+    const auto reading = Picture.ReadAt(Subject(), plot.Right() - slots * Picture.SlotWidth, plot.Y + 1.0);
+    ASSERT_TRUE(reading);
+    EXPECT_EQ(reading->Time, time);
+  }
+}
+
 TEST_F(StripChartPictureTest, ReadsNothingOutsideOfPlotsAndInGaps) {
   Add("Heading", "90.0 M");
   Time.Pass(30000);
