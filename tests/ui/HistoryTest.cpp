@@ -98,6 +98,16 @@ TEST_F(History, TheMenuShowsItAndTheTickFollows) {
   EXPECT_TRUE(Loaded()->isVisible());
 }
 
+TEST_F(History, WearsTheProgramsIcon) {
+  Start();
+  Menu().trigger();
+  ASSERT_NE(Loaded(), nullptr);
+  const QSize size(48, 48);
+  const QImage icon = Loaded()->windowIcon().pixmap(size).toImage();
+  ASSERT_FALSE(icon.isNull());
+  EXPECT_EQ(icon, Window->windowIcon().pixmap(size).toImage());
+}
+
 TEST_F(History, OpensAgainWhenItWasOpen) {
   Start("[History Window]\nVisible=True\nWidth=7500\n");
   ASSERT_NE(Loaded(), nullptr);
