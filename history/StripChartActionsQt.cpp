@@ -71,18 +71,20 @@ void StripChart::leaveEvent(QEvent* event) {
 void StripChart::wheelEvent(QWheelEvent* event) {
   const QPoint delta = event->angleDelta();
   const int way = std::abs(delta.x()) > std::abs(delta.y()) ? delta.x() : delta.y();
-  m_wheelRest += way / kWheelNotch;
+  const double turned = way / kWheelNotch;
   if ((event->modifiers() & Qt::ControlModifier) != 0) {
-    const double notches = std::trunc(m_wheelRest);
-    m_wheelRest -= notches;
+    m_zoomRest += turned;
+    const double notches = std::trunc(m_zoomRest);
+    m_zoomRest -= notches;
     if (notches != 0.0) {
-      ChangeSpan(notches > 0.0 ? -1 : 1);
+      ChangeSpan(-static_cast<int>(notches));
     }
   } else {
+    m_scrollRest += turned;
     const double perNotch = kScrollPart * static_cast<double>(SlotsOfSpan(m_data, m_settings.Span));
-    const double whole = std::trunc(m_wheelRest * perNotch);
+    const double whole = std::trunc(m_scrollRest * perNotch);
     if (whole != 0.0) {
-      m_wheelRest -= whole / perNotch;
+      m_scrollRest -= whole / perNotch;
       LookBack(whole);
     }
   }

@@ -8,7 +8,6 @@
 #include <QImage>
 #include <QPushButton>
 #include <QToolButton>
-#include <QWheelEvent>
 
 #include "tests/support/WaitQt.h"
 #include "tests/ui/history/HistoryTester.h"
@@ -18,16 +17,6 @@ namespace {
 
 class HistoryWindow : public HistoryTester {
  public:
-  void Wheel(int notches, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    const QPointF at(100.0, 100.0);
-    QWheelEvent event(at, Chart().mapToGlobal(at), QPoint(), QPoint(0, 120 * notches), Qt::NoButton,
-                      modifiers, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(&Chart(), &event);
-  }
-
-  std::int64_t EndSlot() { return Chart().Picture().EndSlot; }
-  std::int64_t Now() { return Chart().Data().LastSlot() + 1; }
-
   /// Moves the shown window so that its frame is there.
   void PlaceFrame(const QRect& frame) {
     const QSize around = Window->frameGeometry().size() - Window->size();
@@ -187,106 +176,6 @@ TEST_F(HistoryWindow, ClosedByItsFrameItHidesSavesAndGoesOnRecording) {
   Time.Pass(10000);
   Window->SetValue("Heading", 91.0F, "M");
   EXPECT_EQ(Chart().Data().LastSlot(), 3);
-}
-
-// Looking back
-
-TEST_F(HistoryWindow, TheWheelLooksBackAndTheButtonReturns) {
-  Load();
-  Window->resize(600, 400);
-  RecordHeading(1000);
-  Show();
-  EXPECT_TRUE(Chart().FollowsNow());
-  EXPECT_FALSE(Find<QPushButton>("cmdNow").isVisible());
-  Wheel(2);
-  EXPECT_FALSE(Chart().FollowsNow());
-  EXPECT_EQ(EndSlot(), Now() - 45);  // two eighths of thirty minutes
-  EXPECT_TRUE(Find<QPushButton>("cmdNow").isVisible());
-  QTest::mouseClick(&Find<QPushButton>("cmdNow"), Qt::LeftButton);
-  EXPECT_TRUE(Chart().FollowsNow());
-  EXPECT_EQ(EndSlot(), Now());
-  EXPECT_FALSE(Find<QPushButton>("cmdNow").isVisible());
-}
-
-TEST_F(HistoryWindow, TheWheelEndsAtTheOldestValueAndAtNow) {
-  Load();
-  Window->resize(600, 400);
-  RecordHeading(400);
-  Show();
-  Wheel(500);
-  EXPECT_EQ(EndSlot(), 180);
-  Wheel(-500);
-  EXPECT_EQ(EndSlot(), Now());
-  EXPECT_TRUE(Chart().FollowsNow());
-}
-
-TEST_F(HistoryWindow, WhatOneLooksBackAtStaysInPlaceWhileTimeGoesOn) {
-  Load();
-  Window->resize(600, 400);
-  RecordHeading(1000);
-  Show();
-  Wheel(4);
-  const std::int64_t end = EndSlot();
-  for (int i = 0; i < 50; ++i) {
-    Time.Pass(10000);
-    Window->SetValue("Heading", 100.0F, "M");
-  }
-  Chart().Refresh();
-  EXPECT_EQ(EndSlot(), end);
-}
-
-TEST_F(HistoryWindow, DraggingMovesTheTime) {
-  Load();
-  Window->resize(600, 400);
-  RecordHeading(1000);
-  Show();
-  const double width = Chart().Picture().SlotWidth;
-  QTest::mousePress(&Chart(), Qt::LeftButton, Qt::NoModifier, QPoint(100, 200));
-  QTest::mouseMove(&Chart(), QPoint(250, 200));
-  QTest::mouseRelease(&Chart(), Qt::LeftButton, Qt::NoModifier, QPoint(250, 200));
-  EXPECT_NEAR(static_cast<double>(Now() - EndSlot()), 150.0 / width, 1.0);
-  QTest::mousePress(&Chart(), Qt::LeftButton, Qt::NoModifier, QPoint(250, 200));
-  QTest::mouseMove(&Chart(), QPoint(90, 200));
-  QTest::mouseRelease(&Chart(), Qt::LeftButton, Qt::NoModifier, QPoint(90, 200));
-  EXPECT_TRUE(Chart().FollowsNow());
-}
-
-TEST_F(HistoryWindow, KeysMoveTheTimeAndTheSpan) {
-  Load();
-  Window->resize(600, 400);
-  RecordHeading(2000);
-  Show();
-  QTest::keyClick(&Chart(), Qt::Key_PageUp);
-  EXPECT_EQ(EndSlot(), Now() - 180);
-  QTest::keyClick(&Chart(), Qt::Key_Home);
-  EXPECT_EQ(EndSlot(), 180);
-  QTest::keyClick(&Chart(), Qt::Key_End);
-  EXPECT_TRUE(Chart().FollowsNow());
-  QTest::keyClick(&Chart(), Qt::Key_Minus);
-  EXPECT_EQ(Chart().Settings().Span, 3600);
-  for (int i = 0; i < 20; ++i) {
-    QTest::keyClick(&Chart(), Qt::Key_Minus);
-  }
-  EXPECT_EQ(Chart().Settings().Span, 86400);
-  for (int i = 0; i < 20; ++i) {
-    QTest::keyClick(&Chart(), Qt::Key_Plus);
-  }
-  EXPECT_EQ(Chart().Settings().Span, 600);
-  Wheel(-1, Qt::ControlModifier);
-  EXPECT_EQ(Chart().Settings().Span, 1200);
-}
-
-TEST_F(HistoryWindow, TheMouseShowsTheValueUnderIt) {
-  Load();
-  Window->resize(800, 500);
-  Record(1800, 10);
-  Show();
-  const QImage before = Chart().grab().toImage();
-  const ChartBox plot = Chart().Picture().Panels[1].Plot;
-  QTest::mouseMove(&Chart(), QPoint(qRound(plot.X + plot.Width / 2.0), qRound(plot.Y + 20.0)));
-  EXPECT_TRUE(WaitFor([&] { return Chart().grab().toImage() != before; }));
-  QTest::mouseMove(&Chart(), QPoint(798, 3));
-  EXPECT_TRUE(WaitFor([&] { return Chart().grab().toImage() == before; }));
 }
 
 // The configuration pop-up
@@ -459,10 +348,9 @@ TEST_F(HistoryWindow, SavesTheData) {
   QTest::mouseClick(&Find<QPushButton>("cmdSaveData"), Qt::LeftButton);
   QFile written(QString::fromStdString(file));
   ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-  EXPECT_EQ(
-      written.readAll().toStdString(),
-      "Time (UTC),Boat Speed [Kts],Heading [M],True Wind Speed [Kts],True Wind Angle [R],"
-      "App Wind Speed [Kts],App Wind Angle [R],Pilot Heading [Deg],Pilot Delta [Deg],Polar Speed [Kts]\n"
+  EXPECT_EQ(written.readAll().toStdString(),
+            "Time (UTC),Boat Speed [Kts],Heading [M],True Wind Speed [Kts],True Wind Angle [R],"
+            "App Wind Speed [Kts],App Wind Angle [R],Pilot Heading [Deg],Pilot Delta [Deg],Polar Speed [Kts]\n"
       "2026-03-31T09:00:00Z,,90,,,,,,,\n"
       "2026-03-31T09:00:10Z,,90,,,,,,,\n");
 }
