@@ -350,9 +350,15 @@ TEST_F(HistoryWindow, SavesTheData) {
   ASSERT_TRUE(written.open(QIODevice::ReadOnly));
   EXPECT_EQ(written.readAll().toStdString(),
             "Time (UTC),Boat Speed [Kts],Heading [M],True Wind Speed [Kts],True Wind Angle [R],"
-            "App Wind Speed [Kts],App Wind Angle [R],Pilot Heading [Deg],Pilot Delta [Deg],Polar Speed [Kts]\n"
-      "2026-03-31T09:00:00Z,,90,,,,,,,\n"
-      "2026-03-31T09:00:10Z,,90,,,,,,,\n");
+            "App Wind Speed [Kts],App Wind Angle [R],Pilot Heading [Deg],Pilot Delta [Deg],Polar Speed [Kts],"
+            "Boat Speed Lowest [Kts],Boat Speed Highest [Kts],Heading Lowest [M],Heading Highest [M],"
+            "True Wind Speed Lowest [Kts],True Wind Speed Highest [Kts],True Wind Angle Lowest [R],"
+            "True Wind Angle Highest [R],App Wind Speed Lowest [Kts],App Wind Speed Highest [Kts],"
+            "App Wind Angle Lowest [R],App Wind Angle Highest [R],Pilot Heading Lowest [Deg],"
+            "Pilot Heading Highest [Deg],Pilot Delta Lowest [Deg],Pilot Delta Highest [Deg],"
+            "Polar Speed Lowest [Kts],Polar Speed Highest [Kts]\n"
+            "2026-03-31T09:00:00Z,,90,,,,,,,,,,90,90,,,,,,,,,,,,,,\n"
+            "2026-03-31T09:00:10Z,,90,,,,,,,,,,90,90,,,,,,,,,,,,,,\n");
 }
 
 TEST_F(HistoryWindow, SaysWhyASaveFailed) {
