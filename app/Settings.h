@@ -27,8 +27,8 @@ struct Settings {
   bool m_bNmeaSentenceVHW = true;
   bool m_bNmeaSentenceVTG = true;
   std::int16_t m_iNmeaTrueWind = 1;           ///< 0 true wind from a sensor, 1 computed from the boat speed
-  float m_fNmeaTrueWindAverage = 2.0F;        ///< averaging count of the record [samples], 0 = none
-  float m_fNmeaWindIndicatorAverage = 60.0F;  ///< averaging count of the wind indicator [samples], 0 = none
+  float m_fNmeaTrueWindAverage = 2.0F;        ///< averaging count of the record [samples], by IsAverageCount
+  float m_fNmeaWindIndicatorAverage = 60.0F;  ///< the same of the wind indicator
 
   // The autopilot.
   std::int16_t m_iPilotPort = 5;  ///< number of the pilot port; equal to m_iNmeaPort: one port for both ways

@@ -29,10 +29,10 @@ void ProfileRead(const Profile& profile, Settings& settings, RememberedWindows& 
     value = fold(static_cast<double>(value));
   };
 
-  const auto notNegative = [&profile](const char* section, const char* key, float& value) {
+  const auto number = [&profile](const char* section, const char* key, float& value, bool (*fits)(float)) {
     float read = value;
     profile.ProfileGet(section, key, read);
-    value = read >= 0.0F ? read : value;
+    value = fits(read) ? read : value;
   };
 
   profile.ProfileGet("Nmea", "Boat Speed", settings.m_iNmeaBoatSpeed, 0, kLastSource);
@@ -46,7 +46,7 @@ void ProfileRead(const Profile& profile, Settings& settings, RememberedWindows& 
   profile.ProfileGet("Nmea", "Sentence VHW", settings.m_bNmeaSentenceVHW);
   profile.ProfileGet("Nmea", "Sentence VTG", settings.m_bNmeaSentenceVTG);
   profile.ProfileGet("Nmea", "True Wind", settings.m_iNmeaTrueWind, 0, kLastSource);
-  notNegative("Nmea", "True Wind Average", settings.m_fNmeaTrueWindAverage);
+  number("Nmea", "True Wind Average", settings.m_fNmeaTrueWindAverage, IsAverageCount);
   profile.ProfileGet("Pilot", "Port", settings.m_iPilotPort, kFirstPort);
   angle("Pilot", "Bearing", settings.m_fAutoPilot, FoldBearing);
   profile.ProfileGet("Simulate", "Nmea", settings.m_bSimulate);
@@ -60,12 +60,8 @@ void ProfileRead(const Profile& profile, Settings& settings, RememberedWindows& 
   profile.ProfileGet("Simulate", "Waypoint Bearing", settings.m_fSimulateWaypointBearing);
   profile.ProfileGet("Simulate", "Waypoint Range", settings.m_fSimulateWaypointRange);
   profile.ProfileGet("Track", "Alarm", settings.m_bTrackAlarm);
-  notNegative("Track", "Alarm Limit", settings.m_fTrackAlarmLimit);
-  float bandwidth = settings.m_fTrackBandwidth;
-  profile.ProfileGet("Track", "Bandwidth", bandwidth);
-  if (bandwidth > 0.0F) {
-    settings.m_fTrackBandwidth = bandwidth;
-  }
+  number("Track", "Alarm Limit", settings.m_fTrackAlarmLimit, [](float limit) { return limit >= 0.0F; });
+  number("Track", "Bandwidth", settings.m_fTrackBandwidth, [](float bandwidth) { return bandwidth > 0.0F; });
   profile.ProfileGet("Track", "Damping", settings.m_fTrackDamping);
   angle("Track", "Desired 1", settings.DesiredAngle[1], FoldRelative);
   angle("Track", "Desired 2", settings.DesiredAngle[2], FoldRelative);

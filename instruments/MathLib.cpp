@@ -59,6 +59,8 @@ float ToSingle(double value) {
   return static_cast<float>(std::clamp(value, -kLargest, kLargest));
 }
 
+bool IsAverageCount(float Count) { return Count == 0.0F || Count > 0.5F; }
+
 void AverageAngleRelative(float NewAngle, float Count, float& Average) {
   if (Count == 0.0F) {
     Average = NewAngle;

@@ -29,6 +29,10 @@ float FoldRelative(double Angle);
 /// so that finite values stay finite.
 float ToSingle(double value);
 
+/// Whether the filters below may work with a count: 0, or above 0.5. What is between them weighs a new sample
+/// by 2 and more, and the average runs away.
+bool IsAverageCount(float Count);
+
 /// One step of a first-order filter over unit vectors: the new sample weighs 1 / Count, the old average the
 /// rest. Count 0: the average becomes the sample. Average in (-180, 180], or -180 by the rule of Atan2.
 /// Deliberate: a Count between 0 and 1 weighs the sample above 1.

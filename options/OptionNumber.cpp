@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "instruments/MathLib.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -13,6 +14,8 @@ bool Allows(OptionRange range, float value) {
       return value >= 0.0F;
     case OptionRange::Positive:
       return value > 0.0F;
+    case OptionRange::AverageCount:
+      return IsAverageCount(value);
     case OptionRange::Any:
       break;
   }
@@ -25,6 +28,8 @@ std::string_view FaultText(OptionFault fault) {
       return "Type mismatch";
     case OptionFault::Overflow:
       return "Overflow";
+    case OptionFault::SmallCount:
+      return "Must be 0 or above 0.5";
     case OptionFault::InvalidValue:
       break;
   }

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cassert>
-#include <initializer_list>
 
 #include "options/SimulateTimeText.h"
 
@@ -10,27 +9,10 @@ namespace veerwatch {
 
 namespace {
 
-/// A text and the setting that it goes to.
-struct Item {
-  const std::string& Text;
-  float& Setting;
-  OptionRange Allowed = OptionRange::Any;
-};
-
-/// Stores them one after the other, up to the first fault.
-std::optional<OptionFault> StoreSingles(std::initializer_list<Item> items) {
-  for (const Item& item : items) {
-    const Converted<float> number = ToOptionSingle(item.Text);
-    if (const auto* fault = std::get_if<OptionFault>(&number)) {
-      return *fault;
-    }
-    const float value = std::get<float>(number);
-    if (!Allows(item.Allowed, value)) {
-      return OptionFault::InvalidValue;
-    }
-    item.Setting = value;
-  }
-  return std::nullopt;
+/// What to say of a number that `range` does not allow.
+OptionFault RefusalOf(OptionRange range, float value) {
+  return range == OptionRange::AverageCount && value > 0.0F ? OptionFault::SmallCount
+                                                            : OptionFault::InvalidValue;
 }
 
 std::int16_t Source(int index) {
@@ -39,6 +21,13 @@ std::int16_t Source(int index) {
 }
 
 }  // namespace
+
+struct OptionsStore::Item {
+  const char* Box;
+  const std::string& Text;
+  float& Setting;
+  OptionRange Allowed = OptionRange::Any;
+};
 
 std::optional<std::string> OptionsStore::Store(const OptionsForm& form) {
   struct Group {
@@ -53,9 +42,25 @@ std::optional<std::string> OptionsStore::Store(const OptionsForm& form) {
   for (const Group& group : kGroups) {
     if (const Fault fault = (this->*group.Store)(form)) {
       std::string message(group.Name);
-      message.append(" Options Problem ").append(FaultText(*fault));
+      message.append(" Options Problem ").append(FaultText(fault->Kind)).append(": ").append(fault->Box);
       return message;
     }
+  }
+  return std::nullopt;
+}
+
+/// Stores them one after the other, up to the first fault.
+OptionsStore::Fault OptionsStore::StoreSingles(std::initializer_list<Item> items) {
+  for (const Item& item : items) {
+    const Converted<float> number = ToOptionSingle(item.Text);
+    if (const auto* fault = std::get_if<OptionFault>(&number)) {
+      return BoxFault{*fault, item.Box};
+    }
+    const float value = std::get<float>(number);
+    if (!Allows(item.Allowed, value)) {
+      return BoxFault{RefusalOf(item.Allowed, value), item.Box};
+    }
+    item.Setting = value;
   }
   return std::nullopt;
 }
@@ -67,20 +72,26 @@ OptionsStore::Fault OptionsStore::StoreData(const OptionsForm& form) {
     m_main.*kOptionSentences[i].Setting = form.NmeaSentence[i];
   }
   m_main.m_iNmeaTrueWind = Source(form.NmeaTrueWind);
-  return StoreSingles(
-      {{form.NmeaTrueWindAverage, m_main.m_fNmeaTrueWindAverage, OptionRange::NotNegative},
-       {form.NmeaWindIndicatorAverage, m_main.m_fNmeaWindIndicatorAverage, OptionRange::NotNegative}});
+  return StoreSingles({{"True Wind Average", form.NmeaTrueWindAverage, m_main.m_fNmeaTrueWindAverage,
+                        OptionRange::AverageCount},
+                       {"Wind Indicator Average", form.NmeaWindIndicatorAverage,
+                        m_main.m_fNmeaWindIndicatorAverage, OptionRange::AverageCount}});
+}
+
+/// What became of the text of a box.
+OptionsStore::Fault OptionsStore::In(const char* box, std::optional<OptionFault> fault) {
+  return fault ? Fault({*fault, box}) : std::nullopt;
 }
 
 OptionsStore::Fault OptionsStore::StoreInput(const OptionsForm& form) {
-  return StorePort(form.NmeaPort, m_ports.NmeaPortOpen(), m_main.m_iNmeaPort);
+  return In("Comm", StorePort(form.NmeaPort, m_ports.NmeaPortOpen(), m_main.m_iNmeaPort));
 }
 
 OptionsStore::Fault OptionsStore::StoreOutput(const OptionsForm& form) {
-  return StorePort(form.PilotPort, m_ports.PilotPortOpen(), m_main.m_iPilotPort);
+  return In("Comm", StorePort(form.PilotPort, m_ports.PilotPortOpen(), m_main.m_iPilotPort));
 }
 
-OptionsStore::Fault OptionsStore::StorePort(const std::string& text, bool open, std::int16_t& port) {
+std::optional<OptionFault> OptionsStore::StorePort(const std::string& text, bool open, std::int16_t& port) {
   const Converted<float> number = ToOptionSingle(text);
   if (const auto* fault = std::get_if<OptionFault>(&number)) {
     return *fault;
@@ -108,23 +119,24 @@ OptionsStore::Fault OptionsStore::StoreSimulate(const OptionsForm& form) {
     m_main.m_bSimulate = form.Simulate;
     m_main.TrackSetSetup();
   }
-  if (const Fault fault = StoreSingles({{form.SimulateBoatSpeed, m_main.m_fSimulateBoatSpeed},
-                                        {form.SimulateCompassOffset, m_main.m_fSimulateCompassOffset},
-                                        {form.SimulateNoiseAngle, m_main.m_fSimulateNoiseAngle},
-                                        {form.SimulateNoiseSpeed, m_main.m_fSimulateNoiseSpeed}})) {
+  if (const Fault fault =
+          StoreSingles({{"Boat Speed", form.SimulateBoatSpeed, m_main.m_fSimulateBoatSpeed},
+                        {"Offset", form.SimulateCompassOffset, m_main.m_fSimulateCompassOffset},
+                        {"Angle Noise", form.SimulateNoiseAngle, m_main.m_fSimulateNoiseAngle},
+                        {"Noise", form.SimulateNoiseSpeed, m_main.m_fSimulateNoiseSpeed}})) {
     return fault;
   }
-  if (const Fault fault = StoreTime(form.SimulateTime)) {
+  if (const Fault fault = In("Time", StoreTime(form.SimulateTime))) {
     return fault;
   }
-  return StoreSingles({{form.SimulateTrueWindAngle, m_main.m_fSimulateTrueWindAngle},
-                       {form.SimulateTrueWindSpeed, m_main.m_fSimulateTrueWindSpeed},
-                       {form.SimulateVariation, m_main.m_fSimulateVariation},
-                       {form.SimulateWaypointBrg, m_main.m_fSimulateWaypointBearing},
-                       {form.SimulateWaypointRng, m_main.m_fSimulateWaypointRange}});
+  return StoreSingles({{"True Wind Direction", form.SimulateTrueWindAngle, m_main.m_fSimulateTrueWindAngle},
+                       {"True Wind Speed", form.SimulateTrueWindSpeed, m_main.m_fSimulateTrueWindSpeed},
+                       {"Magnetic Variation", form.SimulateVariation, m_main.m_fSimulateVariation},
+                       {"Waypoint Bearing", form.SimulateWaypointBrg, m_main.m_fSimulateWaypointBearing},
+                       {"Waypoint Range", form.SimulateWaypointRng, m_main.m_fSimulateWaypointRange}});
 }
 
-OptionsStore::Fault OptionsStore::StoreTime(const std::string& text) {
+std::optional<OptionFault> OptionsStore::StoreTime(const std::string& text) {
   const Converted<float> time = SimulateTimeParse(text);
   if (const auto* fault = std::get_if<OptionFault>(&time)) {
     return *fault;
@@ -142,10 +154,11 @@ OptionsStore::Fault OptionsStore::StoreTime(const std::string& text) {
 
 OptionsStore::Fault OptionsStore::StoreTracking(const OptionsForm& form) {
   m_main.m_bTrackAlarm = form.TrackAlarm;
-  return StoreSingles({{form.TrackAlarmLimit, m_main.m_fTrackAlarmLimit, OptionRange::NotNegative},
-                       {form.TrackBandwidth, m_main.m_fTrackBandwidth, kTrackBandwidthRange},
-                       {form.TrackDamping, m_main.m_fTrackDamping, kTrackDampingRange},
-                       {form.TrackMaxSteerTo, m_main.m_fTrackMaxSteerTo}});
+  return StoreSingles(
+      {{"Alarm Limit", form.TrackAlarmLimit, m_main.m_fTrackAlarmLimit, OptionRange::NotNegative},
+       {"Bandwidth", form.TrackBandwidth, m_main.m_fTrackBandwidth, kTrackBandwidthRange},
+       {"Damping", form.TrackDamping, m_main.m_fTrackDamping, kTrackDampingRange},
+       {"Max Steer To", form.TrackMaxSteerTo, m_main.m_fTrackMaxSteerTo}});
 }
 
 }  // namespace veerwatch

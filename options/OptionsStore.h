@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
 #include <string>
 
@@ -28,24 +29,33 @@ class OptionsStore {
   OptionsStore(MainWindowApi& main, const OptionsPorts& ports) : m_main(main), m_ports(ports) {}
 
   /// Stores the groups "Data", "Input", "Output", "Simulate" and "Tracking" in this order. Stops at the first
-  /// text that cannot be stored and gives the message for it, as "Input Options Problem Type mismatch"; what
-  /// was stored before stays stored. Nothing when everything is stored.
-  /// Refused are a port below 1, a bandwidth that is not above 0, and a damping, an average or an alarm limit
-  /// below 0. A port is compared as a number, so "1.0" is port 1 and restarts nothing; a text that is no port
-  /// restarts nothing either.
+  /// text that cannot be stored and gives the message for it, with the name of its box, as "Input Options
+  /// Problem Type mismatch: Comm"; what was stored before stays stored. Nothing when everything is stored.
+  /// Refused are a port below 1, a bandwidth that is not above 0, a damping or an alarm limit below 0, and an
+  /// average that is neither 0 nor above 0.5. A port is compared as a number, so "1.0" is port 1 and restarts
+  /// nothing; a text that is no port restarts nothing either.
   std::optional<std::string> Store(const OptionsForm& form);
 
  private:
+  /// Why the text of a box cannot be stored.
+  struct BoxFault {
+    OptionFault Kind;
+    const char* Box;  ///< its name in the dialog
+  };
   /// Nothing when it is stored.
-  using Fault = std::optional<OptionFault>;
+  using Fault = std::optional<BoxFault>;
+  /// A box and the setting that its text goes to.
+  struct Item;
 
   Fault StoreData(const OptionsForm& form);
   Fault StoreInput(const OptionsForm& form);
   Fault StoreOutput(const OptionsForm& form);
   Fault StoreSimulate(const OptionsForm& form);
   Fault StoreTracking(const OptionsForm& form);
-  Fault StorePort(const std::string& text, bool open, std::int16_t& port);
-  Fault StoreTime(const std::string& text);
+  static Fault In(const char* box, std::optional<OptionFault> fault);
+  static Fault StoreSingles(std::initializer_list<Item> items);
+  std::optional<OptionFault> StorePort(const std::string& text, bool open, std::int16_t& port);
+  std::optional<OptionFault> StoreTime(const std::string& text);
 
   MainWindowApi& m_main;
   const OptionsPorts& m_ports;

@@ -21,7 +21,6 @@ void GetNumber(const Profile& profile, const char* key, float& value, Fits fits)
 }
 
 bool Positive(float number) { return number > 0.0F; }
-bool NotNegative(float number) { return number >= 0.0F; }
 
 /// An enumeration of whole numbers from 0 to `last`.
 template <class Enumeration>
@@ -36,7 +35,7 @@ void GetChoice(const Profile& profile, const char* key, Enumeration& value, Enum
 void PolarRecall(const Profile& profile, PolarSettings& settings) {
   profile.ProfileGet(kData, "File 1", settings.File[0]);
   profile.ProfileGet(kData, "File 2", settings.File[1]);
-  GetNumber(profile, "Plot Average", settings.PlotAverage, NotNegative);
+  GetNumber(profile, "Plot Average", settings.PlotAverage, IsAverageCount);
   profile.ProfileGet(kData, "Plot Label WindSpeed", settings.PlotLabelWindSpeed);
   GetChoice(profile, "Plot Type", settings.Type, PlotType::ApparentWind);
   // Every colour of 24 bits is a whole single.

@@ -27,7 +27,7 @@ enum class BoatType : std::int16_t { SailOnly = 0, MotorAndSail = 1 };
 
 struct PolarSettings {
   std::array<std::string, 2> File{kDefaultPolar, kDefaultPolar};  ///< by slot; whole, or relative
-  float PlotAverage = 2.0F;         ///< averaging count of what comes in [s], 0 = none, never below
+  float PlotAverage = 2.0F;         ///< averaging count of what comes in [s], 0 = none, else above 0.5
   bool PlotLabelWindSpeed = false;  ///< each curve carries its wind speed
   PlotType Type = PlotType::TrueWind;
   std::uint32_t SpeedColor = 0;      ///< colour of the curves, 0xBBGGRR; 0 is the plot's foreground colour

@@ -243,6 +243,13 @@ TEST(SettingsProfile, ANumberThatMayNotBeNegativeLeavesTheDefault) {
   EXPECT_EQ(ReadFrom(With("Nmea", "True Wind Average", "0")).m_fNmeaTrueWindAverage, 0.0F);
 }
 
+TEST(SettingsProfile, AnAverageThatRunsAwayLeavesTheDefault) {
+  for (const std::string_view text : {"0.5", "0.4", "0.001", "1e-30"}) {
+    EXPECT_EQ(ReadFrom(With("Nmea", "True Wind Average", text)).m_fNmeaTrueWindAverage, 2.0F) << text;
+  }
+  EXPECT_EQ(ReadFrom(With("Nmea", "True Wind Average", "0.51")).m_fNmeaTrueWindAverage, 0.51F);
+}
+
 TEST(SettingsProfile, TheWindowsThatWereOpenAreShownAgainInTurn) {
   Settings settings;
   Windows windows;

@@ -166,6 +166,27 @@ TEST(AverageValue, OvershootsForACountBetweenZeroAndOne) {
   EXPECT_EQ(Value(10.0F, 0.5F, 4.0F), 16.0F);
 }
 
+TEST(IsAverageCount, IsZeroOrAboveAHalf) {
+  for (const float count : {0.0F, -0.0F, 0.50001F, 0.6F, 1.0F, 60.0F, 1e30F}) {
+    EXPECT_TRUE(IsAverageCount(count)) << count;
+  }
+  for (const float count : {0.5F, 0.4F, 1e-30F, -0.1F, -2.0F, NAN}) {
+    EXPECT_FALSE(IsAverageCount(count)) << count;
+  }
+}
+
+TEST(AverageValue, StaysNearASteadySampleForEveryCountThatIsOne) {
+  for (float count = 0.51F; count < 3.0F; count += 0.01F) {
+    ASSERT_TRUE(IsAverageCount(count));
+    float average = 5.0F;
+    for (int i = 0; i < 2000; ++i) {
+      AverageValue(12.0F, count, average);
+      ASSERT_LT(std::fabs(average - 12.0F), 7.0F) << count;
+    }
+    EXPECT_NEAR(average, 12.0F, 0.01F) << count;
+  }
+}
+
 TEST(AverageValue, ApproachesASteadySample) {
   float average = 0.0F;
   for (int i = 1; i <= 20; ++i) {

@@ -124,6 +124,7 @@ TEST_F(OptionsStoring, ShowsTheSettingsInTheirShortestForm) {
 
 struct Failing {
   const char* Group;
+  const char* Box;
   std::function<void(OptionsForm&)> Spoil;
   int Stored;  ///< groups before it
 };
@@ -133,7 +134,8 @@ class OptionsStoringFails : public OptionsStoring, public testing::WithParamInte
 TEST_P(OptionsStoringFails, BehindWhatWasStoredBefore) {
   OptionsForm form = OtherForm();
   GetParam().Spoil(form);
-  EXPECT_EQ(Store.Store(form), std::string(GetParam().Group) + " Options Problem Type mismatch");
+  EXPECT_EQ(Store.Store(form),
+            std::string(GetParam().Group) + " Options Problem Type mismatch: " + GetParam().Box);
   EXPECT_EQ(DataStored(), GetParam().Stored > 0);
   EXPECT_EQ(InputStored(), GetParam().Stored > 1);
   EXPECT_EQ(OutputStored(), GetParam().Stored > 2);
@@ -143,17 +145,19 @@ TEST_P(OptionsStoringFails, BehindWhatWasStoredBefore) {
 
 INSTANTIATE_TEST_SUITE_P(
     Groups, OptionsStoringFails,
-    testing::Values(Failing{"Data", [](OptionsForm& form) { form.NmeaWindIndicatorAverage = "x"; }, 0},
-                    Failing{"Input", [](OptionsForm& form) { form.NmeaPort = ""; }, 1},
-                    Failing{"Output", [](OptionsForm& form) { form.PilotPort = "COM3"; }, 2},
-                    Failing{"Simulate", [](OptionsForm& form) { form.SimulateWaypointRng = "1 2"; }, 3},
-                    Failing{"Tracking", [](OptionsForm& form) { form.TrackMaxSteerTo = "ten"; }, 4}),
+    testing::Values(
+        Failing{"Data", "Wind Indicator Average",
+                [](OptionsForm& form) { form.NmeaWindIndicatorAverage = "x"; }, 0},
+        Failing{"Input", "Comm", [](OptionsForm& form) { form.NmeaPort = ""; }, 1},
+        Failing{"Output", "Comm", [](OptionsForm& form) { form.PilotPort = "COM3"; }, 2},
+        Failing{"Simulate", "Waypoint Range", [](OptionsForm& form) { form.SimulateWaypointRng = "1 2"; }, 3},
+        Failing{"Tracking", "Max Steer To", [](OptionsForm& form) { form.TrackMaxSteerTo = "ten"; }, 4}),
     [](const auto& failing) { return failing.param.Group; });
 
 TEST_F(OptionsStoring, KeepsWhatAGroupStoredBeforeItFailed) {
   OptionsForm form = OtherForm();
   form.SimulateTime = "1:x";
-  EXPECT_EQ(Store.Store(form), "Simulate Options Problem Type mismatch");
+  EXPECT_EQ(Store.Store(form), "Simulate Options Problem Type mismatch: Time");
   EXPECT_TRUE(Main.m_bSimulate);
   EXPECT_EQ(Main.m_fSimulateBoatSpeed, 6.5F);
   EXPECT_EQ(Main.m_fSimulateCompassOffset, -2.0F);
@@ -179,45 +183,47 @@ TEST_F(OptionsStoring, StoresTheTrueWindAverageBeforeTheOther) {
 
 struct OrderedText {
   const char* Group;
+  const char* Box;
   std::string OptionsForm::*Text;
   std::function<bool(const Settings&)> Stored;
 };
 
 const std::vector<OrderedText>& OrderedTexts() {
   static const std::vector<OrderedText> kTexts{
-      {"Data", &OptionsForm::NmeaTrueWindAverage,
+      {"Data", "True Wind Average", &OptionsForm::NmeaTrueWindAverage,
        [](const Settings& main) { return main.m_fNmeaTrueWindAverage == 3.5F; }},
-      {"Data", &OptionsForm::NmeaWindIndicatorAverage,
+      {"Data", "Wind Indicator Average", &OptionsForm::NmeaWindIndicatorAverage,
        [](const Settings& main) { return main.m_fNmeaWindIndicatorAverage == 30.0F; }},
-      {"Input", &OptionsForm::NmeaPort, [](const Settings& main) { return main.m_iNmeaPort == 7; }},
-      {"Output", &OptionsForm::PilotPort, [](const Settings& main) { return main.m_iPilotPort == 8; }},
-      {"Simulate", &OptionsForm::SimulateBoatSpeed,
+      {"Input", "Comm", &OptionsForm::NmeaPort, [](const Settings& main) { return main.m_iNmeaPort == 7; }},
+      {"Output", "Comm", &OptionsForm::PilotPort,
+       [](const Settings& main) { return main.m_iPilotPort == 8; }},
+      {"Simulate", "Boat Speed", &OptionsForm::SimulateBoatSpeed,
        [](const Settings& main) { return main.m_fSimulateBoatSpeed == 6.5F; }},
-      {"Simulate", &OptionsForm::SimulateCompassOffset,
+      {"Simulate", "Offset", &OptionsForm::SimulateCompassOffset,
        [](const Settings& main) { return main.m_fSimulateCompassOffset == -2.0F; }},
-      {"Simulate", &OptionsForm::SimulateNoiseAngle,
+      {"Simulate", "Angle Noise", &OptionsForm::SimulateNoiseAngle,
        [](const Settings& main) { return main.m_fSimulateNoiseAngle == 1.5F; }},
-      {"Simulate", &OptionsForm::SimulateNoiseSpeed,
+      {"Simulate", "Noise", &OptionsForm::SimulateNoiseSpeed,
        [](const Settings& main) { return main.m_fSimulateNoiseSpeed == 0.5F; }},
-      {"Simulate", &OptionsForm::SimulateTime,
+      {"Simulate", "Time", &OptionsForm::SimulateTime,
        [](const Settings& main) { return main.m_fSimulateTime == 2.25F; }},
-      {"Simulate", &OptionsForm::SimulateTrueWindAngle,
+      {"Simulate", "True Wind Direction", &OptionsForm::SimulateTrueWindAngle,
        [](const Settings& main) { return main.m_fSimulateTrueWindAngle == 215.0F; }},
-      {"Simulate", &OptionsForm::SimulateTrueWindSpeed,
+      {"Simulate", "True Wind Speed", &OptionsForm::SimulateTrueWindSpeed,
        [](const Settings& main) { return main.m_fSimulateTrueWindSpeed == 17.5F; }},
-      {"Simulate", &OptionsForm::SimulateVariation,
+      {"Simulate", "Magnetic Variation", &OptionsForm::SimulateVariation,
        [](const Settings& main) { return main.m_fSimulateVariation == -3.0F; }},
-      {"Simulate", &OptionsForm::SimulateWaypointBrg,
+      {"Simulate", "Waypoint Bearing", &OptionsForm::SimulateWaypointBrg,
        [](const Settings& main) { return main.m_fSimulateWaypointBearing == 268.0F; }},
-      {"Simulate", &OptionsForm::SimulateWaypointRng,
+      {"Simulate", "Waypoint Range", &OptionsForm::SimulateWaypointRng,
        [](const Settings& main) { return main.m_fSimulateWaypointRange == 12.5F; }},
-      {"Tracking", &OptionsForm::TrackAlarmLimit,
+      {"Tracking", "Alarm Limit", &OptionsForm::TrackAlarmLimit,
        [](const Settings& main) { return main.m_fTrackAlarmLimit == 8.0F; }},
-      {"Tracking", &OptionsForm::TrackBandwidth,
+      {"Tracking", "Bandwidth", &OptionsForm::TrackBandwidth,
        [](const Settings& main) { return main.m_fTrackBandwidth == 25.0F; }},
-      {"Tracking", &OptionsForm::TrackDamping,
+      {"Tracking", "Damping", &OptionsForm::TrackDamping,
        [](const Settings& main) { return main.m_fTrackDamping == 2.5F; }},
-      {"Tracking", &OptionsForm::TrackMaxSteerTo,
+      {"Tracking", "Max Steer To", &OptionsForm::TrackMaxSteerTo,
        [](const Settings& main) { return main.m_fTrackMaxSteerTo == 15.0F; }},
   };
   return kTexts;
@@ -232,7 +238,8 @@ TEST_F(OptionsStoring, StoresTheTextsInTheirOrderUpToTheOneThatFails) {
     form.*spoilt.Text = std::string(100000, '9').append(":x");
     EXPECT_EQ(OptionsStore(main, Ports).Store(form),
               std::string(spoilt.Group) + " Options Problem " +
-                  (spoilt.Text == &OptionsForm::SimulateTime ? "Overflow" : "Type mismatch"));
+                  (spoilt.Text == &OptionsForm::SimulateTime ? "Overflow: " : "Type mismatch: ") +
+                  spoilt.Box);
     for (std::size_t i = 0; i < OrderedTexts().size(); ++i) {
       EXPECT_EQ(OrderedTexts()[i].Stored(main), i < failing) << failing << ", " << i;
     }
@@ -247,20 +254,27 @@ TEST_F(OptionsStoring, StoresTheTextsInTheirOrderUpToTheOneThatFails) {
 // Values that a setting cannot be.
 
 TEST_F(OptionsStoring, RefusesWhatTheLoopCannotWorkWith) {
-  const std::vector<std::pair<std::string, std::function<void(OptionsForm&)>>> spoilt{
-      {"Data", [](OptionsForm& form) { form.NmeaTrueWindAverage = "-0.1"; }},
-      {"Data", [](OptionsForm& form) { form.NmeaWindIndicatorAverage = "-1"; }},
-      {"Input", [](OptionsForm& form) { form.NmeaPort = "0"; }},
-      {"Output", [](OptionsForm& form) { form.PilotPort = "-3"; }},
-      {"Tracking", [](OptionsForm& form) { form.TrackAlarmLimit = "-1"; }},
-      {"Tracking", [](OptionsForm& form) { form.TrackBandwidth = "0"; }},
-      {"Tracking", [](OptionsForm& form) { form.TrackBandwidth = "-5"; }},
-      {"Tracking", [](OptionsForm& form) { form.TrackDamping = "-0.5"; }},
+  struct Spoilt {
+    const char* Group;
+    const char* Box;
+    std::string OptionsForm::*Text;
+    const char* Typed;
   };
-  for (const auto& [group, spoil] : spoilt) {
+  const std::vector<Spoilt> spoilt{
+      {"Data", "True Wind Average", &OptionsForm::NmeaTrueWindAverage, "-0.1"},
+      {"Data", "Wind Indicator Average", &OptionsForm::NmeaWindIndicatorAverage, "-1"},
+      {"Input", "Comm", &OptionsForm::NmeaPort, "0"},
+      {"Output", "Comm", &OptionsForm::PilotPort, "-3"},
+      {"Tracking", "Alarm Limit", &OptionsForm::TrackAlarmLimit, "-1"},
+      {"Tracking", "Bandwidth", &OptionsForm::TrackBandwidth, "0"},
+      {"Tracking", "Bandwidth", &OptionsForm::TrackBandwidth, "-5"},
+      {"Tracking", "Damping", &OptionsForm::TrackDamping, "-0.5"},
+  };
+  for (const Spoilt& one : spoilt) {
     OptionsForm form = OtherForm();
-    spoil(form);
-    EXPECT_EQ(Store.Store(form), group + " Options Problem Invalid property value");
+    form.*one.Text = one.Typed;
+    EXPECT_EQ(Store.Store(form),
+              std::string(one.Group) + " Options Problem Invalid property value: " + one.Box);
     EXPECT_GT(Main.m_fTrackBandwidth, 0.0F);
     EXPECT_GE(Main.m_fTrackDamping, 0.0F);
     EXPECT_GE(Main.m_iNmeaPort, 1);
@@ -270,13 +284,34 @@ TEST_F(OptionsStoring, RefusesWhatTheLoopCannotWorkWith) {
   EXPECT_EQ(Store.Store(form), std::nullopt);
 }
 
+TEST_F(OptionsStoring, AnAverageIsZeroOrAboveAHalf) {
+  for (const char* text : {"0.5", "0.4", "0.1", "1e-20"}) {
+    OptionsForm form = OtherForm();
+    form.NmeaTrueWindAverage = text;
+    EXPECT_EQ(Store.Store(form), "Data Options Problem Must be 0 or above 0.5: True Wind Average") << text;
+    EXPECT_EQ(Main.m_fNmeaTrueWindAverage, Settings{}.m_fNmeaTrueWindAverage) << text;
+    form = OptionsFormOf(Main);
+    form.NmeaWindIndicatorAverage = text;
+    EXPECT_EQ(Store.Store(form), "Data Options Problem Must be 0 or above 0.5: Wind Indicator Average")
+        << text;
+    EXPECT_EQ(Main.m_fNmeaWindIndicatorAverage, Settings{}.m_fNmeaWindIndicatorAverage) << text;
+  }
+  for (const auto& [text, count] : {std::pair{"0.6", 0.6F}, std::pair{"0", 0.0F}, std::pair{"1", 1.0F}}) {
+    OptionsForm form = OptionsFormOf(Main);
+    form.NmeaTrueWindAverage = form.NmeaWindIndicatorAverage = text;
+    EXPECT_EQ(Store.Store(form), std::nullopt) << text;
+    EXPECT_EQ(Main.m_fNmeaTrueWindAverage, count);
+    EXPECT_EQ(Main.m_fNmeaWindIndicatorAverage, count);
+  }
+}
+
 TEST_F(OptionsStoring, TellsOfNumbersThatAreTooLarge) {
   OptionsForm form = OtherForm();
   form.NmeaPort = "40000";
-  EXPECT_EQ(Store.Store(form), "Input Options Problem Overflow");
+  EXPECT_EQ(Store.Store(form), "Input Options Problem Overflow: Comm");
   form = OtherForm();
   form.SimulateBoatSpeed = "1e39";
-  EXPECT_EQ(Store.Store(form), "Simulate Options Problem Overflow");
+  EXPECT_EQ(Store.Store(form), "Simulate Options Problem Overflow: Boat Speed");
 }
 
 TEST_F(OptionsStoring, KeepsEverySettingFinite) {

@@ -99,6 +99,17 @@ TEST(PolarSettings, KeepTheirDefaultsWhereTheProfileHoldsNonsense) {
   EXPECT_EQ(settings.File[0], "Fast Sled 60ft.pol");
 }
 
+TEST(PolarSettings, KeepTheDefaultOfAnAverageThatRunsAway) {
+  for (const char* text : {"0.5", "0.4", "0.001"}) {
+    PolarSettings settings;
+    PolarRecall(ProfileOf(std::string("[Polar Data]\nPlot Average=") + text + "\n"), settings);
+    EXPECT_EQ(settings.PlotAverage, 2.0F) << text;
+  }
+  PolarSettings settings;
+  PolarRecall(ProfileOf("[Polar Data]\nPlot Average=0.6\n"), settings);
+  EXPECT_EQ(settings.PlotAverage, 0.6F);
+}
+
 TEST(PolarSettings, NameFilesInTheProgramsFolderWithoutIt) {
   EXPECT_EQ(WithoutFolder("/opt/boat/a.pol", "/opt/boat"), "a.pol");
   EXPECT_EQ(WithoutFolder("/opt/boat/a.pol", "/opt/boat/"), "a.pol");

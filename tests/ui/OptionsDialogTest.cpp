@@ -209,6 +209,7 @@ struct Group {
   const char* Name;
   int Tab;
   const char* Box;
+  const char* Caption;
   int Stored;  ///< groups before it
 };
 
@@ -233,7 +234,8 @@ TEST_P(OptionsGroups, FailWithTheirNameBehindWhatIsStored) {
     Click(button);
     ASSERT_EQ(Dialogs.Messages.size(), 1U);
     EXPECT_EQ(Dialogs.Messages[0].Title, "Veerwatch");
-    EXPECT_EQ(Dialogs.Messages[0].Text, std::string(GetParam().Name) + " Options Problem Type mismatch");
+    EXPECT_EQ(Dialogs.Messages[0].Text,
+              std::string(GetParam().Name) + " Options Problem Type mismatch: " + GetParam().Caption);
     EXPECT_TRUE(Window->isVisible());
     EXPECT_TRUE(Bold());
     EXPECT_EQ(Entry(GetParam().Box), "1.2.3");
@@ -246,12 +248,22 @@ TEST_P(OptionsGroups, FailWithTheirNameBehindWhatIsStored) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, OptionsGroups,
-                         testing::Values(Group{"Data", 1, "txtNmeaTrueWindAverage", 0},
-                                         Group{"Input", 0, "txtNmeaPort", 1},
-                                         Group{"Output", 2, "txtPilotPort", 2},
-                                         Group{"Simulate", 4, "txtSimulateNoiseAngle", 3},
-                                         Group{"Tracking", 3, "txtTrackAlarmLimit", 4}),
+                         testing::Values(Group{"Data", 1, "txtNmeaTrueWindAverage", "True Wind Average", 0},
+                                         Group{"Input", 0, "txtNmeaPort", "Comm", 1},
+                                         Group{"Output", 2, "txtPilotPort", "Comm", 2},
+                                         Group{"Simulate", 4, "txtSimulateNoiseAngle", "Angle Noise", 3},
+                                         Group{"Tracking", 3, "txtTrackAlarmLimit", "Alarm Limit", 4}),
                          [](const auto& group) { return group.param.Name; });
+
+TEST_F(OptionsDialog, ACountWithWhichAnAverageRunsAwayIsToldAndNotStored) {
+  Start(frmOptions::Data);
+  Type("txtNmeaTrueWindAverage", "0.4");
+  Click("cmdApply");
+  ASSERT_EQ(Dialogs.Messages.size(), 1U);
+  EXPECT_EQ(Dialogs.Messages[0].Text, "Data Options Problem Must be 0 or above 0.5: True Wind Average");
+  EXPECT_EQ(Main.m_fNmeaTrueWindAverage, 2.0F);
+  EXPECT_TRUE(Bold());
+}
 
 // The Simulate page
 

@@ -107,7 +107,7 @@ TEST_F(OptionsHostile, TextsOfAnyLengthAreRefusedAndChangeNothing) {
     Dialogs.Messages.clear();
     Click("cmdApply");
     ASSERT_EQ(Dialogs.Messages.size(), 1U);
-    EXPECT_EQ(Dialogs.Messages[0].Text, std::string("Data Options Problem ") + fault);
+    EXPECT_EQ(Dialogs.Messages[0].Text, std::string("Data Options Problem ") + fault + ": True Wind Average");
     EXPECT_EQ(Main.m_fNmeaTrueWindAverage, before.m_fNmeaTrueWindAverage);
     EXPECT_EQ(Main.m_fTrackBandwidth, before.m_fTrackBandwidth);
     Spin("vscSimulateTrueWindAngle(0)", 1);
@@ -122,7 +122,7 @@ TEST_F(OptionsHostile, AFailedAutoApplyTellsAndKeepsTheTexts) {
   Type("txtSimulateTrueWindSpeed", "1.2.3");
   Spin("vscSimulateTrueWindAngle(0)", -1);
   ASSERT_EQ(Dialogs.Messages.size(), 1U);
-  EXPECT_EQ(Dialogs.Messages[0].Text, "Simulate Options Problem Type mismatch");
+  EXPECT_EQ(Dialogs.Messages[0].Text, "Simulate Options Problem Type mismatch: True Wind Speed");
   EXPECT_EQ(Entry("txtSimulateTrueWindSpeed"), "1.2.3");
   EXPECT_EQ(Main.m_fSimulateTrueWindAngle, 10.0F);
   EXPECT_TRUE(Bold());
