@@ -4,6 +4,7 @@
 
 #include "app/IconsQt.h"
 #include "platform/NumberText.h"
+#include "platform/WindowFrameQt.h"
 
 namespace veerwatch {
 
@@ -173,6 +174,12 @@ frmOptions& OtherWindowsQt::Options() {
   return *m_options;
 }
 
+void OtherWindowsQt::OptionsReload() {
+  if (m_options) {
+    m_options->OptionsReload();
+  }
+}
+
 bool OtherWindowsQt::PilotPortOpen() const {
   const bool shared = m_main.m_iNmeaPort == m_main.m_iPilotPort;
   return (shared ? m_parts.MSCommNmea : m_parts.MSCommPilot).PortOpen();
@@ -239,7 +246,7 @@ void OtherWindowsQt::OnDiagramOptions(int tab, const DiagramAnchor& anchor) {
   options.TabSelect(tab);
   const QRect screen = m_diagram->screen()->availableGeometry();
   const auto corner = [&options, &anchor, screen] {
-    const QSize size = options.frameGeometry().size();
+    const QSize size = FramedSize(options);
     const DiagramPlace place = DiagramShowNear(anchor, size.width(), size.height(),
                                                screen.x() + screen.width(), screen.y() + screen.height());
     return QPoint(place.Left, place.Top);

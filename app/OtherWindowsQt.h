@@ -60,6 +60,8 @@ class OtherWindowsQt final : public HelmView,
   void OnManoeuvre(float newHeading, float heading, float windAngleTrue) override;
   bool PolarVisible() const override { return m_polar && m_polar->isVisible(); }
 
+  /// Shows the settings in the options dialog, where it is loaded.
+  void OptionsReload();
   /// The options dialog, made where it is not there yet.
   frmOptions& Options();
 

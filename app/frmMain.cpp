@@ -157,6 +157,7 @@ void frmMain::ProfileRecall(bool recall) {
   if (m_bSimulate) {
     TrackSetManual();
   }
+  m_others.OptionsReload();
 }
 
 void frmMain::AutoPilotSet(float bearing) {

@@ -9,6 +9,7 @@
 
 #include "options/LoopDiagramQt.h"
 #include "options/SimulateTimeText.h"
+#include "platform/WindowFrameQt.h"
 
 namespace veerwatch {
 
@@ -173,7 +174,7 @@ void frmOptions::LayOut() {
 
 QPoint frmOptions::Centre() const {
   const QRect display = screen()->geometry();
-  const QSize spare = (display.size() - frameGeometry().size()).expandedTo({0, 0});
+  const QSize spare = (display.size() - FramedSize(*this)).expandedTo({0, 0});
   return display.topLeft() + QPoint(spare.width() / 2, spare.height() / 2);
 }
 
@@ -246,6 +247,9 @@ void frmOptions::OptionsReload() {
   m_track->Show(form);
   SimulateWaypointShow();
   ApplyBold(false);
+  if (SSTab->currentIndex() == Tracking) {
+    m_track->TrackPreviewDraw();
+  }
 }
 
 bool frmOptions::OptionsApply() {
@@ -282,8 +286,7 @@ void frmOptions::cmdCancel_Click() {
 void frmOptions::cmdApply_Click() {
   if (OptionsApply()) {
     OptionsReload();
-  }
-  if (SSTab->currentIndex() == Tracking) {
+  } else if (SSTab->currentIndex() == Tracking) {
     m_track->TrackPreviewDraw();
   }
 }

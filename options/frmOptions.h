@@ -40,6 +40,8 @@ class frmOptions final : public QDialog {
 
   /// Selects a tab [0, 5].
   void TabSelect(int index) { SSTab->setCurrentIndex(index); }
+  /// Shows the settings as they are in place of whatever was typed, as after each Apply.
+  void OptionsReload();
   /// Shows the dialog in the middle of its screen.
   void ShowCenter();
   /// Shows the dialog with the upper left corner of its frame there [px of the desktop].
@@ -83,7 +85,6 @@ class frmOptions final : public QDialog {
   QPoint Centre() const;
 
   OptionsForm Form() const;
-  void OptionsReload();
   bool OptionsApply();
   void SimulateWaypointShow();
 

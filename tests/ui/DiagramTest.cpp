@@ -149,6 +149,27 @@ TEST_F(Diagram, TheOptionsOpenBelowTheMiddleOfTheButtonWhereTheScreenHasRoom) {
   EXPECT_EQ(options->frameGeometry().bottom(), screen.bottom());
 }
 
+TEST_F(Diagram, TheOptionsAppearOnTheScreenWithTheirFrame) {
+  Start(kOnPorts);
+  Mode(5);
+  NmeaPort.Receive(Winds("45", "50"));
+  QWidget* options = TopLevel("frmOptions");
+  ASSERT_NE(options, nullptr) << "not shown yet";
+  Open();
+  QWidget* diagram = TopLevel("frmDiagram");
+  const QSize frame = diagram->frameGeometry().size() - diagram->size();
+  ASSERT_GT(frame.height(), 0) << "a desktop with frames";
+  FirstPlace first;
+  options->installEventFilter(&first);
+  const QRect screen = diagram->screen()->availableGeometry();
+  diagram->move(screen.bottomRight());
+  Press("cmdInput");
+  const QPoint corner(screen.right() + 1 - options->width() - frame.width(),
+                      screen.bottom() + 1 - options->height() - frame.height());
+  EXPECT_EQ(first.At, corner);
+  EXPECT_EQ(options->pos(), corner);
+}
+
 TEST_F(Diagram, ClosingItClearsItsTickOnlyAndLeavesWhatItOpened) {
   Start(kOnPorts);
   Open();

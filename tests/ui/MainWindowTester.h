@@ -102,6 +102,20 @@ class MainWindowTester : public testing::Test {
   QTemporaryDir m_folder;
 };
 
+/// Where a window stands when it appears.
+class FirstPlace final : public QObject {
+ public:
+  QPoint At;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Show) {
+      At = static_cast<QWidget*>(watched)->pos();
+    }
+    return false;
+  }
+};
+
 /// A profile for real ports, one each way, with true wind from a sensor and no smoothing: what a sentence
 /// says is what the record holds.
 inline constexpr const char* kOnPorts =

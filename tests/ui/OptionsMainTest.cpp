@@ -2,6 +2,8 @@
 
 #include <gmock/gmock.h>
 
+#include <QScreen>
+
 #include "options/frmOptions.h"
 #include "tests/ui/MainWindowTester.h"
 
@@ -226,6 +228,40 @@ TEST_F(OptionsMain, CancelKeepsItsTextsForTheNextCommand) {
   ClickIn("cmdCancel");
   Open("mnuOptionsTrack");
   EXPECT_EQ(In<QLineEdit>("txtTrackBandwidth").text(), "77");
+}
+
+TEST_F(OptionsMain, TheDefaultsAreShownInADialogThatIsLoaded) {
+  Start(kOnPorts);
+  Open("mnuOptionsTrack");
+  TypeIn("txtTrackBandwidth", "77");
+  ClickIn("cmdApply");
+  TypeIn("txtTrackDamping", "9");
+  In<QTabWidget>("SSTab").setCurrentIndex(frmOptions::Input);
+  Find<QAction>("mnuFileDefault").trigger();
+  EXPECT_EQ(In<QLineEdit>("txtNmeaPort").text(), "5");
+  EXPECT_EQ(In<QLineEdit>("txtTrackBandwidth").text(), "20");
+  EXPECT_EQ(In<QLineEdit>("txtTrackDamping").text(), "4");
+  EXPECT_FALSE(In<QPushButton>("cmdApply").font().bold());
+  Loaded()->close();
+  ASSERT_EQ(Loaded(), nullptr);
+  Find<QAction>("mnuFileDefault").trigger();
+  EXPECT_EQ(Loaded(), nullptr) << "nothing is loaded for it";
+}
+
+TEST_F(OptionsMain, AppearsInTheMiddleWithItsFrame) {
+  Start(kOnPorts);
+  Mode(5);
+  NmeaPort.Receive(Winds("40", "60"));
+  ASSERT_NE(Loaded(), nullptr) << "not shown yet";
+  const QSize frame = Window->frameGeometry().size() - Window->size();
+  ASSERT_GT(frame.height(), 0) << "a desktop with frames";
+  FirstPlace first;
+  Loaded()->installEventFilter(&first);
+  Open("mnuOptionsInput");
+  const QRect screen = Loaded()->screen()->geometry();
+  const QSize spare = screen.size() - Loaded()->size() - frame;
+  EXPECT_EQ(first.At, QPoint(spare.width() / 2, spare.height() / 2) + screen.topLeft());
+  EXPECT_EQ(Loaded()->pos(), first.At);
 }
 
 TEST_F(OptionsMain, GoesWithTheMainWindow) {
