@@ -209,11 +209,15 @@ void EntryBoxQt::keyPressEvent(QKeyEvent* event) {
 
 void EntryBoxQt::focusOutEvent(QFocusEvent* event) {
   QLineEdit::focusOutEvent(event);
-  const bool leaves =
-      event->reason() != Qt::ActiveWindowFocusReason && event->reason() != Qt::PopupFocusReason;
-  if (leaves && Edited()) {
+  if (!m_ownMenu && Edited()) {
     m_taken();
   }
+}
+
+void EntryBoxQt::contextMenuEvent(QContextMenuEvent* event) {
+  m_ownMenu = true;
+  QLineEdit::contextMenuEvent(event);
+  m_ownMenu = false;
 }
 
 // NudgeButtonQt

@@ -76,8 +76,10 @@ class CaptionQt final : public QLabel {
   Qt::TextElideMode m_elide = Qt::ElideRight;
 };
 
-/// A box for one number. Enter takes the text and goes no further. Deliberate: leaving the box takes only a
-/// text that was edited, so that the rounded text does not overwrite the value behind it.
+/// A box for one number. Enter takes the text and goes no further. Leaving the box takes it too, whatever the
+/// keyboard goes to: another control, a menu, another window. Its own pop-up menu does not leave it.
+/// Deliberate: leaving the box takes only a text that was edited, so that the rounded text does not overwrite
+/// the value behind it.
 class EntryBoxQt final : public QLineEdit {
  public:
   EntryBoxQt(const QString& name, const QString& pattern, QWidget* parent);
@@ -99,12 +101,14 @@ class EntryBoxQt final : public QLineEdit {
  protected:
   void keyPressEvent(QKeyEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   bool Edited() const { return isModified() || text() != m_shown; }
 
   QString m_pattern;
   QString m_shown;
+  bool m_ownMenu = false;  ///< its pop-up menu is about to take the keyboard
   std::function<void()> m_taken;
 };
 

@@ -241,6 +241,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     event->ignore();
     return;
   }
+  LeaveControls();
   NmeaStop();
   PilotStop();
   if (m_helm.Receiver().Receiving()) {
@@ -273,12 +274,16 @@ void frmMain::changeEvent(QEvent* event) {
 
 // What the user does
 
-void frmMain::tbrTrack_ButtonClick(TrackMode mode) {
-  // A box that is being typed in is left first, in the mode that it was typed in; and no control that the new
-  // mode disables hands the keyboard on to whatever comes next.
+void frmMain::LeaveControls() {
   if (m_panel->isAncestorOf(focusWidget())) {
     m_panel->setFocus();
   }
+}
+
+void frmMain::tbrTrack_ButtonClick(TrackMode mode) {
+  // What is typed is taken in the mode that it was typed in; and no control that the new mode disables hands
+  // the keyboard on to whatever comes next.
+  LeaveControls();
   switch (mode) {
     case TrackMode::Off:
       TrackSetOff();

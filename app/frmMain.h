@@ -87,6 +87,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void txtDesired_Taken(int index);
   void cmdAutoPilot_Click(int index);
   void cmdDesired_Click(int index);
+  /// Takes the keyboard off every control, so that a box that is being typed in is left.
+  void LeaveControls();
   void NudgeKey(int index);
 
   void OnHeading(float heading) override;

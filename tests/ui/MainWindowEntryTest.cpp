@@ -1,5 +1,7 @@
 // Entry boxes and nudges of the main window.
 
+#include <QContextMenuEvent>
+#include <QMenuBar>
 #include <QShortcut>
 
 #include "tests/ui/MainWindowTester.h"
@@ -193,6 +195,54 @@ TEST_F(MainWindowEntry, AModeButtonHandsTheKeyboardToNoOtherControl) {
   ASSERT_EQ(Window->m_eTrackMode, TrackMode::Track);
   QTest::keyClick(Window->focusWidget(), Qt::Key_Space);
   EXPECT_EQ(Window->m_eTrackMode, TrackMode::Track);
+}
+
+TEST_F(MainWindowEntry, AnotherWindowTakesTheTextAndItIsSent) {
+  Start(kOnPorts);
+  Mode(5);
+  Type("txtAutoPilot", "300");
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  EXPECT_EQ(Window->m_fAutoPilot, 300.0F);
+  EXPECT_EQ(Entry("txtAutoPilot"), "300.0");
+  NmeaPort.Receive(Winds("30", "40"));
+  ASSERT_FALSE(PilotPort.Written.empty());
+  EXPECT_NE(PilotPort.Written[0].find(",300.0,M,1,"), std::string::npos) << PilotPort.Written[0];
+}
+
+TEST_F(MainWindowEntry, AMenuTakesTheText) {
+  Start(kOnPorts);
+  Type("txtAutoPilot", "300");
+  QMenuBar& bar = *Window->menuBar();
+  QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(bar.actions().at(0)).center());
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  EXPECT_EQ(Window->m_fAutoPilot, 300.0F);
+  EXPECT_EQ(Entry("txtAutoPilot"), "300.0");
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+}
+
+TEST_F(MainWindowEntry, ItsOwnMenuLeavesTheTextAlone) {
+  Start(kOnPorts);
+  Type("txtAutoPilot", "30");
+  auto& box = Find<QLineEdit>("txtAutoPilot");
+  QContextMenuEvent asks(QContextMenuEvent::Mouse, box.rect().center(), box.mapToGlobal(box.rect().center()));
+  QApplication::sendEvent(&box, &asks);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  EXPECT_EQ(Window->m_fAutoPilot, 100.0F);
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+  ASSERT_TRUE(box.hasFocus());
+  QTest::keyClicks(&box, "0");
+  Enter("txtAutoPilot");
+  EXPECT_EQ(Window->m_fAutoPilot, 300.0F);
+}
+
+TEST_F(MainWindowEntry, ACloseTakesTheTextIntoTheProfile) {
+  Start(kOnPorts);
+  Type("txtAutoPilot", "300");
+  Window->close();
+  EXPECT_NE(ReadProfile().find("Bearing=300\n"), std::string::npos) << ReadProfile();
 }
 
 TEST_F(MainWindowEntry, ATypedBearingIsSentUnchangedInManual) {

@@ -160,16 +160,16 @@ TEST_F(MainWindowStatus, AnAlarmLeavesTheKeyboardInAnotherWindowOfTheProgram) {
   EXPECT_EQ(Dialogs.Foregrounds, 2) << "the next alarm is seen again";
 }
 
-TEST_F(MainWindowStatus, AnAlarmForgetsWhatWasLeftHalfTyped) {
+TEST_F(MainWindowStatus, AnAlarmForgetsWhatCameIntoABoxOfTheWindowBehind) {
   Start(kOnPorts);
   NmeaPort.Receive(Winds("30", "40"));
   Mode(7);
   Find<QLineEdit>("txtDesired(1)").setFocus();
-  Type("txtDesired(1)", "5");
   QWidget other;
   other.show();
   other.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  Find<QLineEdit>("txtDesired(1)").insert(QStringLiteral("5"));
   NmeaPort.Receive("$WIMWV,50,R,10,N,A\r");
   EXPECT_EQ(Entry("txtDesired(1)"), "30");
   EXPECT_NE(Window->focusWidget(), &Find<QLineEdit>("txtDesired(1)"));
