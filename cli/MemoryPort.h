@@ -1,6 +1,7 @@
 // A port of the command line: always to be had, fed with a line at a time.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -23,7 +24,8 @@ class MemoryPort final : public SerialPort {
     text.assign(m_waiting);
     m_waiting = {};
   }
-  void Output(std::string_view /*sentence*/) override {}
+  void Output(std::string_view /*sentence*/) override { ++m_sent; }
+  std::uint64_t Sent() const override { return m_sent; }
   void Withdraw() override {}
   void PollLineErrors() override {}
 
@@ -38,6 +40,7 @@ class MemoryPort final : public SerialPort {
   int m_number = 1;
   bool m_open = false;
   std::string_view m_waiting;
+  std::uint64_t m_sent = 0;
 };
 
 /// A timer that somebody else ticks.

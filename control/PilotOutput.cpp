@@ -98,7 +98,14 @@ void PilotOutput::PilotSend(float bearing) {
   if (port.PortOpen()) {
     port.Output(m_sentence);
   }
+  if (m_settings.m_bSimulate) {
+    ++m_simulated;
+  }
   m_listener.OnPilotData(std::string_view(m_sentence).substr(0, m_sentence.size() - 2));
+}
+
+bool PilotOutput::Open() const {
+  return m_settings.m_bSimulate || (OwnPort() ? m_pilotPort : m_nmeaPort).PortOpen();
 }
 
 void PilotOutput::OnComm(int commEvent) {

@@ -2,6 +2,7 @@
 // port when both have the same number.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -41,6 +42,13 @@ class PilotOutput final : public SerialPort::Events {
   /// bearing that is not finite is not sent. Without an open port the sentence only reaches the listener.
   void PilotSend(float bearing);
 
+  /// How many sentences have left for the pilot. While simulating, where none leaves, each that is built
+  /// counts.
+  std::uint64_t Sent() const { return m_nmeaPort.Sent() + m_pilotPort.Sent() + m_simulated; }
+
+  /// The port that carries the sentences is open, or none is needed.
+  bool Open() const;
+
   /// Every event of the pilot port is shown on the output panel. Deliberate: characters that arrive are read
   /// off and dropped, and shown as "Receive Error".
   void OnComm(int commEvent) override;
@@ -59,6 +67,7 @@ class PilotOutput final : public SerialPort::Events {
   bool m_started = false;
   bool m_notOpenShown = false;
   int m_ticks = 0;
+  std::uint64_t m_simulated = 0;  ///< sentences for the simulated boat
   std::string m_sentence;
   std::string m_dropped;
 };

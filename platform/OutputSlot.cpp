@@ -13,6 +13,7 @@ void OutputSlot::Put(std::string_view sentence) {
 void OutputSlot::Pump() {
   if (!m_newest.empty() && !m_line.Busy()) {
     m_line.Write(m_newest);
+    ++m_written;
     m_newest.clear();
   }
 }

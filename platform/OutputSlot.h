@@ -2,6 +2,7 @@
 // line and whether or not anybody reads, nothing old piles up, and sentences leave whole and in order.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -30,12 +31,16 @@ class OutputSlot {
   /// True while a sentence waits for the line.
   bool Waiting() const { return !m_newest.empty(); }
 
+  /// How many sentences were written; one that waits is not among them.
+  std::uint64_t Written() const { return m_written; }
+
   /// Forgets the sentence that waits.
   void Clear() { m_newest.clear(); }
 
  private:
   Line& m_line;
   std::string m_newest;
+  std::uint64_t m_written = 0;
 };
 
 }  // namespace veerwatch

@@ -2,6 +2,7 @@
 // SerialPortQt is the real one; the command line and the tests have ports in memory.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -57,6 +58,9 @@ class SerialPort {
   /// takes the place of any that waits behind it; one that waits for more than two seconds is
   /// forgotten. Without effect on a closed port.
   virtual void Output(std::string_view sentence) = 0;
+
+  /// How many sentences have gone to the device; one that waits, or was forgotten, is not among them.
+  virtual std::uint64_t Sent() const = 0;
 
   /// Forgets a sentence that waits behind one that has not left.
   virtual void Withdraw() = 0;

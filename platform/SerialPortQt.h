@@ -49,6 +49,7 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
 
   void Input(std::string& text) override;
   void Output(std::string_view sentence) override;
+  std::uint64_t Sent() const override { return m_slot.Written(); }
   void Withdraw() override { m_slot.Clear(); }
   void PollLineErrors() override;
 

@@ -285,5 +285,40 @@ TEST_F(PilotOutputTest, WithEqualNumbersNoTickOpensThePilotPort) {
   EXPECT_EQ(m_view.OutputStatus, "");
 }
 
+TEST_F(PilotOutputTest, CountsWhatHasLeftForThePilot) {
+  m_pilot.PilotSend(10.0F);
+  EXPECT_EQ(m_pilot.Sent(), 0U) << "no port is open";
+  EXPECT_FALSE(m_pilot.Open());
+  m_pilot.PilotStart();
+  EXPECT_TRUE(m_pilot.Open());
+  m_pilot.PilotSend(10.0F);
+  EXPECT_EQ(m_pilot.Sent(), 1U);
+  m_pilotPort.Stuck = true;
+  m_pilot.PilotSend(20.0F);
+  EXPECT_EQ(m_pilot.Sent(), 1U) << "it waits";
+  m_pilotPort.Lose();
+  m_pilot.PilotSend(20.0F);
+  EXPECT_EQ(m_pilot.Sent(), 1U);
+  EXPECT_FALSE(m_pilot.Open());
+}
+
+TEST_F(PilotOutputTest, CountsOnOnePortForBothWaysToo) {
+  m_settings.m_iPilotPort = 5;
+  m_pilot.PilotStart();
+  EXPECT_FALSE(m_pilot.Open());
+  m_nmeaPort.PortOpen(true);
+  EXPECT_TRUE(m_pilot.Open());
+  m_pilot.PilotSend(10.0F);
+  EXPECT_EQ(m_pilot.Sent(), 1U);
+}
+
+TEST_F(PilotOutputTest, CountsWhatIsBuiltForTheSimulatedBoat) {
+  m_settings.m_bSimulate = true;
+  m_pilot.PilotStart();
+  m_pilot.PilotSend(10.0F);
+  EXPECT_EQ(m_pilot.Sent(), 1U);
+  EXPECT_TRUE(m_pilot.Open());
+}
+
 }  // namespace
 }  // namespace veerwatch

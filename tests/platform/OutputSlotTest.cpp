@@ -84,5 +84,17 @@ TEST(OutputSlot, TakesAnEmptySentenceForNothing) {
   EXPECT_THAT(line.Written, ElementsAre("kept"));
 }
 
+TEST(OutputSlot, CountsWhatWasWrittenAndNotWhatWaitsOrIsReplaced) {
+  ScriptedLine line;
+  OutputSlot slot(line);
+  for (const char* sentence : {"first", "second", "third"}) {
+    slot.Put(sentence);
+  }
+  EXPECT_EQ(slot.Written(), 1U);
+  line.IsBusy = false;
+  slot.Pump();
+  EXPECT_EQ(slot.Written(), 2U);
+}
+
 }  // namespace
 }  // namespace veerwatch

@@ -2,6 +2,7 @@
 // written.
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <string>
 #include <string_view>
@@ -19,6 +20,7 @@ class ScriptedPort final : public SerialPort {
   std::vector<std::string> Written;  ///< each sentence that was handed to the open port
   std::vector<int> OpenedNumbers;    ///< the number at every try to open a closed port
   int OutputWhileClosed = 0;         ///< sentences handed to the closed port
+  std::uint64_t Left = 0;            ///< sentences that have gone to the device
   int Withdrawals = 0;               ///< calls of Withdraw
   int Polls = 0;                     ///< calls of PollLineErrors
   int Inputs = 0;                    ///< calls of Input
@@ -27,6 +29,7 @@ class ScriptedPort final : public SerialPort {
   // What the test scripts.
 
   std::deque<bool> OpenResults;         ///< results of the next tries to open; then OpensOtherwise
+  bool Stuck = false;                   ///< nothing leaves: each sentence waits
   bool OpensOtherwise = true;           ///< result of a try to open behind the scripted ones
   const ScriptedPort* Other = nullptr;  ///< a port that, while open, holds its device against this one
   std::vector<int> LineErrorsWaiting;   ///< events that the next PollLineErrors raises
@@ -91,10 +94,12 @@ class ScriptedPort final : public SerialPort {
   void Output(std::string_view sentence) override {
     if (m_open) {
       Written.emplace_back(sentence);
+      Left += Stuck ? 0 : 1;
     } else {
       ++OutputWhileClosed;
     }
   }
+  std::uint64_t Sent() const override { return Left; }
   void Withdraw() override { ++Withdrawals; }
   void PollLineErrors() override {
     ++Polls;
