@@ -3,6 +3,7 @@
 #pragma once
 
 #include "app/Settings.h"
+#include "control/HelmNow.h"
 #include "control/PilotOutput.h"
 #include "control/TrackLoop.h"
 #include "control/TrackModes.h"
@@ -44,12 +45,16 @@ class Helm final : private FollowUp {
   Simulator& Boat() { return m_simulator; }
   const InstrumentData& Data() const { return m_record.Data(); }
 
+  /// What the helm does at this moment; the watch over the winds is the caller's.
+  HelmNow Now() const;
+
  private:
   void ControlStep() override { m_loop.ControlStep(); }
   void PolarUpdate() override { m_view.OnPolarUpdate(m_settings.m_eTrackMode, m_record.Data()); }
 
   Settings& m_settings;
   HelmView& m_view;
+  const SerialPort& m_nmeaPort;
   InstrumentRecord m_record;
   NmeaReceiver m_receiver;
   PilotOutput m_pilot;

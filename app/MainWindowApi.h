@@ -1,7 +1,10 @@
 // What the main window is to every other window: its settings and its public operations.
 #pragma once
 
+#include <string_view>
+
 #include "app/Settings.h"
+#include "control/HelmNow.h"
 
 namespace veerwatch {
 
@@ -25,6 +28,10 @@ class MainWindowApi : public Settings {
   /// Sets and shows the autopilot bearing [deg magnetic, any turn] for the manoeuvre that has the pilot. One
   /// that is not finite changes nothing.
   virtual void AutoPilotSet(float bearing) = 0;
+  /// What the helm does at this moment.
+  virtual HelmNow Now() const = 0;
+  /// Beeps, and shows for ten seconds in place of the mode that a turn has ended by itself, and why.
+  virtual void TurnEnded(std::string_view why) = 0;
   virtual void TrackSetOff() = 0;
   virtual void TrackSetSetup() = 0;
   virtual void TrackSetManual() = 0;

@@ -10,6 +10,18 @@ namespace veerwatch {
 
 namespace {
 
+WindCrossing SaidBy(TurnButton button) {
+  switch (button) {
+    case TurnButton::Tack:
+      return WindCrossing::Bow;
+    case TurnButton::Jibe:
+      return WindCrossing::Stern;
+    case TurnButton::Steer:
+      break;
+  }
+  return WindCrossing::None;
+}
+
 /// Shows the window in front of all others.
 void BringUp(QWidget& window) {
   window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
@@ -135,11 +147,45 @@ void OtherWindowsQt::OnPolarUpdate(TrackMode mode, const InstrumentData& record)
 
 // The manoeuvre
 
-void OtherWindowsQt::OnManoeuvre(float newHeading, float heading, float windAngleTrue) {
+frmTack& OtherWindowsQt::Tack() {
   if (!m_tack) {
-    m_tack = std::make_unique<frmTack>(TackParts{m_main, m_parts.TimerTack, m_parts.Store}, m_window);
+    m_tack = std::make_unique<frmTack>(
+        TackParts{m_main, m_parts.TimerTack, m_parts.Store, [this] { return ManoeuvreNow(); }}, m_window);
   }
-  m_tack->TackOpen(newHeading, heading, m_main.m_fAutoPilot, windAngleTrue);
+  return *m_tack;
+}
+
+TurnNow OtherWindowsQt::ManoeuvreNow() const {
+  TurnNow now{m_main.Now(), std::nullopt};
+  if (m_polar && m_asked) {
+    now.Helm.WindAngleTrue = m_polar->Model().Values().WindAngleTrue;
+    now.NewHeading = m_polar->TurnHeading(*m_asked);
+  }
+  return now;
+}
+
+void OtherWindowsQt::TackOpen(float newHeading, float heading, float windAngleTrue) {
+  m_asked.reset();
+  Tack().TackOpen(newHeading, {heading, m_main.m_fAutoPilot, windAngleTrue}, WindCrossing::None, *m_window);
+}
+
+void OtherWindowsQt::OnManoeuvre(TurnButton button, float newHeading, float heading, float windAngleTrue) {
+  m_asked = button;
+  Tack().TackOpen(newHeading, {heading, m_main.m_fAutoPilot, windAngleTrue}, SaidBy(button), *m_polar);
+}
+
+void OtherWindowsQt::OnPolarVisible(bool visible) {
+  m_menu.mnuViewPolar->setChecked(visible);
+  if (!visible && m_tack) {
+    m_tack->StayInFrontOf(*m_window);
+  }
+}
+
+void OtherWindowsQt::HelmChanged() {
+  DiagramLights();
+  if (m_tack) {
+    m_tack->HelmChanged();
+  }
 }
 
 void OtherWindowsQt::TimerTack_Timer() {
@@ -155,10 +201,10 @@ void OtherWindowsQt::PilotTaken() {
 }
 
 void OtherWindowsQt::OnTrackMode(TrackMode mode) {
-  DiagramLights();
   if (mode != TrackMode::Manual) {
     PilotTaken();
   }
+  HelmChanged();
 }
 
 // The options dialog
@@ -190,10 +236,15 @@ void OtherWindowsQt::OnInputState(std::string_view text) {
   if (m_options) {
     m_options->NmeaStatus(text);
   }
-  DiagramLights();
-  if (text != "Running" && text != "Simulate") {
-    PilotTaken();
+  if (m_tack && text != "Running" && text != "Simulate") {
+    // The user stops the input by a mode.
+    if (m_main.m_eTrackMode == TrackMode::Switching) {
+      m_tack->PilotTaken();
+    } else {
+      m_tack->TurnEnds(text == "Stopped" ? "Input Stopped" : text);
+    }
   }
+  HelmChanged();
 }
 
 void OtherWindowsQt::OnOutputState(std::string_view text) {
@@ -201,6 +252,7 @@ void OtherWindowsQt::OnOutputState(std::string_view text) {
   if (m_options) {
     m_options->PilotStatus(text);
   }
+  HelmChanged();
 }
 
 void OtherWindowsQt::OnNmeaListCleared() {

@@ -4,7 +4,9 @@
 // sentence to the autopilot the options dialog.
 #pragma once
 
+#include <QApplication>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -45,19 +47,23 @@ class OtherWindowsQt final : public HelmView,
   }
 
   /// Another hand than the manoeuvre's is on the pilot: a running manoeuvre ends, with the pilot as it is.
-  /// Called for a bearing that the user sets; every mode but Manual and an input that falls silent or stops,
-  /// as it does at the close, come here by themselves.
+  /// Called for a bearing that the user sets and for the close; every mode but Manual comes here by itself.
   void PilotTaken();
   void TimerTack_Timer();
 
-  /// Brings the lights of the block diagram up to date: at every tick of the input, and by itself at a change
-  /// of the mode or of the input.
-  void DiagramLights();
+  /// The manoeuvre dialog is the window that the user works in.
+  bool ManoeuvreInFront() const { return m_tack && QApplication::activeWindow() == m_tack.get(); }
+  /// Opens the manoeuvre dialog in front of the main window.
+  void TackOpen(float newHeading, float heading, float windAngleTrue);
+
+  /// Brings the lights of the block diagram and what the manoeuvre dialog says about the helm up to date: at
+  /// every tick of the input, and by itself at a change of the mode or of a port.
+  void HelmChanged();
 
   void HistoryShow() override;
   bool HistoryVisible() const override { return m_history && m_history->isVisible(); }
   void PolarShow() override;
-  void OnManoeuvre(float newHeading, float heading, float windAngleTrue) override;
+  void OnManoeuvre(TurnButton button, float newHeading, float heading, float windAngleTrue) override;
   bool PolarVisible() const override { return m_polar && m_polar->isVisible(); }
 
   /// Shows the settings in the options dialog, where it is loaded.
@@ -83,7 +89,11 @@ class OtherWindowsQt final : public HelmView,
  private:
   frmHistory& History();
 
+  frmTack& Tack();
+  TurnNow ManoeuvreNow() const;
+
   void DiagramShow();
+  void DiagramLights();
   void AboutShow();
   void OnDiagramOptions(int tab, const DiagramAnchor& anchor) override;
   void OnDiagramPolar() override { PolarShow(); }
@@ -93,7 +103,7 @@ class OtherWindowsQt final : public HelmView,
   void OnPolarValue(std::string_view channel, std::string_view value) override {
     HistorySample(channel, value);
   }
-  void OnPolarVisible(bool visible) override { m_menu.mnuViewPolar->setChecked(visible); }
+  void OnPolarVisible(bool visible) override;
 
   bool NmeaPortOpen() const override { return m_parts.MSCommNmea.PortOpen(); }
   bool PilotPortOpen() const override;
@@ -106,6 +116,7 @@ class OtherWindowsQt final : public HelmView,
   std::unique_ptr<frmHistory> m_history;  ///< from the first value on
   std::unique_ptr<frmPolar> m_polar;      ///< null until it is shown for the first time
   std::unique_ptr<frmTack> m_tack;        ///< the same
+  std::optional<TurnButton> m_asked;      ///< the button that the manoeuvre was asked for with
   std::unique_ptr<frmOptions> m_options;  ///< from its first use on, until its frame is closed
   std::unique_ptr<frmDiagram> m_diagram;  ///< null until it is shown for the first time
   std::unique_ptr<frmAbout> m_about;      ///< the same

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLineEdit>
 #include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
@@ -20,6 +21,7 @@ namespace veerwatch {
 namespace {
 
 constexpr int kTimerInterval = 1000;  // [ms]
+constexpr int kInsteadTime = 10000;   // [ms]
 constexpr QSize kSmallestSize(320, 220);
 // Height of the status texts [px] at the default size of the window, and at the least.
 constexpr double kStatusTextHeight = 18.0;
@@ -40,6 +42,12 @@ void ShowText(QLabel& label, const QString& text) {
 }
 
 constexpr std::size_t At(int index) { return static_cast<std::size_t>(index - 1); }
+
+/// The keyboard is in an entry box of another window than the main one, which is not active.
+bool TypesElsewhere(const QWidget& main) {
+  const auto* box = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
+  return !main.isActiveWindow() && box != nullptr && !box->isReadOnly();
+}
 
 /// The change that a nudge button asks for [deg, positive to starboard].
 constexpr float NudgeOf(int index) { return index == 2 ? 1.0F : -1.0F; }
@@ -73,6 +81,13 @@ frmMain::frmMain(const MainWindowParts& parts)
   m_panel->setFocus();
   m_parts.tmrNmea.Interval(kTimerInterval);
   m_parts.tmrUnload.Interval(kTimerInterval);
+  m_insteadTimer.setObjectName(QStringLiteral("tmrInstead"));
+  m_insteadTimer.setSingleShot(true);
+  m_insteadTimer.setInterval(kInsteadTime);
+  connect(&m_insteadTimer, &QTimer::timeout, this, [this] {
+    m_instead.clear();
+    ShowModeText();
+  });
 }
 
 void frmMain::MakeMiddle() {
@@ -197,22 +212,12 @@ void frmMain::KeepSettings() {
 void frmMain::tmrNmea_Timer() {
   m_helm.Tick();
   WatchWind();
-  m_others.DiagramLights();
+  m_others.HelmChanged();
 }
 
 void frmMain::WatchWind() {
-  constexpr int kLost = 5;  // the first tick may come at once
-  bool lost = false;
-  for (int& age : m_windAge) {
-    age = std::min(age + 1, kLost);
-    lost = lost || age == kLost;
-  }
-  if (std::exchange(m_windLost, lost) != lost) {
+  if (m_windWatch.Tick()) {
     ShowModeText();
-  }
-  // A turn that nobody hears of would be sent in one step with the next wind.
-  if (lost) {
-    m_others.PilotTaken();
   }
 }
 
@@ -242,6 +247,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     return;
   }
   LeaveControls();
+  m_others.PilotTaken();
   NmeaStop();
   PilotStop();
   if (m_helm.Receiver().Receiving()) {
@@ -303,7 +309,7 @@ void frmMain::tbrTrack_ButtonClick(TrackMode mode) {
 }
 
 void frmMain::optControl_Click(int index) {
-  m_refused.clear();
+  m_instead.clear();
   m_helm.Loop().Side(index == 2 ? TrackSide::True : TrackSide::Apparent);
   ShowControls();
   ShowModeText();
@@ -346,6 +352,21 @@ void frmMain::NudgeKey(int index) {
   }
 }
 
+// The manoeuvre
+
+HelmNow frmMain::Now() const {
+  HelmNow now = m_helm.Now();
+  now.WindLost = m_windWatch.Lost();
+  return now;
+}
+
+void frmMain::TurnEnded(std::string_view why) {
+  m_instead = QStringLiteral("Turn ended: ") + Text(why);
+  m_insteadTimer.start();
+  m_parts.Asks.Beep();
+  ShowModeText();
+}
+
 // What the helm tells
 
 void frmMain::OnHeading(float heading) {
@@ -365,14 +386,14 @@ void frmMain::OnWaypoint(float /*range*/, float bearing) {
 void frmMain::OnWindApparent(float angle, float speed) {
   ShowText(*m_panel->lblAppWindAngle, Number(angle, "0"));
   ShowText(*m_panel->lblAppWindSpeed, Number(speed, "0.0"));
-  m_windAge[0] = 0;
+  m_windWatch.Apparent();
   m_others.OnWindApparent(angle, speed);
 }
 
 void frmMain::OnWindTrue(float angle, float speed) {
   ShowText(*m_panel->lblTrueWindAngle, Number(angle, "0"));
   ShowText(*m_panel->lblTrueWindSpeed, Number(speed, "0.0"));
-  m_windAge[1] = 0;
+  m_windWatch.True();
   m_others.OnWindTrue(angle, speed);
 }
 
@@ -413,11 +434,8 @@ void frmMain::OnAlarm(TrackSide side, float error) {
     }
     m_panel->setFocus();
   }
-  // Seen once, it leaves the user alone who works on its cause in another window of the program.
-  const QWidget* active = QApplication::activeWindow();
-  if (!m_alarmSeen || active == nullptr || active == this) {
+  if (!m_others.ManoeuvreInFront() && !TypesElsewhere(*this)) {
     m_parts.Asks.ToForeground();
-    m_alarmSeen = QApplication::activeModalWidget() == nullptr;
   }
   m_panel->ShowAlarm(side);
   m_parts.Asks.Beep();
@@ -425,13 +443,12 @@ void frmMain::OnAlarm(TrackSide side, float error) {
 }
 
 void frmMain::OnAlarmOver() {
-  m_alarmSeen = false;
   m_panel->HideAlarm();
   m_status->Show(StatusPanelsQt::kOutput, QString());
 }
 
 void frmMain::OnTrackMode(TrackMode mode) {
-  m_refused.clear();
+  m_instead.clear();
   m_others.OnTrackMode(mode);
   if (mode != TrackMode::Switching) {
     m_tbrTrack->Button(mode)->setChecked(true);
@@ -441,7 +458,8 @@ void frmMain::OnTrackMode(TrackMode mode) {
 }
 
 void frmMain::OnTrackRefused(std::string_view reason) {
-  m_refused = Text(reason);
+  m_insteadTimer.stop();
+  m_instead = Text(reason);
   ShowModeText();
 }
 
@@ -472,10 +490,10 @@ void frmMain::ShowModeText() {
   const bool needsInput = m_eTrackMode == TrackMode::Manual || m_eTrackMode == TrackMode::Track;
   if (needsInput && !m_helm.Receiver().Started()) {
     text += QStringLiteral(", Input Stopped");
-  } else if (needsInput && m_windLost) {
+  } else if (needsInput && m_windWatch.Lost()) {
     text += QStringLiteral(", No Wind");
   }
-  m_status->Show(StatusPanelsQt::kPilot, m_refused.isEmpty() ? text : m_refused);
+  m_status->Show(StatusPanelsQt::kPilot, m_instead.isEmpty() ? text : m_instead);
 }
 
 }  // namespace veerwatch

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QTimer>
 #include <array>
 #include <string>
 #include <string_view>
@@ -16,6 +17,7 @@
 #include "app/OtherWindowsQt.h"
 #include "app/StatusPanelsQt.h"
 #include "app/frmMainCommands.h"
+#include "control/WindWatch.h"
 
 namespace veerwatch {
 
@@ -47,6 +49,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   }
   void TrackSteerTo(float change) override { m_helm.Loop().TrackSteerTo(change); }
   void AutoPilotSet(float bearing) override;
+  HelmNow Now() const override;
+  void TurnEnded(std::string_view why) override;
   void TrackSetOff() override { m_helm.Modes().TrackSetOff(); }
   void TrackSetSetup() override { m_helm.Modes().TrackSetSetup(); }
   void TrackSetManual() override { m_helm.Modes().TrackSetManual(); }
@@ -58,7 +62,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   /// Opens the manoeuvre dialog for a turn to `newHeading` from the present `heading` [deg magnetic] with the
   /// wind at `windAngle` [deg relative, positive to starboard].
   void TackOpen(float newHeading, float heading, float windAngle) {
-    m_others.OnManoeuvre(newHeading, heading, windAngle);
+    m_others.TackOpen(newHeading, heading, windAngle);
   }
 
  protected:
@@ -76,8 +80,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void ApplyTheme();
   void ShowControls();
   void ShowModeText();
-  /// A second has passed. Once a wind has not come for four of them the mode's text says so, and a manoeuvre
-  /// ends.
+  /// A second has passed. Once a wind has not come for four of them the mode's text says so.
   void WatchWind();
 
   void tbrTrack_ButtonClick(TrackMode mode);
@@ -127,13 +130,12 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   StatusPanelsQt* m_status;
   OtherWindowsQt m_others;
   Helm m_helm;
-  bool m_ask = true;         ///< a close still has to ask
-  bool m_alarmSeen = false;  ///< has brought the window to the front
-  QString m_refused;         ///< why Track was refused, until something else is chosen
-  bool m_windLost = false;
-  std::array<int, 2> m_windAge{};  ///< time without an apparent and a true wind [s]
-  bool m_asking = false;           ///< the question of the close is open
-  bool m_unloaded = false;         ///< the profile is written, everything is closed
+  bool m_ask = true;            ///< a close still has to ask
+  QString m_instead;            ///< shown in place of the mode: why Track was refused, or a turn has ended
+  QTimer m_insteadTimer{this};  ///< ends what is said about a turn
+  WindWatch m_windWatch;
+  bool m_asking = false;    ///< the question of the close is open
+  bool m_unloaded = false;  ///< the profile is written, everything is closed
 };
 
 }  // namespace veerwatch

@@ -41,6 +41,7 @@ class Writer {
     const CourseLeg& now = m_solution.Legs[m_now];
     const CourseLeg& other = m_solution.Legs[1 - m_now];
     content.TackPossible = other.Share > 0.0F;
+    content.Upwind = m_solution.Upwind;
     content.SteerHeading = now.Heading;
     content.TackHeading = other.Heading;
     content.Steer = SteerFace(now.Heading, m_input.Query.Heading);

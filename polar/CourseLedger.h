@@ -48,6 +48,7 @@ struct LedgerContent {
   TurnFace Steer;
   TurnFace Tack;
   bool TackPossible = false;  ///< the other leg has a share
+  bool Upwind = true;         ///< the turn to it is called a tack, else a jibe
   float SteerHeading = 0.0F;  ///< of the leg to sail now [deg magnetic, [0, 360)]
   float TackHeading = 0.0F;   ///< of the other leg [deg magnetic, [0, 360)]
 };

@@ -5,6 +5,9 @@
 
 namespace veerwatch {
 
+/// What the button says that a turn is asked for with.
+enum class TurnButton { Steer, Tack, Jibe };
+
 class PolarListener {
  public:
   virtual ~PolarListener() = default;
@@ -12,9 +15,10 @@ class PolarListener {
   virtual void OnPolarValue(std::string_view /*channel*/, std::string_view /*value*/) {}
   /// The window was shown or hidden.
   virtual void OnPolarVisible(bool /*visible*/) {}
-  /// A turn was asked for: to `newHeading` from the present `heading` [deg magnetic, [0, 360)], with the
-  /// averaged true wind at `windAngleTrue` [deg relative, negative to port].
-  virtual void OnManoeuvre(float /*newHeading*/, float /*heading*/, float /*windAngleTrue*/) {}
+  /// A turn was asked for: to `newHeading` from the present `heading` [deg magnetic, [0, 360)], which is not
+  /// averaged, with the averaged true wind at `windAngleTrue` [deg relative, negative to port].
+  virtual void OnManoeuvre(TurnButton /*button*/, float /*newHeading*/, float /*heading*/,
+                           float /*windAngleTrue*/) {}
 };
 
 }  // namespace veerwatch

@@ -158,6 +158,7 @@ std::string PolarModel::MotorSpeedCaption() const {
 
 bool PolarModel::Update(TrackMode mode, const PolarValues& values, bool visible) {
   m_averages.Feed(values, m_settings.PlotAverage);
+  m_present = values;
   if (!visible) {
     return false;
   }

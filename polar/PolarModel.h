@@ -106,6 +106,8 @@ class PolarModel {
   bool Update(TrackMode mode, const PolarValues& values, bool visible);
   bool Received() const { return m_averages.Fed(); }
   const PolarValues& Values() const { return m_averages.Values(); }
+  /// The set that came last, as it came.
+  const PolarValues& Present() const { return m_present; }
   TrackMode Mode() const { return m_mode; }
   /// Speed of the own polar in the present true wind [kn], as of the last update in sight. Deliberate: the
   /// true wind is looked up also when the table is seen in apparent wind, where only a smooth table has it.
@@ -135,6 +137,7 @@ class PolarModel {
   PolarSettings m_settings;
   PolarTable m_table;
   PolarAverages m_averages;
+  PolarValues m_present;
   int m_shown = 1;
   std::uint64_t m_version = 0;
   TrackMode m_mode = TrackMode::Switching;

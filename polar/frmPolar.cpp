@@ -111,16 +111,22 @@ void frmPolar::ConnectMenus() {
 void frmPolar::ConnectCourse() {
   OnItem(m_menu.mnuCourseLedger, [this] { m_course.Want(true); });
   OnItem(m_menu.mnuLedgerHide, [this] { m_course.Want(false); });
-  const auto turn = [this](float LedgerContent::*heading) {
-    if (m_ledger) {
-      m_parts.Tells.OnManoeuvre((*m_ledger).*heading, m_model.Values().Heading,
-                                m_model.Values().WindAngleTrue);
+  const auto turn = [this](TurnButton button) {
+    if (const auto heading = TurnHeading(button)) {
+      m_parts.Tells.OnManoeuvre(button, *heading, m_model.Present().Heading, m_model.Values().WindAngleTrue);
     }
   };
   LedgerPanelQt& ledger = m_course.Ledger();
-  ledger.Steer = [turn] { turn(&LedgerContent::SteerHeading); };
-  ledger.Tack = [turn] { turn(&LedgerContent::TackHeading); };
+  ledger.Steer = [turn] { turn(TurnButton::Steer); };
+  ledger.Tack = [this, turn] { turn(m_ledger && m_ledger->Upwind ? TurnButton::Tack : TurnButton::Jibe); };
   ledger.MenuWanted = [this](QPoint at) { m_menu.mnuLedger->popup(at); };
+}
+
+std::optional<float> frmPolar::TurnHeading(TurnButton button) const {
+  if (!m_ledger) {
+    return std::nullopt;
+  }
+  return button == TurnButton::Steer ? m_ledger->SteerHeading : m_ledger->TackHeading;
 }
 
 void frmPolar::PolarInit(bool recall) {

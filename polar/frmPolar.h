@@ -51,6 +51,9 @@ class frmPolar final : public QMainWindow {
 
   const PolarModel& Model() const { return m_model; }
 
+  /// Where the turn of `button` leads now [deg magnetic, [0, 360)]; nothing while no course shows.
+  std::optional<float> TurnHeading(TurnButton button) const;
+
  protected:
   void closeEvent(QCloseEvent* event) override;
   void showEvent(QShowEvent* event) override;

@@ -26,9 +26,9 @@ bool Manoeuvre::Open(float newHeading, float heading, float autoPilot, float win
   m_change = 0.0;
   m_progress = 0.0;
 
-  const double wind = static_cast<double>(windAngle);
-  const float before = FoldRelative(wind);
-  const float behind = FoldRelative(wind - (static_cast<double>(newHeading) - m_start));
+  const float before = FoldRelative(static_cast<double>(windAngle));
+  m_wind = static_cast<double>(before);
+  const float behind = FoldRelative(m_wind - (static_cast<double>(newHeading) - m_start));
   const float low = std::min(before, behind);
   const float high = std::max(before, behind);
   if (-90.0F < low && low < 0.0F && 0.0F < high && high < 90.0F) {
@@ -44,10 +44,14 @@ bool Manoeuvre::Open(float newHeading, float heading, float autoPilot, float win
   return true;
 }
 
-void Manoeuvre::Start(float newHeading, float overshoot, float rate) {
+double Manoeuvre::Planned(float newHeading, float overshoot) const {
   const double turn = std::isfinite(newHeading) ? Turn(m_start, static_cast<double>(newHeading)) : 0.0;
   const double past = std::isfinite(overshoot) ? static_cast<double>(overshoot) * m_direction : 0.0;
-  m_change = std::clamp(turn + past, turn > 0.0 ? 0.0 : -kHalfCircle, turn < 0.0 ? 0.0 : kHalfCircle);
+  return std::clamp(turn + past, turn > 0.0 ? 0.0 : -kHalfCircle, turn < 0.0 ? 0.0 : kHalfCircle);
+}
+
+void Manoeuvre::Start(float newHeading, float overshoot, float rate) {
+  m_change = Planned(newHeading, overshoot);
   m_progress = 0.0;
   const double speed = std::isfinite(rate) && rate > 0.0F ? static_cast<double>(rate) : kUsualRate;
   m_step = m_change < 0.0 ? -speed : speed;

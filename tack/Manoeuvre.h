@@ -34,9 +34,17 @@ class Manoeuvre {
   /// and kUsualRate.
   void Start(float newHeading, float overshoot, float rate);
 
+  /// The change that Start() would make of these [deg, [-180, 180], positive to starboard].
+  double Planned(float newHeading, float overshoot) const;
+
   /// One second of the turn. True when the boat has arrived, with Progress() equal to Change().
   bool Tick();
 
+  /// Takes the turn back, or on, to where `progress` of it was turned [deg, from 0 to Change()].
+  void ContinueFrom(double progress) { m_progress = progress; }
+
+  /// The wind angle at Open() [deg relative, (-180, 180]].
+  double Wind() const { return m_wind; }
   /// The whole turn [deg, [-180, 180], positive to starboard].
   double Change() const { return m_change; }
   /// What has been turned of it [deg, from 0 to Change()].
@@ -50,6 +58,7 @@ class Manoeuvre {
  private:
   double m_start = 0.0;
   double m_pilotOffset = 0.0;
+  double m_wind = 0.0;
   ManoeuvreKind m_kind = ManoeuvreKind::Steer;
   int m_direction = 0;
   double m_change = 0.0;

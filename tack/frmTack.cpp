@@ -3,10 +3,12 @@
 #include <QEvent>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QWindow>
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
+#include <vector>
 
 #include "platform/ColoursQt.h"
 #include "platform/NumberText.h"
@@ -31,6 +33,9 @@ constexpr std::array<const char*, 4> kWords{"", "Steer", "Tack", "Jibe"};
 constexpr const char* kManual = "Set tracking mode to Manual";
 constexpr const char* kOvershoot = "Overshoot the heading";
 constexpr const char* kLimit = "Limit the rate of change";
+constexpr const char* kFilledAnew = "Heading or wind moved, filled anew: OK once more";
+/// The longest: a question in two parts, and that the boat swings.
+constexpr int kNoteLines = 4;
 
 std::size_t IndexOf(ManoeuvreKind kind) { return static_cast<std::size_t>(kind); }
 
@@ -41,6 +46,10 @@ QString Prompt(const char* word) { return QStringLiteral("&%1 to new heading:").
 QFont Sized(QFont font, int pixels) {
   font.setPixelSize(pixels);
   return font;
+}
+
+QColor Amber(const QColor& window) {
+  return ShadeFor(window, IsDark(window) ? QColor(255, 191, 71) : QColor(148, 84, 0));
 }
 
 /// A box for one number of up to `pattern`'s width, in figures of `pixels`.
@@ -136,6 +145,21 @@ void frmTack::MakeControls() {
   grid->addWidget(Caption("lblRate", QStringLiteral("&Rate of Change (deg/sec)"), txtRate, this), 2, 0);
   grid->addWidget(txtRate, 2, 1, Qt::AlignRight);
   grid->setColumnStretch(0, 1);
+  lblWords = new QLabel(this);
+  lblWords->setObjectName(QStringLiteral("lblWords"));
+  lblWords->setToolTip(QStringLiteral("What the boat will do"));
+  lblNote = new QLabel(this);
+  lblNote->setObjectName(QStringLiteral("lblNote"));
+  lblNote->setWordWrap(true);
+  lblNote->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  lblNote->setFixedHeight(kNoteLines * lblNote->fontMetrics().lineSpacing());
+  for (const QLineEdit* box : {txtHeading, txtOvershoot}) {
+    connect(box, &QLineEdit::textEdited, this, [this] {
+      m_question.clear();
+      ShowWords();
+      HelmChanged();
+    });
+  }
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(kSpacing);
   buttons->addStretch();
@@ -145,25 +169,41 @@ void frmTack::MakeControls() {
   all->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
   all->setSpacing(kSpacing);
   all->addLayout(grid);
+  all->addWidget(lblWords);
   all->addWidget(lstTack);
+  all->addWidget(lblNote);
   all->addWidget(ProgressBarTack);
   all->addLayout(buttons);
   all->setSizeConstraint(QLayout::SetFixedSize);
 }
 
-void frmTack::TackOpen(float newHeading, float heading, float autoPilot, float windAngle) {
-  if (!m_turn.Open(newHeading, heading, autoPilot, windAngle)) {
+void frmTack::TackOpen(float newHeading, const TurnFrom& from, WindCrossing said, QWidget& opener) {
+  if (!m_turn.Open(newHeading, from.Heading, from.AutoPilot, from.WindAngle)) {
     return;
   }
   Steering(false);
   m_newHeading = newHeading;
+  m_from = from;
+  m_said = said;
+  m_question.clear();
+  m_asked.clear();
   ShowKind();
+  ShowWords();
+  HelmChanged();
   ProgressBarTack->hide();
   txtHeading->selectAll();
   txtHeading->setFocus();
+  StayInFrontOf(opener);
   show();
   raise();
   activateWindow();
+}
+
+void frmTack::StayInFrontOf(QWidget& opener) {
+  // The windows of the desktop know each other only once they are made.
+  winId();
+  opener.winId();
+  windowHandle()->setTransientParent(opener.windowHandle());
 }
 
 void frmTack::Dim() {
@@ -175,6 +215,9 @@ void frmTack::Dim() {
                              palette().color(QPalette::Active, text), kDimmed, kDimmedContrast));
   }
   setPalette(colours);
+  QPalette amber;
+  amber.setColor(QPalette::WindowText, Amber(palette().color(QPalette::Active, QPalette::Window)));
+  lblNote->setPalette(amber);
 }
 
 void frmTack::ShowKind() {
@@ -204,14 +247,100 @@ void frmTack::Steering(bool steering) {
   }
 }
 
+WindCrossing frmTack::Crossing() const {
+  const float overshoot = LeadingNumber(txtOvershoot->text().toStdString());
+  return CrossingOf(m_turn.Wind(), m_turn.Planned(TypedHeading(), overshoot));
+}
+
+float frmTack::TypedHeading() const { return LeadingNumber(txtHeading->text().toStdString(), m_newHeading); }
+
+void frmTack::ShowWords() {
+  if (m_parts.TimerTack.Enabled()) {
+    return;
+  }
+  const float overshoot = LeadingNumber(txtOvershoot->text().toStdString());
+  const double change = m_turn.Planned(TypedHeading(), overshoot);
+  lblWords->setText(Text(TurnWords(change, CrossingOf(m_turn.Wind(), change))));
+}
+
+void frmTack::ShowNotes(const TurnNow& now) {
+  std::string note = TurnHindrance(now.Helm);
+  cmdOk->setEnabled(note.empty());
+  if (note.empty()) {
+    const std::string apart = ApartText(TurnFromNow(now.Helm, m_from));
+    note = m_question + (m_question.empty() || apart.empty() ? "" : "\n") + apart;
+  }
+  if (lblNote->text() != Text(note)) {
+    lblNote->setText(Text(note));
+    // Whoever hears the window instead of seeing it is on a box or on OK.
+    for (QWidget* control : {static_cast<QWidget*>(cmdOk), static_cast<QWidget*>(txtHeading)}) {
+      control->setAccessibleDescription(Text(note));
+    }
+  }
+}
+
+void frmTack::HelmChanged() {
+  const TurnNow now = m_parts.Now();
+  if (!m_parts.TimerTack.Enabled()) {
+    ShowNotes(now);
+  } else if (const std::string why = TurnEnd(now.Helm); !why.empty()) {
+    TurnEnds(why);
+  }
+}
+
+void frmTack::FillAnew(const TurnNow& now, const TurnFrom& from) {
+  const ManoeuvreKind kind = m_turn.Kind();
+  const float newHeading = now.NewHeading.value_or(m_newHeading);
+  if (!m_turn.Open(newHeading, from.Heading, from.AutoPilot, from.WindAngle)) {
+    return;
+  }
+  m_newHeading = newHeading;
+  m_from = from;
+  std::vector<std::pair<QLineEdit*, QString>> typed;
+  for (QLineEdit* box : {txtHeading, txtOvershoot, txtRate}) {
+    if (box->isModified() && (box == txtHeading || m_turn.Kind() == kind)) {
+      typed.emplace_back(box, box->text());
+    }
+  }
+  ShowKind();
+  for (const auto& [box, text] : typed) {
+    box->setText(text);
+    box->setModified(true);
+  }
+  ShowWords();
+}
+
+bool frmTack::AsksOnceMore(const TurnNow& now) {
+  m_question.clear();
+  const TurnFrom from = TurnFromNow(now.Helm, m_from);
+  if (TurnHasMoved(m_from, from)) {
+    FillAnew(now, from);
+    m_question = kFilledAnew;
+  }
+  const std::string words = lblWords->text().toStdString();
+  if (CrossesUnsaid(Crossing(), m_said, m_turn.Kind()) && std::exchange(m_asked, words) != words) {
+    m_question += (m_question.empty() ? "" : "\n") + CrossingQuestion(Crossing());
+  }
+  return !m_question.empty();
+}
+
 void frmTack::cmdOk_Click() {
+  const TurnNow now = m_parts.Now();
+  if (TurnHindrance(now.Helm).empty() && !AsksOnceMore(now)) {
+    Begin();
+  } else {
+    ShowNotes(now);
+  }
+}
+
+void frmTack::Begin() {
   m_parts.Main.TrackSetManual();
   const std::size_t kind = IndexOf(m_turn.Kind());
   m_settings.Overshoot[kind] = LeadingNumber(txtOvershoot->text().toStdString());
   m_settings.Rate[kind] = LeadingNumber(txtRate->text().toStdString());
-  // A text that is no heading leaves the one that was asked for.
-  m_turn.Start(LeadingNumber(txtHeading->text().toStdString(), m_newHeading), m_settings.Overshoot[kind],
-               m_settings.Rate[kind]);
+  m_turn.Start(TypedHeading(), m_settings.Overshoot[kind], m_settings.Rate[kind]);
+  m_pace.Start(m_parts.Now().Helm.Sent);
+  lblNote->clear();
   // A bar without a length would show a turn that never ends.
   ProgressBarTack->setRange(0, std::max(1, static_cast<int>(std::lround(std::fabs(m_turn.Change())))));
   ShowProgress();
@@ -227,7 +356,12 @@ void frmTack::TimerTack_Timer() {
   if (!m_parts.TimerTack.Enabled()) {
     return;
   }
-  const bool arrived = m_turn.Tick();
+  HelmChanged();
+  if (!m_parts.TimerTack.Enabled()) {
+    return;
+  }
+  const bool arrived = m_pace.Tick(m_turn, m_parts.Now().Helm.Sent);
+  lblNote->setText(m_pace.Waiting() ? QStringLiteral("Waits: nothing leaves for the pilot") : QString());
   ShowProgress();
   txtHeading->setText(Text(FormatNumber(m_turn.Heading(), "0")));
   m_parts.Main.AutoPilotSet(m_turn.AutoPilot());
@@ -241,6 +375,16 @@ void frmTack::PilotTaken() {
   if (m_parts.TimerTack.Enabled()) {
     reject();
   }
+}
+
+void frmTack::TurnEnds(std::string_view why) {
+  if (!m_parts.TimerTack.Enabled()) {
+    return;
+  }
+  m_pace.Halt(m_turn, m_parts.Now().Helm.Sent);
+  m_parts.Main.AutoPilotSet(m_turn.AutoPilot());
+  reject();
+  m_parts.Main.TurnEnded(why);
 }
 
 void frmTack::Unload() { TackStore(m_parts.Store, m_settings); }

@@ -1,6 +1,7 @@
 // The manoeuvre dialog: takes the autopilot to a new heading by a timed turn, as a plain change of course, a
 // tack or a jibe. Made by the main window on first use, afterwards shown and hidden; the main window stays
-// usable beside it and ends the turn as soon as anybody else takes the pilot.
+// usable beside it and ends the turn as soon as anybody else takes the pilot. A turn begins only while the
+// wind's sentences can carry it, and waits while none of them leaves.
 #pragma once
 
 #include <QDialog>
@@ -9,20 +10,34 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
 
 #include "app/MainWindowApi.h"
 #include "platform/Profile.h"
 #include "platform/Timer.h"
 #include "tack/Manoeuvre.h"
 #include "tack/TackSettings.h"
+#include "tack/TurnGuard.h"
+#include "tack/TurnPace.h"
+#include "tack/TurnWords.h"
 
 namespace veerwatch {
+
+/// What the dialog asks at each moment.
+struct TurnNow {
+  HelmNow Helm;
+  std::optional<float> NewHeading;  ///< where the button that was pressed would lead now [deg magnetic]
+};
 
 /// What the dialog works with; everything outlives it.
 struct TackParts {
   MainWindowApi& Main;
   Timer& TimerTack;  ///< ticks into TimerTack_Timer()
   Profile& Store;
+  std::function<TurnNow()> Now;
 };
 
 class frmTack final : public QDialog {
@@ -31,16 +46,26 @@ class frmTack final : public QDialog {
   /// end of a turn.
   frmTack(const TackParts& parts, QWidget* main);
 
-  /// Stops a turn that runs and shows the dialog for one from the present `heading` with the pilot at
-  /// `autoPilot` to `newHeading` [deg magnetic], with the wind at `windAngle` [deg relative, positive to
-  /// starboard]. Does nothing when one of them is not finite.
-  void TackOpen(float newHeading, float heading, float autoPilot, float windAngle);
+  /// Stops a turn that runs and shows the dialog, in front of `opener`, for one to `newHeading` [deg
+  /// magnetic] from the present heading, bearing and wind. `said` is where the wind crosses by the button
+  /// that asks. Does nothing when a number is not finite.
+  void TackOpen(float newHeading, const TurnFrom& from, WindCrossing said, QWidget& opener);
+
+  /// From now on the dialog is in front of `opener`, whatever is clicked.
+  void StayInFrontOf(QWidget& opener);
+
+  /// Something about the helm may be another: shows whether a turn can begin, and ends one that cannot go on.
+  void HelmChanged();
 
   /// One second of the turn; nothing while none runs.
   void TimerTack_Timer();
 
   /// Somebody else has taken the pilot: a turn that runs ends here, with the bearing as it is.
   void PilotTaken();
+
+  /// What carries a turn is gone: one that runs ends here, with the bearing that was sent last, and the main
+  /// window tells `why`.
+  void TurnEnds(std::string_view why);
 
   /// Sets the keys of "Tack Data" in the profile, which somebody else commits.
   void Unload();
@@ -54,6 +79,18 @@ class frmTack final : public QDialog {
  private:
   void MakeControls();
   void ShowKind();
+  /// What the turn of the present texts will do, and what is to be known before OK.
+  void ShowWords();
+  void ShowNotes(const TurnNow& now);
+  WindCrossing Crossing() const;
+  /// The heading that stands in its box; a text that is none leaves the one that was asked for.
+  float TypedHeading() const;
+  /// The turn as it would be asked for now. What the user has typed stays,
+  /// overshoot and rate only for the same kind of turn.
+  void FillAnew(const TurnNow& now, const TurnFrom& from);
+  /// True when OK has to be pressed once more, for what the note then says.
+  bool AsksOnceMore(const TurnNow& now);
+  void Begin();
   /// Keeps what does not answer legible in the desktop's present palette.
   void Dim();
   void Steering(bool steering);
@@ -63,9 +100,16 @@ class frmTack final : public QDialog {
   TackParts m_parts;
   TackSettings m_settings;
   Manoeuvre m_turn;
+  TurnPace m_pace;
   float m_newHeading = 0.0F;  ///< the heading that was asked for at the opening
+  TurnFrom m_from;            ///< as at the opening, or when it was filled anew
+  WindCrossing m_said = WindCrossing::None;
+  std::string m_question;  ///< why OK has to be pressed once more
+  std::string m_asked;     ///< the words of the turn that the user was asked about
 
   QLabel* lblPrompt;
+  QLabel* lblWords;
+  QLabel* lblNote;
   QLineEdit* txtHeading;
   QLineEdit* txtOvershoot;
   QLineEdit* txtRate;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/MainWindowApi.h"
@@ -28,6 +29,8 @@ class FakeMainWindow final : public MainWindowApi {
   }
   void TrackSteerTo(float /*change*/) override {}
   void AutoPilotSet(float /*bearing*/) override {}
+  HelmNow Now() const override { return {}; }
+  void TurnEnded(std::string_view /*why*/) override {}
   void TrackSetOff() override { Note("Off"); }
   void TrackSetSetup() override { Note("Setup"); }
   void TrackSetManual() override { Note("Manual"); }

@@ -281,5 +281,34 @@ TEST(Manoeuvre, WhateverComesInTheBearingIsOnTheCompassAndTheTurnEnds) {
   }
 }
 
+TEST(Manoeuvre, OpenedAgainStandsAtItsNewStartWithNothingTurned) {
+  Manoeuvre turn = Opened(45.0F, 90.0F);
+  turn.Start(190.0F, 0.0F, 10.0F);
+  turn.Tick();
+  turn.Tick();
+  ASSERT_TRUE(turn.Open(300.0F, 200.0F, 212.0F, 45.0F));
+  EXPECT_EQ(turn.Change(), 0.0);
+  EXPECT_EQ(turn.Progress(), 0.0);
+  EXPECT_EQ(turn.Heading(), 200.0F);
+  EXPECT_EQ(turn.AutoPilot(), 212.0F);
+}
+
+TEST(Manoeuvre, PlansWhatItThenTurns) {
+  Manoeuvre turn = Opened(45.0F, 90.0F);
+  for (const float heading : {190.0F, 10.0F, 100.0F, 280.0F, kNan}) {
+    for (const float overshoot : {0.0F, 5.0F, 95.0F, -20.0F, kInfinite}) {
+      const double planned = turn.Planned(heading, overshoot);
+      turn.Start(heading, overshoot, 10.0F);
+      EXPECT_EQ(turn.Change(), planned);
+    }
+  }
+  EXPECT_EQ(turn.Planned(190.0F, 5.0F), 95.0);
+}
+
+TEST(Manoeuvre, KeepsTheWindOfItsOpening) {
+  EXPECT_EQ(Opened(-315.0F, 90.0F).Wind(), 45.0);
+  EXPECT_EQ(Opened(-180.0F, 90.0F).Wind(), 180.0);
+}
+
 }  // namespace
 }  // namespace veerwatch

@@ -274,6 +274,17 @@ TEST_F(PolarLedger, OffersATackOrAJibeToTheOtherLeg) {
   expect(340.0F, 120.0F, "<< Jibe", kRed);
 }
 
+TEST_F(PolarLedger, AsksForATurnFromThePresentHeadingAndTheAveragedWind) {
+  Store.ProfileSet("Polar Data", "Plot Average", 16.0F);
+  StartTo(100.0F);
+  At({});
+  At({.Heading = 167.0F, .WindAngle = -67.0F});
+  Click(Tack());
+  ASSERT_EQ(Turns.size(), 1U);
+  EXPECT_EQ(Turns[0][1], 167.0F);
+  EXPECT_NEAR(Turns[0][2], -37.0F, 0.5F) << "a sixteenth of the way";
+}
+
 TEST_F(PolarLedger, HasNothingToTackToOnAStraightCourse) {
   StartTo(200.0F);
   At({});
@@ -290,6 +301,7 @@ TEST_F(PolarLedger, AsksForTheTurnsOfItsButtons) {
   Click(Steer());
   Click(Tack());
   EXPECT_THAT(Turns, ElementsAre(std::array{145.0F, 135.0F, -35.0F}, std::array{55.0F, 135.0F, -35.0F}));
+  EXPECT_THAT(Buttons, ElementsAre(TurnButton::Steer, TurnButton::Tack));
 }
 
 // The panel

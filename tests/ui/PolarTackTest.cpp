@@ -1,5 +1,7 @@
 // A tack from the course ledger to its other leg, in the simulator.
 
+#include <QWindow>
+
 #include "tests/support/TemporaryFolder.h"
 #include "tests/ui/TackTester.h"
 
@@ -61,6 +63,32 @@ TEST_F(PolarTack, TurnsTheBoatToTheOtherLeg) {
   EXPECT_NEAR(Heading(), 178.0F, 1.0F);
   EXPECT_EQ(Button("cmdTack").text(), QStringLiteral("Tack >>"));
   EXPECT_EQ(Button("cmdSteer").text(), QStringLiteral("Steer +5 >"));
+}
+
+TEST_F(PolarTack, TheDialogStaysInFrontOfTheWindowThatOpenedIt) {
+  StartToWindward();
+  QWidget* polar = Button("cmdTack").window();
+  QTest::mouseClick(&Button("cmdTack"), Qt::LeftButton);
+  ASSERT_TRUE(Open());
+  EXPECT_EQ(Dialog()->windowHandle()->transientParent(), polar->windowHandle());
+  polar->close();
+  EXPECT_TRUE(Open());
+  EXPECT_EQ(Dialog()->windowHandle()->transientParent(), Window->windowHandle());
+}
+
+TEST_F(PolarTack, ACourseThatHasMovedGivesTheDialogItsNewHeading) {
+  StartToWindward();
+  QTest::mouseClick(&Button("cmdTack"), Qt::LeftButton);
+  ASSERT_EQ(Entry("txtHeading"), "183");
+  const std::string words = Text("lblWords");
+  Window->m_fSimulateTrueWindAngle += 30.0F;
+  tmrNmea.Tick(2);
+  Click("cmdOk");
+  EXPECT_FALSE(TimerTack.Enabled());
+  EXPECT_EQ(Entry("txtHeading"), "213");
+  EXPECT_NE(Text("lblWords"), words);
+  Click("cmdOk");
+  EXPECT_TRUE(TimerTack.Enabled());
 }
 
 }  // namespace

@@ -32,7 +32,8 @@ class PolarWindowTester : public testing::Test, public PolarListener {
   std::vector<bool> Shown;                                  ///< told about the window
   /// New heading, heading and true wind angle of each turn that was asked for.
   std::vector<std::array<float, 3>> Turns;
-  int PauseAfter = 10;  ///< [ms]
+  std::vector<TurnButton> Buttons;  ///< and the button of each
+  int PauseAfter = 10;              ///< [ms]
 
   PolarWindowTester() { WriteFile(Program / kDefaultPolar, kSmallPolar); }
 
@@ -40,7 +41,8 @@ class PolarWindowTester : public testing::Test, public PolarListener {
     Values.emplace_back(channel, value);
   }
   void OnPolarVisible(bool visible) override { Shown.push_back(visible); }
-  void OnManoeuvre(float newHeading, float heading, float windAngleTrue) override {
+  void OnManoeuvre(TurnButton button, float newHeading, float heading, float windAngleTrue) override {
+    Buttons.push_back(button);
     Turns.push_back({newHeading, heading, windAngleTrue});
   }
 

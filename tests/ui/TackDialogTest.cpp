@@ -91,14 +91,14 @@ TEST_F(TackDialog, OkGoesToManualAndTurnsThePilotSecondBySecond) {
   EXPECT_EQ(bar.value(), 0);
   EXPECT_EQ(Window->m_fAutoPilot, 112.0F) << "nothing happens before the first second";
   for (int second = 1; second <= 9; ++second) {
-    TimerTack.Tick();
+    Seconds(1);
     EXPECT_EQ(Window->m_fAutoPilot, 112.0F + 10.0F * static_cast<float>(second));
     EXPECT_EQ(Entry("txtHeading"), std::to_string(100 + 10 * second));
     EXPECT_EQ(Entry("txtAutoPilot"), std::to_string(112 + 10 * second) + ".0");
     EXPECT_EQ(bar.value(), 10 * second);
   }
   EXPECT_TRUE(Open());
-  TimerTack.Tick();
+  Seconds(1);
   EXPECT_EQ(Window->m_fAutoPilot, 207.0F);
   EXPECT_EQ(Entry("txtAutoPilot"), "207.0");
   EXPECT_EQ(bar.value(), 95);
@@ -113,7 +113,7 @@ TEST_F(TackDialog, EnterBeginsTheTurnAndASecondEnterDoesNotStopIt) {
   OpenTack();
   QTest::keyClick(&Find<QLineEdit>("txtHeading"), Qt::Key_Return);
   EXPECT_TRUE(TimerTack.Enabled());
-  TimerTack.Tick();
+  Seconds(1);
   QTest::keyClick(Dialog()->focusWidget() != nullptr ? Dialog()->focusWidget() : Dialog(), Qt::Key_Return);
   QTest::keyClick(&Find<QPushButton>("cmdCancel"), Qt::Key_Return);
   EXPECT_TRUE(TimerTack.Enabled());
@@ -130,7 +130,7 @@ TEST_F(TackDialog, CancelEscapeAndTheFrameStopTheTurnWhereItIs) {
     way();
     EXPECT_FALSE(Open());
     EXPECT_FALSE(TimerTack.Enabled());
-    TimerTack.Tick(3);
+    Seconds(3);
     EXPECT_EQ(Window->m_fAutoPilot, 132.0F);
     EXPECT_EQ(Window->m_eTrackMode, TrackMode::Manual);
   }
@@ -150,9 +150,11 @@ TEST_F(TackDialog, CancelBeforeOkChangesNothing) {
 TEST_F(TackDialog, OpeningAgainStopsTheTurnAndAnswersAgain) {
   Start(kOnPorts);
   RunTack();
+  Wind = "25";
+  Send();
   Window->TackOpen(130.0F, 120.0F, 25.0F);
   EXPECT_FALSE(TimerTack.Enabled());
-  TimerTack.Tick();
+  Seconds(1);
   EXPECT_EQ(Window->m_fAutoPilot, 132.0F);
   for (const char* name : {"cmdOk", "txtOvershoot", "txtRate"}) {
     EXPECT_TRUE(Enabled(name)) << name;
@@ -161,7 +163,7 @@ TEST_F(TackDialog, OpeningAgainStopsTheTurnAndAnswersAgain) {
   EXPECT_EQ(Dialog()->windowTitle(), "Veerwatch - Steer");
   EXPECT_EQ(Entry("txtHeading"), "130");
   Click("cmdOk");
-  TimerTack.Tick(2);
+  Seconds(2);
   EXPECT_EQ(Window->m_fAutoPilot, 142.0F);
   EXPECT_FALSE(Open());
 }
@@ -172,7 +174,7 @@ TEST_F(TackDialog, TheTypedHeadingCountsFolded) {
   Type("txtHeading", "-240 or so");
   Type("txtOvershoot", "0");
   Click("cmdOk");
-  TimerTack.Tick(2);
+  Seconds(2);
   EXPECT_EQ(Window->m_fAutoPilot, 132.0F);
   EXPECT_FALSE(Open());
 }
@@ -187,10 +189,10 @@ TEST_F(TackDialog, ATextThatIsNoHeadingLeavesTheOneThatWasAskedFor) {
     Type("txtRate", "50");
     Click("cmdOk");
     if (std::string(text) == "1e99999") {
-      TimerTack.Tick(2);
+      Seconds(2);
       EXPECT_EQ(Window->m_fAutoPilot, 13.0F) << "a heading of 1, and the pilot's 12 on top";
     } else {
-      TimerTack.Tick(2);
+      Seconds(2);
       EXPECT_EQ(Window->m_fAutoPilot, 202.0F) << text;
     }
     EXPECT_FALSE(Open()) << text;
@@ -205,9 +207,9 @@ TEST_F(TackDialog, AnOvershootThatIsNoNumberIsNoneAndARateTen) {
     Type("txtRate", text);
     Click("cmdOk");
     EXPECT_EQ(Find<QProgressBar>("ProgressBarTack").maximum(), 90) << text;
-    TimerTack.Tick();
+    Seconds(1);
     EXPECT_EQ(Window->m_fAutoPilot, 122.0F) << text;
-    TimerTack.Tick(8);
+    Seconds(8);
     EXPECT_EQ(Window->m_fAutoPilot, 202.0F) << text;
     EXPECT_FALSE(Open()) << text;
   }
@@ -218,7 +220,7 @@ TEST_F(TackDialog, ARateOfZeroInTheProfileTurnsTenDegreesASecond) {
   OpenTack();
   EXPECT_EQ(Entry("txtRate"), "0");
   Click("cmdOk");
-  TimerTack.Tick();
+  Seconds(1);
   EXPECT_EQ(Window->m_fAutoPilot, 122.0F);
 }
 
@@ -227,10 +229,11 @@ TEST_F(TackDialog, AChangeOf170At20DegreesASecondTakesNineSeconds) {
   Window->AutoPilotSet(100.0F);
   Window->TackOpen(270.0F, 100.0F, 90.0F);
   Click("cmdOk");
-  TimerTack.Tick(8);
+  Click("cmdOk");  // through the wind, which it had to ask about
+  Seconds(8);
   EXPECT_TRUE(Open());
   EXPECT_EQ(Window->m_fAutoPilot, 260.0F);
-  TimerTack.Tick();
+  Seconds(1);
   EXPECT_FALSE(Open());
   EXPECT_EQ(Window->m_fAutoPilot, 270.0F);
 }
@@ -241,9 +244,9 @@ TEST_F(TackDialog, TurnsThroughNorth) {
   Window->TackOpen(10.0F, 350.0F, 60.0F);
   Click("cmdOk");
   EXPECT_EQ(Find<QProgressBar>("ProgressBarTack").maximum(), 20);
-  TimerTack.Tick(2);
+  Seconds(2);
   EXPECT_EQ(Entry("txtAutoPilot"), "0.0");
-  TimerTack.Tick(2);
+  Seconds(2);
   EXPECT_EQ(Window->m_fAutoPilot, 10.0F);
   EXPECT_FALSE(Open());
 }
@@ -253,7 +256,7 @@ TEST_F(TackDialog, NoChangeEndsAtTheFirstSecondWithABarThatHasALength) {
   Window->TackOpen(100.0F, 100.0F, 45.0F);
   Click("cmdOk");
   EXPECT_EQ(Find<QProgressBar>("ProgressBarTack").maximum(), 1);
-  TimerTack.Tick();
+  Seconds(1);
   EXPECT_FALSE(Open());
   EXPECT_EQ(Window->m_fAutoPilot, 100.0F);
 }

@@ -100,15 +100,6 @@ TEST_F(TackHands, ACloseThatWaitsEndsTheTurnToo) {
   EXPECT_FALSE(Window->isVisible());
 }
 
-TEST_F(TackHands, AnInputThatIsSilentAlreadyEndsTheTurnAtItsNextTick) {
-  Start(kOnPorts);
-  tmrNmea.Tick(5);
-  RunTack();
-  tmrNmea.Tick();
-  EXPECT_FALSE(Open());
-  EXPECT_EQ(Window->m_fAutoPilot, 132.0F);
-}
-
 TEST_F(TackHands, WhatTakesNotThePilotLeavesTheTurn) {
   Start(kOnPorts);
   RunTack();
@@ -152,6 +143,22 @@ TEST_F(TackHands, BeforeOkNobodyIsInTheWay) {
   tmrNmea.Tick(4);
   EXPECT_TRUE(Open());
   EXPECT_EQ(Window->m_fAutoPilot, 150.0F);
+}
+
+TEST_F(TackHands, AnAlarmLeavesTheDialogInFront) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("30", "40"));
+  Mode(7);
+  OpenTack();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == Dialog(); }));
+  Find<QPushButton>("cmdCancel").setFocus();
+  NmeaPort.Receive("$WIMWV,50,R,10,N,A\r");
+  EXPECT_EQ(Dialogs.Beeps, 1);
+  EXPECT_EQ(Dialogs.Foregrounds, 0);
+  Window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitFor([this] { return QApplication::activeWindow() == Window.get(); }));
+  NmeaPort.Receive("$WIMWV,50,R,10,N,A\r");
+  EXPECT_EQ(Dialogs.Foregrounds, 1);
 }
 
 TEST_F(TackHands, InTheSimulatorTheTurnGoesOn) {

@@ -12,6 +12,8 @@ namespace veerwatch {
 
 class TackTester : public MainWindowTester {
  public:
+  std::string Wind = "45";  ///< true wind angle of what Send() lets arrive [deg relative]
+
   /// The dialog, null before it is made.
   QDialog* Dialog() const { return Window->findChild<QDialog*>(QStringLiteral("frmTack")); }
   bool Open() const { return Dialog() != nullptr && Dialog()->isVisible(); }
@@ -22,11 +24,23 @@ class TackTester : public MainWindowTester {
     Window->TackOpen(190.0F, 100.0F, 45.0F);
   }
 
-  /// That tack after two seconds, at a heading of 120.
+  /// A wind that runs one control step, and so takes the bearing to the pilot.
+  void Send() { NmeaPort.Receive(Winds("45", Wind)); }
+
+  /// Seconds of a turn, with a wind in each.
+  void Seconds(int seconds) {
+    for (int second = 0; second < seconds; ++second) {
+      Send();
+      TimerTack.Tick();
+    }
+  }
+
+  /// That tack after two seconds, at a heading of 120, which the pilot has heard of.
   void RunTack() {
     OpenTack();
     Click("cmdOk");
-    TimerTack.Tick(2);
+    Seconds(2);
+    Send();
     ASSERT_EQ(Window->m_fAutoPilot, 132.0F);
     ASSERT_TRUE(TimerTack.Enabled());
   }

@@ -1,0 +1,36 @@
+// Whether a turn may begin and go on, and what the user has to be told before it begins. The manoeuvre dialog
+// asks.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "control/HelmNow.h"
+
+namespace veerwatch {
+
+/// Why no sentence would carry a turn to the pilot now; "" when one will: Off, the input stopped, no wind, or
+/// a port that is not open.
+std::string TurnHindrance(const HelmNow& now);
+
+/// Why a turn that runs ends by itself; "" while it goes on. A port that is not open only makes it wait.
+std::string TurnEnd(const HelmNow& now);
+
+/// What a turn starts from.
+struct TurnFrom {
+  float Heading = 0.0F;    ///< [deg magnetic]
+  float AutoPilot = 0.0F;  ///< bearing of the pilot [deg magnetic]
+  float WindAngle = 0.0F;  ///< [deg relative, positive to starboard]
+};
+
+/// What a turn would start from now; what is not known is as in `before`.
+TurnFrom TurnFromNow(const HelmNow& now, const TurnFrom& before);
+
+/// Whether any of the three has moved by more than 5 degrees, so that a turn planned before is out of date.
+bool TurnHasMoved(const TurnFrom& before, const TurnFrom& now);
+
+/// Says that the boat swings, when her heading and the bearing of the pilot are more than 10 degrees apart;
+/// else "".
+std::string ApartText(const TurnFrom& from);
+
+}  // namespace veerwatch
