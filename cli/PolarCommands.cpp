@@ -6,6 +6,7 @@
 
 #include "cli/Steering.h"
 #include "platform/NumberText.h"
+#include "platform/VisibleText.h"
 #include "platform/WholeFile.h"
 #include "polar/PolarDialect.h"
 #include "polar/PolarFile.h"
@@ -190,7 +191,7 @@ void PolarConvertCommand(const std::string& from, const std::string& to, std::os
     throw CommandError(*failure);
   }
   if (!result.Note.empty()) {
-    notes << "veerwatch-cli: " << from << ": " << result.Note << '\n';
+    notes << "veerwatch-cli: " << VisibleText(from) << ": " << VisibleText(result.Note) << '\n';
   }
 }
 

@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 
 #include "platform/NumberText.h"
+#include "platform/VisibleText.h"
 
 namespace veerwatch {
 
@@ -11,22 +12,6 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 double Number(float value) { return JsonNumber(value); }
-
-/// Bytes as the code points of the same numbers, in UTF-8.
-std::string CodePoints(const std::string& bytes) {
-  std::string text;
-  text.reserve(bytes.size());
-  for (const char c : bytes) {
-    const auto byte = static_cast<unsigned char>(c);
-    if (byte < 0x80U) {
-      text.push_back(c);
-    } else {
-      text.push_back(static_cast<char>(0xC0U | (byte >> 6U)));
-      text.push_back(static_cast<char>(0x80U | (byte & 0x3FU)));
-    }
-  }
-  return text;
-}
 
 Json Record(const InstrumentData& data) {
   return {{"HeadingValid", data.HeadingValid},
@@ -70,10 +55,10 @@ double JsonNumber(float value) { return StrictDouble(ShortestText(value)).value_
 
 std::string TraceLine(const std::string& line, const Steering& steering) {
   Json object;
-  object["line"] = CodePoints(line);
+  object["line"] = VisibleBytes(line);
   object["status"] = steering.Status();
   object["used"] = steering.Used();
-  object["error"] = steering.Error() ? Json(CodePoints(*steering.Error())) : Json(nullptr);
+  object["error"] = steering.Error() ? Json(VisibleBytes(*steering.Error())) : Json(nullptr);
   AddSteering(object, steering);
   return object.dump();
 }

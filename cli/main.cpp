@@ -1,7 +1,6 @@
 // veerwatch-cli: the core on the command line, for scripts and for looking at recorded passages.
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <array>
 #include <exception>
 #include <fstream>
@@ -10,6 +9,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 
 #include "cli/CourseCommands.h"
 #include "cli/PolarCommands.h"
@@ -17,6 +17,7 @@
 #include "cli/Replay.h"
 #include "cli/Simulate.h"
 #include "platform/NumberText.h"
+#include "platform/VisibleText.h"
 
 namespace {
 
@@ -67,10 +68,8 @@ struct SteeringArguments {
 };
 
 /// Says what went wrong, as one line whatever the names in it hold; gives the exit status.
-int Complain(std::string text) {
-  const auto isControl = [](unsigned char c) { return c < ' '; };
-  std::replace_if(text.begin(), text.end(), isControl, ' ');
-  std::cerr << "veerwatch-cli: " << text << '\n';
+int Complain(std::string_view text) {
+  std::cerr << "veerwatch-cli: " << veerwatch::VisibleText(text) << '\n';
   return kExitBadCall;
 }
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "options/OptionControlsQt.h"
+#include "platform/VisibleText.h"
 
 namespace veerwatch {
 
@@ -19,17 +20,6 @@ constexpr int kLeastLines = 4;
 constexpr int kLeastColumns = 30;
 /// The longest sentence that the standard allows, and its mark.
 constexpr int kUsualColumns = 88;
-constexpr QChar kMiddleDot(0xB7);
-
-QString Printable(const std::string& text) {
-  QString printable = QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
-  for (QChar& character : printable) {
-    if (!character.isPrint()) {
-      character = kMiddleDot;
-    }
-  }
-  return printable;
-}
 
 /// Paints a line without measuring it: all characters are of one width.
 class LineDelegateQt final : public QStyledItemDelegate {
@@ -92,7 +82,7 @@ QVariant LiveListModelQt::data(const QModelIndex& index, int role) const {
   const LiveLines::Line& line = m_lines.At(static_cast<std::size_t>(index.row()));
   switch (role) {
     case Qt::DisplayRole:
-      return Printable(line.Text);
+      return QString::fromStdString(VisibleBytes(line.Text));
     case kHighlighted:
       return line.Highlighted;
     default:

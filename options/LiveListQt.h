@@ -21,7 +21,7 @@ class LiveListModelQt final : public QAbstractListModel {
   void Clear();
 
   int rowCount(const QModelIndex& parent = {}) const override;
-  /// What is no printable character of ISO 8859-1 shows as a middle dot.
+  /// Bytes are characters of ISO 8859-1, control characters are shown as pictures.
   QVariant data(const QModelIndex& index, int role) const override;
 
  private:

@@ -9,14 +9,26 @@
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <algorithm>
+#include <string_view>
+
+#include "platform/VisibleText.h"
 
 namespace veerwatch {
 
 namespace {
 
-/// `text` with line breaks for its carriage returns.
-QString Lines(const std::string& text) {
-  return QString::fromStdString(text).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+/// `text` with line breaks for its carriage returns and pictures for all other control characters.
+QString Lines(std::string text) {
+  std::replace(text.begin(), text.end(), '\r', '\n');
+  QString lines;
+  for (std::size_t at = 0; at <= text.size();) {
+    const std::size_t end = std::min(text.find('\n', at), text.size());
+    lines += (at > 0 ? QStringLiteral("\n") : QString()) +
+             QString::fromStdString(VisibleText(std::string_view(text).substr(at, end - at)));
+    at = end + 1;
+  }
+  return lines;
 }
 
 /// A message that is read while the program goes on. It goes with the window that it belongs to.

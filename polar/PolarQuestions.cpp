@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "platform/NumberText.h"
+#include "platform/VisibleText.h"
 #include "platform/WholeFile.h"
 #include "polar/PolarDialect.h"
 
@@ -36,7 +37,8 @@ bool HoldsSomething(const std::filesystem::path& file) {
 std::optional<std::string> AskTarget(const std::string& proposed, Dialogs& asks) {
   auto file = asks.SaveFile(kPolarFilter, proposed);
   if (file && HoldsSomething(*file) &&
-      !asks.WarnYesNo("AutoPilot - Save As", *file + "file already exists.\nDo you want to replace it?")) {
+      !asks.WarnYesNo("AutoPilot - Save As",
+                      VisibleText(*file) + "file already exists.\nDo you want to replace it?")) {
     file.reset();
   }
   return file;

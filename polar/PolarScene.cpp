@@ -5,6 +5,7 @@
 
 #include "instruments/MathLib.h"
 #include "platform/NumberText.h"
+#include "platform/VisibleText.h"
 
 namespace veerwatch {
 
@@ -20,7 +21,8 @@ constexpr float kChangeSides = 5.0F;
 
 std::string PolarScene::NameOf(int slot) const {
   const auto& settings = m_model.Settings();
-  std::string name = std::filesystem::path(settings.File[static_cast<std::size_t>(slot)]).stem().string();
+  std::string name =
+      VisibleText(std::filesystem::path(settings.File[static_cast<std::size_t>(slot)]).stem().string());
   if (settings.SpeedFactor != 1.0F) {
     name.append(" ")
         .append(FormatNumber(ToSingle(static_cast<double>(settings.SpeedFactor) * 100.0), "0"))

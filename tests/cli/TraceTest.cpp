@@ -58,10 +58,11 @@ TEST(Trace, WritesSinglesAsTheirShortestText) {
   EXPECT_EQ(objects[0]["record"]["BoatSpeed"].dump(), "6.2");
 }
 
-TEST(Trace, WritesBytesAsCodePoints) {
-  const std::vector<json> objects = Trace("\x80\xff");
-  EXPECT_EQ(objects[0]["line"], "\xC2\x80\xC3\xBF");
-  EXPECT_EQ(objects[0]["error"], "Sentence Error - \xC2\x80\xC3\xBF");
+TEST(Trace, WritesBytesAsCodePointsAndControlCharactersAsPictures) {
+  const std::vector<json> objects = Trace("\xA0\xff\t\x1B[2J\x7F\x9B");
+  const std::string shown = "\u00A0\u00FF\t\u241B[2J\u2421\u241B[";
+  EXPECT_EQ(objects[0]["line"], shown);
+  EXPECT_EQ(objects[0]["error"], "Sentence Error - " + shown);
   EXPECT_EQ(objects[0]["status"], "Sentence Error");
 }
 
