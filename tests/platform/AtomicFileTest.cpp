@@ -3,12 +3,16 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <csignal>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "tests/support/TemporaryFolder.h"
 
@@ -164,6 +168,90 @@ TEST(WriteAtomically, KeepsTheOldFileWhenTheNewOneFindsNoRoom) {
   EXPECT_TRUE(error.has_value());
   EXPECT_EQ(ReadFile(folder / "a.ini"), "old");
   EXPECT_THAT(folder.Names(), ElementsAre("a.ini"));
+}
+
+/// Makes a pipe that whoever opens it for writing waits on for good.
+void MakePipe(const fs::path& file) { ASSERT_EQ(::mkfifo(file.c_str(), 0600), 0); }
+
+/// Makes a socket that lies in the file system.
+void MakeSocket(const fs::path& file) {
+  const int descriptor = ::socket(AF_UNIX, SOCK_STREAM, 0);
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  ASSERT_LT(file.string().size(), sizeof address.sun_path);
+  file.string().copy(address.sun_path, sizeof address.sun_path - 1);
+  ASSERT_EQ(::bind(descriptor, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+  ::close(descriptor);
+}
+
+TEST(WriteAtomically, LeavesWhatIsNoPlainFileAndNamesItsKind) {
+  const TemporaryFolder folder;
+  MakePipe(folder / "pipe");
+  MakeSocket(folder / "socket");
+  fs::create_symlink("pipe", folder / "link to pipe");
+  fs::create_symlink("/dev/null", folder / "link to device");
+  const auto before = folder.Names();
+  for (const auto& [name, kind] :
+       {std::pair{"pipe", "it is a pipe"}, std::pair{"link to pipe", "it is a pipe"},
+        std::pair{"socket", "it is a socket"}, std::pair{"link to device", "it is a device"}}) {
+    EXPECT_EQ(WriteAtomically(folder / name, "new"),
+              "cannot write " + (folder / name).string() + ": " + kind);
+  }
+  EXPECT_TRUE(fs::is_fifo(folder / "pipe"));
+  EXPECT_TRUE(fs::is_socket(folder / "socket"));
+  EXPECT_TRUE(fs::is_symlink(folder / "link to pipe"));
+  EXPECT_EQ(fs::read_symlink(folder / "link to device"), "/dev/null");
+  EXPECT_TRUE(fs::is_character_file("/dev/null"));
+  EXPECT_THAT(folder.Names(), testing::UnorderedElementsAreArray(before)) << "nothing else was made";
+}
+
+TEST(WriteAtomically, TouchesNothingThatLiesBesideUnderANameLikeIts) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "a.ini.new", "the user's own");
+  EXPECT_EQ(WriteAtomically(folder / "a.ini", "new"), std::nullopt);
+  EXPECT_EQ(ReadFile(folder / "a.ini.new"), "the user's own");
+
+  MakePipe(folder / "b.ini.new");
+  EXPECT_EQ(WriteAtomically(folder / "b.ini", "new"), std::nullopt);
+  EXPECT_TRUE(fs::is_fifo(folder / "b.ini.new"));
+
+  WriteFile(folder / "witness", "kept");
+  fs::create_symlink("witness", folder / "c.ini.new");
+  EXPECT_EQ(WriteAtomically(folder / "c.ini", "new"), std::nullopt);
+  EXPECT_EQ(ReadFile(folder / "witness"), "kept");
+  EXPECT_THAT(folder.Names(), UnorderedElementsAre("a.ini", "a.ini.new", "b.ini", "b.ini.new", "c.ini",
+                                                   "c.ini.new", "witness"));
+}
+
+TEST(WriteAtomically, KeepsThePermissionsOfTheOldFile) {
+  const TemporaryFolder folder;
+  for (const fs::perms mode : {fs::perms{0600}, fs::perms{0664}, fs::perms{0444}}) {
+    WriteFile(folder / "a.ini", "old");
+    fs::permissions(folder / "a.ini", mode);
+    EXPECT_EQ(WriteAtomically(folder / "a.ini", "new"), std::nullopt);
+    EXPECT_EQ(fs::status(folder / "a.ini").permissions(), mode);
+    fs::remove(folder / "a.ini");
+  }
+}
+
+TEST(WriteAtomically, WritesAFileOfTheLongestName) {
+  const TemporaryFolder folder;
+  const std::string name(255, 'x');
+  EXPECT_EQ(WriteAtomically(folder / name, "new"), std::nullopt);
+  EXPECT_EQ(ReadFile(folder / name), "new");
+}
+
+TEST(WriteAtomically, WritesAFileWhoseNameIsNoUtf8UnderItsOwnBytes) {
+  const TemporaryFolder folder;
+  EXPECT_EQ(WriteAtomically(folder / "M\xF6we.ini", "new"), std::nullopt);
+  EXPECT_THAT(folder.Names(), ElementsAre("M\xF6we.ini"));
+}
+
+TEST(WriteAtomically, SaysNamesWithoutControlCharacters) {
+  const TemporaryFolder folder;
+  fs::create_directory(folder / "a\x1B[2J\n\xFF");
+  EXPECT_EQ(WriteAtomically(folder / "a\x1B[2J\n\xFF", "new"),
+            "cannot write " + folder.Path().string() + "/a\u241B[2J\u240A\uFFFD: it is a folder");
 }
 
 }  // namespace
