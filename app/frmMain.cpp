@@ -14,7 +14,9 @@
 
 #include "app/IconsQt.h"
 #include "instruments/CompassPoint.h"
+#include "platform/AtomicFile.h"
 #include "platform/NumberText.h"
+#include "platform/VisibleText.h"
 
 namespace veerwatch {
 
@@ -159,7 +161,7 @@ void frmMain::ProfileRecall(bool recall) {
   m_sProfileFile = m_parts.ProfileFile;
   if (recall) {
     if (m_parts.Store.Load(m_sProfileFile) == Profile::LoadResult::Unreadable) {
-      std::fprintf(stderr, "%s: cannot be read, defaults are used\n", m_sProfileFile.c_str());
+      std::fprintf(stderr, "%s: cannot be read, defaults are used\n", VisibleText(m_sProfileFile).c_str());
     }
     ProfileRead(m_parts.Store, *this, m_others);
   }
@@ -200,7 +202,8 @@ void frmMain::KeepSettings() {
   if (result == Profile::LoadResult::Read) {
     m_parts.Store = std::move(present);
   } else if (result == Profile::LoadResult::Unreadable) {
-    std::fprintf(stderr, "%s: cannot be read any more, it is put aside\n", m_sProfileFile.c_str());
+    std::fprintf(stderr, "%s: cannot be read any more%s\n", VisibleText(m_sProfileFile).c_str(),
+                 OtherKind(m_sProfileFile).empty() ? ", it is put aside" : "");
   }
   ProfileWrite(m_parts.Store, *this, m_others);
   m_others.Store();

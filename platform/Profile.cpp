@@ -1,13 +1,13 @@
 #include "platform/Profile.h"
 
 #include <algorithm>
-#include <cctype>
 #include <cmath>
 #include <fstream>
 #include <utility>
 
 #include "platform/AtomicFile.h"
 #include "platform/NumberText.h"
+#include "platform/VisibleText.h"
 
 namespace veerwatch {
 
@@ -15,10 +15,12 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
+/// Only the letters of ASCII have a case, whatever the user's language.
+char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
 bool SameName(std::string_view a, std::string_view b) {
-  const auto lower = [](char c) { return std::tolower(static_cast<unsigned char>(c)); };
   return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [&](char x, char y) { return lower(x) == lower(y); });
+                    [](char x, char y) { return Lower(x) == Lower(y); });
 }
 
 /// Text of two bytes a character, as some editors save it.
@@ -273,7 +275,7 @@ std::optional<std::string> Profile::Commit(const std::filesystem::path& file) co
     } while (std::filesystem::exists(std::filesystem::symlink_status(aside, error)));
     std::filesystem::rename(target, aside, error);
     if (error) {
-      return "cannot put " + file.string() + " aside: " + error.message();
+      return "cannot put " + VisibleText(file.string()) + " aside: " + error.message();
     }
   }
   return WriteAtomically(file, content);

@@ -26,8 +26,9 @@ class Profile {
   /// too large, UTF-16) leaves the profile empty; whatever stands in a readable one is kept as lines.
   LoadResult Load(const std::filesystem::path& file);
 
-  /// The whole value of a key, "" for an empty one or none. Section and key are found whatever their case,
-  /// the first of two equal ones counts; blanks around and a pair of quotes around the value are dropped.
+  /// The whole value of a key, "" for an empty one or none. Section and key are found whatever the case of
+  /// their letters A to Z, in every locale; the first of two equal ones counts. Blanks around and a pair of
+  /// quotes around the value are dropped.
   std::string Text(std::string_view section, std::string_view key) const;
 
   // Each reads a key into `value` and leaves it as it is when the key is missing, empty, or its text is
