@@ -1,24 +1,27 @@
 #include "app/ProgramQt.h"
 
 #include <QApplication>
-#include <QCommandLineParser>
-#include <QDir>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QStandardPaths>
 #include <cstdio>
-#include <cstdlib>
 #include <filesystem>
 #include <random>
 
+#include "app/CommandLine.h"
 #include "app/ProfileLocation.h"
 #include "app/SessionQt.h"
 #include "app/frmMain.h"
 #include "platform/AtomicFile.h"
 #include "platform/DialogsQt.h"
+#include "platform/ProfileLock.h"
 #include "platform/SerialPortQt.h"
 #include "platform/SignalsQt.h"
 #include "platform/TimerQt.h"
+#include "platform/VisibleText.h"
+
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
 
 namespace veerwatch {
 
@@ -26,76 +29,104 @@ namespace {
 
 std::filesystem::path PathOf(const QString& path) { return std::filesystem::path(path.toStdU16String()); }
 
-/// Where polar files with relative names lie.
-PolarFolders PolarFiles() {
-  const std::filesystem::path program = PathOf(QCoreApplication::applicationDirPath());
-  return {program, program / VEERWATCH_SHARED_FOLDER};
+#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+
+// A QString holds no path that is no UTF-8, so these come from the system in their own bytes.
+
+std::filesystem::path ProgramFolder() {
+  std::error_code error;
+  const std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", error);
+  return error ? PathOf(QCoreApplication::applicationDirPath()) : program.parent_path();
 }
+
+std::filesystem::path ConfigFolder() {
+  const std::filesystem::path set = qgetenv("XDG_CONFIG_HOME").toStdString();
+  return set.is_absolute() ? set : std::filesystem::path(qgetenv("HOME").toStdString()) / ".config";
+}
+
+bool IsWritable(const std::filesystem::path& folder) { return ::access(folder.c_str(), W_OK) == 0; }
+
+#else
+
+std::filesystem::path ProgramFolder() { return PathOf(QCoreApplication::applicationDirPath()); }
+
+std::filesystem::path ConfigFolder() {
+  return PathOf(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation));
+}
+
+bool IsWritable(const std::filesystem::path& folder) { return QFileInfo(folder).isWritable(); }
+
+#endif
+
+/// Where polar files with relative names lie.
+PolarFolders PolarFiles() { return {ProgramFolder(), ProgramFolder() / VEERWATCH_SHARED_FOLDER}; }
 
 /// Where this copy of the program keeps its profile. It is an installed one when its data lie where they are
 /// installed to, seen from the program.
-std::string ProfileFile() {
-  const QString folder = QCoreApplication::applicationDirPath();
-  const QString config = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+std::filesystem::path ProfileFile() {
+  const std::filesystem::path folder = ProgramFolder();
   std::error_code error;
-  const bool installed = std::filesystem::is_directory(PathOf(folder) / VEERWATCH_SHARED_FOLDER, error);
-  return ProfileLocation(PathOf(folder), installed, PathOf(config), QFileInfo(folder).isWritable()).string();
+  const bool installed = std::filesystem::is_directory(folder / VEERWATCH_SHARED_FOLDER, error);
+  return ProfileLocation(folder, installed, ConfigFolder(), IsWritable(folder));
 }
 
-/// Reads the command line; answers --help, --version and mistakes itself and ends the program then. Gives the
-/// path of the profile.
-std::string ReadCommandLine(const QApplication& application) {
-  QCommandLineParser line;
-  line.setApplicationDescription(QStringLiteral("Steers a boat's autopilot by the wind."));
-  line.addHelpOption();
-  line.addVersionOption();
-  const QCommandLineOption profile(QStringLiteral("profile"),
-                                   QStringLiteral("Keep the settings in <file> instead of the usual place."),
-                                   QStringLiteral("file"));
-  line.addOption(profile);
-  line.process(application);
-  if (!line.positionalArguments().isEmpty()) {
-    std::fprintf(stderr, "veerwatch: unexpected argument %s; --help shows the known ones\n",
-                 qPrintable(line.positionalArguments().constFirst()));
-    std::exit(2);
+/// Answers --help and --version; false when nobody asked.
+bool Answered(const CommandLine& line) {
+  if (line.Help) {
+    std::fputs(CommandLineHelp().c_str(), stdout);
+  } else if (line.Version) {
+    std::fprintf(stdout, "%s %s\n", kApplicationTitle, VEERWATCH_VERSION);
   }
-  return line.isSet(profile) ? QFileInfo(line.value(profile)).absoluteFilePath().toStdString()
-                             : ProfileFile();
+  return line.Help || line.Version;
 }
 
-/// Takes the profile for this process, so that no second program writes it or fights for its ports. False,
-/// with the user told, when another one runs with it. Where no lock can be set nobody is kept out.
-bool TakeProfile(QLockFile& lock, const std::string& profileFile, Dialogs& dialogs) {
-  // One that was left behind by a killed program is told by its process.
-  lock.setStaleLockTime(0);
-  if (lock.tryLock() || lock.error() != QLockFile::LockFailedError) {
+/// True when this process may use the profile; false, with the user told, when another one runs with it.
+bool Taken(const ProfileLock& lock, const std::filesystem::path& profile, Dialogs& dialogs) {
+  const std::string name = VisibleText(profile.string());
+  if (!lock.HeldByAnother()) {
+    if (!lock.Trouble().empty()) {
+      std::fprintf(stderr, "veerwatch: %s: no lock can be set there\n", lock.Trouble().c_str());
+    }
     return true;
   }
-  const std::string text =
-      "Veerwatch is running already with these settings:\r" + profileFile +
-      "\rClose it first, or start this one with settings of its own: veerwatch --profile FILE";
-  std::fprintf(stderr, "veerwatch: %s: another Veerwatch is running with this profile\n",
-               profileFile.c_str());
-  dialogs.Inform(kApplicationTitle, text);
+  const std::string file = VisibleText(lock.HeldFile().string());
+  std::fprintf(stderr,
+               "veerwatch: %s: another Veerwatch is running with this profile (it holds the lock on %s)\n",
+               name.c_str(), file.c_str());
+  dialogs.Inform(
+      kApplicationTitle,
+      "Veerwatch is running already with these settings:\r" + name +
+          "\rClose it first, or start this one with settings of its own: veerwatch --profile FILE" +
+          "\rThe other one holds the lock on " + file);
   return false;
 }
 
 }  // namespace
 
 int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& started) {
+  if (Answered(ReadCommandLine(argc, argv))) {
+    return 0;
+  }
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+  // It takes its own options away.
   QApplication application(argc, argv);
   QApplication::setApplicationName(QString::fromLatin1(kApplicationTitle));
   QApplication::setApplicationVersion(QStringLiteral(VEERWATCH_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral("veerwatch"));
 
-  const std::string profileFile = ReadCommandLine(application);
+  const CommandLine line = ReadCommandLine(argc, argv);
+  if (!line.Trouble.empty()) {
+    std::fprintf(stderr, "veerwatch: %s\n", line.Trouble.c_str());
+    return 2;
+  }
+  std::error_code error;
+  const std::filesystem::path profileFile =
+      line.Profile ? std::filesystem::absolute(*line.Profile, error) : ProfileFile();
 
   DialogsQt dialogs;
-  QDir().mkpath(QFileInfo(QString::fromStdString(profileFile)).path());
-  std::error_code nowhere;
-  QLockFile lock(QString::fromStdString(LinkTarget(profileFile, nowhere).string() + ".lock"));
-  if (!TakeProfile(lock, profileFile, dialogs)) {
+  std::filesystem::create_directories(profileFile.parent_path(), error);
+  const ProfileLock lock(LinkTarget(profileFile, error));
+  if (!Taken(lock, profileFile, dialogs)) {
     // Until the message is closed.
     QApplication::exec();
     constexpr int kRunsAlready = 3;
@@ -111,7 +142,7 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   SeededRandom random(std::random_device{}());
 
   frmMain window({MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, TimerTack, random, dialogs, profile,
-                  profileFile, PolarFiles()});
+                  profileFile.string(), PolarFiles()});
   dialogs.Window(&window);
   tmrNmea.Ticks([&window] { window.tmrNmea_Timer(); });
   tmrUnload.Ticks([&window] { window.tmrUnload_Timer(); });

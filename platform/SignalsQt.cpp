@@ -57,7 +57,11 @@ void OnTerminationRequest(QObject* context, std::function<void()> handler) {
   action.sa_flags = SA_RESTART;
   sigemptyset(&action.sa_mask);
   for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
-    sigaction(number, &action, nullptr);
+    struct sigaction before {};
+    const bool ignored = sigaction(number, nullptr, &before) == 0 && before.sa_handler == SIG_IGN;
+    if (number == SIGTERM || !ignored) {
+      sigaction(number, &action, nullptr);
+    }
   }
 }
 

@@ -1,8 +1,11 @@
 // Two programs at a time: one profile is taken by one of them, two profiles sail side by side.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <string>
 
 #include "tests/e2e/RealPorts.h"
@@ -25,6 +28,9 @@ TEST(Instances, TheSecondOneOfAProfileSaysSoAndTouchesNothing) {
   ASSERT_TRUE(second.Start());
   EXPECT_TRUE(HasSaid(second, "another Veerwatch is running with this profile")) << second.Said();
   EXPECT_EQ(second.Said().find("ready"), std::string::npos);
+  EXPECT_NE(second.Said().find("(it holds the lock on " + (first.Folder() / "Veerwatch.ini.lock").string() + ")"),
+            std::string::npos)
+      << second.Said();
   EXPECT_TRUE(second.Runs()) << "its message waits to be read";
   second.Terminate();
   EXPECT_TRUE(second.AwaitEnd().has_value());
@@ -108,6 +114,43 @@ TEST(Instances, AKilledOneKeepsNobodyOut) {
   EXPECT_TRUE(HasSaid(second, "ready")) << second.Said();
   second.Tell("quit");
   EXPECT_EQ(second.AwaitEnd(), 0);
+}
+
+/// The first of two gets to its window, whatever lies in place of the lock file, and the second one does not.
+void ExpectOneRuns(const std::function<void(const fs::path& lock)>& prepare,
+                   const Surroundings& around = {}) {
+  Process first(VEERWATCH_REMOTE, kSimulated);
+  prepare(first.Folder() / "Veerwatch.ini.lock");
+  ASSERT_TRUE(first.Start({}, around));
+  ASSERT_TRUE(HasSaid(first, "ready")) << first.Said();
+  Process second(&first);
+  ASSERT_TRUE(second.Start({}, around));
+  EXPECT_TRUE(HasSaid(second, "another Veerwatch is running with this profile")) << second.Said();
+  second.Terminate();
+  EXPECT_TRUE(second.AwaitEnd().has_value());
+  first.Tell("quit");
+  EXPECT_TRUE(first.AwaitEnd().has_value());
+}
+
+TEST(Instances, WhatWasLeftInTheLockFileKeepsNobodyOut) {
+  // Nothing, as of one that was killed while it started; a living process of a machine whose card was cloned.
+  for (const std::string left :
+       {"", "garbage", "1\nsystemd\nanother-host\nanother machine\nanother boot\n"}) {
+    ExpectOneRuns([&](const fs::path& lock) { std::ofstream(lock) << left; });
+  }
+}
+
+TEST(Instances, WhatIsInTheWayOfTheLockFileKeepsNobodyOut) {
+  ExpectOneRuns([](const fs::path& lock) { fs::create_directory(lock); });
+  ExpectOneRuns([](const fs::path& lock) { ASSERT_EQ(::mkfifo(lock.c_str(), 0600), 0); });
+}
+
+TEST(Instances, AFullDiskLetsNoSecondOneRun) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  Surroundings full;
+  full.Through = {"prlimit", "--fsize=0:0"};
+  ExpectOneRuns([](const fs::path&) {}, full);
+  std::signal(SIGXFSZ, SIG_DFL);
 }
 
 }  // namespace

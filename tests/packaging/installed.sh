@@ -70,7 +70,7 @@ check_run() {
   export QT_QPA_PLATFORM=offscreen HOME=$work XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work
   # The toolkit's own leaks at the end are not the program's.
   export ASAN_OPTIONS=detect_leaks=0
-  "$prefix/bin/veerwatch" --version | grep -q '^Veerwatch [0-9]' || wrong "no version"
+  QT_QPA_PLATFORM=xcb DISPLAY='' WAYLAND_DISPLAY='' "$prefix/bin/veerwatch" --version | grep -q '^Veerwatch [0-9]' || wrong "no version"
   "$prefix/bin/veerwatch-cli" polar check "$prefix/share/veerwatch/Fast Sled 60ft.pol" >/dev/null ||
     wrong "the polar is not good"
 
