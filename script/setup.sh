@@ -27,6 +27,7 @@ kTestPackages=(
   libgmock-dev
   dpkg-dev                                     # finds what the package depends on
   file
+  locales                                      # the sources of the languages that a test starts the program in
   libsm-dev                                    # a desktop's session, to log out of
   xvfb                                         # and its screen
 )
@@ -49,20 +50,39 @@ fail() {
   exit 1
 }
 
+# The system's description.
+kSystem=/etc/os-release
+
 # os_field NAME: the value of a field of the system's description, empty without one.
 os_field() {
   local line value
-  [[ -r /etc/os-release ]] || return 0
+  [[ -r $kSystem ]] || return 0
   while read -r line; do
     [[ $line == "$1="* ]] || continue
     value=${line#*=}
     value=${value#[\"\']}
     printf '%s' "${value%[\"\']}"
-  done </etc/os-release
+  done <"$kSystem"
 }
 
-# system_is_known: true on Debian 12 or newer and on Ubuntu 24.04 or newer. Debian's testing and unstable name no
-# version and are newer.
+# derived_is_known: true on a system that is made from Debian or Ubuntu and names a release of theirs that is new enough.
+# Its own version number says nothing about that.
+derived_is_known() {
+  local codename
+  case " $(os_field ID_LIKE) " in
+    *" ubuntu "*) codename=$(os_field UBUNTU_CODENAME) ;;
+    *" debian "*) codename=$(os_field DEBIAN_CODENAME) ;;
+    *) return 1 ;;
+  esac
+  codename=${codename:-$(os_field VERSION_CODENAME)}
+  case $codename in
+    "" | stretch | buster | bullseye) return 1 ;;
+    xenial | bionic | focal | jammy | kinetic | lunar | mantic) return 1 ;;
+  esac
+}
+
+# system_is_known: true on Debian 12 or newer, on Ubuntu 24.04 or newer and on what is made from them. Debian's testing
+# and unstable name no version and are newer.
 system_is_known() {
   local version major
   command -v dpkg-query >/dev/null && command -v apt-get >/dev/null || return 1
@@ -71,7 +91,7 @@ system_is_known() {
   case $(os_field ID) in
     debian) [[ -z $version ]] || { [[ $major =~ ^[0-9]+$ ]] && ((10#$major >= 12)); } ;;
     ubuntu) [[ $major =~ ^[0-9]+$ ]] && ((10#$major >= 24)) ;;
-    *) return 1 ;;
+    *) derived_is_known ;;
   esac
 }
 
@@ -120,6 +140,19 @@ as_root() {
   fi
 }
 
+# ask_to_install ENTRY...: prints the one line that installs them, for whoever may not do it from here, and stops.
+ask_to_install() {
+  local entry line="apt-get install --no-install-recommends"
+  for entry in "$@"; do
+    line+=" $(apt_name "$entry" || printf '%s' "${entry%%|*}")"
+  done
+  say "Packages are missing, and installing them takes root. Paste this line as root, then start ${0##*/} again:"
+  say "  $line"
+  say "On a plain Debian, where root has a password of its own and there is no sudo:"
+  say "  su -c '$line'"
+  fail "nothing was installed."
+}
+
 # install_missing ENTRY...: sees to it that every entry is installed, or stops with a line that says what is not.
 # Touches neither the network nor the system when nothing is missing.
 install_missing() {
@@ -128,14 +161,12 @@ install_missing() {
   if ! system_is_known; then
     say "Packages that Veerwatch needs, by their names on Debian (a|b: either one):"
     printf '  %s\n' "$@"
-    fail "this is neither Debian 12 or newer nor Ubuntu 24.04 or newer: install them yourself, then build" \
+    fail "this is neither Debian 12 or newer nor Ubuntu 24.04 or newer nor made from one of them: install them yourself, then build" \
       "with 'cmake --preset release' and 'cmake --build --preset release'."
   fi
   mapfile -t missing < <(missing_of "$@")
   if ((${#missing[@]} == 0)); then return 0; fi
-  if ((EUID != 0)) && ! command -v sudo >/dev/null; then
-    fail "these packages are missing and installing them takes root or sudo: ${missing[*]}"
-  fi
+  if ((EUID != 0)) && ! command -v sudo >/dev/null; then ask_to_install "${missing[@]}"; fi
   say "Installing: ${missing[*]}"
   as_root apt-get -q -o DPkg::Lock::Timeout=120 update </dev/null ||
     fail "'apt-get update' failed; still missing: ${missing[*]}"
