@@ -28,8 +28,9 @@ TEST(Instances, TheSecondOneOfAProfileSaysSoAndTouchesNothing) {
   ASSERT_TRUE(second.Start());
   EXPECT_TRUE(HasSaid(second, "another Veerwatch is running with this profile")) << second.Said();
   EXPECT_EQ(second.Said().find("ready"), std::string::npos);
-  EXPECT_NE(second.Said().find("(it holds the lock on " + (first.Folder() / "Veerwatch.ini.lock").string() + ")"),
-            std::string::npos)
+  EXPECT_NE(
+      second.Said().find("(it holds the lock on " + (first.Folder() / "Veerwatch.ini.lock").string() + ")"),
+      std::string::npos)
       << second.Said();
   EXPECT_TRUE(second.Runs()) << "its message waits to be read";
   second.Terminate();
