@@ -483,6 +483,11 @@ struct LoopCase {
   double Response;
 };
 
+void PrintTo(const LoopCase& loop, std::ostream* out) {
+  *out << (loop.Side == TrackSide::Apparent ? "apparent " : "true ") << loop.Desired << ", response "
+       << loop.Response;
+}
+
 class ClosedLoop : public TrackLoopTest, public testing::WithParamInterface<LoopCase> {};
 
 TEST_P(ClosedLoop, TheBoatComesToTheDesiredAngleAndStaysThereThroughAWindShift) {

@@ -79,6 +79,8 @@ struct Sleep {
   int Boot;    // [s], beyond the steady one
 };
 
+void PrintTo(const Sleep& sleep, std::ostream* out) { *out << sleep.Name; }
+
 class Sleeps : public Clocks, public testing::WithParamInterface<Sleep> {};
 
 TEST_P(Sleeps, GoesOnWithWhatIsNew) {

@@ -21,6 +21,8 @@ struct BoundCase {
   std::string_view AboveMost;
 };
 
+void PrintTo(const BoundCase& bound, std::ostream* out) { *out << bound.Name; }
+
 class FieldNumber : public testing::TestWithParam<BoundCase> {};
 
 TEST_P(FieldNumber, TakesBothEndsOfItsRange) {

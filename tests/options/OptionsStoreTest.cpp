@@ -129,6 +129,8 @@ struct Failing {
   int Stored;  ///< groups before it
 };
 
+void PrintTo(const Failing& failing, std::ostream* out) { *out << failing.Group; }
+
 class OptionsStoringFails : public OptionsStoring, public testing::WithParamInterface<Failing> {};
 
 TEST_P(OptionsStoringFails, BehindWhatWasStoredBefore) {

@@ -39,6 +39,10 @@ struct Choice {
   int Direction;
 };
 
+void PrintTo(const Choice& choice, std::ostream* out) {
+  *out << "wind " << choice.Wind << ", change " << choice.Change;
+}
+
 class ManoeuvreChoice : public testing::TestWithParam<Choice> {};
 
 TEST_P(ManoeuvreChoice, IsStrictAtItsBoundaries) {

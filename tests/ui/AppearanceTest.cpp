@@ -1,12 +1,12 @@
-// What the main window looks like, judged by its pixels. Each grab is kept as a picture in the folder that
-// the tests run in.
+// What the main window looks like, judged by its pixels. Each grab is kept as a picture beside
+// the test program.
 
 #include <QApplication>
 #include <QImage>
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 
+#include "tests/support/PictureQt.h"
 #include "tests/ui/DarkPalette.h"
 #include "tests/ui/MainWindowTester.h"
 
@@ -20,7 +20,7 @@ class Appearance : public MainWindowTester {
   QImage Grab(const std::string& name) const {
     QTest::qWait(0);
     const QImage image = Window->grab().toImage();
-    image.save(QStringLiteral("veerwatch-%1.png").arg(QString::fromStdString(name)));
+    KeepPicture(image, QStringLiteral("main-") + QString::fromStdString(name));
     return image;
   }
 
@@ -224,7 +224,8 @@ TEST_P(AppearanceInPalette, Modes) {
   Grab(shade + "-1600x500");
 }
 
-INSTANTIATE_TEST_SUITE_P(Shades, AppearanceInPalette, testing::Values("light", "dark"));
+INSTANTIATE_TEST_SUITE_P(Shades, AppearanceInPalette, testing::Values("light", "dark"),
+                         [](const auto& shade) { return std::string(shade.param); });
 
 }  // namespace
 }  // namespace veerwatch

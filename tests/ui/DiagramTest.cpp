@@ -4,6 +4,7 @@
 #include <QScreen>
 #include <QTabWidget>
 
+#include "tests/support/PictureQt.h"
 #include "tests/ui/DarkPalette.h"
 #include "tests/ui/MainWindowTester.h"
 
@@ -255,12 +256,12 @@ TEST_F(Diagram, LooksAsItShouldInBothPalettes) {
     Open();
     Find<QAction>("mnuHelpAbout").trigger();
     QWidget* diagram = TopLevel("frmDiagram");
-    diagram->grab().save(QStringLiteral("veerwatch-diagram-%1.png").arg(QLatin1String(shade)));
-    TopLevel("frmAbout")->grab().save(QStringLiteral("veerwatch-about-%1.png").arg(QLatin1String(shade)));
+    KeepPicture(diagram->grab().toImage(), QStringLiteral("diagram-%1").arg(QLatin1String(shade)));
+    KeepPicture(TopLevel("frmAbout")->grab().toImage(), QStringLiteral("about-%1").arg(QLatin1String(shade)));
     tmrNmea.Tick(4);
     Mode(5);
     diagram->resize(diagram->minimumSize());
-    diagram->grab().save(QStringLiteral("veerwatch-diagram-%1-small.png").arg(QLatin1String(shade)));
+    KeepPicture(diagram->grab().toImage(), QStringLiteral("diagram-%1-small").arg(QLatin1String(shade)));
     for (const QLabel* label : diagram->findChildren<QLabel*>()) {
       EXPECT_GE(label->width(), label->fontMetrics().horizontalAdvance(label->text()))
           << shade << " " << label->text().toStdString();

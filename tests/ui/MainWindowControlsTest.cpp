@@ -101,6 +101,10 @@ struct Answering {
   std::set<std::string> Enabled;
 };
 
+void PrintTo(const Answering& answering, std::ostream* out) {
+  *out << "mode " << answering.Mode << ", side " << answering.Side;
+}
+
 class MainWindowEnabling : public MainWindowTester, public testing::WithParamInterface<Answering> {};
 
 TEST_P(MainWindowEnabling, FollowsModeAndSide) {

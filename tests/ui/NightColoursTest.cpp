@@ -1,11 +1,12 @@
-// Red on black over every window, judged by the pixels. Each grab is kept as a picture in the folder that the
-// tests run in.
+// Red on black over every window, judged by the pixels. Each grab is kept as a picture beside the
+// test program.
 
 #include <QAction>
 #include <QApplication>
 #include <QImage>
 #include <QToolTip>
 
+#include "tests/support/PictureQt.h"
 #include "tests/ui/MainWindowTester.h"
 
 namespace veerwatch {
@@ -18,7 +19,7 @@ class NightColours : public MainWindowTester {
   static QImage Grab(QWidget& window, const char* name) {
     QTest::qWait(0);
     const QImage image = window.grab().toImage();
-    image.save(QStringLiteral("veerwatch-night-%1.png").arg(QLatin1String(name)));
+    KeepPicture(image, QStringLiteral("night-") + QLatin1String(name));
     return image;
   }
 

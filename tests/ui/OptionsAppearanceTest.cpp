@@ -1,23 +1,19 @@
-// What the options dialog looks like. Each grab is kept as a picture in the folder that the tests run in.
+// What the options dialog looks like, judged by its pixels. Each grab is kept as a picture beside the test
+// program.
 
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QComboBox>
 #include <QImage>
 #include <QScreen>
+#include <vector>
 
+#include "tests/support/PictureQt.h"
+#include "tests/ui/DarkPalette.h"
 #include "tests/ui/OptionsTester.h"
 
 namespace veerwatch {
 namespace {
-
-QPalette DarkPalette() {
-  QPalette palette(QColor(0x2a, 0x2d, 0x31), QColor(0x1b, 0x1e, 0x22));
-  palette.setColor(QPalette::Base, QColor(0x12, 0x14, 0x17));
-  palette.setColor(QPalette::WindowText, QColor(0xe6, 0xea, 0xee));
-  palette.setColor(QPalette::Text, QColor(0xe6, 0xea, 0xee));
-  palette.setColor(QPalette::ButtonText, QColor(0xe6, 0xea, 0xee));
-  return palette;
-}
 
 class OptionsAppearance : public OptionsTester {
  public:
@@ -27,8 +23,8 @@ class OptionsAppearance : public OptionsTester {
     QApplication::setFont(m_font);
   }
 
-  /// Shows every tab in turn and keeps a picture of it.
-  void GrabAll(const std::string& name) {
+  /// Shows the dialog with everything that can stand in it: a simulation, states, lines in both lists.
+  void StartFull() {
     Main.m_bSimulate = true;
     Main.m_fSimulateTime = 1.5F;
     Start(frmOptions::Input);
@@ -39,25 +35,12 @@ class OptionsAppearance : public OptionsTester {
       Window->NmeaData("$IIMWV,045.0,R,12." + std::to_string(i % 10) + ",N,A*2A", i % 4 != 0);
       Window->NmeaData("$GPRMC,120344,A,4807.038,N,01131.000,E,007.4,084.4,230394,003.1,W*6A", false);
     }
-    for (int tab = 0; tab < 6; ++tab) {
-      Window->TabSelect(tab);
-      QTest::qWait(20);
-      Window->grab().toImage().save(
-          QStringLiteral("veerwatch-options-%1-%2.png").arg(QString::fromStdString(name)).arg(tab));
-    }
   }
 
  private:
   QPalette m_palette = QApplication::palette();
   QFont m_font = QApplication::font();
 };
-
-TEST_F(OptionsAppearance, Light) { GrabAll("light"); }
-
-TEST_F(OptionsAppearance, Dark) {
-  QApplication::setPalette(DarkPalette());
-  GrabAll("dark");
-}
 
 /// What is wrong with the room that `control` has; "" for nothing.
 std::string Cut(const QWidget& window, const QWidget& control) {
@@ -81,28 +64,96 @@ std::string Cut(const QWidget& window, const QWidget& control) {
 
 class OptionsRoom : public OptionsAppearance {
  public:
-  void ExpectAllRoom() {
-    int seen = 0;
+  /// What shows a text on the present tab.
+  std::vector<const QWidget*> TextControls() const {
+    std::vector<const QWidget*> controls;
+    for (const QWidget* control : Window->findChildren<QWidget*>()) {
+      const bool text = qobject_cast<const QLabel*>(control) != nullptr ||
+                        (qobject_cast<const QAbstractButton*>(control) != nullptr &&
+                         control->objectName() != QLatin1String("ScrollLeftButton") &&
+                         control->objectName() != QLatin1String("ScrollRightButton")) ||
+                        qobject_cast<const QLineEdit*>(control) != nullptr ||
+                        qobject_cast<const QComboBox*>(control) != nullptr ||
+                        control->objectName().startsWith(QLatin1String("vsc"));
+      if (control->isVisible() && text) {
+        controls.push_back(control);
+      }
+    }
+    return controls;
+  }
+
+  void ExpectAllRoom() const {
+    std::size_t seen = 0;
     for (int tab = 0; tab < 6; ++tab) {
       Window->TabSelect(tab);
       QApplication::processEvents();
-      for (const QWidget* control : Window->findChildren<QWidget*>()) {
-        const bool text = qobject_cast<const QLabel*>(control) != nullptr ||
-                          (qobject_cast<const QAbstractButton*>(control) != nullptr &&
-                           control->objectName() != QLatin1String("ScrollLeftButton") &&
-                           control->objectName() != QLatin1String("ScrollRightButton")) ||
-                          qobject_cast<const QLineEdit*>(control) != nullptr ||
-                          qobject_cast<const QComboBox*>(control) != nullptr ||
-                          control->objectName().startsWith(QLatin1String("vsc"));
-        if (control->isVisible() && text) {
-          ++seen;
-          EXPECT_EQ(Cut(*Window, *control), "") << tab;
-        }
+      for (const QWidget* control : TextControls()) {
+        EXPECT_EQ(Cut(*Window, *control), "") << tab;
       }
+      seen += TextControls().size();
     }
-    EXPECT_GT(seen, 80);
+    EXPECT_GT(seen, 80U);
+  }
+
+  QRect Place(const QWidget& control) const {
+    return {control.mapTo(Window.get(), QPoint(0, 0)), control.size()};
   }
 };
+
+/// Whether the control shows a text at this moment that is to be read: no empty box, none that does not
+/// answer.
+bool Reads(const QWidget& control) {
+  const QVariant text =
+      control.property(qobject_cast<const QComboBox*>(&control) != nullptr ? "currentText" : "text");
+  return control.isEnabled() && !text.toString().isEmpty();
+}
+
+class OptionsInPalette : public OptionsRoom, public testing::WithParamInterface<const char*> {};
+
+TEST_P(OptionsInPalette, EveryTextIsWholeAndStandsOutFromItsGround) {
+  const std::string shade = GetParam();
+  QApplication::setPalette(shade == "dark" ? DarkPalette() : QApplication::palette());
+  StartFull();
+  const QPalette palette = QApplication::palette();
+  int read = 0;
+  int boxes = 0;
+  for (int tab = 0; tab < 6; ++tab) {
+    Window->TabSelect(tab);
+    QApplication::processEvents();
+    const QImage image = Window->grab().toImage();
+    KeepPicture(image, QStringLiteral("options-%1-%2").arg(QString::fromStdString(shade)).arg(tab));
+    EXPECT_EQ(image.pixelColor(2, 2), palette.color(QPalette::Window)) << tab;
+    for (const QWidget* control : TextControls()) {
+      const std::string name = control->objectName().toStdString() + " on tab " + std::to_string(tab);
+      const QImage part = PartOf(image, Place(*control));
+      if (Reads(*control)) {
+        ++read;
+        EXPECT_GE(InkContrast(part), 4.0) << name;
+      }
+      if (qobject_cast<const QLineEdit*>(control) != nullptr && control->isEnabled()) {
+        ++boxes;
+        EXPECT_EQ(GroundOf(part), palette.color(QPalette::Base)) << name;
+      }
+    }
+  }
+  EXPECT_GT(read, 70);
+  EXPECT_GT(boxes, 15);
+  ExpectAllRoom();
+}
+
+TEST_P(OptionsInPalette, TheLinesThatCameInStandOutFromTheList) {
+  const bool dark = std::string(GetParam()) == "dark";
+  QApplication::setPalette(dark ? DarkPalette() : QApplication::palette());
+  StartFull();
+  QApplication::processEvents();
+  const auto& list = Find<QAbstractScrollArea>("lstNmeaData");
+  const QImage image = list.viewport()->grab().toImage();
+  EXPECT_EQ(GroundOf(image), QApplication::palette().color(QPalette::Base));
+  EXPECT_GE(InkContrast(image), 4.0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Shades, OptionsInPalette, testing::Values("light", "dark"),
+                         [](const auto& shade) { return std::string(shade.param); });
 
 class OptionsInFont : public OptionsRoom, public testing::WithParamInterface<int> {};
 
@@ -120,7 +171,8 @@ TEST_P(OptionsInFont, NothingIsCutOff) {
   ExpectAllRoom();
 }
 
-INSTANTIATE_TEST_SUITE_P(Points, OptionsInFont, testing::Values(7, 9, 12, 16, 20, 26));
+INSTANTIATE_TEST_SUITE_P(Points, OptionsInFont, testing::Values(7, 9, 12, 16, 20, 26),
+                         testing::PrintToStringParamName());
 
 TEST_F(OptionsRoom, NothingIsCutOffInTheSmallestWindow) {
   Main.m_bSimulate = true;

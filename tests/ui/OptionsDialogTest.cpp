@@ -43,6 +43,8 @@ struct Marking {
   bool Marks;
 };
 
+void PrintTo(const Marking& marking, std::ostream* out) { *out << marking.Name; }
+
 class OptionsMarking : public OptionsTester, public testing::WithParamInterface<Marking> {};
 
 TEST_P(OptionsMarking, ABoxMarksWhileItHasTheKeyboard) {
@@ -212,6 +214,8 @@ struct Group {
   const char* Caption;
   int Stored;  ///< groups before it
 };
+
+void PrintTo(const Group& group, std::ostream* out) { *out << group.Name; }
 
 class OptionsGroups : public OptionsTester, public testing::WithParamInterface<Group> {};
 

@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "polar/LedgerPanelQt.h"
+#include "tests/support/PictureQt.h"
 #include "tests/support/WaitQt.h"
 #include "tests/ui/DarkPalette.h"
 #include "tests/ui/PolarWindowTester.h"
@@ -18,20 +19,6 @@ using testing::ElementsAre;
 
 constexpr QColor kGreen(128, 255, 128);
 constexpr QColor kRed(255, 128, 128);
-
-/// Relative luminance as the web's contrast rules have it.
-double Luminance(const QColor& colour) {
-  const auto part = [](double value) {
-    return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
-}
-
-double Contrast(const QColor& a, const QColor& b) {
-  const double lighter = std::max(Luminance(a), Luminance(b));
-  const double darker = std::min(Luminance(a), Luminance(b));
-  return (lighter + 0.05) / (darker + 0.05);
-}
 
 class PolarLedger : public PolarWindowTester {
  public:

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "polar/frmPolar.h"
+#include "tests/support/PictureQt.h"
 #include "tests/support/PolarText.h"
 #include "tests/support/QueuedDialogs.h"
 #include "tests/support/TemporaryFolder.h"
@@ -89,7 +90,7 @@ class PolarWindowTester : public testing::Test, public PolarListener {
   QImage Grab(const std::string& name) const {
     QApplication::processEvents();
     const QImage image = Window->grab().toImage();
-    image.save(QStringLiteral("veerwatch-polar-%1.png").arg(QString::fromStdString(name)));
+    KeepPicture(image, QStringLiteral("polar-") + QString::fromStdString(name));
     return image;
   }
   /// The plot alone.

@@ -1,8 +1,9 @@
-// What the manoeuvre dialog looks like. Each grab is kept as a picture in the folder that the tests run in.
+// What the manoeuvre dialog looks like. Each grab is kept as a picture beside the test program.
 
 #include <QApplication>
 #include <QImage>
 
+#include "tests/support/PictureQt.h"
 #include "tests/ui/DarkPalette.h"
 #include "tests/ui/TackTester.h"
 
@@ -15,8 +16,8 @@ class TackAppearance : public TackTester, public testing::WithParamInterface<con
 
   void Grab(const std::string& name) const {
     QTest::qWait(0);
-    Dialog()->grab().toImage().save(QStringLiteral("veerwatch-tack-%1-%2.png")
-                                        .arg(QLatin1String(GetParam()), QString::fromStdString(name)));
+    KeepPicture(Dialog()->grab().toImage(),
+                QStringLiteral("tack-%1-%2").arg(QLatin1String(GetParam()), QString::fromStdString(name)));
   }
 
  private:

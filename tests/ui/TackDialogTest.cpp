@@ -32,6 +32,8 @@ struct Texts {
   const char* Rate;
 };
 
+void PrintTo(const Texts& texts, std::ostream* out) { *out << texts.Word; }
+
 class TackDialogKind : public TackTester, public testing::WithParamInterface<Texts> {};
 
 TEST_P(TackDialogKind, ShowsItsTexts) {

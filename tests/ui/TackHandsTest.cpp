@@ -14,6 +14,8 @@ struct Hand {
   float Bearing;  ///< where the other hand leaves the pilot
 };
 
+void PrintTo(const Hand& hand, std::ostream* out) { *out << hand.Name; }
+
 class TackOtherHand : public TackTester, public testing::WithParamInterface<Hand> {};
 
 TEST_P(TackOtherHand, EndsTheTurnAtOnceAndLeavesTheBearingAlone) {

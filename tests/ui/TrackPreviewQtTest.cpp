@@ -1,5 +1,5 @@
-// The plot of the loop's response and the diagram of the loop as widgets. Each grab is kept as a picture in
-// the folder that the tests run in.
+// The plot of the loop's response and the diagram of the loop as widgets. Each grab is kept as a picture
+// beside the test program.
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -13,6 +13,7 @@
 #include "options/TrackPreviewQt.h"
 #include "platform/ColoursQt.h"
 #include "tests/support/FixedRandom.h"
+#include "tests/support/PictureQt.h"
 #include "tests/ui/DarkPalette.h"
 
 namespace veerwatch {
@@ -24,7 +25,8 @@ QPalette Shade(bool dark) { return dark ? DarkPalette() : QApplication::palette(
 
 QImage Grabbed(QWidget& widget, const char* name, bool dark) {
   const QImage image = widget.grab().toImage();
-  image.save(QStringLiteral("%1-%2.png").arg(QLatin1String(name), QLatin1String(dark ? "dark" : "light")));
+  KeepPicture(image,
+              QStringLiteral("%1-%2").arg(QLatin1String(name), QLatin1String(dark ? "dark" : "light")));
   return image;
 }
 

@@ -94,14 +94,22 @@ TEST_F(SerialPortQtTest, GivesNothingWhenNothingWaits) {
   EXPECT_EQ(text, "");
 }
 
+/// A clock that goes on while the program stands still.
+struct StandstillClock {
+  const char* Name;
+  void (*Step)(long long seconds);
+};
+
+void PrintTo(const StandstillClock& clock, std::ostream* out) { *out << clock.Name; }
+
 class SerialPortQtStandstill : public SerialPortQtTest,
-                               public testing::WithParamInterface<void (*)(long long)> {};
+                               public testing::WithParamInterface<StandstillClock> {};
 
 TEST_P(SerialPortQtStandstill, DropsWhatWaited) {
   ASSERT_TRUE(m_port.PortOpen(true));
   PassAMark();
   m_pty.Write("old");
-  GetParam()(3);
+  GetParam().Step(3);
   ASSERT_TRUE(Await([&] { return m_owner.Overslept > 0; }));
   QTest::qWait(400);
   EXPECT_EQ(m_owner.Text, "");
@@ -111,7 +119,9 @@ TEST_P(SerialPortQtStandstill, DropsWhatWaited) {
 }
 
 INSTANTIATE_TEST_SUITE_P(AwakeOrAsleep, SerialPortQtStandstill,
-                         testing::Values(&StepSteadyClock, &StepBootClock));
+                         testing::Values(StandstillClock{"Awake", &StepSteadyClock},
+                                         StandstillClock{"Asleep", &StepBootClock}),
+                         [](const auto& clock) { return std::string(clock.param.Name); });
 
 TEST_F(SerialPortQtTest, RaisesNothingFromInsideACall) {
   bool inside = false;

@@ -1,0 +1,18 @@
+# Fails when a line of ctest's list is longer than 120 characters or shows the bytes of an object, as GoogleTest prints
+# a parameter that it knows no text for. CTEST and BUILD come from the command line.
+execute_process(COMMAND ${CTEST} -N WORKING_DIRECTORY ${BUILD} OUTPUT_VARIABLE list RESULT_VARIABLE failed)
+if(failed)
+  message(FATAL_ERROR "ctest -N failed")
+endif()
+string(REPLACE ";" "," list "${list}")
+string(REPLACE "\n" ";" lines "${list}")
+set(bad "")
+foreach(line IN LISTS lines)
+  string(LENGTH "${line}" length)
+  if(line MATCHES "^ *Test +#" AND (length GREATER_EQUAL 120 OR line MATCHES "GetParam|-byte object|0x[0-9a-f]+"))
+    string(APPEND bad "${line}\n")
+  endif()
+endforeach()
+if(bad)
+  message(FATAL_ERROR "names that nobody can read:\n${bad}")
+endif()
