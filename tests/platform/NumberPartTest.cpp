@@ -1,0 +1,20 @@
+// Numbers that are a part of a longer text.
+
+#include <gtest/gtest.h>
+
+#include <string_view>
+
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+namespace {
+
+TEST(NumberPart, NothingBehindTheEndOfTheTextIsRead) {
+  const std::string_view longer = "1e123456789";
+  EXPECT_EQ(StrictNumber(longer.substr(0, 3)), 10.0F);
+  EXPECT_EQ(StrictDouble(longer.substr(0, 4)), 1e12);
+  EXPECT_EQ(StrictDouble(std::string_view("123456789012").substr(0, 10)), 1234567890.0);
+}
+
+}  // namespace
+}  // namespace veerwatch
