@@ -9,7 +9,8 @@
 #include <QImage>
 #include <QString>
 #include <algorithm>
-#include <cmath>
+
+#include "tests/ui/Contrast.h"
 
 namespace veerwatch {
 
@@ -18,20 +19,6 @@ inline void KeepPicture(const QImage& image, const QString& name) {
   const QDir folder(QCoreApplication::applicationDirPath() + QStringLiteral("/pictures"));
   folder.mkpath(QStringLiteral("."));
   image.save(folder.filePath(name + QStringLiteral(".png")));
-}
-
-/// Contrast ratio of two colours, 1 to 21. Source: WCAG 2, relative luminance.
-inline double Contrast(const QColor& a, const QColor& b) {
-  const auto luminance = [](const QColor& colour) {
-    const auto channel = [](double part) {
-      return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * channel(colour.redF()) + 0.7152 * channel(colour.greenF()) +
-           0.0722 * channel(colour.blueF());
-  };
-  const double one = luminance(a) + 0.05;
-  const double other = luminance(b) + 0.05;
-  return std::max(one, other) / std::min(one, other);
 }
 
 /// The part of a grab that `area` [px of the window] shows.
@@ -63,7 +50,7 @@ inline double InkContrast(const QImage& image) {
   double best = 1.0;
   for (int y = 0; y < image.height(); ++y) {
     for (int x = 0; x < image.width(); ++x) {
-      best = std::max(best, Contrast(image.pixelColor(x, y), ground));
+      best = std::max(best, ContrastRatio(image.pixelColor(x, y), ground));
     }
   }
   return best;

@@ -216,8 +216,8 @@ TEST_F(PolarLedger, SaysTheTurnInTheColourOfItsSide) {
       EXPECT_EQ(Label().text().toStdString(), caption);
       EXPECT_EQ(Steer().palette().color(QPalette::Button), back) << caption;
       EXPECT_EQ(Label().palette().color(QPalette::Window), back) << caption;
-      EXPECT_GT(Contrast(Steer().palette().color(QPalette::ButtonText), back), 7.0) << caption;
-      EXPECT_GT(Contrast(Label().palette().color(QPalette::WindowText), back), 7.0) << caption;
+      EXPECT_GT(ContrastRatio(Steer().palette().color(QPalette::ButtonText), back), 7.0) << caption;
+      EXPECT_GT(ContrastRatio(Label().palette().color(QPalette::WindowText), back), 7.0) << caption;
     };
     Moment moment;
     At(moment);
