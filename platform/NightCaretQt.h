@@ -1,5 +1,5 @@
-// The caret of entry boxes at night: red like the text. Qt draws it as the opposite of what is behind it, which
-// is white on black.
+// The caret of entry boxes at night: red like the text. Qt draws it as the opposite of what is behind it,
+// which is white on black.
 #pragma once
 
 #include <QObject>

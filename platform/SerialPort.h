@@ -51,6 +51,10 @@ class SerialPort {
   /// a closed one, changes nothing.
   virtual bool PortOpen(bool open) = 0;
 
+  /// Why the latest try to open has failed, in words for the user; "" where it has not, or where that is not
+  /// known.
+  virtual std::string OpenFailure() const { return {}; }
+
   /// Replaces `text` by every character that waits; "" when none does. Keeps the capacity of `text`.
   virtual void Input(std::string& text) = 0;
 

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "platform/LineErrorCountersLinux.h"
+#include "platform/PortFailure.h"
 #include "platform/PortNames.h"
 #include "platform/SystemClock.h"
 
@@ -31,13 +32,10 @@ constexpr int kLeaveTime = 250;                       // [ms], twice what a sent
 
 /// The device to open, free of links, so that two names of one device meet at the same lock; "" for anything
 /// that is no character device.
-QString DeviceFile(std::string device) {
+QString DeviceFile(const std::string& device) {
 #ifdef Q_OS_UNIX
-  if (device.find('/') == std::string::npos) {
-    device.insert(0, "/dev/");
-  }
   std::error_code error;
-  const std::filesystem::path file = std::filesystem::canonical(device, error);
+  const std::filesystem::path file = std::filesystem::canonical(DevicePath(device), error);
   if (error || !std::filesystem::is_character_file(file, error) || error) {
     return {};
   }
@@ -112,14 +110,15 @@ bool SerialPortQt::PortOpen(bool open) {
 }
 
 bool SerialPortQt::Open() {
-  const QString device = DeviceFile(PortDevice(m_profile, m_number));
-  if (device.isEmpty()) {
+  const std::string device = PortDevice(m_profile, m_number);
+  const QString file = DeviceFile(device);
+  m_port.clearError();
+  m_port.setPortName(file);
+  if (file.isEmpty() || !m_port.open(QIODevice::ReadWrite)) {
+    m_failure = WhyNotOpen(device);
     return false;
   }
-  m_port.setPortName(device);
-  if (!m_port.open(QIODevice::ReadWrite)) {
-    return false;
-  }
+  m_failure.clear();
   m_open = true;
   m_counters = m_makeCounters(m_port);
   m_lineErrors.Restart();
@@ -127,6 +126,16 @@ bool SerialPortQt::Open() {
   m_beat = SystemClock().Now().Steady;
   m_beatTimer.start();
   return true;
+}
+
+std::string SerialPortQt::WhyNotOpen(const std::string& device) const {
+  // Locked and busy devices come as no permission, too.
+  const bool denied = m_port.error() == QSerialPort::PermissionError;
+  std::string text = PortFailure(device, denied ? "" : m_port.errorString().toStdString());
+  if (m_profile.Text("Ports", std::to_string(m_number)).empty()) {
+    text += "; [Ports] in the profile names the device of port " + std::to_string(m_number);
+  }
+  return text;
 }
 
 void SerialPortQt::Close(int leaveTime) {

@@ -46,6 +46,7 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
   /// Closing drops what is unread and lets the sentence on its way leave whole, for at most a quarter of a
   /// second; on a stuck line the rest of it is dropped, also in the driver.
   bool PortOpen(bool open) override;
+  std::string OpenFailure() const override { return m_failure; }
 
   void Input(std::string& text) override;
   void Output(std::string_view sentence) override;
@@ -58,6 +59,7 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
   void Write(std::string_view sentence) override;
 
   bool Open();
+  std::string WhyNotOpen(const std::string& device) const;
   /// Gives the sentence on its way `leaveTime` [ms] to leave.
   void Close(int leaveTime);
   void ErrorOccurred(QSerialPort::SerialPortError error);
@@ -72,6 +74,7 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
   CountersMaker m_makeCounters;
   Events* m_events = nullptr;
   int m_number = 1;
+  std::string m_failure;
   bool m_open = false;
   int m_offering = 0;  ///< receive events that are being handled, one inside the other
   QSerialPort m_port;

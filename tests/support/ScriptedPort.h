@@ -31,6 +31,7 @@ class ScriptedPort final : public SerialPort {
   std::deque<bool> OpenResults;         ///< results of the next tries to open; then OpensOtherwise
   bool Stuck = false;                   ///< nothing leaves: each sentence waits
   bool OpensOtherwise = true;           ///< result of a try to open behind the scripted ones
+  std::string Failure;                  ///< why the port does not open
   const ScriptedPort* Other = nullptr;  ///< a port that, while open, holds its device against this one
   std::vector<int> LineErrorsWaiting;   ///< events that the next PollLineErrors raises
 
@@ -86,6 +87,7 @@ class ScriptedPort final : public SerialPort {
     m_open = open;
     return true;
   }
+  std::string OpenFailure() const override { return m_open ? "" : Failure; }
   void Input(std::string& text) override {
     ++Inputs;
     text.assign(Waiting);

@@ -271,11 +271,26 @@ TEST_F(SerialPortQtTest, DoesNotOpenWhatIsNoSerialDevice) {
   EXPECT_EQ(m_owner.Lost, 0);
 }
 
+TEST_F(SerialPortQtTest, SaysWhyItDoesNotOpenUntilItDoes) {
+  Name(2, "/dev/none-of-that-name");
+  m_port.CommPort(2);
+  EXPECT_FALSE(m_port.PortOpen(true));
+  EXPECT_EQ(m_port.OpenFailure(), "/dev/none-of-that-name: no such device");
+  m_port.CommPort(999);
+  EXPECT_FALSE(m_port.PortOpen(true));
+  EXPECT_EQ(m_port.OpenFailure(),
+            "/dev/ttyS998: no such device; [Ports] in the profile names the device of port 999");
+  m_port.CommPort(1);
+  EXPECT_TRUE(m_port.PortOpen(true));
+  EXPECT_EQ(m_port.OpenFailure(), "");
+}
+
 TEST_F(SerialPortQtTest, DoesNotOpenADeviceThatAnotherPortHolds) {
   SerialPortQt second(m_profile);
   second.CommPort(1);
   ASSERT_TRUE(m_port.PortOpen(true));
   EXPECT_FALSE(second.PortOpen(true));
+  EXPECT_EQ(second.OpenFailure(), m_pty.Device() + ": in use by this program's other port");
 
   const std::string link = FileName("link");
   std::filesystem::create_symlink(m_pty.Device(), link);
