@@ -1,14 +1,27 @@
 #include "cli/Replay.h"
 
 #include "cli/Trace.h"
+#include "cli/WindReport.h"
 
 namespace veerwatch {
 
-void Replay(const ReplayOptions& options, std::istream& log, std::ostream& out) {
+namespace {
+
+void Count(LogCounts& counts, const std::optional<std::string>& error) {
+  ++counts.Lines;
+  counts.NoSentence += error && error->starts_with("Sentence Error") ? 1 : 0;
+  counts.WrongChecksum += error && error->starts_with("Checksum Error") ? 1 : 0;
+}
+
+}  // namespace
+
+void Replay(const ReplayOptions& options, std::istream& log, std::ostream& out, std::ostream& notes) {
   Steering steering(options.Steer, false, 0);
   steering.Start();
   long setupSteps = options.SetupSteps;
   bool inMode = false;
+  bool steps = false;
+  LogCounts counts;
   LogReader reader(log, options.Ends);
   std::string line;
   while (out && reader.Next(line)) {
@@ -17,6 +30,8 @@ void Replay(const ReplayOptions& options, std::istream& log, std::ostream& out) 
       inMode = true;
     }
     steering.Line(line);
+    Count(counts, steering.Error());
+    steps = steps || steering.Delta();
     if (!inMode && steering.Delta()) {
       --setupSteps;
     }
@@ -29,6 +44,9 @@ void Replay(const ReplayOptions& options, std::istream& log, std::ostream& out) 
     if (log.rdbuf()->in_avail() <= 0) {
       out.flush();
     }
+  }
+  if (!steps) {
+    notes << "veerwatch-cli: " << NoWindText(counts, steering.Winds(), steering.Data()) << '\n';
   }
 }
 

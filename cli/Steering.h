@@ -44,6 +44,7 @@ class Steering final : private HelmView {
 
   const Settings& Set() const { return m_settings; }
   const InstrumentData& Data() const { return m_helm.Data(); }
+  const WindCounts& Winds() { return m_helm.Receiver().Sources().Winds(); }
   double TrackIntegral() const { return m_helm.Loop().TrackIntegral(); }
 
   // Of the latest line or tick.

@@ -230,7 +230,7 @@ class PreviewArguments {
 
 void RunReplay(const veerwatch::ReplayOptions& options, const std::optional<std::string>& file) {
   if (!file) {
-    veerwatch::Replay(options, std::cin, std::cout);
+    veerwatch::Replay(options, std::cin, std::cout, std::cerr);
     return;
   }
   std::ifstream log(*file, std::ios::binary);
@@ -238,7 +238,7 @@ void RunReplay(const veerwatch::ReplayOptions& options, const std::optional<std:
     throw veerwatch::CommandError("cannot read " + *file);
   }
   log.clear();
-  veerwatch::Replay(options, log, std::cout);
+  veerwatch::Replay(options, log, std::cout, std::cerr);
 }
 
 int Run(int argc, char** argv) {

@@ -17,11 +17,13 @@ Dispatcher::Outcome Dispatcher::Dispatch(std::string_view line) {
   Outcome outcome;
   const SentenceType type = SentenceTypeOf(line);
   if (!Enabled(type)) {
+    m_sources.SawSwitchedOff(type);
     return outcome;
   }
   VisitSentence(type, line, [&](const auto& sentence) {
     outcome.Incomplete = !sentence.Complete();
     outcome.Used = Use(sentence);
+    m_sources.Saw(sentence, m_record.Data().VariationValid);
   });
   outcome.WindSentence = type == SentenceType::Mwv;
   return outcome;

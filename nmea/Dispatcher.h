@@ -7,6 +7,7 @@
 #include "app/Settings.h"
 #include "instruments/InstrumentRecord.h"
 #include "nmea/Sentence.h"
+#include "nmea/SourceWatch.h"
 
 namespace veerwatch {
 
@@ -18,11 +19,16 @@ class Dispatcher {
     bool WindSentence = false;  ///< an enabled "MWV", used or not
   };
 
-  Dispatcher(const Settings& settings, InstrumentRecord& record) : m_settings(settings), m_record(record) {}
+  Dispatcher(const Settings& settings, InstrumentRecord& record)
+      : m_settings(settings), m_record(record), m_sources(settings) {}
 
   /// Routes one line whose frame is good. A disabled type or one that is not known changes nothing.
   /// Deliberate: what an incomplete sentence did hold is used.
   Outcome Dispatch(std::string_view line);
+
+  /// What has come, and what is missing.
+  SourceWatch& Sources() { return m_sources; }
+  const SourceWatch& Sources() const { return m_sources; }
 
  private:
   bool Enabled(SentenceType type) const;
@@ -40,6 +46,7 @@ class Dispatcher {
 
   const Settings& m_settings;
   InstrumentRecord& m_record;
+  SourceWatch m_sources;
 };
 
 }  // namespace veerwatch

@@ -1,5 +1,7 @@
 #include "nmea/NmeaReceiver.h"
 
+#include <utility>
+
 namespace veerwatch {
 
 namespace {
@@ -30,7 +32,10 @@ bool NmeaReceiver::NmeaStart() {
   m_timer.Enabled(true);
   m_listener.OnNmeaListCleared();
   m_record.Restart();
+  m_dispatcher.Sources().Restart();
+  Advise({});
   if (m_settings.m_bSimulate) {
+    Failure("");
     Status("Simulate");
     m_listener.OnInputState("Simulate");
     return true;
@@ -48,6 +53,8 @@ void NmeaReceiver::NmeaStop() {
   m_started = false;
   m_timer.Enabled(false);
   m_port.PortOpen(false);
+  Failure("");
+  Advise({});
   if (m_notOpenShown) {
     Status("");
   }
@@ -57,6 +64,7 @@ void NmeaReceiver::NmeaStop() {
 void NmeaReceiver::OpenPort() {
   m_port.CommPort(m_settings.m_iNmeaPort);
   const bool open = m_port.PortOpen(true);
+  Failure(open ? "" : m_port.OpenFailure());
   m_framer.Clear();
   if (!open && m_noDataCount < kSilentTicks) {
     Status("Input Port " + std::to_string(m_settings.m_iNmeaPort) + " Not Open");
@@ -66,11 +74,27 @@ void NmeaReceiver::OpenPort() {
   }
 }
 
+void NmeaReceiver::Failure(std::string reason) {
+  if (reason != m_failure) {
+    m_failure = std::move(reason);
+    m_listener.OnInputFailure(m_failure);
+  }
+}
+
+void NmeaReceiver::Advise(std::vector<std::string> lines) {
+  if (lines != m_advice) {
+    m_advice = std::move(lines);
+    m_listener.OnSourceAdvice(m_advice);
+  }
+}
+
 void NmeaReceiver::Tick() {
   if (!m_started || m_settings.m_bSimulate) {
     return;
   }
   ++m_ticks;
+  m_dispatcher.Sources().Tick();
+  Advise(m_dispatcher.Sources().Advice());
   m_port.PollLineErrors();
   ++m_noDataCount;
   if (m_noDataCount >= kSilentTicks) {

@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/Settings.h"
 #include "instruments/FollowUp.h"
@@ -24,6 +25,10 @@ class NmeaReceiver final : public SerialPort::Events {
     virtual void OnInputStatus(std::string_view /*text*/) {}
     /// State of the input: "Running", "Simulate", "Stopped", "No Input Data".
     virtual void OnInputState(std::string_view /*text*/) {}
+    /// Why the port is not open, as the system says; "" when it is, or while nothing is known.
+    virtual void OnInputFailure(std::string_view /*reason*/) {}
+    /// What the chosen sources do not bring while others would, a line each; none when all is well.
+    virtual void OnSourceAdvice(const std::vector<std::string>& /*lines*/) {}
     /// The input starts: the list of received sentences begins anew.
     virtual void OnNmeaListCleared() {}
     /// Each line, with a mark behind it when its frame is bad; `used` when it updated the record.
@@ -52,6 +57,9 @@ class NmeaReceiver final : public SerialPort::Events {
   /// True between NmeaStart and NmeaStop.
   bool Started() const { return m_started; }
 
+  /// What has come, and what is missing.
+  const SourceWatch& Sources() const { return m_dispatcher.Sources(); }
+
   /// Characters of the line that is not whole yet.
   std::string_view LineBuffer() const { return m_framer.LineBuffer(); }
 
@@ -65,6 +73,8 @@ class NmeaReceiver final : public SerialPort::Events {
   void BadLine(std::string_view line, std::string_view fault);
   void Status(std::string_view text);
   void OpenPort();
+  void Failure(std::string reason);
+  void Advise(std::vector<std::string> lines);
 
   const Settings& m_settings;
   SerialPort& m_port;
@@ -82,6 +92,8 @@ class NmeaReceiver final : public SerialPort::Events {
   bool m_noDataShown = false;
   bool m_notOpenShown = false;
   std::string m_status;
+  std::string m_failure;
+  std::vector<std::string> m_advice;
   std::string m_input;
   std::string m_text;
 };

@@ -19,7 +19,8 @@ std::vector<json> Trace(const std::string& log, ReplayOptions options = {}) {
   options.Steer.Trace = true;
   std::istringstream stream(log);
   std::ostringstream out;
-  Replay(options, stream, out);
+  std::ostringstream notes;
+  Replay(options, stream, out, notes);
   std::vector<json> objects;
   std::istringstream lines(out.str());
   for (std::string line; std::getline(lines, line);) {
@@ -84,7 +85,8 @@ TEST(Replay, SendsNothingInSetup) {
   options.Steer.Mode = TrackMode::Setup;
   std::istringstream stream(kSail);
   std::ostringstream out;
-  Replay(options, stream, out);
+  std::ostringstream notes;
+  Replay(options, stream, out, notes);
   EXPECT_EQ(out.str(), "");
 }
 
@@ -93,7 +95,8 @@ TEST(Replay, EndsSentencesByCarriageReturnAndLineFeed) {
   options.Steer.Mode = TrackMode::Manual;
   std::istringstream stream(kSail);
   std::ostringstream out;
-  Replay(options, stream, out);
+  std::ostringstream notes;
+  Replay(options, stream, out, notes);
   const std::string sentence = "$ECAPB,A,A,0.00,R,N,V,V,040.0,M,1,040.0,M,040.0,M*01\r\n";
   EXPECT_EQ(out.str(), sentence + sentence);
 }

@@ -1,0 +1,83 @@
+// Which sentences bring what, for who asks why a value stays blank: a source that was chosen and brings
+// nothing while another one would, and a wind in a unit that is not read. Fed by the dispatcher, ticked each
+// second by the receiver.
+#pragma once
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "app/Settings.h"
+#include "nmea/Sentence.h"
+
+namespace veerwatch {
+
+/// What became of the wind sentences, counted since the start.
+struct WindCounts {
+  long Used = 0;
+  long Incomplete = 0;   ///< an angle, a reference, a speed or a unit was missing
+  long OtherUnit = 0;    ///< in another unit than knots
+  long NotChosen = 0;    ///< true wind while it is computed
+  long SwitchedOff = 0;  ///< while MWV is not ticked
+
+  long All() const { return Used + Incomplete + OtherUnit + NotChosen + SwitchedOff; }
+};
+
+class SourceWatch {
+ public:
+  explicit SourceWatch(const Settings& settings) : m_settings(settings) { Restart(); }
+
+  /// The input starts anew: nothing has come yet.
+  void Restart();
+
+  /// A second has passed.
+  void Tick();
+
+  // Each takes a sentence as it was decoded. `variationKnown`: whether a true course can be made magnetic.
+
+  void Saw(const Hdg& hdg, bool variationKnown);
+  void Saw(const Hvm& /*hvm*/, bool /*variationKnown*/) {}
+  void Saw(const Mwv& mwv, bool variationKnown);
+  void Saw(const Rmb& /*rmb*/, bool /*variationKnown*/) {}
+  void Saw(const Rmc& rmc, bool variationKnown);
+  void Saw(const Vhw& vhw, bool variationKnown);
+  void Saw(const Vtg& vtg, bool variationKnown);
+  /// A sentence of a type that is not ticked.
+  void SawSwitchedOff(SentenceType type);
+
+  /// A line for each value that its chosen source does not bring, as "Heading: nothing from RMC or VTG; HDG
+  /// is there"; none in the first seconds.
+  std::vector<std::string> Advice() const;
+
+  const WindCounts& Winds() const { return m_winds; }
+
+ private:
+  enum Source {
+    kHeadingHdg,
+    kHeadingVhw,
+    kHeadingRmc,
+    kHeadingVtg,
+    kSpeedVhw,
+    kSpeedRmc,
+    kSpeedVtg,
+    kApparentWind,
+    kTrueWind,
+    kOtherUnit,
+    kSources
+  };
+  /// Sources with the names that they have in a text.
+  using Group = std::vector<std::pair<Source, const char*>>;
+
+  void Came(Source source, bool came) { m_age[source] = came ? 0 : m_age[source]; }
+  bool There(Source source) const;
+  /// What to say of a value, "" for nothing: none of `chosen` is there while some of `others` are.
+  std::string Missing(const char* value, const Group& chosen, const Group& others) const;
+
+  const Settings& m_settings;
+  std::array<int, kSources> m_age{};  ///< since it came last [s], at most kGone
+  int m_running = 0;                  ///< since the start [s]
+  std::string m_unit;                 ///< the one that is not read
+  WindCounts m_winds;
+};
+
+}  // namespace veerwatch
