@@ -15,8 +15,8 @@ struct ReplayOptions {
   LineEnds Ends = LineEnds::Any;
 };
 
-/// Writes the autopilot sentences with CR LF, or a trace. A log in which no wind could be used is told in one line
-/// on `notes`. Throws CommandError.
+/// Writes the autopilot sentences with CR LF, or a trace. A log in which no wind could be used is told in one
+/// line on `notes`. Throws CommandError.
 void Replay(const ReplayOptions& options, std::istream& log, std::ostream& out, std::ostream& notes);
 
 }  // namespace veerwatch

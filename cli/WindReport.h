@@ -14,8 +14,8 @@ struct LogCounts {
   long WrongChecksum = 0;  ///< damaged
 };
 
-/// One line with the reasons and how often each was met, as "no usable wind in 1200 lines: 300 MWV in another unit
-/// than knots". For a passage after which `record` has not both winds.
+/// One line with the reasons and how often each was met, as "no usable wind in 1200 lines: 300 MWV in another
+/// unit than knots". For a passage after which `record` has not both winds.
 std::string NoWindText(const LogCounts& lines, const WindCounts& winds, const InstrumentData& record);
 
 }  // namespace veerwatch
