@@ -147,7 +147,7 @@ TEST_F(OptionsLists, ShowHostileLinesWithoutHarm) {
   Window->NmeaData("", false);
   EXPECT_FALSE(Window->grab().isNull());
   const auto lines = Lines("lstNmeaData");
-  EXPECT_EQ(lines[0], "\u00b7\u00b7[2J\u00b7<b>\u00ff\u00fe\u00b7");
+  EXPECT_EQ(lines[0], "\u2400\u241b[2J\t<b>\u00ff\u00fe\u240a");
   EXPECT_EQ(lines.size(), 3U);
 }
 
