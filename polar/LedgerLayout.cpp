@@ -28,7 +28,60 @@ constexpr std::array<Cell, 9> kCells{
     {{0, 0}, {1, 0}, {2, 0}, {0, 1}, {1, 1}, {3, 0}, {3, 1}, {4, 0}, {4, 1}}};
 constexpr std::size_t kTime = 8;
 
+/// The widest of some texts, each 0 of which stands for any digit.
+class Widest {
+ public:
+  explicit Widest(const std::function<double(const std::string&)>& width) : m_width(width) {
+    for (char digit = '1'; digit <= '9'; ++digit) {
+      if (width(std::string(1, digit)) > width(std::string(1, m_digit))) {
+        m_digit = digit;
+      }
+    }
+  }
+  double Of(const std::vector<std::string>& patterns) const {
+    double widest = 0.0;
+    for (std::string text : patterns) {
+      std::replace(text.begin(), text.end(), '0', m_digit);
+      widest = std::max(widest, m_width(text));
+    }
+    return widest;
+  }
+
+ private:
+  const std::function<double(const std::string&)>& m_width;
+  char m_digit = '0';
+};
+
 }  // namespace
+
+LedgerTexts MeasureLedger(const LedgerContent& content, double height, bool rows,
+                          const std::function<double(const std::string&)>& width) {
+  const Widest widest(width);
+  LedgerTexts texts;
+  texts.Height = height;
+  texts.LegValue = widest.Of({"000 (000%)", "000 (00:00)"});
+  texts.Value = widest.Of({"000", "000.0", "00:00"});
+  texts.Number = widest.Of({"+000", "-000", "00.0"});
+  texts.Figures = content.Figures.size();
+  texts.Rows = rows;
+  for (std::size_t i = 0; i < content.Figures.size(); ++i) {
+    const LedgerFigure& figure = content.Figures[i];
+    const bool leg =
+        figure.Subject == LedgerSubject::StarboardTack || figure.Subject == LedgerSubject::PortTack;
+    const bool longTime = i == kTime && figure.Value.find(' ') != std::string::npos;
+    if (longTime) {
+      texts.LongValue = widest.Of({"00:00 (motor 00:00)"});
+    }
+    double& room = longTime ? texts.LongValue : leg ? texts.LegValue : texts.Value;
+    room = std::max(room, width(figure.Value));
+    texts.Caption = std::max(texts.Caption, width(figure.Heading));
+  }
+  for (const LedgerRow& row : content.Rows) {
+    texts.Label = std::max(texts.Label, width(row.Label));
+    texts.Number = std::max({texts.Number, width(row.Angle), width(row.Speed)});
+  }
+  return texts;
+}
 
 LedgerLayout LayLedger(const LedgerTexts& texts) {
   const double unit = texts.Height;

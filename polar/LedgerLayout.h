@@ -4,8 +4,11 @@
 
 #include <array>
 #include <cstddef>
+#include <functional>
+#include <string>
 #include <vector>
 
+#include "polar/CourseLedger.h"
 #include "polar/PolarGrid.h"
 
 namespace veerwatch {
@@ -21,7 +24,14 @@ struct LedgerTexts {
   double Number = 0.0;      ///< an angle or a speed of a row
   std::size_t Figures = 0;  ///< how many there are: 5, 7 or 9
   bool Rows = true;         ///< false leaves the rows out
+  bool operator==(const LedgerTexts&) const = default;
 };
+
+/// The widths for `content` in text of `height`, of which `width` says how wide a text is. A column has room
+/// for whatever usually comes to stand in it, so that the ledger keeps its size while the figures change, and
+/// for what stands in it now.
+LedgerTexts MeasureLedger(const LedgerContent& content, double height, bool rows,
+                          const std::function<double(const std::string&)>& width);
 
 struct LedgerFigurePlace {
   PlotBox Heading;

@@ -53,25 +53,10 @@ LedgerPanelQt::LedgerPanelQt(QWidget* parent)
 }
 
 LedgerTexts LedgerPanelQt::Measure(double height, bool rows) const {
-  const QFontMetricsF metrics(Letters(font(), height));
-  const auto width = [&metrics](const QString& text) { return std::ceil(metrics.horizontalAdvance(text)); };
-  LedgerTexts texts;
-  texts.Height = height;
-  texts.LegValue = width(QStringLiteral("360 (100%)"));
-  texts.Value = width(QStringLiteral("00:00"));
-  texts.Number = width(QStringLiteral("-000"));
-  texts.Figures = m_content.Figures.size();
-  texts.Rows = rows;
-  for (const LedgerFigure& figure : m_content.Figures) {
-    texts.Caption = std::max(texts.Caption, width(Text(figure.Heading)));
-  }
-  if (ShapeNow().LongTime) {
-    texts.LongValue = width(QStringLiteral("00:00 (motor 00:00)"));
-  }
-  for (const LedgerRow& row : m_content.Rows) {
-    texts.Label = std::max(texts.Label, width(Text(row.Label)));
-  }
-  return texts;
+  const QFontMetricsF metrics(Letters(font(), height), this);
+  return MeasureLedger(m_content, height, rows, [&metrics](const std::string& text) {
+    return std::ceil(metrics.horizontalAdvance(Text(text)));
+  });
 }
 
 void LedgerPanelQt::Show(const LedgerContent& content) {
@@ -82,21 +67,16 @@ void LedgerPanelQt::Show(const LedgerContent& content) {
   Fit();
 }
 
-LedgerPanelQt::Shape LedgerPanelQt::ShapeNow() const {
-  const auto& figures = m_content.Figures;
-  return {parentWidget()->size(), figures.size(),
-          !figures.empty() && figures.back().Value.find(' ') != std::string::npos, font()};
-}
-
 void LedgerPanelQt::Fit() {
-  if (m_shape == ShapeNow()) {
-    return;
-  }
-  m_shape = ShapeNow();
   const double width = parentWidget()->width();
   const double height = parentWidget()->height();
   const double text = LedgerTextHeight(width, height);
-  m_layout = LayLedger(Measure(text, true));
+  const Shape shape{parentWidget()->size(), font(), Measure(text, true)};
+  if (m_shape == shape) {
+    return;
+  }
+  m_shape = shape;
+  m_layout = LayLedger(shape.Texts);
   if (!LedgerFits(m_layout, width, height)) {
     m_layout = LayLedger(Measure(text, false));
   }

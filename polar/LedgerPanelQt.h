@@ -46,12 +46,10 @@ class LedgerPanelQt final : public QFrame {
   /// What the size depends on.
   struct Shape {
     QSize Parent;
-    std::size_t Figures = 0;
-    bool LongTime = false;
     QFont Letters;
+    LedgerTexts Texts;
     bool operator==(const Shape&) const = default;
   };
-  Shape ShapeNow() const;
   LedgerTexts Measure(double height, bool rows) const;
   /// Moves the upper left corner as near to `at` as the parent allows.
   void MoveTo(const PlotPoint& at);

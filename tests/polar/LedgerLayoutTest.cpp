@@ -59,6 +59,61 @@ TEST(LayLedger, GivesEveryTextItsRoomAndNoneThatOfAnother) {
   }
 }
 
+/// Widths of some font with digits that differ, in which a plus sign is wider than a minus sign.
+double WidthOf(const std::string& text) {
+  double width = 0.0;
+  for (const char c : text) {
+    width += c == '+' ? 9.0 : c == '-' ? 4.0 : c == '1' ? 4.0 : c == '4' ? 7.5 : c == ' ' ? 3.0 : 6.0;
+  }
+  return width;
+}
+
+/// A ledger with these texts in its columns.
+LedgerContent Filled(const std::string& leg, const std::string& value, const std::string& time,
+                     const std::string& angle, const std::string& speed) {
+  LedgerContent content;
+  content.Figures = {
+      {"Heading (M)", "359", LedgerSubject::Boat},    {"Stb (M)", leg, LedgerSubject::StarboardTack},
+      {"Prt (M)", leg, LedgerSubject::PortTack},      {"Target (M)", "359", LedgerSubject::Target},
+      {"Target (Kts)", value, LedgerSubject::Target}, {"Wpt (M)", "359", LedgerSubject::Target},
+      {"Wpt (Kts)", value, LedgerSubject::Target},    {"Wpt (Rng)", value, LedgerSubject::Target},
+      {"Wpt (h:m)", time, LedgerSubject::Target}};
+  for (LedgerRow& row : content.Rows) {
+    row = {"Target Starboard Tack (Heads Up)", angle, speed, LedgerSubject::Target};
+  }
+  return content;
+}
+
+TEST(MeasureLedger, HasRoomForTheWidestTextOfEachColumn) {
+  const LedgerTexts usual = MeasureLedger(Filled("0 (0%)", "0.0", "0:00", "0", "0.0"), 11.0, true, WidthOf);
+  for (const std::string& time : {std::string("44:44"), std::string("44:44 (motor 44:44)")}) {
+    for (const char* angle : {"+165", "+144", "-144", "--"}) {
+      const LedgerContent content = Filled("344 (44:44)", "444.4", time, angle, "44.4");
+      const LedgerTexts texts = MeasureLedger(content, 11.0, true, WidthOf);
+      EXPECT_EQ(texts.Number, usual.Number) << "the ledger keeps its size";
+      EXPECT_EQ(texts.LegValue, usual.LegValue);
+      EXPECT_EQ(texts.Value, usual.Value);
+      const LedgerLayout layout = LayLedger(texts);
+      for (std::size_t i = 0; i < layout.Figures.size(); ++i) {
+        EXPECT_GE(layout.Figures[i].Value.Width, WidthOf(content.Figures[i].Value) - kSlack) << i;
+        EXPECT_GE(layout.Figures[i].Heading.Width, WidthOf(content.Figures[i].Heading) - kSlack) << i;
+      }
+      for (const LedgerRowPlace& row : layout.Rows) {
+        EXPECT_GE(row.Label.Width, WidthOf("Target Starboard Tack (Heads Up)") - kSlack);
+        EXPECT_GE(row.Angle.Width, WidthOf(angle) - kSlack);
+        EXPECT_GE(row.Speed.Width, WidthOf("44.4") - kSlack);
+      }
+    }
+  }
+}
+
+TEST(MeasureLedger, GrowsWithATextThatIsWiderThanUsual) {
+  const LedgerContent content = Filled("0 (0%)", "99999.9", "0:00", "0", "1234.5");
+  const LedgerTexts texts = MeasureLedger(content, 11.0, true, WidthOf);
+  EXPECT_EQ(texts.Value, WidthOf("99999.9"));
+  EXPECT_EQ(texts.Number, WidthOf("1234.5"));
+}
+
 TEST(LedgerHome, IsAtTheLowerRightOrBetweenTheCornersOfTheLegend) {
   const PlotBox panel{0.0, 0.0, 300.0, 200.0};
   EXPECT_EQ(LedgerHome(panel, 1000.0, 700.0, false).X, 692.0);
