@@ -1,5 +1,6 @@
 #include "polar/PolarFile.h"
 
+#include <array>
 #include <sstream>
 #include <string_view>
 #include <utility>
@@ -39,7 +40,9 @@ const char* Beyond(std::string_view text) {
   return nullptr;
 }
 
-PolarLoadResult Failed(const std::string& reason) { return {false, "Polar File Error: " + reason}; }
+PolarLoadResult Failed(const std::string& reason, bool replaced = false) {
+  return {false, "Polar File Error: " + reason, replaced};
+}
 
 }  // namespace
 
@@ -61,13 +64,15 @@ CellEnd PolarReadCell(std::istream& file, std::string& text) {
 }
 
 PolarLoadResult PolarRead(PolarTable& table, int slot, float speedFactor, std::istream& file) {
+  std::array<float, PolarTable::kMostColumns + 1> winds{};
   std::string cell;
   int row = 0;
   int column = 0;
   do {
+    const bool replaced = row > 0;
     const CellEnd end = PolarReadCell(file, cell);
     if (end == CellEnd::EndOfFile && cell.empty() && column > 0) {
-      return {};
+      return {false, {}, replaced};
     }
     if (row == 0 && column == 0) {
       if (cell != kCorner) {
@@ -75,31 +80,35 @@ PolarLoadResult PolarRead(PolarTable& table, int slot, float speedFactor, std::i
       }
     } else {
       if (row > PolarTable::kMostRows || column > PolarTable::kMostColumns) {
-        return Failed(row > PolarTable::kMostRows ? kTooManyRows : kTooManyColumns);
+        return Failed(row > PolarTable::kMostRows ? kTooManyRows : kTooManyColumns, replaced);
       }
       const double number = static_cast<double>(LeadingNumber(cell));
       const bool speed = row > 0 && column > 0;
-      table.Value(slot, row, column) = ToSingle(speed ? number * static_cast<double>(speedFactor) : number);
+      float& value = replaced ? table.Value(slot, row, column) : winds[static_cast<std::size_t>(column)];
+      value = ToSingle(speed ? number * static_cast<double>(speedFactor) : number);
     }
     if (end == CellEnd::EndOfFile) {
-      return {};
+      return {false, {}, replaced};
     }
     if (end == CellEnd::Tab) {
       ++column;
       continue;
     }
-    if (row == 0) {
+    if (!replaced) {
+      for (int wind = 1; wind <= column; ++wind) {
+        table.Value(slot, 0, wind) = winds[static_cast<std::size_t>(wind)];
+      }
       table.PolarColumns(slot) = static_cast<std::int16_t>(column);
       table.PolarRows(slot) = 0;
     } else if (column != table.PolarColumns(slot)) {
-      return Failed("Number of Columns Mismatch");
+      return Failed("Number of Columns Mismatch", replaced);
     } else {
       table.PolarRows(slot) = static_cast<std::int16_t>(row);
     }
     ++row;
     column = 0;
   } while (column > 0 || file.rdbuf()->sgetc() != kEnd);
-  return {true, {}};
+  return {true, {}, true};
 }
 
 PolarLoadResult PolarLoad(PolarTable& table, int slot, float speedFactor, const std::filesystem::path& file) {

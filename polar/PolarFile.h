@@ -21,6 +21,9 @@ enum class CellEnd { Tab, LineFeed, EndOfFile };
 struct PolarLoadResult {
   bool Loaded = false;  ///< the end of the file was reached behind a line end
   std::string Error;    ///< the text for a message box; "" for none, also for a file without a last line end
+  /// The first line was whole: what the slot holds now is of this file, if only in part. False leaves all
+  /// that counts of the slot as it was.
+  bool Replaced = false;
 };
 
 /// Reads one cell, up to a tab, a line feed or the end of the file, which is not kept. Of a cell longer than
@@ -33,7 +36,7 @@ inline constexpr std::uintmax_t kLargestPolar = 1U << 20U;
 /// Reads `file` into a slot of the table, each boat speed times `speedFactor`. A file that is larger than
 /// kLargestPolar, has more rows or columns than a table, or is no regular file changes nothing. Rows and
 /// columns are counted as lines become whole, so a failed load leaves what was read so far, and a failed
-/// header the counts of before. Deliberate: the last line must end with a line feed; the values of one that
+/// header the polar of before. Deliberate: the last line must end with a line feed; the values of one that
 /// does not are stored but not counted, and the load is false without a text.
 PolarLoadResult PolarLoad(PolarTable& table, int slot, float speedFactor, const std::filesystem::path& file);
 

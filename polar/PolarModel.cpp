@@ -1,16 +1,23 @@
 #include "polar/PolarModel.h"
 
+#include <algorithm>
 #include <cmath>
 #include <system_error>
 
 #include "instruments/MathLib.h"
 #include "platform/NumberText.h"
+#include "platform/VisibleText.h"
 
 namespace veerwatch {
 
 namespace {
 
 constexpr float kPercent = 100.0F;
+
+/// 0.9 as "90%".
+std::string Percent(float share) {
+  return FormatNumber(ToSingle(static_cast<double>(share) * static_cast<double>(kPercent)), "0") + "%";
+}
 
 bool Exists(const std::filesystem::path& file) {
   std::error_code error;
@@ -44,10 +51,38 @@ std::filesystem::path PolarModel::FilePath(int slot) const {
   return m_folders.Program / name;
 }
 
-PolarLoadResult PolarModel::Load(int slot) {
+PolarHeld PolarModel::HeldOrWanted(int slot) const {
+  const auto index = static_cast<std::size_t>(slot);
+  return m_held[index].value_or(PolarHeld{m_settings.File[index], m_settings.SpeedFactor});
+}
+
+PolarLoadResult PolarModel::Load(int slot) { return LoadElse(slot, HeldOrWanted(slot)); }
+
+PolarLoadResult PolarModel::LoadElse(int slot, const PolarHeld& before) {
+  const auto index = static_cast<std::size_t>(slot);
   PolarLoadResult result = PolarLoad(m_table, slot, m_settings.SpeedFactor, FilePath(slot));
+  if (result.Replaced) {
+    m_held[index] = {m_settings.File[index], m_settings.SpeedFactor, result.Loaded};
+  } else {
+    m_settings.File[index] = before.File;
+    if (slot == kMain) {
+      m_settings.SpeedFactor = before.Factor;
+    }
+  }
   TableChanged();
   return result;
+}
+
+std::string PolarModel::Name(int slot) const {
+  const auto& held = Held(slot);
+  if (!held) {
+    return "No polar";
+  }
+  std::string name = VisibleText(std::filesystem::path(held->File).stem().string());
+  if (held->Factor != 1.0F) {
+    name.append(" ").append(Percent(held->Factor));
+  }
+  return held->Whole ? name : name + " (incomplete)";
 }
 
 void PolarModel::TableChanged() {
@@ -62,11 +97,12 @@ void PolarModel::LookUp() {
 }
 
 PolarLoadResult PolarModel::Open(int slot, const std::string& file) {
+  const PolarHeld before = HeldOrWanted(slot);
   if (slot == kMain) {
     m_settings.SpeedFactor = 1.0F;
   }
   m_settings.File[static_cast<std::size_t>(slot)] = file;
-  PolarLoadResult result = Load(slot);
+  PolarLoadResult result = LoadElse(slot, before);
   if (result.Loaded) {
     m_shown = slot == kReference ? 2 : 1;
   }
@@ -80,6 +116,7 @@ std::optional<std::string> PolarModel::SaveAs(const std::string& file) {
   auto failure = PolarSave(m_table, kMain, file);
   if (!failure) {
     m_settings.File[kMain] = file;
+    m_held[kMain] = {file, m_settings.SpeedFactor};
   }
   return failure;
 }
@@ -141,10 +178,7 @@ bool PolarModel::TakeMotorSpeed(const std::string& text) {
 }
 
 std::string PolarModel::ScalingCaption() const {
-  return "Set Scaling (" +
-         FormatNumber(ToSingle(static_cast<double>(m_settings.SpeedFactor) * static_cast<double>(kPercent)),
-                      "0") +
-         "%)...";
+  return "Set Scaling (" + Percent(m_settings.SpeedFactor) + ")...";
 }
 
 std::string PolarModel::TargetBearingCaption() const {

@@ -2,6 +2,7 @@
 // texts of its menus and of its legend. frmPolar shows it.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <filesystem>
 #include <optional>
@@ -35,6 +36,13 @@ struct PolarReadout {
   std::string WindAngleValue;
 };
 
+/// What a slot of the table holds.
+struct PolarHeld {
+  std::string File;     ///< as the settings name it
+  float Factor = 1.0F;  ///< by which its speeds were multiplied
+  bool Whole = true;    ///< false for the beginning of a file that went wrong further on
+};
+
 /// The cell under the mouse.
 struct PolarMouse {
   std::string Text;        ///< angle, wind speed and boat speed, a line each
@@ -66,11 +74,18 @@ class PolarModel {
   /// Where the file of a slot is: the name itself when it is whole; else in the program's folder, in that of
   /// the polar opened last, in the shared one, whichever has it first; else in the program's.
   std::filesystem::path FilePath(int slot) const;
+  /// Reads the file of a slot with the present factor. One that does not even begin as a polar leaves the
+  /// slot, and with it the names and the factor in the settings, as they were with the polar that it holds.
   PolarLoadResult Load(int slot);
+  /// What a slot holds; nothing before anything was loaded.
+  const std::optional<PolarHeld>& Held(int slot) const { return m_held[static_cast<std::size_t>(slot)]; }
+  /// What a slot holds as the plot names it, as "Fast Sled 60ft 90%".
+  std::string Name(int slot) const;
   /// Takes `file` into a slot. The own polar starts with the speed factor 1 and, once loaded, hides the
   /// reference; a reference that is loaded is shown.
   PolarLoadResult Open(int slot, const std::string& file);
-  /// Writes the own polar to `file`, which then is its file. Nothing when done, else what went wrong.
+  /// Writes the own polar to `file`, which then is its file; the factor stays. Nothing when done, else what
+  /// went wrong.
   std::optional<std::string> SaveAs(const std::string& file);
 
   // Choices
@@ -128,6 +143,10 @@ class PolarModel {
   std::optional<PolarMouse> Nearest(double x, double y, const PolarGeometry& geometry) const;
 
  private:
+  /// Loads a slot; where that leaves it as it was, the settings say `before` again.
+  PolarLoadResult LoadElse(int slot, const PolarHeld& before);
+  /// What a slot holds, or what the settings want in it.
+  PolarHeld HeldOrWanted(int slot) const;
   /// What was found in the table or made of it counts no more.
   void TableChanged();
   void LookUp();
@@ -136,6 +155,7 @@ class PolarModel {
   std::filesystem::path m_lastFolder;
   PolarSettings m_settings;
   PolarTable m_table;
+  std::array<std::optional<PolarHeld>, 2> m_held;
   PolarAverages m_averages;
   PolarValues m_present;
   int m_shown = 1;

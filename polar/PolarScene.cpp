@@ -1,11 +1,7 @@
 #include "polar/PolarScene.h"
 
 #include <algorithm>
-#include <filesystem>
-
-#include "instruments/MathLib.h"
-#include "platform/NumberText.h"
-#include "platform/VisibleText.h"
+#include <utility>
 
 namespace veerwatch {
 
@@ -19,23 +15,15 @@ constexpr float kChangeSides = 5.0F;
 
 }  // namespace
 
-std::string PolarScene::NameOf(int slot) const {
-  const auto& settings = m_model.Settings();
-  std::string name =
-      VisibleText(std::filesystem::path(settings.File[static_cast<std::size_t>(slot)]).stem().string());
-  if (settings.SpeedFactor != 1.0F) {
-    name.append(" ")
-        .append(FormatNumber(ToSingle(static_cast<double>(settings.SpeedFactor) * 100.0), "0"))
-        .append("%");
-  }
-  return name;
-}
-
 const PolarStill& PolarScene::Still(int width, int height, const PlotRoom& taken) {
   const auto& settings = m_model.Settings();
   const float wind = m_model.WindAngle();
   if (m_model.Received() && (m_speedsToPort ? wind < -kChangeSides : wind > kChangeSides)) {
     m_speedsToPort = !m_speedsToPort;
+  }
+  std::vector<std::string> names{m_model.Name(PolarModel::kMain)};
+  if (m_model.PolarsShown() == 2) {
+    names.push_back(m_model.Name(PolarModel::kReference));
   }
   const Key key{width,
                 height,
@@ -45,9 +33,8 @@ const PolarStill& PolarScene::Still(int width, int height, const PlotRoom& taken
                 settings.PlotLabelWindSpeed,
                 m_speedsToPort,
                 settings.SpeedRange,
-                settings.SpeedFactor,
                 settings.SpeedColor,
-                settings.File[0] + "\n" + settings.File[1]};
+                names};
   if (key == m_key) {
     return m_still;
   }
@@ -59,10 +46,9 @@ const PolarStill& PolarScene::Still(int width, int height, const PlotRoom& taken
   still.TextHeight =
       std::clamp(static_cast<double>(std::min(width, height)) * kTextShare, kLeastText, kMostText);
   still.Main = PolarCurves(m_model.Table(), PolarModel::kMain, still.Geometry);
-  still.Keys.push_back(NameOf(PolarModel::kMain));
+  still.Keys = std::move(names);
   if (m_model.PolarsShown() == 2) {
     still.Reference = PolarCurves(m_model.Table(), PolarModel::kReference, still.Geometry);
-    still.Keys.push_back(NameOf(PolarModel::kReference));
   }
   still.Grid = MakeGrid(still.Geometry,
                         {static_cast<double>(settings.SpeedRange), still.TextHeight,

@@ -65,13 +65,10 @@ class PolarScene {
     bool WindLabels = false;
     bool SpeedsToPort = true;
     float Range = 0.0F;
-    float Factor = 0.0F;
     std::uint32_t Color = 0;
-    std::string Files;
+    std::vector<std::string> Names;
     bool operator==(const Key&) const = default;
   };
-
-  std::string NameOf(int slot) const;
 
   const PolarModel& m_model;
   Key m_key;

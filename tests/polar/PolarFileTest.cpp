@@ -99,6 +99,38 @@ TEST(PolarLoad, KeepsTheCountsOfBeforeWhenTheHeaderFails) {
   EXPECT_EQ(table.PolarSpeed(0, 80.0F, 20.0F), 11.0F);
 }
 
+std::string Table(int rows, int columns) {
+  std::ostringstream text;
+  text << "TWA";
+  for (int column = 1; column <= columns; ++column) {
+    text << '\t' << column;
+  }
+  for (int row = 1; row <= rows; ++row) {
+    text << '\n' << row;
+    for (int column = 1; column <= columns; ++column) {
+      text << '\t' << 5;
+    }
+  }
+  return text.str() + "\n";
+}
+
+TEST(PolarLoad, LeavesThePolarOfBeforeWholeWhenTheHeaderIsNot) {
+  for (const std::string& text : {std::string("TWA\t1\t2"), Table(3, 51), std::string("no polar\n")}) {
+    PolarTable table = TableOf(kSmallPolar);
+    EXPECT_FALSE(ReadText(table, text).Replaced);
+    EXPECT_EQ(table.Value(0, 0, 1), 6.0F) << "a wind speed";
+    EXPECT_EQ(table.PolarSpeed(0, 80.0F, 20.0F), 11.0F);
+  }
+}
+
+TEST(PolarLoad, SaysWhetherTheSlotIsOfThatFile) {
+  PolarTable table;
+  EXPECT_TRUE(ReadText(table, kSmallPolar).Replaced);
+  EXPECT_TRUE(ReadText(table, "TWA\t6\n30\t4\n40\t4\t5\n").Replaced) << "in part";
+  EXPECT_TRUE(ReadText(table, "TWA\t6\n30\t4").Replaced);
+  EXPECT_FALSE(PolarLoad(table, 0, 1.0F, "/nowhere/at/all.pol").Replaced);
+}
+
 TEST(PolarLoad, TakesOddNumbersForWhatTheyBeginWith) {
   const PolarTable table =
       TableOf("TWA\t1\t2\t3\t4\t5\n30\tnan\t1e40\t-2.5\tx\t1.2.3\n60\tinf\t\t+4\t.5\t7,5\n");
@@ -121,21 +153,6 @@ TEST(PolarLoad, NeverStoresWhatIsNotFinite) {
                   .Loaded);
   EXPECT_TRUE(std::isfinite(table.Value(0, 1, 1)));
   EXPECT_TRUE(std::isfinite(table.Value(0, 2, 1)));
-}
-
-std::string Table(int rows, int columns) {
-  std::ostringstream text;
-  text << "TWA";
-  for (int column = 1; column <= columns; ++column) {
-    text << '\t' << column;
-  }
-  for (int row = 1; row <= rows; ++row) {
-    text << '\n' << row;
-    for (int column = 1; column <= columns; ++column) {
-      text << '\t' << 5;
-    }
-  }
-  return text.str() + "\n";
 }
 
 TEST(PolarLoad, TakesTheLargestTable) {

@@ -144,7 +144,56 @@ TEST_F(PolarConvertTest, TellsInTheQuestionWhatIsLeftOut) {
 TEST_F(PolarModelTest, ShowsNoReferenceThatFailedToLoad) {
   EXPECT_FALSE(Model.Open(PolarModel::kReference, (Program / "missing.pol").string()).Loaded);
   EXPECT_EQ(Model.PolarsShown(), 1);
-  EXPECT_EQ(Model.Settings().File[1], (Program / "missing.pol").string());
+  EXPECT_EQ(Model.Settings().File[1], kDefaultPolar) << "nor is it the reference of the profile";
+  WriteFile(Program / "r.pol", "TWA\t10\n60\t6\n120\t7\n");
+  EXPECT_TRUE(Model.Open(PolarModel::kReference, (Program / "r.pol").string()).Loaded);
+  EXPECT_FALSE(Model.Open(PolarModel::kReference, (Program / "missing.pol").string()).Loaded);
+  EXPECT_EQ(Model.PolarsShown(), 2) << "the one of before is still drawn";
+  EXPECT_EQ(Model.Settings().File[1], (Program / "r.pol").string());
+  EXPECT_EQ(Model.Name(PolarModel::kReference), "r");
+}
+
+TEST_F(PolarModelTest, GoesOnNamingThePolarThatItHoldsWhenAnotherDoesNotLoad) {
+  WriteFile(Program / "bad.pol", "speeds\t6\n30\t4\n");
+  Model.TakeFactor("0.9");
+  ASSERT_TRUE(Model.Load(PolarModel::kMain).Loaded);
+  for (const char* name : {"missing.pol", "bad.pol"}) {
+    EXPECT_FALSE(Model.Open(PolarModel::kMain, (Program / name).string()).Loaded);
+    EXPECT_EQ(Model.Settings().File[0], kDefaultPolar) << name;
+    EXPECT_EQ(Model.Settings().SpeedFactor, 0.9F) << "by which the speeds still are multiplied";
+    EXPECT_FLOAT_EQ(Model.Table().Value(0, 1, 1), 3.6F);
+    EXPECT_EQ(Model.Name(PolarModel::kMain), "Fast Sled 60ft 90%");
+  }
+}
+
+TEST_F(PolarModelTest, NamesTheBeginningOfAPolarForWhatItIs) {
+  WriteFile(Program / "cut.pol", "TWA\t6\n30\t4\n60\t5\t6\n");
+  EXPECT_FALSE(Model.Open(PolarModel::kMain, (Program / "cut.pol").string()).Loaded);
+  EXPECT_EQ(Model.Table().PolarRows(0), 1);
+  EXPECT_EQ(Model.Name(PolarModel::kMain), "cut (incomplete)");
+  EXPECT_EQ(Model.Settings().File[0], (Program / "cut.pol").string()) << "what is drawn is of that file";
+}
+
+TEST_F(PolarModelTest, KeepsTheFileOfTheProfileWhenItIsNotThereAtTheStart) {
+  Profile profile;
+  profile.ProfileSet("Polar Data", "File 1", "/stick/own.pol");
+  profile.ProfileSet("Polar Data", "Speed Factor", 0.9F);
+  PolarModel model({Program.Path(), {}});
+  model.Reset(&profile);
+  EXPECT_FALSE(model.Load(PolarModel::kMain).Loaded);
+  EXPECT_EQ(model.Name(PolarModel::kMain), "No polar");
+  EXPECT_FALSE(model.Open(PolarModel::kMain, (Program / "missing.pol").string()).Loaded);
+  EXPECT_EQ(model.Settings().File[0], "/stick/own.pol") << "the stick may be back at the next start";
+  EXPECT_EQ(model.Settings().SpeedFactor, 0.9F);
+}
+
+TEST_F(PolarModelTest, KeepsTheFactorWhenTheFileIsGone) {
+  std::filesystem::remove(Program / kDefaultPolar);
+  Dialogs.Texts = {"0.8"};
+  AskScaling(Model, Dialogs);
+  EXPECT_EQ(Dialogs.Messages.size(), 1U);
+  EXPECT_EQ(Model.Settings().SpeedFactor, 1.0F);
+  EXPECT_EQ(Model.Table().Value(0, 1, 1), 4.0F);
 }
 
 TEST_F(PolarModelTest, TurnsTheCourseOffWhenItIsChosenAgain) {
@@ -451,6 +500,7 @@ TEST_F(PolarModelTest, NamesThePolarsWithTheirScaling) {
   PolarScene scene(Model);
   EXPECT_EQ(scene.Still(900, 500).Keys, std::vector<std::string>{"Fast Sled 60ft"});
   Model.TakeFactor("0.9");
+  ASSERT_TRUE(Model.Load(PolarModel::kMain).Loaded);
   ASSERT_TRUE(Model.Open(PolarModel::kReference, (Program / kDefaultPolar).string()).Loaded);
   EXPECT_EQ(scene.Still(900, 500).Keys,
             (std::vector<std::string>{"Fast Sled 60ft 90%", "Fast Sled 60ft 90%"}));
