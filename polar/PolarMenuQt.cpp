@@ -40,10 +40,14 @@ PolarMenuQt::PolarMenuQt(QMainWindow& window) {
   mnuPlotLabelWindSpeed = Ticked(Item(wind, "mnuPlotLabelWindSpeed", "Show Wind Speed Label"));
 
   QMenu* range = Menu(window, "mnuRange", "Range");
-  mnuRange = {{{6.0F, Ticked(Item(range, "mnuRange6", "  6 Kts"))},
-               {8.0F, Ticked(Item(range, "mnuRange8", "  8 Kts"))},
-               {10.0F, Ticked(Item(range, "mnuRange10", "10 Kts"))},
-               {12.0F, Ticked(Item(range, "mnuRange12", "12 Kts"))}}};
+  for (std::size_t i = 0; i < kMenuRanges.size(); ++i) {
+    const QString knots = QString::number(static_cast<int>(kMenuRanges[i]));
+    // Two blanks are as wide as a digit.
+    const QString text =
+        (knots.size() < 2 ? QStringLiteral("  ") : QString()) + knots + QStringLiteral(" Kts");
+    mnuRange[i] = {kMenuRanges[i], Ticked(Item(range, QStringLiteral("mnuRange") + knots, text.toLatin1()))};
+  }
+  mnuRangeFit = Item(range, "mnuRangeFit", "Fit");
   Separator(range, "mnuSeparator3");
   mnuRangeCustom = Ticked(Item(range, "mnuRangeCustom", "Other..."));
 

@@ -22,7 +22,8 @@ struct PolarMenuQt {
   QAction* mnuWindApparent;
   QAction* mnuWindTrue;
   QAction* mnuPlotLabelWindSpeed;
-  std::array<std::pair<float, QAction*>, 4> mnuRange;  ///< by range [kn]
+  std::array<std::pair<float, QAction*>, kMenuRanges.size()> mnuRange;  ///< by range [kn]
+  QAction* mnuRangeFit;
   QAction* mnuRangeCustom;
   QAction* mnuOverlayFile1;
   QAction* mnuSaveAs;

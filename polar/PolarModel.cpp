@@ -19,6 +19,17 @@ std::string Percent(float share) {
   return FormatNumber(ToSingle(static_cast<double>(share) * static_cast<double>(kPercent)), "0") + "%";
 }
 
+/// The highest boat speed in a slot [kn]; 0 for an empty one.
+float Fastest(const PolarTable& table, int slot) {
+  float fastest = 0.0F;
+  for (int row = 1; row <= table.PolarRows(slot); ++row) {
+    for (int column = 1; column <= table.PolarColumns(slot); ++column) {
+      fastest = std::max(fastest, table.Value(slot, row, column));
+    }
+  }
+  return fastest;
+}
+
 bool Exists(const std::filesystem::path& file) {
   std::error_code error;
   return std::filesystem::exists(file, error);
@@ -139,6 +150,25 @@ void PolarModel::ChooseCourse(CourseSource source) {
   const bool again = m_settings.CourseWaypoint && m_settings.CourseWaypointIndex == source;
   m_settings.CourseWaypoint = !again;
   m_settings.CourseWaypointIndex = source;
+}
+
+void PolarModel::RangeFit() {
+  const float fastest = std::max(Fastest(m_table, kMain), m_shown == 2 ? Fastest(m_table, kReference) : 0.0F);
+  if (!(fastest > 0.0F)) {
+    return;
+  }
+  for (const float range : kMenuRanges) {
+    if (fastest <= range) {
+      Range(range);
+      return;
+    }
+  }
+  constexpr double kFine = 5.0;
+  constexpr double kCoarse = 10.0;
+  constexpr double kMostFine = 30.0;
+  const auto speed = static_cast<double>(fastest);
+  const double step = speed > kMostFine ? kCoarse : kFine;
+  Range(ToSingle(std::ceil(speed / step) * step));
 }
 
 bool PolarModel::TakeRange(const std::string& text) {

@@ -49,6 +49,9 @@ struct PolarMouse {
   bool Reference = false;  ///< of the reference polar
 };
 
+/// The ranges of the plot that the menu offers [kn].
+inline constexpr std::array<float, 4> kMenuRanges{6.0F, 8.0F, 10.0F, 12.0F};
+
 class PolarModel {
  public:
   static constexpr int kMain = 0;       ///< slot of the boat's own polar
@@ -94,6 +97,11 @@ class PolarModel {
   void ToggleWindSpeedLabel();
   void ToggleSmoothWinds();
   void Range(float range) { m_settings.SpeedRange = range; }
+  /// Takes the smallest range of the menu that shows every curve that is drawn. Where the largest is too
+  /// small the next multiple of 5 kn, above 30 kn of 10 kn, so that the rings stay round. No curve leaves the
+  /// range.
+  void RangeFit();
+  void Factor(float factor) { m_settings.SpeedFactor = factor; }  ///< the own polar has to be loaded anew
   void Color(std::uint32_t color) { m_settings.SpeedColor = color; }
   void Average(float seconds) { m_settings.PlotAverage = seconds; }
   /// Makes `source` the course, or, when it is the course already, leaves no course.

@@ -2,6 +2,7 @@
 
 #include <system_error>
 
+#include "instruments/MathLib.h"
 #include "platform/NumberText.h"
 #include "platform/VisibleText.h"
 #include "platform/WholeFile.h"
@@ -12,6 +13,8 @@ namespace veerwatch {
 namespace {
 
 constexpr const char* kTitle = "Veerwatch - Polar";
+constexpr const char* kScaling = "AutoPilot - Polar Plot - Speed Factor";
+constexpr const char* kSaveAs = "AutoPilot - Save As";
 
 void Tell(const PolarLoadResult& result, Dialogs& asks) {
   if (!result.Error.empty()) {
@@ -26,6 +29,37 @@ bool AskNumber(PolarModel& model, Dialogs& asks, const char* title, const char* 
   return answer && !answer->empty() && (model.*take)(*answer);
 }
 
+/// A factor as it is read out: with two decimals, or with as many as it has.
+std::string FactorText(float factor) {
+  const std::string text = FormatNumber(factor, "0.00");
+  return StrictNumber(text) == factor ? text : ShortestText(factor);
+}
+
+/// The factor of an answer, or, when it was asked and agreed, the one that was meant: nobody's boat is more
+/// than three times as fast as her polar, but many a factor is thought of in percent.
+std::string FactorMeant(const std::string& answer, Dialogs& asks) {
+  constexpr float kMostLikely = 3.0F;
+  constexpr double kPercent = 100.0;
+  const auto factor = StrictNumber(answer);
+  if (!factor || !(*factor > kMostLikely)) {
+    return answer;
+  }
+  const std::string likely = FactorText(ToSingle(static_cast<double>(*factor) / kPercent));
+  return asks.WarnYesNo(kScaling, "Did you mean " + likely + "?") ? likely : answer;
+}
+
+/// After a save of a scaled polar: its next load would scale it once more.
+void OfferFactorOne(PolarModel& model, Dialogs& asks) {
+  const float factor = model.Settings().SpeedFactor;
+  if (factor != 1.0F &&
+      asks.WarnYesNo(kSaveAs, "The file holds the scaled speeds. With the scaling factor of " +
+                                  FactorText(factor) +
+                                  " the next start scales them again.\nSet the factor to 1?")) {
+    model.Factor(1.0F);
+    PolarLoadAndTell(model, PolarModel::kMain, asks);
+  }
+}
+
 bool HoldsSomething(const std::filesystem::path& file) {
   std::error_code error;
   const auto size = std::filesystem::file_size(file, error);
@@ -37,8 +71,7 @@ bool HoldsSomething(const std::filesystem::path& file) {
 std::optional<std::string> AskTarget(const std::string& proposed, Dialogs& asks) {
   auto file = asks.SaveFile(kPolarFilter, proposed);
   if (file && HoldsSomething(*file) &&
-      !asks.WarnYesNo("AutoPilot - Save As",
-                      VisibleText(*file) + "file already exists.\nDo you want to replace it?")) {
+      !asks.WarnYesNo(kSaveAs, VisibleText(*file) + "file already exists.\nDo you want to replace it?")) {
     file.reset();
   }
   return file;
@@ -86,15 +119,16 @@ bool AskRange(PolarModel& model, Dialogs& asks) {
 }
 
 bool AskScaling(PolarModel& model, Dialogs& asks) {
-  const bool taken = AskNumber(
-      model, asks, "AutoPilot - Polar Plot - Speed Factor",
+  const auto answer = asks.AskText(
+      kScaling,
       "Enter the scaling factor, used to scale the polar plot speed data.  The scaling factor is normally "
       "set to 1, but can be set to other values to compensate for bad weather or heavy displacement.",
-      model.Settings().SpeedFactor, &PolarModel::TakeFactor);
-  if (taken) {
-    PolarLoadAndTell(model, PolarModel::kMain, asks);
+      ShortestText(model.Settings().SpeedFactor));
+  if (!answer || !model.TakeFactor(FactorMeant(*answer, asks))) {
+    return false;
   }
-  return taken;
+  PolarLoadAndTell(model, PolarModel::kMain, asks);
+  return true;
 }
 
 bool AskTargetBearing(PolarModel& model, Dialogs& asks) {
@@ -136,6 +170,7 @@ bool PolarSaveAs(PolarModel& model, Dialogs& asks) {
     asks.Inform(kTitle, *failure);
     return false;
   }
+  OfferFactorOne(model, asks);
   return true;
 }
 

@@ -11,7 +11,7 @@ namespace veerwatch {
 inline constexpr const char* kPolarFilter = "(*.pol)|*.pol";
 
 bool AskRange(PolarModel& model, Dialogs& asks);
-/// A new factor loads the own polar anew.
+/// A new factor loads the own polar anew. One above 3 asks whether its hundredth was meant.
 bool AskScaling(PolarModel& model, Dialogs& asks);
 bool AskTargetBearing(PolarModel& model, Dialogs& asks);
 bool AskMotorSpeed(PolarModel& model, Dialogs& asks);
@@ -21,7 +21,8 @@ bool AskColor(PolarModel& model, Dialogs& asks);
 /// offers to convert into a new file and to open that. True when a file was chosen.
 bool AskOpen(PolarModel& model, int slot, Dialogs& asks);
 
-/// Saves the own polar under a new name, with a question before an old file is replaced.
+/// Saves the own polar under a new name, with a question before an old file is replaced. After a scaled one
+/// it says so and offers the factor 1, with which the polar is loaded anew.
 bool PolarSaveAs(PolarModel& model, Dialogs& asks);
 
 /// Loads a slot and tells what was wrong with it.

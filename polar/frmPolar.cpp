@@ -87,6 +87,7 @@ void frmPolar::ConnectMenus() {
   for (const auto& [range, item] : m_menu.mnuRange) {
     OnItem(item, [this, knots = range] { m_model.Range(knots); });
   }
+  OnItem(m_menu.mnuRangeFit, [this] { m_model.RangeFit(); });
   OnItem(m_menu.mnuRangeCustom, [this] { AskRange(m_model, m_parts.Asks); });
   OnItem(m_menu.mnuOverlayFile1, [this] { AskOpen(m_model, PolarModel::kMain, m_parts.Asks); });
   OnItem(m_menu.mnuSaveAs, [this] { PolarSaveAs(m_model, m_parts.Asks); });

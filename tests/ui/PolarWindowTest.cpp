@@ -36,7 +36,7 @@ TEST_F(PolarWindow, HasItsCaptionAndItsMenus) {
                           "mnuSeparator1=-", "mnuPlotLabelWindSpeed=Show Wind Speed Label"));
   EXPECT_THAT(Items(Find<QMenu>("mnuRange")),
               ElementsAre("mnuRange6=  6 Kts", "mnuRange8=  8 Kts", "mnuRange10=10 Kts", "mnuRange12=12 Kts",
-                          "mnuSeparator3=-", "mnuRangeCustom=Other..."));
+                          "mnuRangeFit=Fit", "mnuSeparator3=-", "mnuRangeCustom=Other..."));
   EXPECT_THAT(Items(Find<QMenu>("mnuPolars")),
               ElementsAre("mnuOverlayFile1=Open...", "mnuSaveAs=Save As...", "mnuSeparator4=-",
                           "mnuOverlayColor=Set Color...", "mnuOverlayScale=Set Scaling (100%)...",
@@ -106,6 +106,9 @@ TEST_F(PolarWindow, ChangesItsRange) {
   Choose("mnuRangeCustom");
   EXPECT_EQ(Set().SpeedRange, 17.0F);
   EXPECT_EQ(Dialogs.Presets.back(), "17");
+  Choose("mnuRangeFit");
+  EXPECT_EQ(Set().SpeedRange, 15.0F) << "the polar reaches 14 kn";
+  EXPECT_TRUE(Ticked("mnuRangeCustom"));
 }
 
 TEST_F(PolarWindow, ChangesItsAverage) {
