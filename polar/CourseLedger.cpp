@@ -37,6 +37,7 @@ class Writer {
     LedgerContent content;
     AddFigures(content);
     content.Rows = Rows();
+    content.TargetWindAngle = static_cast<double>(PlotAngle(Straight()));
     AddLegs(content);
     const CourseLeg& now = m_solution.Legs[m_now];
     const CourseLeg& other = m_solution.Legs[1 - m_now];
@@ -119,6 +120,17 @@ class Writer {
         WindRow("Best Wind Angle Starboard Tack", Starboard(), starboard),
         {"Current Wind Angle and Speed", FormatNumber(query.WindAngleTrue, "0"),
          FormatNumber(query.WindSpeedTrue, "0.0"), LedgerSubject::Wind}};
+  }
+
+  /// The straight way to the target, sailed or not.
+  CourseLeg Straight() const {
+    const CourseQuery& query = m_input.Query;
+    CourseLeg leg;
+    leg.WindAngle =
+        FoldRelative(static_cast<double>(query.Heading) + static_cast<double>(query.WindAngleTrue) -
+                     static_cast<double>(query.TargetBearing));
+    leg.Speed = m_solution.Direct;
+    return leg;
   }
 
   /// Where the plot has a leg: a smooth table was looked up in the true wind also where the plot shows the

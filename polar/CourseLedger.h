@@ -44,7 +44,8 @@ struct LedgerLeg {
 struct LedgerContent {
   std::vector<LedgerFigure> Figures;
   std::array<LedgerRow, 6> Rows;
-  std::vector<LedgerLeg> Legs;  ///< with a share of the time and a speed above 0
+  double TargetWindAngle = 0.0;  ///< of the straight way to the target, as the plot has it [deg relative]
+  std::vector<LedgerLeg> Legs;   ///< with a share of the time and a speed above 0
   TurnFace Steer;
   TurnFace Tack;
   bool TackPossible = false;  ///< the other leg has a share

@@ -166,7 +166,9 @@ void LedgerPanelQt::PaintRows(QPainter& painter) const {
     const LedgerRow& row = m_content.Rows[i];
     const QRectF sample = In(place.Sample);
     QPen line(ColourOf(row.Subject), m_layout.Text * 0.25, Qt::SolidLine, Qt::FlatCap);
-    if (m_colours.Dashed(row.Subject == LedgerSubject::PortTack)) {
+    if (row.Subject == LedgerSubject::Target) {
+      line.setDashPattern({0.7, 0.7});
+    } else if (m_colours.Dashed(row.Subject == LedgerSubject::PortTack)) {
       line.setDashPattern({1.6, 1.0});
     }
     painter.setPen(line);

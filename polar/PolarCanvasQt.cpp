@@ -18,6 +18,9 @@ constexpr qreal kCurveWidth = 1.8;
 constexpr qreal kWindWidth = 4.0;
 constexpr qreal kHalo = 2.6;
 constexpr qreal kLegWidth = 2.0;
+constexpr qreal kTargetWidth = 2.2;
+/// Shorter than other dashes, as at night lines differ in little else.
+constexpr qreal kTargetDash = 4.0;
 constexpr qreal kLegNowWidth = 3.6;
 /// Time between two repaints at least [ms].
 constexpr int kRest = 180;
@@ -44,9 +47,10 @@ QPen RoundPen(const QColor& colour, qreal width) {
 }
 
 /// A dashed pen whose dashes keep their length [px] whatever the width.
-QPen DashedPen(const QColor& colour, qreal width, qreal size) {
+QPen DashedPen(const QColor& colour, qreal width, qreal size, qreal dash = 8.0) {
+  constexpr qreal kGap = 5.0;
   QPen pen(colour, width, Qt::CustomDashLine, Qt::FlatCap, Qt::RoundJoin);
-  pen.setDashPattern({8.0 * size / width, 5.0 * size / width});
+  pen.setDashPattern({dash * size / width, kGap * size / width});
   return pen;
 }
 
@@ -129,22 +133,18 @@ void PolarCanvasQt::PaintStill(QPainter& painter) const {
   painter.setFont(font());
   PaintGrid(painter);
   PaintCurves(painter);
-  PaintLabels(painter, false);
   PaintKeys(painter);
 }
 
-void PolarCanvasQt::PaintLabels(QPainter& painter, bool winds) const {
-  painter.setFont(TextFont(font(), m_still.TextHeight, winds ? QFont::Bold : QFont::Normal));
-  const QColor text = winds ? m_colours.Curve(m_still.SpeedColor) : m_colours.GridLabel;
+void PolarCanvasQt::PaintLabels(QPainter& painter) const {
   for (const PlotLabel& label : m_still.Grid.Labels) {
-    if ((label.Kind == PlotLabelKind::Wind) != winds) {
-      continue;
-    }
+    const bool wind = label.Kind == PlotLabelKind::Wind;
     const QRectF box = In(label.Box);
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_colours.Disc);
     painter.drawRoundedRect(box, box.height() * 0.3, box.height() * 0.3);
-    painter.setPen(text);
+    painter.setFont(TextFont(font(), m_still.TextHeight, wind ? QFont::Bold : QFont::Normal));
+    painter.setPen(wind ? m_colours.Curve(m_still.SpeedColor) : m_colours.GridLabel);
     painter.drawText(box, static_cast<int>(Qt::AlignCenter) | Qt::TextDontClip, Text(label.Text));
   }
 }
@@ -220,34 +220,52 @@ void PolarCanvasQt::PaintMoving(QPainter& painter) const {
   Stroke(painter, m_moving.Wind, RoundPen(m_colours.Disc, (kWindWidth + kHalo) * size));
   Stroke(painter, m_moving.Wind, RoundPen(m_colours.Wind, kWindWidth * size));
   Stroke(painter, m_moving.ReferenceWind, DashedPen(m_colours.Reference, kWindWidth * size, 1.3 * size));
-  PaintLabels(painter, true);
-  if (m_moving.Arrow) {
-    const WindArrow& arrow = *m_moving.Arrow;
-    const QPointF neck = (At(arrow.HeadLeft) + At(arrow.HeadRight)) / 2.0;
-    const QPolygonF head{At(arrow.Shaft.To), At(arrow.HeadLeft), At(arrow.HeadRight)};
-    painter.setPen(QPen(m_colours.Wind, 1.2 * size));
-    painter.drawLine(At(arrow.Line.From), At(arrow.Line.To));
-    painter.setPen(RoundPen(m_colours.Disc, (6.0 + kHalo) * size));
-    painter.drawLine(At(arrow.Shaft.From), neck);
-    painter.drawPolygon(head);
-    painter.setPen(QPen(m_colours.Wind, 6.0 * size, Qt::SolidLine, Qt::FlatCap));
-    painter.drawLine(At(arrow.Shaft.From), neck);
+  if (m_moving.Target) {
+    painter.setPen(DashedPen(m_colours.Target, kTargetWidth * size, size, kTargetDash));
+    painter.drawLine(At(m_moving.Target->Line.From), At(m_moving.Target->Line.To));
+  }
+  PaintLabels(painter);
+  if (m_moving.Target) {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(m_colours.Wind);
-    painter.drawPolygon(head);
+    painter.setBrush(m_colours.Target);
+    painter.drawPolygon(Polygon({m_moving.Target->Diamond.begin(), m_moving.Target->Diamond.end()}));
+  }
+  if (m_moving.Arrow) {
+    PaintArrow(painter, size);
   }
   PaintLegs(painter, size);
   if (m_moving.Boat) {
-    const BoatPoint& boat = *m_moving.Boat;
-    painter.setFont(TextFont(font(), 30.0 * size, QFont::Black));
-    HaloText(painter, At(boat.Point), QStringLiteral("X"), m_colours.Boat, m_colours.Disc);
-    if (boat.Beyond) {
-      painter.setBrush(Qt::NoBrush);
-      painter.setPen(QPen(m_colours.Boat, 3.0 * size));
-      painter.drawEllipse(At(boat.Point), 22.0 * size, 22.0 * size);
-    }
+    PaintBoat(painter, size);
   }
   PaintLegend(painter);
+}
+
+void PolarCanvasQt::PaintArrow(QPainter& painter, qreal size) const {
+  const WindArrow& arrow = *m_moving.Arrow;
+  const QPointF neck = (At(arrow.HeadLeft) + At(arrow.HeadRight)) / 2.0;
+  const QPolygonF head{At(arrow.Shaft.To), At(arrow.HeadLeft), At(arrow.HeadRight)};
+  painter.setPen(QPen(m_colours.Wind, 1.2 * size));
+  painter.drawLine(At(arrow.Line.From), At(arrow.Line.To));
+  painter.setPen(RoundPen(m_colours.Disc, (6.0 + kHalo) * size));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawLine(At(arrow.Shaft.From), neck);
+  painter.drawPolygon(head);
+  painter.setPen(QPen(m_colours.Wind, 6.0 * size, Qt::SolidLine, Qt::FlatCap));
+  painter.drawLine(At(arrow.Shaft.From), neck);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(m_colours.Wind);
+  painter.drawPolygon(head);
+}
+
+void PolarCanvasQt::PaintBoat(QPainter& painter, qreal size) const {
+  const BoatPoint& boat = *m_moving.Boat;
+  painter.setFont(TextFont(font(), 30.0 * size, QFont::Black));
+  HaloText(painter, At(boat.Point), QStringLiteral("X"), m_colours.Boat, m_colours.Disc);
+  if (boat.Beyond) {
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(m_colours.Boat, 3.0 * size));
+    painter.drawEllipse(At(boat.Point), 22.0 * size, 22.0 * size);
+  }
 }
 
 void PolarCanvasQt::PaintLegs(QPainter& painter, qreal size) const {
@@ -320,6 +338,13 @@ void PolarCanvasQt::mousePressEvent(QMouseEvent* event) {
 void PolarCanvasQt::mouseMoveEvent(QMouseEvent* event) {
   if (Moved) {
     Moved(event->position());
+  }
+}
+
+void PolarCanvasQt::leaveEvent(QEvent* event) {
+  QWidget::leaveEvent(event);
+  if (Left) {
+    Left();
   }
 }
 

@@ -22,6 +22,8 @@ class PolarCanvasQt final : public QWidget {
   /// Called with every press of the left button and every move of the mouse [px].
   std::function<void(QPointF)> Pressed;
   std::function<void(QPointF)> Moved;
+  /// Called when the mouse leaves.
+  std::function<void()> Left;
   /// Called when the size is another.
   std::function<void()> Resized;
 
@@ -30,16 +32,19 @@ class PolarCanvasQt final : public QWidget {
   void resizeEvent(QResizeEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void leaveEvent(QEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
   void PaintStill(QPainter& painter) const;
   void PaintGrid(QPainter& painter) const;
   void PaintCurves(QPainter& painter) const;
-  /// The labels of the winds, which stand above the moving curve, or the others.
-  void PaintLabels(QPainter& painter, bool winds) const;
+  /// On plates, above every curve.
+  void PaintLabels(QPainter& painter) const;
   void PaintKeys(QPainter& painter) const;
   void PaintMoving(QPainter& painter) const;
+  void PaintArrow(QPainter& painter, qreal size) const;
+  void PaintBoat(QPainter& painter, qreal size) const;
   void PaintLegs(QPainter& painter, qreal size) const;
   void PaintLegend(QPainter& painter) const;
 

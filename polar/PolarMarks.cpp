@@ -57,4 +57,19 @@ LegArrow MakeLegArrow(const PolarGeometry& geometry, double angle, double speed)
   return {{{geometry.CentreX, geometry.CentreY}, tip}, {tip, back(kHeadAngle)}, {tip, back(-kHeadAngle)}};
 }
 
+TargetMark MakeTargetMark(const PolarGeometry& geometry, double angle, double textHeight) {
+  // In heights of the text.
+  constexpr double kLength = 1.0;
+  constexpr double kHalfWidth = 0.35;
+  const double radius = OuterRadius(geometry);
+  const PlotPoint rim = AtRadius(geometry, angle, radius);
+  const PlotPoint waist = AtRadius(geometry, angle, radius - kLength * textHeight / 2.0);
+  const PlotPoint inner = AtRadius(geometry, angle, radius - kLength * textHeight);
+  const double radians = angle * kRadiansPerDegree;
+  const double acrossX = std::cos(radians) * kHalfWidth * textHeight;
+  const double acrossY = std::sin(radians) * kHalfWidth * textHeight;
+  return {{{geometry.CentreX, geometry.CentreY}, rim},
+          {rim, {waist.X - acrossX, waist.Y - acrossY}, inner, {waist.X + acrossX, waist.Y + acrossY}}};
+}
+
 }  // namespace veerwatch

@@ -1,5 +1,7 @@
-// What moves on the polar plot beside the curve: the wind, the boat and the legs of a course.
+// What moves on the polar plot beside the curve: the wind, the boat, and the legs and the target of a course.
 #pragma once
+
+#include <array>
 
 #include "polar/PolarPlot.h"
 
@@ -29,5 +31,13 @@ struct LegArrow {
 };
 /// For `speed` [kn, above 0] at the wind angle `angle` [deg]; a leg beyond the outer ring ends on it.
 LegArrow MakeLegArrow(const PolarGeometry& geometry, double angle, double speed);
+
+/// The bearing to sail to: a line from the centre to the outer ring, and a diamond inside of it at the ring.
+struct TargetMark {
+  PlotStroke Line;
+  std::array<PlotPoint, 4> Diamond;
+};
+/// For a target at the wind angle `angle` [deg].
+TargetMark MakeTargetMark(const PolarGeometry& geometry, double angle, double textHeight);
 
 }  // namespace veerwatch

@@ -298,6 +298,8 @@ std::optional<PolarMouse> PolarModel::Nearest(double x, double y, const PolarGeo
   }
   return PolarMouse{FormatNumber(winner.Cell.Angle, "0.0") + "\n" + FormatNumber(winner.Cell.WindSpeed, "0") +
                         "\n" + FormatNumber(winner.Cell.BoatSpeed, "0.0"),
+                    std::string(m_settings.Type == PlotType::ApparentWind ? "AWA (R)" : "TWA (R)") +
+                        "\nTWS (Kts)\n" + (reference ? "Reference (Kts)" : "Polar (Kts)"),
                     reference};
 }
 

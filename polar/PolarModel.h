@@ -46,6 +46,7 @@ struct PolarHeld {
 /// The cell under the mouse.
 struct PolarMouse {
   std::string Text;        ///< angle, wind speed and boat speed, a line each
+  std::string Captions;    ///< what they are, a line each
   bool Reference = false;  ///< of the reference polar
 };
 

@@ -60,7 +60,7 @@ const PolarStill& PolarScene::Still(int width, int height, const PlotRoom& taken
   return m_still;
 }
 
-PolarMoving PolarScene::Moving(const std::vector<LedgerLeg>& legs) const {
+PolarMoving PolarScene::Moving(const LedgerContent* course) const {
   PolarMoving moving;
   moving.Readout = m_model.Readout();
   if (!m_model.Received()) {
@@ -75,8 +75,11 @@ PolarMoving PolarScene::Moving(const std::vector<LedgerLeg>& legs) const {
   const auto angle = static_cast<double>(m_model.WindAngle());
   moving.Arrow = MakeWindArrow(geometry, angle, m_still.TextHeight);
   moving.Boat = MakeBoatPoint(geometry, angle, static_cast<double>(m_model.Values().BoatSpeed));
-  for (const LedgerLeg& leg : legs) {
-    moving.Legs.push_back({MakeLegArrow(geometry, leg.WindAngle, leg.Speed), leg.PortTack, leg.Now});
+  if (course != nullptr) {
+    moving.Target = MakeTargetMark(geometry, course->TargetWindAngle, m_still.TextHeight);
+    for (const LedgerLeg& leg : course->Legs) {
+      moving.Legs.push_back({MakeLegArrow(geometry, leg.WindAngle, leg.Speed), leg.PortTack, leg.Now});
+    }
   }
   return moving;
 }

@@ -40,6 +40,7 @@ struct PolarMoving {
   std::vector<PlotLine> ReferenceWind;  ///< the reference in it
   std::optional<WindArrow> Arrow;       ///< none until values have come
   std::optional<BoatPoint> Boat;
+  std::optional<TargetMark> Target;  ///< the bearing to sail to, while there is a course
   std::vector<PolarLeg> Legs;
   PolarReadout Readout;
 };
@@ -51,8 +52,8 @@ class PolarScene {
   /// The still part in an area of `width` by `height`, of which `taken` is not the legend's [px].
   const PolarStill& Still(int width, int height, const PlotRoom& taken = {});
 
-  /// The moving part with the legs of a course, in the geometry of the latest still one.
-  PolarMoving Moving(const std::vector<LedgerLeg>& legs = {}) const;
+  /// The moving part with a course, when there is one, in the geometry of the latest still one.
+  PolarMoving Moving(const LedgerContent* course = nullptr) const;
 
  private:
   /// All that the still part depends on.

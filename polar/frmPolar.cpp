@@ -6,7 +6,6 @@
 #include <QScreen>
 #include <QTimer>
 #include <algorithm>
-#include <cmath>
 
 #include "polar/CoursePauseQt.h"
 #include "polar/PolarQuestions.h"
@@ -18,9 +17,6 @@ namespace {
 constexpr QSize kDefaultSize(1000, 740);
 constexpr QSize kSmallestSize(220, 180);
 constexpr double kScreenShare = 0.92;
-/// The mouse readout goes when the mouse is so far from where it was pressed [px].
-constexpr double kMouseLeash = 10.0;
-constexpr int kMouseGap = 12;
 
 /// A place that can be seen on one of the screens.
 bool OnScreen(const QRect& place) {
@@ -44,7 +40,7 @@ frmPolar::frmPolar(const PolarParts& parts)
       m_scene(m_model),
       m_menu(*this),
       m_canvas(new PolarCanvasQt(this)),
-      lblMouse(new QLabel(m_canvas)),
+      lblMouse(new MouseReadoutQt(m_canvas)),
       m_course(m_canvas) {
   setObjectName(QStringLiteral("frmPolar"));
   setWindowTitle(QStringLiteral("Veerwatch - Polar"));
@@ -58,15 +54,14 @@ frmPolar::frmPolar(const PolarParts& parts)
   setCentralWidget(m_canvas);
   m_canvas->setObjectName(QStringLiteral("pctPlot"));
   m_canvas->setAccessibleName(QStringLiteral("Polar plot"));
-  m_canvas->Pressed = [this](QPointF at) { pctPlot_MouseDown(at); };
-  m_canvas->Moved = [this](QPointF at) { pctPlot_MouseMove(at); };
+  m_canvas->Pressed = [this](QPointF at) { lblMouse->Press(at); };
+  m_canvas->Moved = [this](QPointF at) { lblMouse->Move(at); };
+  m_canvas->Left = [this] { lblMouse->Leave(); };
   m_canvas->Resized = [this] { PolarDraw(); };
-  lblMouse->setObjectName(QStringLiteral("lblMouse"));
-  lblMouse->setTextFormat(Qt::PlainText);
-  lblMouse->setAttribute(Qt::WA_TransparentForMouseEvents);
-  lblMouse->setMargin(4);
-  lblMouse->setAutoFillBackground(true);
-  lblMouse->hide();
+  lblMouse->Find = [this](QPointF at) {
+    const PolarStill& still = m_scene.Still(m_canvas->width(), m_canvas->height(), m_course.Room());
+    return m_model.Nearest(at.x(), at.y(), still.Geometry);
+  };
   ConnectMenus();
   ConnectCourse();
   PolarInit(true);
@@ -240,43 +235,16 @@ void frmPolar::CourseHide() {
 void frmPolar::PolarMenus() { m_menu.Refresh(m_model); }
 
 void frmPolar::PolarDraw() {
-  lblMouse->hide();
   const PolarStill& still = m_scene.Still(m_canvas->width(), m_canvas->height(), m_course.Room());
   m_course.Place(still);
-  m_canvas->Show(still, m_scene.Moving(m_ledger ? m_ledger->Legs : std::vector<LedgerLeg>()));
+  m_canvas->Show(still, m_scene.Moving(m_ledger ? &*m_ledger : nullptr));
+  lblMouse->Follow(still.TextHeight);
 }
 
 void frmPolar::Follow() {
   PolarMenus();
   if (CourseUpdate()) {
     PolarDraw();
-  }
-}
-
-void frmPolar::pctPlot_MouseDown(QPointF at) {
-  m_pressed = at;
-  const auto& geometry = m_scene.Still(m_canvas->width(), m_canvas->height(), m_course.Room()).Geometry;
-  const auto found = m_model.Nearest(at.x(), at.y(), geometry);
-  lblMouse->setVisible(found.has_value());
-  if (!found) {
-    return;
-  }
-  const PolarPaletteQt shades(palette());
-  QPalette colours = lblMouse->palette();
-  colours.setColor(QPalette::Window, shades.MousePlate);
-  colours.setColor(QPalette::WindowText, found->Reference ? shades.MouseReference : shades.MouseMain);
-  lblMouse->setPalette(colours);
-  lblMouse->setText(QString::fromStdString(found->Text));
-  lblMouse->adjustSize();
-  const int x = static_cast<int>(at.x()) + kMouseGap;
-  const int y = static_cast<int>(at.y()) - lblMouse->height() / 2;
-  lblMouse->move(x + lblMouse->width() > m_canvas->width() ? x - 2 * kMouseGap - lblMouse->width() : x,
-                 std::clamp(y, 0, std::max(0, m_canvas->height() - lblMouse->height())));
-}
-
-void frmPolar::pctPlot_MouseMove(QPointF at) {
-  if (std::hypot(at.x() - m_pressed.x(), at.y() - m_pressed.y()) > kMouseLeash) {
-    lblMouse->hide();
   }
 }
 
@@ -301,6 +269,7 @@ void frmPolar::changeEvent(QEvent* event) {
 
 void frmPolar::hideEvent(QHideEvent* event) {
   QMainWindow::hideEvent(event);
+  lblMouse->Leave();
   m_parts.Tells.OnPolarVisible(isVisible());
 }
 

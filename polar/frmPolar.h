@@ -2,7 +2,6 @@
 // the main window on first use, afterwards shown and hidden. Closing it hides it and stores its settings.
 #pragma once
 
-#include <QLabel>
 #include <QMainWindow>
 #include <optional>
 
@@ -11,6 +10,7 @@
 #include "platform/Profile.h"
 #include "polar/CourseControlsQt.h"
 #include "polar/CourseTargets.h"
+#include "polar/MouseReadoutQt.h"
 #include "polar/PolarCanvasQt.h"
 #include "polar/PolarListener.h"
 #include "polar/PolarMenuQt.h"
@@ -46,7 +46,7 @@ class frmPolar final : public QMainWindow {
   /// Sets the keys of "Polar Window" and "Polar Data" in the profile, which somebody else commits.
   void PolarStore();
   void PolarMenus();
-  /// Draws anew and hides the mouse readout.
+  /// Draws anew; the mouse readout follows.
   void PolarDraw();
 
   const PolarModel& Model() const { return m_model; }
@@ -80,21 +80,17 @@ class frmPolar final : public QMainWindow {
   template <class Command>
   void OnItem(QAction* item, Command command);
 
-  void pctPlot_MouseDown(QPointF at);
-  void pctPlot_MouseMove(QPointF at);
-
   PolarParts m_parts;
   PolarModel m_model;
   PolarScene m_scene;
   PolarMenuQt m_menu;
   PolarCanvasQt* m_canvas;
-  QLabel* lblMouse;
+  MouseReadoutQt* lblMouse;
   CourseControlsQt m_course;
   CourseMemory m_memory;
   std::optional<LedgerContent> m_ledger;  ///< of the present course
   bool m_searching = false;
   bool m_missed = false;  ///< something came while a search ran
-  QPointF m_pressed;
 };
 
 }  // namespace veerwatch

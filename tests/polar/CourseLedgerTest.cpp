@@ -87,7 +87,20 @@ TEST_F(Ledger, DrawsSmoothLegsWhereThePlotHasThem) {
     EXPECT_EQ(apparent.Legs[i].Speed, speed);
   }
   EXPECT_LT(apparent.Legs[0].WindAngle * apparent.Legs[1].WindAngle, 0.0) << "one at either side";
+  Input.Query.TargetBearing = 10.0F;
+  const LedgerContent abeam = Content(table);
+  ASSERT_EQ(abeam.Legs.size(), 1U);
+  EXPECT_NEAR(abeam.TargetWindAngle, abeam.Legs[0].WindAngle, 1e-4) << "straight, as the leg";
+  EXPECT_LT(abeam.TargetWindAngle, 80.0);
   EXPECT_EQ(Rows(apparent), Rows(inTrue));
+}
+
+TEST_F(Ledger, SaysWhereTheTargetLiesToTheWind) {
+  EXPECT_NEAR(Content().TargetWindAngle, 0.0, 1e-4) << "in the wind's eye";
+  Input.Query.TargetBearing = 10.0F;
+  EXPECT_NEAR(Content().TargetWindAngle, 90.0, 1e-4) << "with the wind abeam, from starboard";
+  Input.Query.TargetBearing = 250.0F;
+  EXPECT_NEAR(Content().TargetWindAngle, -150.0, 1e-4);
 }
 
 TEST_F(Ledger, ShowsTheWaypointForItsBearing) {

@@ -57,5 +57,19 @@ TEST(MakeLegArrow, EndsOnTheOuterRing) {
   EXPECT_NEAR(arrow.Line.To.Y, 400.0, 1e-9);
 }
 
+TEST(MakeTargetMark, GoesFromTheCentreToTheOuterRingWithItsDiamondInsideOfIt) {
+  const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 10.0);
+  for (const double angle : {0.0, 50.0, -90.0, 180.0}) {
+    const TargetMark mark = MakeTargetMark(geometry, angle, 12.0);
+    EXPECT_EQ(Far(mark.Line.From, {200.0, 200.0}), 0.0);
+    EXPECT_LT(Far(mark.Line.To, PointAt(geometry, angle, 10.0)), 1e-9);
+    for (const PlotPoint& corner : mark.Diamond) {
+      EXPECT_LE(Far(corner, {200.0, 200.0}), 200.0 + 1e-9);
+      EXPECT_LE(Far(corner, mark.Line.To), 12.0 + 1e-9);
+    }
+    EXPECT_NEAR(Far(mark.Diamond[0], mark.Diamond[2]), 12.0, 1e-9);
+  }
+}
+
 }  // namespace
 }  // namespace veerwatch

@@ -330,6 +330,7 @@ TEST_F(PolarModelTest, ReadsTheCellUnderTheMouseOut) {
   const auto found = Model.Nearest(at.X + 15.0, at.Y + 15.0, geometry);
   ASSERT_TRUE(found.has_value()) << "450 px squared away";
   EXPECT_EQ(found->Text, "-120.0\n20\n14.0");
+  EXPECT_EQ(found->Captions, "TWA (R)\nTWS (Kts)\nPolar (Kts)");
   EXPECT_FALSE(found->Reference);
   // 20 * 20 + 10 * 10 is just no longer near.
   EXPECT_FALSE(Model.Nearest(at.X - 20.0, at.Y + 10.0, geometry).has_value());
@@ -344,6 +345,7 @@ TEST_F(PolarModelTest, ReadsTheReferenceOutWhereItIsNearer) {
   ASSERT_TRUE(Model.Open(PolarModel::kReference, (Program / "r.pol").string()).Loaded);
   EXPECT_EQ(Model.Nearest(at.X, at.Y, geometry)->Text, "120.0\n20\n16.0");
   EXPECT_TRUE(Model.Nearest(at.X, at.Y, geometry)->Reference);
+  EXPECT_EQ(Model.Nearest(at.X, at.Y, geometry)->Captions, "TWA (R)\nTWS (Kts)\nReference (Kts)");
   const PlotPoint both = PointAt(geometry, 80.0, 11.0);
   EXPECT_FALSE(Model.Nearest(both.X, both.Y, geometry)->Reference) << "the own polar wins a tie";
 }
@@ -580,6 +582,23 @@ TEST_F(PolarModelTest, NamesThePolarsWithTheirScaling) {
   EXPECT_EQ(scene.Still(900, 500).Keys,
             (std::vector<std::string>{"Fast Sled 60ft 90%", "Fast Sled 60ft 90%"}));
   EXPECT_FALSE(scene.Still(900, 500).Reference.empty());
+  Model.TakeFactor("1");
+  ASSERT_TRUE(Model.Load(PolarModel::kMain).Loaded);
+  EXPECT_EQ(scene.Still(900, 500).Keys, (std::vector<std::string>{"Fast Sled 60ft", "Fast Sled 60ft 90%"}))
+      << "each as it was read";
+}
+
+TEST_F(PolarModelTest, DrawsTheTargetOfACourse) {
+  PolarScene scene(Model);
+  scene.Still(400, 400);
+  Model.Update(TrackMode::Track, Sailing(-90.0F, 12.0F, 5.0F), true);
+  EXPECT_FALSE(scene.Moving().Target.has_value());
+  LedgerContent course;
+  course.TargetWindAngle = 90.0;
+  const auto target = scene.Moving(&course).Target;
+  ASSERT_TRUE(target.has_value());
+  EXPECT_NEAR(target->Line.To.X, 400.0, 1e-9);
+  EXPECT_NEAR(target->Line.To.Y, 200.0, 1e-9);
 }
 
 }  // namespace

@@ -203,6 +203,48 @@ TEST_F(PolarLedger, UsesTheAverages) {
   EXPECT_EQ(Figures()[0], "Heading (M)=145");
 }
 
+TEST_F(PolarLedger, WritesATurnOfThreeDigitsOut) {
+  StartTo(100.0F);
+  Moment moment;
+  moment.Heading = 295.0F;
+  moment.WindAngle = 165.0F;
+  At(moment);
+  const auto& rows = Ledger().Content().Rows;
+  EXPECT_EQ(rows[1].Angle, "+165");
+  QFont letters(Ledger().font());
+  letters.setPixelSize(qRound(Ledger().Layout().Text));
+  const QFontMetricsF metrics(letters);
+  ASSERT_EQ(Ledger().Layout().Rows.size(), 6U);
+  for (const char* text : {"+165", "-165", "+180"}) {
+    EXPECT_LE(metrics.horizontalAdvance(QLatin1String(text)), Ledger().Layout().Rows[1].Angle.Width) << text;
+  }
+}
+
+TEST_F(PolarLedger, DrawsTheTargetBearing) {
+  Store.ProfileSet("Polar Data", "Speed Range", 10.0F);
+  StartTo(10.0F);
+  Window->resize(1000, 740);
+  Moment moment;
+  moment.Heading = 60.0F;
+  moment.WindAngle = 40.0F;
+  At(moment);
+  // The wind comes from 100, so on the way to 10 it is abeam to starboard.
+  const QImage image = GrabPlot();
+  const PolarGeometry geometry = PlotGeometry(Plot().width(), Plot().height(), 10.0);
+  const QColor target = PolarPaletteQt(Window->palette()).Target;
+  const auto on = [&](double angle) {
+    int points = 0;
+    for (double speed = 6.5; speed < 9.0; speed += 0.05) {
+      const PlotPoint at = PointAt(geometry, angle, speed);
+      points += image.pixelColor(static_cast<int>(at.X), static_cast<int>(at.Y)) == target ? 1 : 0;
+    }
+    return points;
+  };
+  EXPECT_GT(on(90.0), 12) << "of 50, in dashes";
+  EXPECT_LT(on(90.0), 40);
+  EXPECT_EQ(on(-90.0), 0);
+}
+
 // The turns
 
 TEST_F(PolarLedger, SaysTheTurnInTheColourOfItsSide) {

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <QMouseEvent>
+#include <cmath>
 
 #include "tests/ui/PolarWindowTester.h"
 
@@ -21,6 +22,27 @@ std::vector<std::string> Items(const QMenu& menu) {
                     (action->isSeparator() ? "-" : action->text().toStdString()));
   }
   return items;
+}
+
+/// Pixels within `radius` of `centre` that are nearly of `colour`.
+int Count(const QImage& image, const PlotPoint& centre, int radius, const QColor& colour) {
+  int count = 0;
+  for (int y = -radius; y <= radius; ++y) {
+    for (int x = -radius; x <= radius; ++x) {
+      const QPoint at(static_cast<int>(centre.X) + x, static_cast<int>(centre.Y) + y);
+      if (!image.rect().contains(at)) {
+        continue;
+      }
+      const QColor pixel = image.pixelColor(at);
+      constexpr int kNear = 70;
+      count += std::abs(pixel.red() - colour.red()) < kNear &&
+                       std::abs(pixel.green() - colour.green()) < kNear &&
+                       std::abs(pixel.blue() - colour.blue()) < kNear
+                   ? 1
+                   : 0;
+    }
+  }
+  return count;
 }
 
 TEST_F(PolarWindow, HasItsCaptionAndItsMenus) {
@@ -324,7 +346,7 @@ TEST_F(PolarWindow, ReadsTheReferenceOutInAnotherColour) {
   EXPECT_NE(label.palette().color(QPalette::WindowText), QColor(0, 0, 255));
 }
 
-TEST_F(PolarWindow, HidesTheMouseReadoutWhenItDraws) {
+TEST_F(PolarWindow, KeepsTheMouseReadoutWhileTheMouseRests) {
   Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
   Start();
   Square(480);
@@ -333,31 +355,74 @@ TEST_F(PolarWindow, HidesTheMouseReadoutWhenItDraws) {
   QTest::mousePress(&Plot(), Qt::LeftButton, {}, at);
   ASSERT_TRUE(Find<QLabel>("lblMouse").isVisible());
   Sail(80.0F, 20.0F, 9.0F);
-  EXPECT_FALSE(Find<QLabel>("lblMouse").isVisible());
+  Window->PolarDraw();
+  EXPECT_TRUE(Find<QLabel>("lblMouse").isVisible());
+  Window->close();
+  Window->show();
+  EXPECT_FALSE(Find<QLabel>("lblMouse").isVisible()) << "not for a mouse of long ago";
+}
+
+TEST_F(PolarWindow, TakesTheMouseReadoutBackWhenTheCellHasMoved) {
+  Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
+  Start();
+  Square(480);
+  const PlotPoint cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), 120.0, 14.0);
+  const QPoint at(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y)));
+  QTest::mousePress(&Plot(), Qt::LeftButton, {}, at);
+  ASSERT_TRUE(Find<QLabel>("lblMouse").isVisible());
+  Find<QAction>("mnuRange6").trigger();
+  EXPECT_FALSE(Find<QLabel>("lblMouse").isVisible()) << "now far outside";
+}
+
+TEST_F(PolarWindow, ReadsOutWhereTheMouseRests) {
+  Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
+  Start();
+  Square(480);
+  const auto at = [](double angle, double speed) {
+    const PlotPoint cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), angle, speed);
+    return QPoint(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y)));
+  };
+  auto& label = Find<QLabel>("lblMouse");
+  QTest::mouseMove(&Plot(), at(120.0, 14.0));
+  EXPECT_FALSE(label.isVisible()) << "still on its way, perhaps";
+  EXPECT_TRUE(QTest::qWaitFor([&] { return label.isVisible(); }));
+  EXPECT_EQ(label.text(), QStringLiteral("120.0\n20\n14.0"));
+  QTest::mouseMove(&Plot(), at(80.0, 11.0));
+  EXPECT_FALSE(label.isVisible());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return label.isVisible(); }));
+  EXPECT_EQ(label.text(), QStringLiteral("80.0\n20\n11.0"));
+  QEvent leaves(QEvent::Leave);
+  QApplication::sendEvent(&Plot(), &leaves);
+  EXPECT_FALSE(label.isVisible());
+}
+
+TEST_F(PolarWindow, WritesTheMouseReadoutLargeWithItsCaptions) {
+  Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
+  Start();
+  Square(700);
+  const PlotPoint cell = PointAt(PlotGeometry(700.0, 700.0, 16.0), 120.0, 14.0);
+  QTest::mousePress(&Plot(), Qt::LeftButton, {},
+                    QPoint(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y))));
+  auto& label = Find<QLabel>("lblMouse");
+  ASSERT_TRUE(label.isVisible());
+  const QFontMetrics metrics(label.font());
+  EXPECT_GT(label.height(), 4 * metrics.height());
+  EXPECT_GT(label.width(), metrics.horizontalAdvance(QStringLiteral("Polar (Kts) 120.0")));
+  // Captions at the left, values at the right, in every one of the three lines.
+  const QImage image = label.grab().toImage();
+  const double scale = image.width() / static_cast<double>(label.width());
+  for (const double left : {0.0, 0.6}) {
+    for (int line = 0; line < 3; ++line) {
+      const QImage part = image.copy(QRectF(left * label.width() * scale, line * label.height() / 3.0 * scale,
+                                            0.4 * label.width() * scale, label.height() / 3.0 * scale)
+                                         .toRect());
+      const PlotPoint middle{part.width() / 2.0, part.height() / 2.0};
+      EXPECT_GT(Count(part, middle, part.width(), QColor(0, 0, 255)), 10) << left << " " << line;
+    }
+  }
 }
 
 // Pixels
-
-/// Pixels within `radius` of `centre` that are nearly of `colour`.
-int Count(const QImage& image, const PlotPoint& centre, int radius, const QColor& colour) {
-  int count = 0;
-  for (int y = -radius; y <= radius; ++y) {
-    for (int x = -radius; x <= radius; ++x) {
-      const QPoint at(static_cast<int>(centre.X) + x, static_cast<int>(centre.Y) + y);
-      if (!image.rect().contains(at)) {
-        continue;
-      }
-      const QColor pixel = image.pixelColor(at);
-      constexpr int kNear = 70;
-      count += std::abs(pixel.red() - colour.red()) < kNear &&
-                       std::abs(pixel.green() - colour.green()) < kNear &&
-                       std::abs(pixel.blue() - colour.blue()) < kNear
-                   ? 1
-                   : 0;
-    }
-  }
-  return count;
-}
 
 TEST_F(PolarWindow, DrawsEachCellWhereItBelongsInTheSpeedColour) {
   Store.ProfileSet("Polar Data", "Speed Range", 20.0F);
@@ -419,6 +484,46 @@ TEST_F(PolarWindow, DrawsTheCurveOfThePresentWind) {
   EXPECT_EQ(Count(GrabPlot(), at, 3, wind), 0);
   Sail(-60.0F, 17.0F, 5.0F);
   EXPECT_GT(Count(GrabPlot(), at, 3, wind), 5);
+}
+
+TEST_F(PolarWindow, DrawsTheLabelsOfTheGridAboveItsCurves) {
+  // A curve along the ring of 10 kn.
+  std::string round = "TWA\t10\n";
+  for (int angle = 1; angle <= 180; ++angle) {
+    round += std::to_string(angle) + "\t10\n";
+  }
+  WriteFile(Program / kDefaultPolar, round);
+  Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
+  Store.ProfileSet("Polar Data", "Plot Average", 0.0F);
+  Start();
+  Square(500);
+  Sail(-60.0F, 17.0F, 5.0F);
+  const auto geometry = PlotGeometry(500.0, 500.0, 16.0);
+  const QColor wind = PolarPaletteQt(Window->palette()).Wind;
+  const QImage image = GrabPlot();
+  EXPECT_GT(Count(image, PointAt(geometry, 45.0, 10.0), 3, wind), 5);
+  int seen = 0;
+  PolarScene scene(Window->Model());
+  for (const PlotLabel& label : scene.Still(500, 500).Grid.Labels) {
+    const PlotBox& box = label.Box;
+    const PlotPoint middle{box.X + box.Width / 2.0, box.Y + box.Height / 2.0};
+    if (std::abs(std::hypot(middle.X - 250.0, middle.Y - 250.0) - 10.0 * geometry.ScaleX) < 2.0) {
+      ++seen;
+      EXPECT_EQ(Count(image, middle, static_cast<int>(std::min(box.Width, box.Height) / 2.0) - 2, wind), 0)
+          << label.Text;
+    }
+  }
+  EXPECT_GT(seen, 0);
+}
+
+TEST_F(PolarWindow, NamesTheOldPolarInTheProfileWhenANewOneDoesNotLoad) {
+  WriteFile(Program / "bad.pol", "speeds\t6\n30\t4\n");
+  Start();
+  Dialogs.Files = {(Program / "bad.pol").string()};
+  Choose("mnuOverlayFile1");
+  EXPECT_EQ(Dialogs.Messages.size(), 1U);
+  Window->close();
+  EXPECT_EQ(Store.Text("Polar Data", "File 1"), kDefaultPolar);
 }
 
 TEST_F(PolarWindow, DrawsTheReferenceInItsOwnColour) {
