@@ -40,7 +40,7 @@ DataPageQt::DataPageQt(QWidget* parent)
     rows->addWidget(NewText(group, this), row, 3, 1, 3);
     rows->addWidget(NewCaption(caption, box, this), row + 1, 3);
     rows->addWidget(box, row + 1, 4);
-    rows->addWidget(NewText("sec", this), row + 1, 5);
+    rows->addWidget(NewText("samples", this), row + 1, 5);
   };
   average(0, "Data Average:", "Wind Indi&cator", txtNmeaWindIndicatorAverage);
   average(2, "Data Average (Sec):", "Tr&ue Wind", txtNmeaTrueWindAverage);

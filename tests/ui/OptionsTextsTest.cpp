@@ -95,6 +95,7 @@ TEST_F(OptionsTexts, CaptionTheControls) {
   }
   EXPECT_EQ(texts.count("Comm:"), 2U);
   EXPECT_EQ(texts.count("Display:"), 2U);
+  EXPECT_EQ(texts.count("samples"), 2U);
   for (const char* text : {"Format:",
                            "True Wind:",
                            "Boat Heading:",
