@@ -1,8 +1,11 @@
 #include "options/LiveListQt.h"
 
+#include <QClipboard>
 #include <QEvent>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <algorithm>
 
@@ -32,20 +35,27 @@ class LineDelegateQt final : public QStyledItemDelegate {
       fill.setAlpha(kHighlight);
       painter->fillRect(option.rect, fill);
     }
-    const QRect place = option.rect.adjusted(kMargin, 0, -kMargin, 0);
-    const int columns = place.width() / std::max(1, option.fontMetrics.horizontalAdvance(QLatin1Char('0')));
-    QString line = index.data().toString();
-    if (line.size() > columns) {
-      line.truncate(std::max(0, columns - 1));
-      line.append(QChar(0x2026));
-    }
+    // Only the characters that show: a hostile line has thousands.
+    const int advance = Advance(option.fontMetrics);
+    const int first = std::max(0, -option.rect.left() / advance - 1);
+    const int shown = option.widget->width() / advance + 3;
+    const QRect place = option.rect.adjusted(kMargin + first * advance, 0, 0, 0);
     painter->setFont(option.font);
     painter->setPen(option.palette.color(QPalette::Text));
-    painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, line);
+    painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip,
+                      index.data().toString().mid(first, shown));
   }
 
-  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& /*index*/) const override {
-    return {1, option.fontMetrics.height() + kGap};
+  /// As wide as the longest line.
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const auto* lines = static_cast<const LiveListModelQt*>(index.model());
+    const auto longest = static_cast<int>(lines->Lines().Longest());
+    return {longest * Advance(option.fontMetrics) + 2 * kMargin, option.fontMetrics.height() + kGap};
+  }
+
+ private:
+  static int Advance(const QFontMetrics& metrics) {
+    return std::max(1, metrics.horizontalAdvance(QLatin1Char('0')));
   }
 };
 
@@ -53,7 +63,17 @@ class LineDelegateQt final : public QStyledItemDelegate {
 
 // LiveListModelQt
 
-void LiveListModelQt::Add(std::string_view text, bool highlighted) {
+bool LiveListModelQt::Add(std::string_view text, bool highlighted) {
+  if (m_lines.NoteType(text) && m_typeFound) {
+    m_typeFound();
+  }
+  if (!m_lines.Wants(text)) {
+    return false;
+  }
+  if (m_lines.Paused()) {
+    m_lines.Wait(text, highlighted);
+    return false;
+  }
   if (m_lines.Full()) {
     beginRemoveRows({}, 0, 0);
     m_lines.RemoveOldest();
@@ -63,6 +83,19 @@ void LiveListModelQt::Add(std::string_view text, bool highlighted) {
   beginInsertRows({}, row, row);
   m_lines.Append(text, highlighted);
   endInsertRows();
+  return true;
+}
+
+void LiveListModelQt::Pause(bool paused) {
+  beginResetModel();
+  m_lines.Pause(paused);
+  endResetModel();
+}
+
+void LiveListModelQt::Type(std::string_view type) {
+  beginResetModel();
+  m_lines.Type(type);
+  endResetModel();
 }
 
 void LiveListModelQt::Clear() {
@@ -100,23 +133,49 @@ LiveListQt::LiveListQt(const char* name, const char* hint, QWidget* parent)
   setUniformItemSizes(true);
   setEditTriggers(NoEditTriggers);
   setSelectionMode(NoSelection);
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  setHorizontalScrollMode(ScrollPerPixel);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   FixedFont();
 }
 
 void LiveListQt::Add(std::string_view text, bool highlighted) {
-  m_lines->Add(text, highlighted);
+  if (m_lines->Add(text, highlighted)) {
+    FollowSoon();
+  }
+}
+
+void LiveListQt::FollowSoon() {
   if (!m_scrolling) {
     m_scrolling = true;
     QMetaObject::invokeMethod(
         this,
         [this] {
           m_scrolling = false;
-          scrollTo(m_lines->index(m_lines->rowCount() - 1), PositionAtTop);
+          // The place sideways stays.
+          scrollToBottom();
         },
         Qt::QueuedConnection);
   }
+}
+
+void LiveListQt::Pause(bool paused) {
+  const int down = verticalScrollBar()->value();
+  const int sideways = horizontalScrollBar()->value();
+  m_lines->Pause(paused);
+  executeDelayedItemsLayout();
+  verticalScrollBar()->setValue(down);
+  horizontalScrollBar()->setValue(sideways);
+  if (!paused) {
+    FollowSoon();
+  }
+}
+
+void LiveListQt::CopyAll() const {
+  QString text;
+  for (int row = 0; row < m_lines->rowCount(); ++row) {
+    text += m_lines->index(row).data().toString() + QLatin1Char('\n');
+  }
+  QGuiApplication::clipboard()->setText(text);
 }
 
 QSize LiveListQt::sizeHint() const {
@@ -128,7 +187,8 @@ QSize LiveListQt::sizeHint() const {
 QSize LiveListQt::minimumSizeHint() const {
   const QFontMetrics metrics(font());
   return {kLeastColumns * metrics.horizontalAdvance(QLatin1Char('0')) + 2 * kMargin,
-          kLeastLines * (metrics.height() + kGap) + 2 * frameWidth()};
+          kLeastLines * (metrics.height() + kGap) + horizontalScrollBar()->sizeHint().height() +
+              2 * frameWidth()};
 }
 
 void LiveListQt::changeEvent(QEvent* event) {

@@ -38,19 +38,25 @@ const PortPageTexts& InputPageTexts() {
       {"optNmeaListOn", "Input Display Comm Data - On"},
       // Deliberate: "Nema".
       {"lstNmeaData", "Input Nema Data, Highlighted indicates Decoded Data"},
+      {"chkNmeaPause", "Hold the list still; what comes meanwhile is added afterwards"},
+      {"cmdNmeaCopy", "Copy every line of the list to the clipboard"},
       {{{"optNmeaDataFormat(1)", "Display Data Format - Raw NMEA"},
         {"optNmeaDataFormat(2)", "Display Data Format - Decoded Error"}}},
-      {"&Raw NMEA", "D&ecoded Error"}};
+      {"&Raw NMEA", "D&ecoded Error"},
+      {"cmbNmeaType", "Display one type of sentence only"}};
   return kTexts;
 }
 
 const PortPageTexts& OutputPageTexts() {
   // Deliberate: "OptPilotListOff" begins with a capital letter.
-  static constexpr PortPageTexts kTexts{{"txtPilotPort", "Output Comm Port"},
-                                        {"lblPilotStatus", "Output Comm Status"},
-                                        {"OptPilotListOff", "Output Display Comm Data - Off"},
-                                        {"optPilotListOn", "Output Display Comm Data - On"},
-                                        {"lstPilotData", "Output Nema Data"}};
+  static constexpr PortPageTexts kTexts{
+      {"txtPilotPort", "Output Comm Port"},
+      {"lblPilotStatus", "Output Comm Status"},
+      {"OptPilotListOff", "Output Display Comm Data - Off"},
+      {"optPilotListOn", "Output Display Comm Data - On"},
+      {"lstPilotData", "Output Nema Data"},
+      {"chkPilotPause", "Hold the list still; what comes meanwhile is added afterwards"},
+      {"cmdPilotCopy", "Copy every line of the list to the clipboard"}};
   return kTexts;
 }
 
@@ -59,7 +65,10 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
       Port(new OptionEntryQt(texts.Port.Name, texts.Port.Hint, this)),
       Status(new QLabel(this)),
       ListOff(NewOption("Of&f", texts.ListOff, this)),
-      ListOn(NewOption("O&n", texts.ListOn, this)) {
+      ListOn(NewOption("O&n", texts.ListOn, this)),
+      Pause(new QCheckBox(QStringLiteral("Pa&use"), this)),
+      Copy(new QPushButton(QStringLiteral("Cop&y All"), this)),
+      List(new LiveListQt(texts.List.Name, texts.List.Hint, this)) {
   NameControl(*Status, texts.Status.Name, texts.Status.Hint);
   Status->setAccessibleName(QLatin1String(texts.Status.Hint));
   Status->setTextFormat(Qt::PlainText);
@@ -73,18 +82,48 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
   rows->addWidget(NewCaption("&Comm:", Port, this), 0, 0);
   rows->addLayout(port, 0, 1);
   rows->addWidget(NewText("Display:", this), 1, 0);
-  rows->addLayout(OptionRow({ListOff, ListOn}, this), 1, 1);
+  auto* display = OptionRow({ListOff, ListOn}, this);
+  // In front of the room at the end of the row.
+  display->insertSpacing(display->count() - 1, kGroupGap);
+  display->insertWidget(display->count() - 1, Pause);
+  display->addWidget(Copy);
+  rows->addLayout(display, 1, 1);
   if (texts.Format[0].Name != nullptr) {
     for (std::size_t i = 0; i < Format.size(); ++i) {
       Format[i] = NewOption(texts.FormatCaption[i], texts.Format[i], this);
     }
     rows->addWidget(NewText("Format:", this), 2, 0);
-    rows->addLayout(OptionRow(Format, this), 2, 1);
+    auto* format = OptionRow(Format, this);
+    Type = new QComboBox(this);
+    NameControl(*Type, texts.Type.Name, texts.Type.Hint);
+    Type->addItem(QStringLiteral("All"));
+    Type->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    format->addWidget(NewCaption("Ty&pe:", Type, this));
+    format->addWidget(Type);
+    rows->addLayout(format, 2, 1);
+    List->Model().TypeFound([this] { OfferTypes(); });
+    connect(Type, &QComboBox::activated, this, [this](int index) {
+      List->Type(index > 0 ? Type->itemText(index).toStdString() : std::string());
+    });
   }
-  List = new LiveListQt(texts.List.Name, texts.List.Hint, this);
+  NameControl(*Pause, texts.Pause.Name, texts.Pause.Hint);
+  NameControl(*Copy, texts.Copy.Name, texts.Copy.Hint);
+  connect(Pause, &QCheckBox::toggled, List, &LiveListQt::Pause);
+  connect(Copy, &QPushButton::clicked, List, &LiveListQt::CopyAll);
   auto* page = new QVBoxLayout(this);
   page->addLayout(rows);
   page->addWidget(List, 1);
+}
+
+void PortPageQt::OfferTypes() {
+  int row = 1;
+  for (const std::string& known : List->Model().Lines().Types()) {
+    const QString type = QString::fromStdString(known);
+    if (Type->itemText(row) != type) {
+      Type->insertItem(row, type);
+    }
+    ++row;
+  }
 }
 
 }  // namespace veerwatch

@@ -2,7 +2,10 @@
 // its lines.
 #pragma once
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QRadioButton>
 #include <array>
 
@@ -22,9 +25,13 @@ struct PortPageTexts {
   Control ListOff;
   Control ListOn;
   Control List;
+  Control Pause;
+  Control Copy;
   /// The lines to list, with their captions; empty where there is no choice.
   std::array<Control, 2> Format{};
   std::array<const char*, 2> FormatCaption{};
+  /// The type of sentence that is listed; empty where there is no choice.
+  Control Type{};
 };
 
 const PortPageTexts& InputPageTexts();
@@ -39,7 +46,14 @@ class PortPageQt final : public QWidget {
   QRadioButton* ListOff;
   QRadioButton* ListOn;
   std::array<QRadioButton*, 2> Format{};  ///< null where there is no choice
+  QCheckBox* Pause;
+  QPushButton* Copy;
+  QComboBox* Type = nullptr;  ///< null where there is no choice
   LiveListQt* List;
+
+ private:
+  /// Offers every type that came, in the order of the alphabet.
+  void OfferTypes();
 };
 
 }  // namespace veerwatch

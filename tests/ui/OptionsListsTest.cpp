@@ -1,6 +1,8 @@
 // The live lists of the options dialog.
 
 #include <QAbstractItemView>
+#include <QClipboard>
+#include <QComboBox>
 #include <QScrollBar>
 
 #include "tests/ui/OptionsTester.h"
@@ -149,6 +151,103 @@ TEST_F(OptionsLists, ShowHostileLinesWithoutHarm) {
   const auto lines = Lines("lstNmeaData");
   EXPECT_EQ(lines[0], "\u2400\u241b[2J\t<b>\u00ff\u00fe\u240a");
   EXPECT_EQ(lines.size(), 3U);
+}
+
+TEST_F(OptionsLists, StandStillInAPause) {
+  Start(frmOptions::Input);
+  Click("optNmeaListOn");
+  for (int i = 0; i < 90; ++i) {
+    Window->NmeaData("line " + std::to_string(i), false);
+  }
+  QApplication::processEvents();
+  Click("chkNmeaPause");
+  auto& bar = *Find<QListView>("lstNmeaData").verticalScrollBar();
+  bar.setValue(3);
+  const auto before = Lines("lstNmeaData");
+  Window->NmeaData("in the pause", true);
+  QApplication::processEvents();
+  EXPECT_EQ(Lines("lstNmeaData"), before);
+  EXPECT_EQ(bar.value(), 3);
+  Click("chkNmeaPause");
+  QApplication::processEvents();
+  EXPECT_EQ(Lines("lstNmeaData").back(), "in the pause");
+  EXPECT_EQ(bar.value(), bar.maximum());
+  EXPECT_FALSE(Bold()) << "nothing to apply";
+}
+
+TEST_F(OptionsLists, OfTheOutputPausesAndIsCopied) {
+  Start(frmOptions::Output);
+  Click("optPilotListOn");
+  Window->PilotData("$ECAPB,1");
+  Click("chkPilotPause");
+  Window->PilotData("$ECAPB,2");
+  EXPECT_THAT(Lines("lstPilotData"), ElementsAre("$ECAPB,1"));
+  Click("cmdPilotCopy");
+  EXPECT_EQ(QApplication::clipboard()->text(), "$ECAPB,1\n");
+  Click("chkPilotPause");
+  EXPECT_THAT(Lines("lstPilotData"), ElementsAre("$ECAPB,1", "$ECAPB,2"));
+}
+
+TEST_F(OptionsLists, AreCopiedWhole) {
+  Start(frmOptions::Input);
+  Click("optNmeaListOn");
+  for (int i = 0; i < 60; ++i) {
+    Window->NmeaData("$WIMWV," + std::to_string(i), false);
+  }
+  Click("cmdNmeaCopy");
+  const QStringList copied = QApplication::clipboard()->text().split('\n');
+  ASSERT_EQ(copied.size(), 61);
+  EXPECT_EQ(copied.front(), "$WIMWV,0");
+  EXPECT_EQ(copied.at(59), "$WIMWV,59");
+  EXPECT_EQ(copied.back(), "");
+}
+
+TEST_F(OptionsLists, AreFilteredByTheTypesThatCame) {
+  Start(frmOptions::Input);
+  Click("optNmeaListOn");
+  auto& types = Find<QComboBox>("cmbNmeaType");
+  EXPECT_EQ(types.count(), 1);
+  for (const char* line : {"$WIMWV,1", "$GPRMC,1", "noise", "$IIHDG,1", "$WIMWV,2"}) {
+    Window->NmeaData(line, false);
+  }
+  ASSERT_EQ(types.count(), 4);
+  EXPECT_EQ(types.itemText(0), "All");
+  EXPECT_EQ(types.itemText(1), "HDG");
+  EXPECT_EQ(types.itemText(2), "MWV");
+  EXPECT_EQ(types.itemText(3), "RMC");
+  types.setFocus();
+  QTest::keyClicks(&types, "M");
+  ASSERT_EQ(types.currentText(), "MWV");
+  EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("$WIMWV,1", "$WIMWV,2"));
+  Window->NmeaData("$GPRMC,2", false);
+  Window->NmeaData("$GPGGA,1", false);
+  Window->NmeaData("$WIMWV,3", true);
+  EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("$WIMWV,1", "$WIMWV,2", "$WIMWV,3"));
+  EXPECT_EQ(types.currentText(), "MWV") << "another type came meanwhile";
+  QTest::keyClick(&types, Qt::Key_Home);
+  Window->NmeaData("$GPRMC,3", false);
+  EXPECT_EQ(Lines("lstNmeaData").back(), "$GPRMC,3");
+  EXPECT_FALSE(Bold()) << "nothing to apply";
+}
+
+TEST_F(OptionsLists, ScrollSidewaysAndStayThere) {
+  Start(frmOptions::Input);
+  Click("optNmeaListOn");
+  auto& list = Find<QListView>("lstNmeaData");
+  Window->NmeaData("short", false);
+  QApplication::processEvents();
+  EXPECT_EQ(list.horizontalScrollBar()->maximum(), 0);
+  Window->NmeaData(std::string(400, '.') + "END", false);
+  QApplication::processEvents();
+  auto& bar = *list.horizontalScrollBar();
+  const int advance = QFontMetrics(list.font()).horizontalAdvance('0');
+  EXPECT_GE(bar.maximum() + list.viewport()->width(), 403 * advance);
+  const QImage before = list.viewport()->grab().toImage();
+  bar.setValue(bar.maximum());
+  EXPECT_NE(list.viewport()->grab().toImage(), before);
+  Window->NmeaData("one more", false);
+  QApplication::processEvents();
+  EXPECT_EQ(bar.value(), bar.maximum());
 }
 
 TEST_F(OptionsLists, UseAFixedWidth) {
