@@ -47,13 +47,9 @@ void PreviewCommand(const PreviewOptions& options, std::ostream& out) {
     return;
   }
   const TrackFigures figures = TrackFiguresOf(options.Inputs.Offset, *bearings);
-  out << "overshoot " << Text(figures.Overshoot) << " deg\n";
-  if (figures.SettlingTime) {
-    out << "settling time " << *figures.SettlingTime << " s\n";
-  } else {
-    out << "not settled\n";
+  for (const std::string& text : TrackFigureTexts(figures, ShortestText)) {
+    out << text << '\n';
   }
-  out << "steady state " << Text(figures.SteadyRootMeanSquare) << " deg rms\n";
 }
 
 }  // namespace veerwatch

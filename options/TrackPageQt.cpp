@@ -33,7 +33,12 @@ TrackPageQt::TrackPageQt(RandomSource& random, QWidget* parent)
       txtTrackTime(NewPreviewEntry("txtTrackTime", kTimeHint, "120", this)),
       txtTrackMin(NewPreviewEntry("txtTrackMin", kTimeHint, "-5", this)),
       txtTrackMax(NewPreviewEntry("txtTrackMax", kTimeHint, "15", this)),
-      pctTrack(new TrackPreviewQt(random, this)) {
+      pctTrack(new TrackPreviewQt(random, this)),
+      Axes(new TrackAxesQt(*pctTrack, this)),
+      lblTrackFigures(NewText("", this)) {
+  lblTrackFigures->setObjectName(QStringLiteral("lblTrackFigures"));
+  // However long the figures are, the page stays as wide as its boxes.
+  lblTrackFigures->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   NameControl(*chkTrackAlarm, "chkTrackAlarm", "Tracking Alarm");
   txtTrackAlarmLimit->setAccessibleName(QStringLiteral("Alarm Limit"));
   txtTrackMin->setAccessibleName(QStringLiteral("Lowest Bearing"));
@@ -89,10 +94,11 @@ QWidget* TrackPageQt::NewResponse() {
   bounds->addWidget(txtTrackMin);
   auto* plot = new QHBoxLayout;
   plot->addLayout(bounds);
-  plot->addWidget(pctTrack, 1);
+  plot->addWidget(Axes, 1);
   auto* rows = new QVBoxLayout(frame);
   rows->addLayout(inputs);
   rows->addLayout(plot, 1);
+  rows->addWidget(lblTrackFigures);
   return frame;
 }
 
@@ -122,6 +128,8 @@ void TrackPageQt::TrackPreviewDraw() const {
   texts.Min = txtTrackMin->text().toStdString();
   texts.Max = txtTrackMax->text().toStdString();
   pctTrack->Draw(texts);
+  Axes->update();
+  lblTrackFigures->setText(QString::fromStdString(pctTrack->Picture().FiguresText()));
 }
 
 std::array<OptionEntryQt*, 8> TrackPageQt::Marking() const {

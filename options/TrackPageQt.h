@@ -7,7 +7,7 @@
 
 #include "options/OptionControlsQt.h"
 #include "options/OptionsForm.h"
-#include "options/TrackPreviewQt.h"
+#include "options/TrackAxesQt.h"
 #include "platform/Random.h"
 
 namespace veerwatch {
@@ -37,6 +37,8 @@ class TrackPageQt final : public QWidget {
   OptionEntryQt* txtTrackMin;
   OptionEntryQt* txtTrackMax;
   TrackPreviewQt* pctTrack;
+  TrackAxesQt* Axes;        ///< around pctTrack
+  QLabel* lblTrackFigures;  ///< the response in figures
 
  private:
   QWidget* NewOptions();

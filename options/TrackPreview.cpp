@@ -5,7 +5,6 @@
 #include <optional>
 
 #include "instruments/MathLib.h"
-#include "options/TrackResponse.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -207,6 +206,15 @@ std::string TrackPreview::ReadOut(double x, double y) const {
   return std::string("time=").append(ShortestText(time)).append(", bearing=").append(ShortestText(bearing));
 }
 
+std::string TrackPreview::FiguresText() const {
+  if (!Figures) {
+    return {};
+  }
+  const auto number = [](float value) { return FormatNumber(value, "0.00"); };
+  const auto texts = TrackFigureTexts(*Figures, number);
+  return "This run: " + texts[0] + ", " + texts[1] + ", " + texts[2];
+}
+
 TrackPreview TrackPreviewDraw(const TrackPreviewTexts& texts, int width, int height, RandomSource& random) {
   TrackPreview preview;
   preview.Width = width;
@@ -252,6 +260,7 @@ TrackPreview TrackPreviewDraw(const TrackPreviewTexts& texts, int width, int hei
     trace.Add({scale.TimeColumn(static_cast<double>(second)), scale.BearingRow((*series)[second])});
   }
   trace.Finish();
+  preview.Figures = TrackFiguresOf(numbers.Inputs.Offset, *series);
   return preview;
 }
 

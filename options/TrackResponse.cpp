@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "control/TrackGains.h"
+#include "instruments/MathLib.h"
 
 namespace veerwatch {
 
@@ -53,6 +54,13 @@ std::optional<std::vector<double>> TrackResponseSeries(const TrackResponseInputs
     bearings.push_back(bearing);
   }
   return bearings;
+}
+
+std::array<std::string, 3> TrackFigureTexts(const TrackFigures& figures, std::string (*number)(float)) {
+  return {"overshoot " + number(ToSingle(figures.Overshoot)) + " deg",
+          figures.SettlingTime ? "settling time " + std::to_string(*figures.SettlingTime) + " s"
+                               : std::string("not settled"),
+          "steady state " + number(ToSingle(figures.SteadyRootMeanSquare)) + " deg rms"};
 }
 
 TrackFigures TrackFiguresOf(double offset, const std::vector<double>& bearings) {

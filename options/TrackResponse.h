@@ -2,6 +2,7 @@
 // dialog and the command line's. It has nothing to do with the loop that steers.
 #pragma once
 
+#include <array>
 #include <optional>
 #include <string>
 #include <vector>
@@ -48,6 +49,10 @@ struct TrackFigures {
   /// Root mean square of the bearings in the steady state, the seconds from half of the last second on [deg].
   double SteadyRootMeanSquare = 0.0;
 };
+
+/// The figures in words, "overshoot 1.25 deg", "settling time 31 s" or "not settled", and "steady state 0.5
+/// deg rms"; `number` writes the degrees.
+std::array<std::string, 3> TrackFigureTexts(const TrackFigures& figures, std::string (*number)(float));
 
 /// `bearings` holds one at least, a second apart, all finite.
 TrackFigures TrackFiguresOf(double offset, const std::vector<double>& bearings);

@@ -371,5 +371,24 @@ TEST(TrackPreview, RowsStayInRangeWhateverTheBearing) {
   }
 }
 
+// Bandwidth 40 and damping 1: W 0.1, Ki 0.02, Kp 0.08. The first bearings are 9.2 and 8.448; the last of two
+// seconds is 7.74144, and the second half of three bearings holds 8.448 and 7.74144.
+TEST(TrackPreviewFigures, AreThoseOfTheTrace) {
+  FixedRandom still;
+  const TrackPreview preview = TrackPreviewDraw({"40", "1", "10", "0", "2", "-5", "15"}, 241, 201, still);
+  ASSERT_TRUE(preview.Figures);
+  EXPECT_EQ(preview.Figures->Overshoot, 0.0);
+  EXPECT_EQ(preview.Figures->SettlingTime, std::nullopt);
+  EXPECT_NEAR(preview.Figures->SteadyRootMeanSquare, 8.1024, 0.0001);
+  EXPECT_EQ(preview.FiguresText(), "This run: overshoot 0.00 deg, not settled, steady state 8.10 deg rms");
+}
+
+TEST(TrackPreviewFigures, AreNoneWhereNothingIsDrawn) {
+  FixedRandom still;
+  const TrackPreview preview = TrackPreviewDraw({"x", "1", "10", "0", "2", "-5", "15"}, 241, 201, still);
+  EXPECT_FALSE(preview.Figures);
+  EXPECT_EQ(preview.FiguresText(), "");
+}
+
 }  // namespace
 }  // namespace veerwatch

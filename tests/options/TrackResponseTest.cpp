@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 
+#include "platform/NumberText.h"
 #include "tests/support/FixedRandom.h"
 
 namespace veerwatch {
@@ -76,6 +77,15 @@ TEST(TrackFigures, SteadyStateIsTheRunFromHalfOfItsLastSecondOn) {
   EXPECT_DOUBLE_EQ(TrackFiguresOf(9.0, {9.0, 9.0, 3.0, 3.0}).SteadyRootMeanSquare, 3.0);
   EXPECT_EQ(TrackFiguresOf(9.0, {-7.0}).SteadyRootMeanSquare, 7.0);
   EXPECT_EQ(TrackFiguresOf(9.0, {9.0, 0.0}).SteadyRootMeanSquare, 0.0);
+}
+
+TEST(TrackFigures, AreTheSameWordsWithEachWayToWriteNumbers) {
+  const TrackFigures figures = TrackFiguresOf(9.0, {9.0, -1.25, 0.5, 0.5});
+  const auto rough = [](float value) { return FormatNumber(value, "0.0"); };
+  EXPECT_THAT(TrackFigureTexts(figures, rough),
+              testing::ElementsAre("overshoot 1.3 deg", "settling time 2 s", "steady state 0.5 deg rms"));
+  EXPECT_THAT(TrackFigureTexts(TrackFiguresOf(9.0, {9.0, -1.25}), ShortestText),
+              testing::ElementsAre("overshoot 1.25 deg", "not settled", "steady state 1.25 deg rms"));
 }
 
 TEST(TrackFigures, StayFiniteForTheLargestBearings) {

@@ -269,6 +269,52 @@ TEST_F(OptionsDialog, ACountWithWhichAnAverageRunsAwayIsToldAndNotStored) {
   EXPECT_TRUE(Bold());
 }
 
+// The Tracking page
+
+TEST_F(OptionsDialog, TheResponseStandsInFiguresBeneathItsPlot) {
+  Start(frmOptions::Tracking);
+  Type("txtTrackBandwidth", "40");
+  Type("txtTrackDamping", "1");
+  Type("txtTrackNoise", "0");
+  Type("txtTrackTime", "2");
+  Click("cmdApply");
+  EXPECT_EQ(Text("lblTrackFigures"), "This run: overshoot 0.00 deg, not settled, steady state 8.10 deg rms");
+  const auto& figures = Find<QLabel>("lblTrackFigures");
+  const auto& plot = Find<QWidget>("pctTrack");
+  EXPECT_GT(figures.mapTo(Window.get(), QPoint()).y(),
+            plot.mapTo(Window.get(), QPoint(0, plot.height())).y());
+  Type("txtTrackTime", "x");
+  Click("cmdApply");
+  EXPECT_EQ(Text("lblTrackFigures"), "");
+}
+
+TEST_F(OptionsDialog, NumbersStandBesideAndBeneathThePlot) {
+  Start(frmOptions::Tracking);
+  auto& plot = Find<QWidget>("pctTrack");
+  auto& around = *plot.parentWidget();
+  const auto inked = [&around](const QRect& place) {
+    const QImage image = around.grab(place).toImage();
+    const QRgb ground = image.pixel(0, 0);
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        if (image.pixel(x, y) != ground) {
+          return true;
+        }
+      }
+    }
+    return false;
+  };
+  const QRect left(0, 0, plot.x(), around.height());
+  const QRect beneath(0, plot.y() + plot.height(), around.width(),
+                      around.height() - plot.y() - plot.height());
+  EXPECT_TRUE(inked(left));
+  EXPECT_TRUE(inked(beneath));
+  Type("txtTrackMin", "x");
+  Click("cmdApply");
+  EXPECT_FALSE(inked(left));
+  EXPECT_FALSE(inked(beneath));
+}
+
 // The Simulate page
 
 TEST_F(OptionsDialog, TheDataFrameFollowsTheLastReload) {
