@@ -215,9 +215,17 @@ frmOptions& OtherWindowsQt::Options() {
     m_options->setWindowIcon(ProgramIcon());
     m_options->NmeaStatus(m_inputState);
     m_options->PilotStatus(m_outputState);
+    m_options->TrackInUse(m_trackInUse);
     m_options->Closed([this] { m_options.release()->deleteLater(); });
   }
   return *m_options;
+}
+
+void OtherWindowsQt::TrackInUse(const std::optional<TrackTuning>& tuning) {
+  m_trackInUse = tuning;
+  if (m_options) {
+    m_options->TrackInUse(tuning);
+  }
 }
 
 void OtherWindowsQt::OptionsReload() {

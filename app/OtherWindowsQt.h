@@ -66,6 +66,8 @@ class OtherWindowsQt final : public HelmView,
   void OnManoeuvre(TurnButton button, float newHeading, float heading, float windAngleTrue) override;
   bool PolarVisible() const override { return m_polar && m_polar->isVisible(); }
 
+  /// What the loop tracks with, nothing while it does not track: for the options dialog.
+  void TrackInUse(const std::optional<TrackTuning>& tuning);
   /// Shows the settings in the options dialog, where it is loaded.
   void OptionsReload();
   /// The options dialog, made where it is not there yet.
@@ -120,8 +122,9 @@ class OtherWindowsQt final : public HelmView,
   std::unique_ptr<frmOptions> m_options;  ///< from its first use on, until its frame is closed
   std::unique_ptr<frmDiagram> m_diagram;  ///< null until it is shown for the first time
   std::unique_ptr<frmAbout> m_about;      ///< the same
-  std::string m_inputState;               ///< as the receiver told it last
-  std::string m_outputState;              ///< as the pilot output told it last
+  std::optional<TrackTuning> m_trackInUse;
+  std::string m_inputState;   ///< as the receiver told it last
+  std::string m_outputState;  ///< as the pilot output told it last
 };
 
 }  // namespace veerwatch

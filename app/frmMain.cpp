@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <optional>
 #include <utility>
 
 #include "app/IconsQt.h"
@@ -453,6 +454,7 @@ void frmMain::OnAlarmOver() {
 void frmMain::OnTrackMode(TrackMode mode) {
   m_instead.clear();
   m_others.OnTrackMode(mode);
+  m_others.TrackInUse(mode == TrackMode::Track ? std::optional(m_helm.Loop().Tuning()) : std::nullopt);
   if (mode != TrackMode::Switching) {
     m_tbrTrack->Button(mode)->setChecked(true);
   }

@@ -16,6 +16,7 @@ bool TrackLoop::StartTracking() {
   if (!gains) {
     return false;
   }
+  m_tuning = {m_settings.m_fTrackBandwidth, m_settings.m_fTrackDamping};
   m_trackGainIntegral = gains->Integral;
   m_trackGainProportional = gains->Proportional;
   m_trackIntegral = 0.0;

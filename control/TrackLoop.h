@@ -8,6 +8,12 @@
 
 namespace veerwatch {
 
+/// What a loop is tuned with.
+struct TrackTuning {
+  float Bandwidth = 0.0F;  ///< [s]
+  float Damping = 0.0F;
+};
+
 class TrackLoop {
  public:
   class Listener {
@@ -55,6 +61,8 @@ class TrackLoop {
   TrackSide Side() const { return m_side; }
   void Side(TrackSide side) { m_side = side; }
 
+  /// What the latest StartTracking that succeeded took from the settings; later settings wait for the next.
+  const TrackTuning& Tuning() const { return m_tuning; }
   double TrackIntegral() const { return m_trackIntegral; }
   double TrackGainIntegral() const { return m_trackGainIntegral; }
   double TrackGainProportional() const { return m_trackGainProportional; }
@@ -73,6 +81,7 @@ class TrackLoop {
   PilotOutput& m_pilot;
   Listener& m_listener;
   TrackSide m_side = TrackSide::Apparent;
+  TrackTuning m_tuning;
   double m_trackIntegral = 0.0;
   double m_trackGainIntegral = 0.0;
   double m_trackGainProportional = 0.0;

@@ -35,10 +35,12 @@ TrackPageQt::TrackPageQt(RandomSource& random, QWidget* parent)
       txtTrackMax(NewPreviewEntry("txtTrackMax", kTimeHint, "15", this)),
       pctTrack(new TrackPreviewQt(random, this)),
       Axes(new TrackAxesQt(*pctTrack, this)),
-      lblTrackFigures(NewText("", this)) {
+      lblTrackFigures(NewText("", this)),
+      lblTrackInUse(NewText("", this)) {
   lblTrackFigures->setObjectName(QStringLiteral("lblTrackFigures"));
   // However long the figures are, the page stays as wide as its boxes.
   lblTrackFigures->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  lblTrackInUse->setObjectName(QStringLiteral("lblTrackInUse"));
   NameControl(*chkTrackAlarm, "chkTrackAlarm", "Tracking Alarm");
   txtTrackAlarmLimit->setAccessibleName(QStringLiteral("Alarm Limit"));
   txtTrackMin->setAccessibleName(QStringLiteral("Lowest Bearing"));
@@ -66,6 +68,7 @@ QWidget* TrackPageQt::NewOptions() {
   rows->addWidget(NewText("deg", this), 1, 6);
   rows->addWidget(NewCaption("Da&mping:", txtTrackDamping, this), 2, 0);
   rows->addWidget(txtTrackDamping, 2, 1);
+  rows->addWidget(lblTrackInUse, 2, 4, 1, 4);
   rows->setColumnMinimumWidth(3, kGroupGap);
   rows->setColumnStretch(7, 1);
   return frame;

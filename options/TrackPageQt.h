@@ -39,6 +39,7 @@ class TrackPageQt final : public QWidget {
   TrackPreviewQt* pctTrack;
   TrackAxesQt* Axes;        ///< around pctTrack
   QLabel* lblTrackFigures;  ///< the response in figures
+  QLabel* lblTrackInUse;    ///< empty while the loop does not track
 
  private:
   QWidget* NewOptions();

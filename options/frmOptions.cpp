@@ -9,6 +9,7 @@
 
 #include "options/LoopDiagramQt.h"
 #include "options/SimulateTimeText.h"
+#include "options/TrackInUseText.h"
 #include "platform/WindowFrameQt.h"
 
 namespace veerwatch {
@@ -221,6 +222,10 @@ void frmOptions::PilotData(std::string_view line) {
 void frmOptions::NmeaStatus(std::string_view text) { m_input->Status->setText(Text(text)); }
 
 void frmOptions::PilotStatus(std::string_view text) { m_output->Status->setText(Text(text)); }
+
+void frmOptions::TrackInUse(const std::optional<TrackTuning>& tuning) {
+  m_track->lblTrackInUse->setText(tuning ? Text(TrackInUseText(*tuning)) : QString());
+}
 
 // Settings to controls and back
 

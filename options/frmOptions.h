@@ -8,10 +8,12 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <functional>
+#include <optional>
 #include <string_view>
 #include <utility>
 
 #include "app/MainWindowApi.h"
+#include "control/TrackLoop.h"
 #include "options/DataPageQt.h"
 #include "options/OptionsStore.h"
 #include "options/PortPageQt.h"
@@ -61,6 +63,9 @@ class frmOptions final : public QDialog {
   /// Shows the state of the input, and of the output.
   void NmeaStatus(std::string_view text);
   void PilotStatus(std::string_view text);
+
+  /// Shows what the loop tracks with; nothing while it does not track.
+  void TrackInUse(const std::optional<TrackTuning>& tuning);
 
   /// Whom to tell when the dialog was closed by its frame, to destroy it.
   void Closed(std::function<void()> handler) { m_closed = std::move(handler); }

@@ -82,6 +82,19 @@ TEST_F(TrackLoopTest, TheGainsFollowBandwidthAndDamping) {
   EXPECT_EQ(m_loop.TrackGainProportional(), 0.25);
 }
 
+TEST_F(TrackLoopTest, WorksWithTheTuningOfItsStartWhateverIsSetMeanwhile) {
+  m_settings.m_fTrackBandwidth = 8.0F;
+  m_settings.m_fTrackDamping = 0.5F;
+  ASSERT_TRUE(m_loop.StartTracking());
+  m_settings.m_fTrackBandwidth = 30.0F;
+  m_settings.m_fTrackDamping = 2.0F;
+  EXPECT_EQ(m_loop.Tuning().Bandwidth, 8.0F);
+  EXPECT_EQ(m_loop.Tuning().Damping, 0.5F);
+  m_settings.m_fTrackBandwidth = 0.0F;
+  ASSERT_FALSE(m_loop.StartTracking());
+  EXPECT_EQ(m_loop.Tuning().Bandwidth, 8.0F);
+}
+
 TEST_F(TrackLoopTest, StartingZeroesTheAccumulator) {
   Track();
   Step(10.0F);

@@ -30,6 +30,7 @@ class OptionsAppearance : public OptionsTester {
     Start(frmOptions::Input);
     Window->NmeaStatus("Running");
     Window->PilotStatus("Running");
+    Window->TrackInUse(TrackTuning{33.5F, 2.25F});
     Find<QRadioButton>("optNmeaListOn").setChecked(true);
     for (int i = 0; i < 30; ++i) {
       Window->NmeaData("$IIMWV,045.0,R,12." + std::to_string(i % 10) + ",N,A*2A", i % 4 != 0);

@@ -264,6 +264,23 @@ TEST_F(OptionsMain, AppearsInTheMiddleWithItsFrame) {
   EXPECT_EQ(Loaded()->pos(), first.At);
 }
 
+TEST_F(OptionsMain, SaysWhatTrackWorksWithUntilTrackIsPressedAgain) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("40", "60"));
+  Mode(7);
+  Open("mnuOptionsTrack");
+  EXPECT_EQ(In<QLabel>("lblTrackInUse").text(), "In use: 20 s, 4. Press Track to use what you apply.");
+  TypeIn("txtTrackBandwidth", "33.5");
+  TypeIn("txtTrackDamping", "2");
+  ClickIn("cmdApply");
+  ASSERT_EQ(Window->m_fTrackBandwidth, 33.5F);
+  EXPECT_EQ(In<QLabel>("lblTrackInUse").text(), "In use: 20 s, 4. Press Track to use what you apply.");
+  Mode(7);
+  EXPECT_EQ(In<QLabel>("lblTrackInUse").text(), "In use: 33.5 s, 2. Press Track to use what you apply.");
+  Mode(5);
+  EXPECT_EQ(In<QLabel>("lblTrackInUse").text(), "");
+}
+
 TEST_F(OptionsMain, GoesWithTheMainWindow) {
   Start(kOnPorts);
   Open("mnuOptionsInput");

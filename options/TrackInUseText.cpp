@@ -1,0 +1,12 @@
+#include "options/TrackInUseText.h"
+
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+
+std::string TrackInUseText(const TrackTuning& tuning) {
+  return "In use: " + ShortestText(tuning.Bandwidth) + " s, " + ShortestText(tuning.Damping) +
+         ". Press Track to use what you apply.";
+}
+
+}  // namespace veerwatch
