@@ -17,9 +17,10 @@ void WearNightColours(bool night) {
   // Tool tips have a palette of their own, without which they would light up the cabin.
   static const QPalette desktopTips = QToolTip::palette();
   QApplication::setPalette(night ? NightPalette() : QPalette());
-  // The pages of a dialog are filled with the colour of buttons, which is raised, a third brighter.
+  // The pages of a dialog are filled with the colour of buttons, which is raised, a third brighter. White is
+  // drawn over their edges, thinly: red enough beneath it keeps these from being grey.
   QPalette pages(NightPalette());
-  pages.setColor(QPalette::Button, Mixed(pages.color(QPalette::Window), Qt::black, 0.25));
+  pages.setColor(QPalette::Button, Mixed(pages.color(QPalette::Window), Qt::black, 0.17));
   QApplication::setPalette(night ? pages : QPalette(), "QTabWidget");
   QApplication::setPalette(night ? pages : QPalette(), "QTabBar");
   static NightCaretQt caret;
