@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <charconv>
 #include <filesystem>
 #include <fstream>
@@ -19,6 +18,8 @@
 #include <system_error>
 #include <utility>
 #include <vector>
+
+#include "platform/VisibleText.h"
 
 namespace veerwatch {
 
@@ -35,7 +36,9 @@ std::string DevicePath(std::string device) {
 
 #ifdef _WIN32
 
-std::string PortFailure(std::string device, const std::string& reason) { return device + ": " + reason; }
+std::string PortFailure(std::string device, const std::string& reason) {
+  return VisibleText(device + ": " + reason);
+}
 
 #else
 
@@ -57,8 +60,6 @@ std::optional<pid_t> ProcessNumber(std::string_view name) {
 std::string ProgramName(pid_t process) {
   std::string name;
   std::getline(std::ifstream("/proc/" + std::to_string(process) + "/comm"), name);
-  std::replace_if(
-      name.begin(), name.end(), [](unsigned char c) { return std::iscntrl(c) != 0; }, '?');
   return name;
 }
 
@@ -162,7 +163,7 @@ std::string NoPermission(const fs::path& device) {
 
 std::string PortFailure(std::string device, const std::string& reason) {
   device = DevicePath(std::move(device));
-  const auto because = [&device](const std::string& text) { return device + ": " + text; };
+  const auto because = [&device](const std::string& text) { return VisibleText(device + ": " + text); };
   std::error_code error;
   const fs::path file = fs::canonical(device, error);
   if (error) {

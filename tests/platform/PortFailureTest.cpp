@@ -124,6 +124,10 @@ TEST(PortFailure, NamesTheGroupThatMayOpenTheDevice) {
   EXPECT_EQ(said, name + ": no permission, add yourself to the group dialout");
 }
 
+TEST(PortFailure, ShowsControlCharactersAsPictures) {
+  EXPECT_EQ(PortFailure("/dev/no\x1Bwhere", ""), "/dev/no\u241Bwhere: no such device");
+}
+
 }  // namespace
 }  // namespace veerwatch
 #endif
