@@ -151,10 +151,7 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   const SessionQt session(application, window);
 
   window.Form_Load();
-  window.show();
-  // In front of the windows that the profile has opened again.
-  window.raise();
-  window.activateWindow();
+  window.ShowInFront();
   if (started) {
     started(window);
   }

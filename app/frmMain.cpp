@@ -1,7 +1,6 @@
 #include "app/frmMain.h"
 
 #include <QApplication>
-#include <QCloseEvent>
 #include <QLineEdit>
 #include <QScreen>
 #include <QShortcut>
@@ -157,6 +156,12 @@ void frmMain::ApplyTheme() {
 
 void frmMain::Form_Load() { ProfileRecall(true); }
 
+void frmMain::ShowInFront() {
+  show();
+  raise();
+  activateWindow();
+}
+
 void frmMain::ProfileRecall(bool recall) {
   SettingsDefault(*this);
   m_sProfileFile = m_parts.ProfileFile;
@@ -183,36 +188,6 @@ void frmMain::AutoPilotSet(float bearing) {
   OnAutoPilot(m_fAutoPilot);
 }
 
-// The close
-
-void frmMain::CloseUnasked() {
-  m_ask = false;
-  if (QWidget* question = QApplication::activeModalWidget()) {
-    question->close();
-  }
-  // The close that asks goes on behind its question.
-  if (!m_asking) {
-    close();
-  }
-}
-
-void frmMain::KeepSettings() {
-  // What was edited in the file meanwhile stays.
-  Profile present;
-  const Profile::LoadResult result = present.Load(m_sProfileFile);
-  if (result == Profile::LoadResult::Read) {
-    m_parts.Store = std::move(present);
-  } else if (result == Profile::LoadResult::Unreadable) {
-    std::fprintf(stderr, "%s: cannot be read any more%s\n", VisibleText(m_sProfileFile).c_str(),
-                 OtherKind(m_sProfileFile).empty() ? ", it is put aside" : "");
-  }
-  ProfileWrite(m_parts.Store, *this, m_others);
-  m_others.Store();
-  if (const auto failure = m_parts.Store.Commit(m_sProfileFile)) {
-    std::fprintf(stderr, "%s\n", failure->c_str());
-  }
-}
-
 void frmMain::tmrNmea_Timer() {
   m_helm.Tick();
   WatchWind();
@@ -223,47 +198,6 @@ void frmMain::WatchWind() {
   if (m_windWatch.Tick()) {
     ShowModeText();
   }
-}
-
-void frmMain::tmrUnload_Timer() {
-  m_parts.tmrUnload.Enabled(false);
-  close();
-}
-
-bool frmMain::StopTracking() {
-  // Deliberate: "is current tracking".
-  m_asking = true;
-  const bool yes =
-      m_parts.Asks.AskYesNo(std::string(kApplicationTitle) + " - Closing",
-                            "Veerwatch is current tracking the wind.\rDo you wish to stop tracking?");
-  m_asking = false;
-  return yes || !m_ask;
-}
-
-void frmMain::closeEvent(QCloseEvent* event) {
-  if (m_unloaded) {
-    event->accept();
-    return;
-  }
-  const bool tracking = m_tbrTrack->Button(TrackMode::Track)->isChecked();
-  if (m_ask && tracking && !StopTracking()) {
-    event->ignore();
-    return;
-  }
-  LeaveControls();
-  m_others.PilotTaken();
-  NmeaStop();
-  PilotStop();
-  if (m_helm.Receiver().Receiving()) {
-    m_ask = false;
-    m_parts.tmrUnload.Enabled(true);
-    event->ignore();
-    return;
-  }
-  KeepSettings();
-  m_unloaded = true;
-  m_others.Hide();
-  event->accept();
 }
 
 void frmMain::resizeEvent(QResizeEvent* event) {

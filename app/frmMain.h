@@ -29,6 +29,9 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   /// Reads the profile and goes to Setup, or to Manual when simulating. Once, before the window is shown.
   void Form_Load();
 
+  /// Shows the window in front of those that the profile has opened again.
+  void ShowInFront();
+
   /// Closes in order without asking anything, even while a question is open: for the end of the session.
   void CloseUnasked();
 

@@ -40,6 +40,14 @@ TEST_F(PolarMain, OpensFromTheMenuAndIsTickedWhileItShows) {
   EXPECT_TRUE(Ticked());
 }
 
+TEST_F(PolarMain, StartsBehindTheMainWindow) {
+  Start(std::string(kSimulated) + "[Polar Window]\nVisible=True\n");
+  Polar()->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(Polar()));
+  Window->ShowInFront();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(Window.get()));
+}
+
 TEST_F(PolarMain, OpensAgainWhenTheProfileSaysSo) {
   Start(std::string(kSimulated) + "[Polar Window]\nVisible=True\n");
   ASSERT_NE(Polar(), nullptr);
