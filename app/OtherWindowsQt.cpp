@@ -214,6 +214,9 @@ frmOptions& OtherWindowsQt::Options() {
     m_options = std::make_unique<frmOptions>(frmOptions::Parts{m_main, *this, m_parts.Asks, m_parts.Random});
     m_options->setWindowIcon(ProgramIcon());
     m_options->NmeaStatus(m_inputState);
+    m_options->NmeaReason(m_inputFailure);
+    m_options->PilotReason(m_outputFailure);
+    m_options->SourceAdvice(m_advice);
     m_options->PilotStatus(m_outputState);
     m_options->TrackInUse(m_trackInUse);
     m_options->Closed([this] { m_options.release()->deleteLater(); });
@@ -253,6 +256,27 @@ void OtherWindowsQt::OnInputState(std::string_view text) {
     }
   }
   HelmChanged();
+}
+
+void OtherWindowsQt::OnInputFailure(std::string_view reason) {
+  m_inputFailure = reason;
+  if (m_options) {
+    m_options->NmeaReason(m_inputFailure);
+  }
+}
+
+void OtherWindowsQt::OnOutputFailure(std::string_view reason) {
+  m_outputFailure = reason;
+  if (m_options) {
+    m_options->PilotReason(m_outputFailure);
+  }
+}
+
+void OtherWindowsQt::OnSourceAdvice(const std::vector<std::string>& lines) {
+  m_advice = lines;
+  if (m_options) {
+    m_options->SourceAdvice(lines);
+  }
 }
 
 void OtherWindowsQt::OnOutputState(std::string_view text) {

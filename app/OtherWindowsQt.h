@@ -9,6 +9,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/Helm.h"
 #include "app/MainWindowApi.h"
@@ -83,6 +84,9 @@ class OtherWindowsQt final : public HelmView,
   void OnPolarUpdate(TrackMode mode, const InstrumentData& record) override;
   void OnInputState(std::string_view text) override;
   void OnOutputState(std::string_view text) override;
+  void OnInputFailure(std::string_view reason) override;
+  void OnOutputFailure(std::string_view reason) override;
+  void OnSourceAdvice(const std::vector<std::string>& lines) override;
   void OnNmeaListCleared() override;
   void OnNmeaData(std::string_view line, bool used) override;
   void OnNmeaError(std::string_view text) override;
@@ -123,8 +127,11 @@ class OtherWindowsQt final : public HelmView,
   std::unique_ptr<frmDiagram> m_diagram;  ///< null until it is shown for the first time
   std::unique_ptr<frmAbout> m_about;      ///< the same
   std::optional<TrackTuning> m_trackInUse;
-  std::string m_inputState;   ///< as the receiver told it last
-  std::string m_outputState;  ///< as the pilot output told it last
+  std::string m_inputState;           ///< as the receiver told it last
+  std::string m_inputFailure;         ///< as the receiver told it last
+  std::vector<std::string> m_advice;  ///< as the receiver told it last
+  std::string m_outputState;          ///< as the pilot output told it last
+  std::string m_outputFailure;        ///< as the pilot output told it last
 };
 
 }  // namespace veerwatch

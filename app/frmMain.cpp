@@ -350,6 +350,32 @@ void frmMain::OnValuesBlanked() { m_panel->BlankValues(); }
 
 void frmMain::OnInputStatus(std::string_view text) { m_status->Show(StatusPanelsQt::kInput, Text(text)); }
 
+void frmMain::OnInputFailure(std::string_view reason) {
+  m_status->Explain(StatusPanelsQt::kInput, Text(reason));
+  m_others.OnInputFailure(reason);
+}
+
+void frmMain::OnOutputFailure(std::string_view reason) {
+  m_status->Explain(StatusPanelsQt::kOutput, Text(reason));
+  m_others.OnOutputFailure(reason);
+}
+
+void frmMain::OnSourceAdvice(const std::vector<std::string>& lines) {
+  m_advice = lines;
+  ShowAdvice();
+  m_others.OnSourceAdvice(lines);
+}
+
+void frmMain::ShowAdvice() {
+  std::string text;
+  if (m_eTrackMode == TrackMode::Setup) {
+    for (const std::string& line : m_advice) {
+      text += (text.empty() ? "" : ". ") + line;
+    }
+  }
+  NoticeSet(NoticeKind::Source, text);
+}
+
 void frmMain::OnOutputStatus(std::string_view text) { m_status->Show(StatusPanelsQt::kOutput, Text(text)); }
 
 void frmMain::OnDesired(float apparent, float trueWind) {
@@ -389,6 +415,7 @@ void frmMain::OnTrackMode(TrackMode mode) {
   m_instead.clear();
   m_others.OnTrackMode(mode);
   m_others.TrackInUse(mode == TrackMode::Track ? std::optional(m_helm.Loop().Tuning()) : std::nullopt);
+  ShowAdvice();
   if (mode != TrackMode::Switching) {
     m_tbrTrack->Button(mode)->setChecked(true);
   }

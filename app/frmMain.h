@@ -8,6 +8,7 @@
 #include <array>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/Helm.h"
 #include "app/InstrumentPanelQt.h"
@@ -37,6 +38,9 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
 
   /// Writes the profile as a close does and goes on. What goes wrong is said on standard error.
   void KeepSettings();
+
+  /// Says `text` in the line under the mode bar, as long as `kind` has nothing else to say; "" withdraws it.
+  void NoticeSet(NoticeKind kind, const std::string& text) { m_notice->Set(kind, text); }
 
   void tmrNmea_Timer();
   void tmrUnload_Timer();
@@ -83,6 +87,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void ApplyTheme();
   void ShowControls();
   void ShowModeText();
+  /// In Setup the line under the mode bar says what the sources do not bring.
+  void ShowAdvice();
   /// A second has passed. Once a wind has not come for four of them the mode's text says so.
   void WatchWind();
 
@@ -108,6 +114,9 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void OnOutputStatus(std::string_view text) override;
   void OnInputState(std::string_view text) override { m_others.OnInputState(text); }
   void OnOutputState(std::string_view text) override { m_others.OnOutputState(text); }
+  void OnInputFailure(std::string_view reason) override;
+  void OnOutputFailure(std::string_view reason) override;
+  void OnSourceAdvice(const std::vector<std::string>& lines) override;
   void OnNmeaListCleared() override { m_others.OnNmeaListCleared(); }
   void OnNmeaData(std::string_view line, bool used) override { m_others.OnNmeaData(line, used); }
   void OnNmeaError(std::string_view text) override { m_others.OnNmeaError(text); }
@@ -139,6 +148,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   WindWatch m_windWatch;
   bool m_asking = false;    ///< the question of the close is open
   bool m_unloaded = false;  ///< the profile is written, everything is closed
+  std::vector<std::string> m_advice;  ///< what the sources do not bring
 };
 
 }  // namespace veerwatch

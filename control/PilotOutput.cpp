@@ -1,6 +1,7 @@
 #include "control/PilotOutput.h"
 
 #include <cmath>
+#include <utility>
 
 #include "control/PilotSentence.h"
 
@@ -36,6 +37,9 @@ void PilotOutput::PilotStart() {
     m_started = true;
     m_ticks = 0;
   }
+  if (m_settings.m_bSimulate || !OwnPort()) {
+    Failure("");
+  }
   if (m_settings.m_bSimulate) {
     Status("Simulate");
     m_listener.OnOutputState("Simulate");
@@ -51,6 +55,7 @@ void PilotOutput::PilotStart() {
 void PilotOutput::PilotStop() {
   m_started = false;
   m_pilotPort.PortOpen(false);
+  Failure("");
   if (m_notOpenShown) {
     Status("");
   }
@@ -59,11 +64,19 @@ void PilotOutput::PilotStop() {
 void PilotOutput::OpenPort() {
   m_pilotPort.CommPort(m_settings.m_iPilotPort);
   const bool open = m_pilotPort.PortOpen(true);
+  Failure(open ? "" : m_pilotPort.OpenFailure());
   if (!open) {
     Status("Output Port " + std::to_string(m_settings.m_iPilotPort) + " Not Open");
     m_notOpenShown = true;
   } else if (m_notOpenShown) {
     Status("");
+  }
+}
+
+void PilotOutput::Failure(std::string reason) {
+  if (reason != m_failure) {
+    m_failure = std::move(reason);
+    m_listener.OnOutputFailure(m_failure);
   }
 }
 
@@ -76,6 +89,7 @@ void PilotOutput::Tick() {
     m_pilotPort.PortOpen(false);
   }
   if (!OwnPort()) {
+    Failure("");
     if (m_notOpenShown) {
       Status("");
     }

@@ -20,6 +20,8 @@ class PilotOutput final : public SerialPort::Events {
     virtual void OnOutputStatus(std::string_view /*text*/) {}
     /// State of the output: "Running" or "Simulate".
     virtual void OnOutputState(std::string_view /*text*/) {}
+    /// Why the pilot's own port is not open, as the system says; "" when it is, or is not wanted.
+    virtual void OnOutputFailure(std::string_view /*reason*/) {}
     /// Each sentence that is built, without its line end, whether or not a port is open to take it.
     virtual void OnPilotData(std::string_view /*sentence*/) {}
   };
@@ -58,6 +60,7 @@ class PilotOutput final : public SerialPort::Events {
   bool OwnPort() const { return m_settings.m_iNmeaPort != m_settings.m_iPilotPort; }
   void CloseUnneeded();
   void OpenPort();
+  void Failure(std::string reason);
   void Status(std::string_view text);
 
   const Settings& m_settings;
@@ -68,6 +71,7 @@ class PilotOutput final : public SerialPort::Events {
   bool m_notOpenShown = false;
   int m_ticks = 0;
   std::uint64_t m_simulated = 0;  ///< sentences for the simulated boat
+  std::string m_failure;
   std::string m_sentence;
   std::string m_dropped;
 };

@@ -26,7 +26,12 @@ DataPageQt::DataPageQt(QWidget* parent)
                                                     "Wind Indicator Average Time (sec, 0=none)", this)),
       txtNmeaTrueWindAverage(
           new OptionEntryQt("txtNmeaTrueWindAverage", "True Wind Average Time (sec, 0=none)", this)),
+      lblSourceAdvice(new QLabel(this)),
       SentencePlace(new QWidget(this)) {
+  NameControl(*lblSourceAdvice, "lblSourceAdvice", "What the chosen sources do not bring");
+  lblSourceAdvice->setTextFormat(Qt::PlainText);
+  lblSourceAdvice->setWordWrap(true);
+  lblSourceAdvice->hide();
   auto* rows = new QGridLayout;
   const auto source = [this, rows](int row, const char* caption, QComboBox* box) {
     rows->addWidget(NewCaption(caption, box, this), row, 0);
@@ -48,6 +53,7 @@ DataPageQt::DataPageQt(QWidget* parent)
 
   auto* page = new QVBoxLayout(this);
   page->addLayout(rows);
+  page->addWidget(lblSourceAdvice);
   page->addWidget(SentencePlace, 1);
 }
 
@@ -57,6 +63,15 @@ void DataPageQt::Show(const OptionsForm& form) const {
   cmbNmeaBoatSpeed->setCurrentIndex(form.NmeaBoatSpeed);
   txtNmeaTrueWindAverage->setText(QString::fromStdString(form.NmeaTrueWindAverage));
   txtNmeaWindIndicatorAverage->setText(QString::fromStdString(form.NmeaWindIndicatorAverage));
+}
+
+void DataPageQt::Advise(const std::vector<std::string>& lines) const {
+  QStringList texts;
+  for (const std::string& line : lines) {
+    texts.append(QString::fromStdString(line));
+  }
+  lblSourceAdvice->setText(texts.join(QLatin1Char('\n')));
+  lblSourceAdvice->setVisible(!lines.empty());
 }
 
 void DataPageQt::Read(OptionsForm& form) const {

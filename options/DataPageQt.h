@@ -3,6 +3,9 @@
 #pragma once
 
 #include <QComboBox>
+#include <QLabel>
+#include <string>
+#include <vector>
 
 #include "options/OptionControlsQt.h"
 #include "options/OptionsForm.h"
@@ -15,13 +18,16 @@ class DataPageQt final : public QWidget {
 
   void Show(const OptionsForm& form) const;
   void Read(OptionsForm& form) const;
+  /// Says what the chosen sources do not bring, a line each; nothing for none.
+  void Advise(const std::vector<std::string>& lines) const;
 
   QComboBox* cmbNmeaTrueWind;
   QComboBox* cmbNmeaHeading;
   QComboBox* cmbNmeaBoatSpeed;
   OptionEntryQt* txtNmeaWindIndicatorAverage;
   OptionEntryQt* txtNmeaTrueWindAverage;
-  QWidget* SentencePlace;  ///< where the list of the sentences goes
+  QLabel* lblSourceAdvice;  ///< hidden while empty
+  QWidget* SentencePlace;   ///< where the list of the sentences goes
 };
 
 }  // namespace veerwatch

@@ -34,6 +34,7 @@ const PortPageTexts& InputPageTexts() {
   static constexpr PortPageTexts kTexts{
       {"txtNmeaPort", "Input Comm Port"},
       {"lblNmeaStatus", "Input Comm Status"},
+      {"lblNmeaReason", "Why the Input Comm Port is not open"},
       {"optNmeaListOff", "Input Display Comm Data - Off"},
       {"optNmeaListOn", "Input Display Comm Data - On"},
       // Deliberate: "Nema".
@@ -52,6 +53,7 @@ const PortPageTexts& OutputPageTexts() {
   static constexpr PortPageTexts kTexts{
       {"txtPilotPort", "Output Comm Port"},
       {"lblPilotStatus", "Output Comm Status"},
+      {"lblPilotReason", "Why the Output Comm Port is not open"},
       {"OptPilotListOff", "Output Display Comm Data - Off"},
       {"optPilotListOn", "Output Display Comm Data - On"},
       {"lstPilotData", "Output Nema Data"},
@@ -64,6 +66,7 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
     : QWidget(parent),
       Port(new OptionEntryQt(texts.Port.Name, texts.Port.Hint, this)),
       Status(new QLabel(this)),
+      Reason(new QLabel(this)),
       ListOff(NewOption("Of&f", texts.ListOff, this)),
       ListOn(NewOption("O&n", texts.ListOn, this)),
       Pause(new QCheckBox(QStringLiteral("Pa&use"), this)),
@@ -73,10 +76,19 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
   Status->setAccessibleName(QLatin1String(texts.Status.Hint));
   Status->setTextFormat(Qt::PlainText);
 
+  NameControl(*Reason, texts.Reason.Name, texts.Reason.Hint);
+  Reason->setAccessibleName(QLatin1String(texts.Reason.Hint));
+  Reason->setTextFormat(Qt::PlainText);
+  Reason->setWordWrap(true);
+  Reason->hide();
+
   auto* port = new QHBoxLayout;
   port->addWidget(Port);
   port->addSpacing(kGroupGap / 2);
-  port->addWidget(Status, 1);
+  port->addWidget(Status);
+  port->addSpacing(kGroupGap / 2);
+  port->addWidget(Reason, 1);
+  port->addStretch();
   auto* rows = new QGridLayout;
   rows->setColumnStretch(1, 1);
   rows->addWidget(NewCaption("&Comm:", Port, this), 0, 0);
@@ -113,6 +125,11 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
   auto* page = new QVBoxLayout(this);
   page->addLayout(rows);
   page->addWidget(List, 1);
+}
+
+void PortPageQt::Explain(const std::string& reason) const {
+  Reason->setText(QString::fromStdString(reason));
+  Reason->setVisible(!reason.empty());
 }
 
 void PortPageQt::OfferTypes() {

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <array>
+#include <string>
 
 #include "options/LiveListQt.h"
 #include "options/OptionControlsQt.h"
@@ -22,6 +23,7 @@ struct PortPageTexts {
   };
   Control Port;
   Control Status;
+  Control Reason;
   Control ListOff;
   Control ListOn;
   Control List;
@@ -41,8 +43,12 @@ class PortPageQt final : public QWidget {
  public:
   PortPageQt(const PortPageTexts& texts, QWidget* parent);
 
+  /// Says beside the status why the port is not open; "" for nothing.
+  void Explain(const std::string& reason) const;
+
   OptionEntryQt* Port;
   QLabel* Status;
+  QLabel* Reason;  ///< hidden while empty
   QRadioButton* ListOff;
   QRadioButton* ListOn;
   std::array<QRadioButton*, 2> Format{};  ///< null where there is no choice

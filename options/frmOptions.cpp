@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "options/DeviceHint.h"
 #include "options/LoopDiagramQt.h"
 #include "options/SimulateTimeText.h"
 #include "options/TrackInUseText.h"
@@ -221,6 +222,12 @@ void frmOptions::PilotData(std::string_view line) {
 
 void frmOptions::NmeaStatus(std::string_view text) { m_input->Status->setText(Text(text)); }
 
+void frmOptions::NmeaReason(const std::string& text) { m_input->Explain(text); }
+
+void frmOptions::PilotReason(const std::string& text) { m_output->Explain(text); }
+
+void frmOptions::SourceAdvice(const std::vector<std::string>& lines) { m_data->Advise(lines); }
+
 void frmOptions::PilotStatus(std::string_view text) { m_output->Status->setText(Text(text)); }
 
 void frmOptions::TrackInUse(const std::optional<TrackTuning>& tuning) {
@@ -259,7 +266,8 @@ void frmOptions::OptionsReload() {
 
 bool frmOptions::OptionsApply() {
   if (const auto problem = m_store.Store(Form())) {
-    m_parts.Asks.Inform(kApplicationTitle, *problem);
+    const std::string hint = DeviceHint(Form());
+    m_parts.Asks.Inform(kApplicationTitle, hint.empty() ? *problem : *problem + "\r\r" + hint);
     return false;
   }
   ApplyBold(false);

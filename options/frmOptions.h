@@ -63,6 +63,12 @@ class frmOptions final : public QDialog {
   /// Shows the state of the input, and of the output.
   void NmeaStatus(std::string_view text);
   void PilotStatus(std::string_view text);
+  /// Shows why the port of the input is not open; "" hides it.
+  void NmeaReason(const std::string& text);
+  /// The same for the output.
+  void PilotReason(const std::string& text);
+  /// Shows on the Data page what the chosen sources do not bring; nothing hides it.
+  void SourceAdvice(const std::vector<std::string>& lines);
 
   /// Shows what the loop tracks with; nothing while it does not track.
   void TrackInUse(const std::optional<TrackTuning>& tuning);

@@ -1,0 +1,105 @@
+// What the main window and the options say beside their status texts.
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+
+#include "tests/ui/MainWindowTester.h"
+
+namespace veerwatch {
+namespace {
+
+class MainWindowNotices : public MainWindowTester {
+ public:
+  bool LineShown() const { return Find<QWidget>("NoticeLine").isVisible(); }
+  std::string Line() const { return LineShown() ? Text("lblNotice") : ""; }
+
+  static frmOptions* Options() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (auto* options = dynamic_cast<frmOptions*>(window)) {
+        return options;
+      }
+    }
+    return nullptr;
+  }
+
+  /// `seconds` in each of which these lines come.
+  void Sail(const char* lines, int seconds) {
+    for (int i = 0; i < seconds; ++i) {
+      NmeaPort.Receive(lines);
+      tmrNmea.Tick();
+    }
+  }
+
+};
+
+constexpr const char* kOverGround = "[Nmea]\nPort=3\nTrue Wind=0\nHeading=1\nBoat Speed=1\n[Pilot]\nPort=4\n";
+constexpr const char* kCompassOnly = "$IIHDG,123.4,,,5.0,W\r";
+
+TEST_F(MainWindowNotices, SayInSetupWhatTheSourcesDoNotBring) {
+  Start(kOverGround);
+  EXPECT_FALSE(LineShown());
+  Sail(kCompassOnly, 8);
+  EXPECT_EQ(Line(), "Heading: nothing from RMC or VTG; HDG is there");
+  Mode(5);
+  EXPECT_FALSE(LineShown()) << "only in Setup";
+  Mode(3);
+  Sail(kCompassOnly, 8);
+  EXPECT_TRUE(LineShown());
+  Sail("$GPVTG,054.7,T,034.4,M,005.5,N,010.2,K\r", 1);
+  EXPECT_FALSE(LineShown());
+}
+
+TEST_F(MainWindowNotices, SayItOnTheDataTab) {
+  Start(kOverGround);
+  Sail(kCompassOnly, 8);
+  Find<QAction>("mnuOptionsData").trigger();
+  const auto* advice = Options()->findChild<QLabel*>(QStringLiteral("lblSourceAdvice"));
+  ASSERT_NE(advice, nullptr);
+  EXPECT_TRUE(advice->isVisible());
+  EXPECT_EQ(advice->text(), "Heading: nothing from RMC or VTG; HDG is there");
+  Sail("$GPVTG,054.7,T,034.4,M,005.5,N,010.2,K\r", 1);
+  EXPECT_FALSE(advice->isVisible());
+  Sail("$IIMWV,045,R,5.4,M,A\r", 1);
+  EXPECT_EQ(advice->text(), "Wind: MWV brings metres per second; only knots are read");
+}
+
+TEST_F(MainWindowNotices, KeepTheSystemsReasonWhileThePortIsNotOpen) {
+  NmeaPort.OpensOtherwise = false;
+  NmeaPort.Failure = "/dev/ttyUSB0: in use by another program, gpsd";
+  PilotPort.OpensOtherwise = false;
+  PilotPort.Failure = "/dev/ttyUSB1: no such device";
+  Start(kOverGround);
+  EXPECT_EQ(Find<QLabel>("StatusBar(2)").toolTip().toStdString(), "Input Data Status\n" + NmeaPort.Failure);
+  tmrNmea.Tick(6);
+  EXPECT_EQ(Text("StatusBar(2)"), "No Input Data");
+  EXPECT_EQ(Find<QLabel>("StatusBar(2)").toolTip().toStdString(), "Input Data Status\n" + NmeaPort.Failure);
+  Find<QAction>("mnuOptionsInput").trigger();
+  const auto* reason = Options()->findChild<QLabel*>(QStringLiteral("lblNmeaReason"));
+  ASSERT_NE(reason, nullptr);
+  EXPECT_TRUE(reason->isVisible());
+  EXPECT_EQ(reason->text().toStdString(), NmeaPort.Failure);
+  Mode(5);
+  EXPECT_EQ(Find<QLabel>("StatusBar(3)").toolTip().toStdString(), "Output Data Status\n" + PilotPort.Failure);
+  EXPECT_EQ(Options()->findChild<QLabel*>(QStringLiteral("lblPilotReason"))->text().toStdString(),
+            PilotPort.Failure);
+  NmeaPort.OpensOtherwise = true;
+  PilotPort.OpensOtherwise = true;
+  tmrNmea.Tick(4);
+  EXPECT_EQ(Find<QLabel>("StatusBar(2)").toolTip(), "Input Data Status");
+  EXPECT_EQ(Find<QLabel>("StatusBar(3)").toolTip(), "Output Data Status");
+  EXPECT_FALSE(reason->isVisible());
+}
+
+TEST_F(MainWindowNotices, ALineThatIsTooLongLeavesTheWindowAsItIs) {
+  Start(kOnPorts);
+  Window->resize(600, 420);
+  Window->NoticeSet(NoticeKind::Save, std::string(2000, 'W'));
+  QTest::qWait(0);
+  EXPECT_EQ(Window->width(), 600);
+  EXPECT_TRUE(Find<QWidget>("cmdNoticeHide").isVisible());
+  EXPECT_LE(Window->minimumSizeHint().width(), 600);
+}
+
+}  // namespace
+}  // namespace veerwatch
