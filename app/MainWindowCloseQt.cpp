@@ -80,4 +80,21 @@ void frmMain::KeepSettings() {
   }
 }
 
+std::string frmMain::Keepable() {
+  m_others.Store();
+  Settings kept = *this;
+  kept.m_fAutoPilot = 0.0F;
+  kept.DesiredAngle = {};
+  Profile profile = m_parts.Store;
+  ProfileWrite(profile, kept, m_others);
+  return profile.Content();
+}
+
+void frmMain::tmrSave_Timer() {
+  if (!m_unloaded && m_bSaveWhileRunning && m_save.Tick(Keepable())) {
+    KeepSettings();
+    m_save.Saved(Keepable());
+  }
+}
+
 }  // namespace veerwatch

@@ -27,6 +27,8 @@ namespace veerwatch {
 
 namespace {
 
+constexpr int kSaveInterval = 1000;  // [ms]
+
 std::filesystem::path PathOf(const QString& path) { return std::filesystem::path(path.toStdU16String()); }
 
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
@@ -148,6 +150,9 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   tmrUnload.Ticks([&window] { window.tmrUnload_Timer(); });
   TimerTack.Ticks([&window] { window.TimerTack_Timer(); });
   OnTerminationRequest(&window, [&window] { window.CloseUnasked(); });
+  TimerQt tmrSave(QStringLiteral("tmrSave"));
+  tmrSave.Interval(kSaveInterval);
+  tmrSave.Ticks([&window] { window.tmrSave_Timer(); });
   const SessionQt session(application, window);
 
   window.Form_Load();
@@ -155,6 +160,7 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   if (started) {
     started(window);
   }
+  tmrSave.Enabled(true);
   return QApplication::exec();
 }
 

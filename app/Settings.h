@@ -60,6 +60,8 @@ struct Settings {
 
   bool m_bNightColours = false;  ///< red on black in every window
 
+  bool m_bSaveWhileRunning = false;  ///< settings are also saved ten seconds after a change
+
   /// Path of the profile file.
   std::string m_sProfileFile;
 };

@@ -68,6 +68,7 @@ void ProfileRead(const Profile& profile, Settings& settings, RememberedWindows& 
   profile.ProfileGet("Track", "Max SteerTo", settings.m_fTrackMaxSteerTo);
 
   profile.ProfileGet("View", "Night Colours", settings.m_bNightColours);
+  profile.ProfileGet("View", "Save While Running", settings.m_bSaveWhileRunning);
 
   bool visible = false;
   profile.ProfileGet("History Window", "Visible", visible);
@@ -115,6 +116,7 @@ void ProfileWrite(Profile& profile, const Settings& settings, const RememberedWi
   profile.ProfileSet("Track", "Desired 2", settings.DesiredAngle[2]);
   profile.ProfileSet("Track", "Max SteerTo", settings.m_fTrackMaxSteerTo);
   profile.ProfileSet("View", "Night Colours", settings.m_bNightColours);
+  profile.ProfileSet("View", "Save While Running", settings.m_bSaveWhileRunning);
   profile.ProfileSet("History Window", "Visible", windows.HistoryVisible());
   profile.ProfileSet("Polar Window", "Visible", windows.PolarVisible());
 }

@@ -118,6 +118,8 @@ void frmMain::ConnectControls() {
     m_bNightColours = checked;
     WearNightColours(checked);
   });
+  connect(m_menu.mnuViewSave, &QAction::toggled, this,
+          [this](bool checked) { m_bSaveWhileRunning = checked; });
   for (const TrackMode mode : {TrackMode::Off, TrackMode::Setup, TrackMode::Manual, TrackMode::Track}) {
     connect(m_tbrTrack->Button(mode), &QAction::triggered, this,
             [this, mode] { tbrTrack_ButtonClick(mode); });
@@ -172,6 +174,7 @@ void frmMain::ProfileRecall(bool recall) {
     ProfileRead(m_parts.Store, *this, m_others);
   }
   m_menu.mnuViewNight->setChecked(m_bNightColours);
+  m_menu.mnuViewSave->setChecked(m_bSaveWhileRunning);
   m_panel->txtAutoPilot->Show(Number(m_fAutoPilot, "0.0"));
   for (int index = 1; index <= 2; ++index) {
     m_panel->txtDesired[At(index)]->Show(Number(DesiredAngle[static_cast<std::size_t>(index)], "0"));
@@ -181,6 +184,9 @@ void frmMain::ProfileRecall(bool recall) {
     TrackSetManual();
   }
   m_others.OptionsReload();
+  if (recall) {
+    m_save.Saved(Keepable());
+  }
 }
 
 void frmMain::AutoPilotSet(float bearing) {

@@ -16,6 +16,7 @@
 #include "app/MainWindowParts.h"
 #include "app/NoticeLineQt.h"
 #include "app/OtherWindowsQt.h"
+#include "app/SaveWatch.h"
 #include "app/StatusPanelsQt.h"
 #include "app/frmMainCommands.h"
 #include "control/WindWatch.h"
@@ -41,6 +42,10 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
 
   /// Says `text` in the line under the mode bar, as long as `kind` has nothing else to say; "" withdraws it.
   void NoticeSet(NoticeKind kind, const std::string& text) { m_notice->Set(kind, text); }
+
+  /// A second has passed. Saves settings that were changed, with "Save While Running". Deliberate: what
+  /// follows the boat by itself, bearing and wanted angles, is saved along and sets nothing off.
+  void tmrSave_Timer();
 
   void tmrNmea_Timer();
   void tmrUnload_Timer();
@@ -89,6 +94,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void ShowModeText();
   /// In Setup the line under the mode bar says what the sources do not bring.
   void ShowAdvice();
+  /// The profile as far as a change of it is worth saving at once.
+  std::string Keepable();
   /// A second has passed. Once a wind has not come for four of them the mode's text says so.
   void WatchWind();
 
@@ -148,6 +155,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   WindWatch m_windWatch;
   bool m_asking = false;    ///< the question of the close is open
   bool m_unloaded = false;  ///< the profile is written, everything is closed
+  SaveWatch m_save;
   std::vector<std::string> m_advice;  ///< what the sources do not bring
 };
 

@@ -62,6 +62,9 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   mnuViewNight = Command(window, view, "mnuViewNight", "&Night Colours");
   mnuViewNight->setCheckable(true);
   mnuViewNight->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
+  mnuViewSave = Command(window, view, "mnuViewSave", "&Save While Running");
+  mnuViewSave->setCheckable(true);
+  mnuViewSave->setToolTip(QStringLiteral("Settings are also saved ten seconds after a change"));
   QMenu* options = window.menuBar()->addMenu(QStringLiteral("&Options"));
   mnuOptionsInput = Command(window, options, "mnuOptionsInput", "&Input...");
   mnuOptionsData = Command(window, options, "mnuOptionsData", "&Data...");

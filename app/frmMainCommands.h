@@ -19,6 +19,7 @@ struct frmMainMenu {
   QAction* mnuViewHistory;
   QAction* mnuViewPolar;
   QAction* mnuViewNight;
+  QAction* mnuViewSave;
   QAction* mnuOptionsInput;
   QAction* mnuOptionsData;
   QAction* mnuOptionsOutput;

@@ -117,6 +117,16 @@ TEST(SettingsProfile, TheNightColoursAreKept) {
   EXPECT_EQ(profile.Text("View", "Night Colours"), "True");
 }
 
+TEST(SettingsProfile, SavingWhileRunningIsKept) {
+  EXPECT_TRUE(ReadFrom(With("View", "Save While Running", "True")).m_bSaveWhileRunning);
+  EXPECT_FALSE(ReadFrom(Profile()).m_bSaveWhileRunning);
+  Settings settings;
+  settings.m_bSaveWhileRunning = true;
+  Profile profile;
+  ProfileWrite(profile, settings, Windows{});
+  EXPECT_EQ(profile.Text("View", "Save While Running"), "True");
+}
+
 TEST(SettingsDefault, LeavesTheNightColours) {
   Settings settings;
   settings.m_bNightColours = true;

@@ -31,6 +31,11 @@ class MainWindowNotices : public MainWindowTester {
     }
   }
 
+  void SaveTicks(int seconds) const {
+    for (int i = 0; i < seconds; ++i) {
+      Window->tmrSave_Timer();
+    }
+  }
 };
 
 constexpr const char* kOverGround = "[Nmea]\nPort=3\nTrue Wind=0\nHeading=1\nBoat Speed=1\n[Pilot]\nPort=4\n";
@@ -99,6 +104,46 @@ TEST_F(MainWindowNotices, ALineThatIsTooLongLeavesTheWindowAsItIs) {
   EXPECT_EQ(Window->width(), 600);
   EXPECT_TRUE(Find<QWidget>("cmdNoticeHide").isVisible());
   EXPECT_LE(Window->minimumSizeHint().width(), 600);
+}
+
+TEST_F(MainWindowNotices, WithoutSaveWhileRunningNothingIsSavedBeforeTheClose) {
+  Start(kOnPorts);
+  EXPECT_FALSE(Find<QAction>("mnuViewSave").isChecked());
+  Window->m_fTrackBandwidth = 33.0F;
+  SaveTicks(60);
+  EXPECT_EQ(ReadProfile(), kOnPorts);
+}
+
+TEST_F(MainWindowNotices, SaveWhileRunningSavesTenSecondsAfterAChange) {
+  Start(std::string(kOnPorts) + "[View]\nSave While Running=True\n");
+  EXPECT_TRUE(Find<QAction>("mnuViewSave").isChecked());
+  const std::string before = ReadProfile();
+  SaveTicks(60);
+  EXPECT_EQ(ReadProfile(), before) << "nothing was changed";
+  Window->m_fTrackBandwidth = 33.0F;
+  SaveTicks(10);
+  EXPECT_EQ(ReadProfile(), before);
+  SaveTicks(1);
+  EXPECT_THAT(ReadProfile(), testing::HasSubstr("Bandwidth=33\n"));
+}
+
+TEST_F(MainWindowNotices, SaveWhileRunningIsNotSetOffByABearingOrAWantedAngle) {
+  Start(std::string(kOnPorts) + "[View]\nSave While Running=True\n");
+  const std::string before = ReadProfile();
+  Window->AutoPilotSet(111.0F);
+  Window->DesiredAngle[1] = -60.0F;
+  SaveTicks(60);
+  EXPECT_EQ(ReadProfile(), before);
+  Window->m_fTrackBandwidth = 33.0F;
+  SaveTicks(11);
+  EXPECT_THAT(ReadProfile(), testing::HasSubstr("Bearing=111\n")) << "it goes along";
+}
+
+TEST_F(MainWindowNotices, SwitchingSaveWhileRunningOnSaves) {
+  Start(kOnPorts);
+  Find<QAction>("mnuViewSave").trigger();
+  SaveTicks(11);
+  EXPECT_THAT(ReadProfile(), testing::HasSubstr("Save While Running=True\n"));
 }
 
 }  // namespace
