@@ -6,13 +6,17 @@
 #include <utility>
 
 #include "app/frmMain.h"
-#include "platform/AtomicFile.h"
 #include "platform/VisibleText.h"
 
 namespace veerwatch {
 
 void frmMain::CloseUnasked() {
+  // The end of the last window asks for the end of the program, too.
+  if (m_unloaded) {
+    return;
+  }
   m_ask = false;
+  m_unasked = true;
   if (QWidget* question = QApplication::activeModalWidget()) {
     question->close();
   }
@@ -64,20 +68,27 @@ void frmMain::closeEvent(QCloseEvent* event) {
 }
 
 void frmMain::KeepSettings() {
+  // A session that ends while the last message stands: the windows are hidden, and kept as they were.
+  if (m_unloaded) {
+    return;
+  }
   // What was edited in the file meanwhile stays.
   Profile present;
   const Profile::LoadResult result = present.Load(m_sProfileFile);
   if (result == Profile::LoadResult::Read) {
     m_parts.Store = std::move(present);
-  } else if (result == Profile::LoadResult::Unreadable) {
-    std::fprintf(stderr, "%s: cannot be read any more%s\n", VisibleText(m_sProfileFile).c_str(),
-                 OtherKind(m_sProfileFile).empty() ? ", it is put aside" : "");
   }
   ProfileWrite(m_parts.Store, *this, m_others);
   m_others.Store();
-  if (const auto failure = m_parts.Store.Commit(m_sProfileFile)) {
-    std::fprintf(stderr, "%s\n", failure->c_str());
+  m_saveFailure = m_parts.Store.Commit(m_sProfileFile).value_or("");
+  if (!m_saveFailure.empty()) {
+    std::fprintf(stderr, "%s\n", m_saveFailure.c_str());
+  } else if (result == Profile::LoadResult::Unreadable) {
+    const std::string text = m_sProfileFile + " could not be read: it was put aside";
+    std::fprintf(stderr, "%s\n", VisibleText(text).c_str());
+    NoticeSet(NoticeKind::Profile, text);
   }
+  NoticeSet(NoticeKind::Save, m_saveFailure.empty() ? "" : "Settings not saved: " + m_saveFailure);
 }
 
 std::string frmMain::Keepable() {

@@ -1,11 +1,14 @@
 #include "app/Notices.h"
 
+#include "platform/VisibleText.h"
+
 namespace veerwatch {
 
 void Notices::Set(NoticeKind kind, const std::string& text) {
+  const std::string visible = VisibleText(text);
   Notice& notice = m_notices[kind];
-  if (notice.Text != text) {
-    notice = {text, text.empty()};
+  if (notice.Text != visible) {
+    notice = {visible, visible.empty()};
   }
 }
 

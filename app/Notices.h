@@ -1,5 +1,5 @@
 // What the program has to say beside its status texts, in one line under the mode bar: any part gives a text
-// under its kind, and withdraws it when it holds no more. Standard library only.
+// under its kind, and withdraws it when it holds no more.
 #pragma once
 
 #include <map>
@@ -17,7 +17,7 @@ enum class NoticeKind {
 
 class Notices {
  public:
-  /// What `kind` has to say now; "" when nothing more.
+  /// What `kind` has to say now, its control characters as pictures; "" when nothing more.
   void Set(NoticeKind kind, const std::string& text);
 
   /// The user has read the first text: it goes until its kind says something else.

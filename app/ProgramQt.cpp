@@ -103,6 +103,20 @@ bool Taken(const ProfileLock& lock, const std::filesystem::path& profile, Dialog
   return false;
 }
 
+/// Tells the user, who has closed the window, that the settings are lost; without a user nothing waits. The
+/// exit status of the program.
+int TellUnsaved(const frmMain& window, DialogsQt& dialogs) {
+  constexpr int kNotSaved = 1;
+  if (!window.ClosedUnasked()) {
+    // The window is hidden, and would hide the message with it.
+    dialogs.Window(nullptr);
+    dialogs.Inform(kApplicationTitle, "The settings could not be saved:\r" + window.SaveFailure());
+    // Until the message is closed.
+    QApplication::exec();
+  }
+  return kNotSaved;
+}
+
 }  // namespace
 
 int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& started) {
@@ -149,7 +163,13 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   tmrNmea.Ticks([&window] { window.tmrNmea_Timer(); });
   tmrUnload.Ticks([&window] { window.tmrUnload_Timer(); });
   TimerTack.Ticks([&window] { window.TimerTack_Timer(); });
-  OnTerminationRequest(&window, [&window] { window.CloseUnasked(); });
+  OnTerminationRequest(&window, [&window] {
+    window.CloseUnasked();
+    // Only the message about the settings may be left.
+    if (window.isHidden()) {
+      QApplication::quit();
+    }
+  });
   TimerQt tmrSave(QStringLiteral("tmrSave"));
   tmrSave.Interval(kSaveInterval);
   tmrSave.Ticks([&window] { window.tmrSave_Timer(); });
@@ -161,7 +181,8 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
     started(window);
   }
   tmrSave.Enabled(true);
-  return QApplication::exec();
+  const int status = QApplication::exec();
+  return window.SaveFailure().empty() ? status : TellUnsaved(window, dialogs);
 }
 
 }  // namespace veerwatch

@@ -169,7 +169,13 @@ void frmMain::ProfileRecall(bool recall) {
   m_sProfileFile = m_parts.ProfileFile;
   if (recall) {
     if (m_parts.Store.Load(m_sProfileFile) == Profile::LoadResult::Unreadable) {
-      std::fprintf(stderr, "%s: cannot be read, defaults are used\n", VisibleText(m_sProfileFile).c_str());
+      const std::string kind(OtherKind(m_sProfileFile));
+      const std::string text =
+          m_sProfileFile + " cannot be read" +
+          (kind.empty() ? ": defaults are used; at the close it is put aside, not overwritten"
+                        : ", " + kind + ": defaults are used, and nothing is saved");
+      std::fprintf(stderr, "%s\n", VisibleText(text).c_str());
+      NoticeSet(NoticeKind::Profile, text);
     }
     ProfileRead(m_parts.Store, *this, m_others);
   }

@@ -37,8 +37,14 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   /// Closes in order without asking anything, even while a question is open: for the end of the session.
   void CloseUnasked();
 
-  /// Writes the profile as a close does and goes on. What goes wrong is said on standard error.
+  /// Writes the profile as a close does and goes on. What goes wrong is said on standard error and in the
+  /// line under the mode bar.
   void KeepSettings();
+
+  /// What the latest writing of the profile could not do; "" for nothing.
+  const std::string& SaveFailure() const { return m_saveFailure; }
+  /// Whether the close was not the user's.
+  bool ClosedUnasked() const { return m_unasked; }
 
   /// Says `text` in the line under the mode bar, as long as `kind` has nothing else to say; "" withdraws it.
   void NoticeSet(NoticeKind kind, const std::string& text) { m_notice->Set(kind, text); }
@@ -154,7 +160,9 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   QTimer m_insteadTimer{this};  ///< ends what is said about a turn
   WindWatch m_windWatch;
   bool m_asking = false;    ///< the question of the close is open
+  bool m_unasked = false;   ///< the close is not the user's
   bool m_unloaded = false;  ///< the profile is written, everything is closed
+  std::string m_saveFailure;
   SaveWatch m_save;
   std::vector<std::string> m_advice;  ///< what the sources do not bring
 };

@@ -37,6 +37,7 @@ class MessageQt final : public QMessageBox {
   MessageQt(const QString& title, const QString& text, QWidget* parent)
       : QMessageBox(Warning, title, text, Ok, parent) {
     setTextFormat(Qt::PlainText);
+    button(Ok)->setObjectName(QStringLiteral("cmdMessageOk"));
     setAttribute(Qt::WA_DeleteOnClose);
     setModal(false);
     if (parent != nullptr) {

@@ -26,7 +26,7 @@ TEST_F(Disk, AFullOneAtTheCloseKeepsTheOldProfile) {
   const rlimit none{0, 0};
   ASSERT_EQ(::prlimit(m_program->Id(), RLIMIT_FSIZE, &none, nullptr), 0);
   m_program->Terminate();
-  EXPECT_EQ(m_program->AwaitEnd(), 0) << m_program->Said();
+  EXPECT_EQ(m_program->AwaitEnd(), 1) << m_program->Said();
   EXPECT_EQ(m_program->Profile(), profile);
   EXPECT_THAT(m_program->Said(), HasSubstr("Veerwatch.ini")) << "it says that nothing was kept";
   std::signal(SIGXFSZ, SIG_DFL);
@@ -46,10 +46,35 @@ TEST_F(Disk, OneThatBecomesReadOnlyKeepsTheOldProfile) {
   LaunchRemote(profile, WithoutOverride());
   fs::permissions(m_program->Folder(), fs::perms::owner_read | fs::perms::owner_exec);
   m_program->Terminate();
-  EXPECT_EQ(m_program->AwaitEnd(), 0) << m_program->Said();
+  EXPECT_EQ(m_program->AwaitEnd(), 1) << m_program->Said();
   fs::permissions(m_program->Folder(), fs::perms::owner_all);
   EXPECT_EQ(m_program->Profile(), profile);
   EXPECT_THAT(m_program->Said(), HasSubstr("Veerwatch.ini")) << "it says that nothing was kept";
+}
+
+/// The program in a folder that became read-only, with the message that File > Exit brings then.
+class Unsaved : public RealPorts {
+ protected:
+  void SetUp() override {
+    LaunchRemote(ProfileText(1, 2, "1=none\r\n2=none\r\n"), WithoutOverride());
+    Click("mnuViewHistory");
+    fs::permissions(m_program->Folder(), fs::perms::owner_read | fs::perms::owner_exec);
+    Click("mnuFileExit");
+    ASSERT_TRUE(AwaitText("qt_msgbox_label", "The settings could not be saved:"));
+  }
+  void TearDown() override { fs::permissions(m_program->Folder(), fs::perms::owner_all); }
+};
+
+TEST_F(Unsaved, SettingsAreToldInAWindowThatWaitsToBeRead) {
+  EXPECT_EQ(Text("qt_msgbox_label"), "The settings could not be saved:");
+  EXPECT_TRUE(m_program->Runs());
+  Click("cmdMessageOk");
+  EXPECT_EQ(m_program->AwaitEnd(), 1) << m_program->Said();
+}
+
+TEST_F(Unsaved, SettingsHoldNobodyUpWhoEndsTheProgram) {
+  m_program->Terminate();
+  EXPECT_EQ(m_program->AwaitEnd(), 1) << m_program->Said();
 }
 
 TEST_F(Disk, OneThatIsReadOnlyLetsTheProgramSteer) {
@@ -61,7 +86,7 @@ TEST_F(Disk, OneThatIsReadOnlyLetsTheProgramSteer) {
   ASSERT_TRUE(Says("ready")) << m_program->Said();
   SailInManual(In, Pilots);
   m_program->Terminate();
-  EXPECT_EQ(m_program->AwaitEnd(), 0) << m_program->Said();
+  EXPECT_EQ(m_program->AwaitEnd(), 1) << m_program->Said();
   fs::permissions(m_program->Folder(), fs::perms::owner_all);
   EXPECT_EQ(m_program->Profile(), profile);
   EXPECT_THAT(m_program->Said(), HasSubstr("Veerwatch.ini")) << "it says that nothing was kept";

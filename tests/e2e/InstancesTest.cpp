@@ -129,7 +129,7 @@ void ExpectOneRuns(const std::function<void(const fs::path& lock)>& prepare,
   EXPECT_TRUE(HasSaid(second, "another Veerwatch is running with this profile")) << second.Said();
   second.Terminate();
   EXPECT_TRUE(second.AwaitEnd().has_value());
-  first.Tell("quit");
+  first.Terminate();
   EXPECT_TRUE(first.AwaitEnd().has_value());
 }
 

@@ -104,6 +104,17 @@ TEST_F(LogOut, WithoutAnySaveEndsItInOrderToo) {
   ExpectWholeProfile();
 }
 
+TEST_F(LogOut, EndsItWithoutAWindowWhenNothingCanBeSaved) {
+  SailInASession();
+  // A folder takes the profile's place.
+  const fs::path profile = m_program->Folder() / "Veerwatch.ini";
+  fs::remove(profile);
+  fs::create_directory(profile);
+  Desktop.End();
+  EXPECT_EQ(m_program->AwaitEnd(), 1) << m_program->Said();
+  EXPECT_THAT(m_program->Said(), HasSubstr("it is a folder"));
+}
+
 TEST_F(LogOut, ThatIsCalledOffLeavesItSteering) {
   SailInASession();
   ASSERT_TRUE(Desktop.Save(true)) << m_program->Said();

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <filesystem>
 
 #include "tests/ui/MainWindowTester.h"
 
@@ -96,6 +97,29 @@ TEST_F(MainWindowNotices, KeepTheSystemsReasonWhileThePortIsNotOpen) {
   EXPECT_FALSE(reason->isVisible());
 }
 
+TEST_F(MainWindowNotices, SayThatTheProfileCouldNotBeRead) {
+  Start("\xFF\xFE[\x01N\x01");
+  EXPECT_EQ(Line(), ProfileFile() +
+                        " cannot be read: defaults are used; at the close it is put aside, not overwritten");
+  Click("cmdNoticeHide");
+  EXPECT_FALSE(LineShown());
+  Window->KeepSettings();
+  EXPECT_EQ(Line(), ProfileFile() + " could not be read: it was put aside");
+}
+
+TEST_F(MainWindowNotices, SayThatTheProfileIsNoFile) {
+  std::filesystem::create_directory(ProfileFile());
+  Start();
+  EXPECT_EQ(Line(),
+            ProfileFile() + " cannot be read, it is a folder: defaults are used, and nothing is saved");
+}
+
+TEST_F(MainWindowNotices, ShowControlCharactersAsPictures) {
+  Start(kOnPorts);
+  Window->NoticeSet(NoticeKind::Save, "Settings not saved: a\x1B[2J\n");
+  EXPECT_EQ(Line(), "Settings not saved: a\u241B[2J\u240A");
+}
+
 TEST_F(MainWindowNotices, ALineThatIsTooLongLeavesTheWindowAsItIs) {
   Start(kOnPorts);
   Window->resize(600, 420);
@@ -144,6 +168,18 @@ TEST_F(MainWindowNotices, SwitchingSaveWhileRunningOnSaves) {
   Find<QAction>("mnuViewSave").trigger();
   SaveTicks(11);
   EXPECT_THAT(ReadProfile(), testing::HasSubstr("Save While Running=True\n"));
+}
+
+TEST_F(MainWindowNotices, SayThatTheSettingsWereNotSaved) {
+  Start(kOnPorts);
+  Window->m_sProfileFile = "/dev/null/nowhere/Veerwatch.ini";
+  Window->KeepSettings();
+  EXPECT_THAT(Line(), testing::StartsWith("Settings not saved: "));
+  EXPECT_THAT(Window->SaveFailure(), testing::HasSubstr("Veerwatch.ini"));
+  Window->m_sProfileFile = ProfileFile();
+  Window->KeepSettings();
+  EXPECT_FALSE(LineShown());
+  EXPECT_EQ(Window->SaveFailure(), "");
 }
 
 }  // namespace
