@@ -22,8 +22,9 @@ struct MainWindowParts {
   RandomSource& Random;
   Dialogs& Asks;
   Profile& Store;
-  std::string ProfileFile;  ///< path of the profile
-  PolarFolders Polars{};    ///< where polar files lie
+  std::string ProfileFile;   ///< path of the profile
+  PolarFolders Polars{};     ///< where polar files lie
+  std::string ManualPage{};  ///< the first page of the manual, for a browser
 };
 
 }  // namespace veerwatch

@@ -1,6 +1,8 @@
 #include "app/OtherWindowsQt.h"
 
 #include <QScreen>
+#include <filesystem>
+#include <system_error>
 
 #include "app/IconsQt.h"
 #include "platform/NumberText.h"
@@ -39,6 +41,7 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
   for (const QAction* command : {menu.mnuViewDiagram, menu.mnuHelpDiagram}) {
     QObject::connect(command, &QAction::triggered, [this] { DiagramShow(); });
   }
+  QObject::connect(menu.mnuHelpManual, &QAction::triggered, [this] { ManualShow(); });
   QObject::connect(menu.mnuHelpAbout, &QAction::triggered, [this] { AboutShow(); });
   QObject::connect(menu.mnuViewPolar, &QAction::triggered, [this] { PolarShow(); });
   for (const auto& [command, tab] :
@@ -345,6 +348,16 @@ void OtherWindowsQt::OnDiagramHistory() {
     m_history->ConfigurePopup();
   } else {
     HistoryShow();
+  }
+}
+
+void OtherWindowsQt::ManualShow() {
+  std::error_code error;
+  if (!std::filesystem::is_regular_file(m_parts.ManualPage, error)) {
+    m_parts.Asks.Inform(kApplicationTitle, "The manual is not there:\r" + m_parts.ManualPage);
+  } else if (!m_parts.Asks.ShowPage(m_parts.ManualPage)) {
+    m_parts.Asks.Inform(kApplicationTitle,
+                        "No browser shows the manual. It begins at:\r" + m_parts.ManualPage);
   }
 }
 

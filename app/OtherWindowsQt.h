@@ -100,6 +100,7 @@ class OtherWindowsQt final : public HelmView,
 
   void DiagramShow();
   void DiagramLights();
+  void ManualShow();
   void AboutShow();
   void OnDiagramOptions(int tab, const DiagramAnchor& anchor) override;
   void OnDiagramPolar() override { PolarShow(); }

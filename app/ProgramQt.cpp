@@ -63,6 +63,15 @@ bool IsWritable(const std::filesystem::path& folder) { return QFileInfo(folder).
 /// Where polar files with relative names lie.
 PolarFolders PolarFiles() { return {ProgramFolder(), ProgramFolder() / VEERWATCH_SHARED_FOLDER}; }
 
+/// The first page of the manual: with the documents of an installed program, else beside the built one.
+std::string ManualPage() {
+  const std::filesystem::path program = ProgramFolder();
+  const std::filesystem::path page = std::filesystem::path("html") / "manual" / "README.html";
+  std::error_code error;
+  const std::filesystem::path installed = program / VEERWATCH_DOCUMENTS_FOLDER / page;
+  return (std::filesystem::exists(installed, error) ? installed : program / page).lexically_normal().string();
+}
+
 /// Where this copy of the program keeps its profile. It is an installed one when its data lie where they are
 /// installed to, seen from the program.
 std::filesystem::path ProfileFile() {
@@ -158,7 +167,7 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   SeededRandom random(std::random_device{}());
 
   frmMain window({MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, TimerTack, random, dialogs, profile,
-                  profileFile.string(), PolarFiles()});
+                  profileFile.string(), PolarFiles(), ManualPage()});
   dialogs.Window(&window);
   tmrNmea.Ticks([&window] { window.tmrNmea_Timer(); });
   tmrUnload.Ticks([&window] { window.tmrUnload_Timer(); });

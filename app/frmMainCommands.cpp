@@ -72,6 +72,11 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   mnuOptionsTrack = Command(window, options, "mnuOptionsTrack", "&Tracking...");
   mnuOptionsSimulate = Command(window, options, "mnuOptionsSimulate", "&Simulate...");
   QMenu* help = window.menuBar()->addMenu(QStringLiteral("&Help"));
+  mnuHelpManual = Command(window, help, "mnuHelpManual", "&Manual");
+  mnuHelpManual->setShortcut(QKeySequence(Qt::Key_F1));
+  // In whichever window of the program.
+  mnuHelpManual->setShortcutContext(Qt::ApplicationShortcut);
+  help->addSeparator();
   mnuHelpDiagram = Command(window, help, "mnuHelpDiagram", "&Block Diagram...");
   mnuHelpAbout = Command(window, help, "mnuHelpAbout", "&About...");
 }

@@ -25,6 +25,7 @@ struct frmMainMenu {
   QAction* mnuOptionsOutput;
   QAction* mnuOptionsTrack;
   QAction* mnuOptionsSimulate;
+  QAction* mnuHelpManual;
   QAction* mnuHelpDiagram;
   QAction* mnuHelpAbout;
 

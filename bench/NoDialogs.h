@@ -27,6 +27,7 @@ class NoDialogs final : public Dialogs {
     return std::nullopt;
   }
   std::optional<std::uint32_t> PickColour(std::uint32_t) override { return std::nullopt; }
+  bool ShowPage(const std::string&) override { return false; }
   void Beep() override {}
   void ToForeground() override {}
   bool IsForeground() const override { return false; }

@@ -33,6 +33,8 @@ class Dialogs {
                                                 const std::string& proposed) = 0;
   /// Lets the user choose a colour, 0xBBGGRR, starting at `present`; nothing when it was cancelled.
   virtual std::optional<std::uint32_t> PickColour(std::uint32_t present) = 0;
+  /// Shows a page, a file on this computer, in the desktop's browser; false when nothing there shows pages.
+  virtual bool ShowPage(const std::string& file) = 0;
   /// Sounds the desktop's beep once.
   virtual void Beep() = 0;
   /// Brings the main window in front of all others.

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QDesktopServices>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QInputDialog>
@@ -171,6 +172,10 @@ std::optional<std::uint32_t> DialogsQt::PickColour(std::uint32_t present) {
   }
   const QColor colour = dialog.selectedColor();
   return static_cast<std::uint32_t>(colour.red() | colour.green() << 8 | colour.blue() << 16);
+}
+
+bool DialogsQt::ShowPage(const std::string& file) {
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file)));
 }
 
 void DialogsQt::Beep() { QApplication::beep(); }

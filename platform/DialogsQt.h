@@ -27,6 +27,7 @@ class DialogsQt final : public Dialogs {
   std::optional<std::string> ExportFile(const std::string& title, const std::string& filter,
                                         const std::string& proposed) override;
   std::optional<std::uint32_t> PickColour(std::uint32_t present) override;
+  bool ShowPage(const std::string& file) override;
   void Beep() override;
   void ToForeground() override;
   bool IsForeground() const override;

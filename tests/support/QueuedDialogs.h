@@ -43,6 +43,9 @@ class QueuedDialogs final : public Dialogs {
   std::deque<std::optional<std::string>> Files;  ///< answers of the next file dialogs; cancelled behind them
   std::optional<std::uint32_t> Colour;           ///< answer of every colour dialog; nothing cancels
 
+  std::vector<std::string> Pages;  ///< what the browser was to show
+  bool ShowsPages = true;          ///< whether there is a browser
+
   std::vector<Question> Messages;      ///< what was told
   std::vector<Question> Warnings;      ///< what was asked under a warning sign, answered from Answers
   std::vector<std::string> Presets;    ///< what the input boxes started with
@@ -89,6 +92,10 @@ class QueuedDialogs final : public Dialogs {
   std::optional<std::uint32_t> PickColour(std::uint32_t present) override {
     Colours.push_back(present);
     return Colour;
+  }
+  bool ShowPage(const std::string& file) override {
+    Pages.push_back(file);
+    return ShowsPages;
   }
   void Beep() override {
     ++Beeps;

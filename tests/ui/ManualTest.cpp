@@ -1,0 +1,71 @@
+// Help > Manual and F1.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <memory>
+#include <string>
+
+#include "tests/ui/MainWindowTester.h"
+
+namespace veerwatch {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class Manual : public MainWindowTester {
+ protected:
+  /// The window, told that the manual begins at `page`.
+  void Open(const std::string& page) {
+    MainWindowParts parts{NmeaPort, PilotPort, tmrNmea, tmrUnload,    TimerTack,
+                          Random,   Dialogs,   Store,   ProfileFile()};
+    parts.ManualPage = page;
+    Window = std::make_unique<frmMain>(parts);
+    Window->Form_Load();
+    Window->show();
+  }
+  /// A page that there is.
+  std::string Page() {
+    const std::string page = ProfileFile() + ".html";
+    std::ofstream(page) << "<p>";
+    return page;
+  }
+  void Press() { Window->findChild<QAction*>(QStringLiteral("mnuHelpManual"))->trigger(); }
+};
+
+TEST_F(Manual, OpensItsFirstPageInTheBrowser) {
+  const std::string page = Page();
+  Open(page);
+  Press();
+  EXPECT_THAT(Dialogs.Pages, ElementsAre(page));
+  EXPECT_THAT(Dialogs.Messages, IsEmpty());
+}
+
+TEST_F(Manual, IsUnderF1InEveryWindow) {
+  Open(Page());
+  const QAction* command = Window->findChild<QAction*>(QStringLiteral("mnuHelpManual"));
+  EXPECT_EQ(command->shortcut(), QKeySequence(Qt::Key_F1));
+  EXPECT_EQ(command->shortcutContext(), Qt::ApplicationShortcut);
+}
+
+TEST_F(Manual, SaysWhereItShouldLieWhenItDoesNot) {
+  Open("/nowhere/README.html");
+  Press();
+  EXPECT_THAT(Dialogs.Pages, IsEmpty());
+  ASSERT_EQ(Dialogs.Messages.size(), 1U);
+  EXPECT_THAT(Dialogs.Messages[0].Text, HasSubstr("/nowhere/README.html"));
+}
+
+TEST_F(Manual, SaysWhereItLiesWhenThereIsNoBrowser) {
+  const std::string page = Page();
+  Dialogs.ShowsPages = false;
+  Open(page);
+  Press();
+  ASSERT_EQ(Dialogs.Messages.size(), 1U);
+  EXPECT_THAT(Dialogs.Messages[0].Text, HasSubstr(page));
+}
+
+}  // namespace
+}  // namespace veerwatch
