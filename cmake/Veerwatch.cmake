@@ -5,6 +5,12 @@ target_compile_features(veerwatch_common INTERFACE cxx_std_20)
 target_compile_options(veerwatch_common INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wdouble-promotion -Wshadow
   $<$<BOOL:${VEERWATCH_WERROR}>:-Werror>)
+# What guards against damaged memory in what the wire and the files bring. The sanitizers do more, and FORTIFY needs
+# the optimiser.
+if(NOT VEERWATCH_SANITIZE AND CMAKE_BUILD_TYPE STREQUAL "Release" AND CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  target_compile_options(veerwatch_common INTERFACE -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+  target_link_options(veerwatch_common INTERFACE -Wl,-z,relro,-z,now)
+endif()
 if(VEERWATCH_SANITIZE)
   target_compile_options(veerwatch_common INTERFACE
     -fsanitize=address,undefined,float-cast-overflow,float-divide-by-zero -fno-sanitize-recover=all)
