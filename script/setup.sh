@@ -18,6 +18,9 @@ kPackages=(
   libcli11-dev
   nlohmann-json3-dev
   libbenchmark-dev
+  cmark-gfm                                    # makes the manual's pages
+  dpkg-dev                                     # finds what the Debian package depends on
+  file
   fonts-dejavu-core                            # without any font the windows show empty boxes
 )
 
@@ -25,9 +28,14 @@ kPackages=(
 kTestPackages=(
   libgtest-dev
   libgmock-dev
+<<<<<<< HEAD
   dpkg-dev                                     # finds what the package depends on
   file
   locales                                      # the sources of the languages that a test starts the program in
+=======
+  lintian                                      # looks the Debian package over
+  appstream                                    # and what software centres show of it
+>>>>>>> b8c3d59 (wip)
   libsm-dev                                    # a desktop's session, to log out of
   xvfb                                         # and its screen
 )

@@ -16,6 +16,11 @@ done
 [[ -n $(dpkg-deb --field "$package" Maintainer) && -n $(dpkg-deb --field "$package" Description) ]] ||
   wrong "an empty field"
 
+lintian --allow-root --tag-display-limit 0 --fail-on error "$package" >"$work/log" 2>&1 || wrong "$(cat "$work/log")"
+mkdir -p "$work/metainfo"
+dpkg-deb --fsys-tarfile "$package" | tar -x -C "$work/metainfo"
+appstreamcli validate --no-net "$work"/metainfo/usr/share/metainfo/*.xml >"$work/log" || wrong "$(cat "$work/log")"
+
 mkdir -p "$work/root/var/lib/dpkg/"{info,updates}
 touch "$work/root/var/lib/dpkg/status"
 # The tree holds nothing else, so what the package depends on is not there; and the user need not be root.

@@ -37,19 +37,32 @@ await() {
 check_files() {
   local prefix=$1 size file
   for file in bin/veerwatch bin/veerwatch-cli share/applications/veerwatch.desktop \
-    share/metainfo/veerwatch.metainfo.xml share/icons/hicolor/scalable/apps/veerwatch.svg \
+    share/metainfo/io.github.veerwatch.Veerwatch.metainfo.xml share/doc/veerwatch/copyright share/icons/hicolor/scalable/apps/veerwatch.svg \
     "share/veerwatch/Fast Sled 60ft.pol" share/veerwatch/demo/Veerwatch.ini; do
     [[ -s $prefix/$file ]] || wrong "no $file"
   done
-  for file in veerwatch veerwatch-cli; do
-    [[ -n $(find "$prefix/share/man/man1" -name "$file.1*") ]] || wrong "no manual page of $file"
+  for file in man/man1/veerwatch.1 man/man1/veerwatch-cli.1 doc/veerwatch/changelog; do
+    gzip -dc "$prefix/share/$file.gz" | grep -q Veerwatch || wrong "no packed $file"
   done
+  check_manual "$prefix/share/doc/veerwatch/html"
   for size in 16 22 24 32 48 64 128 256 512; do
     file=$prefix/share/icons/hicolor/${size}x${size}/apps/veerwatch.png
     # Width and height stand behind the heads of the file and of its first chunk, most significant byte first.
     [[ $(od -An -tu1 -j16 -N8 "$file" | tr -s ' ') == " 0 0 $((size / 256)) $((size % 256)) 0 0 $((size / 256)) $((size % 256))" ]] ||
       wrong "$file is not $size by $size"
   done
+}
+
+# check_manual FOLDER: the manual's pages are there, and each page and picture that one of them names.
+check_manual() {
+  local page link
+  [[ -s $1/manual/README.html ]] || wrong "no first page of the manual"
+  while read -r page; do
+    while read -r link; do
+      [[ -s ${page%/*}/${link%%#*} ]] || wrong "$page leads to $link, which is not there"
+      [[ $link != *#* ]] || grep -q "id=\"${link#*#}\"" "${page%/*}/${link%%#*}" || wrong "$page: no heading $link"
+    done < <(grep -oE '(href|src)="[^"]*"' "$page" | sed 's/^[^"]*"//; s/"$//' | grep -v '^[a-z]*:')
+  done < <(find "$1" -name '*.html')
 }
 
 # sail PREFIX ARGUMENT...: starts the installed program, and closes it when it runs.
