@@ -4,40 +4,60 @@
 
 # shellcheck disable=SC2034  # the lists are read by those who source this
 
-# What building and running need beyond the base system. "a|b" are two names of one thing: the one that is installed
-# counts, else the first that apt knows.
-kPackages=(
-  g++
+# What builds and packs, whatever it builds for. "a|b" are two names of one thing: the one that is installed counts,
+# else the first that apt knows.
+kTools=(
   cmake
   ninja-build
-  qt6-base-dev                                 # Core, Gui, Widgets, Network, Test; the xcb and offscreen platforms
-  "qt6-serialport-dev|libqt6serialport6-dev"
-  "qt6-svg-dev|libqt6svg6-dev"
-  "qt6-svg-plugins|libqt6svg6"                 # reads the SVG icons at run time
-  qt6-wayland                                  # for a desktop that offers Wayland only
-  libcli11-dev
-  nlohmann-json3-dev
-  libbenchmark-dev
   cmark-gfm                                    # makes the manual's pages
   dpkg-dev                                     # finds what the Debian package depends on
   file
+)
+
+# What it is built with.
+kLibraries=(
+  qt6-base-dev                                 # Core, Gui, Widgets, Network, Test; the xcb and offscreen platforms
+  "qt6-serialport-dev|libqt6serialport6-dev"
+  "qt6-svg-dev|libqt6svg6-dev"
+  libcli11-dev
+  nlohmann-json3-dev
+  libbenchmark-dev
+)
+
+# What building and running need beyond the base system.
+kPackages=(
+  g++
+  "${kTools[@]}"
+  "${kLibraries[@]}"
+  "qt6-svg-plugins|libqt6svg6"                 # reads the SVG icons at run time
+  qt6-wayland                                  # for a desktop that offers Wayland only
   fonts-dejavu-core                            # without any font the windows show empty boxes
+)
+
+# What the tests are built with besides.
+kTestLibraries=(
+  libgtest-dev
+  libgmock-dev
+  libsm-dev                                    # a desktop's session, to log out of
 )
 
 # What `test` needs besides.
 kTestPackages=(
-  libgtest-dev
-  libgmock-dev
-<<<<<<< HEAD
-  dpkg-dev                                     # finds what the package depends on
-  file
-  locales                                      # the sources of the languages that a test starts the program in
-=======
+  "${kTestLibraries[@]}"
   lintian                                      # looks the Debian package over
   appstream                                    # and what software centres show of it
->>>>>>> b8c3d59 (wip)
-  libsm-dev                                    # a desktop's session, to log out of
-  xvfb                                         # and its screen
+  locales                                      # the sources of the languages that a test starts the program in
+  xvfb                                         # a screen for the desktop's session
+)
+
+# What `script/arm64` needs on this system; all else goes into the systems that it makes, with the tools and libraries
+# above.
+kArm64Packages=(
+  debootstrap
+)
+kCrossTools=(
+  crossbuild-essential-arm64
+  qemu-user-static
 )
 
 # What `.ci/run` needs besides.
