@@ -12,7 +12,8 @@ std::optional<TrackGains> TrackGainsFor(double bandwidth, double damping) {
   TrackGains gains;
   gains.Integral = w / (4.0 * std::pow(damping, 2.0) + 1.0);
   gains.Proportional = w - gains.Integral;
-  if (!std::isfinite(gains.Integral) || !std::isfinite(gains.Proportional)) {
+  // It is out of range whenever the integral gain is.
+  if (!std::isfinite(gains.Proportional)) {
     return std::nullopt;
   }
   return gains;

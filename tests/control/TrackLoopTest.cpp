@@ -119,6 +119,14 @@ TEST_F(TrackLoopTest, IsRefusedWithNothingChangedWhileThereAreNoUsableGains) {
   }
 }
 
+TEST_F(TrackLoopTest, AnErrorThatIsNoNumberEmptiesTheAccumulator) {
+  Track();
+  Step(10.0F);
+  ASSERT_GT(m_loop.TrackIntegral(), 0.0);
+  Step(std::numeric_limits<float>::quiet_NaN());
+  EXPECT_EQ(m_loop.TrackIntegral(), 0.0);
+}
+
 // --- Off, Setup, Manual
 // ------------------------------------------------------------------------------------------
 

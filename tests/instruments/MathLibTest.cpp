@@ -118,6 +118,13 @@ TEST(FoldRelative, FoldsAnyFiniteAngleFully) {
   EXPECT_EQ(FoldRelative(1085.5), 5.5F);
 }
 
+TEST(FoldRelative, HasNoSignAtZero) {
+  for (const double angle : {-0.0, -360.0, -720.0}) {
+    EXPECT_FALSE(std::signbit(FoldRelative(angle))) << angle;
+    EXPECT_FALSE(std::signbit(FoldBearing(angle))) << angle;
+  }
+}
+
 TEST(FoldRelative, StaysAboveMinus180WhenTheSingleRoundsDown) {
   for (const double angle :
        {-179.9999999999, 180.0000000001, 540.0000000001, 1e20, -1e20, 1.7e308, -1.7e308}) {

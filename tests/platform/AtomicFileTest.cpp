@@ -106,6 +106,18 @@ TEST(WriteAtomically, LeavesLinksThatLeadNowhere) {
   EXPECT_TRUE(fs::is_symlink(folder / "b.ini"));
 }
 
+TEST(WriteAtomically, FollowsAsManyLinksAsTheSystemDoes) {
+  const TemporaryFolder folder;
+  fs::create_symlink("target.ini", folder / "1");
+  for (int link = 2; link <= 41; ++link) {
+    fs::create_symlink(std::to_string(link - 1), folder / std::to_string(link));
+  }
+  EXPECT_EQ(WriteAtomically(folder / "40", "text"), std::nullopt);
+  EXPECT_EQ(ReadFile(folder / "target.ini"), "text");
+  EXPECT_TRUE(WriteAtomically(folder / "41", "other").has_value());
+  EXPECT_EQ(ReadFile(folder / "target.ini"), "text");
+}
+
 TEST(WriteAtomically, SaysInOneLineThatAFolderIsInTheWayAndLeavesIt) {
   const TemporaryFolder folder;
   fs::create_directory(folder / "a.ini");

@@ -287,6 +287,11 @@ TEST(StrictNumber, TakesWhatIsTooSmallForASingleAsZero) {
   EXPECT_EQ(StrictNumber("0." + std::string(400, '0') + "1"), std::optional<float>(0.0F));
 }
 
+TEST(StrictNumber, CountsNoDigitThatLeavesALargeNumberAsItIs) {
+  EXPECT_EQ(StrictNumber("1." + std::string(100, '5') + "e39"), std::nullopt);
+  EXPECT_EQ(StrictNumber(std::string(100, '0') + "1e39"), std::nullopt);
+}
+
 TEST(StrictNumber, TakesZeroWithALargeExponentAsZero) {
   EXPECT_EQ(StrictNumber("0e999"), std::optional<float>(0.0F));
   EXPECT_EQ(StrictNumber("0.000e99999999999999999999"), std::optional<float>(0.0F));

@@ -139,6 +139,13 @@ TEST(Manoeuvre, ARateOfZeroOrLessOrNoNumberTurnsTenDegreesASecond) {
   }
 }
 
+TEST(Manoeuvre, TurnsByHalfADegreeASecondWhereThatIsTheRate) {
+  Manoeuvre turn = Opened(45.0F, 35.0F);
+  turn.Start(135.0F, 0.0F, 0.5F);
+  turn.Tick();
+  EXPECT_EQ(turn.Heading(), 100.5F);
+}
+
 TEST(Manoeuvre, AChangeOf170At20DegreesASecondTakesNineTicks) {
   Manoeuvre turn = Opened(85.0F, 170.0F);
   turn.Start(270.0F, 0.0F, 20.0F);
