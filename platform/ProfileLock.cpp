@@ -73,7 +73,7 @@ Try TryLock(int descriptor) {
 /// The open lock file, -1 with the reason in errno.
 int OpenLockFile(const std::filesystem::path& file) {
   const int descriptor = ::open(file.c_str(), O_RDWR | O_CREAT | kCarefully, 0644);
-  if (descriptor >= 0 || (errno != EACCES && errno != EPERM && errno != EROFS)) {
+  if (descriptor >= 0) {
     return descriptor;
   }
   // One that another user left behind, or that lies on a read-only disk, can be locked all the same.

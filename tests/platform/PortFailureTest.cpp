@@ -93,19 +93,17 @@ TEST(PortFailure, TellsThisProgramsOtherPort) {
   ::close(file);
 }
 
-TEST(PortFailure, NamesTheGroupThatMayOpenTheDevice) {
-  if (::geteuid() != 0) {
-    GTEST_SKIP() << "needs another user's eyes";
-  }
+/// What somebody else is told about a device of root's that only `group` may open, by the permissions `mode`;
+/// in front of it stands the device.
+std::string SaidToAnother(gid_t group, mode_t mode) {
   const int master = ::posix_openpt(O_RDWR | O_NOCTTY);
   ::grantpt(master);
   ::unlockpt(master);
   const std::string name = ::ptsname(master);
-  constexpr gid_t kDialout = 20;
-  ASSERT_EQ(::chown(name.c_str(), 0, kDialout), 0);
-  ASSERT_EQ(::chmod(name.c_str(), 0660), 0);
+  EXPECT_EQ(::chown(name.c_str(), 0, group), 0);
+  EXPECT_EQ(::chmod(name.c_str(), mode), 0);
   int ends[2];
-  ASSERT_EQ(::pipe(ends), 0);
+  EXPECT_EQ(::pipe(ends), 0);
   const pid_t child = ::fork();
   if (child == 0) {
     constexpr uid_t kNobody = 65534;
@@ -121,7 +119,27 @@ TEST(PortFailure, NamesTheGroupThatMayOpenTheDevice) {
   ::waitpid(child, nullptr, 0);
   ::close(ends[0]);
   ::close(master);
-  EXPECT_EQ(said, name + ": no permission, add yourself to the group dialout");
+  EXPECT_EQ(said.substr(0, name.size()), name);
+  return said.substr(std::min(name.size(), said.size()));
+}
+
+TEST(PortFailure, NamesTheGroupThatMayOpenTheDevice) {
+  if (::geteuid() != 0) {
+    GTEST_SKIP() << "needs another user's eyes";
+  }
+  constexpr gid_t kTerminals = 5;
+  constexpr gid_t kDialout = 20;
+  EXPECT_EQ(SaidToAnother(kDialout, 0660), ": no permission, add yourself to the group dialout");
+  EXPECT_EQ(SaidToAnother(kTerminals, 0660), ": no permission, add yourself to the group tty");
+}
+
+TEST(PortFailure, NamesTheUsualGroupWhereTheDevicesOwnMayNotReadAndWrite) {
+  if (::geteuid() != 0) {
+    GTEST_SKIP() << "needs another user's eyes";
+  }
+  constexpr gid_t kTerminals = 5;
+  EXPECT_EQ(SaidToAnother(kTerminals, 0620), ": no permission, add yourself to the group dialout");
+  EXPECT_EQ(SaidToAnother(0, 0660), ": no permission, add yourself to the group dialout");
 }
 
 TEST(PortFailure, ShowsControlCharactersAsPictures) {
