@@ -52,6 +52,11 @@ class Widest {
   char m_digit = '0';
 };
 
+struct Column {
+  double X;
+  double Width;
+};
+
 }  // namespace
 
 LedgerTexts MeasureLedger(const LedgerContent& content, double height, bool rows,
@@ -102,14 +107,13 @@ LedgerLayout LayLedger(const LedgerTexts& texts) {
 
   // What is left over widens the two columns alike.
   const double spare = (inner - figures) / 2.0;
-  const std::array<PlotBox, 2> columns{
-      {{margin, 0.0, left + spare, 0.0},
-       {margin + left + spare + kColumnGap * unit, 0.0, right + spare, 0.0}}};
+  const std::array<Column, 2> columns{
+      {{margin, left + spare}, {margin + left + spare + kColumnGap * unit, right + spare}}};
   int last = 0;
   for (std::size_t i = 0; i < std::min(texts.Figures, kCells.size()); ++i) {
     const bool whole = longTime && i == kTime;
     const Cell cell = whole ? Cell{kCells[i].Line + 1, 0} : kCells[i];
-    PlotBox column = columns[static_cast<std::size_t>(cell.Column)];
+    Column column = columns[static_cast<std::size_t>(cell.Column)];
     column.Width = whole ? inner : column.Width;
     last = std::max(last, cell.Line);
     const double top = y + cell.Line * kLine * unit;

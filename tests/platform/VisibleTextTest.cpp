@@ -11,7 +11,7 @@ using std::string_literals::operator""s;
 
 TEST(VisibleText, LeavesWhatCanBeReadAsItIs) {
   for (const char* text : {"", "Veerwatch.ini", "a\ttab", "~ !", "\u00A0", "Möwe", "€", "\U0001F6A3",
-                           "\uFFFD", "\u2400", "\uD7FF", "\uE000", "\U0010FFFF"}) {
+                           "\uFFFD", "\u2400", "\uD7FF", "\uE000", "\u0800", "\U00010000", "\U0010FFFF"}) {
     EXPECT_EQ(VisibleText(text), text);
   }
 }

@@ -1,6 +1,7 @@
 #include "platform/WholeFile.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -52,6 +53,18 @@ TEST(WholeFile, TellsWhatTheSystemSays) {
     // Opens like a file; reading its first bytes is refused.
     EXPECT_NE(ReadWholeFile("/proc/self/mem", kMiB).Error, "");
   }
+}
+
+TEST(WholeFile, TellsThatNoMoreFilesCanBeOpened) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "a", "text");
+  rlimit limit{};
+  ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &limit), 0);
+  const rlimit none{0, limit.rlim_max};
+  ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
+  const WholeFile whole = ReadWholeFile(folder / "a", kMiB);
+  ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &limit), 0);
+  EXPECT_EQ(whole.Error, "Too many open files");
 }
 
 TEST(WholeFile, ReadsNoMoreOfAFileThatTellsNoSize) {

@@ -30,6 +30,13 @@ TEST(FindBestAngles, LooksDeadDownwindToo) {
   EXPECT_EQ(best.Downwind->MadeGood, 9.0F);
 }
 
+TEST(FindBestAngles, LooksHeadToWindToo) {
+  const BestAngles best = FindBestAngles(TableOf("TWA\t5\t20\n0\t9\t9\n90\t1\t1\n"), 12.0F);
+  ASSERT_TRUE(best.Upwind.has_value());
+  EXPECT_EQ(best.Upwind->Angle, 0.0F);
+  EXPECT_EQ(best.Upwind->MadeGood, 9.0F);
+}
+
 TEST(FindBestAngles, FollowsSmoothLookups) {
   PolarTable table = TableOf(kSmallPolar);
   const BestAngles stepped = FindBestAngles(table, 8.0F);

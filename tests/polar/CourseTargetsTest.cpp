@@ -48,6 +48,18 @@ TEST(CourseTargets, BeatsToWindwardOnTwoEqualLegs) {
   EXPECT_NEAR(SumOf(solution, &CourseLeg::Along), static_cast<double>(solution.Best), 1e-5);
 }
 
+TEST(CourseTargets, SailsABitSquareToTheCourseWhereNothingElseWillDo) {
+  // 1 kn from 45 degrees on, the wind at 44.5: at the right only 90 degrees off the course sails, which goes
+  // 1 kn across, at the left the best is 1 degree.
+  const PolarTable table = TableOf("TWA\t5\t20\n45\t1\t1\n180\t1\t1\n");
+  const CourseSolution solution = CourseTargets(table, {0.0F, 0.0F, 44.5F, 12.0F});
+  const double sine = std::sin(kPerDegree);
+  EXPECT_EQ(solution.Legs[0].Heading, 90.0F);
+  EXPECT_EQ(solution.Legs[1].Heading, 359.0F);
+  EXPECT_NEAR(solution.Legs[0].Share, sine / (1.0 + sine), 1e-6);
+  EXPECT_NEAR(solution.Best, std::cos(kPerDegree) / (1.0 + sine), 1e-6);
+}
+
 TEST(CourseTargets, CancelsTheCrossComponentsOfUnequalLegs) {
   // 20 degrees off the wind's eye: 10 degrees more to one side, 50 to the other.
   const CourseSolution solution = CourseTargets(WithNoGoZone(), {100.0F, 80.0F, -40.0F, 12.0F});

@@ -114,6 +114,54 @@ TEST(MeasureLedger, GrowsWithATextThatIsWiderThanUsual) {
   EXPECT_EQ(texts.Number, WidthOf("1234.5"));
 }
 
+void ExpectBox(const PlotBox& box, const PlotBox& wanted) {
+  EXPECT_NEAR(box.X, wanted.X, kSlack);
+  EXPECT_NEAR(box.Y, wanted.Y, kSlack);
+  EXPECT_NEAR(box.Width, wanted.Width, kSlack);
+  EXPECT_NEAR(box.Height, wanted.Height, kSlack);
+}
+
+TEST(LayLedger, WidensBothColumnsWhereTheRowsAreTheWidest) {
+  // A text of 10 px: margins of 8, gaps of 6, of 14 between the columns of 116 and 106; rows of
+  // 11 + 6 + 200 + 2 * (6 + 30) = 289, 53 more than both columns.
+  const LedgerLayout layout = LayLedger({10.0, 60.0, 50.0, 40.0, 0.0, 200.0, 30.0, 7, true});
+  EXPECT_EQ(layout.Text, 10.0);
+  EXPECT_NEAR(layout.Width, 305.0, kSlack);
+  ExpectBox(layout.Title, {0.0, 0.0, 305.0, 20.0});
+  ASSERT_EQ(layout.Figures.size(), 7U);
+  ExpectBox(layout.Figures[0].Heading, {8.0, 26.0, 60.0, 15.0});
+  ExpectBox(layout.Figures[0].Value, {74.0, 26.0, 76.5, 15.0});
+  ExpectBox(layout.Figures[3].Heading, {164.5, 26.0, 60.0, 15.0});
+  ExpectBox(layout.Figures[3].Value, {230.5, 26.0, 66.5, 15.0});
+  ExpectBox(layout.Figures[5].Heading, {8.0, 71.0, 60.0, 15.0});
+  ExpectBox(layout.Figures[6].Heading, {164.5, 71.0, 60.0, 15.0});
+  ASSERT_EQ(layout.Rows.size(), 6U);
+  ExpectBox(layout.Rows[0].Sample, {8.0, 92.0, 11.0, 17.0});
+  ExpectBox(layout.Rows[0].Label, {25.0, 92.0, 200.0, 17.0});
+  ExpectBox(layout.Rows[0].Angle, {231.0, 92.0, 30.0, 17.0});
+  ExpectBox(layout.Rows[5].Speed, {267.0, 177.0, 30.0, 17.0});
+  ExpectBox(layout.Steer, {8.0, 200.0, 141.5, 25.0});
+  ExpectBox(layout.Tack, {155.5, 200.0, 141.5, 25.0});
+  EXPECT_NEAR(layout.Height, 233.0, kSlack);
+}
+
+TEST(LayLedger, GivesALongTimeALineOfItsOwn) {
+  const LedgerLayout layout = LayLedger({10.0, 60.0, 50.0, 40.0, 0.5, 200.0, 30.0, 9, false});
+  EXPECT_NEAR(layout.Width, 252.0, kSlack);
+  ASSERT_EQ(layout.Figures.size(), 9U);
+  ExpectBox(layout.Figures[8].Heading, {8.0, 101.0, 60.0, 15.0});
+  ExpectBox(layout.Figures[8].Value, {74.0, 101.0, 170.0, 15.0});
+  ExpectBox(layout.Steer, {8.0, 122.0, 115.0, 25.0});
+  EXPECT_NEAR(layout.Height, 155.0, kSlack);
+}
+
+TEST(LayLedger, KeepsAShortTimeInItsColumn) {
+  const LedgerLayout layout = LayLedger({10.0, 60.0, 50.0, 40.0, 0.0, 200.0, 30.0, 9, false});
+  ASSERT_EQ(layout.Figures.size(), 9U);
+  ExpectBox(layout.Figures[8].Heading, {138.0, 86.0, 60.0, 15.0});
+  ExpectBox(layout.Steer, {8.0, 107.0, 115.0, 25.0});
+}
+
 TEST(LedgerHome, IsAtTheLowerRightOrBetweenTheCornersOfTheLegend) {
   const PlotBox panel{0.0, 0.0, 300.0, 200.0};
   EXPECT_EQ(LedgerHome(panel, 1000.0, 700.0, false).X, 692.0);

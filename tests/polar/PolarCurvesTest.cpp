@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 #include "tests/support/PolarText.h"
 
@@ -32,6 +33,12 @@ TEST(SmoothLine, GoesThroughEveryKnotInSmallSteps) {
   for (std::size_t i = 1; i < line.size(); ++i) {
     EXPECT_LT(Far(line[i - 1], line[i]), 12.0);
   }
+}
+
+TEST(SmoothLine, HasAPointForEverySevenPixels) {
+  EXPECT_EQ(SmoothLine({{10.0, 0.0}, {10.0, 7.0}}, 0.0).size(), 2U);
+  EXPECT_EQ(SmoothLine({{10.0, 0.0}, {10.0, 14.5}}, 0.0).size(), 4U);
+  EXPECT_EQ(SmoothLine({{10.0, 0.0}, {10.0, 1000.0}}, 0.0).size(), 25U) << "but not more between two knots";
 }
 
 TEST(SmoothLine, HasNoCorners) {
@@ -77,6 +84,20 @@ TEST(ClipToDisc, CutsALineThatOnlyPassesThrough) {
   EXPECT_TRUE(ClipToDisc({{-20.0, 11.0}, {20.0, 11.0}}, 0.0, 0.0, 10.0).empty());
 }
 
+TEST(ClipToDisc, LeavesEveryPointInsideExactlyWhereItIs) {
+  PlotLine line;
+  for (int i = 0; i < 100; ++i) {
+    line.push_back({0.1 * i, 0.07 * (i % 3)});
+  }
+  const auto parts = ClipToDisc(line, 0.0, 0.0, 50.0);
+  ASSERT_EQ(parts.size(), 1U);
+  ASSERT_EQ(parts[0].size(), line.size());
+  for (std::size_t i = 0; i < line.size(); ++i) {
+    EXPECT_EQ(parts[0][i].X, line[i].X) << i;
+    EXPECT_EQ(parts[0][i].Y, line[i].Y) << i;
+  }
+}
+
 TEST(PolarCurves, GoThroughTheirCellsOnBothSides) {
   const PolarTable table = TableOf(kSmallPolar);
   const PolarGeometry geometry = PlotGeometry(500.0, 500.0, 16.0);
@@ -109,23 +130,32 @@ TEST(PolarCurves, StayWithinTheOuterRing) {
   }
 }
 
-TEST(PolarCurves, AreThinnedInADenseTable) {
+/// How many of the curves of a table with so many winds are major.
+std::ptrdiff_t MajorOf(std::int16_t columns) {
   PolarTable table;
-  table.PolarColumns(0) = 50;
+  table.PolarColumns(0) = columns;
   table.PolarRows(0) = 2;
-  for (int column = 1; column <= 50; ++column) {
+  for (int column = 1; column <= columns; ++column) {
     table.Value(0, 0, column) = static_cast<float>(column);
   }
   const auto curves = PolarCurves(table, 0, PlotGeometry(100.0, 100.0, 10.0));
-  EXPECT_EQ(curves.size(), 50U);
-  EXPECT_EQ(std::count_if(curves.begin(), curves.end(), [](const PolarCurve& curve) { return curve.Major; }),
-            10);
+  EXPECT_EQ(curves.size(), static_cast<std::size_t>(columns));
+  return std::count_if(curves.begin(), curves.end(), [](const PolarCurve& curve) { return curve.Major; });
+}
+
+TEST(PolarCurves, AreThinnedInADenseTable) {
+  EXPECT_EQ(MajorOf(50), 10);
+  EXPECT_EQ(MajorOf(12), 12) << "not dense yet";
+  EXPECT_EQ(MajorOf(13), 7) << "every second";
+  EXPECT_EQ(MajorOf(31), 8) << "every fourth";
 }
 
 TEST(WindCurve, LiesBetweenItsNeighbours) {
   const PolarTable table = TableOf(kSmallPolar);
   const PolarGeometry geometry = PlotGeometry(500.0, 500.0, 16.0);
   const PolarCurve curve = WindCurve(table, 0, 12.0F, geometry);
+  EXPECT_EQ(curve.WindSpeed, 12.0F);
+  EXPECT_TRUE(curve.Major);
   EXPECT_LT(Nearest(curve.Lines, PointAt(geometry, 80.0, 8.5)), 1e-4);
   EXPECT_LT(Nearest(curve.Lines, PointAt(geometry, -120.0, 8.75)), 1e-4);
 }

@@ -155,6 +155,7 @@ TEST(PolarAverages, StartWithTheirFirstValues) {
 TEST(PolarAverages, WeighANewValueByTheCount) {
   PolarAverages averages;
   averages.Feed({true, 350.0F, 6.0F, -170.0F, 14.0F, 170.0F, 10.0F, true, 12.0F, 3.0F}, 4.0F);
+  EXPECT_TRUE(averages.Values().WaypointValid);
   averages.Feed({true, 10.0F, 10.0F, 170.0F, 18.0F, -170.0F, 14.0F, false, 15.0F, 2.0F}, 4.0F);
   EXPECT_EQ(averages.Values().BoatSpeed, 7.0F);
   EXPECT_EQ(averages.Values().WindSpeedApparent, 15.0F);
