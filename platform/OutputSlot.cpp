@@ -12,9 +12,10 @@ void OutputSlot::Put(std::string_view sentence) {
 
 void OutputSlot::Pump() {
   if (!m_newest.empty() && !m_line.Busy()) {
-    m_line.Write(m_newest);
-    ++m_written;
+    m_leaving.swap(m_newest);
     m_newest.clear();
+    ++m_written;
+    m_line.Write(m_leaving);
   }
 }
 

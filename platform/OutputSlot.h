@@ -16,6 +16,7 @@ class OutputSlot {
     virtual ~Line() = default;
     /// True while anything that was written before has not left.
     virtual bool Busy() = 0;
+    /// May come back with Pump() before it has ended.
     virtual void Write(std::string_view sentence) = 0;
   };
 
@@ -39,7 +40,8 @@ class OutputSlot {
 
  private:
   Line& m_line;
-  std::string m_newest;
+  std::string m_newest;   ///< waits
+  std::string m_leaving;  ///< what is being written
   std::uint64_t m_written = 0;
 };
 

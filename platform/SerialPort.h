@@ -58,7 +58,7 @@ class SerialPort {
   /// Replaces `text` by every character that waits; "" when none does. Keeps the capacity of `text`.
   virtual void Input(std::string& text) = 0;
 
-  /// Hands one whole sentence to the port. Never blocks. While an earlier sentence has not left, the newest
+  /// Hands one whole sentence to the port. Never blocks; a device that has room has it on return. While an earlier sentence has not left, the newest
   /// takes the place of any that waits behind it; one that waits for more than two seconds is
   /// forgotten. Without effect on a closed port.
   virtual void Output(std::string_view sentence) = 0;

@@ -13,6 +13,7 @@
 #include "platform/SystemClock.h"
 
 #ifdef Q_OS_UNIX
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <termios.h>
 #endif
@@ -56,6 +57,17 @@ bool DriverBusy(const QSerialPort& port) {
 #endif
 }
 
+/// True when the driver takes characters at this moment, without waiting.
+bool DriverTakes(const QSerialPort& port) {
+#ifdef Q_OS_UNIX
+  pollfd device{port.handle(), POLLOUT, 0};
+  return ::poll(&device, 1, 0) == 1 && (device.revents & (POLLOUT | POLLERR | POLLHUP)) == POLLOUT;
+#else
+  static_cast<void>(port);
+  return true;
+#endif
+}
+
 }  // namespace
 
 std::unique_ptr<LineErrorCounters> SerialPortQt::DriverCounters(const QSerialPort& device) {
@@ -81,7 +93,11 @@ SerialPortQt::SerialPortQt(const Profile& profile, CountersMaker makeCounters)
   // Events wait for the loop: Qt swallows readyRead inside readyRead, and closing inside errorOccurred takes
   // the notifier away under its own feet.
   QObject::connect(&m_port, &QSerialPort::readyRead, &m_port, [this] { m_offerTimer.start(0); });
-  QObject::connect(&m_port, &QSerialPort::bytesWritten, &m_port, [this] { Pump(); });
+  // Qt forgets what is handed to the driver inside bytesWritten.
+  QObject::connect(&m_port, &QSerialPort::bytesWritten, &m_port, [this] {
+    m_handed = false;
+    m_pumpTimer.start(0);
+  });
   QObject::connect(&m_port, &QSerialPort::errorOccurred, &m_port,
                    [this](QSerialPort::SerialPortError error) { ErrorOccurred(error); });
   m_beatTimer.setInterval(kBeat);
@@ -144,18 +160,19 @@ void SerialPortQt::Close(int leaveTime) {
   }
   m_open = false;
   m_slot.Clear();
-  for (QDeadlineTimer patience(leaveTime); Busy() && !patience.hasExpired();) {
+  for (QDeadlineTimer patience(leaveTime); Leaving() && !patience.hasExpired();) {
     // Qt sends its own characters only while it is waited for; nothing tells when the driver has sent its
     // own.
     if (m_port.bytesToWrite() == 0 || !m_port.waitForBytesWritten(kLookAgain)) {
       QThread::msleep(kLookAgain / 4);
     }
   }
-  if (Busy()) {
+  if (Leaving()) {
     m_port.clear(QSerialPort::Output);
   }
   m_port.clear(QSerialPort::Input);
   m_port.close();
+  m_handed = false;
   m_counters.reset();
   m_beatTimer.stop();
   m_stale = QDeadlineTimer();
@@ -181,10 +198,15 @@ void SerialPortQt::Output(std::string_view sentence) {
   }
 }
 
-bool SerialPortQt::Busy() { return m_port.bytesToWrite() > 0 || DriverBusy(m_port); }
+bool SerialPortQt::Leaving() const { return m_port.bytesToWrite() > 0 || DriverBusy(m_port); }
+
+bool SerialPortQt::Busy() { return m_handed || Leaving(); }
 
 void SerialPortQt::Write(std::string_view sentence) {
   m_port.write(sentence.data(), static_cast<qint64>(sentence.size()));
+  // Qt would keep it until the event loop comes round, behind everything that follows from the same wind. A
+  // driver that has no room is asked by the loop; asked here, it would count as an error of the port.
+  m_handed = DriverTakes(m_port) && m_port.flush();
 }
 
 void SerialPortQt::Pump() {

@@ -57,6 +57,8 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
  private:
   bool Busy() override;
   void Write(std::string_view sentence) override;
+  /// Qt or the driver holds characters that have not left.
+  bool Leaving() const;
 
   bool Open();
   std::string WhyNotOpen(const std::string& device) const;
@@ -85,6 +87,7 @@ class SerialPortQt final : public SerialPort, private OutputSlot::Line {
   QTimer m_loseTimer;
   QTimer m_pumpTimer;
   OutputSlot m_slot;
+  bool m_handed = false;   ///< to the driver, and the event loop has not come round since
   QDeadlineTimer m_fresh;  ///< until when a sentence that waits is worth sending
   std::unique_ptr<LineErrorCounters> m_counters;
   LineErrorWatch m_lineErrors;

@@ -31,6 +31,25 @@ TEST(OutputSlot, WritesAtOnceOnAFreeLine) {
   EXPECT_FALSE(slot.Waiting());
 }
 
+TEST(OutputSlot, WritesASentenceOnceThoughTheLineComesBackMeanwhile) {
+  class ReturningLine : public ScriptedLine {
+   public:
+    void Write(std::string_view sentence) override {
+      Written.emplace_back(sentence);
+      if (Written.size() < 5) {
+        Slot->Pump();
+      }
+    }
+    OutputSlot* Slot = nullptr;
+  };
+  ReturningLine line;
+  OutputSlot slot(line);
+  line.Slot = &slot;
+  slot.Put("a");
+  EXPECT_THAT(line.Written, ElementsAre("a"));
+  EXPECT_EQ(slot.Written(), 1U);
+}
+
 TEST(OutputSlot, KeepsOnlyTheNewestWhileTheLineIsBusy) {
   ScriptedLine line;
   OutputSlot slot(line);

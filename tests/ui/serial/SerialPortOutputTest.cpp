@@ -20,6 +20,16 @@ TEST_F(SerialPortOutput, SendsAWholeSentence) {
   EXPECT_EQ(sent, "$ECAPB,one*00\r\n");
 }
 
+TEST_F(SerialPortOutput, HandsASentenceToTheSystemBeforeItReturns) {
+  ASSERT_TRUE(m_port.PortOpen(true));
+  for (const char* sentence : {"$ECAPB,one*00\r\n", "$ECAPB,two*00\r\n"}) {
+    m_port.Output(sentence);
+    EXPECT_EQ(m_pty.Read(), sentence);
+    QCoreApplication::processEvents();
+  }
+  EXPECT_EQ(m_port.Sent(), 2U);
+}
+
 TEST_F(SerialPortOutput, SendsNothingWhileItIsClosed) {
   m_port.Output("lost\r\n");
   ASSERT_TRUE(m_port.PortOpen(true));
