@@ -67,7 +67,7 @@ BENCHMARK_CAPTURE(Lookups, LargestTable, LargestTable(), PlotType::TrueWind);
 BENCHMARK_CAPTURE(Lookups, LargestTableApparent, LargestTable(), PlotType::ApparentWind);
 
 /// Searches per second for the best way to a bearing all around the compass, in any wind that the table has.
-void Targets(benchmark::State& state, PolarTable table, PlotType type, bool pauses) {
+void Targets(benchmark::State& state, PolarTable table, PlotType type) {
   if (table.PolarRows(0) == 0) {
     state.SkipWithError("no default polar");
     return;
@@ -75,23 +75,17 @@ void Targets(benchmark::State& state, PolarTable table, PlotType type, bool paus
   table.Type(type);
   const float leastWind = table.Value(0, 0, 1);
   const float mostWind = table.Value(0, 0, table.PolarColumns(0));
-  const CourseYield yield = [] { return true; };
   CourseQuery query{30.0F, 0.0F, 45.0F, leastWind};
   for (auto _ : state) {
     query.TargetBearing = std::fmod(query.TargetBearing + 137.5F, 360.0F);
     query.WindSpeedTrue = query.WindSpeedTrue + 0.7F > mostWind ? leastWind : query.WindSpeedTrue + 0.7F;
-    if (pauses) {
-      benchmark::DoNotOptimize(CourseTargets(table, query, yield));
-    } else {
-      benchmark::DoNotOptimize(CourseTargets(table, query));
-    }
+    benchmark::DoNotOptimize(CourseTargets(table, query));
   }
 }
-BENCHMARK_CAPTURE(Targets, DefaultTable, DefaultTable(), PlotType::TrueWind, false);
-BENCHMARK_CAPTURE(Targets, DefaultTableWithPauses, DefaultTable(), PlotType::TrueWind, true);
-BENCHMARK_CAPTURE(Targets, DefaultTableApparent, DefaultTable(), PlotType::ApparentWind, false);
-BENCHMARK_CAPTURE(Targets, LargestTable, LargestTable(), PlotType::TrueWind, false);
-BENCHMARK_CAPTURE(Targets, LargestTableApparent, LargestTable(), PlotType::ApparentWind, false);
+BENCHMARK_CAPTURE(Targets, DefaultTable, DefaultTable(), PlotType::TrueWind);
+BENCHMARK_CAPTURE(Targets, DefaultTableApparent, DefaultTable(), PlotType::ApparentWind);
+BENCHMARK_CAPTURE(Targets, LargestTable, LargestTable(), PlotType::TrueWind);
+BENCHMARK_CAPTURE(Targets, LargestTableApparent, LargestTable(), PlotType::ApparentWind);
 
 }  // namespace
 

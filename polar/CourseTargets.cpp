@@ -78,8 +78,9 @@ float AsAngle(float angle) {
   return std::fabs(angle) <= kHalfTurn ? angle : FoldRelative(static_cast<double>(angle));
 }
 
-template <class Step>
-std::optional<CourseSolution> Search(const PolarTable& table, const CourseQuery& query, Step step) {
+}  // namespace
+
+CourseSolution CourseTargets(const PolarTable& table, const CourseQuery& query) {
   const float windAngle = AsAngle(query.WindAngleTrue);
   const float bearing = FoldBearing(static_cast<double>(query.TargetBearing));
   const double heading = static_cast<double>(FoldBearing(static_cast<double>(query.Heading)));
@@ -113,9 +114,6 @@ std::optional<CourseSolution> Search(const PolarTable& table, const CourseQuery&
           bestLeft = &left;
         }
       }
-      if (!step()) {
-        return std::nullopt;
-      }
     }
   }
   solution.Best = solution.Direct;
@@ -128,17 +126,6 @@ std::optional<CourseSolution> Search(const PolarTable& table, const CourseQuery&
     }
   }
   return solution;
-}
-
-}  // namespace
-
-CourseSolution CourseTargets(const PolarTable& table, const CourseQuery& query) {
-  return *Search(table, query, [] { return true; });
-}
-
-std::optional<CourseSolution> CourseTargets(const PolarTable& table, const CourseQuery& query,
-                                            const CourseYield& yield) {
-  return Search(table, query, [&yield] { return yield(); });
 }
 
 CourseSolution CourseScaled(CourseSolution solution, float boatSpeed, float polarSpeed) {
@@ -172,19 +159,14 @@ std::size_t LegNow(const CourseSolution& solution) {
   return solution.Legs[now].Share > 0.0F ? now : 1 - now;
 }
 
-std::optional<CourseSolution> CourseMemory::Solve(const PolarTable& table, std::uint64_t version,
-                                                  const CourseQuery& query, const CourseYield& yield) {
+const CourseSolution& CourseMemory::Solve(const PolarTable& table, std::uint64_t version,
+                                          const CourseQuery& query) {
   if (!m_solution || m_version != version || !(m_query == query)) {
-    auto found = CourseTargets(table, query, yield);
-    if (!found) {
-      return std::nullopt;
-    }
-    // A pause may have asked for something else; only what was found here is remembered here.
+    m_solution = CourseTargets(table, query);
     m_version = version;
     m_query = query;
-    m_solution = *found;
   }
-  return m_solution;
+  return *m_solution;
 }
 
 }  // namespace veerwatch

@@ -5,7 +5,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <optional>
 
 #include "polar/PolarTable.h"
@@ -45,18 +44,10 @@ struct CourseSolution {
 /// more than 3 percent.
 inline constexpr double kWorthTacking = 1.03;
 
-/// Called after each pair of headings that was looked at; false ends the search.
-using CourseYield = std::function<bool()>;
-
 /// The solution for slot 0, from headings in steps of one degree up to 90 degrees to either side of the
 /// bearing. Of equal routes the one with the smallest offset to the right, then to the left, wins. The table
 /// is seen in its own wind, true or apparent; a smooth one in the true wind alone.
 CourseSolution CourseTargets(const PolarTable& table, const CourseQuery& query);
-
-/// The same with pauses; nothing when `yield` ended it. The table is not read any more once `yield` was
-/// called, so it may change or go meanwhile.
-std::optional<CourseSolution> CourseTargets(const PolarTable& table, const CourseQuery& query,
-                                            const CourseYield& yield);
 
 /// The solution at the boat's own pace: every speed multiplied by `boatSpeed` over `polarSpeed` [kn];
 /// unchanged where the polar speed is 0.
@@ -72,9 +63,8 @@ std::size_t LegNow(const CourseSolution& solution);
 /// Searches and keeps the latest solution, for as long as the same is asked of the same table.
 class CourseMemory {
  public:
-  /// `version` stands for the state of `table`. Nothing when `yield` ended the search.
-  std::optional<CourseSolution> Solve(const PolarTable& table, std::uint64_t version,
-                                      const CourseQuery& query, const CourseYield& yield);
+  /// `version` stands for the state of `table`.
+  const CourseSolution& Solve(const PolarTable& table, std::uint64_t version, const CourseQuery& query);
 
  private:
   std::uint64_t m_version = 0;

@@ -22,8 +22,6 @@ constexpr qreal kTargetWidth = 2.2;
 /// Shorter than other dashes, as at night lines differ in little else.
 constexpr qreal kTargetDash = 4.0;
 constexpr qreal kLegNowWidth = 3.6;
-/// Time between two repaints at least [ms].
-constexpr int kRest = 180;
 /// How strongly the minor curves of a dense table show.
 constexpr qreal kMinorShare = 0.3;
 
@@ -83,13 +81,6 @@ void HaloText(QPainter& painter, const QPointF& centre, const QString& text, con
 
 PolarCanvasQt::PolarCanvasQt(QWidget* parent) : QWidget(parent), m_colours(palette()) {
   setMouseTracking(true);
-  m_rest.setSingleShot(true);
-  m_rest.setInterval(kRest);
-  connect(&m_rest, &QTimer::timeout, this, [this] {
-    if (m_stale) {
-      update();
-    }
-  });
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -98,18 +89,10 @@ void PolarCanvasQt::Show(const PolarStill& still, PolarMoving moving) {
     m_still = still;
   }
   m_moving = std::move(moving);
-  m_stale = true;
-  if (!m_rest.isActive()) {
-    update();
-  }
+  update();
 }
 
-void PolarCanvasQt::paintEvent(QPaintEvent* event) {
-  // A part is painted for what stands on the plot; what is new there comes with the whole.
-  if (event->rect() == rect()) {
-    m_stale = false;
-    m_rest.start();
-  }
+void PolarCanvasQt::paintEvent(QPaintEvent* /*event*/) {
   const qreal ratio = devicePixelRatioF();
   const QSize pixels = (QSizeF(size()) * ratio).toSize();
   if (m_pictured != m_still.Version || m_picture.size() != pixels) {

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QPixmap>
-#include <QTimer>
 #include <QWidget>
 #include <functional>
 
@@ -16,7 +15,7 @@ class PolarCanvasQt final : public QWidget {
  public:
   explicit PolarCanvasQt(QWidget* parent);
 
-  /// What to show; copies both and repaints, a few times a second at most.
+  /// What to show; copies both and repaints.
   void Show(const PolarStill& still, PolarMoving moving);
 
   /// Called with every press of the left button and every move of the mouse [px].
@@ -51,8 +50,6 @@ class PolarCanvasQt final : public QWidget {
   PolarPaletteQt m_colours;
   PolarStill m_still;
   PolarMoving m_moving;
-  QTimer m_rest;                 ///< runs for a while behind each repaint
-  bool m_stale = false;          ///< something new came meanwhile
   QPixmap m_picture;             ///< the still part
   std::uint64_t m_pictured = 0;  ///< version of the still part in the picture, 0 for none
 };

@@ -19,6 +19,15 @@ PolarCell AtAngle(const RowBracket& bracket, float angle) {
           Interpolate(angle, lower.Angle, upper.Angle, lower.BoatSpeed, upper.BoatSpeed)};
 }
 
+/// The angle of a cell with a true angle in apparent wind [deg].
+float ApparentAngle(const PolarCell& cell) {
+  const double angle = static_cast<double>(cell.Angle) * kRadiansPerDegree;
+  const double x =
+      static_cast<double>(cell.BoatSpeed) + static_cast<double>(cell.WindSpeed) * std::cos(angle);
+  const double y = static_cast<double>(cell.WindSpeed) * std::sin(angle);
+  return ToSingle(Atan2(x, y) / kRadiansPerDegree);
+}
+
 }  // namespace
 
 float Interpolate(float x, float x1, float x2, float y1, float y2) {
@@ -42,7 +51,7 @@ PolarTable::PolarTable()
     : m_values(static_cast<std::size_t>(kSlots * (kMostRows + 1) * (kMostColumns + 1))) {}
 
 PolarCell PolarTable::PolarPoint(int slot, int row, int column) const {
-  return Seen({Value(slot, row, 0), Value(slot, 0, column), Value(slot, row, column)});
+  return {SeenAngle(slot, row, column), Value(slot, 0, column), Value(slot, row, column)};
 }
 
 PolarCell PolarTable::PolarPointAt(int slot, int row, const ColumnBracket& columns) const {
@@ -73,21 +82,38 @@ ColumnBracket PolarTable::PolarFindColumn(int slot, float windSpeed) const {
 
 PolarCell PolarTable::Seen(PolarCell cell) const {
   if (m_type == PlotType::ApparentWind) {
-    const double angle = static_cast<double>(cell.Angle) * kRadiansPerDegree;
-    const double x =
-        static_cast<double>(cell.BoatSpeed) + static_cast<double>(cell.WindSpeed) * std::cos(angle);
-    const double y = static_cast<double>(cell.WindSpeed) * std::sin(angle);
-    cell.Angle = ToSingle(Atan2(x, y) / kRadiansPerDegree);
+    cell.Angle = ApparentAngle(cell);
   }
   return cell;
 }
 
+float PolarTable::SeenAngle(int slot, int row, int column) const {
+  if (m_type == PlotType::TrueWind) {
+    return Value(slot, row, 0);
+  }
+  const int rows = PolarRows(slot);
+  const int columns = PolarColumns(slot);
+  if (row > rows || column > columns) {
+    return ApparentAngle({Value(slot, row, 0), Value(slot, 0, column), Value(slot, row, column)});
+  }
+  std::vector<float>& angles = m_apparent[static_cast<std::size_t>(slot)];
+  if (angles.empty()) {
+    angles.reserve(static_cast<std::size_t>(rows * columns));
+    for (int c = 1; c <= columns; ++c) {
+      for (int r = 1; r <= rows; ++r) {
+        angles.push_back(ApparentAngle({Value(slot, r, 0), Value(slot, 0, c), Value(slot, r, c)}));
+      }
+    }
+  }
+  return angles[static_cast<std::size_t>((column - 1) * rows + row - 1)];
+}
+
 RowBracket PolarTable::PolarFindRow(int slot, int column, float angle) const {
-  PolarCell lower = PolarPoint(slot, 1, column);
+  float lower = SeenAngle(slot, 1, column);
   for (int row = 2; row <= PolarRows(slot); ++row) {
-    const PolarCell upper = PolarPoint(slot, row, column);
-    if (lower.Angle <= angle && angle <= upper.Angle) {
-      return {row - 1, lower, upper};
+    const float upper = SeenAngle(slot, row, column);
+    if (lower <= angle && angle <= upper) {
+      return {row - 1, PolarPoint(slot, row - 1, column), PolarPoint(slot, row, column)};
     }
     lower = upper;
   }
@@ -138,40 +164,45 @@ float PolarTable::SteppedSpeed(int slot, float angle, float windSpeed) const {
     return bracket;
   };
 
-  int column = columns;
-  RowBracket upper = bracketOf(column);
+  int highest = columns;
+  RowBracket upper = bracketOf(highest);
   while (upper.Row == 0) {
     // Rows at the same angles everywhere enclose it everywhere or nowhere.
-    if (m_type == PlotType::TrueWind || --column < 1) {
+    if (m_type == PlotType::TrueWind || --highest < 1) {
       return 0.0F;
     }
-    upper = bracketOf(column);
+    upper = bracketOf(highest);
   }
-  const float upperWind = upper.Lower.WindSpeed;
-  if (windSpeed >= upperWind) {
+  if (windSpeed >= upper.Lower.WindSpeed) {
     return AtAngle(upper, angle).BoatSpeed;
   }
-  if (column == 1) {
+  if (highest == 1) {
     return 0.0F;
   }
 
-  for (--column; column >= 1; --column) {
-    const RowBracket lower = bracketOf(column);
-    if (lower.Row == 0) {
-      continue;
-    }
-    if (lower.Lower.WindSpeed <= windSpeed) {
-      const PolarCell below = AtAngle(lower, angle);
-      const PolarCell above = AtAngle(upper, angle);
-      return Interpolate(windSpeed, below.WindSpeed, above.WindSpeed, below.BoatSpeed, above.BoatSpeed);
-    }
-    upper.Lower.Angle = lower.Lower.Angle;
-    upper.Lower.WindSpeed = lower.Lower.WindSpeed;
-    upper.Upper.Angle = lower.Upper.Angle;
-    upper.Upper.WindSpeed = lower.Upper.WindSpeed;
+  // Most columns have a wind above the wanted one. Of those only the lowest that encloses the angle counts,
+  // so the search for it goes upwards from the one below.
+  const auto above = [&](int column) { return Value(slot, 0, column) > windSpeed; };
+  RowBracket lower;
+  int column = highest;
+  while (lower.Row == 0 && --column >= 1) {
+    lower = above(column) ? RowBracket() : bracketOf(column);
   }
-  const PolarCell above = AtAngle(upper, angle);
-  return Interpolate(windSpeed, 0.0F, above.WindSpeed, 0.0F, above.BoatSpeed);
+  for (RowBracket passed; passed.Row == 0 && ++column < highest;) {
+    passed = above(column) ? bracketOf(column) : RowBracket();
+    if (passed.Row > 0) {
+      upper.Lower.Angle = passed.Lower.Angle;
+      upper.Lower.WindSpeed = passed.Lower.WindSpeed;
+      upper.Upper.Angle = passed.Upper.Angle;
+      upper.Upper.WindSpeed = passed.Upper.WindSpeed;
+    }
+  }
+  const PolarCell over = AtAngle(upper, angle);
+  if (lower.Row == 0) {
+    return Interpolate(windSpeed, 0.0F, over.WindSpeed, 0.0F, over.BoatSpeed);
+  }
+  const PolarCell under = AtAngle(lower, angle);
+  return Interpolate(windSpeed, under.WindSpeed, over.WindSpeed, under.BoatSpeed, over.BoatSpeed);
 }
 
 NearestCell PolarTable::PolarNearest(int slot, double x, double y, const PolarGeometry& geometry) const {

@@ -61,13 +61,23 @@ class PolarTable {
 
   /// Value at [slot][row][column], row 0 to kMostRows and column 0 to kMostColumns. Row 0 holds the true wind
   /// speeds [kn], column 0 the true wind angles [deg], the others boat speeds [kn].
-  float& Value(int slot, int row, int column) { return m_values[Index(slot, row, column)]; }
+  /// The reference is for writing at once: no lookup comes in between.
+  float& Value(int slot, int row, int column) {
+    Forget(slot);
+    return m_values[Index(slot, row, column)];
+  }
   float Value(int slot, int row, int column) const { return m_values[Index(slot, row, column)]; }
 
   /// Rows and columns of a slot, besides row and column 0.
-  std::int16_t& PolarRows(int slot) { return m_rows[static_cast<std::size_t>(slot)]; }
+  std::int16_t& PolarRows(int slot) {
+    Forget(slot);
+    return m_rows[static_cast<std::size_t>(slot)];
+  }
   std::int16_t PolarRows(int slot) const { return m_rows[static_cast<std::size_t>(slot)]; }
-  std::int16_t& PolarColumns(int slot) { return m_columns[static_cast<std::size_t>(slot)]; }
+  std::int16_t& PolarColumns(int slot) {
+    Forget(slot);
+    return m_columns[static_cast<std::size_t>(slot)];
+  }
   std::int16_t PolarColumns(int slot) const { return m_columns[static_cast<std::size_t>(slot)]; }
 
   PlotType Type() const { return m_type; }
@@ -106,6 +116,9 @@ class PolarTable {
  private:
   /// A cell with a true angle as lookups and plot see it.
   PolarCell Seen(PolarCell cell) const;
+  /// The angle of a cell as they see it [deg].
+  float SeenAngle(int slot, int row, int column) const;
+  void Forget(int slot) { m_apparent[static_cast<std::size_t>(slot)].clear(); }
   float SteppedSpeed(int slot, float angle, float windSpeed) const;
   float SmoothSpeed(int slot, float angle, float windSpeed) const;
   /// Boat speed of a row between two columns [kn].
@@ -117,6 +130,8 @@ class PolarTable {
   }
 
   std::vector<float> m_values;
+  /// Apparent wind angles of the cells in use [deg], column by column; empty until they are asked for.
+  mutable std::array<std::vector<float>, kSlots> m_apparent;
   std::array<std::int16_t, kSlots> m_rows{};
   std::array<std::int16_t, kSlots> m_columns{};
   PlotType m_type = PlotType::TrueWind;

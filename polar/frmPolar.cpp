@@ -2,12 +2,9 @@
 
 #include <QCloseEvent>
 #include <QGuiApplication>
-#include <QPointer>
 #include <QScreen>
-#include <QTimer>
 #include <algorithm>
 
-#include "polar/CoursePauseQt.h"
 #include "polar/PolarQuestions.h"
 
 namespace veerwatch {
@@ -41,7 +38,8 @@ frmPolar::frmPolar(const PolarParts& parts)
       m_menu(*this),
       m_canvas(new PolarCanvasQt(this)),
       lblMouse(new MouseReadoutQt(m_canvas)),
-      m_course(m_canvas) {
+      m_course(m_canvas),
+      m_show(parts.Rest, [this] { ShowUpdate(); }) {
   setObjectName(QStringLiteral("frmPolar"));
   setWindowTitle(QStringLiteral("Veerwatch - Polar"));
   setAttribute(Qt::WA_QuitOnClose, false);
@@ -118,7 +116,8 @@ void frmPolar::ConnectCourse() {
   ledger.MenuWanted = [this](QPoint at) { m_menu.mnuLedger->popup(at); };
 }
 
-std::optional<float> frmPolar::TurnHeading(TurnButton button) const {
+std::optional<float> frmPolar::TurnHeading(TurnButton button) {
+  m_show.Now();
   if (!m_ledger) {
     return std::nullopt;
   }
@@ -171,60 +170,35 @@ void frmPolar::PolarUpdate(TrackMode mode, bool headingValid, float heading, flo
   if (newMode) {
     PolarMenus();
   }
-  ShowUpdate();
+  m_parts.Tells.OnPolarValue("Polar Speed", m_model.PolarSpeedText());
+  m_show.Wish();
 }
 
 void frmPolar::ShowUpdate() {
-  if (!CourseUpdate() || !isVisible()) {
-    return;
-  }
+  CourseUpdate();
   PolarDraw();
-  m_parts.Tells.OnPolarValue("Polar Speed", m_model.PolarSpeedText());
 }
 
-bool frmPolar::CourseUpdate() {
-  if (m_searching) {
-    m_missed = true;
-    return false;
-  }
-  const QPointer<frmPolar> alive(this);
+void frmPolar::CourseUpdate() {
   const auto bearing = m_model.CourseBearing();
   if (!bearing) {
     CourseHide();
-    return true;
+    return;
   }
   const PolarValues values = m_model.Values();
   CourseLedger(values.Heading, *bearing, values.WindAngleTrue, values.WindSpeedTrue, values.BoatSpeed,
                m_model.PolarSpeed());
-  return !alive.isNull();
 }
 
 void frmPolar::CourseLedger(float heading, float targetBearing, float windAngleTrue, float windSpeedTrue,
                             float boatSpeed, float polarSpeed) {
-  const QPointer<frmPolar> alive(this);
   const LedgerInput input{{heading, targetBearing, windAngleTrue, windSpeedTrue},
                           boatSpeed,
                           polarSpeed,
                           m_model.Values().WaypointRange};
-  m_searching = true;
-  const auto solution =
-      m_memory.Solve(m_model.Table(), m_model.Version(), input.Query, CoursePause(this, m_parts.PauseAfter));
-  if (!alive) {
-    return;
-  }
-  m_searching = false;
-  if (std::exchange(m_missed, false)) {
-    QTimer::singleShot(0, this, [this] {
-      if (isVisible()) {
-        PolarMenus();
-        ShowUpdate();
-      }
-    });
-  }
-  if (solution) {
-    m_ledger = veerwatch::CourseLedger(m_model.Settings(), input, *solution);
-    m_course.Show(*m_ledger);
-  }
+  m_ledger = veerwatch::CourseLedger(m_model.Settings(), input,
+                                     m_memory.Solve(m_model.Table(), m_model.Version(), input.Query));
+  m_course.Show(*m_ledger);
 }
 
 void frmPolar::CourseHide() {
@@ -243,14 +217,14 @@ void frmPolar::PolarDraw() {
 
 void frmPolar::Follow() {
   PolarMenus();
-  if (CourseUpdate()) {
-    PolarDraw();
-  }
+  CourseUpdate();
+  PolarDraw();
 }
 
 void frmPolar::closeEvent(QCloseEvent* event) {
   PolarStore();
   // Nothing follows the course of a closed window; opened again, it waits for the next update.
+  m_show.Forget();
   CourseHide();
   event->accept();
 }

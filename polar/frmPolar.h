@@ -11,6 +11,7 @@
 #include "polar/CourseControlsQt.h"
 #include "polar/CourseTargets.h"
 #include "polar/MouseReadoutQt.h"
+#include "polar/PacedQt.h"
 #include "polar/PolarCanvasQt.h"
 #include "polar/PolarListener.h"
 #include "polar/PolarMenuQt.h"
@@ -25,7 +26,7 @@ struct PolarParts {
   Dialogs& Asks;
   PolarListener& Tells;
   PolarFolders Folders;
-  int PauseAfter = 10;  ///< time after which a search for a course lets the window live [ms]
+  int Rest = 180;  ///< least time from one set of values that is shown to the next [ms]
 };
 
 class frmPolar final : public QMainWindow {
@@ -37,7 +38,8 @@ class frmPolar final : public QMainWindow {
   void PolarInit(bool recall);
 
   /// Takes one set of instrument values, as they stand in the record: angles [deg, wind angles negative to
-  /// port], speeds [kn], range [nm].
+  /// port], speeds [kn], range [nm]. Averages them and tells the polar speed at once; what is seen, with the
+  /// search for the course, follows when the event loop comes round, a few times a second at most.
   void PolarUpdate(TrackMode mode, bool headingValid, float heading, float boatSpeed, float windAngleApparent,
                    float windSpeedApparent, float windAngleTrue, float windSpeedTrue, bool waypointValid,
                    float waypointBearing, float waypointRange);
@@ -51,8 +53,9 @@ class frmPolar final : public QMainWindow {
 
   const PolarModel& Model() const { return m_model; }
 
-  /// Where the turn of `button` leads now [deg magnetic, [0, 360)]; nothing while no course shows.
-  std::optional<float> TurnHeading(TurnButton button) const;
+  /// Where the turn of `button` leads now [deg magnetic, [0, 360)], by all that has come; nothing while no
+  /// course shows.
+  std::optional<float> TurnHeading(TurnButton button);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -63,13 +66,11 @@ class frmPolar final : public QMainWindow {
  private:
   void ConnectMenus();
   void ConnectCourse();
-  /// Shows what the model made of an update, and tells the polar speed.
+  /// Shows what the model made of the updates.
   void ShowUpdate();
-  /// Shows the course to where the model says, or hides it. False when the caller has to leave at once: a
-  /// search runs already and is done again behind it, or the window is no more.
-  bool CourseUpdate();
-  /// Searches the best course to `targetBearing` and shows its ledger, its legs and the turns; none of it
-  /// when the window was closed in a pause of the search.
+  /// Shows the course to where the model says, or hides it.
+  void CourseUpdate();
+  /// Searches the best course to `targetBearing` and shows its ledger, its legs and the turns.
   void CourseLedger(float heading, float targetBearing, float windAngleTrue, float windSpeedTrue,
                     float boatSpeed, float polarSpeed);
   /// Hides what belongs to a course.
@@ -89,8 +90,7 @@ class frmPolar final : public QMainWindow {
   CourseControlsQt m_course;
   CourseMemory m_memory;
   std::optional<LedgerContent> m_ledger;  ///< of the present course
-  bool m_searching = false;
-  bool m_missed = false;  ///< something came while a search ran
+  PacedQt m_show;
 };
 
 }  // namespace veerwatch

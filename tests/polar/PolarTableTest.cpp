@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cmath>
+#include <random>
 #include <vector>
 
 #include "tests/support/PolarText.h"
@@ -283,6 +284,102 @@ TEST(PolarSpeed, LooksInEveryColumnWhileOneOfThemHoldsAnApparentAngle) {
   const PolarCell far = table.PolarPoint(0, 3, 4);
   ASSERT_GT(far.Angle, 76.0F);
   EXPECT_FLOAT_EQ(table.PolarSpeed(0, 76.0F, 20.0F), Interpolate(76.0F, near.Angle, far.Angle, 11.0F, 14.0F));
+}
+
+/// The rule of PolarSpeed step by step, from the highest column down.
+float SteppedDown(const PolarTable& table, float angle, float wind) {
+  const auto at = [angle](const RowBracket& rows) {
+    return Interpolate(angle, rows.Lower.Angle, rows.Upper.Angle, rows.Lower.BoatSpeed, rows.Upper.BoatSpeed);
+  };
+  const int columns = table.PolarColumns(0);
+  const auto beyond = [&](int row, bool below) {
+    const float first = table.PolarPoint(0, row, 1).Angle;
+    const float last = table.PolarPoint(0, row, columns).Angle;
+    return below ? angle < first && angle < last : angle > first && angle > last;
+  };
+  if (beyond(1, true) || beyond(table.PolarRows(0), false)) {
+    return 0.0F;
+  }
+  int column = columns;
+  RowBracket upper = table.PolarFindRow(0, column, angle);
+  while (upper.Row == 0 && --column >= 1) {
+    upper = table.PolarFindRow(0, column, angle);
+  }
+  if (column < 1 || (column == 1 && wind < upper.Lower.WindSpeed)) {
+    return 0.0F;
+  }
+  if (wind >= upper.Lower.WindSpeed) {
+    return at(upper);
+  }
+  while (--column >= 1) {
+    const RowBracket lower = table.PolarFindRow(0, column, angle);
+    if (lower.Row == 0) {
+      continue;
+    }
+    if (lower.Lower.WindSpeed <= wind) {
+      return Interpolate(wind, lower.Lower.WindSpeed, upper.Lower.WindSpeed, at(lower), at(upper));
+    }
+    upper.Lower = {lower.Lower.Angle, lower.Lower.WindSpeed, upper.Lower.BoatSpeed};
+    upper.Upper = {lower.Upper.Angle, lower.Upper.WindSpeed, upper.Upper.BoatSpeed};
+  }
+  return Interpolate(wind, 0.0F, upper.Lower.WindSpeed, 0.0F, at(upper));
+}
+
+TEST(PolarSpeed, FollowsItsRuleInTablesOfAnyOrder) {
+  std::mt19937 dice(7);
+  const auto any = [&dice](float least, float most) {
+    return std::uniform_real_distribution<float>(least, most)(dice);
+  };
+  int above0 = 0;
+  for (int number = 0; number < 400; ++number) {
+    PolarTable table;
+    const int rows = 2 + number % 9;
+    const int columns = 1 + number % 7;
+    for (int row = 1; row <= rows; ++row) {
+      table.Value(0, row, 0) =
+          number % 3 == 0 ? any(0.0F, 180.0F) : 180.0F * static_cast<float>(row) / static_cast<float>(rows);
+      for (int column = 1; column <= columns; ++column) {
+        table.Value(0, 0, column) = number % 5 == 0 ? any(0.0F, 30.0F) : 4.0F * static_cast<float>(column);
+        table.Value(0, row, column) = any(0.0F, 1.0F) < 0.2F ? 0.0F : any(0.0F, 12.0F);
+      }
+    }
+    table.PolarRows(0) = static_cast<std::int16_t>(rows);
+    table.PolarColumns(0) = static_cast<std::int16_t>(columns);
+    for (const PlotType type : {PlotType::TrueWind, PlotType::ApparentWind}) {
+      table.Type(type);
+      for (int place = 0; place < 40; ++place) {
+        const float angle = any(0.0F, 180.0F);
+        const float wind = any(0.0F, 32.0F);
+        const float speed = table.PolarSpeed(0, angle, wind);
+        ASSERT_EQ(speed, SteppedDown(table, angle, wind)) << number << ": " << angle << " " << wind;
+        above0 += speed > 0.0F ? 1 : 0;
+      }
+    }
+  }
+  EXPECT_GT(above0, 10'000);
+}
+
+TEST(PolarSpeed, SeesEveryChangeOfTheTableInApparentWind) {
+  PolarTable table = TableOf(kSmallPolar);
+  table.Type(PlotType::ApparentWind);
+  const float before = table.PolarSpeed(0, 60.0F, 20.0F);
+  const auto fresh = [&table] {
+    PolarTable copy = table;
+    copy.Value(0, 0, 0) = 0.0F;
+    return copy.PolarSpeed(0, 60.0F, 20.0F);
+  };
+  table.Value(0, 3, 4) += 2.0F;
+  EXPECT_NE(table.PolarSpeed(0, 60.0F, 20.0F), before);
+  EXPECT_EQ(table.PolarPoint(0, 3, 4).Angle, [&] {
+    PolarTable other = TableOf(kSmallPolar);
+    other.Type(PlotType::ApparentWind);
+    other.Value(0, 3, 4) += 2.0F;
+    return other.PolarPoint(0, 3, 4).Angle;
+  }());
+  table.PolarColumns(0) = 2;
+  EXPECT_EQ(table.PolarSpeed(0, 60.0F, 20.0F), fresh());
+  table.PolarRows(0) = 2;
+  EXPECT_EQ(table.PolarSpeed(0, 60.0F, 20.0F), fresh());
 }
 
 TEST(PolarNearest, MeasuresEachWayByItsOwnScale) {

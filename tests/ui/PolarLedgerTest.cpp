@@ -20,6 +20,17 @@ using testing::ElementsAre;
 constexpr QColor kGreen(128, 255, 128);
 constexpr QColor kRed(255, 128, 128);
 
+/// How often a widget is painted.
+class PaintCount : public QObject {
+ public:
+  explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    Count += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+  int Count = 0;
+};
+
 class PolarLedger : public PolarWindowTester {
  public:
   PolarLedger() {
@@ -46,7 +57,13 @@ class PolarLedger : public PolarWindowTester {
     float Range = 12.0F;
     float WindSpeed = 12.0F;
   };
+  /// One set of values, shown.
   void At(const Moment& moment) const {
+    Take(moment);
+    Settle();
+  }
+  /// The same, not shown yet.
+  void Take(const Moment& moment) const {
     Window->PolarUpdate(TrackMode::Track, moment.HeadingValid, moment.Heading, moment.BoatSpeed,
                         moment.WindAngle * 0.6F, moment.WindSpeed + 4.0F, moment.WindAngle, moment.WindSpeed,
                         moment.WaypointValid, moment.Bearing, moment.Range);
@@ -446,76 +463,57 @@ TEST_F(PolarLedger, DrawsTheLegsWithArrowHeads) {
   EXPECT_EQ(Near(GrabPlot(), PointAt(geometry, 45.0, 5.2), colours.StarboardTack), 0);
 }
 
-// Pauses in the search
+// Many updates
 
-TEST_F(PolarLedger, IsNotEnteredAgainByAnUpdateInAPause) {
-  PauseAfter = 0;
-  StartTo(100.0F);
-  bool outer = false;
-  int inside = 0;
-  QTimer::singleShot(0, Window.get(), [&] {
-    inside += outer ? 1 : 0;
-    Moment newer;
-    newer.Heading = 150.0F;
-    At(newer);
-  });
-  outer = true;
-  At({});
-  outer = false;
-  EXPECT_EQ(inside, 1) << "the update came in a pause";
-  EXPECT_EQ(Figures()[0], "Heading (M)=135") << "the search went on to its own end";
-  EXPECT_EQ(Values.size(), 1U);
-  EXPECT_EQ(Window->Model().Values().Heading, 150.0F) << "what came is not lost";
-  EXPECT_TRUE(WaitFor([this] { return Figures()[0] == "Heading (M)=150"; })) << Figures()[0];
-  EXPECT_EQ(Values.size(), 2U) << "and its polar speed is told";
-}
-
-TEST_F(PolarLedger, IsGivenUpByACloseInAPause) {
-  PauseAfter = 0;
-  StartTo(100.0F);
-  QTimer::singleShot(0, Window.get(), [&] { Window->close(); });
-  At({});
-  EXPECT_FALSE(Window->isVisible());
-  EXPECT_TRUE(Values.empty());
-  EXPECT_TRUE(Figures().empty());
-  Window->show();
-  At({});
-  EXPECT_TRUE(Shows()) << "and is found again";
-  EXPECT_EQ(Values.size(), 1U);
-}
-
-TEST_F(PolarLedger, OutlivesAWindowThatIsDestroyedInAPause) {
-  PauseAfter = 0;
-  StartTo(100.0F);
-  QTimer::singleShot(0, qApp, [&] { Window.reset(); });
-  At({});
-  EXPECT_EQ(Window, nullptr);
-  EXPECT_TRUE(Values.empty());
-}
-
-TEST_F(PolarLedger, SearchesOnceForTheSameWind) {
-  PauseAfter = 0;
+TEST_F(PolarLedger, ShowsTheNewestOfManyUpdatesOnceAndAveragesAll) {
+  Store.ProfileSet("Polar Data", "Plot Average", 4.0F);
   StartTo(100.0F);
   At({});
-  bool paused = false;
-  QTimer::singleShot(0, Window.get(), [&] { paused = true; });
-  At({});
-  EXPECT_FALSE(paused) << "nothing is different";
-  Moment other;
-  other.Heading = 130.0F;
-  At(other);
-  EXPECT_TRUE(paused);
+  ASSERT_EQ(Figures()[0], "Heading (M)=135");
+  PaintCount paints(Plot());
+  const std::size_t told = Values.size();
+  Moment newer;
+  newer.Heading = 175.0F;
+  for (int i = 0; i < 40; ++i) {
+    Take(newer);
+    EXPECT_EQ(Figures()[0], "Heading (M)=135") << "nothing is searched while sentences wait";
+  }
+  Settle();
+  EXPECT_EQ(Figures()[0], "Heading (M)=175") << "the average of all forty";
+  EXPECT_EQ(Values.size(), told + 40) << "the history is told of each";
+  EXPECT_EQ(paints.Count, 1);
 }
 
-TEST_F(PolarLedger, PausesOnlyWhenItTakesLong) {
+TEST_F(PolarLedger, RestsAfterEachUpdateThatItShows) {
   constexpr int kHour = 3600000;
-  PauseAfter = kHour;
+  Rest = kHour;
   StartTo(100.0F);
-  bool paused = false;
-  QTimer::singleShot(0, Window.get(), [&] { paused = true; });
   At({});
-  EXPECT_TRUE(Shows());
-  EXPECT_FALSE(paused);
+  ASSERT_EQ(Figures()[0], "Heading (M)=135");
+  Moment newer;
+  newer.Heading = 150.0F;
+  At(newer);
+  EXPECT_EQ(Figures()[0], "Heading (M)=135");
+  EXPECT_EQ(Window->Model().Values().Heading, 150.0F) << "what came is not lost";
+}
+
+TEST_F(PolarLedger, ShowsWhatCameDuringTheRest) {
+  Rest = 20;
+  StartTo(100.0F);
+  At({});
+  Moment newer;
+  newer.Heading = 150.0F;
+  At(newer);
+  EXPECT_TRUE(WaitFor([this] { return Figures()[0] == "Heading (M)=150"; })) << Figures()[0];
+}
+
+TEST_F(PolarLedger, ShowsNothingThatCameBeforeItWasClosed) {
+  StartTo(100.0F);
+  Take({});
+  Window->close();
+  Window->show();
+  Settle();
+  EXPECT_FALSE(Shows());
 }
 
 TEST_F(PolarLedger, LooksTheSameInTheDark) {

@@ -3,6 +3,7 @@
 #include <QWindow>
 
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/WaitQt.h"
 #include "tests/ui/TackTester.h"
 
 namespace veerwatch {
@@ -20,6 +21,7 @@ class PolarTack : public TackTester {
           "Course Waypoint Index=0\nCourse Target Bearing=228\nFile 1=" +
           (Polars / "a.pol").string() + "\n");
     tmrNmea.Tick(3);
+    ASSERT_TRUE(WaitFor([] { return Button("cmdTack").isVisible(); }));
   }
 
   static QPushButton& Button(const char* name) {
@@ -61,8 +63,8 @@ TEST_F(PolarTack, TurnsTheBoatToTheOtherLeg) {
   // 5 degrees beyond 183, to port; the pilot is 3 degrees off the compass.
   EXPECT_EQ(Window->m_fAutoPilot, 175.0F);
   EXPECT_NEAR(Heading(), 178.0F, 1.0F);
-  EXPECT_EQ(Button("cmdTack").text(), QStringLiteral("Tack >>"));
-  EXPECT_EQ(Button("cmdSteer").text(), QStringLiteral("Steer +5 >"));
+  EXPECT_TRUE(WaitForEqual([] { return Button("cmdTack").text(); }, QStringLiteral("Tack >>")));
+  EXPECT_TRUE(WaitForEqual([] { return Button("cmdSteer").text(); }, QStringLiteral("Steer +5 >")));
 }
 
 TEST_F(PolarTack, TheDialogStaysInFrontOfTheWindowThatOpenedIt) {

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
+#include <QTimer>
 #include <QtTest/QTest>
 #include <array>
 #include <memory>
@@ -34,7 +35,7 @@ class PolarWindowTester : public testing::Test, public PolarListener {
   /// New heading, heading and true wind angle of each turn that was asked for.
   std::vector<std::array<float, 3>> Turns;
   std::vector<TurnButton> Buttons;  ///< and the button of each
-  int PauseAfter = 10;              ///< [ms]
+  int Rest = 0;                     ///< from one set of values that is shown to the next [ms]
 
   PolarWindowTester() { WriteFile(Program / kDefaultPolar, kSmallPolar); }
 
@@ -48,7 +49,7 @@ class PolarWindowTester : public testing::Test, public PolarListener {
   }
 
   void Make() {
-    Window = std::make_unique<frmPolar>(PolarParts{Store, Dialogs, *this, {Program.Path(), {}}, PauseAfter});
+    Window = std::make_unique<frmPolar>(PolarParts{Store, Dialogs, *this, {Program.Path(), {}}, Rest});
   }
   void Start() {
     Make();
@@ -99,9 +100,20 @@ class PolarWindowTester : public testing::Test, public PolarListener {
     return Plot().grab().toImage();
   }
 
+  /// Turns the event loop until all is shown that may be by now.
+  static void Settle() {
+    QTimer later;
+    later.setSingleShot(true);
+    later.start(0);
+    while (later.isActive()) {
+      QApplication::processEvents();
+    }
+  }
+
   /// One set of values.
   void Sail(float angle, float wind, float boat, TrackMode mode = TrackMode::Track) const {
     Window->PolarUpdate(mode, true, 100.0F, boat, angle * 0.6F, wind + 4.0F, angle, wind, false, 0.0F, 0.0F);
+    Settle();
   }
 };
 
