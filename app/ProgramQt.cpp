@@ -1,6 +1,5 @@
 #include "app/ProgramQt.h"
 
-#include <QApplication>
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <cstdio>
@@ -11,6 +10,7 @@
 #include "app/ProfileLocation.h"
 #include "app/SessionQt.h"
 #include "app/frmMain.h"
+#include "platform/ApplicationQt.h"
 #include "platform/AtomicFile.h"
 #include "platform/DialogsQt.h"
 #include "platform/ProfileLock.h"
@@ -134,7 +134,7 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   }
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
   // It takes its own options away.
-  QApplication application(argc, argv);
+  ApplicationQt application(argc, argv);
   QApplication::setApplicationName(QString::fromLatin1(kApplicationTitle));
   QApplication::setApplicationVersion(QStringLiteral(VEERWATCH_VERSION));
   QGuiApplication::setDesktopFileName(QStringLiteral("veerwatch"));

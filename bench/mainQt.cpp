@@ -2,11 +2,11 @@
 
 #include <benchmark/benchmark.h>
 
-#include <QApplication>
+#include "platform/ApplicationQt.h"
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
-  QApplication application(argc, argv);
+  veerwatch::ApplicationQt application(argc, argv);
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
     return 1;

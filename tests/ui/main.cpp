@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QApplication>
+#include "platform/ApplicationQt.h"
 
 int main(int argc, char* argv[]) {
   testing::InitGoogleTest(&argc, argv);
@@ -10,7 +10,7 @@ int main(int argc, char* argv[]) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
-  QApplication application(argc, argv);
+  veerwatch::ApplicationQt application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   return RUN_ALL_TESTS();
 }
