@@ -16,7 +16,7 @@
 #include <thread>
 #include <vector>
 
-#include "tests/e2e/Process.h"
+#include "tests/soak/Sailor.h"
 #include "tests/soak/Wire.h"
 
 namespace veerwatch {
@@ -71,60 +71,6 @@ Sample Measure(pid_t process) {
   return sample;
 }
 
-/// The program, spoken to through its remote control.
-class Sailor {
- public:
-  explicit Sailor(const std::string& profile) : m_program(VEERWATCH_REMOTE, profile) {
-    if (!m_program.Start() || Answer().empty()) {
-      std::fprintf(stderr, "the program does not start: %s\n", m_program.Said().c_str());
-      std::exit(1);
-    }
-  }
-
-  pid_t Id() const { return m_program.Id(); }
-  bool Runs() { return m_program.Runs(); }
-
-  /// The answer to a command; nothing when none came.
-  std::string Ask(const std::string& command) {
-    m_program.Tell(command);
-    return Answer();
-  }
-
-  void Do(const std::string& command) {
-    const std::string answer = Ask(command);
-    if (answer.empty() || answer.starts_with("no ")) {
-      std::fprintf(stderr, "%s: %s\n", command.c_str(), answer.c_str());
-      std::exit(1);
-    }
-  }
-
-  /// Its exit status. It is switched off first, as it asks while it tracks.
-  std::optional<int> Close() {
-    Ask("click tbrTrack(1)");
-    m_program.Tell("quit");
-    return m_program.AwaitEnd();
-  }
-
- private:
-  /// The next line that is an answer, and no remark of the toolkit; nothing when none comes.
-  std::string Answer() {
-    while (Await([this] { return m_program.Said().find('\n', m_read) != std::string::npos; })) {
-      const std::size_t end = m_program.Said().find('\n', m_read);
-      const std::string line = m_program.Said().substr(m_read, end - m_read);
-      m_read = end + 1;
-      for (const std::string_view word : {"ready", "clicked ", "delays ", "no "}) {
-        if (line.starts_with(word)) {
-          return line;
-        }
-      }
-    }
-    return {};
-  }
-
-  Process m_program;
-  std::size_t m_read = 0;
-};
-
 std::string ProfileFor(const Wire& wire) {
   return "[Nmea]\nPort=1\n[Pilot]\nPort=2\n[Ports]\n1=" + wire.Instruments() + "\n2=" + wire.Pilot() +
          "\n[Polar Window]\nVisible=True\n[Polar Data]\nCourse Waypoint=True\nCourse Waypoint Index=2\n" +
@@ -160,10 +106,7 @@ int Soak(double hours, double speed) {
     }
   };
 
-  for (const char* command : {"click mnuCourseLedger", "click mnuViewDiagram", "click mnuOptionsInput",
-                              "click optNmeaListOn", "click tbrTrack(5)"}) {
-    program.Do(command);
-  }
+  program.OpenWindows();
   sail(5.0);
   program.Do("click tbrTrack(7)");
   program.Do("delays");

@@ -38,6 +38,9 @@ class Pty {
   /// The path of the slave.
   const std::string& Device() const { return m_device; }
 
+  /// The descriptor of the master.
+  int Master() const { return m_master; }
+
   /// The settings with which the slave was opened.
   termios Settings() const {
     termios settings{};
