@@ -58,9 +58,9 @@ class SerialPort {
   /// Replaces `text` by every character that waits; "" when none does. Keeps the capacity of `text`.
   virtual void Input(std::string& text) = 0;
 
-  /// Hands one whole sentence to the port. Never blocks; a device that has room has it on return. While an earlier sentence has not left, the newest
-  /// takes the place of any that waits behind it; one that waits for more than two seconds is
-  /// forgotten. Without effect on a closed port.
+  /// Hands one whole sentence to the port. Never blocks; a device that has room has it on return. While an
+  /// earlier sentence has not left, the newest takes the place of any that waits behind it; one that waits
+  /// for more than two seconds is forgotten. Without effect on a closed port.
   virtual void Output(std::string_view sentence) = 0;
 
   /// How many sentences have gone to the device; one that waits, or was forgotten, is not among them.
