@@ -1,5 +1,6 @@
 #include "platform/DialogsQt.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QColorDialog>
 #include <QDesktopServices>
@@ -10,6 +11,7 @@
 #include <QMessageBox>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QUrl>
 #include <algorithm>
 #include <string_view>
 
