@@ -51,7 +51,7 @@ void LayColumn(PolarLegend& legend, const PlotBox& box, int keys) {
 }
 
 void LayRow(PolarLegend& legend, const PlotBox& box, int keys) {
-  const double keyHeight = keys > 0 ? std::clamp(box.Height * 0.11, 9.0, 18.0) : 0.0;
+  const double keyHeight = std::clamp(box.Height * 0.11, 9.0, 18.0);
   const double height = box.Height - keys * keyHeight * 1.4;
   // In one row or in two, whichever makes the values larger.
   const bool twice =

@@ -94,6 +94,7 @@ TEST(MeasureLedger, HasRoomForTheWidestTextOfEachColumn) {
       EXPECT_EQ(texts.LegValue, usual.LegValue);
       EXPECT_EQ(texts.Value, usual.Value);
       const LedgerLayout layout = LayLedger(texts);
+      ASSERT_EQ(layout.Figures.size(), 9U);
       for (std::size_t i = 0; i < layout.Figures.size(); ++i) {
         EXPECT_GE(layout.Figures[i].Value.Width, WidthOf(content.Figures[i].Value) - kSlack) << i;
         EXPECT_GE(layout.Figures[i].Heading.Width, WidthOf(content.Figures[i].Heading) - kSlack) << i;
@@ -160,6 +161,18 @@ TEST(LayLedger, KeepsAShortTimeInItsColumn) {
   ASSERT_EQ(layout.Figures.size(), 9U);
   ExpectBox(layout.Figures[8].Heading, {138.0, 86.0, 60.0, 15.0});
   ExpectBox(layout.Steer, {8.0, 107.0, 115.0, 25.0});
+}
+
+TEST(LedgerFits, OnThreeQuartersOfTheWidthAndSixTenthsOfTheHeight) {
+  const auto fits = [](double width, double height) {
+    LedgerLayout layout;
+    layout.Width = width;
+    layout.Height = height;
+    return LedgerFits(layout, 1000.0, 500.0);
+  };
+  EXPECT_TRUE(fits(750.0, 300.0));
+  EXPECT_FALSE(fits(750.1, 300.0));
+  EXPECT_FALSE(fits(750.0, 300.1));
 }
 
 TEST(LedgerHome, IsAtTheLowerRightOrBetweenTheCornersOfTheLegend) {

@@ -59,6 +59,15 @@ TEST(SmoothLine, LeavesTheAxisAtARightAngle) {
   EXPECT_LT(std::fabs(last.Y - before.Y), 0.15 * std::fabs(last.X - before.X));
 }
 
+TEST(SmoothLine, RunsStraightOnFromAnEndAThousandthOfAPixelBesideTheAxis) {
+  const auto slope = [](double x) {
+    const PlotLine line = SmoothLine({{x, 0.0}, {x + 14.0, 14.0}}, 0.0);
+    return (line[1].Y - line[0].Y) / (line[1].X - line[0].X);
+  };
+  EXPECT_NEAR(slope(0.001), 1.0, 1e-9);
+  EXPECT_LT(slope(0.0009), 0.8) << "on the axis it is mirrored";
+}
+
 TEST(SmoothLine, SurvivesKnotsAtOnePlaceAndFarAway) {
   EXPECT_TRUE(SmoothLine({}, 0.0).empty());
   EXPECT_EQ(SmoothLine({{1.0, 1.0}, {1.0, 1.0}}, 0.0).size(), 1U);
@@ -96,6 +105,13 @@ TEST(ClipToDisc, LeavesEveryPointInsideExactlyWhereItIs) {
     EXPECT_EQ(parts[0][i].X, line[i].X) << i;
     EXPECT_EQ(parts[0][i].Y, line[i].Y) << i;
   }
+}
+
+TEST(ClipToDisc, TakesThePointItselfWhereTheWayToItRounds) {
+  // 10 + (0.1 - 10) is 0.0999999999999996 in the arithmetic of a computer.
+  const auto parts = ClipToDisc({{10.0, 0.0}, {0.1, 0.0}}, 0.0, 0.0, 50.0);
+  ASSERT_EQ(parts.size(), 1U);
+  EXPECT_EQ(parts[0].back().X, 0.1);
 }
 
 TEST(PolarCurves, GoThroughTheirCellsOnBothSides) {

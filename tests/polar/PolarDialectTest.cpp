@@ -22,6 +22,7 @@ TEST(PolarDialect, ReadsEverySeparator) {
   EXPECT_EQ(Converted("twa/tws;6;10\n40;4;5.5\n90;6;7.5\n"), kPlain);
   EXPECT_EQ(Converted("TWA\\TWS,6,10\n40,4,5.5\n90,6,7.5\n"), kPlain);
   EXPECT_EQ(Converted("twa  6 10\n 40   4 5.5\n90 6   7.5"), kPlain);
+  EXPECT_EQ(Converted("\"TWA\" , \"6\" , \"10\" \n 40 , \" 4 \" , 5.5 \n90, 6, 7.5\n"), kPlain);
   EXPECT_EQ(Converted("\"TWA\", \"6\", \"10\"\n\"40\", 4, 5.5\n90, 6, 7.5\n"), kPlain);
 }
 
@@ -58,6 +59,7 @@ TEST(PolarDialect, FillsTheEdgesFromTheLowestAndTheHighestWind) {
 
 TEST(PolarDialect, TellsLineAndColumnOfWhatItCannotRead) {
   EXPECT_EQ(Converted("# x\nTWS;6;8\n"), "ERROR line 2, column 1: \"TWS\" where \"TWA\" should stand");
+  EXPECT_EQ(Converted("\tTWA\t6\n40\t4\n"), "ERROR line 1, column 1: \"\" where \"TWA\" should stand");
   EXPECT_EQ(Converted("TWA;6;x8\n"), "ERROR line 1, column 3: \"x8\" is no wind speed");
   EXPECT_EQ(Converted("TWA;6;8\n40;4;five\n"), "ERROR line 2, column 3: \"five\" is no boat speed");
   EXPECT_EQ(Converted("TWA,6,8\n40,4,5,5\n"), "ERROR line 2, column 4: more cells than the first line has");

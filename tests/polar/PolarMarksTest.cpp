@@ -23,6 +23,21 @@ TEST(WindArrow, PointsFromTheWindToTheCentre) {
   }
 }
 
+TEST(WindArrow, HasItsPlacesInSharesOfTheOuterRadius) {
+  // From starboard on a radius of 200 px: the line from three and a fifth texts inside of the ring.
+  const WindArrow arrow = MakeWindArrow(PlotGeometry(400.0, 400.0, 10.0), 90.0, 12.0);
+  const auto at = [](const PlotPoint& point, double x, double y) { return Far(point, {x, y}) < 1e-9; };
+  EXPECT_TRUE(at(arrow.Line.From, 361.6, 200.0));
+  EXPECT_TRUE(at(arrow.Line.To, 272.0, 200.0));
+  EXPECT_TRUE(at(arrow.Shaft.From, 272.0, 200.0));
+  EXPECT_TRUE(at(arrow.Shaft.To, 212.0, 200.0));
+  EXPECT_TRUE(at(arrow.HeadLeft, 236.0, 190.0));
+  EXPECT_TRUE(at(arrow.HeadRight, 236.0, 210.0));
+  // A line that would start inside of the arrow is none.
+  const WindArrow large = MakeWindArrow(PlotGeometry(400.0, 400.0, 10.0), 90.0, 60.0);
+  EXPECT_TRUE(at(large.Line.From, 272.0, 200.0));
+}
+
 TEST(BoatPoint, IsHeldOnTheOuterRing) {
   const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 10.0);
   const BoatPoint inside = MakeBoatPoint(geometry, 90.0, 5.0);
@@ -69,6 +84,15 @@ TEST(MakeTargetMark, GoesFromTheCentreToTheOuterRingWithItsDiamondInsideOfIt) {
     }
     EXPECT_NEAR(Far(mark.Diamond[0], mark.Diamond[2]), 12.0, 1e-9);
   }
+}
+
+TEST(MakeTargetMark, HasItsDiamondWidestInTheMiddle) {
+  // Texts of 12 px: 12 long, 4.2 to either side.
+  const TargetMark mark = MakeTargetMark(PlotGeometry(400.0, 400.0, 10.0), 90.0, 12.0);
+  EXPECT_LT(Far(mark.Diamond[0], {400.0, 200.0}), 1e-9);
+  EXPECT_LT(Far(mark.Diamond[1], {394.0, 195.8}), 1e-9);
+  EXPECT_LT(Far(mark.Diamond[2], {388.0, 200.0}), 1e-9);
+  EXPECT_LT(Far(mark.Diamond[3], {394.0, 204.2}), 1e-9);
 }
 
 }  // namespace

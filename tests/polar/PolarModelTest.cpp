@@ -530,6 +530,44 @@ TEST_F(PolarModelTest, TellsWhySavingFailedAndKeepsItsName) {
 
 // What is drawn
 
+TEST_F(PolarModelTest, CountsEveryChangeOfTheTableOrOfHowItIsSeen) {
+  const auto before = Model.Version();
+  Model.Reset(nullptr);
+  EXPECT_EQ(Model.Version(), before + 1);
+  Model.ShowWind(PlotType::ApparentWind);
+  EXPECT_EQ(Model.Version(), before + 2);
+  Model.ToggleSmoothWinds();
+  EXPECT_EQ(Model.Version(), before + 3);
+  EXPECT_TRUE(Model.Load(PolarModel::kMain).Loaded);
+  EXPECT_EQ(Model.Version(), before + 4);
+}
+
+TEST_F(PolarModelTest, SizesTheLabelsByThePlotAndLaysTheLegendForItsNames) {
+  PolarScene scene(Model);
+  // 0.021 of the shorter side, from 9 to 26 px.
+  EXPECT_NEAR(scene.Still(1000, 800).TextHeight, 16.8, 1e-9);
+  EXPECT_EQ(scene.Still(300, 400).TextHeight, 9.0);
+  EXPECT_EQ(scene.Still(2000, 1900).TextHeight, 26.0);
+  const PolarLegend& legend = scene.Still(1000, 500).Legend;
+  EXPECT_EQ(legend.Keys.size(), 1U);
+  EXPECT_NEAR(legend.Boat.Caption.X, 512.5, 1e-9);
+  EXPECT_NEAR(legend.Boat.Caption.Width, 300.0, 1e-9);
+}
+
+TEST_F(PolarModelTest, DrawsTheReferenceInThePresentWindWhileItIsShown) {
+  PolarScene scene(Model);
+  WriteFile(Program / "r.pol", "TWA\t6\t10\n60\t3\t5\n120\t4\t6\n");
+  ASSERT_TRUE(Model.Open(PolarModel::kReference, (Program / "r.pol").string()).Loaded);
+  scene.Still(400, 400);
+  Model.Average(0.0F);
+  Model.Update(TrackMode::Track, Sailing(-90.0F, 8.0F, 5.0F), true);
+  const PolarMoving moving = scene.Moving();
+  // Between 3 and 5 kn at 60 degrees on a plot of 20 px per knot.
+  ASSERT_FALSE(moving.ReferenceWind.empty());
+  EXPECT_NEAR(moving.ReferenceWind[0].front().X, 200.0 + 80.0 * 0.8660254, 1e-4);
+  EXPECT_NEAR(moving.ReferenceWind[0].front().Y, 200.0 - 80.0 * 0.5, 1e-4);
+}
+
 TEST_F(PolarModelTest, MakesTheStillPictureAnewOnlyWhenItChanges) {
   PolarScene scene(Model);
   const auto version = scene.Still(400, 300).Version;

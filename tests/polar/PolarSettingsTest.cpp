@@ -135,6 +135,10 @@ TEST(PolarPlace, ComesBackWhenItIsWhole) {
   EXPECT_EQ(place->Left, 30);
   EXPECT_EQ(place->Height, 400);
   EXPECT_EQ(place->Width, 500);
+  PolarPlaceStore(profile, {0, 0, 1, 1});
+  EXPECT_TRUE(PolarPlaceRecall(profile).has_value());
+  PolarPlaceStore(profile, {0, 0, 500, 0});
+  EXPECT_FALSE(PolarPlaceRecall(profile).has_value());
   PolarPlaceStore(profile, {0, 0, 0, 500});
   EXPECT_FALSE(PolarPlaceRecall(profile).has_value());
   EXPECT_FALSE(PolarPlaceRecall(ProfileOf("[Polar Window]\nTop=1\nLeft=2\nWidth=5\n")).has_value());
