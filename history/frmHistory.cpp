@@ -3,7 +3,6 @@
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QTimer>
 #include <cmath>
 
 #include "history/HistoryTraces.h"
@@ -19,6 +18,7 @@ constexpr double kChartLeft = 0.0;  // [twips]
 constexpr QSize kSmallestSize(220, 180);
 /// Frames beyond this are no windows [twips].
 constexpr float kLargestPlace = 1e6F;
+constexpr int kPlaceTime = 200;  // [ms]
 
 int Pixels(double twips) { return static_cast<int>(std::lround(twips / kTwipsPerPixel)); }
 
@@ -41,6 +41,10 @@ frmHistory::frmHistory(const Parts& parts)
   m_line->setFrameStyle(QFrame::HLine | QFrame::Sunken);
   HistorySetUp(*m_chart, WindowColour());
   LoadPlace();
+  m_placeTimer.setObjectName(QStringLiteral("tmrPlace"));
+  m_placeTimer.setSingleShot(true);
+  m_placeTimer.setInterval(kPlaceTime);
+  connect(&m_placeTimer, &QTimer::timeout, this, [this] { NotePlace(); });
   m_chart->TraceSettingsLoad(kTraceSection, m_parts.Store);
   m_chart->setFocus();
 }
@@ -142,10 +146,12 @@ void frmHistory::hideEvent(QHideEvent* event) {
 void frmHistory::moveEvent(QMoveEvent* event) {
   QWidget::moveEvent(event);
   FitFrame();
+  m_placeTimer.start();
 }
 
 void frmHistory::resizeEvent(QResizeEvent* event) {
   QWidget::resizeEvent(event);
+  m_placeTimer.start();
   if (isMinimized()) {
     return;
   }

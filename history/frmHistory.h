@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <string_view>
@@ -62,12 +63,15 @@ class frmHistory final : public QWidget {
   std::uint32_t WindowColour() const;
   void LoadPlace();
   void FitFrame();
+  /// Keeps the frame that shows; not that of a window that fills the screen or is minimised.
   void NotePlace();
 
   Parts m_parts;
   StripChart* m_chart;
   QFrame* m_line;  ///< across the top
   Place m_place;
+  /// Runs from the latest move on: the desktop may tell only afterwards that it was no move by hand.
+  QTimer m_placeTimer{this};
   QRect m_wanted;         ///< the frame that was loaded [px]
   bool m_fitted = false;  ///< the frame has the size that was loaded
   std::function<void(bool)> m_visibleChanged;

@@ -7,6 +7,7 @@
 #include <QFrame>
 #include <QImage>
 #include <QPushButton>
+#include <QTimer>
 #include <QToolButton>
 
 #include "tests/support/WaitQt.h"
@@ -73,6 +74,24 @@ TEST_F(HistoryWindow, PutsItsPlaceIntoTheProfile) {
   EXPECT_EQ(Stored("Left"), "600");
   EXPECT_EQ(Stored("Height"), "5400");
   EXPECT_EQ(Stored("Width"), "7500");
+}
+
+TEST_F(HistoryWindow, MinimisedOrMaximisedAtTheEndKeepsThePlaceOfBefore) {
+  Load();
+  Show();
+  for (const Qt::WindowState state : {Qt::WindowMaximized, Qt::WindowMinimized, Qt::WindowFullScreen}) {
+    Window->showNormal();
+    PlaceFrame({40 + static_cast<int>(state), 50, 500, 360});
+    const auto& settles = *Window->findChild<QTimer*>(QStringLiteral("tmrPlace"));
+    ASSERT_TRUE(WaitFor([&] { return !settles.isActive(); }));
+    Window->setWindowState(state);
+    ASSERT_TRUE(WaitFor([&] { return Window->windowState().testFlag(state) && !settles.isActive(); }));
+    Window->Unload();
+    EXPECT_EQ(Stored("Left"), std::to_string((40 + static_cast<int>(state)) * 15));
+    EXPECT_EQ(Stored("Top"), "750");
+    EXPECT_EQ(Stored("Height"), "5400");
+    EXPECT_EQ(Stored("Width"), "7500");
+  }
 }
 
 TEST_F(HistoryWindow, AWindowThatWasNeverSeenKeepsThePlaceOfTheProfile) {
