@@ -132,7 +132,7 @@ void PortPageQt::Explain(const std::string& reason) const {
   Reason->setVisible(!reason.empty());
 }
 
-void PortPageQt::OfferTypes() {
+void PortPageQt::OfferTypes() const {
   int row = 1;
   for (const std::string& known : List->Model().Lines().Types()) {
     const QString type = QString::fromStdString(known);

@@ -59,7 +59,7 @@ class PortPageQt final : public QWidget {
 
  private:
   /// Offers every type that came, in the order of the alphabet.
-  void OfferTypes();
+  void OfferTypes() const;
 };
 
 }  // namespace veerwatch

@@ -33,9 +33,10 @@ std::vector<TrackNumber> TrackNumbers(double from, double to, double leastStep) 
     return numbers;
   }
   const double step = StepFrom(leastStep);
-  const double last = std::floor(high / step + kRounding);
-  for (double count = std::ceil(low / step - kRounding); count <= last; count += 1.0) {
-    const double value = count * step;
+  const double first = std::ceil(low / step - kRounding);
+  const int steps = static_cast<int>(std::floor(high / step + kRounding) - first);
+  for (int i = 0; i <= steps; ++i) {
+    const double value = (first + i) * step;
     // Adding 0 turns -0 into 0.
     numbers.push_back({value, ShortestText(ToSingle(value) + 0.0F)});
   }

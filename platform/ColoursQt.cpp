@@ -34,11 +34,12 @@ double Contrast(const QColor& a, const QColor& b) {
 
 QColor Legible(const QColor& under, const QColor& over, qreal share, double least) {
   constexpr qreal kStep = 0.01;
-  for (; share < 1.0; share += kStep) {
+  while (share < 1.0) {
     const QColor mixed = Mixed(under, over, share);
     if (Contrast(under, mixed) >= least) {
       return mixed;
     }
+    share += kStep;
   }
   return over;
 }
