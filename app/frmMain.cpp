@@ -1,5 +1,6 @@
 #include "app/frmMain.h"
 
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QLineEdit>
 #include <QScreen>
@@ -47,8 +48,11 @@ constexpr std::size_t At(int index) { return static_cast<std::size_t>(index - 1)
 
 /// The keyboard is in an entry box of another window than the main one, which is not active.
 bool TypesElsewhere(const QWidget& main) {
-  const auto* box = qobject_cast<const QLineEdit*>(QApplication::focusWidget());
-  return !main.isActiveWindow() && box != nullptr && !box->isReadOnly();
+  const QWidget* focus = QApplication::focusWidget();
+  const auto* box = qobject_cast<const QLineEdit*>(focus);
+  const auto* number = qobject_cast<const QAbstractSpinBox*>(focus);
+  return !main.isActiveWindow() &&
+         ((box != nullptr && !box->isReadOnly()) || (number != nullptr && !number->isReadOnly()));
 }
 
 /// The change that a nudge button asks for [deg, positive to starboard].

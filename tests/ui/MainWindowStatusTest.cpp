@@ -1,5 +1,6 @@
 // What the main window shows: values, panels, caption and alarm.
 
+#include <QDoubleSpinBox>
 #include <vector>
 
 #include "tests/ui/MainWindowTester.h"
@@ -163,6 +164,11 @@ TEST_F(MainWindowStatus, AnAlarmComesToTheForegroundAtEachPassUnlessAnotherWindo
   box.setReadOnly(true);
   NmeaPort.Receive("$WIMWV,50,R,10,N,A\r");
   EXPECT_EQ(Dialogs.Foregrounds, 3) << "nothing is typed into a text to read";
+  QDoubleSpinBox number(&other);
+  number.show();
+  number.setFocus();
+  NmeaPort.Receive("$WIMWV,50,R,10,N,A\r");
+  EXPECT_EQ(Dialogs.Foregrounds, 3) << "a box for a number is typed into as well";
 }
 
 TEST_F(MainWindowStatus, AnAlarmForgetsWhatCameIntoABoxOfTheWindowBehind) {
