@@ -91,14 +91,17 @@ void TurnButtonQt::Show(const TurnFace& face) {
 }
 
 void TurnButtonQt::paintEvent(QPaintEvent* /*event*/) {
-  constexpr float kDimText = 0.45F;
+  constexpr qreal kDimText = 0.45;
   constexpr float kDimEdge = 0.2F;
   constexpr int kMiddleLightness = 128;
   QPainter painter(this);
   QColor back = palette().color(QPalette::Button);
   const QColor text = palette().color(QPalette::ButtonText);
   if (!isEnabled()) {
-    PaintPlate(painter, rect(), this->text(), back, Faded(text, kDimText), Faded(text, kDimEdge));
+    PaintPlate(
+        painter, rect(), this->text(), back,
+        Legible(back, palette().color(QPalette::Active, QPalette::ButtonText), kDimText, kDimmedContrast),
+        Faded(text, kDimEdge));
     return;
   }
   if (isDown()) {

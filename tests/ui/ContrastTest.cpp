@@ -2,13 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <QPalette>
+#include <QWidget>
+#include <algorithm>
 #include <array>
 
 #include "app/ThemeQt.h"
 #include "history/StripChartColoursQt.h"
 #include "platform/ColoursQt.h"
 #include "polar/PolarPaletteQt.h"
+#include "polar/TurnButtonQt.h"
 #include "tests/ui/Contrast.h"
 #include "tests/ui/DarkPalette.h"
 
@@ -49,6 +53,28 @@ TEST_P(Contrasts, OfTheMainWindow) {
   for (const TrackMode mode : {TrackMode::Off, TrackMode::Setup, TrackMode::Manual, TrackMode::Track}) {
     EXPECT_GE(ContrastRatio(theme.Mode(mode).Text, theme.Mode(mode).Fill), kText) << static_cast<int>(mode);
   }
+}
+
+TEST_P(Contrasts, OfATurnsButtonThatDoesNotAnswer) {
+  QWidget window;
+  window.setPalette(Palette());
+  TurnButtonQt button(QStringLiteral("cmdTack"), QStringLiteral("<< TACK"), &window);
+  QFont large = button.font();
+  large.setPixelSize(40);
+  button.setFont(large);
+  button.resize(400, 80);
+  button.setEnabled(false);
+  const QImage picture = button.grab().toImage();
+  const QColor back = button.palette().color(QPalette::Button);
+  double most = 0.0;
+  // Inside, away from the edge.
+  for (int x = 10; x < picture.width() - 10; ++x) {
+    for (int y = 10; y < picture.height() - 10; ++y) {
+      most = std::max(most, ContrastRatio(picture.pixelColor(x, y), back));
+    }
+  }
+  EXPECT_GE(most, kDimmed);
+  EXPECT_LT(most, 7.0) << "it does not answer";
 }
 
 TEST_P(Contrasts, OfThePolarPlot) {
