@@ -2,9 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <cstdint>
 #include <cstdlib>
 #include <ctime>
 #include <string>
+#include <thread>
 
 namespace veerwatch {
 namespace {
@@ -17,6 +20,24 @@ TEST(SystemClock, NeverRunsBack) {
     ASSERT_GE(now.Steady, last.Steady);
     last = now;
   }
+}
+
+TEST(SystemClock, CountsTheTimeThatPasses) {
+  const auto milliseconds = [] {
+    const auto since = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(since).count();
+  };
+  const SystemClock clock;
+  const auto earliest = milliseconds();
+  const std::int64_t first = clock.Now().Steady;
+  const auto latest = milliseconds();
+  std::this_thread::sleep_for(std::chrono::milliseconds(20));
+  const auto from = milliseconds();
+  const std::int64_t second = clock.Now().Steady;
+  const auto until = milliseconds();
+  // Each reading is cut to a millisecond.
+  EXPECT_GE(second - first, from - latest - 2);
+  EXPECT_LE(second - first, until - earliest + 2);
 }
 
 TEST(SystemClock, TellsTheWallTimeInMilliseconds) {

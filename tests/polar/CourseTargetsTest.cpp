@@ -141,7 +141,7 @@ TEST(CourseTargets, NamesTheLegsTheOtherWayRoundBeforeTheWind) {
 
 TEST(CourseTargets, KnowsTheLegByTheSideOfTheWind) {
   const PolarTable table = TableOf("TWA\t5\t20\n140\t1\t1\n150\t8\t8\n160\t1\t1\n180\t1\t1\n");
-  for (const float windAngle : {170.0F, -170.0F, 80.0F, -80.0F}) {
+  for (const float windAngle : {170.0F, -170.0F, 80.0F, -80.0F, 180.0F, -180.0F}) {
     // A heading that keeps the wind at 170 degrees off the course line.
     const CourseSolution solution =
         CourseTargets(table, {90.0F + 170.0F - windAngle, 90.0F, windAngle, 12.0F});
