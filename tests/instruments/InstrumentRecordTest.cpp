@@ -36,8 +36,14 @@ TEST_F(InstrumentRecordTest, StartsWithZerosAndNothingValid) {
   EXPECT_FALSE(Data().WindApparentValid);
   EXPECT_FALSE(Data().WindTrueValid);
   EXPECT_FALSE(Data().WindIndicatorValid);
-  EXPECT_EQ(Data().Heading, 0.0F);
-  EXPECT_EQ(Data().WindSpeedTrue, 0.0F);
+  using D = InstrumentData;
+  for (float D::*value :
+       {&D::Heading, &D::HeadingAverage, &D::BoatSpeed, &D::BoatSpeedAverage, &D::Variation,
+        &D::WaypointBearing, &D::WaypointRange, &D::WindAngleApparent, &D::WindAngleApparentAverage,
+        &D::WindSpeedApparent, &D::WindSpeedApparentAverage, &D::WindAngleTrue, &D::WindSpeedTrue,
+        &D::WindDirectionAverage, &D::WindSpeedAverage}) {
+    EXPECT_EQ(Data().*value, 0.0F);
+  }
 }
 
 TEST_F(InstrumentRecordTest, TheFirstHeadingIsFoldedAndItsAverageIsNot) {
