@@ -95,6 +95,21 @@ TEST_F(PolarConvertTest, ConvertsForTheReferenceToo) {
   EXPECT_EQ(Model.Table().PolarRows(0), 4);
 }
 
+TEST_F(PolarConvertTest, OffersToConvertAFileOfEightMebibytesAtMost) {
+  const std::string text = "TWA;6;8\n40;4;5\n90;6;7\n#";
+  const std::string comment(8388608U - text.size(), '#');
+  WriteFile(Program / "large.csv", text + comment);
+  WriteFile(Program / "larger.csv", text + comment + "#");
+  Dialogs.Files = {File("large.csv"), File("larger.csv")};
+  Dialogs.Answers = {false};
+  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_EQ(Dialogs.Questions.size(), 1U);
+  EXPECT_TRUE(Dialogs.Messages.empty());
+  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_EQ(Dialogs.Questions.size(), 1U);
+  EXPECT_EQ(Dialogs.Messages.size(), 1U);
+}
+
 TEST_F(PolarConvertTest, ConvertsNothingWhenNobodyWants) {
   const auto names = Program.Names();
   Dialogs.Files = {File("b.csv")};

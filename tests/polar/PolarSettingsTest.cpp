@@ -144,6 +144,19 @@ TEST(PolarPlace, ComesBackWhenItIsWhole) {
   EXPECT_FALSE(PolarPlaceRecall(ProfileOf("[Polar Window]\nTop=1\nLeft=2\nWidth=5\n")).has_value());
 }
 
+TEST(PolarAverages, AreNothingBeforeAnythingCame) {
+  const PolarAverages averages;
+  const PolarValues& values = averages.Values();
+  EXPECT_FALSE(averages.Fed());
+  EXPECT_FALSE(values.HeadingValid);
+  EXPECT_FALSE(values.WaypointValid);
+  for (const float value :
+       {values.Heading, values.BoatSpeed, values.WindAngleApparent, values.WindSpeedApparent,
+        values.WindAngleTrue, values.WindSpeedTrue, values.WaypointBearing, values.WaypointRange}) {
+    EXPECT_EQ(value, 0.0F);
+  }
+}
+
 TEST(PolarAverages, StartWithTheirFirstValues) {
   PolarAverages averages;
   EXPECT_FALSE(averages.Fed());

@@ -89,6 +89,17 @@ INSTANTIATE_TEST_SUITE_P(Winds, ManoeuvreChoice,
                                          Choice{405, 90, kTack, 1},  // a wind of more than one turn
                                          Choice{45, 450, kTack, 1}, Choice{45, -270, kTack, 1}));
 
+TEST(Manoeuvre, IsNoTurnBeforeItIsOpened) {
+  Manoeuvre turn;
+  EXPECT_FALSE(turn.Open(kNan, 100.0F, 120.0F, 45.0F));
+  EXPECT_EQ(turn.Heading(), 0.0F);
+  EXPECT_EQ(turn.AutoPilot(), 0.0F);
+  EXPECT_EQ(turn.Wind(), 0.0);
+  EXPECT_EQ(turn.Change(), 0.0);
+  EXPECT_EQ(turn.Progress(), 0.0);
+  EXPECT_EQ(turn.Direction(), 0);
+}
+
 TEST(ManoeuvreChoice, SaysOverAllAnglesWhetherTheWindPassesBowOrStern) {
   // Every whole wind and change, judged by walking the boat round a degree at a time.
   for (int wind = -179; wind <= 180; ++wind) {
