@@ -380,6 +380,8 @@ TEST(PolarSpeed, SeesEveryChangeOfTheTableInApparentWind) {
   EXPECT_EQ(table.PolarSpeed(0, 60.0F, 20.0F), fresh());
   table.PolarRows(0) = 2;
   EXPECT_EQ(table.PolarSpeed(0, 60.0F, 20.0F), fresh());
+  table.PolarColumns(0) = 4;
+  EXPECT_EQ(table.PolarSpeed(0, 60.0F, 20.0F), fresh());
 }
 
 TEST(PolarNearest, MeasuresEachWayByItsOwnScale) {
