@@ -98,7 +98,7 @@ float PolarTable::SeenAngle(int slot, int row, int column) const {
   }
   std::vector<float>& angles = m_apparent[static_cast<std::size_t>(slot)];
   if (angles.empty()) {
-    angles.reserve(static_cast<std::size_t>(rows * columns));
+    angles.reserve(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns));
     for (int c = 1; c <= columns; ++c) {
       for (int r = 1; r <= rows; ++r) {
         angles.push_back(ApparentAngle({Value(slot, r, 0), Value(slot, 0, c), Value(slot, r, c)}));
