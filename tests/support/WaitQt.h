@@ -1,5 +1,5 @@
 // Waiting for what the event loop brings, for tests with GoogleTest. QtTest's own macros fail only under
-// QtTest: elsewhere a QTRY_COMPARE waits for its limit and the test goes on and passes.
+// QtTest: its own waiting comparison waits for its limit and the test goes on and passes.
 #pragma once
 
 #include <gtest/gtest.h>
