@@ -3,14 +3,15 @@
 namespace veerwatch {
 
 Helm::Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Timer& tmrNmea,
-           RandomSource& random, HelmView& view)
+           const Clock& clock, RandomSource& random, HelmView& view)
     : m_settings(settings),
+      m_clock(clock),
       m_view(view),
       m_nmeaPort(nmeaPort),
       m_record(settings, view),
-      m_receiver(settings, nmeaPort, tmrNmea, m_record, *this, view),
+      m_receiver(settings, nmeaPort, tmrNmea, clock, m_record, *this, view),
       m_pilot(settings, nmeaPort, pilotPort, view),
-      m_loop(settings, static_cast<const InstrumentRecord&>(m_record).Data(), m_pilot, view),
+      m_loop(settings, m_record.Data(), m_pilot, view),
       m_modes(settings, m_receiver, m_pilot, m_loop, view),
       m_simulator(settings, m_record, random, *this) {}
 
@@ -36,7 +37,7 @@ HelmNow Helm::Now() const {
 
 void Helm::Tick() {
   if (m_settings.m_bSimulate) {
-    m_simulator.Tick();
+    m_simulator.Tick(m_clock.Now());
   } else {
     m_receiver.Tick();
     m_pilot.Tick();

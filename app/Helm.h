@@ -11,6 +11,7 @@
 #include "instruments/InstrumentRecord.h"
 #include "instruments/Simulator.h"
 #include "nmea/NmeaReceiver.h"
+#include "platform/Clock.h"
 #include "platform/Random.h"
 #include "platform/SerialPort.h"
 #include "platform/Timer.h"
@@ -31,8 +32,8 @@ class HelmView : public InstrumentRecord::Listener,
 class Helm final : private FollowUp {
  public:
   /// Every collaborator outlives the helm. `tmrNmea` ticks into Tick().
-  Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Timer& tmrNmea, RandomSource& random,
-       HelmView& view);
+  Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Timer& tmrNmea, const Clock& clock,
+       RandomSource& random, HelmView& view);
 
   /// One tick of tmrNmea: the simulator's clock, or the watch over the ports.
   void Tick();
@@ -44,6 +45,8 @@ class Helm final : private FollowUp {
   TrackModes& Modes() { return m_modes; }
   Simulator& Boat() { return m_simulator; }
   const InstrumentData& Data() const { return m_record.Data(); }
+  /// The present values with their sources and ages.
+  const InstrumentRecord& Record() const { return m_record; }
 
   /// What the helm does at this moment; the watch over the winds is the caller's.
   HelmNow Now() const;
@@ -53,6 +56,7 @@ class Helm final : private FollowUp {
   void PolarUpdate() override { m_view.OnPolarUpdate(m_settings.m_eTrackMode, m_record.Data()); }
 
   Settings& m_settings;
+  const Clock& m_clock;
   HelmView& m_view;
   const SerialPort& m_nmeaPort;
   InstrumentRecord m_record;

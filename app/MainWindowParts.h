@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/Profile.h"
 #include "platform/Random.h"
@@ -19,6 +20,7 @@ struct MainWindowParts {
   Timer& tmrNmea;           ///< ticks into frmMain::tmrNmea_Timer()
   Timer& tmrUnload;         ///< ticks into frmMain::tmrUnload_Timer()
   Timer& TimerTack;         ///< ticks into TimerTack_Timer()
+  const Clock& Time;
   RandomSource& Random;
   Dialogs& Asks;
   Profile& Store;

@@ -93,7 +93,7 @@ void OtherWindowsQt::Hide() {
 
 frmHistory& OtherWindowsQt::History() {
   if (!m_history) {
-    m_history = std::make_unique<frmHistory>(frmHistory::Parts{m_clock, m_parts.Asks, m_parts.Store});
+    m_history = std::make_unique<frmHistory>(frmHistory::Parts{m_parts.Time, m_parts.Asks, m_parts.Store});
     m_history->setWindowIcon(ProgramIcon());
     m_history->VisibleChanged([this](bool visible) { m_menu.mnuViewHistory->setChecked(visible); });
   }

@@ -21,7 +21,6 @@
 #include "diagram/frmDiagram.h"
 #include "history/frmHistory.h"
 #include "options/frmOptions.h"
-#include "platform/SystemClock.h"
 #include "polar/PolarListener.h"
 #include "polar/frmPolar.h"
 #include "tack/frmTack.h"
@@ -119,7 +118,6 @@ class OtherWindowsQt final : public HelmView,
   const frmMainMenu& m_menu;
   MainWindowApi& m_main;
   QWidget* m_window;
-  SystemClock m_clock;
   std::unique_ptr<frmHistory> m_history;  ///< from the first value on
   std::unique_ptr<frmPolar> m_polar;      ///< null until it is shown for the first time
   std::unique_ptr<frmTack> m_tack;        ///< the same

@@ -16,6 +16,7 @@
 #include "platform/ProfileLock.h"
 #include "platform/SerialPortQt.h"
 #include "platform/SignalsQt.h"
+#include "platform/SystemClock.h"
 #include "platform/TimerQt.h"
 #include "platform/VisibleText.h"
 
@@ -164,9 +165,10 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   TimerQt tmrNmea(QStringLiteral("tmrNmea"));
   TimerQt tmrUnload(QStringLiteral("tmrUnload"));
   TimerQt TimerTack(QStringLiteral("TimerTack"));
+  const SystemClock clock;
   SeededRandom random(std::random_device{}());
 
-  frmMain window({MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, TimerTack, random, dialogs, profile,
+  frmMain window({MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, TimerTack, clock, random, dialogs, profile,
                   profileFile.string(), PolarFiles(), ManualPage()});
   dialogs.Window(&window);
   tmrNmea.Ticks([&window] { window.tmrNmea_Timer(); });

@@ -68,7 +68,7 @@ frmMain::frmMain(const MainWindowParts& parts)
       m_notice(new NoticeLineQt(this)),
       m_status(new StatusPanelsQt(this)),
       m_others(m_parts, m_menu, *this, this),
-      m_helm(*this, parts.MSCommNmea, parts.MSCommPilot, parts.tmrNmea, parts.Random, *this) {
+      m_helm(*this, parts.MSCommNmea, parts.MSCommPilot, parts.tmrNmea, parts.Time, parts.Random, *this) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(QString::fromLatin1(kApplicationTitle));
   setWindowIcon(ProgramIcon());

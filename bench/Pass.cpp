@@ -7,22 +7,20 @@
 #include "cli/LogReader.h"
 #include "nmea/LineFramer.h"
 #include "nmea/Sentence.h"
+#include "nmea/SentenceTable.h"
 
 namespace veerwatch {
 
 namespace {
 
-// The sum of what each decoder read; a value that was not read is 0.
-
-double Sum(const VariationValue& variation) { return std::fabs(static_cast<double>(variation.Degrees)); }
-double Sum(const Hdg& hdg) { return static_cast<double>(hdg.Heading) + Sum(hdg.Variation); }
-double Sum(const Hvm& hvm) { return Sum(hvm.Variation); }
-double Sum(const Mwv& mwv) { return static_cast<double>(mwv.WindAngle) + static_cast<double>(mwv.WindSpeed); }
-double Sum(const Rmb& rmb) { return static_cast<double>(rmb.Range) + static_cast<double>(rmb.Bearing); }
-double Sum(const Rmc& rmc) {
-  return static_cast<double>(rmc.Speed) + static_cast<double>(rmc.Course) + Sum(rmc.Variation);
+/// The sum of what a sentence brought.
+double Sum(const Readings& readings) {
+  double sum = 0.0;
+  for (const Reading& reading : readings) {
+    sum += std::fabs(static_cast<double>(reading.Value));
+  }
+  return sum;
 }
-double Sum(const Vhw& vhw) { return static_cast<double>(vhw.Heading) + static_cast<double>(vhw.Speed); }
 
 template <class Take>
 void InChunks(std::string_view bytes, Take&& take) {
@@ -46,17 +44,20 @@ PassResult DecodePass(std::string_view bytes) {
       return;
     }
     ++result.Lines;
-    const bool known = VisitSentence(SentenceTypeOf(text), text, [&result](const auto& sentence) {
-      ++(sentence.Complete() ? result.Parsed : result.Bad);
-      result.Accumulated += Sum(sentence);
-    });
-    result.Unsupported += known ? 0 : 1;
+    const SentenceKind* kind = FindSentence(text);
+    if (kind == nullptr) {
+      ++result.Unsupported;
+      return;
+    }
+    Readings readings(OriginOf(text, 0, Moment()));
+    ++(kind->Decode(Fields(text), readings) ? result.Parsed : result.Bad);
+    result.Accumulated += Sum(readings);
   };
   InChunks(bytes, [&](std::string_view chunk) { framer.Feed(chunk, line, bad); });
   return result;
 }
 
-PathPass::PathPass() : m_helm(m_settings, m_nmeaPort, m_pilotPort, m_timer, m_random, *this) {
+PathPass::PathPass() : m_helm(m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random, *this) {
   m_helm.Modes().TrackSetSetup();
   m_helm.Modes().TrackSetManual();
   m_helm.Modes().TrackSetTrack();
@@ -73,7 +74,7 @@ void PathPass::OnNmeaData(std::string_view line, bool /*used*/) {
   ++m_result.Lines;
   // The receiver marks a line whose frame is bad; it counts as that alone.
   const bool badFrame = line.ends_with(">>");
-  m_result.Unsupported += !badFrame && SentenceTypeOf(line) == SentenceType::Other ? 1U : 0U;
+  m_result.Unsupported += !badFrame && FindSentence(line) == nullptr ? 1U : 0U;
 }
 
 void PathPass::OnNmeaError(std::string_view /*text*/) { ++m_result.Bad; }

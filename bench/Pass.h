@@ -7,6 +7,7 @@
 
 #include "app/Helm.h"
 #include "cli/MemoryPort.h"
+#include "platform/SystemClock.h"
 
 namespace veerwatch {
 
@@ -16,7 +17,7 @@ struct PassResult {
   std::uint64_t Parsed = 0;       ///< lines of a decoded type without any error
   std::uint64_t Unsupported = 0;  ///< good lines of another type
   std::uint64_t Bad = 0;          ///< sentence, checksum and decode errors
-  double Accumulated = 0.0;       ///< sum of the values read, variations as magnitudes; of the bearings sent
+  double Accumulated = 0.0;       ///< sum of the magnitudes of what was read; of the bearings sent
 };
 
 /// Bytes that arrive in one receive event of a pass.
@@ -45,6 +46,7 @@ class PathPass final : private HelmView {
   MemoryPort m_nmeaPort;
   MemoryPort m_pilotPort;
   IdleTimer m_timer;
+  SystemClock m_clock;
   SeededRandom m_random{1};
   Helm m_helm;
   PassResult m_result;

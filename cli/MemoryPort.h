@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Clock.h"
 #include "platform/SerialPort.h"
 #include "platform/Timer.h"
 
@@ -41,6 +42,20 @@ class MemoryPort final : public SerialPort {
   bool m_open = false;
   std::string_view m_waiting;
   std::uint64_t m_sent = 0;
+};
+
+/// A clock that goes on only when it is told to, so that every run of a log is the same.
+class LogClock final : public Clock {
+ public:
+  void Pass(std::int64_t milliseconds) {
+    m_now.Steady += milliseconds;
+    m_now.Wall += milliseconds;
+  }
+  Moment Now() const override { return m_now; }
+  std::int32_t UtcOffset(std::int64_t /*wall*/) const override { return 0; }
+
+ private:
+  Moment m_now;
 };
 
 /// A timer that somebody else ticks.

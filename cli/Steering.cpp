@@ -8,7 +8,7 @@ namespace veerwatch {
 Steering::Steering(const SteeringOptions& options, bool simulate, std::uint64_t seed)
     : m_mode(options.Mode),
       m_random(seed),
-      m_helm(m_settings, m_nmeaPort, m_pilotPort, m_timer, m_random, *this) {
+      m_helm(m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random, *this) {
   if (options.ProfileFile) {
     Profile profile;
     if (profile.Load(*options.ProfileFile) != Profile::LoadResult::Read) {
@@ -43,7 +43,9 @@ void Steering::Line(const std::string& line) {
 }
 
 void Steering::Tick() {
+  constexpr std::int64_t kSecond = 1000;  // [ms]
   Forget();
+  m_clock.Pass(kSecond);
   m_helm.Tick();
 }
 

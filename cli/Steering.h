@@ -76,6 +76,7 @@ class Steering final : private HelmView {
   MemoryPort m_nmeaPort;
   MemoryPort m_pilotPort;
   IdleTimer m_timer;
+  LogClock m_clock;
   SeededRandom m_random;
   Helm m_helm;
   std::string m_bytes;

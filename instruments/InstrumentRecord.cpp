@@ -1,8 +1,22 @@
 #include "instruments/InstrumentRecord.h"
 
+#include <algorithm>
+
 #include "instruments/MathLib.h"
 
 namespace veerwatch {
+
+std::optional<Origin> InstrumentRecord::Source(RecordValue value) const {
+  return m_from[static_cast<std::size_t>(value)];
+}
+
+std::optional<std::int64_t> InstrumentRecord::Age(RecordValue value, const Moment& now) const {
+  const std::optional<Origin> from = Source(value);
+  if (!from) {
+    return std::nullopt;
+  }
+  return std::max<std::int64_t>(0, now.Steady - from->At.Steady);
+}
 
 void InstrumentRecord::Restart() {
   m_data.HeadingValid = false;
@@ -11,10 +25,15 @@ void InstrumentRecord::Restart() {
   m_data.WindApparentValid = false;
   m_data.WindIndicatorValid = false;
   m_data.WindTrueValid = false;
+  for (const RecordValue value : {RecordValue::Heading, RecordValue::BoatSpeed, RecordValue::Waypoint,
+                                  RecordValue::WindApparent, RecordValue::WindTrue}) {
+    From(value).reset();
+  }
   m_listener.OnValuesBlanked();
 }
 
-void InstrumentRecord::HeadingUpdate(float Heading) {
+void InstrumentRecord::HeadingUpdate(float Heading, const Origin& from) {
+  From(RecordValue::Heading) = from;
   const float folded = FoldBearing(static_cast<double>(Heading));
   if (m_data.HeadingValid) {
     AverageAngleAbsolute(folded, m_settings.m_fNmeaTrueWindAverage, m_data.HeadingAverage);
@@ -26,7 +45,8 @@ void InstrumentRecord::HeadingUpdate(float Heading) {
   m_listener.OnHeading(m_data.Heading);
 }
 
-void InstrumentRecord::BoatSpeedUpdate(float BoatSpeed) {
+void InstrumentRecord::BoatSpeedUpdate(float BoatSpeed, const Origin& from) {
+  From(RecordValue::BoatSpeed) = from;
   if (m_data.BoatSpeedValid) {
     AverageValue(BoatSpeed, m_settings.m_fNmeaTrueWindAverage, m_data.BoatSpeedAverage);
   } else {
@@ -37,19 +57,23 @@ void InstrumentRecord::BoatSpeedUpdate(float BoatSpeed) {
   m_listener.OnBoatSpeed(BoatSpeed);
 }
 
-void InstrumentRecord::VariationUpdate(float Variation) {
+void InstrumentRecord::VariationUpdate(float Variation, const Origin& from) {
+  From(RecordValue::Variation) = from;
   m_data.VariationValid = true;
   m_data.Variation = Variation;
 }
 
-void InstrumentRecord::WaypointUpdate(float WaypointRange, float WaypointBearing) {
+void InstrumentRecord::WaypointUpdate(float WaypointRange, float WaypointBearing, const Origin& from) {
+  From(RecordValue::Waypoint) = from;
   m_data.WaypointRange = WaypointRange;
   m_data.WaypointBearing = WaypointBearing;
   m_data.WaypointValid = true;
   m_listener.OnWaypoint(WaypointRange, WaypointBearing);
 }
 
-void InstrumentRecord::WindApparentUpdate(float WindAngle, float WindSpeed, bool ComputeTrue) {
+void InstrumentRecord::WindApparentUpdate(float WindAngle, float WindSpeed, bool ComputeTrue,
+                                          const Origin& from) {
+  From(RecordValue::WindApparent) = from;
   const float angle = FoldRelative(static_cast<double>(WindAngle));
   if (m_data.WindApparentValid) {
     const float count = m_settings.m_fNmeaTrueWindAverage;
@@ -69,11 +93,12 @@ void InstrumentRecord::WindApparentUpdate(float WindAngle, float WindSpeed, bool
     float trueAngle = 0.0F;
     WindTrueFromApparent(m_data.WindSpeedApparentAverage, m_data.WindAngleApparentAverage,
                          m_data.BoatSpeedAverage, trueSpeed, trueAngle);
-    WindTrueUpdate(trueAngle, trueSpeed, false);
+    WindTrueUpdate(trueAngle, trueSpeed, false, from);
   }
 }
 
-void InstrumentRecord::WindTrueUpdate(float WindAngle, float WindSpeed, bool Average) {
+void InstrumentRecord::WindTrueUpdate(float WindAngle, float WindSpeed, bool Average, const Origin& from) {
+  From(RecordValue::WindTrue) = from;
   const float angle = FoldRelative(static_cast<double>(WindAngle));
   if (Average && m_data.WindTrueValid) {
     const float count = m_settings.m_fNmeaTrueWindAverage;
@@ -85,6 +110,12 @@ void InstrumentRecord::WindTrueUpdate(float WindAngle, float WindSpeed, bool Ave
     m_data.WindSpeedTrue = WindSpeed;
   }
   m_listener.OnWindTrue(m_data.WindAngleTrue, m_data.WindSpeedTrue);
+}
+
+void InstrumentRecord::WindTrueSimulated(float WindAngle, float WindSpeed, const Origin& from) {
+  m_data.WindAngleTrue = WindAngle;
+  m_data.WindSpeedTrue = WindSpeed;
+  WindTrueUpdate(WindAngle, WindSpeed, true, from);
 }
 
 void InstrumentRecord::WindIndicatorUpdate() {

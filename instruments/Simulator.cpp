@@ -16,35 +16,35 @@ double Simulator::SpeedNoise() {
       ToSingle((m_random.Next() - 0.5) * static_cast<double>(m_settings.m_fSimulateNoiseSpeed)));
 }
 
-void Simulator::Tick() {
-  InstrumentData& data = m_record.Data();
-
+void Simulator::Tick(const Moment& now) {
+  const Origin here{{'S', 'I', 'M'}, {}, 0, now};
+  const InstrumentData& data = m_record.Data();
   m_record.HeadingUpdate(FoldBearing(static_cast<double>(m_settings.m_fSimulateCompassOffset) +
-                                     static_cast<double>(m_settings.m_fAutoPilot)));
-  m_record.BoatSpeedUpdate(m_settings.m_fSimulateBoatSpeed);
+                                     static_cast<double>(m_settings.m_fAutoPilot)),
+                         here);
+  m_record.BoatSpeedUpdate(m_settings.m_fSimulateBoatSpeed, here);
 
-  data.WindAngleTrue =
+  const float trueAngle =
       FoldRelative(static_cast<double>(m_settings.m_fSimulateTrueWindAngle) -
                    static_cast<double>(m_settings.m_fSimulateVariation) - static_cast<double>(data.Heading));
-  data.WindSpeedTrue = m_settings.m_fSimulateTrueWindSpeed;
-  WindApparentFromTrue(data.WindSpeedTrue, data.WindAngleTrue, data.BoatSpeed, data.WindSpeedApparent,
-                       data.WindAngleApparent);
+  const float trueSpeed = m_settings.m_fSimulateTrueWindSpeed;
+  float angle = 0.0F;
+  float speed = 0.0F;
+  WindApparentFromTrue(trueSpeed, trueAngle, data.BoatSpeed, speed, angle);
+  angle = FoldRelative(AngleNoise() + static_cast<double>(angle));
+  speed = ToSingle(SpeedNoise() + static_cast<double>(speed));
+  m_record.WindApparentUpdate(angle, speed, false, here);
+  angle = FoldRelative(AngleNoise() + static_cast<double>(trueAngle));
+  speed = ToSingle(SpeedNoise() + static_cast<double>(trueSpeed));
+  m_record.WindTrueSimulated(angle, speed, here);
 
-  data.WindAngleApparent = FoldRelative(AngleNoise() + static_cast<double>(data.WindAngleApparent));
-  data.WindSpeedApparent = ToSingle(SpeedNoise() + static_cast<double>(data.WindSpeedApparent));
-  m_record.WindApparentUpdate(data.WindAngleApparent, data.WindSpeedApparent, false);
-
-  data.WindAngleTrue = FoldRelative(AngleNoise() + static_cast<double>(data.WindAngleTrue));
-  data.WindSpeedTrue = ToSingle(SpeedNoise() + static_cast<double>(data.WindSpeedTrue));
-  m_record.WindTrueUpdate(data.WindAngleTrue, data.WindSpeedTrue, true);
-
-  m_record.VariationUpdate(m_settings.m_fSimulateVariation);
+  m_record.VariationUpdate(m_settings.m_fSimulateVariation, here);
   m_record.WindIndicatorUpdate();
 
   float bearing = 0.0F;
   float range = 0.0F;
   SimulateTime(m_settings.m_fSimulateTime, bearing, range);
-  m_record.WaypointUpdate(range, bearing);
+  m_record.WaypointUpdate(range, bearing, here);
 
   m_followUp.PolarUpdate();
   m_followUp.ControlStep();

@@ -14,12 +14,11 @@ class Simulator {
   Simulator(Settings& settings, InstrumentRecord& record, RandomSource& random, FollowUp& followUp)
       : m_settings(settings), m_record(record), m_random(random), m_followUp(followUp) {}
 
-  /// One second of simulated sailing: the updates of the record, then the polar window, then the control
-  /// step. Draws four random numbers: angle and speed noise of the apparent wind, then of the true wind.
-  /// Deliberate: the simulated true wind is not smoothed, as the record's value is overwritten before it is
-  /// averaged with itself; the steps that follow make no validity tests, and the polar window comes before
-  /// the control step (after a wind sentence it comes behind).
-  void Tick();
+  /// One second of simulated sailing at `now`: the updates of the record, then the polar window, then the
+  /// control step. Draws four random numbers: angle and speed noise of the apparent wind, then of the true
+  /// wind. Deliberate: the simulated true wind is not smoothed; the steps that follow make no validity tests,
+  /// and the polar window comes before the control step (after a wind sentence it comes behind).
+  void Tick(const Moment& now);
 
   /// Moves the boat along the autopilot bearing from m_fSimulateTime to `Time` [h] at the simulated speed,
   /// and gives the waypoint from there: bearing [deg, [-180, 180] once moved], range [nm]. Time 0 puts the

@@ -1,12 +1,13 @@
-// From a good line to the record: decodes the enabled sentence types and calls the updates that the source
-// settings choose.
+// From a good line to the record: decodes the enabled sentence types and gives what they hold to the choice
+// of sources.
 #pragma once
 
+#include <cstdint>
 #include <string_view>
 
 #include "app/Settings.h"
 #include "instruments/InstrumentRecord.h"
-#include "nmea/Sentence.h"
+#include "instruments/SourceChoice.h"
 #include "nmea/SourceWatch.h"
 
 namespace veerwatch {
@@ -20,32 +21,20 @@ class Dispatcher {
   };
 
   Dispatcher(const Settings& settings, InstrumentRecord& record)
-      : m_settings(settings), m_record(record), m_sources(settings) {}
+      : m_settings(settings), m_record(record), m_choice(settings, record), m_sources(settings) {}
 
-  /// Routes one line whose frame is good. A disabled type or one that is not known changes nothing.
-  /// Deliberate: what an incomplete sentence did hold is used.
-  Outcome Dispatch(std::string_view line);
+  /// Routes one line whose frame is good and that came in on `port` at `now`. A disabled type or one that is
+  /// not known changes nothing. Deliberate: what an incomplete sentence did hold is used.
+  Outcome Dispatch(std::string_view line, std::int16_t port, const Moment& now);
 
   /// What has come, and what is missing.
   SourceWatch& Sources() { return m_sources; }
   const SourceWatch& Sources() const { return m_sources; }
 
  private:
-  bool Enabled(SentenceType type) const;
-  bool UseVariation(const VariationValue& variation);
-  bool UseMotion(const Vhw& motion, int source);
-
-  // Each says whether it called an update.
-  bool Use(const Hdg& hdg);
-  bool Use(const Hvm& hvm);
-  bool Use(const Mwv& mwv);
-  bool Use(const Rmb& rmb);
-  bool Use(const Rmc& rmc);
-  bool Use(const Vhw& vhw);
-  bool Use(const Vtg& vtg);
-
   const Settings& m_settings;
-  InstrumentRecord& m_record;
+  const InstrumentRecord& m_record;
+  SourceChoice m_choice;
   SourceWatch m_sources;
 };
 

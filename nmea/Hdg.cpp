@@ -18,4 +18,11 @@ Hdg DecodeHdg(const Fields& fields) {
   return hdg;
 }
 
+void Hdg::AddTo(Readings& readings) const {
+  if (HeadingMark) {
+    readings.Add(Quantity::Heading, Heading);
+  }
+  Variation.AddTo(readings);
+}
+
 }  // namespace veerwatch

@@ -20,6 +20,7 @@ struct Hdg {
   VariationValue Variation;
 
   bool Complete() const { return HeadingMark && Variation.Direction != '\0'; }
+  void AddTo(Readings& readings) const;
 };
 
 /// Reads until a field cannot be converted; what was read before stays.

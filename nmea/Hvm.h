@@ -16,6 +16,7 @@ struct Hvm {
   VariationValue Variation;
 
   bool Complete() const { return Variation.Direction != '\0'; }
+  void AddTo(Readings& readings) const { Variation.AddTo(readings); }
 };
 
 Hvm DecodeHvm(const Fields& fields);

@@ -28,4 +28,17 @@ Mwv DecodeMwv(const Fields& fields) {
   return mwv;
 }
 
+void Mwv::AddTo(Readings& readings) const {
+  if (SpeedUnit != "Kts") {
+    readings.NoteUnreadUnit(SpeedUnit);
+    return;
+  }
+  if (Reference == '\0') {
+    return;
+  }
+  const bool apparent = Reference == 'R';
+  readings.Add(apparent ? Quantity::ApparentWindAngle : Quantity::TrueWindAngle, WindAngle);
+  readings.Add(apparent ? Quantity::ApparentWindSpeed : Quantity::TrueWindSpeed, WindSpeed);
+}
+
 }  // namespace veerwatch

@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "instruments/Reading.h"
 #include "nmea/Fields.h"
 
 namespace veerwatch {
@@ -23,6 +24,8 @@ struct Mwv {
   std::string_view SpeedUnit;  ///< "Kts" for knots, another unit's text, "" for none
 
   bool Complete() const { return Reference != '\0' && !SpeedUnit.empty(); }
+  /// Adds a wind whose speed is in knots; notes any other unit.
+  void AddTo(Readings& readings) const;
 };
 
 /// Reads until a field cannot be converted; what was read before stays.

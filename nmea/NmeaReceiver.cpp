@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "nmea/Sentence.h"
+
 namespace veerwatch {
 
 namespace {
@@ -12,11 +14,12 @@ constexpr std::string_view kNoInputData = "No Input Data";
 
 }  // namespace
 
-NmeaReceiver::NmeaReceiver(const Settings& settings, SerialPort& port, Timer& tmrNmea,
+NmeaReceiver::NmeaReceiver(const Settings& settings, SerialPort& port, Timer& tmrNmea, const Clock& clock,
                            InstrumentRecord& record, FollowUp& followUp, Listener& listener)
     : m_settings(settings),
       m_port(port),
       m_timer(tmrNmea),
+      m_clock(clock),
       m_record(record),
       m_followUp(followUp),
       m_listener(listener),
@@ -137,6 +140,7 @@ void NmeaReceiver::Receive() {
     Status("");
   }
   m_port.Input(m_input);
+  m_arrived = m_clock.Now();
   m_framer.Feed(
       m_input, [this](std::string_view line) { SentenceLine(line); },
       [this](std::string_view line) { BadLine(line, "Sentence Error"); });
@@ -154,7 +158,7 @@ void NmeaReceiver::SentenceLine(std::string_view line) {
     case Frame::Good:
       break;
   }
-  const Dispatcher::Outcome outcome = m_dispatcher.Dispatch(line);
+  const Dispatcher::Outcome outcome = m_dispatcher.Dispatch(line, m_settings.m_iNmeaPort, m_arrived);
   if (outcome.Incomplete) {
     m_text.assign("Decode Error - ").append(line);
     m_listener.OnNmeaError(m_text);

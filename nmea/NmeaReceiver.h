@@ -11,6 +11,7 @@
 #include "instruments/InstrumentRecord.h"
 #include "nmea/Dispatcher.h"
 #include "nmea/LineFramer.h"
+#include "platform/Clock.h"
 #include "platform/SerialPort.h"
 #include "platform/Timer.h"
 
@@ -38,8 +39,9 @@ class NmeaReceiver final : public SerialPort::Events {
     virtual void OnNmeaError(std::string_view /*text*/) {}
   };
 
-  NmeaReceiver(const Settings& settings, SerialPort& port, Timer& tmrNmea, InstrumentRecord& record,
-               FollowUp& followUp, Listener& listener);
+  /// Everything outlives this; `clock` says when characters arrived.
+  NmeaReceiver(const Settings& settings, SerialPort& port, Timer& tmrNmea, const Clock& clock,
+               InstrumentRecord& record, FollowUp& followUp, Listener& listener);
 
   /// Starts the input, with the present port number and with the present m_bSimulate. Always true; a port
   /// that cannot be opened is shown as "Input Port n Not Open" and tried again at every fourth tick.
@@ -79,6 +81,7 @@ class NmeaReceiver final : public SerialPort::Events {
   const Settings& m_settings;
   SerialPort& m_port;
   Timer& m_timer;
+  const Clock& m_clock;
   InstrumentRecord& m_record;
   FollowUp& m_followUp;
   Listener& m_listener;
@@ -91,6 +94,7 @@ class NmeaReceiver final : public SerialPort::Events {
   int m_noDataCount = 0;
   bool m_noDataShown = false;
   bool m_notOpenShown = false;
+  Moment m_arrived;  ///< the latest characters
   std::string m_status;
   std::string m_failure;
   std::vector<std::string> m_advice;

@@ -26,4 +26,13 @@ Rmb DecodeRmb(const Fields& fields) {
   return rmb;
 }
 
+void Rmb::AddTo(Readings& readings) const {
+  if (RangeMark) {
+    readings.Add(Quantity::WaypointRange, Range);
+  }
+  if (BearingMark) {
+    readings.Add(Quantity::WaypointBearing, Bearing);
+  }
+}
+
 }  // namespace veerwatch

@@ -1,6 +1,7 @@
 // "RMB", recommended minimum navigation to a waypoint.
 #pragma once
 
+#include "instruments/Reading.h"
 #include "nmea/Fields.h"
 
 namespace veerwatch {
@@ -22,6 +23,7 @@ struct Rmb {
   bool BearingMark = false;
 
   bool Complete() const { return RangeMark && BearingMark; }
+  void AddTo(Readings& readings) const;
 };
 
 /// Reads until a field cannot be converted; what was read before stays.

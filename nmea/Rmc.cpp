@@ -26,4 +26,14 @@ Rmc DecodeRmc(const Fields& fields) {
   return rmc;
 }
 
+void Rmc::AddTo(Readings& readings) const {
+  Variation.AddTo(readings);
+  if (CourseMark) {
+    readings.Add(Quantity::CourseTrue, Course);
+  }
+  if (SpeedMark) {
+    readings.Add(Quantity::SpeedOverGround, Speed);
+  }
+}
+
 }  // namespace veerwatch

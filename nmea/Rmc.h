@@ -24,6 +24,7 @@ struct Rmc {
   VariationValue Variation;
 
   bool Complete() const { return CourseMark && SpeedMark && Variation.Direction != '\0'; }
+  void AddTo(Readings& readings) const;
 };
 
 /// Reads until a field cannot be converted; what was read before stays.

@@ -17,22 +17,4 @@ Frame CheckFrame(std::string_view line) {
   return digits[0] == expected[0] && digits[1] == expected[1] ? Frame::Good : Frame::WrongChecksum;
 }
 
-SentenceType SentenceTypeOf(std::string_view line) {
-  struct Name {
-    std::string_view Text;
-    SentenceType Type;
-  };
-  constexpr Name kNames[] = {{"HDG", SentenceType::Hdg}, {"HVM", SentenceType::Hvm},
-                             {"MWV", SentenceType::Mwv}, {"RMB", SentenceType::Rmb},
-                             {"RMC", SentenceType::Rmc}, {"VHW", SentenceType::Vhw},
-                             {"VTG", SentenceType::Vtg}};
-  const std::string_view type = line.size() >= 6 ? line.substr(3, 3) : std::string_view{};
-  for (const Name& name : kNames) {
-    if (type == name.Text) {
-      return name.Type;
-    }
-  }
-  return SentenceType::Other;
-}
-
 }  // namespace veerwatch

@@ -1,7 +1,7 @@
 #include "nmea/SourceWatch.h"
 
 #include <algorithm>
-#include <utility>
+#include <string_view>
 
 namespace veerwatch {
 
@@ -13,6 +13,26 @@ constexpr int kWindSensor = 0;
 
 /// A source that has not come for so long is not there [s].
 constexpr int kGone = 6;
+
+/// A sentence that brings a quantity.
+struct Bringer {
+  std::string_view Sentence;
+  Quantity What;
+  const char* Name;  ///< in a text
+};
+
+/// In the order of SourceWatch::Source.
+constexpr std::array<Bringer, 9> kBringers{{
+    {"HDG", Quantity::Heading, "HDG"},
+    {"VHW", Quantity::Heading, "VHW"},
+    {"RMC", Quantity::CourseTrue, "RMC"},
+    {"VTG", Quantity::CourseMagnetic, "VTG"},
+    {"VHW", Quantity::SpeedThroughWater, "VHW"},
+    {"RMC", Quantity::SpeedOverGround, "RMC"},
+    {"VTG", Quantity::SpeedOverGround, "VTG"},
+    {"MWV", Quantity::ApparentWindAngle, "MWV (R)"},
+    {"MWV", Quantity::TrueWindAngle, "MWV (T)"},
+}};
 
 std::string UnitName(std::string_view unit) {
   if (unit == "M") {
@@ -50,56 +70,53 @@ void SourceWatch::Tick() {
   }
 }
 
-void SourceWatch::Saw(const Hdg& hdg, bool /*variationKnown*/) { Came(kHeadingHdg, hdg.HeadingMark); }
+void SourceWatch::Saw(const SentenceKind& kind, const Readings& readings, bool complete,
+                      bool variationKnown) {
+  if (kind.IsWind) {
+    CountWind(readings, complete);
+  }
+  for (const Reading& reading : readings) {
+    if (reading.What == Quantity::CourseTrue && !variationKnown) {
+      continue;
+    }
+    for (std::size_t source = 0; source < kBringers.size(); ++source) {
+      if (kBringers[source].What == reading.What && kBringers[source].Sentence == kind.Name) {
+        m_age[source] = 0;
+      }
+    }
+  }
+}
 
-void SourceWatch::Saw(const Mwv& mwv, bool /*variationKnown*/) {
-  if (!mwv.Complete()) {
+void SourceWatch::CountWind(const Readings& readings, bool complete) {
+  if (!complete) {
     ++m_winds.Incomplete;
-  } else if (mwv.SpeedUnit != "Kts") {
+  } else if (!readings.UnreadUnit().empty()) {
     ++m_winds.OtherUnit;
-    m_unit = UnitName(mwv.SpeedUnit);
-    Came(kOtherUnit, true);
+    m_unit = UnitName(readings.UnreadUnit());
+    m_age[kOtherUnit] = 0;
   } else {
-    const bool apparent = mwv.Reference == 'R';
-    Came(apparent ? kApparentWind : kTrueWind, true);
+    const bool apparent = readings.Find(Quantity::ApparentWindAngle) != nullptr;
     ++(apparent || m_settings.m_iNmeaTrueWind == kWindSensor ? m_winds.Used : m_winds.NotChosen);
   }
 }
 
-void SourceWatch::Saw(const Rmc& rmc, bool variationKnown) {
-  Came(kHeadingRmc, rmc.CourseMark && variationKnown);
-  Came(kSpeedRmc, rmc.SpeedMark);
-}
-
-void SourceWatch::Saw(const Vhw& vhw, bool /*variationKnown*/) {
-  Came(kHeadingVhw, vhw.HeadingMark);
-  Came(kSpeedVhw, vhw.SpeedMark);
-}
-
-void SourceWatch::Saw(const Vtg& vtg, bool /*variationKnown*/) {
-  Came(kHeadingVtg, vtg.HeadingMark);
-  Came(kSpeedVtg, vtg.SpeedMark);
-}
-
-void SourceWatch::SawSwitchedOff(SentenceType type) {
-  m_winds.SwitchedOff += type == SentenceType::Mwv ? 1 : 0;
-}
+void SourceWatch::SawSwitchedOff(const SentenceKind& kind) { m_winds.SwitchedOff += kind.IsWind ? 1 : 0; }
 
 bool SourceWatch::There(Source source) const { return m_age[source] < kGone; }
 
 std::string SourceWatch::Missing(const char* value, const Group& chosen, const Group& others) const {
   std::vector<std::string> there;
-  for (const auto& [source, name] : others) {
+  for (const Source source : others) {
     if (There(source)) {
-      there.emplace_back(name);
+      there.emplace_back(kBringers[source].Name);
     }
   }
   std::vector<std::string> silent;
-  for (const auto& [source, name] : chosen) {
+  for (const Source source : chosen) {
     if (There(source)) {
       return {};
     }
-    silent.emplace_back(name);
+    silent.emplace_back(kBringers[source].Name);
   }
   if (there.empty()) {
     return {};
@@ -118,8 +135,8 @@ std::vector<std::string> SourceWatch::Advice() const {
       lines.push_back(line);
     }
   };
-  const Group apparent{{kApparentWind, "MWV (R)"}};
-  const Group trueWind{{kTrueWind, "MWV (T)"}};
+  const Group apparent{kApparentWind};
+  const Group trueWind{kTrueWind};
   if (There(kOtherUnit) && !There(kApparentWind)) {
     add("Wind: MWV brings " + m_unit + "; only knots are read");
   }
@@ -127,12 +144,12 @@ std::vector<std::string> SourceWatch::Advice() const {
   if (m_settings.m_iNmeaTrueWind == kWindSensor) {
     add(Missing("True Wind", trueWind, apparent));
   }
-  const Group compass{{kHeadingHdg, "HDG"}, {kHeadingVhw, "VHW"}};
-  const Group course{{kHeadingRmc, "RMC"}, {kHeadingVtg, "VTG"}};
+  const Group compass{kHeadingHdg, kHeadingVhw};
+  const Group course{kHeadingRmc, kHeadingVtg};
   const bool byCompass = m_settings.m_iNmeaHeading == kThroughWater;
   add(Missing("Heading", byCompass ? compass : course, byCompass ? course : compass));
-  const Group log{{kSpeedVhw, "VHW"}};
-  const Group ground{{kSpeedRmc, "RMC"}, {kSpeedVtg, "VTG"}};
+  const Group log{kSpeedVhw};
+  const Group ground{kSpeedRmc, kSpeedVtg};
   const bool byLog = m_settings.m_iNmeaBoatSpeed == kThroughWater;
   add(Missing("Boat Speed", byLog ? log : ground, byLog ? ground : log));
   return lines;

@@ -8,7 +8,8 @@
 #include <vector>
 
 #include "app/Settings.h"
-#include "nmea/Sentence.h"
+#include "instruments/Reading.h"
+#include "nmea/SentenceTable.h"
 
 namespace veerwatch {
 
@@ -33,17 +34,11 @@ class SourceWatch {
   /// A second has passed.
   void Tick();
 
-  // Each takes a sentence as it was decoded. `variationKnown`: whether a true course can be made magnetic.
-
-  void Saw(const Hdg& hdg, bool variationKnown);
-  void Saw(const Hvm& /*hvm*/, bool /*variationKnown*/) {}
-  void Saw(const Mwv& mwv, bool variationKnown);
-  void Saw(const Rmb& /*rmb*/, bool /*variationKnown*/) {}
-  void Saw(const Rmc& rmc, bool variationKnown);
-  void Saw(const Vhw& vhw, bool variationKnown);
-  void Saw(const Vtg& vtg, bool variationKnown);
+  /// Takes what a sentence of a type that is ticked brought. `complete`: nothing that it should hold was
+  /// missing. `variationKnown`: a true course can be made magnetic.
+  void Saw(const SentenceKind& kind, const Readings& readings, bool complete, bool variationKnown);
   /// A sentence of a type that is not ticked.
-  void SawSwitchedOff(SentenceType type);
+  void SawSwitchedOff(const SentenceKind& kind);
 
   /// A line for each value that its chosen source does not bring, as "Heading: nothing from RMC or VTG; HDG
   /// is there"; none in the first seconds.
@@ -62,13 +57,12 @@ class SourceWatch {
     kSpeedVtg,
     kApparentWind,
     kTrueWind,
-    kOtherUnit,
+    kOtherUnit,  ///< a wind whose speed is in another unit than knots
     kSources
   };
-  /// Sources with the names that they have in a text.
-  using Group = std::vector<std::pair<Source, const char*>>;
+  using Group = std::vector<Source>;
 
-  void Came(Source source, bool came) { m_age[source] = came ? 0 : m_age[source]; }
+  void CountWind(const Readings& readings, bool complete);
   bool There(Source source) const;
   /// What to say of a value, "" for nothing: none of `chosen` is there while some of `others` are.
   std::string Missing(const char* value, const Group& chosen, const Group& others) const;

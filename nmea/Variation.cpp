@@ -4,6 +4,12 @@
 
 namespace veerwatch {
 
+void VariationValue::AddTo(Readings& readings) const {
+  if (Direction != '\0') {
+    readings.Add(Quantity::Variation, Degrees);
+  }
+}
+
 VariationValue DecodeVariation(const Fields& fields, std::size_t n) {
   VariationValue variation;
   const auto text = fields.Text(n, n + 1);

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 
+#include "instruments/Reading.h"
 #include "nmea/Fields.h"
 
 namespace veerwatch {
@@ -10,6 +11,9 @@ namespace veerwatch {
 struct VariationValue {
   float Degrees = 0.0F;   ///< [deg, east positive]; the bare magnitude without a direction mark
   char Direction = '\0';  ///< 'E', 'W', or 0 when there is no such mark or no value
+
+  /// Adds the variation where it has its direction.
+  void AddTo(Readings& readings) const;
 };
 
 /// Reads field `n` and its direction in the field behind, where the line has at least n + 1 fields.

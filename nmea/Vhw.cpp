@@ -27,4 +27,25 @@ Vhw DecodeVhw(const Fields& fields) {
 
 Vtg DecodeVtg(const Fields& fields) { return {DecodeVhw(fields)}; }
 
+namespace {
+
+void AddMotion(const Vhw& motion, Quantity direction, Quantity speed, Readings& readings) {
+  if (motion.HeadingMark) {
+    readings.Add(direction, motion.Heading);
+  }
+  if (motion.SpeedMark) {
+    readings.Add(speed, motion.Speed);
+  }
+}
+
+}  // namespace
+
+void Vhw::AddTo(Readings& readings) const {
+  AddMotion(*this, Quantity::Heading, Quantity::SpeedThroughWater, readings);
+}
+
+void Vtg::AddTo(Readings& readings) const {
+  AddMotion(*this, Quantity::CourseMagnetic, Quantity::SpeedOverGround, readings);
+}
+
 }  // namespace veerwatch

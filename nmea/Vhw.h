@@ -1,6 +1,7 @@
 // "VHW", heading and speed through the water, and "VTG", course and speed over ground: one layout.
 #pragma once
 
+#include "instruments/Reading.h"
 #include "nmea/Fields.h"
 
 namespace veerwatch {
@@ -22,10 +23,13 @@ struct Vhw {
   bool SpeedMark = false;
 
   bool Complete() const { return HeadingMark && SpeedMark; }
+  void AddTo(Readings& readings) const;
 };
 
 /// The same fields over ground.
-struct Vtg : Vhw {};
+struct Vtg : Vhw {
+  void AddTo(Readings& readings) const;
+};
 
 /// Each reads until a field cannot be converted; what was read before stays.
 Vhw DecodeVhw(const Fields& fields);

@@ -10,8 +10,8 @@ OptionsForm OptionsFormOf(const Settings& settings) {
   form.NmeaTrueWind = settings.m_iNmeaTrueWind;
   form.NmeaHeading = settings.m_iNmeaHeading;
   form.NmeaBoatSpeed = settings.m_iNmeaBoatSpeed;
-  for (std::size_t i = 0; i < kOptionSentences.size(); ++i) {
-    form.NmeaSentence[i] = settings.*kOptionSentences[i].Setting;
+  for (std::size_t i = 0; i < kSentences.size(); ++i) {
+    form.NmeaSentence[i] = settings.*kSentences[i].Enabled;
   }
   form.NmeaTrueWindAverage = ShortestText(settings.m_fNmeaTrueWindAverage);
   form.NmeaWindIndicatorAverage = ShortestText(settings.m_fNmeaWindIndicatorAverage);

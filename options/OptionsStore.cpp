@@ -68,8 +68,8 @@ OptionsStore::Fault OptionsStore::StoreSingles(std::initializer_list<Item> items
 OptionsStore::Fault OptionsStore::StoreData(const OptionsForm& form) {
   m_main.m_iNmeaBoatSpeed = Source(form.NmeaBoatSpeed);
   m_main.m_iNmeaHeading = Source(form.NmeaHeading);
-  for (std::size_t i = 0; i < kOptionSentences.size(); ++i) {
-    m_main.*kOptionSentences[i].Setting = form.NmeaSentence[i];
+  for (std::size_t i = 0; i < kSentences.size(); ++i) {
+    m_main.*kSentences[i].Enabled = form.NmeaSentence[i];
   }
   m_main.m_iNmeaTrueWind = Source(form.NmeaTrueWind);
   return StoreSingles({{"True Wind Average", form.NmeaTrueWindAverage, m_main.m_fNmeaTrueWindAverage,

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "tests/support/FixedRandom.h"
+#include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"
 #include "tests/support/RecordingView.h"
 #include "tests/support/ScriptedPort.h"
@@ -39,8 +40,9 @@ class HelmTest : public testing::Test {
   ScriptedPort m_nmeaPort;
   ScriptedPort m_pilotPort;
   HandTimer m_timer;
+  HandClock m_clock;
   FixedRandom m_random;
-  Helm m_helm{m_settings, m_nmeaPort, m_pilotPort, m_timer, m_random, m_view};
+  Helm m_helm{m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random, m_view};
 };
 
 TEST_F(HelmTest, TurnsAWindSentenceIntoAHeadingForTheAutopilot) {

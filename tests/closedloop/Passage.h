@@ -8,6 +8,7 @@
 #include "tests/closedloop/Wire.h"
 #include "tests/support/BoatModel.h"
 #include "tests/support/FixedRandom.h"
+#include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"
 #include "tests/support/ScriptedPort.h"
 
@@ -45,6 +46,7 @@ class Passage {
 
   HelmView m_view;
   HandTimer m_timer;
+  HandClock m_clock;
   FixedRandom m_random;
   Helm m_helm;
   double m_sinceTick = 0.0;

@@ -12,6 +12,7 @@
 #include "app/Helm.h"
 #include "tests/fuzz/Demand.h"
 #include "tests/support/FixedRandom.h"
+#include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"
 #include "tests/support/MemoryInUse.h"
 #include "tests/support/RecordFault.h"
@@ -210,8 +211,9 @@ class Rig {
   ScriptedPort m_nmeaPort;
   ScriptedPort m_pilotPort;
   HandTimer m_timer;
+  HandClock m_clock;
   FixedRandom m_random;
-  Helm m_helm{m_settings, m_nmeaPort, m_pilotPort, m_timer, m_random, m_view};
+  Helm m_helm{m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random, m_view};
 };
 
 /// What a stream brings again takes no more memory.

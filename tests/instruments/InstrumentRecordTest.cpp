@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "app/Settings.h"
+#include "tests/support/Origins.h"
 #include "tests/support/RecordFault.h"
 #include "tests/support/RecordingView.h"
 
@@ -47,7 +48,7 @@ TEST_F(InstrumentRecordTest, StartsWithZerosAndNothingValid) {
 }
 
 TEST_F(InstrumentRecordTest, TheFirstHeadingIsFoldedAndItsAverageIsNot) {
-  m_record.HeadingUpdate(370.0F);
+  m_record.HeadingUpdate(370.0F, kOrigin);
   EXPECT_TRUE(Data().HeadingValid);
   EXPECT_EQ(Data().Heading, 10.0F);
   EXPECT_EQ(Data().HeadingAverage, 370.0F);
@@ -56,24 +57,24 @@ TEST_F(InstrumentRecordTest, TheFirstHeadingIsFoldedAndItsAverageIsNot) {
 
 TEST_F(InstrumentRecordTest, LaterHeadingsAreSmoothedAroundTheCircle) {
   m_settings.m_fNmeaTrueWindAverage = 2.0F;
-  m_record.HeadingUpdate(350.0F);
-  m_record.HeadingUpdate(16.0F);
+  m_record.HeadingUpdate(350.0F, kOrigin);
+  m_record.HeadingUpdate(16.0F, kOrigin);
   EXPECT_EQ(Data().Heading, 16.0F);
   EXPECT_NEAR(Data().HeadingAverage, 3.0F, 1e-4);
 }
 
 TEST_F(InstrumentRecordTest, AHeadingOf360IsShownAsZero) {
-  m_record.HeadingUpdate(360.0F);
+  m_record.HeadingUpdate(360.0F, kOrigin);
   EXPECT_EQ(Data().Heading, 0.0F);
-  m_record.HeadingUpdate(-90.0F);
+  m_record.HeadingUpdate(-90.0F, kOrigin);
   EXPECT_EQ(Data().Heading, 270.0F);
   EXPECT_THAT(m_view.Calls, ElementsAre("OnHeading 0", "OnHeading 270"));
 }
 
 TEST_F(InstrumentRecordTest, TheBoatSpeedIsShownRawAndSmoothed) {
-  m_record.BoatSpeedUpdate(4.0F);
+  m_record.BoatSpeedUpdate(4.0F, kOrigin);
   EXPECT_EQ(Data().BoatSpeedAverage, 4.0F);
-  m_record.BoatSpeedUpdate(8.0F);
+  m_record.BoatSpeedUpdate(8.0F, kOrigin);
   EXPECT_TRUE(Data().BoatSpeedValid);
   EXPECT_EQ(Data().BoatSpeed, 8.0F);
   EXPECT_EQ(Data().BoatSpeedAverage, 5.0F);
@@ -81,25 +82,25 @@ TEST_F(InstrumentRecordTest, TheBoatSpeedIsShownRawAndSmoothed) {
 }
 
 TEST_F(InstrumentRecordTest, TheVariationIsKeptAndShownNowhere) {
-  m_record.VariationUpdate(-5.5F);
+  m_record.VariationUpdate(-5.5F, kOrigin);
   EXPECT_TRUE(Data().VariationValid);
   EXPECT_EQ(Data().Variation, -5.5F);
   EXPECT_THAT(m_view.Calls, IsEmpty());
 }
 
 TEST_F(InstrumentRecordTest, TheWaypointIsStoredAsItComes) {
-  m_record.WaypointUpdate(2.5F, -12.0F);
+  m_record.WaypointUpdate(2.5F, -12.0F, kOrigin);
   EXPECT_TRUE(Data().WaypointValid);
   EXPECT_EQ(Data().WaypointRange, 2.5F);
   EXPECT_EQ(Data().WaypointBearing, -12.0F);
-  m_record.WaypointUpdate(3.5F, 371.0F);
+  m_record.WaypointUpdate(3.5F, 371.0F, kOrigin);
   EXPECT_EQ(Data().WaypointRange, 3.5F);
   EXPECT_EQ(Data().WaypointBearing, 371.0F);
   EXPECT_THAT(m_view.Calls, ElementsAre("OnWaypoint 2.5 -12", "OnWaypoint 3.5 371"));
 }
 
 TEST_F(InstrumentRecordTest, AFirstApparentWindOf190IsMinus170) {
-  m_record.WindApparentUpdate(190.0F, 12.0F, true);
+  m_record.WindApparentUpdate(190.0F, 12.0F, true, kOrigin);
   EXPECT_TRUE(Data().WindApparentValid);
   EXPECT_EQ(Data().WindAngleApparent, -170.0F);
   EXPECT_EQ(Data().WindAngleApparentAverage, -170.0F);
@@ -109,8 +110,8 @@ TEST_F(InstrumentRecordTest, AFirstApparentWindOf190IsMinus170) {
 }
 
 TEST_F(InstrumentRecordTest, TheApparentWindIsShownRawAndSmoothed) {
-  m_record.WindApparentUpdate(0.0F, 4.0F, false);
-  m_record.WindApparentUpdate(90.0F, 8.0F, false);
+  m_record.WindApparentUpdate(0.0F, 4.0F, false, kOrigin);
+  m_record.WindApparentUpdate(90.0F, 8.0F, false, kOrigin);
   EXPECT_EQ(Data().WindAngleApparent, 90.0F);
   EXPECT_NEAR(Data().WindAngleApparentAverage, 18.4349488F, 1e-4);
   EXPECT_EQ(Data().WindSpeedApparent, 8.0F);
@@ -120,27 +121,27 @@ TEST_F(InstrumentRecordTest, TheApparentWindIsShownRawAndSmoothed) {
 
 TEST_F(InstrumentRecordTest, WithoutABoatSpeedNoTrueWindIsComputed) {
   m_settings.m_iNmeaTrueWind = 1;
-  m_record.WindApparentUpdate(45.0F, 10.0F, true);
+  m_record.WindApparentUpdate(45.0F, 10.0F, true, kOrigin);
   EXPECT_FALSE(Data().WindTrueValid);
   EXPECT_EQ(m_view.Count("OnWindTrue"), 0U);
 }
 
 TEST_F(InstrumentRecordTest, WithATrueWindSensorNoTrueWindIsComputed) {
   m_settings.m_iNmeaTrueWind = 0;
-  m_record.BoatSpeedUpdate(6.0F);
-  m_record.WindApparentUpdate(45.0F, 10.0F, true);
+  m_record.BoatSpeedUpdate(6.0F, kOrigin);
+  m_record.WindApparentUpdate(45.0F, 10.0F, true, kOrigin);
   EXPECT_FALSE(Data().WindTrueValid);
 }
 
 TEST_F(InstrumentRecordTest, WithoutComputeTrueNoTrueWindIsComputed) {
-  m_record.BoatSpeedUpdate(6.0F);
-  m_record.WindApparentUpdate(45.0F, 10.0F, false);
+  m_record.BoatSpeedUpdate(6.0F, kOrigin);
+  m_record.WindApparentUpdate(45.0F, 10.0F, false, kOrigin);
   EXPECT_FALSE(Data().WindTrueValid);
 }
 
 TEST_F(InstrumentRecordTest, FiveKnotsAheadAtSixAreATrueWindOfOneKnotFromAstern) {
-  m_record.BoatSpeedUpdate(6.0F);
-  m_record.WindApparentUpdate(0.0F, 5.0F, true);
+  m_record.BoatSpeedUpdate(6.0F, kOrigin);
+  m_record.WindApparentUpdate(0.0F, 5.0F, true, kOrigin);
   EXPECT_TRUE(Data().WindTrueValid);
   EXPECT_EQ(Data().WindSpeedTrue, 1.0F);
   EXPECT_EQ(Data().WindAngleTrue, 180.0F);  // the -180 of the vector, folded on its way into the record
@@ -148,16 +149,16 @@ TEST_F(InstrumentRecordTest, FiveKnotsAheadAtSixAreATrueWindOfOneKnotFromAstern)
 }
 
 TEST_F(InstrumentRecordTest, TheComputedTrueWindComesFromSmoothedValuesAndIsNotSmoothedAgain) {
-  m_record.BoatSpeedUpdate(4.0F);
-  m_record.WindApparentUpdate(90.0F, 3.0F, true);
-  m_record.BoatSpeedUpdate(8.0F);                  // smoothed 5
-  m_record.WindApparentUpdate(90.0F, 7.0F, true);  // smoothed 4 from 90
+  m_record.BoatSpeedUpdate(4.0F, kOrigin);
+  m_record.WindApparentUpdate(90.0F, 3.0F, true, kOrigin);
+  m_record.BoatSpeedUpdate(8.0F, kOrigin);                  // smoothed 5
+  m_record.WindApparentUpdate(90.0F, 7.0F, true, kOrigin);  // smoothed 4 from 90
   EXPECT_NEAR(Data().WindSpeedTrue, std::hypot(4.0, 5.0), 1e-5);
   EXPECT_NEAR(Data().WindAngleTrue, 180.0 - 38.6598083, 1e-4);  // atan(4 / 5) = 38.6598
 }
 
 TEST_F(InstrumentRecordTest, AFirstTrueWindFromASensorIsTakenAsItIs) {
-  m_record.WindTrueUpdate(190.0F, 12.0F, true);
+  m_record.WindTrueUpdate(190.0F, 12.0F, true, kOrigin);
   EXPECT_TRUE(Data().WindTrueValid);
   EXPECT_EQ(Data().WindAngleTrue, -170.0F);
   EXPECT_EQ(Data().WindSpeedTrue, 12.0F);
@@ -165,16 +166,16 @@ TEST_F(InstrumentRecordTest, AFirstTrueWindFromASensorIsTakenAsItIs) {
 }
 
 TEST_F(InstrumentRecordTest, LaterTrueWindFromASensorIsSmoothedAndShownSmoothed) {
-  m_record.WindTrueUpdate(0.0F, 4.0F, true);
-  m_record.WindTrueUpdate(90.0F, 8.0F, true);
+  m_record.WindTrueUpdate(0.0F, 4.0F, true, kOrigin);
+  m_record.WindTrueUpdate(90.0F, 8.0F, true, kOrigin);
   EXPECT_NEAR(Data().WindAngleTrue, 18.4349488F, 1e-4);
   EXPECT_EQ(Data().WindSpeedTrue, 5.0F);
   EXPECT_EQ(m_view.Calls.back(), "OnWindTrue " + ShortestText(Data().WindAngleTrue) + " 5");
 }
 
 TEST_F(InstrumentRecordTest, ATrueWindThatIsNotToBeSmoothedReplacesTheOldOne) {
-  m_record.WindTrueUpdate(0.0F, 4.0F, true);
-  m_record.WindTrueUpdate(-180.0F, 8.0F, false);
+  m_record.WindTrueUpdate(0.0F, 4.0F, true, kOrigin);
+  m_record.WindTrueUpdate(-180.0F, 8.0F, false, kOrigin);
   EXPECT_EQ(Data().WindAngleTrue, 180.0F);
   EXPECT_EQ(Data().WindSpeedTrue, 8.0F);
 }
@@ -182,18 +183,18 @@ TEST_F(InstrumentRecordTest, ATrueWindThatIsNotToBeSmoothedReplacesTheOldOne) {
 TEST_F(InstrumentRecordTest, WithAnAveragingCountOfZeroEverySmoothedValueIsTheLastSampleFolded) {
   m_settings.m_fNmeaTrueWindAverage = 0.0F;
   m_settings.m_fNmeaWindIndicatorAverage = 0.0F;
-  m_record.VariationUpdate(10.0F);
+  m_record.VariationUpdate(10.0F, kOrigin);
   for (int i = 0; i < 2; ++i) {
-    m_record.HeadingUpdate(20.0F);
-    m_record.BoatSpeedUpdate(1.0F);
-    m_record.WindApparentUpdate(20.0F, 2.0F, false);
-    m_record.WindTrueUpdate(20.0F, 3.0F, true);
+    m_record.HeadingUpdate(20.0F, kOrigin);
+    m_record.BoatSpeedUpdate(1.0F, kOrigin);
+    m_record.WindApparentUpdate(20.0F, 2.0F, false, kOrigin);
+    m_record.WindTrueUpdate(20.0F, 3.0F, true, kOrigin);
     m_record.WindIndicatorUpdate();
   }
-  m_record.HeadingUpdate(-10.0F);
-  m_record.BoatSpeedUpdate(7.0F);
-  m_record.WindApparentUpdate(190.0F, 9.0F, false);
-  m_record.WindTrueUpdate(-190.0F, 11.0F, true);
+  m_record.HeadingUpdate(-10.0F, kOrigin);
+  m_record.BoatSpeedUpdate(7.0F, kOrigin);
+  m_record.WindApparentUpdate(190.0F, 9.0F, false, kOrigin);
+  m_record.WindTrueUpdate(-190.0F, 11.0F, true, kOrigin);
   m_record.WindIndicatorUpdate();
   EXPECT_EQ(Data().HeadingAverage, 350.0F);
   EXPECT_EQ(Data().BoatSpeedAverage, 7.0F);
@@ -206,9 +207,9 @@ TEST_F(InstrumentRecordTest, WithAnAveragingCountOfZeroEverySmoothedValueIsTheLa
 }
 
 TEST_F(InstrumentRecordTest, TheFirstWindIndicatorIsTakenAsItIsButFolded) {
-  m_record.HeadingUpdate(300.0F);
-  m_record.VariationUpdate(-5.0F);
-  m_record.WindTrueUpdate(100.0F, 12.5F, true);
+  m_record.HeadingUpdate(300.0F, kOrigin);
+  m_record.VariationUpdate(-5.0F, kOrigin);
+  m_record.WindTrueUpdate(100.0F, 12.5F, true, kOrigin);
   m_view.Take();
   m_record.WindIndicatorUpdate();
   EXPECT_TRUE(Data().WindIndicatorValid);
@@ -219,31 +220,31 @@ TEST_F(InstrumentRecordTest, TheFirstWindIndicatorIsTakenAsItIsButFolded) {
 
 TEST_F(InstrumentRecordTest, LaterWindIndicatorsAreSmoothedWithTheirOwnCount) {
   m_settings.m_fNmeaWindIndicatorAverage = 2.0F;
-  m_record.VariationUpdate(0.0F);
-  m_record.WindTrueUpdate(-10.0F, 10.0F, false);
+  m_record.VariationUpdate(0.0F, kOrigin);
+  m_record.WindTrueUpdate(-10.0F, 10.0F, false, kOrigin);
   m_record.WindIndicatorUpdate();
-  m_record.WindTrueUpdate(16.0F, 20.0F, false);
+  m_record.WindTrueUpdate(16.0F, 20.0F, false, kOrigin);
   m_record.WindIndicatorUpdate();
   EXPECT_NEAR(Data().WindDirectionAverage, 3.0F, 1e-4);
   EXPECT_EQ(Data().WindSpeedAverage, 15.0F);
 }
 
 TEST_F(InstrumentRecordTest, TheWindIndicatorUsesTheRawHeadingEvenWhenItIsNoLongerValid) {
-  m_record.HeadingUpdate(90.0F);
+  m_record.HeadingUpdate(90.0F, kOrigin);
   m_record.Restart();
-  m_record.VariationUpdate(0.0F);
-  m_record.WindTrueUpdate(45.0F, 10.0F, false);
+  m_record.VariationUpdate(0.0F, kOrigin);
+  m_record.WindTrueUpdate(45.0F, 10.0F, false, kOrigin);
   m_record.WindIndicatorUpdate();
   EXPECT_FALSE(Data().HeadingValid);
   EXPECT_EQ(Data().WindDirectionAverage, 135.0F);
 }
 
 TEST_F(InstrumentRecordTest, RestartClearsTheFlagsButNeitherTheVariationNorAnyValue) {
-  m_record.HeadingUpdate(90.0F);
-  m_record.BoatSpeedUpdate(6.0F);
-  m_record.VariationUpdate(-7.0F);
-  m_record.WaypointUpdate(3.0F, 44.0F);
-  m_record.WindApparentUpdate(45.0F, 10.0F, true);
+  m_record.HeadingUpdate(90.0F, kOrigin);
+  m_record.BoatSpeedUpdate(6.0F, kOrigin);
+  m_record.VariationUpdate(-7.0F, kOrigin);
+  m_record.WaypointUpdate(3.0F, 44.0F, kOrigin);
+  m_record.WindApparentUpdate(45.0F, 10.0F, true, kOrigin);
   m_record.WindIndicatorUpdate();
   ASSERT_TRUE(Data().WindTrueValid);
   const float trueAngle = Data().WindAngleTrue;
@@ -268,13 +269,13 @@ TEST_F(InstrumentRecordTest, RestartClearsTheFlagsButNeitherTheVariationNorAnyVa
 }
 
 TEST_F(InstrumentRecordTest, SmoothingRestartsFromTheNextSampleAfterARestart) {
-  m_record.HeadingUpdate(90.0F);
-  m_record.BoatSpeedUpdate(6.0F);
-  m_record.WindApparentUpdate(45.0F, 10.0F, false);
+  m_record.HeadingUpdate(90.0F, kOrigin);
+  m_record.BoatSpeedUpdate(6.0F, kOrigin);
+  m_record.WindApparentUpdate(45.0F, 10.0F, false, kOrigin);
   m_record.Restart();
-  m_record.HeadingUpdate(10.0F);
-  m_record.BoatSpeedUpdate(2.0F);
-  m_record.WindApparentUpdate(-20.0F, 3.0F, false);
+  m_record.HeadingUpdate(10.0F, kOrigin);
+  m_record.BoatSpeedUpdate(2.0F, kOrigin);
+  m_record.WindApparentUpdate(-20.0F, 3.0F, false, kOrigin);
   EXPECT_EQ(Data().HeadingAverage, 10.0F);
   EXPECT_EQ(Data().BoatSpeedAverage, 2.0F);
   EXPECT_EQ(Data().WindAngleApparentAverage, -20.0F);
@@ -286,15 +287,15 @@ TEST_F(InstrumentRecordTest, EveryAngleThatInstrumentsSendStaysInsideTheRangesOf
     m_settings.m_fNmeaTrueWindAverage = count;
     m_settings.m_fNmeaWindIndicatorAverage = count;
     m_record.Restart();
-    m_record.HeadingUpdate(0.0F);
+    m_record.HeadingUpdate(0.0F, kOrigin);
     for (int angle = -360; angle <= 360; angle += 3) {
       const auto value = static_cast<float>(angle);
-      m_record.HeadingUpdate(value);
-      m_record.BoatSpeedUpdate(6.0F);
-      m_record.VariationUpdate(value / 2.0F);
-      m_record.WindApparentUpdate(value, 10.0F, true);
+      m_record.HeadingUpdate(value, kOrigin);
+      m_record.BoatSpeedUpdate(6.0F, kOrigin);
+      m_record.VariationUpdate(value / 2.0F, kOrigin);
+      m_record.WindApparentUpdate(value, 10.0F, true, kOrigin);
       m_record.WindIndicatorUpdate();
-      m_record.WindTrueUpdate(value, 10.0F, true);
+      m_record.WindTrueUpdate(value, 10.0F, true, kOrigin);
       m_record.WindIndicatorUpdate();
       ASSERT_EQ(RecordFault(Data()), "") << angle << " with a count of " << count;
     }
@@ -306,14 +307,14 @@ TEST_F(InstrumentRecordTest, AVerySmallCountNeverBringsAValueThatIsNotFiniteInto
     m_settings.m_fNmeaTrueWindAverage = count;
     m_settings.m_fNmeaWindIndicatorAverage = count;
     m_record.Restart();
-    m_record.VariationUpdate(5.0F);
+    m_record.VariationUpdate(5.0F, kOrigin);
     for (int i = 0; i < 50; ++i) {
       const float sign = i % 2 == 0 ? 1.0F : -1.0F;
-      m_record.HeadingUpdate(180.0F + sign * 170.0F);
-      m_record.BoatSpeedUpdate(500.0F + sign * 500.0F);
-      m_record.WindApparentUpdate(sign * 170.0F, 500.0F + sign * 500.0F, true);
+      m_record.HeadingUpdate(180.0F + sign * 170.0F, kOrigin);
+      m_record.BoatSpeedUpdate(500.0F + sign * 500.0F, kOrigin);
+      m_record.WindApparentUpdate(sign * 170.0F, 500.0F + sign * 500.0F, true, kOrigin);
       m_record.WindIndicatorUpdate();
-      m_record.WindTrueUpdate(sign * 100.0F, 500.0F - sign * 500.0F, true);
+      m_record.WindTrueUpdate(sign * 100.0F, 500.0F - sign * 500.0F, true, kOrigin);
       m_record.WindIndicatorUpdate();
       ASSERT_EQ(RecordFault(Data()), "") << "with a count of " << count;
     }

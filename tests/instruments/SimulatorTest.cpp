@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "tests/support/FixedRandom.h"
+#include "tests/support/Origins.h"
 #include "tests/support/RecordFault.h"
 #include "tests/support/RecordingView.h"
 
@@ -55,20 +56,20 @@ class SimulatorTest : public testing::Test, private FollowUp {
 
 TEST_F(SimulatorTest, TheBoatHoldsTheAutopilotBearing) {
   m_settings.m_fAutoPilot = 350.0F;
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_EQ(Data().Heading, 350.0F);
 }
 
 TEST_F(SimulatorTest, TheCompassOffsetIsAddedAndFolded) {
   m_settings.m_fAutoPilot = 350.0F;
   m_settings.m_fSimulateCompassOffset = 20.0F;
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_EQ(Data().Heading, 10.0F);
 }
 
 TEST_F(SimulatorTest, ATickTakesItsStepsInOrderWithThePolarWindowBeforeTheControlStep) {
   m_settings.m_fAutoPilot = 100.0F;
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   std::vector<std::string> names;
   for (const std::string& call : m_view.Calls) {
     names.push_back(call.substr(0, call.find(' ')));
@@ -78,7 +79,7 @@ TEST_F(SimulatorTest, ATickTakesItsStepsInOrderWithThePolarWindowBeforeTheContro
 }
 
 TEST_F(SimulatorTest, MakesAllOfTheRecordValid) {
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_TRUE(Data().HeadingValid);
   EXPECT_TRUE(Data().BoatSpeedValid);
   EXPECT_TRUE(Data().VariationValid);
@@ -94,7 +95,7 @@ TEST_F(SimulatorTest, WithoutNoiseTheApparentWindIsTheVectorSumOfTrueWindAndBoat
   m_settings.m_fSimulateTrueWindAngle = 90.0F;
   for (int bearing = 0; bearing < 360; bearing += 5) {
     m_settings.m_fAutoPilot = static_cast<float>(bearing);
-    m_simulator.Tick();
+    m_simulator.Tick(kOrigin.At);
     // From 90 true, with 11 degrees of variation: 79 magnetic, and relative to the bow.
     const double relative = std::remainder(90.0 - 11.0 - bearing, 360.0);
     const std::complex<double> apparent = std::polar(12.0, relative * kDegree) + 8.0;
@@ -108,10 +109,10 @@ TEST_F(SimulatorTest, WithoutNoiseTheApparentWindIsTheVectorSumOfTrueWindAndBoat
 }
 
 TEST_F(SimulatorTest, WithoutNoiseEveryTickGivesTheSameValues) {
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   const std::vector<std::string> first = m_view.Take();
   for (int i = 0; i < 5; ++i) {
-    m_simulator.Tick();
+    m_simulator.Tick(kOrigin.At);
     const std::vector<std::string> next = m_view.Take();
     EXPECT_EQ(next[0], first[0]);
     EXPECT_EQ(next[1], first[1]);
@@ -124,9 +125,9 @@ TEST_F(SimulatorTest, WithoutNoiseEveryTickGivesTheSameValues) {
 }
 
 TEST_F(SimulatorTest, DrawsFourNumbersATick) {
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_EQ(m_random.Draws, 4U);
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_EQ(m_random.Draws, 8U);
 }
 
@@ -134,7 +135,7 @@ TEST_F(SimulatorTest, NoiseIsCentredOnZeroAndDrawnForAngleAndSpeedOfTheApparentT
   m_settings.m_fSimulateNoiseAngle = 4.0F;
   m_settings.m_fSimulateNoiseSpeed = 2.0F;
   m_settings.m_fAutoPilot = 349.0F;  // the wind, from 349 magnetic, is dead ahead
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_NEAR(Data().WindAngleApparent, (0.75 - 0.5) * 4.0, 1e-5);
   EXPECT_NEAR(Data().WindSpeedApparent, 20.0 + (0.0 - 0.5) * 2.0, 1e-5);
   EXPECT_NEAR(Data().WindAngleTrue, (0.25 - 0.5) * 4.0, 1e-5);
@@ -144,7 +145,7 @@ TEST_F(SimulatorTest, NoiseIsCentredOnZeroAndDrawnForAngleAndSpeedOfTheApparentT
 TEST_F(SimulatorTest, HeadingAndBoatSpeedGetNoNoise) {
   m_settings.m_fSimulateNoiseAngle = 90.0F;
   m_settings.m_fSimulateNoiseSpeed = 9.0F;
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_EQ(Data().Heading, 40.0F);
   EXPECT_EQ(Data().BoatSpeed, 8.0F);
 }
@@ -154,11 +155,11 @@ TEST_F(SimulatorTest, ANoisyAngleIsFolded) {
       40.0F;  // 10 to starboard on the apparent wind, 10 to port on the true one
   m_settings.m_fSimulateBoatSpeed = 0.0F;
   m_settings.m_fAutoPilot = 174.0F;  // the wind, from 349, is 175 to starboard
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_NEAR(Data().WindAngleApparent, -175.0F, 1e-4);
   EXPECT_NEAR(Data().WindAngleTrue, 165.0F, 1e-4);
   m_settings.m_fAutoPilot = 164.0F;  // 175 to port
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_NEAR(Data().WindAngleApparent, -165.0F, 1e-4);
   EXPECT_NEAR(Data().WindAngleTrue, 175.0F, 1e-4);
 }
@@ -173,8 +174,8 @@ TEST_F(SimulatorTest, TheApparentWindIsSmoothedAndTheTrueWindEndsAsTheNoisyValue
     void PolarUpdate() override {}
   } nothing;
   Simulator simulator(m_settings, m_record, random, nothing);
-  simulator.Tick();
-  simulator.Tick();
+  simulator.Tick(kOrigin.At);
+  simulator.Tick(kOrigin.At);
   EXPECT_NEAR(Data().WindSpeedApparent, 21.0F, 1e-5);
   EXPECT_NEAR(Data().WindSpeedApparentAverage, 20.25F, 1e-5);
   // Written straight into the record before the update averages it with itself.
@@ -183,7 +184,7 @@ TEST_F(SimulatorTest, TheApparentWindIsSmoothedAndTheTrueWindEndsAsTheNoisyValue
 
 TEST_F(SimulatorTest, NoTrueWindIsComputedFromTheApparentOne) {
   m_settings.m_iNmeaTrueWind = 1;
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_EQ(m_view.Count("OnWindTrue"), 1U);
 }
 
@@ -191,14 +192,14 @@ TEST_F(SimulatorTest, TheStepsThatFollowTestNoValidity) {
   m_settings.m_fSimulateBoatSpeed = 0.0F;
   m_record.Restart();
   m_view.Take();
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_EQ(m_view.Count("PolarUpdate"), 1U);
   EXPECT_EQ(m_view.Count("ControlStep"), 1U);
 }
 
 TEST_F(SimulatorTest, TheVariationIsThereBeforeTheWindIndicator) {
   m_settings.m_fSimulateTrueWindAngle = 77.0F;
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_NEAR(Data().WindDirectionAverage, 77.0F, 1e-4);
 }
 
@@ -207,19 +208,19 @@ TEST_F(SimulatorTest, TheWaypointDoesNotMoveFromTickToTick) {
   At(0.0F);
   At(0.5F);
   for (int i = 0; i < 3; ++i) {
-    m_simulator.Tick();
+    m_simulator.Tick(kOrigin.At);
     EXPECT_NEAR(Data().WaypointRange, 6.0F, 1e-5);
     EXPECT_NEAR(Data().WaypointBearing, 5.0F, 1e-4);
   }
 }
 
 TEST_F(SimulatorTest, AtTimeZeroEveryTickShowsTheWaypointOfTheSettings) {
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_EQ(Data().WaypointBearing, 5.0F);
   EXPECT_EQ(Data().WaypointRange, 10.0F);
   m_settings.m_fSimulateWaypointBearing = 77.0F;
   m_settings.m_fSimulateWaypointRange = 3.0F;
-  m_simulator.Tick();
+  m_simulator.Tick(kOrigin.At);
   EXPECT_EQ(Data().WaypointBearing, 77.0F);
   EXPECT_EQ(Data().WaypointRange, 3.0F);
 }
@@ -236,7 +237,7 @@ TEST_F(SimulatorTest, SettingsAtTheEndsOfASingleNeverBringAValueThatIsNotFiniteI
       m_settings.*setting = value;
       m_settings.m_fSimulateTrueWindSpeed = value;
       for (int i = 0; i < 8; ++i) {
-        m_simulator.Tick();
+        m_simulator.Tick(kOrigin.At);
         for (const float field : {Data().Heading, Data().BoatSpeed, Data().Variation, Data().WaypointBearing,
                                   Data().WaypointRange, Data().WindAngleApparent, Data().WindSpeedApparent,
                                   Data().WindAngleTrue, Data().WindSpeedTrue, Data().WindDirectionAverage,

@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/support/Origins.h"
 #include "tests/support/RecordFault.h"
 #include "tests/support/RecordingView.h"
 #include "tests/support/Sentences.h"
@@ -23,7 +24,9 @@ class DispatcherTest : public testing::Test {
  protected:
   DispatcherTest() { m_settings.m_fNmeaTrueWindAverage = 0.0F; }
 
-  Dispatcher::Outcome Dispatch(std::string_view body) { return m_dispatcher.Dispatch(WithChecksum(body)); }
+  Dispatcher::Outcome Dispatch(std::string_view body) {
+    return m_dispatcher.Dispatch(WithChecksum(body), 5, kOrigin.At);
+  }
   bool Used(std::string_view body) { return Dispatch(body).Used; }
   const InstrumentData& Data() const { return m_record.Data(); }
 
@@ -66,7 +69,7 @@ TEST_F(DispatcherTest, HdgSetsOnlyTheVariationWithTheCourseAsSource) {
 
 TEST_F(DispatcherTest, HdgWithoutVariationSetsTheHeadingAndIsIncomplete) {
   m_settings.m_iNmeaHeading = 0;
-  m_record.VariationUpdate(4.0F);
+  m_record.VariationUpdate(4.0F, kOrigin);
   const Dispatcher::Outcome outcome = Dispatch("$IIHDG,123.4,,,,");
   EXPECT_TRUE(outcome.Used);
   EXPECT_TRUE(outcome.Incomplete);
@@ -112,7 +115,7 @@ TEST_F(DispatcherTest, MwvRelativeSetsTheApparentWind) {
 
 TEST_F(DispatcherTest, MwvRelativeComputesTheTrueWindFromTheBoatSpeed) {
   m_settings.m_iNmeaTrueWind = 1;
-  m_record.BoatSpeedUpdate(6.0F);
+  m_record.BoatSpeedUpdate(6.0F, kOrigin);
   Dispatch("$IIMWV,000,R,5,N,A");
   EXPECT_TRUE(Data().WindTrueValid);
   EXPECT_EQ(Data().WindSpeedTrue, 1.0F);
@@ -210,7 +213,7 @@ TEST_F(DispatcherTest, VhwWithOnlyOneOfItsMarksUsesThatOne) {
 // ---------------------------------------------------------------------------------------------------------
 
 TEST_F(DispatcherTest, RmcMakesItsCourseMagneticWithTheVariationOfTheSameSentence) {
-  m_record.VariationUpdate(20.0F);
+  m_record.VariationUpdate(20.0F, kOrigin);
   const Dispatcher::Outcome outcome = Dispatch(kRmc);
   EXPECT_TRUE(outcome.Used);
   EXPECT_FALSE(outcome.Incomplete);
@@ -254,7 +257,7 @@ TEST_F(DispatcherTest, RmcFeedsWhatTheSourcesSay) {
 }
 
 TEST_F(DispatcherTest, RmcWithABadCourseStillUsesItsSpeed) {
-  m_record.VariationUpdate(1.0F);
+  m_record.VariationUpdate(1.0F, kOrigin);
   const Dispatcher::Outcome outcome = Dispatch("$GPRMC,,A,,,,,5.2,xyz,,3.0,W");
   EXPECT_TRUE(outcome.Used);
   EXPECT_TRUE(outcome.Incomplete);
@@ -267,7 +270,7 @@ TEST_F(DispatcherTest, RmcWithABadCourseStillUsesItsSpeed) {
 // ---------------------------------------------------------------------------------------------------------
 
 TEST_F(DispatcherTest, RmbMakesItsBearingMagnetic) {
-  m_record.VariationUpdate(-4.5F);
+  m_record.VariationUpdate(-4.5F, kOrigin);
   EXPECT_TRUE(Used(kRmb));
   EXPECT_TRUE(Data().WaypointValid);
   EXPECT_EQ(Data().WaypointRange, 1.3F);
@@ -282,26 +285,26 @@ TEST_F(DispatcherTest, RmbUpdatesNothingUntilAVariationCame) {
 }
 
 TEST_F(DispatcherTest, RmbBearingIsNotFolded) {
-  m_record.VariationUpdate(10.0F);
+  m_record.VariationUpdate(10.0F, kOrigin);
   Dispatch("$GPRMB,A,,,,,,,,,1.3,4.0,,");
   EXPECT_EQ(Data().WaypointBearing, -6.0F);
 }
 
 TEST_F(DispatcherTest, RmbWithAnInvalidStatusStillUpdatesTheWaypoint) {
-  m_record.VariationUpdate(0.0F);
+  m_record.VariationUpdate(0.0F, kOrigin);
   EXPECT_TRUE(Used("$GPRMB,V,0.66,L,003,004,4917.24,N,12309.57,W,001.3,052.5,000.5,V"));
   EXPECT_EQ(Data().WaypointBearing, 52.5F);
 }
 
 TEST_F(DispatcherTest, RmbWithAnExtraLeadingFieldIsReadWithTheShift) {
-  m_record.VariationUpdate(0.0F);
+  m_record.VariationUpdate(0.0F, kOrigin);
   EXPECT_TRUE(Used("$GPRMB,1,A,0.66,L,003,004,4917.24,N,12309.57,W,001.3,052.5,000.5,V"));
   EXPECT_EQ(Data().WaypointRange, 1.3F);
   EXPECT_EQ(Data().WaypointBearing, 52.5F);
 }
 
 TEST_F(DispatcherTest, RmbWithOnlyOneOfItsMarksUpdatesNothing) {
-  m_record.VariationUpdate(0.0F);
+  m_record.VariationUpdate(0.0F, kOrigin);
   for (const std::string_view body : {"$GPRMB,A,,,,,,,,,1.3,,", "$GPRMB,A,,,,,,,,,,52.5,"}) {
     const Dispatcher::Outcome outcome = Dispatch(body);
     EXPECT_FALSE(outcome.Used) << body;
@@ -324,7 +327,7 @@ TEST_F(DispatcherTest, EachTypeHasItsOwnSwitch) {
                         Case{&Settings::m_bNmeaSentenceMWV, kMwvR}, Case{&Settings::m_bNmeaSentenceRMB, kRmb},
                         Case{&Settings::m_bNmeaSentenceRMC, kRmc}, Case{&Settings::m_bNmeaSentenceVHW, kVhw},
                         Case{&Settings::m_bNmeaSentenceVTG, kVtg}}) {
-    m_record.VariationUpdate(0.0F);
+    m_record.VariationUpdate(0.0F, kOrigin);
     m_settings.m_iNmeaHeading = c.Body == kVtg ? 1 : 0;
     ASSERT_TRUE(Used(c.Body)) << c.Body;
     m_view.Take();
@@ -393,14 +396,14 @@ class DamagedSentence : public DispatcherTest, public testing::WithParamInterfac
  protected:
   DamagedSentence() {
     m_settings.m_fNmeaTrueWindAverage = 2.0F;
-    m_record.VariationUpdate(2.0F);
-    m_record.BoatSpeedUpdate(6.0F);
+    m_record.VariationUpdate(2.0F, kOrigin);
+    m_record.BoatSpeedUpdate(6.0F, kOrigin);
     m_view.Take();
   }
 
   // Straight to the decoders, as a line without a checksum would come.
   void DispatchRaw(const std::string& line) {
-    const Dispatcher::Outcome outcome = m_dispatcher.Dispatch(line);
+    const Dispatcher::Outcome outcome = m_dispatcher.Dispatch(line, 5, kOrigin.At);
     ASSERT_EQ(RecordFault(Data()), "") << line;
     ASSERT_TRUE(outcome.Used || m_view.Calls.empty()) << line;
     m_view.Take();

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"
 #include "tests/support/RecordingView.h"
 #include "tests/support/ScriptedPort.h"
@@ -49,7 +50,8 @@ class NmeaReceiverTest : public testing::Test, private FollowUp {
   InstrumentRecord m_record{m_settings, m_view};
   ScriptedPort m_port;
   HandTimer m_timer;
-  NmeaReceiver m_receiver{m_settings, m_port, m_timer, m_record, *this, m_view};
+  HandClock m_clock;
+  NmeaReceiver m_receiver{m_settings, m_port, m_timer, m_clock, m_record, *this, m_view};
 
   void SetUp() override {
     m_timer.OnTick = [this] { m_receiver.Tick(); };

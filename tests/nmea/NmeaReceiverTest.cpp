@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "tests/nmea/NmeaReceiverFixture.h"
+#include "tests/support/Origins.h"
 #include "tests/support/RecordFault.h"
 
 namespace veerwatch {
@@ -28,9 +29,9 @@ TEST_F(NmeaReceiverTest, StartsTheTimerAndOpensThePortWithItsPresentNumber) {
 }
 
 TEST_F(NmeaReceiverTest, AStartClearsTheListAndTheRecordsFlags) {
-  m_record.HeadingUpdate(10.0F);
-  m_record.BoatSpeedUpdate(10.0F);
-  m_record.VariationUpdate(3.0F);
+  m_record.HeadingUpdate(10.0F, kOrigin);
+  m_record.BoatSpeedUpdate(10.0F, kOrigin);
+  m_record.VariationUpdate(3.0F, kOrigin);
   m_view.Take();
   m_receiver.NmeaStart();
   EXPECT_EQ(m_view.Count("OnNmeaListCleared"), 1U);
@@ -332,8 +333,8 @@ TEST_F(NmeaReceiverTest, AnEventAfterAStopIsHarmless) {
 
 TEST_F(NmeaReceiverTest, EveryTruncationAndEveryDamagedByteOfAGoodSentenceIsSurvived) {
   Start();
-  m_record.BoatSpeedUpdate(6.0F);
-  m_record.VariationUpdate(2.0F);
+  m_record.BoatSpeedUpdate(6.0F, kOrigin);
+  m_record.VariationUpdate(2.0F, kOrigin);
   for (const std::string_view body : {kApparent, kTrue, std::string_view("$IIHDG,123.4,,,5.0,W")}) {
     const std::string line = WithChecksum(body);
     for (std::size_t at = 0; at < line.size(); ++at) {

@@ -1,6 +1,7 @@
 // What follows a wind sentence.
 
 #include "tests/nmea/NmeaReceiverFixture.h"
+#include "tests/support/Origins.h"
 
 namespace veerwatch {
 namespace {
@@ -21,8 +22,8 @@ TEST_F(NmeaSteps, NoStepsFollowUntilBothWindsAreValid) {
 
 TEST_F(NmeaSteps, TheStepsFollowBehindTheListingInTheirOrder) {
   Start();
-  m_record.VariationUpdate(5.0F);
-  m_record.BoatSpeedUpdate(6.0F);
+  m_record.VariationUpdate(5.0F, kOrigin);
+  m_record.BoatSpeedUpdate(6.0F, kOrigin);
   ReceiveSentence(kApparent);
   m_view.Take();
   ReceiveSentence(kTrue);
@@ -37,11 +38,11 @@ TEST_F(NmeaSteps, ThePolarUpdateNeedsABoatSpeedAndTheIndicatorAVariation) {
   EXPECT_EQ(m_view.Count("ControlStep"), 1U);
   EXPECT_EQ(m_view.Count("PolarUpdate"), 0U);
   EXPECT_EQ(m_view.Count("OnWindIndicator"), 0U);
-  m_record.BoatSpeedUpdate(6.0F);
+  m_record.BoatSpeedUpdate(6.0F, kOrigin);
   ReceiveSentence(kTrue);
   EXPECT_EQ(m_view.Count("PolarUpdate"), 1U);
   EXPECT_EQ(m_view.Count("OnWindIndicator"), 0U);
-  m_record.VariationUpdate(0.0F);
+  m_record.VariationUpdate(0.0F, kOrigin);
   ReceiveSentence(kTrue);
   EXPECT_EQ(m_view.Count("PolarUpdate"), 2U);
   EXPECT_EQ(m_view.Count("OnWindIndicator"), 1U);

@@ -1,6 +1,7 @@
 // An input that falls silent, and a port that does not open.
 
 #include "tests/nmea/NmeaReceiverFixture.h"
+#include "tests/support/Origins.h"
 
 namespace veerwatch {
 namespace {
@@ -107,7 +108,7 @@ TEST_F(NmeaWatchdog, APortThatDidNotOpenIsTriedAgainAtEveryFourthTickWithThePres
 TEST_F(NmeaWatchdog, APortThatOpensAtLastReceivesAndTheRecordStays) {
   m_port.OpenResults = {false, false};
   m_receiver.NmeaStart();
-  m_record.HeadingUpdate(77.0F);
+  m_record.HeadingUpdate(77.0F, kOrigin);
   m_timer.Tick(7);
   EXPECT_FALSE(m_port.PortOpen());
   m_timer.Tick();
@@ -134,7 +135,7 @@ TEST_F(NmeaWatchdog, AStoppedPortIsNotTriedAgain) {
 
 TEST_F(NmeaWatchdog, APortThatIsLostIsShownAndOpenedAgainWithAnEmptyLineBuffer) {
   Start();
-  m_record.HeadingUpdate(77.0F);
+  m_record.HeadingUpdate(77.0F, kOrigin);
   Receive("$IIMWV,045,R");
   m_port.Lose();
   EXPECT_EQ(m_view.InputStatus, "Input Port 5 Not Open");

@@ -74,31 +74,5 @@ TEST(CheckFrame, NoticesEverySingleByteOfDamageBetweenDollarAndChecksum) {
   }
 }
 
-TEST(SentenceTypeOf, IsReadFromCharactersFourToSix) {
-  const std::vector<std::pair<std::string_view, SentenceType>> cases{
-      {"$IIHDG,1", SentenceType::Hdg},   {"$IIHVM,1", SentenceType::Hvm},   {"$IIMWV,1", SentenceType::Mwv},
-      {"$IIRMB,1", SentenceType::Rmb},   {"$IIRMC,1", SentenceType::Rmc},   {"$IIVHW,1", SentenceType::Vhw},
-      {"$IIVTG,1", SentenceType::Vtg},   {"$IIHDG", SentenceType::Hdg},     {"$IIHDT,1", SentenceType::Other},
-      {"$PGRME,1", SentenceType::Other}, {"$IIhdg,1", SentenceType::Other}, {"$IIMW", SentenceType::Other},
-      {"$", SentenceType::Other},        {"", SentenceType::Other},         {"$IHDG,1", SentenceType::Other}};
-  for (const auto& [line, type] : cases) {
-    EXPECT_EQ(SentenceTypeOf(line), type) << line;
-  }
-}
-
-TEST(SentenceTypeOf, DoesNotLookAtTheTalker) {
-  EXPECT_EQ(SentenceTypeOf("$GPRMC,"), SentenceType::Rmc);
-  EXPECT_EQ(SentenceTypeOf("$IIRMC,"), SentenceType::Rmc);
-  EXPECT_EQ(SentenceTypeOf("$??RMC,"), SentenceType::Rmc);
-}
-
-TEST(VisitSentence, DoesNotCallForOtherTypes) {
-  int calls = 0;
-  EXPECT_FALSE(VisitSentence(SentenceType::Other, "$PGRME,1,2", [&](const auto&) { ++calls; }));
-  EXPECT_EQ(calls, 0);
-  EXPECT_TRUE(VisitSentence(SentenceType::Hvm, "$IIHVM,1,W*00", [&](const auto&) { ++calls; }));
-  EXPECT_EQ(calls, 1);
-}
-
 }  // namespace
 }  // namespace veerwatch

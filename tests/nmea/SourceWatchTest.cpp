@@ -19,7 +19,7 @@ class SourceWatchTest : public testing::Test {
   std::vector<std::string> Advice(const std::vector<std::string>& bodies, int seconds = 10) {
     for (int i = 0; i < seconds; ++i) {
       for (const std::string& body : bodies) {
-        m_dispatcher.Dispatch(WithChecksum(body));
+        m_dispatcher.Dispatch(WithChecksum(body), 5, {});
       }
       m_dispatcher.Sources().Tick();
     }

@@ -87,13 +87,13 @@ TEST_F(OptionsStoring, EachSentenceGoesToItsOwnSetting) {
       {"MWV", &Settings::m_bNmeaSentenceMWV}, {"RMB", &Settings::m_bNmeaSentenceRMB},
       {"RMC", &Settings::m_bNmeaSentenceRMC}, {"VHW", &Settings::m_bNmeaSentenceVHW},
       {"VTG", &Settings::m_bNmeaSentenceVTG}};
-  ASSERT_EQ(settings.size(), kOptionSentences.size());
-  for (std::size_t i = 0; i < kOptionSentences.size(); ++i) {
+  ASSERT_EQ(settings.size(), kSentences.size());
+  for (std::size_t i = 0; i < kSentences.size(); ++i) {
     OptionsForm form = OtherForm();
     form.NmeaSentence[i] = true;
     ASSERT_EQ(Store.Store(form), std::nullopt);
     for (const auto& [key, setting] : settings) {
-      EXPECT_EQ(Main.*setting, key == kOptionSentences[i].Key) << key;
+      EXPECT_EQ(Main.*setting, key == kSentences[i].Name) << key;
     }
   }
 }

@@ -10,6 +10,7 @@
 #include "tests/properties/Dice.h"
 #include "tests/support/Encode.h"
 #include "tests/support/FixedRandom.h"
+#include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"
 #include "tests/support/ScriptedPort.h"
 
@@ -239,9 +240,10 @@ std::vector<SceneAnswer> Play(const Scene& scene, const SceneView& view) {
   ScriptedPort nmeaPort;
   ScriptedPort pilotPort;
   HandTimer timer;
+  HandClock clock;
   FixedRandom random;
   Labels labels;
-  Helm helm(settings, nmeaPort, pilotPort, timer, random, labels);
+  Helm helm(settings, nmeaPort, pilotPort, timer, clock, random, labels);
 
   std::vector<SceneAnswer> answers;
   for (const SceneStep& step : scene.Steps) {

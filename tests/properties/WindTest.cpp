@@ -11,6 +11,7 @@
 #include "platform/Random.h"
 #include "tests/support/BoatModel.h"
 #include "tests/support/FixedRandom.h"
+#include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"
 #include "tests/support/ScriptedPort.h"
 #include "tests/support/Sentences.h"
@@ -90,8 +91,9 @@ class AnyWindOnTheWire : public AnyWind {
   ScriptedPort m_port;
   ScriptedPort m_pilotPort;
   HandTimer m_timer;
+  HandClock m_clock;
   FixedRandom m_random;
-  Helm m_helm{m_settings, m_port, m_pilotPort, m_timer, m_random, m_view};
+  Helm m_helm{m_settings, m_port, m_pilotPort, m_timer, m_clock, m_random, m_view};
 };
 
 TEST_F(AnyWindOnTheWire, TheRecordFindsTheTrueWindBehindAnApparentOne) {

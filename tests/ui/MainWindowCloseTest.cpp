@@ -92,7 +92,7 @@ TEST_F(MainWindowClose, OfTheSessionAsksNothing) {
 TEST_F(MainWindowClose, OfTheSessionEndsAnOpenQuestion) {
   DialogsQt dialogs;
   WriteProfile(kOnPorts);
-  Window = std::make_unique<frmMain>(MainWindowParts{NmeaPort, PilotPort, tmrNmea, tmrUnload, TimerTack,
+  Window = std::make_unique<frmMain>(MainWindowParts{NmeaPort, PilotPort, tmrNmea, tmrUnload, TimerTack, Time,
                                                      Random, dialogs, Store, ProfileFile()});
   dialogs.Window(Window.get());
   Window->Form_Load();

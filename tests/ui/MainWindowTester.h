@@ -17,6 +17,7 @@
 
 #include "app/frmMain.h"
 #include "tests/support/FixedRandom.h"
+#include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"
 #include "tests/support/QueuedDialogs.h"
 #include "tests/support/ScriptedPort.h"
@@ -30,6 +31,7 @@ class MainWindowTester : public testing::Test {
   HandTimer tmrNmea;
   HandTimer tmrUnload;
   HandTimer TimerTack;
+  HandClock Time;
   FixedRandom Random;
   QueuedDialogs Dialogs;
   Profile Store;
@@ -48,7 +50,7 @@ class MainWindowTester : public testing::Test {
   /// Makes the window without loading it.
   void Make() {
     Window = std::make_unique<frmMain>(MainWindowParts{NmeaPort, PilotPort, tmrNmea, tmrUnload, TimerTack,
-                                                       Random, Dialogs, Store, ProfileFile()});
+                                                       Time, Random, Dialogs, Store, ProfileFile()});
     tmrNmea.OnTick = [this] { Window->tmrNmea_Timer(); };
     tmrUnload.OnTick = [this] { Window->tmrUnload_Timer(); };
     TimerTack.OnTick = [this] { Window->TimerTack_Timer(); };

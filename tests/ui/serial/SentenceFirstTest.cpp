@@ -2,6 +2,7 @@
 
 #include "app/Helm.h"
 #include "tests/support/FixedRandom.h"
+#include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"
 #include "tests/support/ScriptedPort.h"
 #include "tests/support/Sentences.h"
@@ -25,8 +26,9 @@ TEST_F(SentenceFirst, LeavesBeforeThePolarIsUpdated) {
   settings.m_iNmeaPort = 2;
   ScriptedPort nmeaPort;
   HandTimer timer;
+  HandClock clock;
   FixedRandom random;
-  Helm helm(settings, nmeaPort, m_port, timer, random, *this);
+  Helm helm(settings, nmeaPort, m_port, timer, clock, random, *this);
   helm.Modes().TrackSetSetup();
   nmeaPort.Receive(WithChecksum("$GPVTG,,T,123.0,M,6.0,N,,K") + "\r\n");
   nmeaPort.Receive(WithChecksum("$IIMWV,045,R,14.0,N,A") + "\r\n");

@@ -1,0 +1,48 @@
+#include "nmea/SentenceTable.h"
+
+#include <algorithm>
+
+#include "nmea/Hdg.h"
+#include "nmea/Hvm.h"
+#include "nmea/Mwv.h"
+#include "nmea/Rmb.h"
+#include "nmea/Rmc.h"
+#include "nmea/Vhw.h"
+
+namespace veerwatch {
+
+namespace {
+
+/// The decoder of a sentence, as the table keeps it.
+template <auto DecodeSentence>
+bool Decode(const Fields& fields, Readings& readings) {
+  const auto sentence = DecodeSentence(fields);
+  sentence.AddTo(readings);
+  return sentence.Complete();
+}
+
+}  // namespace
+
+const std::array<SentenceKind, 7> kSentences{{
+    {"HDG", "HDG - Compass (Heading, Deviation, Variation)", &Settings::m_bNmeaSentenceHDG, false,
+     Decode<DecodeHdg>},
+    {"HVM", "HVM - Magnetic (Variation)", &Settings::m_bNmeaSentenceHVM, false, Decode<DecodeHvm>},
+    {"MWV", "MWV - Wind (Angle, Apparent/True, Speed)", &Settings::m_bNmeaSentenceMWV, true,
+     Decode<DecodeMwv>},
+    {"RMB", "RMB - Waypoint (Xte, To Id, From Id, Lat, Lon, Rng, Brg, Vmg)", &Settings::m_bNmeaSentenceRMB,
+     false, Decode<DecodeRmb>},
+    {"RMC", "RMC - Gps (Time, Lat, Lon, SOG, COG, Variation)", &Settings::m_bNmeaSentenceRMC, false,
+     Decode<DecodeRmc>},
+    {"VHW", "VHW - Vessel (Heading, SOW)", &Settings::m_bNmeaSentenceVHW, false, Decode<DecodeVhw>},
+    {"VTG", "VTG - Vessel (COG, SOG)", &Settings::m_bNmeaSentenceVTG, false, Decode<DecodeVtg>},
+}};
+
+const SentenceKind* FindSentence(std::string_view line) {
+  constexpr std::size_t kName = 3;
+  const std::string_view name = line.size() >= 2 * kName ? line.substr(kName, kName) : std::string_view{};
+  const auto* found = std::find_if(kSentences.begin(), kSentences.end(),
+                                   [name](const SentenceKind& kind) { return kind.Name == name; });
+  return found == kSentences.end() ? nullptr : found;
+}
+
+}  // namespace veerwatch
