@@ -52,7 +52,7 @@ class Helm final : private FollowUp {
   HelmNow Now() const;
 
  private:
-  void ControlStep() override { m_loop.ControlStep(); }
+  void ControlStep(const Moment& now) override { m_loop.ControlStep(now); }
   void PolarUpdate() override { m_view.OnPolarUpdate(m_settings.m_eTrackMode, m_record.Data()); }
 
   Settings& m_settings;

@@ -1,6 +1,8 @@
 #include "control/TrackLoop.h"
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "control/TrackGains.h"
 #include "instruments/MathLib.h"
@@ -17,13 +19,12 @@ bool TrackLoop::StartTracking() {
     return false;
   }
   m_tuning = {m_settings.m_fTrackBandwidth, m_settings.m_fTrackDamping};
-  m_trackGainIntegral = gains->Integral;
-  m_trackGainProportional = gains->Proportional;
-  m_trackIntegral = 0.0;
+  m_controller.Start(*gains);
+  m_stepped.reset();
   return true;
 }
 
-void TrackLoop::ControlStep() {
+void TrackLoop::ControlStep(const Moment& now) {
   const TrackMode mode = m_settings.m_eTrackMode;
   if (mode == TrackMode::Off || mode == TrackMode::Switching) {
     return;
@@ -43,7 +44,7 @@ void TrackLoop::ControlStep() {
 
   if (mode == TrackMode::Track) {
     const float error = m_side == TrackSide::Apparent ? deltaApparent : deltaTrue;
-    Control(error);
+    Control(error, now);
     m_listener.OnPilotDelta(error);
     m_listener.OnAutoPilot(m_settings.m_fAutoPilot);
     if (m_settings.m_bTrackAlarm) {
@@ -59,12 +60,15 @@ void TrackLoop::ControlStep() {
   m_previousAutoPilot = m_settings.m_fAutoPilot;
 }
 
-void TrackLoop::Control(float error) {
-  const double bearing = (static_cast<double>(error) + m_trackIntegral) * m_trackGainProportional +
+double TrackLoop::Elapsed(const Moment& now) {
+  constexpr double kMillisecondsPerSecond = 1000.0;
+  const Moment before = std::exchange(m_stepped, now).value_or(now);
+  return std::max(0.0, static_cast<double>(now.Steady - before.Steady) / kMillisecondsPerSecond);
+}
+
+void TrackLoop::Control(float error, const Moment& now) {
+  const double bearing = m_controller.Step(static_cast<double>(error), Elapsed(now)) +
                          static_cast<double>(m_settings.m_fAutoPilot);
-  const double integral = m_trackIntegral + static_cast<double>(error) * m_trackGainIntegral;
-  // An accumulator that has run out of range starts anew instead of blocking the loop for good.
-  m_trackIntegral = std::isfinite(integral) ? integral : 0.0;
   if (std::isfinite(bearing)) {
     m_settings.m_fAutoPilot = FoldBearing(bearing);
   }
@@ -97,7 +101,7 @@ void TrackLoop::TrackSteerTo(float change) {
   }
   SetAutoPilot(static_cast<double>(m_settings.m_fAutoPilot) + static_cast<double>(change));
   m_listener.OnAutoPilot(m_settings.m_fAutoPilot);
-  m_trackIntegral = 0.0;
+  m_controller.Reset();
   ShowDesired();
 }
 

@@ -1,10 +1,14 @@
 // The control loop: holds the desired wind angle by correcting the autopilot bearing at every pass.
 #pragma once
 
+#include <optional>
+
 #include "app/Settings.h"
 #include "control/PilotOutput.h"
+#include "control/TrackController.h"
 #include "control/TrackMode.h"
 #include "instruments/InstrumentData.h"
+#include "platform/Clock.h"
 
 namespace veerwatch {
 
@@ -31,6 +35,7 @@ class TrackLoop {
     virtual void OnAlarmOver() {}
   };
 
+  /// Everything outlives this.
   TrackLoop(Settings& settings, const InstrumentData& data, PilotOutput& pilot, Listener& listener)
       : m_settings(settings), m_data(data), m_pilot(pilot), m_listener(listener) {}
 
@@ -38,10 +43,9 @@ class TrackLoop {
   /// when the bandwidth is not above 0 or a gain is not finite.
   bool StartTracking();
 
-  /// One pass over the record, by the present mode.
-  /// Deliberate: the controller uses the accumulator of before the pass, no correction is limited, and an
-  /// error equal to the alarm limit raises no alarm.
-  void ControlStep();
+  /// One pass over the record at `now`, by the present mode.
+  /// Deliberate: no correction is limited, and an error equal to the alarm limit raises no alarm.
+  void ControlStep(const Moment& now);
 
   /// Moves the held wind angle by -`change` and the bearing by `change` [deg, positive to starboard], and
   /// zeroes the accumulator. Only in Track, and only for a finite change.
@@ -63,15 +67,17 @@ class TrackLoop {
 
   /// What the latest StartTracking that succeeded took from the settings; later settings wait for the next.
   const TrackTuning& Tuning() const { return m_tuning; }
-  double TrackIntegral() const { return m_trackIntegral; }
-  double TrackGainIntegral() const { return m_trackGainIntegral; }
-  double TrackGainProportional() const { return m_trackGainProportional; }
+  double TrackIntegral() const { return m_controller.Integral(); }
+  double TrackGainIntegral() const { return m_controller.Gains().Integral; }
+  double TrackGainProportional() const { return m_controller.Gains().Proportional; }
   /// The bearing behind the latest pass in a mode other than Off [deg magnetic].
   float PreviousAutoPilot() const { return m_previousAutoPilot; }
 
  private:
   float& Desired(TrackSide side) { return m_settings.DesiredAngle[static_cast<std::size_t>(side)]; }
-  void Control(float error);
+  /// The time since the pass before [s, at least 0]; 0 at the first one.
+  double Elapsed(const Moment& now);
+  void Control(float error, const Moment& now);
   void TurnHeldWind(float change);
   void TestAlarm(float error);
   void ShowDesired() { m_listener.OnDesired(m_settings.DesiredAngle[1], m_settings.DesiredAngle[2]); }
@@ -82,9 +88,8 @@ class TrackLoop {
   Listener& m_listener;
   TrackSide m_side = TrackSide::Apparent;
   TrackTuning m_tuning;
-  double m_trackIntegral = 0.0;
-  double m_trackGainIntegral = 0.0;
-  double m_trackGainProportional = 0.0;
+  TrackController m_controller;
+  std::optional<Moment> m_stepped;  ///< the pass before; nothing at the first one of a tracking
   float m_previousAutoPilot = 0.0F;
   bool m_alarmActive = false;
 };

@@ -47,7 +47,7 @@ void Simulator::Tick(const Moment& now) {
   m_record.WaypointUpdate(range, bearing, here);
 
   m_followUp.PolarUpdate();
-  m_followUp.ControlStep();
+  m_followUp.ControlStep(now);
 }
 
 void Simulator::SimulateTime(float Time, float& TimeWaypointBearing, float& TimeWaypointRange) {

@@ -167,7 +167,7 @@ void NmeaReceiver::SentenceLine(std::string_view line) {
 
   const InstrumentData& data = m_record.Data();
   if (outcome.WindSentence && data.WindApparentValid && data.WindTrueValid) {
-    m_followUp.ControlStep();
+    m_followUp.ControlStep(m_arrived);
     if (data.BoatSpeedValid) {
       m_followUp.PolarUpdate();
     }

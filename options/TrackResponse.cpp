@@ -4,6 +4,7 @@
 #include <cassert>
 #include <cmath>
 
+#include "control/TrackController.h"
 #include "control/TrackGains.h"
 #include "instruments/MathLib.h"
 
@@ -38,16 +39,16 @@ std::optional<std::vector<double>> TrackResponseSeries(const TrackResponseInputs
     return std::nullopt;
   }
   const auto count = static_cast<std::size_t>(inputs.Time) + 1;
+  constexpr double kPassTime = 1.0;  // [s]
   const double span = 2.0 * inputs.Noise;
   double bearing = inputs.Offset;
-  double accumulator = 0.0;
+  TrackController controller;
+  controller.Start(*gains);
   std::vector<double> bearings;
   bearings.reserve(count);
   while (bearings.size() < count) {
     const double error = (random.Next() - 0.5) * span - bearing;
-    const double accumulatorBefore = accumulator;
-    accumulator = gains->Integral * error + accumulatorBefore;
-    bearing = bearing + gains->Proportional * (accumulatorBefore + error);
+    bearing += controller.Step(error, kPassTime);
     if (!std::isfinite(bearing)) {
       return std::nullopt;
     }

@@ -32,9 +32,9 @@ std::string TrackResponseTrouble(const TrackResponseInputs& inputs);
 inline constexpr const char* kTrackResponseDiverges = "Bandwidth: the response grows beyond all numbers";
 
 /// The bearings behind the passes at 0, 1, 2, ... seconds, to the last whole second of the run [deg], one
-/// pass of the loop a second, each taking one random number. Nothing when an input allows no response or it
-/// leaves the finite range. Deliberate: the proportional step uses the accumulator of before the pass, the
-/// error includes the noise, and the bearing is not reduced to a turn.
+/// pass of the loop's law a second, each taking one random number. Nothing when an input allows no response
+/// or it leaves the finite range. Deliberate: the error includes the noise, and the bearing is not reduced to
+/// a turn.
 std::optional<std::vector<double>> TrackResponseSeries(const TrackResponseInputs& inputs,
                                                        RandomSource& random);
 

@@ -22,7 +22,7 @@ class SteeringChange : public testing::Test {
     m_data.WindSpeedTrue = 10.0F;
     EXPECT_TRUE(m_loop.StartTracking());
     for (int step = 0; step < 10; ++step) {
-      m_loop.ControlStep();
+      m_loop.ControlStep(Moment{});
     }
     EXPECT_GT(m_loop.TrackIntegral(), 0.05);
   }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "instruments/MathLib.h"
+#include "tests/support/Origins.h"
 #include "tests/support/RecordingView.h"
 #include "tests/support/ScriptedPort.h"
 
@@ -44,7 +45,7 @@ class TrackLoopTest : public testing::Test {
   /// One pass with an error of `error` on the apparent side.
   void Step(float error) {
     m_data.WindAngleApparent = m_settings.DesiredAngle[1] + error;
-    m_loop.ControlStep();
+    m_loop.ControlStep(kOrigin.At);
   }
 
   Settings m_settings;
@@ -134,7 +135,7 @@ TEST_F(TrackLoopTest, NothingHappensInOffOrWhileSwitching) {
   for (const TrackMode mode : {TrackMode::Off, TrackMode::Switching}) {
     m_settings.m_eTrackMode = mode;
     m_settings.m_fAutoPilot = 123.0F;
-    m_loop.ControlStep();
+    m_loop.ControlStep(kOrigin.At);
     EXPECT_THAT(m_view.Calls, IsEmpty());
     EXPECT_THAT(m_pilotPort.Written, IsEmpty());
     EXPECT_EQ(m_loop.PreviousAutoPilot(), 0.0F);
@@ -145,7 +146,7 @@ TEST_F(TrackLoopTest, InSetupTheDesiredAnglesFollowAndNothingIsSent) {
   m_settings.m_eTrackMode = TrackMode::Setup;
   m_data.WindAngleApparent = -30.0F;
   m_data.WindAngleTrue = -50.0F;
-  m_loop.ControlStep();
+  m_loop.ControlStep(kOrigin.At);
   EXPECT_EQ(Apparent(), -30.0F);
   EXPECT_EQ(True(), -50.0F);
   EXPECT_THAT(m_view.Calls, ElementsAre("OnDesired -30 -50", "OnDelta 0 0"));
@@ -159,7 +160,7 @@ TEST_F(TrackLoopTest, InManualTheDesiredAnglesFollowAndTheTypedBearingIsSentUnch
   m_view.Take();
   for (int i = 0; i < 3; ++i) {
     m_data.WindAngleApparent = static_cast<float>(10 * i);
-    m_loop.ControlStep();
+    m_loop.ControlStep(kOrigin.At);
     EXPECT_EQ(Apparent(), static_cast<float>(10 * i));
     EXPECT_EQ(m_settings.m_fAutoPilot, 123.5F);
   }
@@ -230,7 +231,7 @@ TEST_F(TrackLoopTest, TheDeltasAreFolded) {
   m_settings.DesiredAngle = {0.0F, 170.0F, -170.0F};
   m_data.WindAngleApparent = -170.0F;
   m_data.WindAngleTrue = 170.0F;
-  m_loop.ControlStep();
+  m_loop.ControlStep(kOrigin.At);
   EXPECT_EQ(m_view.Calls.front(), "OnDelta 20 -20");
 }
 
@@ -243,7 +244,7 @@ TEST_F(TrackLoopTest, TracksTheChosenSide) {
   m_settings.m_fAutoPilot = 100.0F;
   m_data.WindAngleApparent = 55.0F;
   m_data.WindAngleTrue = 88.0F;
-  m_loop.ControlStep();
+  m_loop.ControlStep(kOrigin.At);
   EXPECT_EQ(m_settings.m_fAutoPilot, 99.0F);
   EXPECT_THAT(m_view.Calls, Contains("OnPilotDelta -4"));
 }
@@ -299,10 +300,10 @@ TEST_F(TrackLoopTest, TheAlarmNamesTheChosenSideAndIgnoresTheOther) {
   Track();
   m_data.WindAngleApparent = 145.0F;
   m_data.WindAngleTrue = 100.0F;
-  m_loop.ControlStep();
+  m_loop.ControlStep(kOrigin.At);
   EXPECT_THAT(m_view.Only({"OnAlarm"}), ElementsAre("OnAlarm true 8"));
   m_data.WindAngleTrue = 92.0F;
-  m_loop.ControlStep();
+  m_loop.ControlStep(kOrigin.At);
   EXPECT_THAT(m_view.Only({"OnAlarm"}), ElementsAre("OnAlarm true 8"));
 }
 
@@ -527,7 +528,7 @@ TEST_P(ClosedLoop, TheBoatComesToTheDesiredAngleAndStaysThereThroughAWindShift) 
     boat.WindFrom = windFrom;
     for (int second = 0; second < 3000; ++second) {
       boat.Sail(m_settings.m_fAutoPilot, m_data);
-      m_loop.ControlStep();
+      m_loop.ControlStep(kOrigin.At);
       ASSERT_GE(m_settings.m_fAutoPilot, 0.0F);
       ASSERT_LT(m_settings.m_fAutoPilot, 360.0F);
       if (second > 2500) {
@@ -547,7 +548,7 @@ TEST_P(ClosedLoop, TheBoatFollowsASteeringChange) {
   const auto sail = [&] {
     for (int second = 0; second < 3000; ++second) {
       boat.Sail(m_settings.m_fAutoPilot, m_data);
-      m_loop.ControlStep();
+      m_loop.ControlStep(kOrigin.At);
     }
   };
   sail();

@@ -5,7 +5,9 @@
 
 #include <string>
 
+#include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"
+#include "tests/support/Origins.h"
 #include "tests/support/RecordingView.h"
 #include "tests/support/ScriptedPort.h"
 
@@ -25,13 +27,14 @@ class TrackModesTest : public testing::Test, private FollowUp {
   ScriptedPort m_nmeaPort;
   ScriptedPort m_pilotPort;
   HandTimer m_timer;
-  NmeaReceiver m_receiver{m_settings, m_nmeaPort, m_timer, m_record, *this, m_view};
+  HandClock m_clock;
+  NmeaReceiver m_receiver{m_settings, m_nmeaPort, m_timer, m_clock, m_record, *this, m_view};
   PilotOutput m_pilot{m_settings, m_nmeaPort, m_pilotPort, m_view};
   TrackLoop m_loop{m_settings, m_record.Data(), m_pilot, m_view};
   TrackModes m_modes{m_settings, m_receiver, m_pilot, m_loop, m_view};
 
  private:
-  void ControlStep() override {}
+  void ControlStep(const Moment& /*now*/) override {}
   void PolarUpdate() override {}
 };
 
@@ -120,8 +123,8 @@ TEST_F(TrackModesTest, SwitchingBetweenSetupManualAndTrackKeepsThePortsOpen) {
 
 TEST_F(TrackModesTest, EnteringTrackAgainZeroesTheAccumulator) {
   m_modes.TrackSetTrack();
-  m_record.Data().WindAngleApparent = 50.0F;
-  m_loop.ControlStep();
+  m_record.WindApparentUpdate(50.0F, 12.0F, false, kOrigin);
+  m_loop.ControlStep(kOrigin.At);
   ASSERT_NE(m_loop.TrackIntegral(), 0.0);
   m_modes.TrackSetTrack();
   EXPECT_EQ(m_loop.TrackIntegral(), 0.0);
@@ -145,8 +148,8 @@ TEST_F(TrackModesTest, LeavingTrackWithdrawsAnAlarmThatShows) {
   for (const Switch leave : {Switch{&TrackModes::TrackSetOff}, Switch{&TrackModes::TrackSetSetup},
                              Switch{&TrackModes::TrackSetManual}}) {
     m_modes.TrackSetTrack();
-    m_record.Data().WindAngleApparent = m_settings.DesiredAngle[1] + 20.0F;
-    m_loop.ControlStep();
+    m_record.WindApparentUpdate(m_settings.DesiredAngle[1] + 20.0F, 12.0F, false, kOrigin);
+    m_loop.ControlStep(kOrigin.At);
     ASSERT_EQ(m_view.Count("OnAlarm"), 1U);
     (m_modes.*leave)();
     EXPECT_EQ(m_view.Count("OnAlarmOver"), 1U);

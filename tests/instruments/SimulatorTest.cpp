@@ -50,7 +50,7 @@ class SimulatorTest : public testing::Test, private FollowUp {
   Simulator m_simulator{m_settings, m_record, m_random, *this};
 
  private:
-  void ControlStep() override { m_view.Calls.emplace_back("ControlStep"); }
+  void ControlStep(const Moment& /*now*/) override { m_view.Calls.emplace_back("ControlStep"); }
   void PolarUpdate() override { m_view.Calls.emplace_back("PolarUpdate"); }
 };
 
@@ -170,7 +170,7 @@ TEST_F(SimulatorTest, TheApparentWindIsSmoothedAndTheTrueWindEndsAsTheNoisyValue
   m_settings.m_fAutoPilot = 349.0F;
   FixedRandom random({0.5, 0.5, 0.5, 0.5, 0.5, 0.75, 0.5, 0.75});
   class Nothing final : public veerwatch::FollowUp {
-    void ControlStep() override {}
+    void ControlStep(const Moment& /*now*/) override {}
     void PolarUpdate() override {}
   } nothing;
   Simulator simulator(m_settings, m_record, random, nothing);

@@ -58,7 +58,7 @@ class NmeaReceiverTest : public testing::Test, private FollowUp {
   }
 
  private:
-  void ControlStep() override { m_view.Calls.emplace_back("ControlStep"); }
+  void ControlStep(const Moment& /*now*/) override { m_view.Calls.emplace_back("ControlStep"); }
   void PolarUpdate() override { m_view.Calls.emplace_back("PolarUpdate"); }
 };
 
