@@ -8,8 +8,8 @@
 
 #include "app/PanelControlsQt.h"
 #include "app/PanelLayout.h"
-#include "control/TrackMode.h"
 #include "control/TrackModes.h"
+#include "settings/TrackMode.h"
 
 namespace veerwatch {
 

@@ -3,7 +3,7 @@
 
 #include <QFrame>
 
-#include "app/Notices.h"
+#include "alarms/Notices.h"
 #include "app/PanelControlsQt.h"
 
 class QToolButton;

@@ -11,14 +11,14 @@
 #include <string_view>
 #include <vector>
 
-#include "app/Helm.h"
-#include "app/MainWindowApi.h"
 #include "app/MainWindowParts.h"
-#include "app/SettingsProfile.h"
 #include "app/frmMainCommands.h"
 #include "diagram/DiagramListener.h"
 #include "diagram/frmAbout.h"
 #include "diagram/frmDiagram.h"
+#include "helm/Helm.h"
+#include "helm/MainWindowApi.h"
+#include "helm/SettingsProfile.h"
 #include "history/frmHistory.h"
 #include "options/frmOptions.h"
 #include "polar/PolarListener.h"

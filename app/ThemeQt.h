@@ -4,8 +4,8 @@
 #include <QColor>
 #include <QPalette>
 
-#include "control/TrackMode.h"
 #include "platform/ColoursQt.h"
+#include "settings/TrackMode.h"
 
 namespace veerwatch {
 

@@ -10,9 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/Helm.h"
 #include "app/InstrumentPanelQt.h"
-#include "app/MainWindowApi.h"
 #include "app/MainWindowParts.h"
 #include "app/NoticeLineQt.h"
 #include "app/OtherWindowsQt.h"
@@ -20,6 +18,8 @@
 #include "app/StatusPanelsQt.h"
 #include "app/frmMainCommands.h"
 #include "control/WindWatch.h"
+#include "helm/Helm.h"
+#include "helm/MainWindowApi.h"
 
 namespace veerwatch {
 

@@ -7,7 +7,7 @@
 #include <map>
 
 #include "app/ThemeQt.h"
-#include "control/TrackMode.h"
+#include "settings/TrackMode.h"
 
 namespace veerwatch {
 

@@ -4,7 +4,7 @@
 #include <fstream>
 #include <stdexcept>
 
-#include "cli/LogReader.h"
+#include "log/LogReader.h"
 #include "nmea/LineFramer.h"
 #include "nmea/Sentence.h"
 #include "nmea/SentenceTable.h"

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "app/Helm.h"
 #include "cli/MemoryPort.h"
+#include "helm/Helm.h"
 #include "platform/SystemClock.h"
 
 namespace veerwatch {

@@ -4,8 +4,8 @@
 #include <istream>
 #include <ostream>
 
-#include "cli/LogReader.h"
 #include "cli/Steering.h"
+#include "log/LogReader.h"
 
 namespace veerwatch {
 

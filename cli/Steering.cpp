@@ -1,6 +1,6 @@
 #include "cli/Steering.h"
 
-#include "app/SettingsProfile.h"
+#include "helm/SettingsProfile.h"
 #include "platform/Profile.h"
 
 namespace veerwatch {

@@ -6,9 +6,9 @@
 #include <stdexcept>
 #include <string>
 
-#include "app/Helm.h"
-#include "app/Settings.h"
 #include "cli/MemoryPort.h"
+#include "helm/Helm.h"
+#include "settings/Settings.h"
 
 namespace veerwatch {
 

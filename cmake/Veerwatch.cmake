@@ -29,6 +29,13 @@ function(veerwatch_add_library name)
   target_link_libraries(${name} PUBLIC veerwatch_common)
 endfunction()
 
+# veerwatch_add_windows(SOURCES...): the Qt files of one folder, in the library that all windows share.
+function(veerwatch_add_windows)
+  if(VEERWATCH_QT)
+    target_sources(veerwatch_ui PRIVATE ${ARGN})
+  endif()
+endfunction()
+
 # veerwatch_add_program(NAME SOURCES...): an executable beside the others, directly in the build folder.
 function(veerwatch_add_program name)
   add_executable(${name} ${ARGN})

@@ -3,12 +3,12 @@
 
 #include <optional>
 
-#include "app/Settings.h"
-#include "control/PilotOutput.h"
 #include "control/TrackController.h"
-#include "control/TrackMode.h"
 #include "instruments/InstrumentData.h"
+#include "pilot/PilotOutput.h"
 #include "platform/Clock.h"
+#include "settings/Settings.h"
+#include "settings/TrackMode.h"
 
 namespace veerwatch {
 

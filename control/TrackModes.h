@@ -3,11 +3,11 @@
 
 #include <string_view>
 
-#include "app/Settings.h"
-#include "control/PilotOutput.h"
 #include "control/TrackLoop.h"
-#include "control/TrackMode.h"
 #include "nmea/NmeaReceiver.h"
+#include "pilot/PilotOutput.h"
+#include "settings/Settings.h"
+#include "settings/TrackMode.h"
 
 namespace veerwatch {
 

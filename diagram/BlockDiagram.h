@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/DiagramArrow.h"
+#include "draw/DiagramArrow.h"
 
 namespace veerwatch {
 

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "control/TrackMode.h"
+#include "settings/TrackMode.h"
 
 namespace veerwatch {
 

@@ -11,10 +11,10 @@
 #include <cmath>
 #include <filesystem>
 
+#include "draw/WindowPlace.h"
 #include "history/ClockText.h"
 #include "history/HistoryCsv.h"
 #include "history/StripChartQt.h"
-#include "history/WindowPlace.h"
 #include "platform/AtomicFile.h"
 
 namespace veerwatch {

@@ -9,8 +9,8 @@
 #include <functional>
 #include <string_view>
 
+#include "draw/WindowPlace.h"
 #include "history/StripChartQt.h"
-#include "history/WindowPlace.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/Profile.h"

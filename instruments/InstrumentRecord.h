@@ -8,9 +8,9 @@
 #include <cstdint>
 #include <optional>
 
-#include "app/Settings.h"
 #include "instruments/InstrumentData.h"
 #include "instruments/Reading.h"
+#include "settings/Settings.h"
 
 namespace veerwatch {
 

@@ -2,10 +2,10 @@
 // the heading that the control loop commands, so that the whole chain runs without a boat.
 #pragma once
 
-#include "app/Settings.h"
 #include "instruments/FollowUp.h"
 #include "instruments/InstrumentRecord.h"
 #include "platform/Random.h"
+#include "settings/Settings.h"
 
 namespace veerwatch {
 

@@ -1,9 +1,9 @@
 // Which of several instruments feeds the record: the rules of the source settings.
 #pragma once
 
-#include "app/Settings.h"
 #include "instruments/InstrumentRecord.h"
 #include "instruments/Reading.h"
+#include "settings/Settings.h"
 
 namespace veerwatch {
 

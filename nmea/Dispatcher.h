@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <string_view>
 
-#include "app/Settings.h"
 #include "instruments/InstrumentRecord.h"
 #include "instruments/SourceChoice.h"
 #include "nmea/SourceWatch.h"
+#include "settings/Settings.h"
 
 namespace veerwatch {
 

@@ -6,7 +6,6 @@
 #include <string_view>
 #include <vector>
 
-#include "app/Settings.h"
 #include "instruments/FollowUp.h"
 #include "instruments/InstrumentRecord.h"
 #include "nmea/Dispatcher.h"
@@ -14,6 +13,7 @@
 #include "platform/Clock.h"
 #include "platform/SerialPort.h"
 #include "platform/Timer.h"
+#include "settings/Settings.h"
 
 namespace veerwatch {
 

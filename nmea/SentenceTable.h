@@ -4,9 +4,9 @@
 #include <array>
 #include <string_view>
 
-#include "app/Settings.h"
 #include "instruments/Reading.h"
 #include "nmea/Fields.h"
+#include "settings/Settings.h"
 
 namespace veerwatch {
 

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "app/Settings.h"
 #include "instruments/Reading.h"
 #include "nmea/SentenceTable.h"
+#include "settings/Settings.h"
 
 namespace veerwatch {
 

@@ -4,8 +4,8 @@
 #include <array>
 #include <string>
 
-#include "app/Settings.h"
 #include "nmea/SentenceTable.h"
+#include "settings/Settings.h"
 
 namespace veerwatch {
 

@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "app/MainWindowApi.h"
+#include "helm/MainWindowApi.h"
 #include "options/OptionNumber.h"
 #include "options/OptionsForm.h"
 

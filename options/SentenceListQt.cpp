@@ -15,7 +15,8 @@ SentenceListQt::SentenceListQt(QWidget* parent) : QTreeWidget(parent) {
   header()->setSectionsMovable(false);
   for (const SentenceKind& sentence : kSentences) {
     auto* row = new QTreeWidgetItem(this, {QString::fromLatin1(sentence.Text)});
-    row->setData(0, Qt::UserRole, QString::fromLatin1(sentence.Name.data(), static_cast<qsizetype>(sentence.Name.size())));
+    row->setData(0, Qt::UserRole,
+                 QString::fromLatin1(sentence.Name.data(), static_cast<qsizetype>(sentence.Name.size())));
     row->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
     row->setCheckState(0, Qt::Unchecked);
   }

@@ -12,8 +12,8 @@
 #include <string_view>
 #include <utility>
 
-#include "app/MainWindowApi.h"
 #include "control/TrackLoop.h"
+#include "helm/MainWindowApi.h"
 #include "options/DataPageQt.h"
 #include "options/OptionsStore.h"
 #include "options/PortPageQt.h"

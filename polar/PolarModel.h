@@ -9,11 +9,11 @@
 #include <string>
 #include <vector>
 
-#include "control/TrackMode.h"
 #include "polar/PolarAverages.h"
 #include "polar/PolarFile.h"
 #include "polar/PolarSettings.h"
 #include "polar/PolarTable.h"
+#include "settings/TrackMode.h"
 
 namespace veerwatch {
 

@@ -5,7 +5,6 @@
 #include <QMainWindow>
 #include <optional>
 
-#include "control/TrackMode.h"
 #include "platform/Dialogs.h"
 #include "platform/Profile.h"
 #include "polar/CourseControlsQt.h"
@@ -17,6 +16,7 @@
 #include "polar/PolarMenuQt.h"
 #include "polar/PolarModel.h"
 #include "polar/PolarScene.h"
+#include "settings/TrackMode.h"
 
 namespace veerwatch {
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string>
 
-#include "control/HelmNow.h"
+#include "helm/HelmNow.h"
 
 namespace veerwatch {
 

@@ -15,7 +15,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/MainWindowApi.h"
+#include "helm/MainWindowApi.h"
 #include "platform/Profile.h"
 #include "platform/Timer.h"
 #include "tack/Manoeuvre.h"

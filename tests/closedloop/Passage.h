@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <functional>
 
-#include "app/Helm.h"
+#include "helm/Helm.h"
 #include "tests/closedloop/Wire.h"
 #include "tests/support/BoatModel.h"
 #include "tests/support/FixedRandom.h"

@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <functional>
 
-#include "app/Settings.h"
-#include "control/TrackMode.h"
+#include "settings/Settings.h"
+#include "settings/TrackMode.h"
 #include "tests/closedloop/Wire.h"
 #include "tests/support/BoatModel.h"
 

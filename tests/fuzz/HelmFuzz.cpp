@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/Helm.h"
+#include "helm/Helm.h"
 #include "tests/fuzz/Demand.h"
 #include "tests/support/FixedRandom.h"
 #include "tests/support/HandClock.h"

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "app/SettingsProfile.h"
+#include "helm/SettingsProfile.h"
 #include "history/HistoryTraces.h"
 #include "history/TraceSettings.h"
 #include "platform/PortNames.h"

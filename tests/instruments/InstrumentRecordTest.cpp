@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "app/Settings.h"
+#include "settings/Settings.h"
 #include "tests/support/Origins.h"
 #include "tests/support/RecordFault.h"
 #include "tests/support/RecordingView.h"

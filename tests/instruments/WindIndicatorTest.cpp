@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "app/Settings.h"
 #include "instruments/InstrumentRecord.h"
+#include "settings/Settings.h"
 #include "tests/support/Origins.h"
 #include "tests/support/RecordingView.h"
 

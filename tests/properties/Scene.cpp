@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "app/Helm.h"
+#include "helm/Helm.h"
 #include "platform/NumberText.h"
 #include "tests/properties/Dice.h"
 #include "tests/support/Encode.h"

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "app/Settings.h"
 #include "instruments/InstrumentData.h"
+#include "settings/Settings.h"
 
 namespace veerwatch {
 

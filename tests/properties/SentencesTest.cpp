@@ -5,8 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "app/Helm.h"
-#include "control/PilotSentence.h"
+#include "helm/Helm.h"
 #include "nmea/Hdg.h"
 #include "nmea/Hvm.h"
 #include "nmea/Mwv.h"
@@ -15,6 +14,7 @@
 #include "nmea/Sentence.h"
 #include "nmea/SentenceTable.h"
 #include "nmea/Vhw.h"
+#include "pilot/PilotSentence.h"
 #include "platform/Random.h"
 #include "tests/support/BoatModel.h"
 #include "tests/support/Encode.h"

@@ -5,7 +5,7 @@
 #include <numbers>
 #include <string>
 
-#include "app/Helm.h"
+#include "helm/Helm.h"
 #include "instruments/MathLib.h"
 #include "platform/NumberText.h"
 #include "platform/Random.h"

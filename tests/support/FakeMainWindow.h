@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "app/MainWindowApi.h"
+#include "helm/MainWindowApi.h"
 
 namespace veerwatch {
 

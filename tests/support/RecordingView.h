@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "app/Helm.h"
+#include "helm/Helm.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {

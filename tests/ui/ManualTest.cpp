@@ -19,8 +19,8 @@ class Manual : public MainWindowTester {
  protected:
   /// The window, told that the manual begins at `page`.
   void Open(const std::string& page) {
-    MainWindowParts parts{NmeaPort, PilotPort, tmrNmea, tmrUnload,    TimerTack,
-                          Random,   Dialogs,   Store,   ProfileFile()};
+    MainWindowParts parts{NmeaPort, PilotPort, tmrNmea, tmrUnload, TimerTack,
+                          Time,     Random,    Dialogs, Store,     ProfileFile()};
     parts.ManualPage = page;
     Window = std::make_unique<frmMain>(parts);
     Window->Form_Load();

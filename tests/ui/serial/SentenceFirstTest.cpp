@@ -1,6 +1,6 @@
 // What a wind brings for the autopilot is with the system before anything is shown for it.
 
-#include "app/Helm.h"
+#include "helm/Helm.h"
 #include "tests/support/FixedRandom.h"
 #include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"

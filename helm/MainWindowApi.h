@@ -1,0 +1,41 @@
+// What the main window is to every other window: its settings and its public operations.
+#pragma once
+
+#include <string_view>
+
+#include "helm/HelmNow.h"
+#include "settings/Settings.h"
+
+namespace veerwatch {
+
+class MainWindowApi : public Settings {
+ public:
+  virtual ~MainWindowApi() = default;
+
+  /// Starts the input: the instrument port, or the simulator with m_bSimulate. Always true.
+  virtual bool NmeaStart() = 0;
+  virtual void NmeaStop() = 0;
+  /// Opens the pilot port, unless simulating or one port serves both ways.
+  virtual void PilotStart() = 0;
+  virtual void PilotStop() = 0;
+  /// Sets every default, overlays the profile when `recall`, and goes to Setup (Manual when simulating).
+  virtual void ProfileRecall(bool recall) = 0;
+  /// Moves the simulated boat to `time` [h] and gives the waypoint from there [deg magnetic], [nm].
+  virtual void SimulateTime(float time, float& timeWaypointBearing, float& timeWaypointRange) = 0;
+  /// Moves the held wind angle and the autopilot bearing by `change` [deg, positive to starboard]; only in
+  /// Track.
+  virtual void TrackSteerTo(float change) = 0;
+  /// Sets and shows the autopilot bearing [deg magnetic, any turn] for the manoeuvre that has the pilot. One
+  /// that is not finite changes nothing.
+  virtual void AutoPilotSet(float bearing) = 0;
+  /// What the helm does at this moment.
+  virtual HelmNow Now() const = 0;
+  /// Beeps, and shows for ten seconds in place of the mode that a turn has ended by itself, and why.
+  virtual void TurnEnded(std::string_view why) = 0;
+  virtual void TrackSetOff() = 0;
+  virtual void TrackSetSetup() = 0;
+  virtual void TrackSetManual() = 0;
+  virtual void TrackSetTrack() = 0;
+};
+
+}  // namespace veerwatch

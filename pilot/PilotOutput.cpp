@@ -1,0 +1,146 @@
+#include "pilot/PilotOutput.h"
+
+#include <cmath>
+#include <utility>
+
+#include "pilot/PilotSentence.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr int kReopenTicks = 4;
+
+}  // namespace
+
+PilotOutput::PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort,
+                         Listener& listener)
+    : m_settings(settings), m_nmeaPort(nmeaPort), m_pilotPort(pilotPort), m_listener(listener) {
+  m_pilotPort.Connect(this);
+}
+
+void PilotOutput::PilotRelease() {
+  m_nmeaPort.Withdraw();
+  m_pilotPort.Withdraw();
+  CloseUnneeded();
+}
+
+void PilotOutput::CloseUnneeded() {
+  if (m_settings.m_bSimulate || !OwnPort() || m_pilotPort.CommPort() != m_settings.m_iPilotPort) {
+    m_pilotPort.PortOpen(false);
+  }
+}
+
+void PilotOutput::PilotStart() {
+  CloseUnneeded();
+  if (!m_started) {
+    m_started = true;
+    m_ticks = 0;
+  }
+  if (m_settings.m_bSimulate || !OwnPort()) {
+    Failure("");
+  }
+  if (m_settings.m_bSimulate) {
+    Status("Simulate");
+    m_listener.OnOutputState("Simulate");
+    return;
+  }
+  Status("");
+  m_listener.OnOutputState("Running");
+  if (OwnPort()) {
+    OpenPort();
+  }
+}
+
+void PilotOutput::PilotStop() {
+  m_started = false;
+  m_pilotPort.PortOpen(false);
+  Failure("");
+  if (m_notOpenShown) {
+    Status("");
+  }
+}
+
+void PilotOutput::OpenPort() {
+  m_pilotPort.CommPort(m_settings.m_iPilotPort);
+  const bool open = m_pilotPort.PortOpen(true);
+  Failure(open ? "" : m_pilotPort.OpenFailure());
+  if (!open) {
+    Status("Output Port " + std::to_string(m_settings.m_iPilotPort) + " Not Open");
+    m_notOpenShown = true;
+  } else if (m_notOpenShown) {
+    Status("");
+  }
+}
+
+void PilotOutput::Failure(std::string reason) {
+  if (reason != m_failure) {
+    m_failure = std::move(reason);
+    m_listener.OnOutputFailure(m_failure);
+  }
+}
+
+void PilotOutput::Tick() {
+  if (!m_started || m_settings.m_bSimulate) {
+    return;
+  }
+  // The instruments were given its device.
+  if (m_pilotPort.CommPort() == m_settings.m_iNmeaPort) {
+    m_pilotPort.PortOpen(false);
+  }
+  if (!OwnPort()) {
+    Failure("");
+    if (m_notOpenShown) {
+      Status("");
+    }
+    return;
+  }
+  ++m_ticks;
+  m_pilotPort.PollLineErrors();
+  if (m_ticks % kReopenTicks == 0 && !m_pilotPort.PortOpen()) {
+    OpenPort();
+  }
+}
+
+void PilotOutput::PilotSend(float bearing) {
+  if (!std::isfinite(bearing)) {
+    return;
+  }
+  BuildPilotSentence(bearing, m_sentence);
+  SerialPort& port = OwnPort() ? m_pilotPort : m_nmeaPort;
+  m_sentence.append("\r\n");
+  if (port.PortOpen()) {
+    port.Output(m_sentence);
+  }
+  if (m_settings.m_bSimulate) {
+    ++m_simulated;
+  }
+  m_listener.OnPilotData(std::string_view(m_sentence).substr(0, m_sentence.size() - 2));
+}
+
+bool PilotOutput::Open() const {
+  return m_settings.m_bSimulate || (OwnPort() ? m_pilotPort : m_nmeaPort).PortOpen();
+}
+
+void PilotOutput::OnComm(int commEvent) {
+  if (commEvent == CommEvent::kReceive) {
+    m_pilotPort.Input(m_dropped);
+    Status("Receive Error");
+  } else {
+    Status(CommEventText(commEvent));
+  }
+}
+
+void PilotOutput::OnPortLost() {
+  if (m_started) {
+    Status("Output Port " + std::to_string(m_pilotPort.CommPort()) + " Not Open");
+    m_notOpenShown = true;
+  }
+}
+
+void PilotOutput::Status(std::string_view text) {
+  m_notOpenShown = false;
+  m_listener.OnOutputStatus(text);
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,79 @@
+// The way to the autopilot: opens and closes the pilot port and sends bearings on it, or on the instrument
+// port when both have the same number.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/SerialPort.h"
+#include "settings/Settings.h"
+
+namespace veerwatch {
+
+class PilotOutput final : public SerialPort::Events {
+ public:
+  class Listener {
+   public:
+    virtual ~Listener() = default;
+    /// Text of the output panel of the status bar; "" empties it.
+    virtual void OnOutputStatus(std::string_view /*text*/) {}
+    /// State of the output: "Running" or "Simulate".
+    virtual void OnOutputState(std::string_view /*text*/) {}
+    /// Why the pilot's own port is not open, as the system says; "" when it is, or is not wanted.
+    virtual void OnOutputFailure(std::string_view /*reason*/) {}
+    /// Each sentence that is built, without its line end, whether or not a port is open to take it.
+    virtual void OnPilotData(std::string_view /*sentence*/) {}
+  };
+
+  PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Listener& listener);
+
+  /// Forgets a sentence that waits to be sent, and closes the pilot port where it is not needed or has
+  /// another number than it should, so that the device is free for the instruments.
+  void PilotRelease();
+
+  /// Opens the pilot port where it is needed. One that cannot be opened is shown as "Output Port n Not Open"
+  /// and tried again at every fourth tick.
+  void PilotStart();
+  void PilotStop();
+
+  /// One tick of the input's timer while not simulating: line errors and the port that is not open.
+  void Tick();
+
+  /// Builds the sentence for `bearing` [deg magnetic, [0, 360)] and writes it, whole, with its line end. A
+  /// bearing that is not finite is not sent. Without an open port the sentence only reaches the listener.
+  void PilotSend(float bearing);
+
+  /// How many sentences have left for the pilot. While simulating, where none leaves, each that is built
+  /// counts.
+  std::uint64_t Sent() const { return m_nmeaPort.Sent() + m_pilotPort.Sent() + m_simulated; }
+
+  /// The port that carries the sentences is open, or none is needed.
+  bool Open() const;
+
+  /// Every event of the pilot port is shown on the output panel. Deliberate: characters that arrive are read
+  /// off and dropped, and shown as "Receive Error".
+  void OnComm(int commEvent) override;
+  void OnPortLost() override;
+
+ private:
+  bool OwnPort() const { return m_settings.m_iNmeaPort != m_settings.m_iPilotPort; }
+  void CloseUnneeded();
+  void OpenPort();
+  void Failure(std::string reason);
+  void Status(std::string_view text);
+
+  const Settings& m_settings;
+  SerialPort& m_nmeaPort;
+  SerialPort& m_pilotPort;
+  Listener& m_listener;
+  bool m_started = false;
+  bool m_notOpenShown = false;
+  int m_ticks = 0;
+  std::uint64_t m_simulated = 0;  ///< sentences for the simulated boat
+  std::string m_failure;
+  std::string m_sentence;
+  std::string m_dropped;
+};
+
+}  // namespace veerwatch

@@ -1,0 +1,69 @@
+// Every setting of the program, with its default: the one store. Windows and the command line read and change
+// these members directly; the profile (helm/SettingsProfile) keeps them between sessions. Standard library
+// only.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "settings/TrackMode.h"
+
+namespace veerwatch {
+
+/// Title of the program: captions, message boxes and the name of the profile file.
+inline constexpr const char* kApplicationTitle = "Veerwatch";
+
+struct Settings {
+  // What feeds the instrument record.
+  std::int16_t m_iNmeaBoatSpeed = 1;  ///< 0 speed over water ("VHW"), 1 speed over ground ("RMC", "VTG")
+  std::int16_t m_iNmeaHeading = 1;  ///< 0 compass heading ("HDG", "VHW"), 1 course over ground ("RMC", "VTG")
+  std::int16_t m_iNmeaPort = 5;     ///< number of the instrument port
+  bool m_bNmeaSentenceHDG = true;   ///< the sentence types that are decoded
+  bool m_bNmeaSentenceHVM = true;
+  bool m_bNmeaSentenceMWV = true;
+  bool m_bNmeaSentenceRMB = true;
+  bool m_bNmeaSentenceRMC = true;
+  bool m_bNmeaSentenceVHW = true;
+  bool m_bNmeaSentenceVTG = true;
+  std::int16_t m_iNmeaTrueWind = 1;           ///< 0 true wind from a sensor, 1 computed from the boat speed
+  float m_fNmeaTrueWindAverage = 2.0F;        ///< averaging count of the record [samples], by IsAverageCount
+  float m_fNmeaWindIndicatorAverage = 60.0F;  ///< the same of the wind indicator
+
+  // The autopilot.
+  std::int16_t m_iPilotPort = 5;  ///< number of the pilot port; equal to m_iNmeaPort: one port for both ways
+  float m_fAutoPilot = 40.0F;     ///< autopilot bearing [deg magnetic, [0, 360)]
+
+  // The simulator.
+  bool m_bSimulate = false;                 ///< simulator on instead of the instrument port
+  float m_fSimulateBoatSpeed = 8.0F;        ///< [kn]
+  float m_fSimulateCompassOffset = 10.0F;   ///< added to the autopilot bearing [deg]
+  float m_fSimulateNoiseAngle = 4.0F;       ///< full width of the angle noise [deg]
+  float m_fSimulateNoiseSpeed = 2.0F;       ///< full width of the speed noise [kn]
+  float m_fSimulateTrueWindAngle = 0.0F;    ///< direction that the true wind blows from [deg true]
+  float m_fSimulateTrueWindSpeed = 12.0F;   ///< [kn]
+  float m_fSimulateVariation = 11.0F;       ///< magnetic variation [deg, east positive]
+  float m_fSimulateWaypointBearing = 5.0F;  ///< bearing of the waypoint at time 0 [deg magnetic]
+  float m_fSimulateWaypointRange = 10.0F;   ///< range of the waypoint at time 0 [nm]
+  float m_fSimulateTime = 0.0F;             ///< simulated time [h]; not kept in the profile
+
+  // Tracking.
+  bool m_bTrackAlarm = true;                      ///< alarm on a wind angle that runs away
+  float m_fTrackAlarmLimit = 5.0F;                ///< the error above which the alarm goes off [deg]
+  float m_fTrackBandwidth = 20.0F;                ///< time constant of the loop [s], above 0
+  float m_fTrackDamping = 4.0F;                   ///< damping ratio of the loop
+  float m_fTrackMaxSteerTo = 10.0F;               ///< largest steering change without a question [deg]
+  TrackMode m_eTrackMode = TrackMode::Switching;  ///< the present mode; not kept in the profile
+
+  /// Desired wind angles [deg relative, (-180, 180]]: index 1 apparent, 2 true; index 0 is not used.
+  std::array<float, 3> DesiredAngle{0.0F, 45.0F, 92.0F};
+
+  bool m_bNightColours = false;  ///< red on black in every window
+
+  bool m_bSaveWhileRunning = false;  ///< settings are also saved ten seconds after a change
+
+  /// Path of the profile file.
+  std::string m_sProfileFile;
+};
+
+}  // namespace veerwatch
