@@ -1,16 +1,23 @@
-// Which settings stand where in the profile.
+// The settings and the windows that were open, to and from the profile.
 #pragma once
 
-#include "platform/Profile.h"
+#include "settings/SettingRow.h"
 #include "settings/Settings.h"
 
 namespace veerwatch {
 
-/// The two windows that are open again when they were open at the close.
+/// The two windows that are open again when they were open at the close, as the profile keeps them.
+struct OpenWindows {
+  bool History = false;
+  bool Polar = false;
+};
+const SettingTable<OpenWindows>& OpenWindowsTable();
+
+/// The same two, to be opened and asked.
 class RememberedWindows {
  public:
   virtual ~RememberedWindows() = default;
-  /// Each is called in the middle of the reading, when everything in front of its section has been read.
+  /// Each is called when all settings have been read.
   virtual void HistoryShow() {}
   virtual void PolarShow() {}
   virtual bool HistoryVisible() const { return false; }
@@ -21,9 +28,7 @@ class RememberedWindows {
 /// of the profile and the night colours stay: nobody at night wants a white screen for a default.
 void SettingsDefault(Settings& settings);
 
-/// Overlays what the profile holds. Angles are folded; a text that is no number under a numeric key, a number
-/// out of range and a bandwidth that is not above 0 leave the default. Deliberate: the wind indicator's
-/// average is written but never read.
+/// Overlays what the profile holds, as SettingsTable and OpenWindowsTable say.
 void ProfileRead(const Profile& profile, Settings& settings, RememberedWindows& windows);
 
 /// Sets every key.

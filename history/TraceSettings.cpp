@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <cstdio>
 #include <iterator>
 #include <string>
+#include <utility>
 
 namespace veerwatch {
 
@@ -32,56 +32,89 @@ std::string TextOf(const std::optional<std::uint32_t>& colour) {
   return text.data();
 }
 
-std::string ScaleKey(std::size_t scale, const char* what) {
-  return "Scale " + std::to_string(scale + 1) + " " + what;
+/// The seconds of a span, where they are one of kSpans.
+std::optional<float> KnownSpan(float span) {
+  const bool known = std::any_of(std::begin(kSpans), std::end(kSpans),
+                                 [span](int seconds) { return static_cast<float>(seconds) == span; });
+  return known ? std::optional(span) : std::nullopt;
+}
+
+constexpr NumberRule kSpanRule{"one of kSpans", KnownSpan};
+constexpr NumberRule kEdgeRule{"-9999 to 9999, Low below High",
+                               [](float edge) { return std::optional(edge); }};
+
+constexpr const char* kPopUp = "history plot > settings";
+
+/// "#RRGGBB", or "Default".
+SettingValue<TraceChoice> ColourValue() {
+  SettingValue<TraceChoice> value;
+  value.Range = "#RRGGBB, Default";
+  value.Read = [](const Profile& profile, std::string_view section, std::string_view key,
+                  TraceChoice& choice) {
+    if (const auto colour = ColourOf(profile.Text(section, key))) {
+      choice.Colour = colour;
+    }
+  };
+  value.Write = [](Profile& profile, std::string_view section, std::string_view key,
+                   const TraceChoice& choice) { profile.ProfileSet(section, key, TextOf(choice.Colour)); };
+  return value;
 }
 
 }  // namespace
 
+SettingTable<TraceChoice> TraceChoiceTable(const std::string& section, const std::string& trace) {
+  return {{section, trace + " Shown", setting::Truth(&TraceChoice::Shown), "", "whether the trace is drawn",
+           kPopUp},
+          {section, trace + " Colour", ColourValue(), "", "its colour; Default for the chart's own", kPopUp}};
+}
+
+SettingTable<TraceSettings> SpanTable(const std::string& section) {
+  SettingValue<TraceSettings> span = setting::Number(&TraceSettings::Span, kSpanRule);
+  span.Range.clear();
+  for (const int seconds : kSpans) {
+    span.Range.append(span.Range.empty() ? "" : ", ").append(std::to_string(seconds));
+  }
+  return {{section, "Span", std::move(span), "s", "visible time", kPopUp}};
+}
+
+SettingTable<ScaleChoice> ScaleChoiceTable(const std::string& section, std::size_t number) {
+  const std::string scale = "Scale " + std::to_string(number);
+  return {{section, scale + " Automatic", setting::Truth(&ScaleChoice::Automatic), "",
+           "whether the scale follows its values", kPopUp},
+          {section, scale + " Low", setting::Number(&ScaleChoice::Low, kEdgeRule), "",
+           "lower edge of the fixed scale", kPopUp},
+          {section, scale + " High", setting::Number(&ScaleChoice::High, kEdgeRule), "", "its upper edge",
+           kPopUp}};
+}
+
 bool ScaleFits(float low, float high) { return low >= kLeastEdge && high <= kMostEdge && low < high; }
 
-void TraceSettingsRead(const Profile& profile, std::string_view name,
+void TraceSettingsRead(const Profile& profile, const std::string& section,
                        const std::vector<StripChartData::Trace>& traces, TraceSettings& settings) {
   for (std::size_t i = 0; i < std::min(traces.size(), settings.Traces.size()); ++i) {
-    TraceChoice& choice = settings.Traces[i];
-    profile.ProfileGet(name, traces[i].Name + " Shown", choice.Shown);
-    if (const auto colour = ColourOf(profile.Text(name, traces[i].Name + " Colour"))) {
-      choice.Colour = colour;
-    }
+    SettingsRead(TraceChoiceTable(section, traces[i].Name), profile, settings.Traces[i]);
   }
-  float span = 0.0F;
-  profile.ProfileGet(name, "Span", span);
-  const auto* const known = std::find_if(std::begin(kSpans), std::end(kSpans),
-                                         [span](int seconds) { return static_cast<float>(seconds) == span; });
-  if (known != std::end(kSpans)) {
-    settings.Span = *known;
-  }
+  SettingsRead(SpanTable(section), profile, settings);
   for (std::size_t i = 0; i < settings.Scales.size(); ++i) {
     ScaleChoice& scale = settings.Scales[i];
-    profile.ProfileGet(name, ScaleKey(i, "Automatic"), scale.Automatic);
-    float low = scale.Low;
-    float high = scale.High;
-    profile.ProfileGet(name, ScaleKey(i, "Low"), low);
-    profile.ProfileGet(name, ScaleKey(i, "High"), high);
-    if (ScaleFits(low, high)) {
-      scale.Low = low;
-      scale.High = high;
+    const ScaleChoice before = scale;
+    SettingsRead(ScaleChoiceTable(section, i + 1), profile, scale);
+    // An edge alone says nothing.
+    if (!ScaleFits(scale.Low, scale.High)) {
+      scale.Low = before.Low;
+      scale.High = before.High;
     }
   }
 }
 
-void TraceSettingsWrite(Profile& profile, std::string_view name,
+void TraceSettingsWrite(Profile& profile, const std::string& section,
                         const std::vector<StripChartData::Trace>& traces, const TraceSettings& settings) {
   for (std::size_t i = 0; i < std::min(traces.size(), settings.Traces.size()); ++i) {
-    profile.ProfileSet(name, traces[i].Name + " Shown", settings.Traces[i].Shown);
-    profile.ProfileSet(name, traces[i].Name + " Colour", TextOf(settings.Traces[i].Colour));
+    SettingsWrite(TraceChoiceTable(section, traces[i].Name), profile, settings.Traces[i]);
   }
-  profile.ProfileSet(name, "Span", static_cast<float>(settings.Span));
+  SettingsWrite(SpanTable(section), profile, settings);
   for (std::size_t i = 0; i < settings.Scales.size(); ++i) {
-    const ScaleChoice& scale = settings.Scales[i];
-    profile.ProfileSet(name, ScaleKey(i, "Automatic"), scale.Automatic);
-    profile.ProfileSet(name, ScaleKey(i, "Low"), scale.Low);
-    profile.ProfileSet(name, ScaleKey(i, "High"), scale.High);
+    SettingsWrite(ScaleChoiceTable(section, i + 1), profile, settings.Scales[i]);
   }
 }
 

@@ -3,11 +3,11 @@
 
 #include <cstdint>
 #include <optional>
-#include <string_view>
+#include <string>
 #include <vector>
 
 #include "history/StripChartData.h"
-#include "platform/Profile.h"
+#include "settings/SettingRow.h"
 
 namespace veerwatch {
 
@@ -40,14 +40,18 @@ inline constexpr float kMostEdge = 9999.0F;
 /// Whether two edges make a fixed scale: finite, in bounds and `low` below `high`.
 bool ScaleFits(float low, float high);
 
-/// Overlays what section `name` of the profile holds on settings that have their sizes and defaults already.
-/// What is missing or damaged leaves its default: a text that is no truth value, a colour other than
-/// "#RRGGBB", a span that is none of kSpans, a pair of edges that makes no scale.
-void TraceSettingsRead(const Profile& profile, std::string_view name,
+/// The keys of one trace, of the visible time and of scale `number` [1 and up] in a section.
+SettingTable<TraceChoice> TraceChoiceTable(const std::string& section, const std::string& trace);
+SettingTable<TraceSettings> SpanTable(const std::string& section);
+SettingTable<ScaleChoice> ScaleChoiceTable(const std::string& section, std::size_t number);
+
+/// Overlays what a section of the profile holds on settings that have their sizes and defaults already. What
+/// is missing or damaged leaves its default; so does a pair of edges that makes no scale.
+void TraceSettingsRead(const Profile& profile, const std::string& section,
                        const std::vector<StripChartData::Trace>& traces, TraceSettings& settings);
 
-/// Sets every key of section `name`. A colour that was not chosen is written as "Default".
-void TraceSettingsWrite(Profile& profile, std::string_view name,
+/// Sets every key of a section.
+void TraceSettingsWrite(Profile& profile, const std::string& section,
                         const std::vector<StripChartData::Trace>& traces, const TraceSettings& settings);
 
 }  // namespace veerwatch

@@ -11,13 +11,10 @@ namespace veerwatch {
 
 namespace {
 
-const char* const kSection = "History Window";
 const char* const kTraceSection = "History Trace";
 constexpr double kChartTop = 30.0;  // [twips]
 constexpr double kChartLeft = 0.0;  // [twips]
 constexpr QSize kSmallestSize(220, 180);
-/// Frames beyond this are no windows [twips].
-constexpr float kLargestPlace = 1e6F;
 constexpr int kPlaceTime = 200;  // [ms]
 
 int Pixels(double twips) { return static_cast<int>(std::lround(twips / kTwipsPerPixel)); }
@@ -52,17 +49,7 @@ frmHistory::frmHistory(const Parts& parts)
 std::uint32_t frmHistory::WindowColour() const { return palette().color(QPalette::Window).rgb() & 0xFFFFFFU; }
 
 void frmHistory::LoadPlace() {
-  const auto take = [this](const char* key, float& twips, float least) {
-    float read = twips;
-    m_parts.Store.ProfileGet(kSection, key, read);
-    if (read >= least && read <= kLargestPlace) {
-      twips = read;
-    }
-  };
-  take("Top", m_place.Top, -kLargestPlace);
-  take("Left", m_place.Left, -kLargestPlace);
-  take("Height", m_place.Height, 1.0F);
-  take("Width", m_place.Width, 1.0F);
+  SettingsRead(HistoryPlaceTable(), m_parts.Store, m_place);
   std::vector<PlaceBox> screens;
   for (const QScreen* screen : QGuiApplication::screens()) {
     const QRect free = screen->availableGeometry();
@@ -116,10 +103,7 @@ void frmHistory::ConfigurePopup() {
 
 void frmHistory::Unload() {
   NotePlace();
-  m_parts.Store.ProfileSet(kSection, "Top", m_place.Top);
-  m_parts.Store.ProfileSet(kSection, "Left", m_place.Left);
-  m_parts.Store.ProfileSet(kSection, "Height", m_place.Height);
-  m_parts.Store.ProfileSet(kSection, "Width", m_place.Width);
+  SettingsWrite(HistoryPlaceTable(), m_parts.Store, m_place);
   m_chart->TraceSettingsSave(kTraceSection, m_parts.Store);
 }
 

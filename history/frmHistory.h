@@ -10,6 +10,7 @@
 #include <string_view>
 
 #include "draw/WindowPlace.h"
+#include "history/HistoryPlace.h"
 #include "history/StripChartQt.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
@@ -52,14 +53,6 @@ class frmHistory final : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
-  /// The window's frame as the profile keeps it [twips].
-  struct Place {
-    float Top = 0.0F;
-    float Left = 0.0F;
-    float Height = 4000.0F;
-    float Width = 4000.0F;
-  };
-
   std::uint32_t WindowColour() const;
   void LoadPlace();
   void FitFrame();
@@ -69,7 +62,7 @@ class frmHistory final : public QWidget {
   Parts m_parts;
   StripChart* m_chart;
   QFrame* m_line;  ///< across the top
-  Place m_place;
+  HistoryPlace m_place;
   /// Runs from the latest move on: the desktop may tell only afterwards that it was no move by hand.
   QTimer m_placeTimer{this};
   QRect m_wanted;         ///< the frame that was loaded [px]

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <limits>
 
-#include "instruments/MathLib.h"
 #include "platform/NumberText.h"
+#include "settings/SettingRule.h"
 
 namespace veerwatch {
 

@@ -18,11 +18,6 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 /// Only the letters of ASCII have a case, whatever the user's language.
 char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
-bool SameName(std::string_view a, std::string_view b) {
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                    [](char x, char y) { return Lower(x) == Lower(y); });
-}
-
 /// Text of two bytes a character, as some editors save it.
 bool IsWideText(std::string_view content) {
   return content.starts_with("\xFF\xFE") || content.starts_with("\xFE\xFF");
@@ -85,6 +80,11 @@ std::optional<std::string> ReadWhole(const std::filesystem::path& file) {
 }
 
 }  // namespace
+
+bool SameName(std::string_view a, std::string_view b) {
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](char x, char y) { return Lower(x) == Lower(y); });
+}
 
 Profile::LoadResult Profile::Load(const std::filesystem::path& file) {
   *this = Profile();

@@ -13,6 +13,9 @@
 
 namespace veerwatch {
 
+/// Whether two names are the same but for the case of their letters A to Z, in every locale.
+bool SameName(std::string_view a, std::string_view b);
+
 class Profile {
  public:
   /// Characters of a value that ProfileGet looks at.

@@ -1,98 +1,103 @@
 #include "polar/PolarSettings.h"
 
-#include "instruments/MathLib.h"
-
 namespace veerwatch {
 
 namespace {
 
-constexpr const char* kData = "Polar Data";
-constexpr const char* kWindow = "Polar Window";
-constexpr float kLastColor = 16777215.0F;
+using namespace setting;
+using P = PolarSettings;
 
-/// A number that `fits`, else `value` stays.
-template <class Fits>
-void GetNumber(const Profile& profile, const char* key, float& value, Fits fits) {
-  float number = value;
-  profile.ProfileGet(kData, key, number);
-  if (fits(number)) {
-    value = number;
-  }
+constexpr const char* kData = "Polar Data";
+/// A window place's key that is not there.
+constexpr std::int16_t kNoPlace = INT16_MIN;
+
+SettingTable<P> Plot() {
+  return {
+      {kData, "File 1", Text(Element{&P::File, 0}, "a path"), "",
+       "the polar; a file in the program's folder without the folder", "polar plot > Polars"},
+      {kData, "File 2", Text(Element{&P::File, 1}, "a path"), "", "its reference, likewise",
+       "polar plot > Polars"},
+      {kData, "Plot Average", Number(&P::PlotAverage, kAverageCount), "s",
+       "averaging count of what the window shows, 0 for none", "polar plot > Average"},
+      {kData, "Plot Label WindSpeed", Truth(&P::PlotLabelWindSpeed), "", "a wind speed on each curve",
+       "polar plot > Wind"},
+      {kData, "Plot Type", Choice(&P::Type, PlotType::ApparentWind), "", "0 true wind, 1 apparent wind",
+       "polar plot > Wind"},
+      {kData, "Speed Color", Number(&P::SpeedColor, kColour24), "",
+       "colour of the curves: red + 256 * green + 65536 * blue; 0 the foreground colour",
+       "polar plot > Polars"},
+      {kData, "Speed Factor", Number(&P::SpeedFactor, kAboveZero), "", "multiplies the speeds of the file",
+       "polar plot > Polars"},
+      {kData, "Speed Range", Number(&P::SpeedRange, kAboveZero), "kn", "speed at the outer ring",
+       "polar plot > Range"},
+  };
 }
 
-bool Positive(float number) { return number > 0.0F; }
-
-/// An enumeration of whole numbers from 0 to `last`.
-template <class Enumeration>
-void GetChoice(const Profile& profile, const char* key, Enumeration& value, Enumeration last) {
-  auto number = static_cast<std::int16_t>(value);
-  profile.ProfileGet(kData, key, number, 0, static_cast<std::int16_t>(last));
-  value = static_cast<Enumeration>(number);
+SettingTable<P> Course() {
+  return {
+      {kData, "Course Scale", Truth(&P::CourseScale), "", "projections follow the present boat speed",
+       "polar plot > Course"},
+      {kData, "Course Target Bearing", Number(&P::CourseTargetBearing, kBearing), "deg magnetic",
+       "the bearing to steer to", "polar plot > Course"},
+      {kData, "Course Waypoint", Truth(&P::CourseWaypoint), "", "a course is chosen", "polar plot > Course"},
+      {kData, "Course Waypoint Index", Choice(&P::CourseWaypointIndex, CourseSource::None), "",
+       "0 target bearing, 1 waypoint bearing, 2 range and bearing, 3 none", "polar plot > Course"},
+      {kData, "Boat Motor Speed", Number(&P::BoatMotorSpeed, kAnyNumber), "kn", "speed under motor",
+       "polar plot > Boat"},
+      {kData, "Boat Type", Choice(&P::Boat, BoatType::MotorAndSail), "", "0 sail only, 1 motor and sail",
+       "polar plot > Boat"},
+      {kData, "Smooth Between Winds", Truth(&P::SmoothWinds), "",
+       "boat speeds lie on straight lines between the two neighbouring wind speeds", "polar plot > Polars"},
+  };
 }
 
 }  // namespace
 
+const SettingTable<PolarSettings>& PolarSettingsTable() {
+  static const SettingTable<P> kTable = [] {
+    SettingTable<P> table = Plot();
+    const SettingTable<P> course = Course();
+    table.insert(table.end(), course.begin(), course.end());
+    return table;
+  }();
+  return kTable;
+}
+
+const SettingTable<WindowPlace>& PolarPlaceTable() {
+  constexpr const char* kWindow = "Polar Window";
+  constexpr const char* kByHand = "by moving and sizing it";
+  constexpr std::int16_t kLeast = kNoPlace + 1;
+  static const SettingTable<WindowPlace> kTable{
+      {kWindow, "Top", Whole(&WindowPlace::Top, kLeast, INT16_MAX), "px",
+       "place of the polar window; all four keys or none", kByHand},
+      {kWindow, "Left", Whole(&WindowPlace::Left, kLeast, INT16_MAX), "px", "likewise", kByHand},
+      {kWindow, "Height", Whole(&WindowPlace::Height, kLeast, INT16_MAX), "px", "likewise, above 0", kByHand},
+      {kWindow, "Width", Whole(&WindowPlace::Width, kLeast, INT16_MAX), "px", "likewise, above 0", kByHand}};
+  return kTable;
+}
+
 void PolarRecall(const Profile& profile, PolarSettings& settings) {
-  profile.ProfileGet(kData, "File 1", settings.File[0]);
-  profile.ProfileGet(kData, "File 2", settings.File[1]);
-  GetNumber(profile, "Plot Average", settings.PlotAverage, IsAverageCount);
-  profile.ProfileGet(kData, "Plot Label WindSpeed", settings.PlotLabelWindSpeed);
-  GetChoice(profile, "Plot Type", settings.Type, PlotType::ApparentWind);
-  // Every colour of 24 bits is a whole single.
-  auto color = static_cast<float>(settings.SpeedColor);
-  GetNumber(profile, "Speed Color", color, [](float value) { return value >= 0.0F && value <= kLastColor; });
-  settings.SpeedColor = static_cast<std::uint32_t>(color);
-  GetNumber(profile, "Speed Factor", settings.SpeedFactor, Positive);
-  GetNumber(profile, "Speed Range", settings.SpeedRange, Positive);
-  profile.ProfileGet(kData, "Course Scale", settings.CourseScale);
-  profile.ProfileGet(kData, "Course Target Bearing", settings.CourseTargetBearing);
-  settings.CourseTargetBearing = FoldBearing(static_cast<double>(settings.CourseTargetBearing));
-  profile.ProfileGet(kData, "Course Waypoint", settings.CourseWaypoint);
-  GetChoice(profile, "Course Waypoint Index", settings.CourseWaypointIndex, CourseSource::None);
-  profile.ProfileGet(kData, "Boat Motor Speed", settings.BoatMotorSpeed);
-  GetChoice(profile, "Boat Type", settings.Boat, BoatType::MotorAndSail);
-  profile.ProfileGet(kData, "Smooth Between Winds", settings.SmoothWinds);
+  SettingsRead(PolarSettingsTable(), profile, settings);
+}
+
+void PolarStore(Profile& profile, PolarSettings settings, const std::filesystem::path& programFolder) {
+  for (std::string& file : settings.File) {
+    file = WithoutFolder(file, programFolder);
+  }
+  SettingsWrite(PolarSettingsTable(), profile, settings);
 }
 
 std::optional<WindowPlace> PolarPlaceRecall(const Profile& profile) {
-  WindowPlace place;
-  for (const auto& [key, value] : {std::pair{"Top", &place.Top}, std::pair{"Left", &place.Left},
-                                   std::pair{"Height", &place.Height}, std::pair{"Width", &place.Width}}) {
-    *value = INT16_MIN;
-    profile.ProfileGet(kWindow, key, *value, INT16_MIN + 1);
-    if (*value == INT16_MIN) {
-      return std::nullopt;
-    }
-  }
-  if (place.Height <= 0 || place.Width <= 0) {
+  WindowPlace place{kNoPlace, kNoPlace, kNoPlace, kNoPlace};
+  SettingsRead(PolarPlaceTable(), profile, place);
+  if (place.Top == kNoPlace || place.Left == kNoPlace || place.Height <= 0 || place.Width <= 0) {
     return std::nullopt;
   }
   return place;
 }
 
-void PolarStore(Profile& profile, const PolarSettings& settings, const std::filesystem::path& programFolder) {
-  profile.ProfileSet(kData, "File 1", WithoutFolder(settings.File[0], programFolder));
-  profile.ProfileSet(kData, "File 2", WithoutFolder(settings.File[1], programFolder));
-  profile.ProfileSet(kData, "Plot Average", settings.PlotAverage);
-  profile.ProfileSet(kData, "Plot Label WindSpeed", settings.PlotLabelWindSpeed);
-  profile.ProfileSet(kData, "Plot Type", static_cast<std::int16_t>(settings.Type));
-  profile.ProfileSet(kData, "Speed Color", static_cast<float>(settings.SpeedColor));
-  profile.ProfileSet(kData, "Speed Factor", settings.SpeedFactor);
-  profile.ProfileSet(kData, "Speed Range", settings.SpeedRange);
-  profile.ProfileSet(kData, "Course Scale", settings.CourseScale);
-  profile.ProfileSet(kData, "Course Target Bearing", settings.CourseTargetBearing);
-  profile.ProfileSet(kData, "Course Waypoint", settings.CourseWaypoint);
-  profile.ProfileSet(kData, "Course Waypoint Index", static_cast<std::int16_t>(settings.CourseWaypointIndex));
-  profile.ProfileSet(kData, "Boat Motor Speed", settings.BoatMotorSpeed);
-  profile.ProfileSet(kData, "Boat Type", static_cast<std::int16_t>(settings.Boat));
-  profile.ProfileSet(kData, "Smooth Between Winds", settings.SmoothWinds);
-}
-
 void PolarPlaceStore(Profile& profile, const WindowPlace& place) {
-  profile.ProfileSet(kWindow, "Top", place.Top);
-  profile.ProfileSet(kWindow, "Left", place.Left);
-  profile.ProfileSet(kWindow, "Height", place.Height);
-  profile.ProfileSet(kWindow, "Width", place.Width);
+  SettingsWrite(PolarPlaceTable(), profile, place);
 }
 
 std::string WithoutFolder(const std::string& file, const std::filesystem::path& programFolder) {

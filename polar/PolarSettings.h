@@ -7,8 +7,8 @@
 #include <optional>
 #include <string>
 
-#include "platform/Profile.h"
 #include "polar/PolarTable.h"
+#include "settings/SettingRow.h"
 
 namespace veerwatch {
 
@@ -51,14 +51,18 @@ struct WindowPlace {
   std::int16_t Width = 0;
 };
 
-/// Overlays what section "Polar Data" holds; what is missing, unreadable or out of range stays.
+/// The keys of section "Polar Data" and of the place in section "Polar Window".
+const SettingTable<PolarSettings>& PolarSettingsTable();
+const SettingTable<WindowPlace>& PolarPlaceTable();
+
+/// Overlays what the profile holds; what is missing, unreadable or out of range stays.
 void PolarRecall(const Profile& profile, PolarSettings& settings);
 
-/// The place in section "Polar Window"; nothing unless all four keys are there with a size above 0.
+/// The place in the profile; nothing unless all four keys are there with a size above 0.
 std::optional<WindowPlace> PolarPlaceRecall(const Profile& profile);
 
 /// Sets every key. A file inside `programFolder` is written without that folder.
-void PolarStore(Profile& profile, const PolarSettings& settings, const std::filesystem::path& programFolder);
+void PolarStore(Profile& profile, PolarSettings settings, const std::filesystem::path& programFolder);
 void PolarPlaceStore(Profile& profile, const WindowPlace& place);
 
 /// `file` without `programFolder` in front of it.

@@ -1,30 +1,43 @@
 #include "tack/TackSettings.h"
 
-#include <cstddef>
 #include <string>
 
 namespace veerwatch {
 
 namespace {
 
-constexpr const char* kSection = "Tack Data";
+using namespace setting;
 
-std::string Key(const char* name, std::size_t kind) { return std::string(name) + std::to_string(kind); }
+void AddKind(SettingTable<TackSettings>& table, std::size_t kind, const std::string& when) {
+  constexpr const char* kSection = "Tack Data";
+  constexpr const char* kDialog = "Steer, Tack and Jibe";
+  const std::string number = std::to_string(kind);
+  table.push_back({kSection, "Rate " + number, Number(Element{&TackSettings::Rate, kind}, kAnyNumber),
+                   "deg/s", "rate of change when " + when + "; 0 or less turns at 10", kDialog});
+  table.push_back({kSection, "Overshoot " + number,
+                   Number(Element{&TackSettings::Overshoot, kind}, kAnyNumber), "deg",
+                   "how far to turn past the new heading when " + when, kDialog});
+}
 
 }  // namespace
 
+const SettingTable<TackSettings>& TackSettingsTable() {
+  static const SettingTable<TackSettings> kTable = [] {
+    SettingTable<TackSettings> table;
+    AddKind(table, 1, "steering");
+    AddKind(table, 2, "tacking");
+    AddKind(table, 3, "jibing");
+    return table;
+  }();
+  return kTable;
+}
+
 void TackRecall(const Profile& profile, TackSettings& settings) {
-  for (std::size_t kind = 1; kind < settings.Rate.size(); ++kind) {
-    profile.ProfileGet(kSection, Key("Rate ", kind), settings.Rate[kind]);
-    profile.ProfileGet(kSection, Key("Overshoot ", kind), settings.Overshoot[kind]);
-  }
+  SettingsRead(TackSettingsTable(), profile, settings);
 }
 
 void TackStore(Profile& profile, const TackSettings& settings) {
-  for (std::size_t kind = 1; kind < settings.Rate.size(); ++kind) {
-    profile.ProfileSet(kSection, Key("Rate ", kind), settings.Rate[kind]);
-    profile.ProfileSet(kSection, Key("Overshoot ", kind), settings.Overshoot[kind]);
-  }
+  SettingsWrite(TackSettingsTable(), profile, settings);
 }
 
 }  // namespace veerwatch

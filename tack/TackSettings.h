@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "platform/Profile.h"
+#include "settings/SettingRow.h"
 
 namespace veerwatch {
 
@@ -13,10 +13,13 @@ struct TackSettings {
   std::array<float, 4> Rate{0.0F, 5.0F, 10.0F, 5.0F};      ///< of change [deg/s]
 };
 
-/// Overlays what "Tack Data" holds.
+/// The keys of section "Tack Data".
+const SettingTable<TackSettings>& TackSettingsTable();
+
+/// Overlays what the profile holds.
 void TackRecall(const Profile& profile, TackSettings& settings);
 
-/// Sets every key of "Tack Data".
+/// Sets every key.
 void TackStore(Profile& profile, const TackSettings& settings);
 
 }  // namespace veerwatch

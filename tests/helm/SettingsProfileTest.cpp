@@ -203,6 +203,10 @@ TEST(SettingsProfile, TheSimulatedTimeAndTheModeAreNotKept) {
   EXPECT_EQ(profile.Content().find("Mode"), std::string::npos);
 }
 
+TEST(SettingsProfile, ADampingBelowZeroIsRead) {
+  EXPECT_EQ(ReadFrom(With("Track", "Damping", "-0.5")).m_fTrackDamping, -0.5F);
+}
+
 TEST(SettingsProfile, AnglesAreFoldedWhenRead) {
   EXPECT_EQ(ReadFrom(With("Pilot", "Bearing", "-90")).m_fAutoPilot, 270.0F);
   EXPECT_EQ(ReadFrom(With("Pilot", "Bearing", "360")).m_fAutoPilot, 0.0F);
@@ -283,6 +287,23 @@ TEST(SettingsProfile, WhetherTheWindowsAreOpenIsWritten) {
   ProfileWrite(profile, Settings{}, windows);
   EXPECT_EQ(profile.Text("History Window", "Visible"), "False");
   EXPECT_EQ(profile.Text("Polar Window", "Visible"), "True");
+}
+
+TEST(SettingsProfile, AFreshProfileHasEveryKeyInItsOrder) {
+  Profile profile;
+  ProfileWrite(profile, Settings{}, Windows{});
+  EXPECT_EQ(profile.Content(),
+            "[Nmea]\nBoat Speed=1\nHeading=1\nPort=5\nSentence HDG=True\nSentence HVM=True\n"
+            "Sentence MWV=True\nSentence RMB=True\nSentence RMC=True\nSentence VHW=True\n"
+            "Sentence VTG=True\nTrue Wind=1\nTrue Wind Average=2\nWind Indicator Average=60\n\n"
+            "[Pilot]\nPort=5\nBearing=40\n\n"
+            "[Simulate]\nNmea=False\nBoat Speed=8\nCompass Offset=10\nNoise Angle=4\nNoise Speed=2\n"
+            "True Wind Angle=0\nTrue Wind Speed=12\nVariation=11\nWaypoint Bearing=5\n"
+            "Waypoint Range=10\n\n"
+            "[Track]\nAlarm=True\nAlarm Limit=5\nBandwidth=20\nDamping=4\nDesired 1=45\n"
+            "Desired 2=92\nMax SteerTo=10\n\n"
+            "[View]\nNight Colours=False\nSave While Running=False\n\n"
+            "[History Window]\nVisible=False\n\n[Polar Window]\nVisible=False\n");
 }
 
 TEST(SettingsProfile, WritingKeepsWhatTheProgramDoesNotOwn) {

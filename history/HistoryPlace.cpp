@@ -1,0 +1,33 @@
+#include "history/HistoryPlace.h"
+
+namespace veerwatch {
+
+namespace {
+
+/// Frames beyond this are no windows [twips].
+constexpr float kLargest = 1e6F;
+
+std::optional<float> Within(float number, float least) {
+  return number >= least && number <= kLargest ? std::optional(number) : std::nullopt;
+}
+
+constexpr NumberRule kPosition{"-1000000 to 1000000", [](float twips) { return Within(twips, -kLargest); }};
+constexpr NumberRule kSize{"1 to 1000000", [](float twips) { return Within(twips, 1.0F); }};
+
+}  // namespace
+
+const SettingTable<HistoryPlace>& HistoryPlaceTable() {
+  using setting::Number;
+  constexpr const char* kWindow = "History Window";
+  constexpr const char* kUnit = "twips";
+  constexpr const char* kByHand = "by moving and sizing it";
+  static const SettingTable<HistoryPlace> kTable{
+      {kWindow, "Top", Number(&HistoryPlace::Top, kPosition), kUnit,
+       "frame of the history window; a twip is 1/15 of a pixel at 100 %", kByHand},
+      {kWindow, "Left", Number(&HistoryPlace::Left, kPosition), kUnit, "likewise", kByHand},
+      {kWindow, "Height", Number(&HistoryPlace::Height, kSize), kUnit, "likewise", kByHand},
+      {kWindow, "Width", Number(&HistoryPlace::Width, kSize), kUnit, "likewise", kByHand}};
+  return kTable;
+}
+
+}  // namespace veerwatch

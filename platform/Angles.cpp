@@ -1,0 +1,39 @@
+#include "platform/Angles.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace veerwatch {
+
+double AngleRelative(double Angle) {
+  if (Angle > 180.0) {
+    return Angle - 360.0;
+  }
+  return Angle <= -180.0 ? Angle + 360.0 : Angle;
+}
+
+double AngleAbsolute(double Angle) {
+  if (Angle < 0.0) {
+    return Angle + 360.0;
+  }
+  return Angle >= 360.0 ? Angle - 360.0 : Angle;
+}
+
+float FoldBearing(double Angle) {
+  const float bearing = ToSingle(AngleAbsolute(std::fmod(Angle, 360.0)));
+  // An angle just below 0 lands so close to 360 that the single is 360; adding 0 turns -0 into 0.
+  return bearing >= 360.0F ? 0.0F : bearing + 0.0F;
+}
+
+float FoldRelative(double Angle) {
+  return ToSingle(AngleRelative(static_cast<double>(ToSingle(AngleRelative(std::fmod(Angle, 360.0)))))) +
+         0.0F;
+}
+
+float ToSingle(double value) {
+  constexpr double kLargest = static_cast<double>(std::numeric_limits<float>::max());
+  return static_cast<float>(std::clamp(value, -kLargest, kLargest));
+}
+
+}  // namespace veerwatch

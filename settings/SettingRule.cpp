@@ -1,0 +1,33 @@
+#include "settings/SettingRule.h"
+
+#include "platform/Angles.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr float kLastColour = 16777215.0F;
+
+std::optional<float> If(bool allowed, float number) { return allowed ? std::optional(number) : std::nullopt; }
+
+std::optional<float> Any(float number) { return number; }
+std::optional<float> FromZero(float number) { return If(number >= 0.0F, number); }
+std::optional<float> AboveZero(float number) { return If(number > 0.0F, number); }
+std::optional<float> AverageCount(float number) { return If(IsAverageCount(number), number); }
+std::optional<float> Colour24(float number) { return If(number >= 0.0F && number <= kLastColour, number); }
+std::optional<float> Bearing(float number) { return FoldBearing(static_cast<double>(number)); }
+std::optional<float> Relative(float number) { return FoldRelative(static_cast<double>(number)); }
+
+}  // namespace
+
+constinit const NumberRule kAnyNumber{"any number", Any};
+constinit const NumberRule kFromZero{"0 and above", FromZero};
+constinit const NumberRule kAboveZero{"above 0", AboveZero};
+constinit const NumberRule kAverageCount{"0, or above 0.5", AverageCount};
+constinit const NumberRule kColour24{"0 to 16777215", Colour24};
+constinit const NumberRule kBearing{"any, folded into [0, 360)", Bearing};
+constinit const NumberRule kRelative{"any, folded into (-180, 180]", Relative};
+
+bool IsAverageCount(float count) { return count == 0.0F || count > 0.5F; }
+
+}  // namespace veerwatch

@@ -1,0 +1,128 @@
+#include "settings/SettingsTable.h"
+
+namespace veerwatch {
+
+namespace {
+
+using namespace setting;
+
+constexpr const char* kInput = "Options > Input";
+constexpr const char* kData = "Options > Data";
+constexpr const char* kOutput = "Options > Output";
+constexpr const char* kSimulate = "Options > Simulate";
+constexpr const char* kTracking = "Options > Tracking";
+constexpr const char* kMainWindow = "main window";
+constexpr const char* kViewMenu = "View menu";
+
+constexpr std::int16_t kLastSource = 1;
+constexpr std::int16_t kFirstPort = 1;
+
+using S = Settings;
+
+SettingTable<S> Nmea() {
+  const char* section = "Nmea";
+  return {
+      {section, "Boat Speed", Choice(&S::m_iNmeaBoatSpeed, kLastSource), "",
+       "0 speed over water, 1 over ground", kData},
+      {section, "Heading", Choice(&S::m_iNmeaHeading, kLastSource), "",
+       "0 compass heading, 1 course over ground", kData},
+      {section, "Port", Whole(&S::m_iNmeaPort, kFirstPort, INT16_MAX), "", "number of the instrument port",
+       kInput},
+      {section, "Sentence HDG", Truth(&S::m_bNmeaSentenceHDG), "", "whether HDG is decoded", kData},
+      {section, "Sentence HVM", Truth(&S::m_bNmeaSentenceHVM), "", "whether HVM is decoded", kData},
+      {section, "Sentence MWV", Truth(&S::m_bNmeaSentenceMWV), "", "whether MWV is decoded", kData},
+      {section, "Sentence RMB", Truth(&S::m_bNmeaSentenceRMB), "", "whether RMB is decoded", kData},
+      {section, "Sentence RMC", Truth(&S::m_bNmeaSentenceRMC), "", "whether RMC is decoded", kData},
+      {section, "Sentence VHW", Truth(&S::m_bNmeaSentenceVHW), "", "whether VHW is decoded", kData},
+      {section, "Sentence VTG", Truth(&S::m_bNmeaSentenceVTG), "", "whether VTG is decoded", kData},
+      {section, "True Wind", Choice(&S::m_iNmeaTrueWind, kLastSource), "",
+       "0 from a sensor, 1 computed from the boat speed", kData},
+      {section, "True Wind Average", Number(&S::m_fNmeaTrueWindAverage, kAverageCount), "samples",
+       "averaging count of the record, 0 for none", kData},
+      {section, "Wind Indicator Average", Number(&S::m_fNmeaWindIndicatorAverage, kAverageCount), "samples",
+       "averaging count of the wind in the window's title; written and never read", kData,
+       SettingUse::WrittenOnly},
+  };
+}
+
+SettingTable<S> Pilot() {
+  return {
+      {"Pilot", "Port", Whole(&S::m_iPilotPort, kFirstPort, INT16_MAX), "",
+       "number of the pilot port; the same as the instruments': one port both ways", kOutput},
+      {"Pilot", "Bearing", Number(&S::m_fAutoPilot, kBearing), "deg magnetic", "autopilot bearing",
+       kMainWindow},
+  };
+}
+
+SettingTable<S> Simulate() {
+  const char* section = "Simulate";
+  return {
+      {section, "Nmea", Truth(&S::m_bSimulate), "", "simulate instead of the instrument port", kSimulate},
+      {section, "Boat Speed", Number(&S::m_fSimulateBoatSpeed, kAnyNumber), "kn", "the boat's speed",
+       kSimulate},
+      {section, "Compass Offset", Number(&S::m_fSimulateCompassOffset, kAnyNumber), "deg",
+       "what the compass shows more than the autopilot was told", kSimulate},
+      {section, "Noise Angle", Number(&S::m_fSimulateNoiseAngle, kAnyNumber), "deg",
+       "full width of the angles' noise", kSimulate},
+      {section, "Noise Speed", Number(&S::m_fSimulateNoiseSpeed, kAnyNumber), "kn",
+       "full width of the speeds' noise", kSimulate},
+      {section, "True Wind Angle", Number(&S::m_fSimulateTrueWindAngle, kAnyNumber), "deg true",
+       "direction that the wind blows from", kSimulate},
+      {section, "True Wind Speed", Number(&S::m_fSimulateTrueWindSpeed, kAnyNumber), "kn",
+       "speed of the true wind", kSimulate},
+      {section, "Variation", Number(&S::m_fSimulateVariation, kAnyNumber), "deg",
+       "magnetic variation, east positive", kSimulate},
+      {section, "Waypoint Bearing", Number(&S::m_fSimulateWaypointBearing, kAnyNumber), "deg magnetic",
+       "bearing of the waypoint from where the boat starts", kSimulate},
+      {section, "Waypoint Range", Number(&S::m_fSimulateWaypointRange, kAnyNumber), "nm",
+       "range of the waypoint from where the boat starts", kSimulate},
+  };
+}
+
+SettingTable<S> Track() {
+  const char* section = "Track";
+  return {
+      {section, "Alarm", Truth(&S::m_bTrackAlarm), "", "alarm on a wind angle that runs away", kTracking},
+      {section, "Alarm Limit", Number(&S::m_fTrackAlarmLimit, kFromZero), "deg",
+       "the error that the alarm goes off beyond", kTracking},
+      {section, "Bandwidth", Number(&S::m_fTrackBandwidth, kAboveZero), "s", "time constant of the loop",
+       kTracking},
+      {section, "Damping", Number(&S::m_fTrackDamping, kFromZero, kAnyNumber), "",
+       "damping ratio of the loop", kTracking},
+      {section, "Desired 1", Number(Element{&S::DesiredAngle, 1}, kRelative), "deg",
+       "desired apparent wind angle", kMainWindow},
+      {section, "Desired 2", Number(Element{&S::DesiredAngle, 2}, kRelative), "deg",
+       "desired true wind angle", kMainWindow},
+      {section, "Max SteerTo", Number(&S::m_fTrackMaxSteerTo, kAnyNumber), "deg",
+       "largest steering change without a question", kTracking},
+  };
+}
+
+SettingTable<S> View() {
+  return {
+      {"View", "Night Colours", Truth(&S::m_bNightColours), "",
+       "red on black in every window; File > Default leaves it", kViewMenu},
+      {"View", "Save While Running", Truth(&S::m_bSaveWhileRunning), "",
+       "settings are also saved ten seconds after a change; the bearing and the wanted angles go along and "
+       "set "
+       "nothing off",
+       kViewMenu},
+  };
+}
+
+SettingTable<S> All() {
+  SettingTable<S> all;
+  for (const auto& section : {Nmea(), Pilot(), Simulate(), Track(), View()}) {
+    all.insert(all.end(), section.begin(), section.end());
+  }
+  return all;
+}
+
+}  // namespace
+
+const SettingTable<Settings>& SettingsTable() {
+  static const SettingTable<Settings> kTable = All();
+  return kTable;
+}
+
+}  // namespace veerwatch
