@@ -23,10 +23,10 @@ const SettingTable<HistoryPlace>& HistoryPlaceTable() {
   constexpr const char* kByHand = "by moving and sizing it";
   static const SettingTable<HistoryPlace> kTable{
       {kWindow, "Top", Number(&HistoryPlace::Top, kPosition), kUnit,
-       "frame of the history window; a twip is 1/15 of a pixel at 100 %", kByHand},
-      {kWindow, "Left", Number(&HistoryPlace::Left, kPosition), kUnit, "likewise", kByHand},
-      {kWindow, "Height", Number(&HistoryPlace::Height, kSize), kUnit, "likewise", kByHand},
-      {kWindow, "Width", Number(&HistoryPlace::Width, kSize), kUnit, "likewise", kByHand}};
+       "place of the history window; a twip is 1/15 of a pixel at 100 %", kByHand},
+      {kWindow, "Left", Number(&HistoryPlace::Left, kPosition), kUnit, "from the left", kByHand},
+      {kWindow, "Height", Number(&HistoryPlace::Height, kSize), kUnit, "height of the frame", kByHand},
+      {kWindow, "Width", Number(&HistoryPlace::Width, kSize), kUnit, "width of the frame", kByHand}};
   return kTable;
 }
 

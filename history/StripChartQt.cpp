@@ -109,15 +109,7 @@ void StripChart::GroupColourSet(std::int16_t number, std::uint32_t colour) {
 
 void StripChart::Regroup() {
   m_groups = GroupTraces(m_data.Traces(), m_titles);
-  m_settings.Scales.assign(m_titles.size() + 1, ScaleChoice());
-  for (const TraceGroup& group : m_groups) {
-    ScaleChoice& scale = m_settings.Scales[static_cast<std::size_t>(group.Scale)];
-    if (group.Kind == ScaleKind::Relative) {
-      scale = {true, -180.0F, 180.0F};
-    } else if (group.Kind == ScaleKind::Compass) {
-      scale = {true, 0.0F, 360.0F};
-    }
-  }
+  m_settings.Scales = DefaultScales(m_groups, m_titles.size() + 1);
   m_popup.reset();
   Changed();
 }

@@ -87,6 +87,19 @@ SettingTable<ScaleChoice> ScaleChoiceTable(const std::string& section, std::size
            kPopUp}};
 }
 
+std::vector<ScaleChoice> DefaultScales(const std::vector<TraceGroup>& groups, std::size_t count) {
+  std::vector<ScaleChoice> scales(count);
+  for (const TraceGroup& group : groups) {
+    ScaleChoice& scale = scales[static_cast<std::size_t>(group.Scale)];
+    if (group.Kind == ScaleKind::Relative) {
+      scale = {true, -180.0F, 180.0F};
+    } else if (group.Kind == ScaleKind::Compass) {
+      scale = {true, 0.0F, 360.0F};
+    }
+  }
+  return scales;
+}
+
 bool ScaleFits(float low, float high) { return low >= kLeastEdge && high <= kMostEdge && low < high; }
 
 void TraceSettingsRead(const Profile& profile, const std::string& section,

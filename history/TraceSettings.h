@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "history/StripChartData.h"
+#include "history/TraceGroups.h"
 #include "settings/SettingRow.h"
 
 namespace veerwatch {
@@ -39,6 +40,10 @@ inline constexpr float kMostEdge = 9999.0F;
 
 /// Whether two edges make a fixed scale: finite, in bounds and `low` below `high`.
 bool ScaleFits(float low, float high);
+
+/// The scales [0, count) of a chart before anybody chose: -180 to 180 for angles to the bow, 0 to 360 for
+/// directions, 0 to 20 for the others.
+std::vector<ScaleChoice> DefaultScales(const std::vector<TraceGroup>& groups, std::size_t count);
 
 /// The keys of one trace, of the visible time and of scale `number` [1 and up] in a section.
 SettingTable<TraceChoice> TraceChoiceTable(const std::string& section, const std::string& trace);

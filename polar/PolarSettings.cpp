@@ -13,9 +13,8 @@ constexpr std::int16_t kNoPlace = INT16_MIN;
 
 SettingTable<P> Plot() {
   return {
-      {kData, "File 1", Text(Element{&P::File, 0}, "a path"), "",
-       "the polar; a file in the program's folder without the folder", "polar plot > Polars"},
-      {kData, "File 2", Text(Element{&P::File, 1}, "a path"), "", "its reference, likewise",
+      {kData, "File 1", Text(Element{&P::File, 0}, "a path"), "", "the main polar", "polar plot > Polars"},
+      {kData, "File 2", Text(Element{&P::File, 1}, "a path"), "", "the polar that is shown as reference",
        "polar plot > Polars"},
       {kData, "Plot Average", Number(&P::PlotAverage, kAverageCount), "s",
        "averaging count of what the window shows, 0 for none", "polar plot > Average"},
@@ -66,13 +65,15 @@ const SettingTable<PolarSettings>& PolarSettingsTable() {
 const SettingTable<WindowPlace>& PolarPlaceTable() {
   constexpr const char* kWindow = "Polar Window";
   constexpr const char* kByHand = "by moving and sizing it";
-  constexpr std::int16_t kLeast = kNoPlace + 1;
+  const auto pixels = [](std::int16_t WindowPlace::*member) {
+    return Whole(member, kNoPlace + 1, INT16_MAX);
+  };
   static const SettingTable<WindowPlace> kTable{
-      {kWindow, "Top", Whole(&WindowPlace::Top, kLeast, INT16_MAX), "px",
-       "place of the polar window; all four keys or none", kByHand},
-      {kWindow, "Left", Whole(&WindowPlace::Left, kLeast, INT16_MAX), "px", "likewise", kByHand},
-      {kWindow, "Height", Whole(&WindowPlace::Height, kLeast, INT16_MAX), "px", "likewise, above 0", kByHand},
-      {kWindow, "Width", Whole(&WindowPlace::Width, kLeast, INT16_MAX), "px", "likewise, above 0", kByHand}};
+      {kWindow, "Top", pixels(&WindowPlace::Top), "px", "place of the polar window; all four keys or none",
+       kByHand},
+      {kWindow, "Left", pixels(&WindowPlace::Left), "px", "from the left", kByHand},
+      {kWindow, "Height", pixels(&WindowPlace::Height), "px", "inner height, above 0", kByHand},
+      {kWindow, "Width", pixels(&WindowPlace::Width), "px", "inner width, above 0", kByHand}};
   return kTable;
 }
 

@@ -96,6 +96,14 @@ TEST_F(TraceSettingsTest, NoSpanOrColourThatIsNoneIsTaken) {
   }
 }
 
+TEST(DefaultScales, AreThoseOfTheKindOfTheirTraces) {
+  const std::vector<ScaleChoice> scales =
+      DefaultScales({{0, 0, ScaleKind::Linear}, {1, 2, ScaleKind::Relative}, {1, 3, ScaleKind::Compass}}, 4);
+  EXPECT_EQ(scales,
+            (std::vector<ScaleChoice>{
+                {true, 0.0F, 20.0F}, {true, 0.0F, 20.0F}, {true, -180.0F, 180.0F}, {true, 0.0F, 360.0F}}));
+}
+
 TEST(ScaleFits, WantsTwoEdgesInOrderAndInBounds) {
   EXPECT_TRUE(ScaleFits(0.0F, 20.0F));
   EXPECT_TRUE(ScaleFits(-9999.0F, 9999.0F));
