@@ -9,7 +9,6 @@ namespace veerwatch {
 namespace {
 
 constexpr int kSilentTicks = 4;
-constexpr int kReopenTicks = 4;
 constexpr std::string_view kNoInputData = "No Input Data";
 
 }  // namespace
@@ -29,7 +28,7 @@ NmeaReceiver::NmeaReceiver(const Settings& settings, SerialPort& port, Timer& tm
 
 bool NmeaReceiver::NmeaStart() {
   m_started = true;
-  m_ticks = 0;
+  m_reopenPause.Restart();
   m_noDataCount = 0;
   m_noDataShown = false;
   m_timer.Enabled(true);
@@ -95,7 +94,6 @@ void NmeaReceiver::Tick() {
   if (!m_started || m_settings.m_bSimulate) {
     return;
   }
-  ++m_ticks;
   m_dispatcher.Sources().Tick();
   Advise(m_dispatcher.Sources().Advice());
   m_port.PollLineErrors();
@@ -109,7 +107,7 @@ void NmeaReceiver::Tick() {
     m_listener.OnInputState("Running");
     m_noDataShown = false;
   }
-  if (m_ticks % kReopenTicks == 0 && !m_port.PortOpen()) {
+  if (m_reopenPause.Tick(m_port.PortOpen())) {
     OpenPort();
   }
 }

@@ -11,6 +11,7 @@
 #include "nmea/Dispatcher.h"
 #include "nmea/LineFramer.h"
 #include "platform/Clock.h"
+#include "platform/ReopenPause.h"
 #include "platform/SerialPort.h"
 #include "platform/Timer.h"
 #include "settings/Settings.h"
@@ -90,7 +91,7 @@ class NmeaReceiver final : public SerialPort::Events {
   LineFramer m_framer;
   bool m_started = false;
   bool m_receiving = false;
-  int m_ticks = 0;
+  ReopenPause m_reopenPause;
   int m_noDataCount = 0;
   bool m_noDataShown = false;
   bool m_notOpenShown = false;

@@ -7,12 +7,6 @@
 
 namespace veerwatch {
 
-namespace {
-
-constexpr int kReopenTicks = 4;
-
-}  // namespace
-
 PilotOutput::PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort,
                          Listener& listener)
     : m_settings(settings), m_nmeaPort(nmeaPort), m_pilotPort(pilotPort), m_listener(listener) {
@@ -35,7 +29,7 @@ void PilotOutput::PilotStart() {
   CloseUnneeded();
   if (!m_started) {
     m_started = true;
-    m_ticks = 0;
+    m_reopenPause.Restart();
   }
   if (m_settings.m_bSimulate || !OwnPort()) {
     Failure("");
@@ -95,9 +89,8 @@ void PilotOutput::Tick() {
     }
     return;
   }
-  ++m_ticks;
   m_pilotPort.PollLineErrors();
-  if (m_ticks % kReopenTicks == 0 && !m_pilotPort.PortOpen()) {
+  if (m_reopenPause.Tick(m_pilotPort.PortOpen())) {
     OpenPort();
   }
 }

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/ReopenPause.h"
 #include "platform/SerialPort.h"
 #include "settings/Settings.h"
 
@@ -69,7 +70,7 @@ class PilotOutput final : public SerialPort::Events {
   Listener& m_listener;
   bool m_started = false;
   bool m_notOpenShown = false;
-  int m_ticks = 0;
+  ReopenPause m_reopenPause;
   std::uint64_t m_simulated = 0;  ///< sentences for the simulated boat
   std::string m_failure;
   std::string m_sentence;
