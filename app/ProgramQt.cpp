@@ -160,12 +160,12 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   }
 
   Profile profile;
-  SerialPortQt MSCommNmea(profile);
-  SerialPortQt MSCommPilot(profile);
+  const SystemClock clock;
+  SerialPortQt MSCommNmea(profile, clock);
+  SerialPortQt MSCommPilot(profile, clock);
   TimerQt tmrNmea(QStringLiteral("tmrNmea"));
   TimerQt tmrUnload(QStringLiteral("tmrUnload"));
   TimerQt TimerTack(QStringLiteral("TimerTack"));
-  const SystemClock clock;
   SeededRandom random(std::random_device{}());
 
   frmMain window({MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, TimerTack, clock, random, dialogs, profile,

@@ -13,7 +13,6 @@ namespace veerwatch {
 
 class MemoryPort final : public SerialPort {
  public:
-  void Connect(Events* events) override { m_events = events; }
   void CommPort(int number) override { m_number = number; }
   int CommPort() const override { return m_number; }
   bool PortOpen() const override { return m_open; }
@@ -25,7 +24,7 @@ class MemoryPort final : public SerialPort {
     text.assign(m_waiting);
     m_waiting = {};
   }
-  void Output(std::string_view /*sentence*/) override { ++m_sent; }
+  void Output(std::string_view /*bundle*/) override { ++m_sent; }
   std::uint64_t Sent() const override { return m_sent; }
   void Withdraw() override {}
   void PollLineErrors() override {}
@@ -33,11 +32,10 @@ class MemoryPort final : public SerialPort {
   /// Lets `bytes` arrive as one receive event.
   void Arrive(std::string_view bytes) {
     m_waiting = bytes;
-    m_events->OnComm(CommEvent::kReceive);
+    Connected()->OnComm(CommEvent::kReceive);
   }
 
  private:
-  Events* m_events = nullptr;
   int m_number = 1;
   bool m_open = false;
   std::string_view m_waiting;

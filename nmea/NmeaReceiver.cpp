@@ -23,7 +23,7 @@ NmeaReceiver::NmeaReceiver(const Settings& settings, SerialPort& port, Timer& tm
       m_followUp(followUp),
       m_listener(listener),
       m_dispatcher(settings, record) {
-  m_port.Connect(this);
+  m_connection = m_port.Connect(*this);
 }
 
 bool NmeaReceiver::NmeaStart() {

@@ -101,6 +101,7 @@ class NmeaReceiver final : public SerialPort::Events {
   std::vector<std::string> m_advice;
   std::string m_input;
   std::string m_text;
+  SerialPort::Connection m_connection;
 };
 
 }  // namespace veerwatch

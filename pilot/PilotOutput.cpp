@@ -10,7 +10,7 @@ namespace veerwatch {
 PilotOutput::PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort,
                          Listener& listener)
     : m_settings(settings), m_nmeaPort(nmeaPort), m_pilotPort(pilotPort), m_listener(listener) {
-  m_pilotPort.Connect(this);
+  m_connection = m_pilotPort.Connect(*this);
 }
 
 void PilotOutput::PilotRelease() {

@@ -75,6 +75,7 @@ class PilotOutput final : public SerialPort::Events {
   std::string m_failure;
   std::string m_sentence;
   std::string m_dropped;
+  SerialPort::Connection m_connection;
 };
 
 }  // namespace veerwatch

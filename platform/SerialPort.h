@@ -1,10 +1,12 @@
-// The serial port as the core sees it: a numbered port that is opened, read, written and that raises events.
+// The port as the core sees it: a numbered port that is opened, read, written and that raises events.
 // SerialPortQt is the real one; the command line and the tests have ports in memory.
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace veerwatch {
 
@@ -24,8 +26,8 @@ std::string CommEventText(int commEvent);
 
 class SerialPort {
  public:
-  /// Whoever owns a port hears of its events here. Calls come from the event loop, never from inside a
-  /// call into the port, PollLineErrors apart.
+  /// Whoever uses a port hears of its events here, until its Connection ends. Calls come from the event
+  /// loop, never from inside a call into the port, PollLineErrors apart.
   class Events {
    public:
     virtual ~Events() = default;
@@ -37,10 +39,28 @@ class SerialPort {
     virtual void OnPortOverslept() {}
   };
 
+  /// The tie between a port and whoever hears of its events. Its end unties them, so a member of this type
+  /// cannot be forgotten: the port tells nothing to somebody who is gone. Either side may go first.
+  class Connection {
+   public:
+    Connection() = default;
+    Connection(Connection&& other) noexcept = default;
+    Connection& operator=(Connection&& other) noexcept;
+    ~Connection();
+
+   private:
+    friend class SerialPort;
+    explicit Connection(std::shared_ptr<Events*> events) : m_events(std::move(events)) {}
+    std::shared_ptr<Events*> m_events;  ///< what the port looks at, too
+  };
+
+  SerialPort() = default;
+  SerialPort(const SerialPort&) = delete;
+  SerialPort& operator=(const SerialPort&) = delete;
   virtual ~SerialPort() = default;
 
-  /// Who hears of the events; null for nobody. The port does not own it.
-  virtual void Connect(Events* events) = 0;
+  /// `events` hears of the events from now on, in place of whoever did before, until the connection ends.
+  [[nodiscard]] Connection Connect(Events& events);
 
   /// The port number [1, 32767] to open next; without effect on a port that is open.
   virtual void CommPort(int number) = 0;
@@ -58,20 +78,29 @@ class SerialPort {
   /// Replaces `text` by every character that waits; "" when none does. Keeps the capacity of `text`.
   virtual void Input(std::string& text) = 0;
 
-  /// Hands one whole sentence to the port. Never blocks; a device that has room has it on return. While an
-  /// earlier sentence has not left, the newest takes the place of any that waits behind it; one that waits
-  /// for more than two seconds is forgotten. Without effect on a closed port.
-  virtual void Output(std::string_view sentence) = 0;
+  /// Hands a bundle to the port: one or more whole sentences that belong together, each with its line end.
+  /// They leave in their order, with nothing between them. Never blocks; a device that has room has the
+  /// bundle on return. While an earlier bundle has not left wholly, the newest takes the place of any that
+  /// waits behind it, as a whole; one that waits for more than two seconds is forgotten. A bundle of which
+  /// anything has gone to the device is replaced and forgotten no more. Without effect on a closed port.
+  virtual void Output(std::string_view bundle) = 0;
 
-  /// How many sentences have gone to the device; one that waits, or was forgotten, is not among them.
+  /// How many bundles have gone to the device; one that waits, or was forgotten, is not among them.
   virtual std::uint64_t Sent() const = 0;
 
-  /// Forgets a sentence that waits behind one that has not left.
+  /// Forgets a bundle that waits behind one that has not left.
   virtual void Withdraw() = 0;
 
   /// Asks the driver for line errors since the last time and raises an event, at once, for each kind that
   /// occurred. The port itself asks behind every receive event.
   virtual void PollLineErrors() = 0;
+
+ protected:
+  /// Who hears of the events at this moment; null for nobody.
+  Events* Connected() const { return m_events ? *m_events : nullptr; }
+
+ private:
+  std::shared_ptr<Events*> m_events;
 };
 
 }  // namespace veerwatch

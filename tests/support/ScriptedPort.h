@@ -43,16 +43,16 @@ class ScriptedPort final : public SerialPort {
 
   /// Raises the port's one event.
   void Raise(int commEvent) {
-    if (m_events != nullptr) {
-      m_events->OnComm(commEvent);
+    if (Events* const events = Connected()) {
+      events->OnComm(commEvent);
     }
   }
 
   /// The device goes away: the port closes itself and says so.
   void Lose() {
     m_open = false;
-    if (m_events != nullptr) {
-      m_events->OnPortLost();
+    if (Events* const events = Connected()) {
+      events->OnPortLost();
     }
   }
 
@@ -65,11 +65,8 @@ class ScriptedPort final : public SerialPort {
     return all;
   }
 
-  bool Connected() const { return m_events != nullptr; }
-
   // The port.
 
-  void Connect(Events* events) override { m_events = events; }
   void CommPort(int number) override {
     if (!m_open) {
       m_number = number;
@@ -120,7 +117,6 @@ class ScriptedPort final : public SerialPort {
     return result;
   }
 
-  Events* m_events = nullptr;
   int m_number = 0;
   bool m_open = false;
 };

@@ -104,7 +104,7 @@ TEST_F(SerialPortHangUp, OpensFromInsideItsOwnLoss) {
   };
   Pty other;
   Reopener reopener(m_port, m_profile, other.Device());
-  m_port.Connect(&reopener);
+  const SerialPort::Connection connection = m_port.Connect(reopener);
   ASSERT_TRUE(m_port.PortOpen(true));
   m_pty.HangUp();
   ASSERT_TRUE(Await([&] { return reopener.Opened; }));

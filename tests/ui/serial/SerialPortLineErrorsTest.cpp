@@ -24,7 +24,7 @@ class HandCounters : public LineErrorCounters {
 class SerialPortLineErrors : public SerialPortQtTest {
  protected:
   SerialPortLineErrors()
-      : m_counting(m_profile,
+      : m_counting(m_profile, m_clock,
                    [this](const QSerialPort&) { return std::make_unique<HandCounters>(m_counts); }),
         m_listener(m_counting) {
     m_counting.CommPort(1);
@@ -32,7 +32,7 @@ class SerialPortLineErrors : public SerialPortQtTest {
 
   LineErrorCounts m_counts{.Break = 3, .Frame = 1, .Overrun = 4, .Parity = 1, .BufferOverrun = 5};
   SerialPortQt m_counting;
-  Owner m_listener;
+  PortOwner m_listener;
 };
 
 TEST_F(SerialPortLineErrors, AreRaisedWhenAskedFor) {

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "tests/e2e/SteppedClock.h"
 #include "tests/ui/serial/SerialPortQtFixture.h"
 
 namespace veerwatch {
@@ -108,13 +107,6 @@ TEST_F(StuckLine, SendsWhatWaitsWhenItMovesAgain) { EXPECT_TRUE(Rest().ends_with
 
 TEST_F(StuckLine, ForgetsWhatWaitsWhenItIsWithdrawn) {
   m_port.Withdraw();
-  EXPECT_TRUE(Rest().ends_with("x"));
-  m_port.Output("next\r\n");
-  EXPECT_EQ(Rest(), "next\r\n");
-}
-
-TEST_F(StuckLine, ForgetsWhatHasWaitedForTwoSeconds) {
-  StepSteadyClock(3);
   EXPECT_TRUE(Rest().ends_with("x"));
   m_port.Output("next\r\n");
   EXPECT_EQ(Rest(), "next\r\n");

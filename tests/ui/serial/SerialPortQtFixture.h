@@ -12,8 +12,9 @@
 #include <QTest>
 #include <functional>
 #include <string>
-#include <vector>
 
+#include "platform/SystemClock.h"
+#include "tests/support/PortOwner.h"
 #include "tests/support/Pty.h"
 
 namespace veerwatch {
@@ -31,47 +32,9 @@ inline int BusyTurns() {
   return busy;
 }
 
-/// Reads what is offered and keeps a record of all events.
-class Owner : public SerialPort::Events {
- public:
-  explicit Owner(SerialPort& port) : Port(port) { port.Connect(this); }
-
-  void OnComm(int commEvent) override {
-    Codes.push_back(commEvent);
-    if (commEvent != CommEvent::kReceive) {
-      return;
-    }
-    if (Handle) {
-      Handle();
-    } else {
-      Read();
-    }
-  }
-  void OnPortLost() override {
-    ++Lost;
-    OpenWhenLost = Port.PortOpen();
-  }
-  void OnPortOverslept() override { ++Overslept; }
-  void Read() {
-    Port.Input(m_input);
-    Text += m_input;
-  }
-
-  SerialPort& Port;
-  std::function<void()> Handle;
-  std::vector<int> Codes;
-  std::string Text;
-  int Lost = 0;
-  int Overslept = 0;
-  bool OpenWhenLost = false;
-
- private:
-  std::string m_input;
-};
-
 class SerialPortQtTest : public testing::Test {
  protected:
-  SerialPortQtTest() : m_port(m_profile), m_owner(m_port) {
+  SerialPortQtTest() : m_port(m_profile, m_clock), m_owner(m_port) {
     Name(1, m_pty.Device());
     m_port.CommPort(1);
   }
@@ -94,8 +57,9 @@ class SerialPortQtTest : public testing::Test {
   QTemporaryDir m_folder;
   Pty m_pty;
   Profile m_profile;
+  SystemClock m_clock;
   SerialPortQt m_port;
-  Owner m_owner;
+  PortOwner m_owner;
 };
 
 }  // namespace veerwatch

@@ -4,7 +4,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "tests/e2e/SteppedClock.h"
 #include "tests/ui/serial/SerialPortQtFixture.h"
 
 namespace veerwatch {
@@ -93,35 +92,6 @@ TEST_F(SerialPortQtTest, GivesNothingWhenNothingWaits) {
   m_port.Input(text);
   EXPECT_EQ(text, "");
 }
-
-/// A clock that goes on while the program stands still.
-struct StandstillClock {
-  const char* Name;
-  void (*Step)(long long seconds);
-};
-
-void PrintTo(const StandstillClock& clock, std::ostream* out) { *out << clock.Name; }
-
-class SerialPortQtStandstill : public SerialPortQtTest,
-                               public testing::WithParamInterface<StandstillClock> {};
-
-TEST_P(SerialPortQtStandstill, DropsWhatWaited) {
-  ASSERT_TRUE(m_port.PortOpen(true));
-  PassAMark();
-  m_pty.Write("old");
-  GetParam().Step(3);
-  ASSERT_TRUE(Await([&] { return m_owner.Overslept > 0; }));
-  QTest::qWait(400);
-  EXPECT_EQ(m_owner.Text, "");
-  m_pty.Write("new");
-  ASSERT_TRUE(Await([&] { return m_owner.Text == "new"; }));
-  EXPECT_EQ(m_owner.Overslept, 1);
-}
-
-INSTANTIATE_TEST_SUITE_P(AwakeOrAsleep, SerialPortQtStandstill,
-                         testing::Values(StandstillClock{"Awake", &StepSteadyClock},
-                                         StandstillClock{"Asleep", &StepBootClock}),
-                         [](const auto& clock) { return std::string(clock.param.Name); });
 
 TEST_F(SerialPortQtTest, RaisesNothingFromInsideACall) {
   bool inside = false;
@@ -227,7 +197,7 @@ TEST_F(SerialPortQtTest, ClosesFromInsideAnEvent) {
 }
 
 TEST_F(SerialPortQtTest, WorksWithoutAnybodyListening) {
-  m_port.Connect(nullptr);
+  { const PortOwner passing(m_port); }
   ASSERT_TRUE(m_port.PortOpen(true));
   m_pty.Write("x");
   m_pty.HangUp();
@@ -286,7 +256,7 @@ TEST_F(SerialPortQtTest, SaysWhyItDoesNotOpenUntilItDoes) {
 }
 
 TEST_F(SerialPortQtTest, DoesNotOpenADeviceThatAnotherPortHolds) {
-  SerialPortQt second(m_profile);
+  SerialPortQt second(m_profile, m_clock);
   second.CommPort(1);
   ASSERT_TRUE(m_port.PortOpen(true));
   EXPECT_FALSE(second.PortOpen(true));
@@ -307,8 +277,8 @@ TEST_F(SerialPortQtTest, DoesNotOpenADeviceThatAnotherPortHolds) {
 TEST_F(SerialPortQtTest, KeepsTwoPortsApart) {
   Pty otherPty;
   Name(2, otherPty.Device());
-  SerialPortQt second(m_profile);
-  Owner secondOwner(second);
+  SerialPortQt second(m_profile, m_clock);
+  PortOwner secondOwner(second);
   second.CommPort(2);
   ASSERT_TRUE(m_port.PortOpen(true));
   ASSERT_TRUE(second.PortOpen(true));

@@ -1,0 +1,569 @@
+#include "platform/EndpointPort.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "tests/support/MemoryEndpoint.h"
+#include "tests/support/PortPolicy.h"
+
+namespace veerwatch {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// Every port's claims, on an endpoint that takes everything and sends it in its own time, as a driver does,
+// and on one that takes a few characters at a time and keeps none, as a socket may.
+
+class MemoryRig {
+ public:
+  MemoryRig() { m_port.PortOpen(true); }
+
+  SerialPort& Port() { return m_port; }
+  std::string Arrive(std::string_view text) {
+    m_port.Arrive(text);
+    return std::string(text);
+  }
+  template <typename Condition>
+  bool Await(Condition condition) {
+    for (int step = 0; step < 10'000 && !condition(); ++step) {
+      m_port.Pass(1);
+    }
+    return condition();
+  }
+  const std::string& Heard() const { return m_port.Heard; }
+  void Pass(int milliseconds) { m_port.Pass(milliseconds); }
+  void StandStill(int milliseconds) { m_clock.Pass(milliseconds); }
+
+ protected:
+  HandClock m_clock;
+  MemoryEndpoint m_port{m_clock};
+};
+
+class DriverRig : public MemoryRig {
+ public:
+  void Stick() { m_port.Holds = true; }
+  void Move() {
+    m_port.Holds = false;
+    m_port.Drain();
+  }
+};
+
+class TrickleRig : public MemoryRig {
+ public:
+  TrickleRig() { m_port.Takes = std::string_view(kFirst).size(); }
+  void Stick() {
+    m_port.Takes = 2;
+    m_port.TakesInAll = 2;
+  }
+  void Move() { m_port.TakesInAll = MemoryEndpoint::kAll; }
+};
+
+using MemoryRigs = testing::Types<DriverRig, TrickleRig>;
+
+struct RigNames {
+  template <typename Rig>
+  static std::string GetName(int /*index*/) {
+    return std::is_same_v<Rig, DriverRig> ? "Driver" : "Trickle";
+  }
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Memory, PortPolicy, MemoryRigs, RigNames);
+
+class EndpointPortTest : public testing::Test {
+ protected:
+  EndpointPortTest() { m_port.PortOpen(true); }
+
+  HandClock m_clock;
+  MemoryEndpoint m_port{m_clock};
+  PortOwner m_owner{m_port};
+};
+
+// Opening.
+
+TEST_F(EndpointPortTest, SaysWhyItDoesNotOpenUntilItDoes) {
+  m_port.PortOpen(false);
+  m_port.Failure = "no such place";
+  EXPECT_FALSE(m_port.PortOpen(true));
+  EXPECT_FALSE(m_port.PortOpen());
+  EXPECT_EQ(m_port.OpenFailure(), "no such place");
+  m_port.Failure = "";
+  EXPECT_TRUE(m_port.PortOpen(true));
+  EXPECT_EQ(m_port.OpenFailure(), "");
+}
+
+TEST_F(EndpointPortTest, TakesAnotherNumberOnlyWhileItIsClosed) {
+  EXPECT_EQ(m_port.CommPort(), 1);
+  m_port.CommPort(7);
+  EXPECT_EQ(m_port.CommPort(), 1);
+  m_port.PortOpen(false);
+  m_port.CommPort(7);
+  EXPECT_EQ(m_port.CommPort(), 7);
+}
+
+TEST_F(EndpointPortTest, DoesNothingOnceItIsClosed) {
+  m_port.Arrive("x");
+  m_port.PortOpen(false);
+  m_port.Output("lost\r\n");
+  m_port.Arrive("y");
+  m_port.Drain();
+  m_port.Fail();
+  m_port.WakeNow();
+  m_port.Pass(10'000);
+  std::string text = "old";
+  m_port.Input(text);
+  EXPECT_EQ(text, "");
+  EXPECT_EQ(m_port.Heard, "");
+  EXPECT_THAT(m_owner.Codes, IsEmpty());
+  EXPECT_EQ(m_owner.Lost, 0);
+  EXPECT_EQ(m_owner.Overslept, 0);
+  EXPECT_EQ(m_port.WakeAsked, std::nullopt);
+}
+
+TEST_F(EndpointPortTest, OffersNothingFromTheTimeBeforeItWasOpenedAgain) {
+  m_owner.Handle = [] {};
+  m_port.Arrive("x");
+  m_port.Turn();
+  m_port.Arrive("y");
+  m_port.PortOpen(false);
+  m_owner.Codes.clear();
+  m_port.PortOpen(true);
+  m_port.Pass(400);
+  EXPECT_THAT(m_owner.Codes, IsEmpty());
+}
+
+// What comes in.
+
+TEST_F(EndpointPortTest, OffersWhatArrivesWhenTheLoopComesRound) {
+  m_port.Arrive("x");
+  EXPECT_EQ(m_port.WakeAsked, 0);
+  EXPECT_THAT(m_owner.Codes, IsEmpty()) << "never from inside a call";
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Text, "x");
+  EXPECT_THAT(m_owner.Codes, ElementsAre(CommEvent::kReceive));
+}
+
+TEST_F(EndpointPortTest, OffersAgainAfterAHundredMillisecondsUntilItIsRead) {
+  m_owner.Handle = [] {};
+  m_port.Arrive("x");
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Codes.size(), 1U);
+  m_port.Pass(99);
+  EXPECT_EQ(m_owner.Codes.size(), 1U);
+  m_port.Pass(1);
+  EXPECT_EQ(m_owner.Codes.size(), 2U);
+  m_owner.Handle = nullptr;
+  m_port.Pass(1000);
+  EXPECT_EQ(m_owner.Codes.size(), 3U);
+  EXPECT_EQ(m_owner.Text, "x");
+}
+
+TEST_F(EndpointPortTest, OffersAtOnceWhatArrivesBehindSomethingUnread) {
+  m_owner.Handle = [] {};
+  m_port.Arrive("x");
+  m_port.Turn();
+  m_port.Arrive("y");
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Codes.size(), 2U);
+}
+
+TEST_F(EndpointPortTest, OffersAtOnceWhatHadNoRoom) {
+  m_owner.Handle = [] {};
+  m_port.Arrive(std::string(EndpointPort::kLargestUnread + 5, 'x'));
+  m_port.Turn();
+  m_owner.Handle = nullptr;
+  m_owner.Read();
+  EXPECT_EQ(m_owner.Text.size(), EndpointPort::kLargestUnread);
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Text.size(), EndpointPort::kLargestUnread + 5);
+}
+
+TEST_F(EndpointPortTest, GivesAsManyAsItHoldsToAReadThatNobodyAskedFor) {
+  m_port.Arrive("x");
+  m_owner.Read();
+  EXPECT_EQ(m_owner.Text, "x");
+  m_port.Pass(1000);
+  EXPECT_THAT(m_owner.Codes, IsEmpty());
+}
+
+TEST_F(EndpointPortTest, AsksForLineErrorsAfterEachReceiveEventOnly) {
+  m_port.LineErrors = {CommEvent::kBreak};
+  m_port.Pass(2000);
+  EXPECT_EQ(m_port.Polls, 0);
+  m_port.Arrive("x");
+  m_port.Turn();
+  EXPECT_EQ(m_port.Polls, 1);
+  EXPECT_THAT(m_owner.Codes, ElementsAre(CommEvent::kReceive, CommEvent::kBreak));
+}
+
+TEST_F(EndpointPortTest, AsksForNoLineErrorsOnceItsOwnerHasClosedIt) {
+  m_owner.Handle = [&] { m_port.PortOpen(false); };
+  m_port.Arrive("x");
+  m_port.Turn();
+  EXPECT_EQ(m_port.Polls, 0);
+  m_port.Pass(1000);
+  EXPECT_EQ(m_owner.Codes.size(), 1U);
+}
+
+TEST_F(EndpointPortTest, OffersNothingMoreToSomebodyWhoClosesItForALineError) {
+  class Closer : public SerialPort::Events {
+   public:
+    explicit Closer(SerialPort& port) : m_port(port), m_connection(port.Connect(*this)) {}
+    void OnComm(int commEvent) override {
+      Codes.push_back(commEvent);
+      if (commEvent == CommEvent::kBreak) {
+        m_port.PortOpen(false);
+      }
+    }
+    void OnPortLost() override {}
+    std::vector<int> Codes;
+
+   private:
+    SerialPort& m_port;
+    SerialPort::Connection m_connection;
+  };
+  const Closer closer(m_port);
+  m_port.LineErrors = {CommEvent::kBreak};
+  m_port.Arrive("x");
+  m_port.Turn();
+  m_port.PortOpen(true);
+  m_port.Pass(1000);
+  EXPECT_THAT(closer.Codes, ElementsAre(CommEvent::kReceive, CommEvent::kBreak));
+}
+
+TEST_F(EndpointPortTest, OffersWhatArrivesDuringAnEventThatTurnsTheLoop) {
+  int depth = 0;
+  int deepest = 0;
+  m_owner.Handle = [&] {
+    deepest = std::max(deepest, ++depth);
+    m_owner.Read();
+    if (deepest == 1) {
+      m_port.Arrive("second");
+      m_port.Turn();
+    }
+    --depth;
+  };
+  m_port.Arrive("first,");
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Text, "first,second");
+  EXPECT_EQ(deepest, 2);
+  EXPECT_EQ(m_port.Polls, 1) << "once, by the outer one";
+}
+
+TEST_F(EndpointPortTest, KeepsBeatingWhileAnEventTurnsTheLoop) {
+  m_owner.Handle = [&] {
+    m_owner.Read();
+    m_owner.Handle = nullptr;
+    m_port.Pass(10'000);
+  };
+  m_port.Arrive("x");
+  m_port.Turn();
+  m_port.Arrive("y");
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Overslept, 0);
+  EXPECT_EQ(m_owner.Text, "xy");
+}
+
+// A standstill.
+
+TEST_F(EndpointPortTest, BeatsTwiceASecond) {
+  EXPECT_EQ(m_port.WakeAsked, 500);
+  m_port.Pass(499);
+  EXPECT_EQ(m_port.WakeAsked, 500) << "not woken before";
+  m_port.Pass(1);
+  EXPECT_EQ(m_port.WakeAsked, 500) << "asked anew";
+  m_port.Pass(3'600'000);
+  EXPECT_EQ(m_owner.Overslept, 0);
+}
+
+TEST_F(EndpointPortTest, TakesTwoSecondsWithoutABeatForNoStandstill) {
+  m_port.Arrive("x");
+  m_clock.Pass(2000);
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Overslept, 0);
+  EXPECT_EQ(m_owner.Text, "x");
+}
+
+TEST_F(EndpointPortTest, DropsWhatWaitedForMoreThanTwoSecondsWithoutABeat) {
+  m_port.Arrive("old");
+  m_clock.Pass(2001);
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Overslept, 1);
+  EXPECT_EQ(m_owner.Text, "");
+  EXPECT_THAT(m_owner.Codes, IsEmpty());
+}
+
+TEST_F(EndpointPortTest, DropsWhatArrivesInTheFirstThreeTenthsAfterAStandstill) {
+  m_clock.Pass(2001);
+  m_port.Turn();
+  m_port.Pass(299);
+  m_port.Arrive("old");
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Text, "");
+  m_port.Pass(1);
+  m_port.Arrive("new");
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Text, "new");
+  EXPECT_EQ(m_owner.Overslept, 1);
+}
+
+TEST_F(EndpointPortTest, DropsAllThatWaitedAlsoWhatHadNoRoom) {
+  m_owner.Handle = [] {};
+  m_port.Arrive(std::string(3 * EndpointPort::kLargestUnread, 'x'));
+  m_clock.Pass(2001);
+  m_port.Pass(299);
+  m_owner.Handle = nullptr;
+  m_port.Pass(200);
+  EXPECT_THAT(m_owner.Codes, IsEmpty());
+  m_owner.Read();
+  EXPECT_EQ(m_owner.Text, "");
+}
+
+TEST_F(EndpointPortTest, TakesWhatArrivesOnceItIsOpenedAgainForNew) {
+  m_clock.Pass(2001);
+  m_port.Turn();
+  m_port.PortOpen(false);
+  m_port.PortOpen(true);
+  m_port.Arrive("new");
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Text, "new");
+}
+
+TEST_F(EndpointPortTest, TakesTheTimeWhenItWasClosedForNoStandstill) {
+  m_port.PortOpen(false);
+  m_clock.Pass(5000);
+  m_port.PortOpen(true);
+  m_port.Arrive("new");
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Overslept, 0);
+  EXPECT_EQ(m_owner.Text, "new");
+}
+
+TEST_F(EndpointPortTest, MayBeWokenBeforeItsTime) {
+  m_owner.Handle = [] {};
+  m_port.Arrive("x");
+  m_port.Turn();
+  m_clock.Pass(50);
+  m_port.WakeNow();
+  EXPECT_EQ(m_owner.Codes.size(), 1U);
+  EXPECT_EQ(m_port.WakeAsked, 50);
+  m_port.Pass(50);
+  EXPECT_EQ(m_owner.Codes.size(), 2U);
+}
+
+// What goes out.
+
+TEST_F(EndpointPortTest, AsksForNothingMoreThanItsBeatWhenABundleHasLeft) {
+  m_port.Pass(100);
+  m_port.WakeAsked.reset();
+  m_port.Output("a\r\n");
+  EXPECT_EQ(m_port.Heard, "a\r\n");
+  EXPECT_EQ(m_port.WakeAsked, std::nullopt);
+}
+
+TEST_F(EndpointPortTest, TriesAgainAfterTwentyMillisecondsWhatTheLineDidNotTake) {
+  m_port.Takes = 0;
+  m_port.Output("a\r\n");
+  EXPECT_EQ(m_port.WakeAsked, 20);
+  m_port.Pass(19);
+  m_port.Takes = MemoryEndpoint::kAll;
+  EXPECT_EQ(m_port.Heard, "");
+  EXPECT_EQ(m_port.Sent(), 0U);
+  m_port.Pass(1);
+  EXPECT_EQ(m_port.Heard, "a\r\n");
+  EXPECT_EQ(m_port.Sent(), 1U);
+}
+
+TEST_F(EndpointPortTest, SendsTheNextOneAtOnceWhenTheLineSaysThatItHasRoom) {
+  m_port.Holds = true;
+  m_port.Output("a\r\n");
+  m_port.Output("b\r\n");
+  m_port.Pass(1000);
+  m_port.Drain();
+  EXPECT_EQ(m_port.WakeAsked, 0);
+  EXPECT_EQ(m_port.Sent(), 1U);
+  m_port.Turn();
+  EXPECT_EQ(m_port.Sent(), 2U);
+}
+
+TEST_F(EndpointPortTest, SendsABundleThatHasWaitedForJustTwoSeconds) {
+  m_port.Holds = true;
+  m_port.Output("a\r\n");
+  m_port.Output("b\r\n");
+  m_port.Pass(1999);
+  m_clock.Pass(1);
+  m_port.Drain();
+  m_port.Turn();
+  m_port.Drain();
+  EXPECT_EQ(m_port.Heard, "a\r\nb\r\n");
+}
+
+TEST_F(EndpointPortTest, ForgetsABundleThatHasWaitedForMoreThanTwoSeconds) {
+  m_port.Holds = true;
+  m_port.Output("a\r\n");
+  m_port.Output("b\r\n");
+  m_port.Pass(1999);
+  m_clock.Pass(2);
+  m_port.Drain();
+  m_port.Turn();
+  m_port.Drain();
+  EXPECT_EQ(m_port.Heard, "a\r\n");
+  EXPECT_EQ(m_port.Sent(), 1U);
+}
+
+TEST_F(EndpointPortTest, TriesNoMoreWhatItHasForgotten) {
+  m_port.Takes = 0;
+  m_port.Output("a\r\n");
+  m_port.Pass(2100);
+  EXPECT_GT(m_port.WakeAsked, 20) << "only the beat";
+}
+
+TEST_F(EndpointPortTest, SendsABundleOnceThoughTheLineTellsMeanwhile) {
+  m_port.TellsInside = true;
+  m_port.Output("a\r\n");
+  m_port.Pass(100);
+  EXPECT_EQ(m_port.Heard, "a\r\n");
+  EXPECT_EQ(m_port.Sent(), 1U);
+}
+
+TEST_F(EndpointPortTest, SendsWhatWaitsBeforeItOffersWhatArrived) {
+  m_owner.Handle = [&] {
+    m_owner.Read();
+    m_port.Output("answer\r\n");
+  };
+  m_port.Takes = 0;
+  m_port.Output("a\r\n");
+  m_port.Arrive("x");
+  m_clock.Pass(20);
+  m_port.Takes = MemoryEndpoint::kAll;
+  m_port.Turn();
+  EXPECT_EQ(m_port.Heard, "a\r\nanswer\r\n");
+}
+
+// The close.
+
+TEST_F(EndpointPortTest, ClosesAtOnceWhenEverythingHasLeft) {
+  m_port.Output("a\r\n");
+  m_port.PortOpen(false);
+  EXPECT_EQ(m_port.Waits, 0);
+}
+
+TEST_F(EndpointPortTest, LetsTheBundleOnItsWayLeaveAndNotTheOneThatWaits) {
+  m_port.Holds = true;
+  m_port.Output(kFirst);
+  m_port.Output(kSecond);
+  m_port.DrainsWhileSent = 10;
+  m_port.PortOpen(false);
+  EXPECT_EQ(m_port.Heard, kFirst);
+  EXPECT_EQ(m_port.Waits, 3);
+}
+
+TEST_F(EndpointPortTest, WritesTheRestOfABundleWhileItCloses) {
+  m_port.Takes = 5;
+  m_port.Output(kFirst);
+  m_port.Output(kSecond);
+  EXPECT_EQ(m_port.Heard, std::string(kFirst).substr(0, 10)) << "a part at each call";
+  m_port.PortOpen(false);
+  EXPECT_EQ(m_port.Heard, kFirst);
+  EXPECT_EQ(m_port.Sent(), 1U);
+}
+
+TEST_F(EndpointPortTest, WaitsForAStuckLineForAQuarterOfASecondOnly) {
+  m_port.Holds = true;
+  m_port.Output("a\r\n");
+  const std::int64_t before = m_clock.Time.Steady;
+  m_port.PortOpen(false);
+  const std::int64_t waited = m_clock.Time.Steady - before;
+  EXPECT_GE(waited, 250);
+  EXPECT_LE(waited, 270);
+  EXPECT_EQ(m_port.Heard, "");
+  m_port.Holds = false;
+  m_port.PortOpen(true);
+  m_port.Pass(1000);
+  EXPECT_EQ(m_port.Heard, "");
+}
+
+TEST_F(EndpointPortTest, ForgetsTheRestOfABundleWhenItIsClosedInTheMiddle) {
+  m_port.TakesInAll = 5;
+  m_port.Output(kFirst);
+  m_port.PortOpen(false);
+  m_port.TakesInAll = MemoryEndpoint::kAll;
+  m_port.PortOpen(true);
+  m_port.Output(kThird);
+  m_port.Pass(1000);
+  EXPECT_EQ(m_port.Heard, std::string(kFirst).substr(0, 5) + kThird);
+  EXPECT_EQ(m_port.Sent(), 1U);
+}
+
+// A loss.
+
+TEST_F(EndpointPortTest, ClosesItselfWhenTheEndpointFailsAndSaysSoOnceFromTheLoop) {
+  m_port.Fail();
+  m_port.Fail();
+  EXPECT_TRUE(m_port.PortOpen());
+  EXPECT_EQ(m_port.WakeAsked, 0);
+  m_port.Pass(5000);
+  EXPECT_EQ(m_owner.Lost, 1);
+  EXPECT_FALSE(m_owner.OpenWhenLost);
+  EXPECT_FALSE(m_port.PortOpen());
+}
+
+TEST_F(EndpointPortTest, HandsOverWhatCameBeforeTheLoss) {
+  m_port.Fail();
+  m_port.Arrive("last words");
+  m_owner.HandleLoss = [&] { EXPECT_EQ(m_owner.Text, "last words"); };
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Text, "last words");
+  EXPECT_EQ(m_owner.Lost, 1);
+}
+
+TEST_F(EndpointPortTest, WaitsForNothingToLeaveWhenItIsLost) {
+  m_port.Holds = true;
+  m_port.Output("a\r\n");
+  m_port.Fail();
+  m_port.Turn();
+  EXPECT_EQ(m_port.Waits, 0);
+  EXPECT_EQ(m_owner.Lost, 1);
+}
+
+TEST_F(EndpointPortTest, IsNotLostWhenItsOwnerOpenedItAgainBefore) {
+  m_owner.Handle = [&] {
+    m_port.PortOpen(false);
+    m_port.PortOpen(true);
+  };
+  m_port.Arrive("x");
+  m_port.Fail();
+  m_port.Pass(1000);
+  EXPECT_TRUE(m_port.PortOpen());
+  EXPECT_EQ(m_owner.Lost, 0);
+}
+
+TEST_F(EndpointPortTest, MayBeOpenedAgainFromInsideItsLoss) {
+  m_owner.HandleLoss = [&] { m_port.PortOpen(true); };
+  m_port.Fail();
+  m_port.Pass(1000);
+  EXPECT_TRUE(m_port.PortOpen());
+  EXPECT_EQ(m_owner.Lost, 1);
+  m_port.Arrive("x");
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Text, "x");
+}
+
+TEST_F(EndpointPortTest, IsLostWithoutAnybodyListening) {
+  { const PortOwner passing(m_port); }
+  m_port.Fail();
+  m_port.Arrive("x");
+  m_port.RaiseError(CommEvent::kBreak);
+  m_clock.Pass(2001);
+  m_port.Turn();
+  EXPECT_FALSE(m_port.PortOpen());
+  EXPECT_EQ(m_owner.Lost, 0);
+}
+
+}  // namespace
+}  // namespace veerwatch
