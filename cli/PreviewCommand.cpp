@@ -6,8 +6,8 @@
 
 #include "cli/Steering.h"
 #include "instruments/MathLib.h"
-#include "options/OptionNumber.h"
 #include "platform/NumberText.h"
+#include "settings/SettingsTable.h"
 
 namespace veerwatch {
 
@@ -17,12 +17,17 @@ bool FitsSingle(double value) {
   return std::fabs(value) <= static_cast<double>(std::numeric_limits<float>::max());
 }
 
-/// One line about what the options would not take, as singles like there; "" when they take it.
+/// Whether the options take a number for a setting, as a single like there.
+bool Takes(float Settings::*setting, double value) {
+  return RuleOf(SettingsTable(), setting).Take(ToSingle(value)).has_value();
+}
+
+/// One line about what the options would not take; "" when they take it.
 std::string SettingsTrouble(const TrackResponseInputs& inputs) {
-  if (!Allows(kTrackBandwidthRange, ToSingle(inputs.Bandwidth))) {
+  if (!Takes(&Settings::m_fTrackBandwidth, inputs.Bandwidth)) {
     return "Bandwidth must be above 0";
   }
-  return Allows(kTrackDampingRange, ToSingle(inputs.Damping)) ? "" : "Damping must not be below 0";
+  return Takes(&Settings::m_fTrackDamping, inputs.Damping) ? "" : "Damping must not be below 0";
 }
 
 std::string Text(double value) { return ShortestText(ToSingle(value)); }

@@ -57,12 +57,18 @@ DataPageQt::DataPageQt(QWidget* parent)
   page->addWidget(SentencePlace, 1);
 }
 
+std::vector<BoundEntry> DataPageQt::Entries() const {
+  return {
+      {txtNmeaTrueWindAverage, &OptionsForm::NmeaTrueWindAverage},
+      {txtNmeaWindIndicatorAverage, &OptionsForm::NmeaWindIndicatorAverage},
+  };
+}
+
 void DataPageQt::Show(const OptionsForm& form) const {
   cmbNmeaTrueWind->setCurrentIndex(form.NmeaTrueWind);
   cmbNmeaHeading->setCurrentIndex(form.NmeaHeading);
   cmbNmeaBoatSpeed->setCurrentIndex(form.NmeaBoatSpeed);
-  txtNmeaTrueWindAverage->setText(QString::fromStdString(form.NmeaTrueWindAverage));
-  txtNmeaWindIndicatorAverage->setText(QString::fromStdString(form.NmeaWindIndicatorAverage));
+  ShowEntries(Entries(), form);
 }
 
 void DataPageQt::Advise(const std::vector<std::string>& lines) const {
@@ -78,8 +84,7 @@ void DataPageQt::Read(OptionsForm& form) const {
   form.NmeaTrueWind = std::max(0, cmbNmeaTrueWind->currentIndex());
   form.NmeaHeading = std::max(0, cmbNmeaHeading->currentIndex());
   form.NmeaBoatSpeed = std::max(0, cmbNmeaBoatSpeed->currentIndex());
-  form.NmeaTrueWindAverage = txtNmeaTrueWindAverage->text().toStdString();
-  form.NmeaWindIndicatorAverage = txtNmeaWindIndicatorAverage->text().toStdString();
+  ReadEntries(Entries(), form);
 }
 
 }  // namespace veerwatch

@@ -28,6 +28,10 @@ class DataPageQt final : public QWidget {
   OptionEntryQt* txtNmeaTrueWindAverage;
   QLabel* lblSourceAdvice;  ///< hidden while empty
   QWidget* SentencePlace;   ///< where the list of the sentences goes
+
+ private:
+  /// The boxes for texts of the form.
+  std::vector<BoundEntry> Entries() const;
 };
 
 }  // namespace veerwatch

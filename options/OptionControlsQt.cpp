@@ -33,6 +33,18 @@ QSize OptionEntryQt::sizeHint() const {
           QLineEdit::sizeHint().height()};
 }
 
+void ShowEntries(const std::vector<BoundEntry>& entries, const OptionsForm& form) {
+  for (const BoundEntry& entry : entries) {
+    entry.Box->setText(QString::fromStdString(form.*entry.Text));
+  }
+}
+
+void ReadEntries(const std::vector<BoundEntry>& entries, OptionsForm& form) {
+  for (const BoundEntry& entry : entries) {
+    form.*entry.Text = entry.Box->text().toStdString();
+  }
+}
+
 OptionResultQt::OptionResultQt(const char* name, const char* hint, QWidget* parent) : QLabel(parent) {
   NameControl(*this, name, hint);
   setAccessibleName(QLatin1String(hint));

@@ -4,6 +4,10 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollArea>
+#include <string>
+#include <vector>
+
+#include "options/OptionsForm.h"
 
 namespace veerwatch {
 
@@ -18,6 +22,16 @@ class OptionEntryQt final : public QLineEdit {
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
 };
+
+/// A box and the text of the form that stands in it.
+struct BoundEntry {
+  OptionEntryQt* Box;
+  std::string OptionsForm::*Text;
+};
+
+/// Brings the texts of the form into their boxes, and back.
+void ShowEntries(const std::vector<BoundEntry>& entries, const OptionsForm& form);
+void ReadEntries(const std::vector<BoundEntry>& entries, OptionsForm& form);
 
 /// A number that is only shown, as wide as the boxes.
 class OptionResultQt final : public QLabel {

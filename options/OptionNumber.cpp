@@ -4,23 +4,8 @@
 #include <limits>
 
 #include "platform/NumberText.h"
-#include "settings/SettingRule.h"
 
 namespace veerwatch {
-
-bool Allows(OptionRange range, float value) {
-  switch (range) {
-    case OptionRange::NotNegative:
-      return value >= 0.0F;
-    case OptionRange::Positive:
-      return value > 0.0F;
-    case OptionRange::AverageCount:
-      return IsAverageCount(value);
-    case OptionRange::Any:
-      break;
-  }
-  return true;
-}
 
 std::string_view FaultText(OptionFault fault) {
   switch (fault) {

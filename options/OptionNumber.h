@@ -15,20 +15,6 @@ enum class OptionFault {
   SmallCount,    ///< an averaging count above 0 with which an average runs away
 };
 
-/// What numbers a setting can be.
-enum class OptionRange {
-  Any,
-  NotNegative,
-  Positive,
-  AverageCount,  ///< by IsAverageCount
-};
-
-/// The ranges of the loop's settings, for Apply and for whoever shows what they would do.
-inline constexpr OptionRange kTrackBandwidthRange = OptionRange::Positive;
-inline constexpr OptionRange kTrackDampingRange = OptionRange::NotNegative;
-
-bool Allows(OptionRange range, float value);
-
 /// "Type mismatch", "Overflow", "Invalid property value", "Must be 0 or above 0.5".
 std::string_view FaultText(OptionFault fault);
 

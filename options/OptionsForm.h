@@ -42,6 +42,46 @@ struct OptionsForm {
   std::string TrackMaxSteerTo;
 };
 
+/// Boxes that are stored one after the other. The simulated time is stored between boat and scene.
+enum class OptionGroup { Data, SimulateBoat, SimulateScene, Tracking };
+
+/// A box for a number and the setting that it shows. SettingsTable says what numbers it takes.
+struct OptionBox {
+  OptionGroup Group;
+  const char* Name;  ///< in the dialog
+  std::string OptionsForm::*Text;
+  float Settings::*Setting;
+};
+
+/// In the order in which they are stored.
+inline constexpr std::array<OptionBox, 15> kOptionBoxes{{
+    {OptionGroup::Data, "True Wind Average", &OptionsForm::NmeaTrueWindAverage,
+     &Settings::m_fNmeaTrueWindAverage},
+    {OptionGroup::Data, "Wind Indicator Average", &OptionsForm::NmeaWindIndicatorAverage,
+     &Settings::m_fNmeaWindIndicatorAverage},
+    {OptionGroup::SimulateBoat, "Boat Speed", &OptionsForm::SimulateBoatSpeed,
+     &Settings::m_fSimulateBoatSpeed},
+    {OptionGroup::SimulateBoat, "Offset", &OptionsForm::SimulateCompassOffset,
+     &Settings::m_fSimulateCompassOffset},
+    {OptionGroup::SimulateBoat, "Angle Noise", &OptionsForm::SimulateNoiseAngle,
+     &Settings::m_fSimulateNoiseAngle},
+    {OptionGroup::SimulateBoat, "Noise", &OptionsForm::SimulateNoiseSpeed, &Settings::m_fSimulateNoiseSpeed},
+    {OptionGroup::SimulateScene, "True Wind Direction", &OptionsForm::SimulateTrueWindAngle,
+     &Settings::m_fSimulateTrueWindAngle},
+    {OptionGroup::SimulateScene, "True Wind Speed", &OptionsForm::SimulateTrueWindSpeed,
+     &Settings::m_fSimulateTrueWindSpeed},
+    {OptionGroup::SimulateScene, "Magnetic Variation", &OptionsForm::SimulateVariation,
+     &Settings::m_fSimulateVariation},
+    {OptionGroup::SimulateScene, "Waypoint Bearing", &OptionsForm::SimulateWaypointBrg,
+     &Settings::m_fSimulateWaypointBearing},
+    {OptionGroup::SimulateScene, "Waypoint Range", &OptionsForm::SimulateWaypointRng,
+     &Settings::m_fSimulateWaypointRange},
+    {OptionGroup::Tracking, "Alarm Limit", &OptionsForm::TrackAlarmLimit, &Settings::m_fTrackAlarmLimit},
+    {OptionGroup::Tracking, "Bandwidth", &OptionsForm::TrackBandwidth, &Settings::m_fTrackBandwidth},
+    {OptionGroup::Tracking, "Damping", &OptionsForm::TrackDamping, &Settings::m_fTrackDamping},
+    {OptionGroup::Tracking, "Max Steer To", &OptionsForm::TrackMaxSteerTo, &Settings::m_fTrackMaxSteerTo},
+}};
+
 /// The form that shows `settings`.
 OptionsForm OptionsFormOf(const Settings& settings);
 

@@ -4,15 +4,15 @@
 #include <cassert>
 
 #include "options/SimulateTimeText.h"
+#include "settings/SettingsTable.h"
 
 namespace veerwatch {
 
 namespace {
 
-/// What to say of a number that `range` does not allow.
-OptionFault RefusalOf(OptionRange range, float value) {
-  return range == OptionRange::AverageCount && value > 0.0F ? OptionFault::SmallCount
-                                                            : OptionFault::InvalidValue;
+/// What to say of a number that a rule refuses.
+OptionFault RefusalOf(const NumberRule& rule, float value) {
+  return rule == kAverageCount && value > 0.0F ? OptionFault::SmallCount : OptionFault::InvalidValue;
 }
 
 std::int16_t Source(int index) {
@@ -21,13 +21,6 @@ std::int16_t Source(int index) {
 }
 
 }  // namespace
-
-struct OptionsStore::Item {
-  const char* Box;
-  const std::string& Text;
-  float& Setting;
-  OptionRange Allowed = OptionRange::Any;
-};
 
 std::optional<std::string> OptionsStore::Store(const OptionsForm& form) {
   struct Group {
@@ -49,18 +42,22 @@ std::optional<std::string> OptionsStore::Store(const OptionsForm& form) {
   return std::nullopt;
 }
 
-/// Stores them one after the other, up to the first fault.
-OptionsStore::Fault OptionsStore::StoreSingles(std::initializer_list<Item> items) {
-  for (const Item& item : items) {
-    const Converted<float> number = ToOptionSingle(item.Text);
+/// Stores the boxes of a group one after the other, up to the first fault.
+OptionsStore::Fault OptionsStore::StoreBoxes(OptionGroup group, const OptionsForm& form) {
+  for (const OptionBox& box : kOptionBoxes) {
+    if (box.Group != group) {
+      continue;
+    }
+    const Converted<float> number = ToOptionSingle(form.*box.Text);
     if (const auto* fault = std::get_if<OptionFault>(&number)) {
-      return BoxFault{*fault, item.Box};
+      return BoxFault{*fault, box.Name};
     }
-    const float value = std::get<float>(number);
-    if (!Allows(item.Allowed, value)) {
-      return BoxFault{RefusalOf(item.Allowed, value), item.Box};
+    const NumberRule& rule = RuleOf(SettingsTable(), box.Setting);
+    const auto taken = rule.Take(std::get<float>(number));
+    if (!taken) {
+      return BoxFault{RefusalOf(rule, std::get<float>(number)), box.Name};
     }
-    item.Setting = value;
+    m_main.*box.Setting = *taken;
   }
   return std::nullopt;
 }
@@ -72,10 +69,7 @@ OptionsStore::Fault OptionsStore::StoreData(const OptionsForm& form) {
     m_main.*kSentences[i].Enabled = form.NmeaSentence[i];
   }
   m_main.m_iNmeaTrueWind = Source(form.NmeaTrueWind);
-  return StoreSingles({{"True Wind Average", form.NmeaTrueWindAverage, m_main.m_fNmeaTrueWindAverage,
-                        OptionRange::AverageCount},
-                       {"Wind Indicator Average", form.NmeaWindIndicatorAverage,
-                        m_main.m_fNmeaWindIndicatorAverage, OptionRange::AverageCount}});
+  return StoreBoxes(OptionGroup::Data, form);
 }
 
 /// What became of the text of a box.
@@ -119,21 +113,13 @@ OptionsStore::Fault OptionsStore::StoreSimulate(const OptionsForm& form) {
     m_main.m_bSimulate = form.Simulate;
     m_main.TrackSetSetup();
   }
-  if (const Fault fault =
-          StoreSingles({{"Boat Speed", form.SimulateBoatSpeed, m_main.m_fSimulateBoatSpeed},
-                        {"Offset", form.SimulateCompassOffset, m_main.m_fSimulateCompassOffset},
-                        {"Angle Noise", form.SimulateNoiseAngle, m_main.m_fSimulateNoiseAngle},
-                        {"Noise", form.SimulateNoiseSpeed, m_main.m_fSimulateNoiseSpeed}})) {
+  if (const Fault fault = StoreBoxes(OptionGroup::SimulateBoat, form)) {
     return fault;
   }
   if (const Fault fault = In("Time", StoreTime(form.SimulateTime))) {
     return fault;
   }
-  return StoreSingles({{"True Wind Direction", form.SimulateTrueWindAngle, m_main.m_fSimulateTrueWindAngle},
-                       {"True Wind Speed", form.SimulateTrueWindSpeed, m_main.m_fSimulateTrueWindSpeed},
-                       {"Magnetic Variation", form.SimulateVariation, m_main.m_fSimulateVariation},
-                       {"Waypoint Bearing", form.SimulateWaypointBrg, m_main.m_fSimulateWaypointBearing},
-                       {"Waypoint Range", form.SimulateWaypointRng, m_main.m_fSimulateWaypointRange}});
+  return StoreBoxes(OptionGroup::SimulateScene, form);
 }
 
 std::optional<OptionFault> OptionsStore::StoreTime(const std::string& text) {
@@ -154,11 +140,7 @@ std::optional<OptionFault> OptionsStore::StoreTime(const std::string& text) {
 
 OptionsStore::Fault OptionsStore::StoreTracking(const OptionsForm& form) {
   m_main.m_bTrackAlarm = form.TrackAlarm;
-  return StoreSingles(
-      {{"Alarm Limit", form.TrackAlarmLimit, m_main.m_fTrackAlarmLimit, OptionRange::NotNegative},
-       {"Bandwidth", form.TrackBandwidth, m_main.m_fTrackBandwidth, kTrackBandwidthRange},
-       {"Damping", form.TrackDamping, m_main.m_fTrackDamping, kTrackDampingRange},
-       {"Max Steer To", form.TrackMaxSteerTo, m_main.m_fTrackMaxSteerTo}});
+  return StoreBoxes(OptionGroup::Tracking, form);
 }
 
 }  // namespace veerwatch

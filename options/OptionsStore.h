@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
 #include <optional>
 #include <string>
 
@@ -44,8 +43,6 @@ class OptionsStore {
   };
   /// Nothing when it is stored.
   using Fault = std::optional<BoxFault>;
-  /// A box and the setting that its text goes to.
-  struct Item;
 
   Fault StoreData(const OptionsForm& form);
   Fault StoreInput(const OptionsForm& form);
@@ -53,7 +50,7 @@ class OptionsStore {
   Fault StoreSimulate(const OptionsForm& form);
   Fault StoreTracking(const OptionsForm& form);
   static Fault In(const char* box, std::optional<OptionFault> fault);
-  static Fault StoreSingles(std::initializer_list<Item> items);
+  Fault StoreBoxes(OptionGroup group, const OptionsForm& form);
   std::optional<OptionFault> StorePort(const std::string& text, bool open, std::int16_t& port);
   std::optional<OptionFault> StoreTime(const std::string& text);
 

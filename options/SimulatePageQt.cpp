@@ -120,33 +120,30 @@ void SimulatePageQt::LayOut() {
   page->addStretch();
 }
 
+std::vector<BoundEntry> SimulatePageQt::Entries() const {
+  return {
+      {txtSimulateBoatSpeed, &OptionsForm::SimulateBoatSpeed},
+      {txtSimulateCompassOffset, &OptionsForm::SimulateCompassOffset},
+      {txtSimulateNoiseAngle, &OptionsForm::SimulateNoiseAngle},
+      {txtSimulateNoiseSpeed, &OptionsForm::SimulateNoiseSpeed},
+      {txtSimulateTime, &OptionsForm::SimulateTime},
+      {txtSimulateTrueWindAngle, &OptionsForm::SimulateTrueWindAngle},
+      {txtSimulateTrueWindSpeed, &OptionsForm::SimulateTrueWindSpeed},
+      {txtSimulateVariation, &OptionsForm::SimulateVariation},
+      {txtSimulateWaypointBrg, &OptionsForm::SimulateWaypointBrg},
+      {txtSimulateWaypointRng, &OptionsForm::SimulateWaypointRng},
+  };
+}
+
 void SimulatePageQt::Show(const OptionsForm& form) const {
   frmSimulate->setVisible(form.Simulate);
   chkSimulate->setChecked(form.Simulate);
-  txtSimulateBoatSpeed->setText(QString::fromStdString(form.SimulateBoatSpeed));
-  txtSimulateCompassOffset->setText(QString::fromStdString(form.SimulateCompassOffset));
-  txtSimulateNoiseAngle->setText(QString::fromStdString(form.SimulateNoiseAngle));
-  txtSimulateNoiseSpeed->setText(QString::fromStdString(form.SimulateNoiseSpeed));
-  txtSimulateTime->setText(QString::fromStdString(form.SimulateTime));
-  txtSimulateTrueWindAngle->setText(QString::fromStdString(form.SimulateTrueWindAngle));
-  txtSimulateTrueWindSpeed->setText(QString::fromStdString(form.SimulateTrueWindSpeed));
-  txtSimulateVariation->setText(QString::fromStdString(form.SimulateVariation));
-  txtSimulateWaypointBrg->setText(QString::fromStdString(form.SimulateWaypointBrg));
-  txtSimulateWaypointRng->setText(QString::fromStdString(form.SimulateWaypointRng));
+  ShowEntries(Entries(), form);
 }
 
 void SimulatePageQt::Read(OptionsForm& form) const {
   form.Simulate = chkSimulate->isChecked();
-  form.SimulateBoatSpeed = txtSimulateBoatSpeed->text().toStdString();
-  form.SimulateCompassOffset = txtSimulateCompassOffset->text().toStdString();
-  form.SimulateNoiseAngle = txtSimulateNoiseAngle->text().toStdString();
-  form.SimulateNoiseSpeed = txtSimulateNoiseSpeed->text().toStdString();
-  form.SimulateTime = txtSimulateTime->text().toStdString();
-  form.SimulateTrueWindAngle = txtSimulateTrueWindAngle->text().toStdString();
-  form.SimulateTrueWindSpeed = txtSimulateTrueWindSpeed->text().toStdString();
-  form.SimulateVariation = txtSimulateVariation->text().toStdString();
-  form.SimulateWaypointBrg = txtSimulateWaypointBrg->text().toStdString();
-  form.SimulateWaypointRng = txtSimulateWaypointRng->text().toStdString();
+  ReadEntries(Entries(), form);
 }
 
 void SimulatePageQt::ShowWaypoint(float bearing, float range) const {

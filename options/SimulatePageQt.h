@@ -49,6 +49,9 @@ class SimulatePageQt final : public QWidget {
   QCheckBox* chkSimulateAutoApply;
 
  private:
+  /// The boxes for texts of the form.
+  std::vector<BoundEntry> Entries() const;
+
   using Step = std::string (*)(std::string_view, SpinnerStep, int);
 
   std::array<QScrollBar*, 2> NewSpinners(const char* name, const char* hint, const char* unit);

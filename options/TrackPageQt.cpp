@@ -105,20 +105,23 @@ QWidget* TrackPageQt::NewResponse() {
   return frame;
 }
 
+std::vector<BoundEntry> TrackPageQt::Entries() const {
+  return {
+      {txtTrackAlarmLimit, &OptionsForm::TrackAlarmLimit},
+      {txtTrackBandwidth, &OptionsForm::TrackBandwidth},
+      {txtTrackDamping, &OptionsForm::TrackDamping},
+      {txtTrackMaxSteerTo, &OptionsForm::TrackMaxSteerTo},
+  };
+}
+
 void TrackPageQt::Show(const OptionsForm& form) const {
   chkTrackAlarm->setChecked(form.TrackAlarm);
-  txtTrackAlarmLimit->setText(QString::fromStdString(form.TrackAlarmLimit));
-  txtTrackBandwidth->setText(QString::fromStdString(form.TrackBandwidth));
-  txtTrackDamping->setText(QString::fromStdString(form.TrackDamping));
-  txtTrackMaxSteerTo->setText(QString::fromStdString(form.TrackMaxSteerTo));
+  ShowEntries(Entries(), form);
 }
 
 void TrackPageQt::Read(OptionsForm& form) const {
   form.TrackAlarm = chkTrackAlarm->isChecked();
-  form.TrackAlarmLimit = txtTrackAlarmLimit->text().toStdString();
-  form.TrackBandwidth = txtTrackBandwidth->text().toStdString();
-  form.TrackDamping = txtTrackDamping->text().toStdString();
-  form.TrackMaxSteerTo = txtTrackMaxSteerTo->text().toStdString();
+  ReadEntries(Entries(), form);
 }
 
 void TrackPageQt::TrackPreviewDraw() const {

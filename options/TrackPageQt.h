@@ -42,6 +42,9 @@ class TrackPageQt final : public QWidget {
   QLabel* lblTrackInUse;    ///< empty while the loop does not track
 
  private:
+  /// The boxes for texts of the form.
+  std::vector<BoundEntry> Entries() const;
+
   QWidget* NewOptions();
   QWidget* NewResponse();
 };

@@ -2,10 +2,12 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <map>
 
+#include "settings/SettingsTable.h"
 #include "tests/support/FakeMainWindow.h"
 #include "tests/support/SetPorts.h"
 
@@ -250,6 +252,20 @@ TEST_F(OptionsStoring, StoresTheTextsInTheirOrderUpToTheOneThatFails) {
     EXPECT_FALSE(main.m_bNmeaSentenceVTG) << failing;
     EXPECT_EQ(main.m_bSimulate, failing >= 4) << failing;
     EXPECT_EQ(main.m_bTrackAlarm, failing < 14) << failing;
+  }
+}
+
+TEST(OptionBoxes, ShowEachASettingOfTheirOwnThatHasAKey) {
+  for (const OptionBox& box : kOptionBoxes) {
+    EXPECT_TRUE(std::any_of(SettingsTable().begin(), SettingsTable().end(), [&box](const auto& row) {
+      return row.Value.Member == box.Setting;
+    })) << box.Name;
+    for (const OptionBox& other : kOptionBoxes) {
+      if (&other != &box) {
+        EXPECT_NE(other.Setting, box.Setting) << box.Name;
+        EXPECT_NE(other.Text, box.Text) << box.Name;
+      }
+    }
   }
 }
 
