@@ -42,6 +42,9 @@ struct Element {
   std::size_t Index;
 };
 
+template <class Struct, class Item, std::size_t Count>
+Element(std::array<Item, Count> Struct::*, std::size_t) -> Element<Struct, Item, Count>;
+
 /// The struct that a place is in, and what stands there.
 template <class Where>
 struct PlaceOf;
