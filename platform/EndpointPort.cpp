@@ -29,8 +29,9 @@ bool EndpointPort::Open() {
   m_open = OpenEndpoint(failure);
   m_failure = m_open ? std::string() : std::move(failure);
   if (m_open) {
-    m_standstill.Restart(Now());
-    Later(m_beatTime, kBeat);
+    const Time now = Now();
+    m_standstill.Restart(now);
+    Later(m_beatTime, now, kBeat);
   }
   return m_open;
 }
@@ -64,27 +65,28 @@ void EndpointPort::Input(std::string& text) {
 
 void EndpointPort::Output(std::string_view bundle) {
   if (m_open) {
-    m_slot.Put(bundle, Now());
-    PumpAgain();
+    const Time now = Now();
+    m_slot.Put(bundle, now);
+    PumpAgain(now);
   }
 }
 
 void EndpointPort::Arrived() {
   if (m_open) {
-    Later(m_offerTime, 0);
+    Later(m_offerTime, Now(), 0);
   }
 }
 
 void EndpointPort::Left() {
-  if (m_open) {
-    Later(m_pumpTime, 0);
+  if (m_open && m_slot.Waiting()) {
+    Later(m_pumpTime, Now(), 0);
   }
 }
 
 void EndpointPort::Failed() {
   if (m_open) {
     m_failed = true;
-    Later(m_offerTime, 0);
+    Later(m_offerTime, Now(), 0);
   }
 }
 
@@ -103,7 +105,7 @@ void EndpointPort::Wake() {
   const bool offer = due(m_offerTime);
   const bool stoodStill = m_standstill.Beat(now);
   // Before anything is told: whoever hears of it may turn the event loop.
-  Later(m_beatTime, kBeat);
+  Later(m_beatTime, now, kBeat);
   if (Events* const events = Connected(); events != nullptr && stoodStill) {
     events->OnPortOverslept();
   }
@@ -111,14 +113,13 @@ void EndpointPort::Wake() {
     Pump();
   }
   if (m_failed) {
-    Lose();
+    Lose(now);
   } else if (offer) {
-    Offer();
+    Offer(now);
   }
 }
 
-void EndpointPort::Later(Time& when, int milliseconds) {
-  const Time now = Now();
+void EndpointPort::Later(Time& when, Time now, int milliseconds) {
   when = now + milliseconds;
   const Time next = std::min({m_beatTime, m_offerTime, m_pumpTime});
   if (next != m_wakeTime) {
@@ -127,7 +128,7 @@ void EndpointPort::Later(Time& when, int milliseconds) {
   }
 }
 
-void EndpointPort::Offer() {
+void EndpointPort::Offer(Time now) {
   if (!m_open) {
     return;
   }
@@ -135,7 +136,7 @@ void EndpointPort::Offer() {
   if (m_unread.empty()) {
     return;
   }
-  if (m_standstill.Old(Now())) {
+  if (m_standstill.Old(now)) {
     m_unread.clear();
     Refill();
     return;
@@ -148,30 +149,31 @@ void EndpointPort::Offer() {
   }
   PollLineErrors();
   if (!m_unread.empty() && m_offerTime == kNever) {
-    Later(m_offerTime, kOfferAgain);
+    Later(m_offerTime, Now(), kOfferAgain);
   }
 }
 
 void EndpointPort::Refill() {
   Read(m_unread, kLargestUnread);
   if (!m_unread.empty()) {
-    Later(m_offerTime, 0);
+    Later(m_offerTime, Now(), 0);
   }
 }
 
 void EndpointPort::Pump() {
-  m_slot.Pump(Now());
-  PumpAgain();
+  const Time now = Now();
+  m_slot.Pump(now);
+  PumpAgain(now);
 }
 
-void EndpointPort::PumpAgain() {
+void EndpointPort::PumpAgain(Time now) {
   if (m_open && m_slot.Waiting()) {
-    Later(m_pumpTime, kLookAgain);
+    Later(m_pumpTime, now, kLookAgain);
   }
 }
 
-void EndpointPort::Lose() {
-  Offer();
+void EndpointPort::Lose(Time now) {
+  Offer(now);
   // Its owner may have closed it, and opened it again.
   if (!m_failed) {
     return;

@@ -87,11 +87,11 @@ class EndpointPort : public SerialPort, private OutputSlot::Line {
   Time Now() const { return m_clock.Now().Steady; }
   bool Open();
   void Close(int leaveTime);
-  void Later(Time& when, int milliseconds);
-  void Offer();
-  void Lose();
+  void Later(Time& when, Time now, int milliseconds);
+  void Offer(Time now);
+  void Lose(Time now);
   void Pump();
-  void PumpAgain();
+  void PumpAgain(Time now);
   void Refill();
 
   const Clock& m_clock;

@@ -10,9 +10,7 @@ class ReopenPause {
   /// Pauses in ticks, above 0: the first one, and the longest to which they double, one after the other,
   /// while every try fails.
   explicit constexpr ReopenPause(int first = kFirst, int longest = kFirst)
-      : m_first(first), m_longest(longest) {
-    Restart();
-  }
+      : m_first(first), m_longest(longest), m_pause(first), m_left(first) {}
 
   /// The port was just tried for the first time.
   constexpr void Restart() {
@@ -36,8 +34,8 @@ class ReopenPause {
 
   int m_first;
   int m_longest;
-  int m_pause = 0;
-  int m_left = 0;
+  int m_pause;
+  int m_left;
 };
 
 }  // namespace veerwatch

@@ -97,6 +97,16 @@ TEST_F(EndpointPortTest, SaysWhyItDoesNotOpenUntilItDoes) {
   EXPECT_EQ(m_port.OpenFailure(), "");
 }
 
+TEST_F(EndpointPortTest, GivesWhetherItIsAsAsked) {
+  EXPECT_TRUE(m_port.PortOpen(true));
+  EXPECT_TRUE(m_port.OpenAtTheEnd);
+  EXPECT_TRUE(m_port.PortOpen(false));
+  EXPECT_FALSE(m_port.OpenAtTheEnd);
+  EXPECT_TRUE(m_port.PortOpen(false));
+  EXPECT_TRUE(m_port.PortOpen(true));
+  EXPECT_TRUE(m_port.OpenAtTheEnd);
+}
+
 TEST_F(EndpointPortTest, TakesAnotherNumberOnlyWhileItIsClosed) {
   EXPECT_EQ(m_port.CommPort(), 1);
   m_port.CommPort(7);
@@ -137,6 +147,17 @@ TEST_F(EndpointPortTest, OffersNothingFromTheTimeBeforeItWasOpenedAgain) {
   EXPECT_THAT(m_owner.Codes, IsEmpty());
 }
 
+TEST_F(EndpointPortTest, AsksForItsBeatAndNoMoreEachTimeThatItIsOpened) {
+  m_port.Takes = 0;
+  m_port.Output("a\r\n");
+  m_port.Arrive("x");
+  m_port.PortOpen(false);
+  EXPECT_EQ(m_port.WakeAsked, std::nullopt);
+  m_clock.Time = HandClock().Time;  // the wait for the line has taken its time
+  m_port.PortOpen(true);
+  EXPECT_EQ(m_port.WakeAsked, 500);
+}
+
 // What comes in.
 
 TEST_F(EndpointPortTest, OffersWhatArrivesWhenTheLoopComesRound) {
@@ -146,6 +167,16 @@ TEST_F(EndpointPortTest, OffersWhatArrivesWhenTheLoopComesRound) {
   m_port.Turn();
   EXPECT_EQ(m_owner.Text, "x");
   EXPECT_THAT(m_owner.Codes, ElementsAre(CommEvent::kReceive));
+}
+
+TEST_F(EndpointPortTest, AsksOnceForAllThatArrivesAtOneMoment) {
+  m_port.Arrive("x");
+  m_port.WakeAsked.reset();
+  m_port.Arrive("y");
+  EXPECT_EQ(m_port.WakeAsked, std::nullopt);
+  m_port.Turn();
+  EXPECT_EQ(m_owner.Text, "xy");
+  EXPECT_EQ(m_owner.Codes.size(), 1U);
 }
 
 TEST_F(EndpointPortTest, OffersAgainAfterAHundredMillisecondsUntilItIsRead) {
@@ -170,6 +201,23 @@ TEST_F(EndpointPortTest, OffersAtOnceWhatArrivesBehindSomethingUnread) {
   m_port.Arrive("y");
   m_port.Turn();
   EXPECT_EQ(m_owner.Codes.size(), 2U);
+}
+
+TEST_F(EndpointPortTest, AsksForNothingMoreThanItsBeatWhenEverythingIsRead) {
+  m_port.Arrive("x");
+  m_port.Turn();
+  EXPECT_EQ(m_port.WakeAsked, 500);
+}
+
+TEST_F(EndpointPortTest, HoldsNoMoreHoweverOftenSomethingArrives) {
+  m_owner.Handle = [] {};
+  for (int i = 0; i < 3; ++i) {
+    m_port.Arrive(std::string(EndpointPort::kLargestUnread - 10, 'x'));
+    m_port.Turn();
+  }
+  m_port.Arrive("y");
+  m_owner.Read();
+  EXPECT_EQ(m_owner.Text.size(), EndpointPort::kLargestUnread);
 }
 
 TEST_F(EndpointPortTest, OffersAtOnceWhatHadNoRoom) {
@@ -363,6 +411,7 @@ TEST_F(EndpointPortTest, AsksForNothingMoreThanItsBeatWhenABundleHasLeft) {
   m_port.WakeAsked.reset();
   m_port.Output("a\r\n");
   EXPECT_EQ(m_port.Heard, "a\r\n");
+  m_port.Drain();
   EXPECT_EQ(m_port.WakeAsked, std::nullopt);
 }
 

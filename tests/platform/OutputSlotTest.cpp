@@ -206,6 +206,18 @@ TEST(OutputSlot, WithdrawsNothingThatIsOnItsWay) {
   EXPECT_EQ(All(line), kFirst);
 }
 
+TEST(OutputSlot, ForgetsTheBundleThatWaitsWhenItIsCleared) {
+  ScriptedLine line;
+  line.IsLeaving = true;
+  OutputSlot slot(line);
+  slot.Put(kFirst, kNow);
+  slot.Clear();
+  EXPECT_FALSE(slot.Waiting());
+  line.IsLeaving = false;
+  slot.Pump(kNow);
+  EXPECT_THAT(line.Written, IsEmpty());
+}
+
 TEST(OutputSlot, ForgetsTheRestTooWhenItIsCleared) {
   ScriptedLine line;
   line.Keeps = false;

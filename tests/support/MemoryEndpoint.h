@@ -36,6 +36,7 @@ class MemoryEndpoint final : public EndpointPort {
   // What the test sees.
 
   std::string Heard;             ///< what came out
+  bool OpenAtTheEnd = false;     ///< the endpoint itself is open
   int Polls = 0;                 ///< calls of PollLineErrors
   int Waits = 0;                 ///< calls of SendFor
   std::optional<int> WakeAsked;  ///< the latest WakeAfter, until it is kept [ms]
@@ -90,11 +91,15 @@ class MemoryEndpoint final : public EndpointPort {
 
   bool OpenEndpoint(std::string& failure) override {
     failure = Failure;
-    return Failure.empty();
+    OpenAtTheEnd = Failure.empty();
+    return OpenAtTheEnd;
   }
   void CloseEndpoint() override {
+    OpenAtTheEnd = false;
     m_arrived.clear();
     m_held.clear();
+    m_wake = kNoWake;
+    WakeAsked.reset();
   }
   void Read(std::string& text, std::size_t most) override {
     text.append(m_arrived, 0, most);
