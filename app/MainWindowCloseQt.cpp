@@ -1,6 +1,5 @@
 // The close of the main window, and what writes the profile.
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <cstdio>
 #include <utility>
@@ -17,13 +16,7 @@ void frmMain::CloseUnasked() {
   }
   m_ask = false;
   m_unasked = true;
-  if (QWidget* question = QApplication::activeModalWidget()) {
-    question->close();
-  }
-  // The close that asks goes on behind its question.
-  if (!m_asking) {
-    close();
-  }
+  close();
 }
 
 void frmMain::tmrUnload_Timer() {
@@ -31,14 +24,16 @@ void frmMain::tmrUnload_Timer() {
   close();
 }
 
-bool frmMain::StopTracking() {
+void frmMain::AskToStop() {
   // Deliberate: "is current tracking".
-  m_asking = true;
-  const bool yes =
-      m_parts.Asks.AskYesNo(std::string(kApplicationTitle) + " - Closing",
-                            "Veerwatch is current tracking the wind.\rDo you wish to stop tracking?");
-  m_asking = false;
-  return yes || !m_ask;
+  m_asks->AskYesNo(std::string(kApplicationTitle) + " - Closing",
+                   "Veerwatch is current tracking the wind.\rDo you wish to stop tracking?",
+                   [this](bool yes) {
+                     if (yes) {
+                       m_ask = false;
+                       close();
+                     }
+                   });
 }
 
 void frmMain::closeEvent(QCloseEvent* event) {
@@ -46,10 +41,13 @@ void frmMain::closeEvent(QCloseEvent* event) {
     event->accept();
     return;
   }
-  const bool tracking = m_tbrTrack->Button(TrackMode::Track)->isChecked();
-  if (m_ask && tracking && !StopTracking()) {
-    event->ignore();
-    return;
+  if (m_ask && m_tbrTrack->Button(TrackMode::Track)->isChecked()) {
+    AskToStop();
+    // A Yes closes anew, but for one that has come already.
+    if (m_ask) {
+      event->ignore();
+      return;
+    }
   }
   LeaveControls();
   m_others.PilotTaken();

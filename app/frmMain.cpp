@@ -46,9 +46,13 @@ void ShowText(QLabel& label, const QString& text) {
 
 constexpr std::size_t At(int index) { return static_cast<std::size_t>(index - 1); }
 
-/// The keyboard is in an entry box of another window than the main one, which is not active.
+/// The keyboard is in an entry box of another window than the main one, which is not active. A question can
+/// wait.
 bool TypesElsewhere(const QWidget& main) {
   const QWidget* focus = QApplication::focusWidget();
+  if (focus != nullptr && focus->window()->isModal()) {
+    return false;
+  }
   const auto* box = qobject_cast<const QLineEdit*>(focus);
   const auto* number = qobject_cast<const QAbstractSpinBox*>(focus);
   return !main.isActiveWindow() &&
@@ -62,6 +66,7 @@ constexpr float NudgeOf(int index) { return index == 2 ? 1.0F : -1.0F; }
 
 frmMain::frmMain(const MainWindowParts& parts)
     : m_parts(parts),
+      m_asks(parts.Asks.Of(*this)),
       m_menu(*this),
       m_tbrTrack(new frmMainModeBar(*this)),
       m_panel(new InstrumentPanelQt(this)),

@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QTimer>
 #include <array>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,7 +35,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   /// Shows the window in front of those that the profile has opened again.
   void ShowInFront();
 
-  /// Closes in order without asking anything, even while a question is open: for the end of the session.
+  /// Closes in order without asking anything; a question that is open goes with its window. For the end of
+  /// the session.
   void CloseUnasked();
 
   /// Writes the profile as a close does and goes on. What goes wrong is said on standard error and in the
@@ -89,8 +91,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void changeEvent(QEvent* event) override;
 
  private:
-  /// Asks; true when the close may go on.
-  bool StopTracking();
+  /// Asks whether to stop tracking, and closes at a Yes.
+  void AskToStop();
   void MakeMiddle();
   void MakeStatusBar();
   void ConnectControls();
@@ -148,6 +150,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   }
 
   MainWindowParts m_parts;
+  std::unique_ptr<WindowDialogs> m_asks;
   frmMainMenu m_menu;
   frmMainModeBar* m_tbrTrack;
   InstrumentPanelQt* m_panel;
@@ -159,7 +162,6 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   QString m_instead;            ///< shown in place of the mode: why Track was refused, or a turn has ended
   QTimer m_insteadTimer{this};  ///< ends what is said about a turn
   WindWatch m_windWatch;
-  bool m_asking = false;    ///< the question of the close is open
   bool m_unasked = false;   ///< the close is not the user's
   bool m_unloaded = false;  ///< the profile is written, everything is closed
   std::string m_saveFailure;

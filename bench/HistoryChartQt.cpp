@@ -50,7 +50,7 @@ struct Day {
   }
 
   SetClock Time;
-  NoDialogs Asks;
+  NoWindowDialogs Asks;
   StripChart Chart;
 };
 

@@ -2,31 +2,29 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
+#include <memory>
 #include <string>
 
 #include "platform/Dialogs.h"
 
 namespace veerwatch {
 
+class NoWindowDialogs final : public WindowDialogs {
+ public:
+  void AskYesNo(const std::string&, const std::string&, YesNo) override {}
+  void WarnYesNo(const std::string&, const std::string&, YesNo) override {}
+  void Inform(const std::string&, const std::string&) override {}
+  void AskText(const std::string&, const std::string&, const std::string&, Text) override {}
+  void OpenFile(const std::string&, const std::string&, Text) override {}
+  void SaveFile(const std::string&, const std::string&, Text) override {}
+  void ExportFile(const std::string&, const std::string&, const std::string&, Text) override {}
+  void PickColour(std::uint32_t, Colour) override {}
+};
+
 class NoDialogs final : public Dialogs {
  public:
-  bool AskYesNo(const std::string&, const std::string&) override { return false; }
-  bool WarnYesNo(const std::string&, const std::string&) override { return false; }
+  std::unique_ptr<WindowDialogs> Of(QWidget&) override { return std::make_unique<NoWindowDialogs>(); }
   void Inform(const std::string&, const std::string&) override {}
-  std::optional<std::string> AskText(const std::string&, const std::string&, const std::string&) override {
-    return std::nullopt;
-  }
-  std::optional<std::string> OpenFile(const std::string&, const std::string&) override {
-    return std::nullopt;
-  }
-  std::optional<std::string> SaveFile(const std::string&, const std::string&) override {
-    return std::nullopt;
-  }
-  std::optional<std::string> ExportFile(const std::string&, const std::string&, const std::string&) override {
-    return std::nullopt;
-  }
-  std::optional<std::uint32_t> PickColour(std::uint32_t) override { return std::nullopt; }
   bool ShowPage(const std::string&) override { return false; }
   void Beep() override {}
   void ToForeground() override {}

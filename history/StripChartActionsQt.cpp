@@ -202,15 +202,14 @@ void StripChart::PickColour(int trace) {
   }
   m_popup->close();
   const QRgb now = m_colours.Trace(at, m_settings.Traces[at].Colour).rgb();
-  const auto picked = m_dialogs.PickColour(Turned(now & 0xFFFFFFU));
-  if (picked) {
-    m_settings.Traces[at].Colour = Turned(*picked & 0xFFFFFFU);
-    Changed();
-  }
-  // The program may have been closed behind the question.
-  if (isVisible()) {
+  m_dialogs.PickColour(Turned(now & 0xFFFFFFU), [this, at](std::optional<std::uint32_t> picked) {
+    // The traces may have been set up anew meanwhile.
+    if (picked && at < m_settings.Traces.size()) {
+      m_settings.Traces[at].Colour = Turned(*picked & 0xFFFFFFU);
+      Changed();
+    }
     ShowPopup();
-  }
+  });
 }
 
 std::string StripChart::ProposedName(const char* ending) const {
@@ -223,10 +222,14 @@ std::string StripChart::ProposedName(const char* ending) const {
 
 void StripChart::SavePicture() {
   m_popup->close();
-  const auto file = m_dialogs.ExportFile("Save Picture", "Pictures (*.png)", ProposedName(".png"));
-  if (!file || file->empty()) {
-    return;
-  }
+  m_dialogs.ExportFile("Save Picture", "Pictures (*.png)", ProposedName(".png"), [this](const auto& file) {
+    if (file && !file->empty()) {
+      WritePicture(*file);
+    }
+  });
+}
+
+void StripChart::WritePicture(const std::string& file) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
@@ -236,18 +239,23 @@ void StripChart::SavePicture() {
     return;
   }
   if (const auto failure =
-          WriteAtomically(PathOf(*file), {bytes.constData(), static_cast<std::size_t>(bytes.size())})) {
+          WriteAtomically(PathOf(file), {bytes.constData(), static_cast<std::size_t>(bytes.size())})) {
     m_dialogs.Inform(kTitle, "The picture was not saved:\r" + *failure);
   }
 }
 
 void StripChart::SaveData() {
   m_popup->close();
-  const auto file = m_dialogs.ExportFile("Save Data", "Comma-separated values (*.csv)", ProposedName(".csv"));
-  if (!file || file->empty()) {
-    return;
-  }
-  if (const auto failure = WriteAtomically(PathOf(*file), HistoryCsv(m_data))) {
+  m_dialogs.ExportFile("Save Data", "Comma-separated values (*.csv)", ProposedName(".csv"),
+                       [this](const auto& file) {
+                         if (file && !file->empty()) {
+                           WriteData(*file);
+                         }
+                       });
+}
+
+void StripChart::WriteData(const std::string& file) {
+  if (const auto failure = WriteAtomically(PathOf(file), HistoryCsv(m_data))) {
     m_dialogs.Inform(kTitle, "The data were not saved:\r" + *failure);
   }
 }

@@ -17,7 +17,7 @@ QColor Colour(std::uint32_t rgb) { return QColor(static_cast<QRgb>(rgb | 0xFF000
 
 }  // namespace
 
-StripChart::StripChart(const Clock& clock, Dialogs& dialogs, QWidget* parent)
+StripChart::StripChart(const Clock& clock, WindowDialogs& dialogs, QWidget* parent)
     : QWidget(parent),
       m_clock(clock),
       m_dialogs(dialogs),

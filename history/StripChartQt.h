@@ -26,7 +26,7 @@ namespace veerwatch {
 class StripChart final : public QWidget, public StripChartOperations {
  public:
   /// Both outlive the chart. `clock` tells the moment of every sample.
-  StripChart(const Clock& clock, Dialogs& dialogs, QWidget* parent);
+  StripChart(const Clock& clock, WindowDialogs& dialogs, QWidget* parent);
   ~StripChart() override;
 
   void TraceCountSet(std::int16_t count) override;
@@ -116,12 +116,14 @@ class StripChart final : public QWidget, public StripChartOperations {
   void ShowPopup();
   void PickColour(int trace);
   void SavePicture();
+  void WritePicture(const std::string& file);
   void SaveData();
+  void WriteData(const std::string& file);
   void Defaults();
   std::string ProposedName(const char* ending) const;
 
   const Clock& m_clock;
-  Dialogs& m_dialogs;
+  WindowDialogs& m_dialogs;
   StripChartData m_data;
   std::vector<std::string> m_titles;
   std::vector<QColor> m_groupColours;

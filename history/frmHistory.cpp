@@ -29,7 +29,10 @@ void Note(float& twips, int pixels) {
 }  // namespace
 
 frmHistory::frmHistory(const Parts& parts)
-    : m_parts(parts), m_chart(new StripChart(parts.Time, parts.Asks, this)), m_line(new QFrame(this)) {
+    : m_parts(parts),
+      m_asks(parts.Asks.Of(*this)),
+      m_chart(new StripChart(parts.Time, *m_asks, this)),
+      m_line(new QFrame(this)) {
   setObjectName(QStringLiteral("frmHistory"));
   setWindowTitle(QStringLiteral("Veerwatch - History"));
   setAttribute(Qt::WA_QuitOnClose, false);

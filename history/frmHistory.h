@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
+#include <memory>
 #include <string_view>
 
 #include "draw/WindowPlace.h"
@@ -60,6 +61,7 @@ class frmHistory final : public QWidget {
   void NotePlace();
 
   Parts m_parts;
+  std::unique_ptr<WindowDialogs> m_asks;
   StripChart* m_chart;
   QFrame* m_line;  ///< across the top
   HistoryPlace m_place;

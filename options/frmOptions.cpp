@@ -34,7 +34,10 @@ QString Text(std::string_view text) {
 }  // namespace
 
 frmOptions::frmOptions(const Parts& parts)
-    : m_parts(parts), m_store(parts.Main, parts.Ports), SSTab(new QTabWidget(this)) {
+    : m_parts(parts),
+      m_asks(parts.Asks.Of(*this)),
+      m_store(parts.Main, parts.Ports),
+      SSTab(new QTabWidget(this)) {
   setObjectName(QStringLiteral("frmOptions"));
   setWindowTitle(QStringLiteral("Veerwatch - Options"));
   setWindowFlags(Qt::Window);
@@ -267,7 +270,7 @@ void frmOptions::OptionsReload() {
 bool frmOptions::OptionsApply() {
   if (const auto problem = m_store.Store(Form())) {
     const std::string hint = DeviceHint(Form());
-    m_parts.Asks.Inform(kApplicationTitle, hint.empty() ? *problem : *problem + "\r\r" + hint);
+    m_asks->Inform(kApplicationTitle, hint.empty() ? *problem : *problem + "\r\r" + hint);
     return false;
   }
   ApplyBold(false);

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -110,6 +111,7 @@ class frmOptions final : public QDialog {
   void ApplyBold(bool bold);
 
   Parts m_parts;
+  std::unique_ptr<WindowDialogs> m_asks;
   OptionsStore m_store;
   QTabWidget* SSTab;
   PortPageQt* m_input;

@@ -5,8 +5,6 @@
 #include <QScreen>
 #include <algorithm>
 
-#include "polar/PolarQuestions.h"
-
 namespace veerwatch {
 
 namespace {
@@ -33,7 +31,9 @@ std::int16_t Short(int value) {
 
 frmPolar::frmPolar(const PolarParts& parts)
     : m_parts(parts),
+      m_asks(parts.Asks.Of(*this)),
       m_model(parts.Folders),
+      m_questions(m_model, *m_asks, [this] { Follow(); }),
       m_scene(m_model),
       m_menu(*this),
       m_canvas(new PolarCanvasQt(this)),
@@ -81,25 +81,25 @@ void frmPolar::ConnectMenus() {
     OnItem(item, [this, knots = range] { m_model.Range(knots); });
   }
   OnItem(m_menu.mnuRangeFit, [this] { m_model.RangeFit(); });
-  OnItem(m_menu.mnuRangeCustom, [this] { AskRange(m_model, m_parts.Asks); });
-  OnItem(m_menu.mnuOverlayFile1, [this] { AskOpen(m_model, PolarModel::kMain, m_parts.Asks); });
-  OnItem(m_menu.mnuSaveAs, [this] { PolarSaveAs(m_model, m_parts.Asks); });
-  OnItem(m_menu.mnuOverlayColor, [this] { AskColor(m_model, m_parts.Asks); });
-  OnItem(m_menu.mnuOverlayScale, [this] { AskScaling(m_model, m_parts.Asks); });
+  OnItem(m_menu.mnuRangeCustom, [this] { m_questions.AskRange(); });
+  OnItem(m_menu.mnuOverlayFile1, [this] { m_questions.AskOpen(PolarModel::kMain); });
+  OnItem(m_menu.mnuSaveAs, [this] { m_questions.SaveAs(); });
+  OnItem(m_menu.mnuOverlayColor, [this] { m_questions.AskColor(); });
+  OnItem(m_menu.mnuOverlayScale, [this] { m_questions.AskScaling(); });
   OnItem(m_menu.mnuOverlaySmooth, [this] { m_model.ToggleSmoothWinds(); });
-  OnItem(m_menu.mnuOverlayFile2, [this] { AskOpen(m_model, PolarModel::kReference, m_parts.Asks); });
+  OnItem(m_menu.mnuOverlayFile2, [this] { m_questions.AskOpen(PolarModel::kReference); });
   for (const auto& [seconds, item] : m_menu.mnuAverage) {
     OnItem(item, [this, time = seconds] { m_model.Average(time); });
   }
   for (std::size_t i = 0; i < m_menu.mnuCourseWaypoint.size(); ++i) {
     OnItem(m_menu.mnuCourseWaypoint[i], [this, i] { m_model.ChooseCourse(static_cast<CourseSource>(i)); });
   }
-  OnItem(m_menu.mnuCourseTargetBearing, [this] { AskTargetBearing(m_model, m_parts.Asks); });
+  OnItem(m_menu.mnuCourseTargetBearing, [this] { m_questions.AskTargetBearing(); });
   OnItem(m_menu.mnuCourseScale, [this] { m_model.ToggleCourseScale(); });
   for (std::size_t i = 0; i < m_menu.mnuBoatType.size(); ++i) {
     OnItem(m_menu.mnuBoatType[i], [this, i] { m_model.Boat(static_cast<BoatType>(i)); });
   }
-  OnItem(m_menu.mnuBoatMotorSpeed, [this] { AskMotorSpeed(m_model, m_parts.Asks); });
+  OnItem(m_menu.mnuBoatMotorSpeed, [this] { m_questions.AskMotorSpeed(); });
 }
 
 void frmPolar::ConnectCourse() {
@@ -130,7 +130,7 @@ void frmPolar::PolarInit(bool recall) {
     PolarRecall();
   }
   PolarMenus();
-  PolarLoadAndTell(m_model, PolarModel::kMain, m_parts.Asks);
+  m_questions.LoadAndTell(PolarModel::kMain);
   PolarDraw();
 }
 

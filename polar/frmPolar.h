@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMainWindow>
+#include <memory>
 #include <optional>
 
 #include "platform/Dialogs.h"
@@ -15,6 +16,7 @@
 #include "polar/PolarListener.h"
 #include "polar/PolarMenuQt.h"
 #include "polar/PolarModel.h"
+#include "polar/PolarQuestions.h"
 #include "polar/PolarScene.h"
 #include "settings/TrackMode.h"
 
@@ -82,7 +84,9 @@ class frmPolar final : public QMainWindow {
   void OnItem(QAction* item, Command command);
 
   PolarParts m_parts;
+  std::unique_ptr<WindowDialogs> m_asks;
   PolarModel m_model;
+  PolarQuestions m_questions;
   PolarScene m_scene;
   PolarMenuQt m_menu;
   PolarCanvasQt* m_canvas;

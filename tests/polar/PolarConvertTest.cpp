@@ -18,7 +18,7 @@ class PolarConvertTest : public PolarModelTest {
 TEST_F(PolarConvertTest, OffersToConvertAnotherSpellingAndOpensWhatComesOut) {
   Dialogs.Files = {File("b.csv"), File("mine.pol")};
   Dialogs.Answers = {true};
-  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskOpen, int{PolarModel::kMain}));
   ASSERT_EQ(Dialogs.Questions.size(), 1U);
   EXPECT_EQ(Dialogs.Questions[0].Text.rfind("Polar File Error: No TWA Data\n", 0), 0U);
   ASSERT_EQ(Dialogs.FileDialogs.size(), 2U);
@@ -34,7 +34,7 @@ TEST_F(PolarConvertTest, ConvertsForTheReferenceToo) {
   WriteFile(Program / "r.pol", "TWA;6;8\n40;4;5\n90;6;7\n");
   Dialogs.Files = {File("r.pol"), File("r converted.pol")};
   Dialogs.Answers = {true};
-  EXPECT_TRUE(AskOpen(Model, PolarModel::kReference, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskOpen, int{PolarModel::kReference}));
   EXPECT_EQ(Dialogs.FileDialogs[1].Text, File("r converted.pol")) << "no other file is replaced";
   EXPECT_EQ(Model.PolarsShown(), 2);
   EXPECT_EQ(Model.Table().PolarRows(1), 2);
@@ -48,10 +48,10 @@ TEST_F(PolarConvertTest, OffersToConvertAFileOfEightMebibytesAtMost) {
   WriteFile(Program / "larger.csv", text + comment + "#");
   Dialogs.Files = {File("large.csv"), File("larger.csv")};
   Dialogs.Answers = {false};
-  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskOpen, int{PolarModel::kMain}));
   EXPECT_EQ(Dialogs.Questions.size(), 1U);
   EXPECT_TRUE(Dialogs.Messages.empty());
-  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskOpen, int{PolarModel::kMain}));
   EXPECT_EQ(Dialogs.Questions.size(), 1U);
   EXPECT_EQ(Dialogs.Messages.size(), 1U);
 }
@@ -60,14 +60,14 @@ TEST_F(PolarConvertTest, ConvertsNothingWhenNobodyWants) {
   const auto names = Program.Names();
   Dialogs.Files = {File("b.csv")};
   Dialogs.Answers = {false};
-  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskOpen, int{PolarModel::kMain}));
   Dialogs.Files = {File("b.csv"), std::nullopt};
   Dialogs.Answers = {true};
-  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskOpen, int{PolarModel::kMain}));
   // A file that is there is replaced only after a second question.
   Dialogs.Files = {File("b.csv"), File(kDefaultPolar)};
   Dialogs.Answers = {true, false};
-  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskOpen, int{PolarModel::kMain}));
   EXPECT_EQ(Dialogs.Warnings.size(), 1U);
   EXPECT_EQ(Program.Names(), names);
   EXPECT_EQ(ReadFile(Program / kDefaultPolar), kSmallPolar);
@@ -77,14 +77,14 @@ TEST_F(PolarConvertTest, ConvertsNothingWhenNobodyWants) {
 TEST_F(PolarConvertTest, TellsWhatIsNoPolarAtAllAndWhatCannotBeWritten) {
   WriteFile(Program / "c.pol", "a letter\n");
   Dialogs.Files = {File("c.pol"), File("missing.pol")};
-  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
-  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskOpen, int{PolarModel::kMain}));
+  EXPECT_TRUE(Took(&PolarQuestions::AskOpen, int{PolarModel::kMain}));
   EXPECT_TRUE(Dialogs.Questions.empty());
   ASSERT_EQ(Dialogs.Messages.size(), 2U);
   EXPECT_EQ(Dialogs.Messages[0].Text, "Polar File Error: No TWA Data");
   Dialogs.Files = {File("b.csv"), File("b.csv/x.pol")};
   Dialogs.Answers = {true};
-  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskOpen, int{PolarModel::kMain}));
   ASSERT_EQ(Dialogs.Messages.size(), 3U);
   EXPECT_EQ(Dialogs.Messages[2].Text.rfind("cannot write ", 0), 0U);
 }
@@ -96,7 +96,7 @@ TEST_F(PolarConvertTest, TellsInTheQuestionWhatIsLeftOut) {
   }
   WriteFile(Program / "wide.pol", wide + "\n40\t5\n90\t6\n");
   Dialogs.Files = {File("wide.pol")};
-  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskOpen, int{PolarModel::kMain}));
   ASSERT_EQ(Dialogs.Questions.size(), 1U);
   EXPECT_EQ(Dialogs.Questions[0].Text.rfind("Polar File Error: more than 50 wind speeds\n", 0), 0U);
   EXPECT_NE(Dialogs.Questions[0].Text.find("(of 61 wind speeds 50 are kept)"), std::string::npos);

@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
+#include "polar/PolarQuestions.h"
 #include "tests/support/PolarText.h"
 #include "tests/support/QueuedDialogs.h"
 #include "tests/support/TemporaryFolder.h"
@@ -16,11 +19,22 @@ class PolarModelTest : public testing::Test {
   TemporaryFolder Program;
   QueuedDialogs Dialogs;
   PolarModel Model{{Program.Path(), {}}};
+  std::unique_ptr<WindowDialogs> Asks = Dialogs.OfWindow();
+  int Changes = 0;  ///< how often the model has taken an answer
+  PolarQuestions Questions{Model, *Asks, [this] { ++Changes; }};
 
   PolarModelTest() {
     WriteFile(Program / kDefaultPolar, kSmallPolar);
     Model.Reset(nullptr);
     EXPECT_TRUE(Model.Load(PolarModel::kMain).Loaded);
+  }
+
+  /// Asks with `ask` and says whether the model took an answer.
+  template <class... Arguments>
+  bool Took(void (PolarQuestions::*ask)(Arguments...), Arguments... arguments) {
+    const int before = Changes;
+    (Questions.*ask)(arguments...);
+    return Changes > before;
   }
 
   static PolarValues Sailing(float angle, float wind, float boat) {

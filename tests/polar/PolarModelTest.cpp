@@ -94,7 +94,7 @@ TEST_F(PolarModelTest, KeepsTheFileOfTheProfileWhenItIsNotThereAtTheStart) {
 TEST_F(PolarModelTest, KeepsTheFactorWhenTheFileIsGone) {
   std::filesystem::remove(Program / kDefaultPolar);
   Dialogs.Texts = {"0.8"};
-  AskScaling(Model, Dialogs);
+  Questions.AskScaling();
   EXPECT_EQ(Dialogs.Messages.size(), 1U);
   EXPECT_EQ(Model.Settings().SpeedFactor, 1.0F);
   EXPECT_EQ(Model.Table().Value(0, 1, 1), 4.0F);

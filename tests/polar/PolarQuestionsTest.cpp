@@ -14,10 +14,10 @@ namespace {
 
 TEST_F(PolarModelTest, AsksForTheRange) {
   Dialogs.Texts = {"7.5", "", "x", std::nullopt, "-2"};
-  EXPECT_TRUE(AskRange(Model, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskRange));
   EXPECT_EQ(Model.Settings().SpeedRange, 7.5F);
   for (int i = 0; i < 4; ++i) {
-    EXPECT_FALSE(AskRange(Model, Dialogs));
+    EXPECT_FALSE(Took(&PolarQuestions::AskRange));
     EXPECT_EQ(Model.Settings().SpeedRange, 7.5F);
   }
   EXPECT_EQ(Dialogs.Questions[0].Title, "Polar Plot - Speed Range");
@@ -28,7 +28,7 @@ TEST_F(PolarModelTest, AsksForTheRange) {
 
 TEST_F(PolarModelTest, AsksForTheFactorAndLoadsTheOwnPolarAnew) {
   Dialogs.Texts = {"0.5"};
-  EXPECT_TRUE(AskScaling(Model, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskScaling));
   EXPECT_EQ(Model.Table().Value(0, 1, 1), 2.0F);
   EXPECT_EQ(Dialogs.Questions[0].Title, "AutoPilot - Polar Plot - Speed Factor");
   EXPECT_EQ(Dialogs.Questions[0].Text,
@@ -37,7 +37,7 @@ TEST_F(PolarModelTest, AsksForTheFactorAndLoadsTheOwnPolarAnew) {
             "displacement.");
   EXPECT_EQ(Dialogs.Presets[0], "1");
   Dialogs.Texts = {"2"};
-  EXPECT_TRUE(AskScaling(Model, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskScaling));
   EXPECT_EQ(Model.Table().Value(0, 1, 1), 8.0F) << "from the file, not from what was scaled before";
 }
 
@@ -48,7 +48,7 @@ TEST_F(PolarModelTest, AsksWhetherAPercentageWasMeant) {
     Dialogs.Texts = {entered};
     Dialogs.Answers = {true};
     Dialogs.Warnings.clear();
-    EXPECT_TRUE(AskScaling(Model, Dialogs));
+    EXPECT_TRUE(Took(&PolarQuestions::AskScaling));
     ASSERT_EQ(Dialogs.Warnings.size(), 1U) << entered;
     EXPECT_EQ(Dialogs.Warnings[0].Title, "AutoPilot - Polar Plot - Speed Factor");
     EXPECT_EQ(Dialogs.Warnings[0].Text, std::string("Did you mean ") + likely + "?");
@@ -56,11 +56,11 @@ TEST_F(PolarModelTest, AsksWhetherAPercentageWasMeant) {
   }
   Dialogs.Texts = {"90"};
   Dialogs.Answers = {false};
-  EXPECT_TRUE(AskScaling(Model, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskScaling));
   EXPECT_EQ(Model.Settings().SpeedFactor, 90.0F) << "the answer was No";
   Dialogs.Warnings.clear();
   Dialogs.Texts = {"3"};
-  EXPECT_TRUE(AskScaling(Model, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskScaling));
   EXPECT_TRUE(Dialogs.Warnings.empty());
   EXPECT_EQ(Model.Table().Value(0, 1, 1), 12.0F);
 }
@@ -94,9 +94,9 @@ TEST_F(PolarModelTest, LeavesTheRangeWhenThereIsNoCurve) {
 
 TEST_F(PolarModelTest, AsksForTheBearingAndTheMotorSpeed) {
   Dialogs.Texts = {"361", "4.5"};
-  EXPECT_TRUE(AskTargetBearing(Model, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskTargetBearing));
   EXPECT_EQ(Model.Settings().CourseTargetBearing, 1.0F);
-  EXPECT_TRUE(AskMotorSpeed(Model, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskMotorSpeed));
   EXPECT_EQ(Model.Settings().BoatMotorSpeed, 4.5F);
   EXPECT_EQ(Dialogs.Questions[0].Title, "Polar Plot - Target Bearing");
   EXPECT_EQ(Dialogs.Questions[0].Text, "Enter the Target Bearing.");
@@ -105,10 +105,10 @@ TEST_F(PolarModelTest, AsksForTheBearingAndTheMotorSpeed) {
 }
 
 TEST_F(PolarModelTest, AsksForTheColour) {
-  EXPECT_FALSE(AskColor(Model, Dialogs));
+  EXPECT_FALSE(Took(&PolarQuestions::AskColor));
   EXPECT_EQ(Model.Settings().SpeedColor, 0U);
-  Dialogs.Colour = 0x0080FFU;
-  EXPECT_TRUE(AskColor(Model, Dialogs));
+  Dialogs.PickedColours = {0x0080FFU};
+  EXPECT_TRUE(Took(&PolarQuestions::AskColor));
   EXPECT_EQ(Model.Settings().SpeedColor, 0x0080FFU);
 }
 
@@ -116,21 +116,21 @@ TEST_F(PolarModelTest, TellsWhatIsWrongWithAFileThatIsOpened) {
   WriteFile(Program / "bad.pol", "polar\n");
   WriteFile(Program / "cut.pol", "TWA\t6\n90\t5");
   Dialogs.Files = {std::nullopt, (Program / "bad.pol").string(), (Program / "cut.pol").string()};
-  EXPECT_FALSE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_FALSE(Took(&PolarQuestions::AskOpen, int{PolarModel::kMain}));
   EXPECT_EQ(Dialogs.FileDialogs[0].Title, "(*.pol)|*.pol");
   EXPECT_EQ(Dialogs.FileDialogs[0].Text, (Program / kDefaultPolar).string());
-  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskOpen, int{PolarModel::kMain}));
   ASSERT_EQ(Dialogs.Messages.size(), 1U);
   EXPECT_EQ(Dialogs.Messages[0].Text, "Polar File Error: No TWA Data");
-  EXPECT_TRUE(AskOpen(Model, PolarModel::kMain, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::AskOpen, int{PolarModel::kMain}));
   EXPECT_EQ(Dialogs.Messages.size(), 1U) << "a last line without an end is not told";
 }
 
 TEST_F(PolarModelTest, SavesUnderANewName) {
   const std::string file = (Program / "new.pol").string();
   Dialogs.Files = {std::nullopt, file};
-  EXPECT_FALSE(PolarSaveAs(Model, Dialogs));
-  EXPECT_TRUE(PolarSaveAs(Model, Dialogs));
+  EXPECT_FALSE(Took(&PolarQuestions::SaveAs));
+  EXPECT_TRUE(Took(&PolarQuestions::SaveAs));
   EXPECT_TRUE(Dialogs.Warnings.empty());
   EXPECT_EQ(Model.Settings().File[0], file);
   EXPECT_EQ(ReadFile(file).substr(0, 16), "TWA\t6\t10\t14\t20\r\n");
@@ -141,10 +141,10 @@ TEST_F(PolarModelTest, SavesUnderANewName) {
 TEST_F(PolarModelTest, OffersTheFactorOneAfterItSavedAScaledPolar) {
   const std::string file = (Program / "scaled.pol").string();
   Dialogs.Texts = {"0.9", "0.9"};
-  AskScaling(Model, Dialogs);
+  Questions.AskScaling();
   Dialogs.Files = {file, file};
   Dialogs.Answers = {true};
-  EXPECT_TRUE(PolarSaveAs(Model, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::SaveAs));
   ASSERT_EQ(Dialogs.Warnings.size(), 1U);
   EXPECT_EQ(Dialogs.Warnings[0].Title, "AutoPilot - Save As");
   EXPECT_EQ(Dialogs.Warnings[0].Text,
@@ -156,9 +156,9 @@ TEST_F(PolarModelTest, OffersTheFactorOneAfterItSavedAScaledPolar) {
   ASSERT_TRUE(Model.Load(PolarModel::kMain).Loaded);
   EXPECT_FLOAT_EQ(Model.Table().Value(0, 1, 1), 3.6F) << "as at the next start";
 
-  AskScaling(Model, Dialogs);
+  Questions.AskScaling();
   Dialogs.Answers = {true, false};
-  EXPECT_TRUE(PolarSaveAs(Model, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::SaveAs));
   EXPECT_EQ(Model.Settings().SpeedFactor, 0.9F) << "the answer was No";
 }
 
@@ -168,21 +168,21 @@ TEST_F(PolarModelTest, AsksBeforeItReplacesAFileThatHoldsSomething) {
   WriteFile(Program / "empty.pol", "");
   Dialogs.Files = {file, file, (Program / "empty.pol").string()};
   Dialogs.Answers = {false, true};
-  EXPECT_FALSE(PolarSaveAs(Model, Dialogs));
+  EXPECT_FALSE(Took(&PolarQuestions::SaveAs));
   EXPECT_EQ(ReadFile(file), "old");
   EXPECT_EQ(Model.Settings().File[0], kDefaultPolar);
   EXPECT_EQ(Dialogs.Warnings[0].Title, "AutoPilot - Save As");
   EXPECT_EQ(Dialogs.Warnings[0].Text, file + "file already exists.\nDo you want to replace it?");
-  EXPECT_TRUE(PolarSaveAs(Model, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::SaveAs));
   EXPECT_EQ(ReadFile(file).substr(0, 3), "TWA");
-  EXPECT_TRUE(PolarSaveAs(Model, Dialogs));
+  EXPECT_TRUE(Took(&PolarQuestions::SaveAs));
   EXPECT_EQ(Dialogs.Warnings.size(), 2U) << "an empty file is nothing to ask about";
 }
 
 TEST_F(PolarModelTest, TellsWhySavingFailedAndKeepsItsName) {
   WriteFile(Program / "file", "x");
   Dialogs.Files = {(Program / "file" / "a.pol").string()};
-  EXPECT_FALSE(PolarSaveAs(Model, Dialogs));
+  EXPECT_FALSE(Took(&PolarQuestions::SaveAs));
   ASSERT_EQ(Dialogs.Messages.size(), 1U);
   EXPECT_NE(Dialogs.Messages[0].Text.find("a.pol"), std::string::npos);
   EXPECT_EQ(Model.Settings().File[0], kDefaultPolar);

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QDebug>
+#include <QWidget>
 #include <QtTest/QTest>
 #include <functional>
 
@@ -21,6 +22,12 @@ inline constexpr int kWaitLimit = 10000;
     return testing::AssertionSuccess();
   }
   return testing::AssertionFailure() << "did not come in " << limit << " ms";
+}
+
+/// Runs the event loop until `window` itself is the one that the user works in. To QTest's own wait a dialog
+/// and its window are one.
+[[nodiscard]] inline testing::AssertionResult WaitActive(const QWidget& window) {
+  return WaitFor([&] { return window.isActiveWindow(); });
 }
 
 /// As WaitFor, until `value()` is `expected`. A failure shows the value that stood there at the end.

@@ -1,11 +1,8 @@
 // The profile at start and close, and the order of the close.
 
 #include <QDir>
-#include <QMessageBox>
-#include <QTimer>
 #include <filesystem>
 
-#include "platform/DialogsQt.h"
 #include "tests/ui/MainWindowTester.h"
 
 namespace veerwatch {
@@ -90,23 +87,55 @@ TEST_F(MainWindowClose, OfTheSessionAsksNothing) {
 }
 
 TEST_F(MainWindowClose, OfTheSessionEndsAnOpenQuestion) {
-  DialogsQt dialogs;
-  WriteProfile(kOnPorts);
-  Window = std::make_unique<frmMain>(MainWindowParts{NmeaPort, PilotPort, tmrNmea, tmrUnload, TimerTack, Time,
-                                                     Random, dialogs, Store, ProfileFile()});
-  dialogs.Window(Window.get());
-  Window->Form_Load();
-  Window->show();
-  Window->TrackSetTrack();
-  bool asked = false;
-  QTimer::singleShot(0, Window.get(), [&] {
-    asked = qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr;
-    Window->CloseUnasked();
-  });
-  EXPECT_TRUE(Window->close());
-  EXPECT_TRUE(asked);
+  Start(kOnPorts);
+  Mode(7);
+  Dialogs.Later = true;
+  EXPECT_FALSE(Window->close());
+  ASSERT_TRUE(Dialogs.Open());
+  Window->CloseUnasked();
   EXPECT_FALSE(Window->isVisible());
+  EXPECT_EQ(Dialogs.Questions.size(), 1U);
   EXPECT_NE(ReadProfile().find("[Polar Window]"), std::string::npos);
+}
+
+TEST_F(MainWindowClose, GoesOnSteeringWhileItAsks) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("30", "40"));
+  Mode(7);
+  Dialogs.Later = true;
+  EXPECT_FALSE(Window->close());
+  const std::size_t sent = PilotPort.Written.size();
+  NmeaPort.Receive(Winds("33", "43"));
+  EXPECT_GT(PilotPort.Written.size(), sent);
+  EXPECT_FALSE(Window->close()) << "the question stands";
+  EXPECT_EQ(Dialogs.Questions.size(), 1U);
+  EXPECT_EQ(Dialogs.Refused, 1);
+}
+
+TEST_F(MainWindowClose, AYesClosesWhateverTheModeIsByThen) {
+  Start(kOnPorts);
+  Mode(7);
+  Dialogs.Later = true;
+  EXPECT_FALSE(Window->close());
+  Window->TrackSetSetup();
+  Dialogs.Answers = {true};
+  Dialogs.Answer();
+  EXPECT_FALSE(Window->isVisible());
+  EXPECT_EQ(Dialogs.Questions.size(), 1U);
+}
+
+TEST_F(MainWindowClose, ANoLeavesTheModeThatItHasByThen) {
+  Start(kOnPorts);
+  Mode(7);
+  Dialogs.Later = true;
+  EXPECT_FALSE(Window->close());
+  Window->TrackSetManual();
+  Dialogs.Answer();
+  EXPECT_TRUE(Window->isVisible());
+  EXPECT_EQ(Window->m_eTrackMode, TrackMode::Manual);
+  EXPECT_TRUE(NmeaPort.PortOpen());
+  EXPECT_TRUE(Window->close()) << "nothing to ask about";
+  EXPECT_EQ(Dialogs.Questions.size(), 1U);
 }
 
 TEST_F(MainWindowClose, WritesTheProfileOnce) {

@@ -47,10 +47,13 @@ class MainWindowTester : public testing::Test {
     return content.str();
   }
 
+  /// What the window asks through.
+  virtual class Dialogs& Asks() { return Dialogs; }
+
   /// Makes the window without loading it.
   void Make() {
     Window = std::make_unique<frmMain>(MainWindowParts{NmeaPort, PilotPort, tmrNmea, tmrUnload, TimerTack,
-                                                       Time, Random, Dialogs, Store, ProfileFile()});
+                                                       Time, Random, Asks(), Store, ProfileFile()});
     tmrNmea.OnTick = [this] { Window->tmrNmea_Timer(); };
     tmrUnload.OnTick = [this] { Window->tmrUnload_Timer(); };
     TimerTack.OnTick = [this] { Window->TimerTack_Timer(); };

@@ -449,7 +449,7 @@ TEST_F(PolarWindow, PacksColoursBlueFirst) {
   Store.ProfileSet("Polar Data", "Speed Range", 20.0F);
   Start();
   Square(700);
-  Dialogs.Colour = 0x0000E6U;
+  Dialogs.PickedColours = {0x0000E6U};
   Choose("mnuOverlayColor");
   EXPECT_EQ(Dialogs.Colours, std::vector<std::uint32_t>{0U});
   const PlotPoint cell = PointAt(PlotGeometry(700.0, 700.0, 20.0), 80.0, 11.0);

@@ -249,12 +249,11 @@ TEST_F(HistoryWindow, ThePopupChangesAColour) {
   Record(600, 10);
   Show();
   Window->ConfigurePopup();
-  Dialogs.Colour = 0x0020FFU;  // red 255, green 32, blue 0
+  Dialogs.PickedColours = {0x0020FFU};  // red 255, green 32, blue 0
   QTest::mouseClick(&Find<QToolButton>("cmdColour(1)"), Qt::LeftButton);
   EXPECT_EQ(Dialogs.Colours.size(), 1U);
   EXPECT_EQ(Chart().Settings().Traces[0].Colour, 0xFF2000U);
   EXPECT_TRUE(Find<QFrame>("frmConfigPopup").isVisible());
-  Dialogs.Colour.reset();
   QTest::mouseClick(&Find<QToolButton>("cmdColour(1)"), Qt::LeftButton);
   EXPECT_EQ(Dialogs.Colours.back(), 0x0020FFU);
   EXPECT_EQ(Chart().Settings().Traces[0].Colour, 0xFF2000U);  // cancelled
