@@ -396,6 +396,15 @@ void frmTack::changeEvent(QEvent* event) {
   }
 }
 
+bool frmTack::event(QEvent* event) {
+  // A question of the window that this one stays in front of blocks it as well, and a turn has to be ended at
+  // any time.
+  if (event->type() == QEvent::WindowBlocked) {
+    windowHandle()->setTransientParent(nullptr);
+  }
+  return QDialog::event(event);
+}
+
 void frmTack::done(int result) {
   m_parts.TimerTack.Enabled(false);
   QDialog::done(result);

@@ -75,6 +75,7 @@ class frmTack final : public QDialog {
 
  protected:
   void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   void MakeControls();
