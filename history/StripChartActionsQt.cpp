@@ -203,8 +203,7 @@ void StripChart::PickColour(int trace) {
   m_popup->close();
   const QRgb now = m_colours.Trace(at, m_settings.Traces[at].Colour).rgb();
   m_dialogs.PickColour(Turned(now & 0xFFFFFFU), [this, at](std::optional<std::uint32_t> picked) {
-    // The traces may have been set up anew meanwhile.
-    if (picked && at < m_settings.Traces.size()) {
+    if (picked) {
       m_settings.Traces[at].Colour = Turned(*picked & 0xFFFFFFU);
       Changed();
     }

@@ -89,6 +89,21 @@ TEST_F(PolarConvertTest, TellsWhatIsNoPolarAtAllAndWhatCannotBeWritten) {
   EXPECT_EQ(Dialogs.Messages[2].Text.rfind("cannot write ", 0), 0U);
 }
 
+TEST_F(PolarConvertTest, ConvertsWhatTheFileHeldWhenItWasAskedAbout) {
+  Dialogs.Later = true;
+  Dialogs.Files = {File("b.csv"), File("mine.pol")};
+  Dialogs.Answers = {true};
+  Questions.AskOpen(PolarModel::kMain);
+  Dialogs.Answer();
+  ASSERT_EQ(Dialogs.Questions.size(), 1U);
+  std::filesystem::remove(Program / "b.csv");
+  Dialogs.Answer();
+  ASSERT_EQ(Dialogs.FileDialogs.size(), 2U);
+  Dialogs.Answer();
+  EXPECT_EQ(Model.Settings().File[0], File("mine.pol"));
+  EXPECT_EQ(Model.Table().PolarRows(0), 2);
+}
+
 TEST_F(PolarConvertTest, TellsInTheQuestionWhatIsLeftOut) {
   std::string wide = "TWA";
   for (int wind = 0; wind <= 60; ++wind) {

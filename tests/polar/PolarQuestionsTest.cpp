@@ -188,5 +188,73 @@ TEST_F(PolarModelTest, TellsWhySavingFailedAndKeepsItsName) {
   EXPECT_EQ(Model.Settings().File[0], kDefaultPolar);
 }
 
+// Between question and answer
+
+TEST_F(PolarModelTest, TakesAnAnswerWhenItComesAndNotBefore) {
+  Dialogs.Later = true;
+  Dialogs.Texts = {"7.5"};
+  Questions.AskRange();
+  EXPECT_EQ(Model.Settings().SpeedRange, 10.0F);
+  EXPECT_EQ(Changes, 0);
+  Model.Update(TrackMode::Track, Sailing(60.0F, 10.0F, 6.0F), true);
+  Dialogs.Answer();
+  EXPECT_EQ(Model.Settings().SpeedRange, 7.5F);
+  EXPECT_EQ(Changes, 1);
+  EXPECT_FALSE(Dialogs.Open());
+}
+
+TEST_F(PolarModelTest, AsksTheSecondQuestionAfterTheFirst) {
+  Dialogs.Later = true;
+  Dialogs.Texts = {"90"};
+  Dialogs.Answers = {true};
+  Questions.AskScaling();
+  EXPECT_TRUE(Dialogs.Warnings.empty());
+  Dialogs.Answer();
+  ASSERT_EQ(Dialogs.Warnings.size(), 1U);
+  EXPECT_EQ(Model.Settings().SpeedFactor, 1.0F);
+  Dialogs.Answer();
+  EXPECT_EQ(Model.Settings().SpeedFactor, 0.9F);
+  EXPECT_FLOAT_EQ(Model.Table().Value(0, 1, 1), 3.6F);
+}
+
+TEST_F(PolarModelTest, AWithdrawnQuestionChangesNothing) {
+  Dialogs.Later = true;
+  Dialogs.Texts = {"90"};
+  Dialogs.Answers = {true};
+  Questions.AskScaling();
+  Dialogs.Answer();
+  ASSERT_TRUE(Dialogs.Open());
+  Asks.reset();
+  Dialogs.Answer();
+  EXPECT_EQ(Model.Settings().SpeedFactor, 1.0F);
+  EXPECT_EQ(Changes, 0);
+}
+
+TEST_F(PolarModelTest, AsksOneQuestionAtATime) {
+  Dialogs.Later = true;
+  Questions.AskRange();
+  Questions.AskRange();
+  Questions.AskColor();
+  Questions.AskOpen(PolarModel::kMain);
+  EXPECT_EQ(Dialogs.Questions.size(), 1U);
+  EXPECT_TRUE(Dialogs.Colours.empty());
+  EXPECT_TRUE(Dialogs.FileDialogs.empty());
+  EXPECT_EQ(Dialogs.Refused, 3);
+}
+
+TEST_F(PolarModelTest, OffersTheFactorOneForTheFactorOfTheQuestionOnly) {
+  Dialogs.Texts = {"0.9"};
+  Questions.AskScaling();
+  Dialogs.Files = {(Program / "scaled.pol").string()};
+  Dialogs.Later = true;
+  Questions.SaveAs();
+  Dialogs.Answer();
+  ASSERT_EQ(Dialogs.Warnings.size(), 1U);
+  Model.Factor(0.8F);
+  Dialogs.Answers = {true};
+  Dialogs.Answer();
+  EXPECT_EQ(Model.Settings().SpeedFactor, 0.8F);
+}
+
 }  // namespace
 }  // namespace veerwatch

@@ -196,6 +196,21 @@ TEST_F(HelmWhileAsked, GoesOnWhileTheOptionsTellOfAProblem) {
   EXPECT_TRUE(message->isVisible());
 }
 
+TEST_F(HelmWhileAsked, ATurnInFrontOfTheWindowThatAsksCanBeEnded) {
+  StartTracking();
+  QWidget& polar = Show("mnuViewPolar", "frmPolar");
+  Window->TackOpen(190.0F, 100.0F, 45.0F);
+  auto& tack = Find<QDialog>("frmTack");
+  static_cast<frmTack&>(tack).StayInFrontOf(polar);
+  In<QAction>(polar, "mnuOverlayColor").trigger();
+  ASSERT_TRUE(WaitFor([&] { return FrontOf(polar).isVisible(); }));
+  QTest::keyClick(polar.windowHandle(), Qt::Key_Escape);
+  EXPECT_NE(&FrontOf(polar), &polar);
+  QTest::keyClick(tack.windowHandle(), Qt::Key_Escape);
+  EXPECT_FALSE(tack.isVisible());
+  EXPECT_NE(&FrontOf(polar), &polar);
+}
+
 TEST_F(HelmWhileAsked, TheQuestionOfTheMainWindowItselfComesFirst) {
   StartTracking();
   Window->close();

@@ -338,7 +338,51 @@ TEST_F(HistoryWindow, ADamagedSectionGivesTheDefaultsForWhatIsDamaged) {
   EXPECT_EQ(Chart().Settings().Scales[1], (ScaleChoice{true, -180.0F, 180.0F}));
 }
 
+TEST_F(HistoryWindow, RecordsWhileItAsksForAColour) {
+  Load();
+  Record(600, 10);
+  Show();
+  Window->ConfigurePopup();
+  Dialogs.Later = true;
+  Dialogs.PickedColours = {0x0020FFU};
+  Find<QToolButton>("cmdColour(1)").click();
+  EXPECT_FALSE(Find<QFrame>("frmConfigPopup").isVisible());
+  RecordHeading(2);
+  Dialogs.Answer();
+  EXPECT_EQ(Chart().Settings().Traces[0].Colour, 0xFF2000U);
+  EXPECT_TRUE(Find<QFrame>("frmConfigPopup").isVisible());
+  Find<QFrame>("frmConfigPopup").close();
+}
+
+TEST_F(HistoryWindow, MayEndWhileItAsks) {
+  Load();
+  Show();
+  Window->ConfigurePopup();
+  Dialogs.Later = true;
+  Dialogs.Files = {PathIn("chart.csv")};
+  Find<QPushButton>("cmdSaveData").click();
+  ASSERT_TRUE(Dialogs.Open());
+  Window.reset();
+  EXPECT_FALSE(Dialogs.Open());
+}
+
 // Saving
+
+TEST_F(HistoryWindow, SavesWhatItHoldsAtTheAnswer) {
+  Load();
+  RecordHeading(2, 90.0F);
+  Show();
+  Window->ConfigurePopup();
+  Dialogs.Later = true;
+  Dialogs.Files = {PathIn("chart.csv")};
+  Find<QPushButton>("cmdSaveData").click();
+  Time.Pass(10000);
+  RecordHeading(1, 95.0F);
+  Dialogs.Answer();
+  QFile written(QString::fromStdString(PathIn("chart.csv")));
+  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+  EXPECT_EQ(written.readAll().count('\n'), 4);
+}
 
 TEST_F(HistoryWindow, SavesAPicture) {
   Load();
