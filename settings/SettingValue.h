@@ -1,6 +1,7 @@
 // The value of one setting: where it stands in its struct, how the profile keeps it, and what it can be. A
-// row of a table of settings holds one; the functions below make one from a member, or from an element of a
-// member that is an array. What a profile holds and the value cannot be leaves it as it is.
+// row of a table of settings holds one; the functions in `setting` make one from a member, as
+// Truth(&Settings::m_bTrackAlarm), or from an element of a member that is an array. What a profile holds and
+// the value cannot be leaves it as it is.
 #pragma once
 
 #include <array>
@@ -74,7 +75,7 @@ auto& At(Struct& all, const Element<S, I, Count>& element) {
 
 /// A truth value, "True" or "False".
 template <class Where>
-auto Truth(Where where) {
+SettingValue<StructOf<Where>> Truth(Where where) {
   using Struct = StructOf<Where>;
   SettingValue<Struct> value;
   value.Range = "True, False";
@@ -90,7 +91,7 @@ auto Truth(Where where) {
 /// A number by `entered`, in a member that is a float or can be narrowed from one that the rule takes. A
 /// profile may hold more than may be entered: `read` is the rule there.
 template <class Where>
-auto Number(Where where, const NumberRule& entered, const NumberRule& read) {
+SettingValue<StructOf<Where>> Number(Where where, const NumberRule& entered, const NumberRule& read) {
   using Struct = StructOf<Where>;
   using Item = ItemOf<Where>;
   SettingValue<Struct> value;
@@ -114,13 +115,13 @@ auto Number(Where where, const NumberRule& entered, const NumberRule& read) {
 }
 
 template <class Where>
-auto Number(Where where, const NumberRule& rule) {
+SettingValue<StructOf<Where>> Number(Where where, const NumberRule& rule) {
   return Number(where, rule, rule);
 }
 
 /// A whole number from `least` to `most`, in a member of 16 bits or an enumeration.
 template <class Where>
-auto Whole(Where where, std::int16_t least, std::int16_t most) {
+SettingValue<StructOf<Where>> Whole(Where where, std::int16_t least, std::int16_t most) {
   using Struct = StructOf<Where>;
   using Item = ItemOf<Where>;
   SettingValue<Struct> value;
@@ -138,14 +139,14 @@ auto Whole(Where where, std::int16_t least, std::int16_t most) {
 
 /// One of the values from 0 to `last`, kept as its number.
 template <class Where>
-auto Choice(Where where, ItemOf<Where> last) {
+SettingValue<StructOf<Where>> Choice(Where where, ItemOf<Where> last) {
   return Whole(where, 0, static_cast<std::int16_t>(last));
 }
 
 /// One of the values from 0 on of an enumeration or a whole number, kept by its name; the case of the letters
 /// A to Z does not count.
 template <class Where>
-auto Named(Where where, std::vector<std::string> names) {
+SettingValue<StructOf<Where>> Named(Where where, std::vector<std::string> names) {
   using Struct = StructOf<Where>;
   using Item = ItemOf<Where>;
   SettingValue<Struct> value;
@@ -173,7 +174,7 @@ auto Named(Where where, std::vector<std::string> names) {
 
 /// Any text that is not empty; `what` says what it is.
 template <class Where>
-auto Text(Where where, std::string what) {
+SettingValue<StructOf<Where>> Text(Where where, std::string what) {
   using Struct = StructOf<Where>;
   SettingValue<Struct> value;
   value.Range = std::move(what);
