@@ -29,6 +29,7 @@ class MemoryEndpoint final : public EndpointPort {
   std::size_t TakesInAll = kAll;    ///< characters that it takes from now on
   bool Holds = false;               ///< what it takes stays in it until it is drained
   std::size_t DrainsWhileSent = 0;  ///< characters that leave each time that the program waits for them
+  int SendsLonger = 0;              ///< than it was asked to [ms]
   std::string Failure;              ///< why it does not open; "" when it does
   std::vector<int> LineErrors;      ///< raised at the next PollLineErrors
   bool TellsInside = false;         ///< tells of everything from inside each call
@@ -118,7 +119,7 @@ class MemoryEndpoint final : public EndpointPort {
   }
   void SendFor(int milliseconds) override {
     ++Waits;
-    m_clock.Pass(milliseconds);
+    m_clock.Pass(milliseconds + SendsLonger);
     Drain(std::min(DrainsWhileSent, m_held.size()));
   }
   void WakeAfter(int milliseconds) override {
