@@ -1,7 +1,8 @@
-// The computer's clocks, set forward by the test.
+// The computer's clocks, set forward or stopped by the test.
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 #include "platform/SystemClock.h"
 
@@ -11,7 +12,12 @@ class ShiftedClock final : public Clock {
  public:
   std::int64_t Shift = 0;  ///< what the steady clock is ahead [ms]
 
+  void Stop() { m_stopped = Now(); }
+
   Moment Now() const override {
+    if (m_stopped) {
+      return *m_stopped;
+    }
     Moment now = m_clock.Now();
     now.Steady += Shift;
     return now;
@@ -20,6 +26,7 @@ class ShiftedClock final : public Clock {
 
  private:
   SystemClock m_clock;
+  std::optional<Moment> m_stopped;
 };
 
 }  // namespace veerwatch

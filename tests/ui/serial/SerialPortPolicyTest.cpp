@@ -3,8 +3,10 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <string>
 #include <string_view>
+#include <thread>
 
 #include "tests/support/PortPolicy.h"
 #include "tests/support/ShiftedClock.h"
@@ -58,6 +60,7 @@ class PtyRig {
     QTest::qWait(2 * EndpointPort::kLookAgain);
   }
   void StandStill(int milliseconds) { m_clock.Shift += milliseconds; }
+  void StopTheClock() { m_clock.Stop(); }
 
   /// Fills the terminal. The kernel moves what it holds in steps, so that room shows up again after the first
   /// filling.
@@ -99,6 +102,23 @@ struct RigName {
     return "Pty";
   }
 };
+
+TEST(SerialPortLeaves, SendsWhatIsStillInTheProgramWhileItCloses) {
+  PtyRig rig;
+  rig.Stick();
+  rig.Port().Output(kFirst);
+  rig.Move();
+  // However long the reader takes.
+  rig.StopTheClock();
+  std::thread reader([&rig] {
+    while (!rig.Heard().ends_with(kFirst)) {
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+  });
+  rig.Port().PortOpen(false);
+  reader.join();
+  EXPECT_EQ(rig.Heard(), kFirst);
+}
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Serial, PortPolicy, PtyRig, RigName);
 
