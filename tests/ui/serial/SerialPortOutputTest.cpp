@@ -19,6 +19,14 @@ TEST_F(SerialPortOutput, SendsAWholeSentence) {
   EXPECT_EQ(sent, "$ECAPB,one*00\r\n");
 }
 
+TEST_F(SerialPortOutput, SendsASingleCharacterOnce) {
+  ASSERT_TRUE(m_port.PortOpen(true));
+  m_port.Output("x");
+  QTest::qWait(3 * EndpointPort::kLookAgain);
+  EXPECT_EQ(m_pty.Read(), "x");
+  EXPECT_EQ(m_port.Sent(), 1U);
+}
+
 TEST_F(SerialPortOutput, HandsASentenceToTheSystemBeforeItReturns) {
   ASSERT_TRUE(m_port.PortOpen(true));
   for (const char* sentence : {"$ECAPB,one*00\r\n", "$ECAPB,two*00\r\n"}) {
