@@ -88,7 +88,7 @@ void WindowDialogsQt::Withdraw() {
   if (m_open) {
     m_open->disconnect(this);
     m_open->hide();
-    m_open->deleteLater();
+    // It ends with its window: the toolkit may stand in a menu or a box of it.
     m_open.clear();
   }
 }

@@ -3,12 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QColorDialog>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QTimer>
 #include <QtTest/QTest>
 #include <memory>
 #include <optional>
@@ -226,15 +228,31 @@ TEST_F(WindowDialogsQtTest, AnAnswerMayAskTheNextQuestion) {
 
 TEST_F(WindowDialogsQtTest, AHiddenWindowTakesItsQuestionAlongUnanswered) {
   Asks->AskYesNo("Title", "Text", Yes);
-  const QPointer<QDialog> box = &Front<QMessageBox>();
+  const auto* box = &Front<QMessageBox>();
   Window->close();
   EXPECT_FALSE(box->isVisible());
-  EXPECT_TRUE(WaitFor([&] { return box.isNull(); }));
   Window->show();
   EXPECT_FALSE(IsAsking());
   EXPECT_TRUE(Said.empty());
   Asks->AskYesNo("Title", "Text", Yes);
   EXPECT_TRUE(IsAsking()) << "it may ask again";
+}
+
+TEST_F(WindowDialogsQtTest, IsWithdrawnFromWithinAMenuOfItsOwn) {
+  Asks->OpenFile("(*.pol)|*.pol", "a.pol", Text);
+  auto& dialog = Front<QFileDialog>();
+  bool asked = false;
+  QTimer::singleShot(0, Window.get(), [&] {
+    asked = QApplication::activePopupWidget() != nullptr;
+    Window->hide();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QTimer::singleShot(0, QApplication::activePopupWidget(), &QWidget::close);
+  });
+  auto* list = dialog.findChild<QAbstractItemView*>(QStringLiteral("listView"));
+  QMetaObject::invokeMethod(list, "customContextMenuRequested", Q_ARG(QPoint, QPoint(3, 3)));
+  EXPECT_TRUE(asked) << "the toolkit waits in its menu";
+  EXPECT_FALSE(IsAsking());
+  EXPECT_TRUE(Texts.empty());
 }
 
 TEST_F(WindowDialogsQtTest, ADestroyedWindowTakesItsQuestionAlongUnanswered) {
