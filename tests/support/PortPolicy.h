@@ -13,6 +13,7 @@
 #include <string>
 
 #include "platform/EndpointPort.h"
+#include "tests/support/Bundles.h"
 #include "tests/support/PortOwner.h"
 
 namespace veerwatch {
@@ -33,10 +34,6 @@ class PortPolicy : public testing::Test {
 };
 
 TYPED_TEST_SUITE_P(PortPolicy);
-
-inline constexpr const char* kFirst = "$ECAPB,1*00\r\n$ECHSC,1*00\r\n";
-inline constexpr const char* kSecond = "$ECAPB,2*00\r\n$ECHSC,2*00\r\n";
-inline constexpr const char* kThird = "$ECAPB,3*00\r\n$ECHSC,3*00\r\n";
 
 TYPED_TEST_P(PortPolicy, OffersAgainWhatItsOwnerLeftUnread) {
   int offers = 0;
