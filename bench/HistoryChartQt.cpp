@@ -87,7 +87,7 @@ BENCHMARK(SampleAddToData);
 /// The same through the widget, which reads the computer's clocks itself. It is not visible.
 void SampleAddToWidget(benchmark::State& state) {
   const SystemClock clock;
-  NoDialogs dialogs;
+  NoWindowDialogs dialogs;
   StripChart chart(clock, dialogs, nullptr);
   HistorySetUp(chart, 0x1B1E22);
   const std::string name = "Pilot Delta";
