@@ -50,7 +50,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     }
   }
   LeaveControls();
-  m_others.PilotTaken();
+  m_helm.UserTakesPilot();
   NmeaStop();
   PilotStop();
   if (m_helm.Receiver().Receiving()) {

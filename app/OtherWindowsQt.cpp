@@ -36,7 +36,7 @@ void BringUp(QWidget& window) {
 
 OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& menu, MainWindowApi& main,
                                QWidget* window)
-    : m_parts(parts), m_menu(menu), m_main(main), m_window(window) {
+    : m_parts(parts), m_menu(menu), m_main(main), m_window(window), m_told(main.Observers().Join(*this)) {
   QObject::connect(menu.mnuViewHistory, &QAction::triggered, [this] { HistoryShow(); });
   for (const QAction* command : {menu.mnuViewDiagram, menu.mnuHelpDiagram}) {
     QObject::connect(command, &QAction::triggered, [this] { DiagramShow(); });
@@ -153,7 +153,8 @@ void OtherWindowsQt::OnPolarUpdate(TrackMode mode, const InstrumentData& record)
 frmTack& OtherWindowsQt::Tack() {
   if (!m_tack) {
     m_tack = std::make_unique<frmTack>(
-        TackParts{m_main, m_parts.TimerTack, m_parts.Store, [this] { return ManoeuvreNow(); }}, m_window);
+        TackParts{m_main, m_parts.TimerTack, m_parts.Store, m_parts.Time, [this] { return ManoeuvreNow(); }},
+        m_window);
   }
   return *m_tack;
 }
@@ -184,30 +185,10 @@ void OtherWindowsQt::OnPolarVisible(bool visible) {
   }
 }
 
-void OtherWindowsQt::HelmChanged() {
-  DiagramLights();
-  if (m_tack) {
-    m_tack->HelmChanged();
-  }
-}
-
 void OtherWindowsQt::TimerTack_Timer() {
   if (m_tack) {
     m_tack->TimerTack_Timer();
   }
-}
-
-void OtherWindowsQt::PilotTaken() {
-  if (m_tack) {
-    m_tack->PilotTaken();
-  }
-}
-
-void OtherWindowsQt::OnTrackMode(TrackMode mode) {
-  if (mode != TrackMode::Manual) {
-    PilotTaken();
-  }
-  HelmChanged();
 }
 
 // The options dialog
@@ -216,22 +197,9 @@ frmOptions& OtherWindowsQt::Options() {
   if (!m_options) {
     m_options = std::make_unique<frmOptions>(frmOptions::Parts{m_main, *this, m_parts.Asks, m_parts.Random});
     m_options->setWindowIcon(ProgramIcon());
-    m_options->NmeaStatus(m_inputState);
-    m_options->NmeaReason(m_inputFailure);
-    m_options->PilotReason(m_outputFailure);
-    m_options->SourceAdvice(m_advice);
-    m_options->PilotStatus(m_outputState);
-    m_options->TrackInUse(m_trackInUse);
     m_options->Closed([this] { m_options.release()->deleteLater(); });
   }
   return *m_options;
-}
-
-void OtherWindowsQt::TrackInUse(const std::optional<TrackTuning>& tuning) {
-  m_trackInUse = tuning;
-  if (m_options) {
-    m_options->TrackInUse(tuning);
-  }
 }
 
 void OtherWindowsQt::OptionsReload() {
@@ -243,69 +211,6 @@ void OtherWindowsQt::OptionsReload() {
 bool OtherWindowsQt::PilotPortOpen() const {
   const bool shared = m_main.m_iNmeaPort == m_main.m_iPilotPort;
   return (shared ? m_parts.MSCommNmea : m_parts.MSCommPilot).PortOpen();
-}
-
-void OtherWindowsQt::OnInputState(std::string_view text) {
-  m_inputState = text;
-  if (m_options) {
-    m_options->NmeaStatus(text);
-  }
-  if (m_tack && text != "Running" && text != "Simulate") {
-    // The user stops the input by a mode.
-    if (m_main.m_eTrackMode == TrackMode::Switching) {
-      m_tack->PilotTaken();
-    } else {
-      m_tack->TurnEnds(text == "Stopped" ? "Input Stopped" : text);
-    }
-  }
-  HelmChanged();
-}
-
-void OtherWindowsQt::OnInputFailure(std::string_view reason) {
-  m_inputFailure = reason;
-  if (m_options) {
-    m_options->NmeaReason(m_inputFailure);
-  }
-}
-
-void OtherWindowsQt::OnOutputFailure(std::string_view reason) {
-  m_outputFailure = reason;
-  if (m_options) {
-    m_options->PilotReason(m_outputFailure);
-  }
-}
-
-void OtherWindowsQt::OnSourceAdvice(const std::vector<std::string>& lines) {
-  m_advice = lines;
-  if (m_options) {
-    m_options->SourceAdvice(lines);
-  }
-}
-
-void OtherWindowsQt::OnOutputState(std::string_view text) {
-  m_outputState = text;
-  if (m_options) {
-    m_options->PilotStatus(text);
-  }
-  HelmChanged();
-}
-
-void OtherWindowsQt::OnNmeaListCleared() {
-  if (m_options) {
-    m_options->NmeaListClear();
-  }
-}
-
-void OtherWindowsQt::OnNmeaData(std::string_view line, bool used) {
-  if (m_options) {
-    m_options->NmeaData(line, used);
-  }
-}
-
-void OtherWindowsQt::OnNmeaError(std::string_view text) {
-  if (m_options) {
-    m_options->NmeaError(text);
-  }
 }
 
 // The block diagram and the about box
@@ -325,7 +230,7 @@ void OtherWindowsQt::DiagramLights() {
     return;
   }
   m_diagram->ShowState(DiagramStateOf(
-      {m_inputState, NmeaPortOpen(), m_main.m_eTrackMode, m_main.m_bSimulate, PilotPortOpen()}));
+      {m_main.Now().Input, NmeaPortOpen(), m_main.m_eTrackMode, m_main.m_bSimulate, PilotPortOpen()}));
 }
 
 void OtherWindowsQt::OnDiagramOptions(int tab, const DiagramAnchor& anchor) {

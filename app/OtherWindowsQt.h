@@ -27,7 +27,7 @@
 
 namespace veerwatch {
 
-class OtherWindowsQt final : public HelmView,
+class OtherWindowsQt final : private HelmObserver,
                              public RememberedWindows,
                              private PolarListener,
                              private OptionsPorts,
@@ -46,9 +46,6 @@ class OtherWindowsQt final : public HelmView,
     History().Chart().SampleAdd(name, text);
   }
 
-  /// Another hand than the manoeuvre's is on the pilot: a running manoeuvre ends, with the pilot as it is.
-  /// Called for a bearing that the user sets and for the close; every mode but Manual comes here by itself.
-  void PilotTaken();
   void TimerTack_Timer();
 
   /// The manoeuvre dialog is the window that the user works in.
@@ -56,40 +53,16 @@ class OtherWindowsQt final : public HelmView,
   /// Opens the manoeuvre dialog in front of the main window.
   void TackOpen(float newHeading, float heading, float windAngleTrue);
 
-  /// Brings the lights of the block diagram and what the manoeuvre dialog says about the helm up to date: at
-  /// every tick of the input, and by itself at a change of the mode or of a port.
-  void HelmChanged();
-
   void HistoryShow() override;
   bool HistoryVisible() const override { return m_history && m_history->isVisible(); }
   void PolarShow() override;
   void OnManoeuvre(TurnButton button, float newHeading, float heading, float windAngleTrue) override;
   bool PolarVisible() const override { return m_polar && m_polar->isVisible(); }
 
-  /// What the loop tracks with, nothing while it does not track: for the options dialog.
-  void TrackInUse(const std::optional<TrackTuning>& tuning);
   /// Shows the settings in the options dialog, where it is loaded.
   void OptionsReload();
   /// The options dialog, made where it is not there yet.
   frmOptions& Options();
-
-  void OnHeading(float heading) override;
-  void OnBoatSpeed(float speed) override;
-  void OnWindApparent(float angle, float speed) override;
-  void OnWindTrue(float angle, float speed) override;
-  void OnPilotDelta(float error) override;
-  void OnPilotHeading(float bearing) override;
-  void OnTrackMode(TrackMode mode) override;
-  void OnPolarUpdate(TrackMode mode, const InstrumentData& record) override;
-  void OnInputState(std::string_view text) override;
-  void OnOutputState(std::string_view text) override;
-  void OnInputFailure(std::string_view reason) override;
-  void OnOutputFailure(std::string_view reason) override;
-  void OnSourceAdvice(const std::vector<std::string>& lines) override;
-  void OnNmeaListCleared() override;
-  void OnNmeaData(std::string_view line, bool used) override;
-  void OnNmeaError(std::string_view text) override;
-  void OnPilotData(std::string_view sentence) override { Options().PilotData(sentence); }
 
  private:
   frmHistory& History();
@@ -111,6 +84,20 @@ class OtherWindowsQt final : public HelmView,
   }
   void OnPolarVisible(bool visible) override;
 
+  void OnHeading(float heading) override;
+  void OnBoatSpeed(float speed) override;
+  void OnWindApparent(float angle, float speed) override;
+  void OnWindTrue(float angle, float speed) override;
+  void OnPilotDelta(float error) override;
+  void OnPilotHeading(float bearing) override;
+  void OnPolarUpdate(TrackMode mode, const InstrumentData& record) override;
+  /// The options dialog lists every sentence from the first one on, so it is made now.
+  void OnPilotData(std::string_view /*sentence*/) override { Options(); }
+  void OnTrackMode(TrackMode /*mode*/) override { DiagramLights(); }
+  void OnInputState(InputState /*state*/) override { DiagramLights(); }
+  void OnOutputState(OutputState /*state*/) override { DiagramLights(); }
+  void OnTick() override { DiagramLights(); }
+
   bool NmeaPortOpen() const override { return m_parts.MSCommNmea.PortOpen(); }
   bool PilotPortOpen() const override;
 
@@ -118,6 +105,7 @@ class OtherWindowsQt final : public HelmView,
   const frmMainMenu& m_menu;
   MainWindowApi& m_main;
   QWidget* m_window;
+  HelmObservers::Membership m_told;
   std::unique_ptr<frmHistory> m_history;  ///< from the first value on
   std::unique_ptr<frmPolar> m_polar;      ///< null until it is shown for the first time
   std::unique_ptr<frmTack> m_tack;        ///< the same
@@ -125,12 +113,6 @@ class OtherWindowsQt final : public HelmView,
   std::unique_ptr<frmOptions> m_options;  ///< from its first use on, until its frame is closed
   std::unique_ptr<frmDiagram> m_diagram;  ///< null until it is shown for the first time
   std::unique_ptr<frmAbout> m_about;      ///< the same
-  std::optional<TrackTuning> m_trackInUse;
-  std::string m_inputState;           ///< as the receiver told it last
-  std::string m_inputFailure;         ///< as the receiver told it last
-  std::vector<std::string> m_advice;  ///< as the receiver told it last
-  std::string m_outputState;          ///< as the pilot output told it last
-  std::string m_outputFailure;        ///< as the pilot output told it last
 };
 
 }  // namespace veerwatch

@@ -72,8 +72,9 @@ frmMain::frmMain(const MainWindowParts& parts)
       m_panel(new InstrumentPanelQt(this)),
       m_notice(new NoticeLineQt(this)),
       m_status(new StatusPanelsQt(this)),
-      m_others(m_parts, m_menu, *this, this),
-      m_helm(*this, parts.MSCommNmea, parts.MSCommPilot, parts.tmrNmea, parts.Time, parts.Random, *this) {
+      m_helm(*this, parts.MSCommNmea, parts.MSCommPilot, parts.tmrNmea, parts.Time, parts.Random),
+      m_told(m_helm.Observers().Join(*this)),
+      m_others(m_parts, m_menu, *this, this) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(QString::fromLatin1(kApplicationTitle));
   setWindowIcon(ProgramIcon());
@@ -204,22 +205,7 @@ void frmMain::ProfileRecall(bool recall) {
   }
 }
 
-void frmMain::AutoPilotSet(float bearing) {
-  m_helm.Loop().SetAutoPilot(static_cast<double>(bearing));
-  OnAutoPilot(m_fAutoPilot);
-}
-
-void frmMain::tmrNmea_Timer() {
-  m_helm.Tick();
-  WatchWind();
-  m_others.HelmChanged();
-}
-
-void frmMain::WatchWind() {
-  if (m_windWatch.Tick()) {
-    ShowModeText();
-  }
-}
+void frmMain::tmrNmea_Timer() { m_helm.Tick(); }
 
 void frmMain::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
@@ -275,8 +261,7 @@ void frmMain::optControl_Click(int index) {
 }
 
 void frmMain::TakeAutoPilot(double bearing) {
-  m_others.PilotTaken();
-  m_helm.Loop().SetAutoPilot(bearing);
+  m_helm.UserSteersTo(bearing);
   m_panel->txtAutoPilot->Show(Number(m_fAutoPilot, "0.0"));
 }
 
@@ -311,32 +296,11 @@ void frmMain::NudgeKey(int index) {
   }
 }
 
-// The manoeuvre
-
-HelmNow frmMain::Now() const {
-  HelmNow now = m_helm.Now();
-  now.WindLost = m_windWatch.Lost();
-  return now;
-}
-
-void frmMain::TurnEnded(std::string_view why) {
-  m_instead = QStringLiteral("Turn ended: ") + Text(why);
-  m_insteadTimer.start();
-  m_parts.Asks.Beep();
-  ShowModeText();
-}
-
 // What the helm tells
 
-void frmMain::OnHeading(float heading) {
-  ShowText(*m_panel->lblHeading, Number(heading, "0"));
-  m_others.OnHeading(heading);
-}
+void frmMain::OnHeading(float heading) { ShowText(*m_panel->lblHeading, Number(heading, "0")); }
 
-void frmMain::OnBoatSpeed(float speed) {
-  ShowText(*m_panel->lblBoatSpeed, Number(speed, "0.0"));
-  m_others.OnBoatSpeed(speed);
-}
+void frmMain::OnBoatSpeed(float speed) { ShowText(*m_panel->lblBoatSpeed, Number(speed, "0.0")); }
 
 void frmMain::OnWaypoint(float /*range*/, float bearing) {
   ShowText(*m_panel->lblWaypointBearing, Number(bearing, "0"));
@@ -345,15 +309,11 @@ void frmMain::OnWaypoint(float /*range*/, float bearing) {
 void frmMain::OnWindApparent(float angle, float speed) {
   ShowText(*m_panel->lblAppWindAngle, Number(angle, "0"));
   ShowText(*m_panel->lblAppWindSpeed, Number(speed, "0.0"));
-  m_windWatch.Apparent();
-  m_others.OnWindApparent(angle, speed);
 }
 
 void frmMain::OnWindTrue(float angle, float speed) {
   ShowText(*m_panel->lblTrueWindAngle, Number(angle, "0"));
   ShowText(*m_panel->lblTrueWindSpeed, Number(speed, "0.0"));
-  m_windWatch.True();
-  m_others.OnWindTrue(angle, speed);
 }
 
 void frmMain::OnWindIndicator(float direction, float speed) {
@@ -367,24 +327,23 @@ void frmMain::OnWindIndicator(float direction, float speed) {
   }
 }
 
-void frmMain::OnValuesBlanked() { m_panel->BlankValues(); }
+void frmMain::OnInputStarts() { m_panel->BlankValues(); }
 
-void frmMain::OnInputStatus(std::string_view text) { m_status->Show(StatusPanelsQt::kInput, Text(text)); }
-
-void frmMain::OnInputFailure(std::string_view reason) {
-  m_status->Explain(StatusPanelsQt::kInput, Text(reason));
-  m_others.OnInputFailure(reason);
+void frmMain::OnInputStatus(const PortStatus& status) {
+  m_status->Show(StatusPanelsQt::kInput, Text(InputStatusText(status)));
 }
 
-void frmMain::OnOutputFailure(std::string_view reason) {
+void frmMain::OnInputFailure(const std::string& reason) {
+  m_status->Explain(StatusPanelsQt::kInput, Text(reason));
+}
+
+void frmMain::OnOutputFailure(const std::string& reason) {
   m_status->Explain(StatusPanelsQt::kOutput, Text(reason));
-  m_others.OnOutputFailure(reason);
 }
 
 void frmMain::OnSourceAdvice(const std::vector<std::string>& lines) {
   m_advice = lines;
   ShowAdvice();
-  m_others.OnSourceAdvice(lines);
 }
 
 void frmMain::ShowAdvice() {
@@ -397,7 +356,9 @@ void frmMain::ShowAdvice() {
   NoticeSet(NoticeKind::Source, text);
 }
 
-void frmMain::OnOutputStatus(std::string_view text) { m_status->Show(StatusPanelsQt::kOutput, Text(text)); }
+void frmMain::OnOutputStatus(const PortStatus& status) {
+  m_status->Show(StatusPanelsQt::kOutput, Text(OutputStatusText(status)));
+}
 
 void frmMain::OnDesired(float apparent, float trueWind) {
   m_panel->txtDesired[0]->Follow(Number(apparent, "0"));
@@ -434,8 +395,6 @@ void frmMain::OnAlarmOver() {
 
 void frmMain::OnTrackMode(TrackMode mode) {
   m_instead.clear();
-  m_others.OnTrackMode(mode);
-  m_others.TrackInUse(mode == TrackMode::Track ? std::optional(m_helm.Loop().Tuning()) : std::nullopt);
   ShowAdvice();
   if (mode != TrackMode::Switching) {
     m_tbrTrack->Button(mode)->setChecked(true);
@@ -444,9 +403,21 @@ void frmMain::OnTrackMode(TrackMode mode) {
   ShowModeText();
 }
 
-void frmMain::OnTrackRefused(std::string_view reason) {
+void frmMain::OnTrackRefused(TrackRefusal why) {
   m_insteadTimer.stop();
-  m_instead = Text(reason);
+  m_instead = Text(TrackRefusalText(why));
+  ShowModeText();
+}
+
+void frmMain::OnWindLost(bool /*lost*/) { ShowModeText(); }
+
+void frmMain::OnTurnEnds(TurnFate why) {
+  if (why == TurnFate::Taken) {
+    return;
+  }
+  m_instead = QStringLiteral("Turn ended: ") + Text(TurnFateText(why));
+  m_insteadTimer.start();
+  m_parts.Asks.Beep();
   ShowModeText();
 }
 
@@ -477,7 +448,7 @@ void frmMain::ShowModeText() {
   const bool needsInput = m_eTrackMode == TrackMode::Manual || m_eTrackMode == TrackMode::Track;
   if (needsInput && !m_helm.Receiver().Started()) {
     text += QStringLiteral(", Input Stopped");
-  } else if (needsInput && m_windWatch.Lost()) {
+  } else if (needsInput && m_helm.Now().WindLost) {
     text += QStringLiteral(", No Wind");
   }
   m_status->Show(StatusPanelsQt::kPilot, m_instead.isEmpty() ? text : m_instead);

@@ -18,13 +18,12 @@
 #include "app/SaveWatch.h"
 #include "app/StatusPanelsQt.h"
 #include "app/frmMainCommands.h"
-#include "control/WindWatch.h"
 #include "helm/Helm.h"
 #include "helm/MainWindowApi.h"
 
 namespace veerwatch {
 
-class frmMain final : public QMainWindow, public MainWindowApi, private HelmView {
+class frmMain final : public QMainWindow, public MainWindowApi, private HelmObserver {
  public:
   /// Makes the window and touches no port.
   explicit frmMain(const MainWindowParts& parts);
@@ -67,10 +66,12 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void SimulateTime(float time, float& timeWaypointBearing, float& timeWaypointRange) override {
     m_helm.Boat().SimulateTime(time, timeWaypointBearing, timeWaypointRange);
   }
-  void TrackSteerTo(float change) override { m_helm.Loop().TrackSteerTo(change); }
-  void AutoPilotSet(float bearing) override;
-  HelmNow Now() const override;
-  void TurnEnded(std::string_view why) override;
+  void TrackSteerTo(float change) override { m_helm.TrackSteerTo(change); }
+  void TurnBegins() override { m_helm.TurnBegins(); }
+  void TurnOver() override { m_helm.TurnOver(); }
+  void AutoPilotSet(float bearing) override { m_helm.TurnSteersTo(bearing); }
+  HelmObservers& Observers() override { return m_helm.Observers(); }
+  HelmNow Now() const override { return m_helm.Now(); }
   void TrackSetOff() override { m_helm.Modes().TrackSetOff(); }
   void TrackSetSetup() override { m_helm.Modes().TrackSetSetup(); }
   void TrackSetManual() override { m_helm.Modes().TrackSetManual(); }
@@ -104,9 +105,6 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void ShowAdvice();
   /// The profile as far as a change of it is worth saving at once.
   std::string Keepable();
-  /// A second has passed. Once a wind has not come for four of them the mode's text says so.
-  void WatchWind();
-
   void tbrTrack_ButtonClick(TrackMode mode);
   void optControl_Click(int index);
   void TakeAutoPilot(double bearing);
@@ -124,30 +122,21 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   void OnWindApparent(float angle, float speed) override;
   void OnWindTrue(float angle, float speed) override;
   void OnWindIndicator(float direction, float speed) override;
-  void OnValuesBlanked() override;
-  void OnInputStatus(std::string_view text) override;
-  void OnOutputStatus(std::string_view text) override;
-  void OnInputState(std::string_view text) override { m_others.OnInputState(text); }
-  void OnOutputState(std::string_view text) override { m_others.OnOutputState(text); }
-  void OnInputFailure(std::string_view reason) override;
-  void OnOutputFailure(std::string_view reason) override;
+  void OnInputStarts() override;
+  void OnInputStatus(const PortStatus& status) override;
+  void OnOutputStatus(const PortStatus& status) override;
+  void OnInputFailure(const std::string& reason) override;
+  void OnOutputFailure(const std::string& reason) override;
   void OnSourceAdvice(const std::vector<std::string>& lines) override;
-  void OnNmeaListCleared() override { m_others.OnNmeaListCleared(); }
-  void OnNmeaData(std::string_view line, bool used) override { m_others.OnNmeaData(line, used); }
-  void OnNmeaError(std::string_view text) override { m_others.OnNmeaError(text); }
-  void OnPilotData(std::string_view sentence) override { m_others.OnPilotData(sentence); }
   void OnDesired(float apparent, float trueWind) override;
   void OnDelta(float apparent, float trueWind) override;
   void OnAutoPilot(float bearing) override;
-  void OnPilotDelta(float error) override { m_others.OnPilotDelta(error); }
-  void OnPilotHeading(float bearing) override { m_others.OnPilotHeading(bearing); }
   void OnAlarm(TrackSide side, float error) override;
   void OnAlarmOver() override;
   void OnTrackMode(TrackMode mode) override;
-  void OnTrackRefused(std::string_view reason) override;
-  void OnPolarUpdate(TrackMode mode, const InstrumentData& record) override {
-    m_others.OnPolarUpdate(mode, record);
-  }
+  void OnTrackRefused(TrackRefusal why) override;
+  void OnWindLost(bool lost) override;
+  void OnTurnEnds(TurnFate why) override;
 
   MainWindowParts m_parts;
   std::unique_ptr<WindowDialogs> m_asks;
@@ -156,14 +145,14 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmView
   InstrumentPanelQt* m_panel;
   NoticeLineQt* m_notice;
   StatusPanelsQt* m_status;
-  OtherWindowsQt m_others;
   Helm m_helm;
+  HelmObservers::Membership m_told;
+  OtherWindowsQt m_others;
   bool m_ask = true;            ///< a close still has to ask
   QString m_instead;            ///< shown in place of the mode: why Track was refused, or a turn has ended
   QTimer m_insteadTimer{this};  ///< ends what is said about a turn
-  WindWatch m_windWatch;
-  bool m_unasked = false;   ///< the close is not the user's
-  bool m_unloaded = false;  ///< the profile is written, everything is closed
+  bool m_unasked = false;       ///< the close is not the user's
+  bool m_unloaded = false;      ///< the profile is written, everything is closed
   std::string m_saveFailure;
   SaveWatch m_save;
   std::vector<std::string> m_advice;  ///< what the sources do not bring

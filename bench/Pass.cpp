@@ -57,7 +57,9 @@ PassResult DecodePass(std::string_view bytes) {
   return result;
 }
 
-PathPass::PathPass() : m_helm(m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random, *this) {
+PathPass::PathPass()
+    : m_helm(m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random),
+      m_told(m_helm.Observers().Join(*this)) {
   m_helm.Modes().TrackSetSetup();
   m_helm.Modes().TrackSetManual();
   m_helm.Modes().TrackSetTrack();
@@ -70,14 +72,14 @@ PassResult PathPass::Run(std::string_view bytes) {
   return m_result;
 }
 
-void PathPass::OnNmeaData(std::string_view line, bool /*used*/) {
+void PathPass::OnNmeaLine(std::string_view line, LineFault fault, bool /*used*/) {
   ++m_result.Lines;
-  // The receiver marks a line whose frame is bad; it counts as that alone.
-  const bool badFrame = line.ends_with(">>");
-  m_result.Unsupported += !badFrame && FindSentence(line) == nullptr ? 1U : 0U;
+  if (fault != LineFault::None) {
+    ++m_result.Bad;
+  } else if (FindSentence(line) == nullptr) {
+    ++m_result.Unsupported;
+  }
 }
-
-void PathPass::OnNmeaError(std::string_view /*text*/) { ++m_result.Bad; }
 
 void PathPass::OnPilotData(std::string_view /*sentence*/) {
   ++m_sentences;

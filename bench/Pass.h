@@ -27,7 +27,7 @@ inline constexpr std::size_t kChunk = 4096;
 PassResult DecodePass(std::string_view bytes);
 
 /// A helm in Track mode on ports in memory that counts what passes.
-class PathPass final : private HelmView {
+class PathPass final : private HelmObserver {
  public:
   PathPass();
   /// Lets `bytes` arrive in events of kChunk bytes.
@@ -38,8 +38,7 @@ class PathPass final : private HelmView {
   std::uint64_t Sentences() const { return m_sentences; }
 
  private:
-  void OnNmeaData(std::string_view line, bool used) override;
-  void OnNmeaError(std::string_view text) override;
+  void OnNmeaLine(std::string_view line, LineFault fault, bool used) override;
   void OnPilotData(std::string_view sentence) override;
 
   Settings m_settings;
@@ -49,6 +48,7 @@ class PathPass final : private HelmView {
   SystemClock m_clock;
   SeededRandom m_random{1};
   Helm m_helm;
+  HelmObservers::Membership m_told;
   PassResult m_result;
   std::uint64_t m_sentences = 0;
 };

@@ -8,7 +8,8 @@ namespace veerwatch {
 Steering::Steering(const SteeringOptions& options, bool simulate, std::uint64_t seed)
     : m_mode(options.Mode),
       m_random(seed),
-      m_helm(m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random, *this) {
+      m_helm(m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random),
+      m_told(m_helm.Observers().Join(*this)) {
   if (options.ProfileFile) {
     Profile profile;
     if (profile.Load(*options.ProfileFile) != Profile::LoadResult::Read) {
@@ -30,8 +31,8 @@ void Steering::EnterMode() {
   m_helm.Modes().TrackSetManual();
   if (m_mode == TrackMode::Track) {
     m_helm.Modes().TrackSetTrack();
-    if (!m_refused.empty()) {
-      throw CommandError(m_refused);
+    if (m_refused) {
+      throw CommandError(std::string(TrackRefusalText(*m_refused)));
     }
   }
 }
@@ -47,6 +48,13 @@ void Steering::Tick() {
   Forget();
   m_clock.Pass(kSecond);
   m_helm.Tick();
+}
+
+void Steering::OnNmeaLine(std::string_view line, LineFault fault, bool used) {
+  m_used = used;
+  if (fault != LineFault::None) {
+    ListedFault(line, fault, m_error.emplace());
+  }
 }
 
 void Steering::Forget() {

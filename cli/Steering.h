@@ -27,7 +27,7 @@ struct SteeringOptions {
 };
 
 /// A helm on memory ports. Collects what the latest line or tick made it say.
-class Steering final : private HelmView {
+class Steering final : private HelmObserver {
  public:
   /// Reads the profile; throws CommandError where it cannot be read. `simulate` overrides the profile's.
   Steering(const SteeringOptions& options, bool simulate, std::uint64_t seed);
@@ -64,12 +64,11 @@ class Steering final : private HelmView {
  private:
   void Forget();
 
-  void OnInputStatus(std::string_view text) override { m_status = text; }
-  void OnNmeaData(std::string_view /*line*/, bool used) override { m_used = used; }
-  void OnNmeaError(std::string_view text) override { m_error = text; }
+  void OnInputStatus(const PortStatus& status) override { m_status = InputStatusText(status); }
+  void OnNmeaLine(std::string_view line, LineFault fault, bool used) override;
   void OnPilotData(std::string_view sentence) override { m_pilotSentence = sentence; }
   void OnDelta(float apparent, float trueWind) override { m_delta = Deltas{apparent, trueWind}; }
-  void OnTrackRefused(std::string_view reason) override { m_refused = reason; }
+  void OnTrackRefused(TrackRefusal why) override { m_refused = why; }
 
   TrackMode m_mode;
   Settings m_settings;
@@ -79,6 +78,7 @@ class Steering final : private HelmView {
   LogClock m_clock;
   SeededRandom m_random;
   Helm m_helm;
+  HelmObservers::Membership m_told;
   std::string m_bytes;
 
   std::string m_status;
@@ -86,7 +86,7 @@ class Steering final : private HelmView {
   std::optional<std::string> m_error;
   std::string m_pilotSentence;
   std::optional<Deltas> m_delta;
-  std::string m_refused;
+  std::optional<TrackRefusal> m_refused;
 };
 
 }  // namespace veerwatch

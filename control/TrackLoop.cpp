@@ -24,40 +24,33 @@ bool TrackLoop::StartTracking() {
   return true;
 }
 
-void TrackLoop::ControlStep(const Moment& now) {
+LoopStep TrackLoop::ControlStep(const Moment& now) {
   const TrackMode mode = m_settings.m_eTrackMode;
+  LoopStep step;
   if (mode == TrackMode::Off || mode == TrackMode::Switching) {
-    return;
+    return step;
   }
+  step.Ran = true;
   float& apparent = Desired(TrackSide::Apparent);
   float& trueWind = Desired(TrackSide::True);
   if (mode == TrackMode::Setup || mode == TrackMode::Manual) {
     apparent = m_data.WindAngleApparent;
     trueWind = m_data.WindAngleTrue;
-    ShowDesired();
+    step.Followed = true;
   }
-  const float deltaApparent =
+  step.DeltaApparent =
       FoldRelative(static_cast<double>(m_data.WindAngleApparent) - static_cast<double>(apparent));
-  const float deltaTrue =
-      FoldRelative(static_cast<double>(m_data.WindAngleTrue) - static_cast<double>(trueWind));
-  m_listener.OnDelta(deltaApparent, deltaTrue);
+  step.DeltaTrue = FoldRelative(static_cast<double>(m_data.WindAngleTrue) - static_cast<double>(trueWind));
 
   if (mode == TrackMode::Track) {
-    const float error = m_side == TrackSide::Apparent ? deltaApparent : deltaTrue;
-    Control(error, now);
-    m_listener.OnPilotDelta(error);
-    m_listener.OnAutoPilot(m_settings.m_fAutoPilot);
-    if (m_settings.m_bTrackAlarm) {
-      TestAlarm(error);
-    } else {
-      WithdrawAlarm();
-    }
+    step.Tracked = true;
+    step.Error = m_side == TrackSide::Apparent ? step.DeltaApparent : step.DeltaTrue;
+    Control(step.Error, now);
+    step.Rings = TestAlarm(step.Error);
   }
-  if (mode != TrackMode::Setup) {
-    m_pilot.PilotSend(m_settings.m_fAutoPilot);
-    m_listener.OnPilotHeading(m_settings.m_fAutoPilot);
-  }
+  step.Sends = mode != TrackMode::Setup;
   m_previousAutoPilot = m_settings.m_fAutoPilot;
+  return step;
 }
 
 double TrackLoop::Elapsed(const Moment& now) {
@@ -74,25 +67,17 @@ void TrackLoop::Control(float error, const Moment& now) {
   }
 }
 
-void TrackLoop::TestAlarm(float error) {
-  if (std::fabs(error) > m_settings.m_fTrackAlarmLimit) {
+LoopStep::Alarm TrackLoop::TestAlarm(float error) {
+  if (m_settings.m_bTrackAlarm && std::fabs(error) > m_settings.m_fTrackAlarmLimit) {
     m_alarmActive = true;
-    m_listener.OnAlarm(m_side, error);
-  } else {
-    WithdrawAlarm();
+    return LoopStep::Alarm::Raised;
   }
+  return WithdrawAlarm() ? LoopStep::Alarm::Over : LoopStep::Alarm::AsBefore;
 }
 
-void TrackLoop::WithdrawAlarm() {
-  if (m_alarmActive) {
-    m_alarmActive = false;
-    m_listener.OnAlarmOver();
-  }
-}
-
-void TrackLoop::TrackSteerTo(float change) {
+bool TrackLoop::TrackSteerTo(float change) {
   if (m_settings.m_eTrackMode != TrackMode::Track || !std::isfinite(change)) {
-    return;
+    return false;
   }
   if (m_data.WindApparentValid && m_data.WindTrueValid) {
     TurnHeldWind(change);
@@ -100,9 +85,8 @@ void TrackLoop::TrackSteerTo(float change) {
     SetDesired(m_side, static_cast<double>(Desired(m_side)) - static_cast<double>(change));
   }
   SetAutoPilot(static_cast<double>(m_settings.m_fAutoPilot) + static_cast<double>(change));
-  m_listener.OnAutoPilot(m_settings.m_fAutoPilot);
   m_controller.Reset();
-  ShowDesired();
+  return true;
 }
 
 void TrackLoop::TurnHeldWind(float change) {

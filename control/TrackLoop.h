@@ -2,10 +2,10 @@
 #pragma once
 
 #include <optional>
+#include <utility>
 
 #include "control/TrackController.h"
 #include "instruments/InstrumentData.h"
-#include "pilot/PilotOutput.h"
 #include "platform/Clock.h"
 #include "settings/Settings.h"
 #include "settings/TrackMode.h"
@@ -18,26 +18,23 @@ struct TrackTuning {
   float Damping = 0.0F;
 };
 
+/// What one pass of the loop did, for whoever sends and tells.
+struct LoopStep {
+  bool Ran = false;            ///< the mode has passes
+  bool Followed = false;       ///< the desired angles follow the wind
+  float DeltaApparent = 0.0F;  ///< error of the apparent wind angle [deg, (-180, 180]]
+  float DeltaTrue = 0.0F;      ///< the same for the true wind
+  bool Tracked = false;        ///< the controller corrected the bearing
+  float Error = 0.0F;          ///< what it worked on [deg]
+  bool Sends = false;          ///< the bearing is for the pilot
+  enum class Alarm { AsBefore, Raised, Over };
+  Alarm Rings = Alarm::AsBefore;  ///< Raised at every pass at which the error is beyond the limit
+};
+
 class TrackLoop {
  public:
-  class Listener {
-   public:
-    virtual ~Listener() = default;
-    virtual void OnDesired(float /*apparent: deg relative*/, float /*true: deg relative*/) {}
-    virtual void OnDelta(float /*apparent: deg, (-180, 180]*/, float /*true: deg, (-180, 180]*/) {}
-    virtual void OnAutoPilot(float /*bearing: deg magnetic, [0, 360)*/) {}
-    /// The error that the controller works on [deg], for the history.
-    virtual void OnPilotDelta(float /*error*/) {}
-    /// The bearing that goes to the pilot [deg magnetic], for the history.
-    virtual void OnPilotHeading(float /*bearing*/) {}
-    /// The alarm goes off, at every pass at which the error on `side` is beyond the limit.
-    virtual void OnAlarm(TrackSide /*side*/, float /*error: deg*/) {}
-    virtual void OnAlarmOver() {}
-  };
-
   /// Everything outlives this.
-  TrackLoop(Settings& settings, const InstrumentData& data, PilotOutput& pilot, Listener& listener)
-      : m_settings(settings), m_data(data), m_pilot(pilot), m_listener(listener) {}
+  TrackLoop(Settings& settings, const InstrumentData& data) : m_settings(settings), m_data(data) {}
 
   /// Computes the gains from bandwidth and damping and zeroes the accumulator. False, with nothing changed,
   /// when the bandwidth is not above 0 or a gain is not finite.
@@ -45,13 +42,13 @@ class TrackLoop {
 
   /// One pass over the record at `now`, by the present mode.
   /// Deliberate: no correction is limited, and an error equal to the alarm limit raises no alarm.
-  void ControlStep(const Moment& now);
+  LoopStep ControlStep(const Moment& now);
 
   /// Moves the held wind angle by -`change` and the bearing by `change` [deg, positive to starboard], and
-  /// zeroes the accumulator. Only in Track, and only for a finite change.
+  /// zeroes the accumulator. Only in Track, and only for a finite change: true when it did.
   /// Deliberate: while a wind is not valid only the angle of the tracked side moves, as the other has nothing
   /// to follow from.
-  void TrackSteerTo(float change);
+  bool TrackSteerTo(float change);
 
   /// Takes a bearing [deg magnetic, any turn], folded. One that is not finite changes nothing.
   void SetAutoPilot(double bearing);
@@ -59,8 +56,8 @@ class TrackLoop {
   /// Takes a desired angle [deg relative, any turn], folded. One that is not finite changes nothing.
   void SetDesired(TrackSide side, double angle);
 
-  /// Withdraws an alarm that shows.
-  void WithdrawAlarm();
+  /// Withdraws the alarm; true when there was one.
+  bool WithdrawAlarm() { return std::exchange(m_alarmActive, false); }
 
   TrackSide Side() const { return m_side; }
   void Side(TrackSide side) { m_side = side; }
@@ -79,13 +76,10 @@ class TrackLoop {
   double Elapsed(const Moment& now);
   void Control(float error, const Moment& now);
   void TurnHeldWind(float change);
-  void TestAlarm(float error);
-  void ShowDesired() { m_listener.OnDesired(m_settings.DesiredAngle[1], m_settings.DesiredAngle[2]); }
+  LoopStep::Alarm TestAlarm(float error);
 
   Settings& m_settings;
   const InstrumentData& m_data;
-  PilotOutput& m_pilot;
-  Listener& m_listener;
   TrackSide m_side = TrackSide::Apparent;
   TrackTuning m_tuning;
   TrackController m_controller;

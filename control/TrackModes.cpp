@@ -2,9 +2,19 @@
 
 namespace veerwatch {
 
+std::string_view TrackRefusalText(TrackRefusal why) {
+  switch (why) {
+    case TrackRefusal::NoGains:
+      return "Track needs a bandwidth above 0 and a usable damping";
+  }
+  return {};
+}
+
 void TrackModes::Leave() {
   m_settings.m_eTrackMode = TrackMode::Switching;
-  m_loop.WithdrawAlarm();
+  if (m_loop.WithdrawAlarm()) {
+    m_listener.OnAlarmOver();
+  }
 }
 
 void TrackModes::Enter(TrackMode mode) {
@@ -36,7 +46,7 @@ void TrackModes::TrackSetManual() {
 void TrackModes::TrackSetTrack() {
   if (!m_loop.StartTracking()) {
     m_listener.OnTrackMode(m_settings.m_eTrackMode);
-    m_listener.OnTrackRefused("Track needs a bandwidth above 0 and a usable damping");
+    m_listener.OnTrackRefused(TrackRefusal::NoGains);
     return;
   }
   Leave();

@@ -11,15 +11,25 @@
 
 namespace veerwatch {
 
+/// Why Track is refused.
+enum class TrackRefusal {
+  NoGains,  ///< bandwidth and damping give no usable gains
+};
+
+/// One line for the status bar.
+std::string_view TrackRefusalText(TrackRefusal why);
+
 class TrackModes {
  public:
   class Listener {
    public:
     virtual ~Listener() = default;
     /// The mode is now `mode`, or still is after a switch that was refused.
-    virtual void OnTrackMode(TrackMode /*mode*/) {}
-    /// Track was refused; `reason` is one line for the status bar. Comes behind OnTrackMode.
-    virtual void OnTrackRefused(std::string_view /*reason*/) {}
+    virtual void OnTrackMode(TrackMode mode) = 0;
+    /// Track was refused. Comes after OnTrackMode.
+    virtual void OnTrackRefused(TrackRefusal why) = 0;
+    /// The alarm of the mode that is left is over.
+    virtual void OnAlarmOver() = 0;
   };
 
   TrackModes(Settings& settings, NmeaReceiver& receiver, PilotOutput& pilot, TrackLoop& loop,

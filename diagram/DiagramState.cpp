@@ -8,16 +8,18 @@ constexpr DiagramBoxState kSimulate{DiagramLight::Ready, "Simulate"};
 constexpr DiagramBoxState kNotOpen{DiagramLight::Trouble, "Not Open"};
 
 DiagramBoxState InputOf(const DiagramSystem& system) {
-  if (system.Input == "Simulate") {
-    return kSimulate;
+  switch (system.Input) {
+    case InputState::Simulate:
+      return kSimulate;
+    case InputState::NoData:
+      return {DiagramLight::Trouble, InputStateText(InputState::NoData)};
+    case InputState::Stopped:
+      return {DiagramLight::Off, InputStateText(InputState::Stopped)};
+    case InputState::Running:
+      break;
   }
-  if (system.Input == "No Input Data") {
-    return {DiagramLight::Trouble, "No Input Data"};
-  }
-  if (system.Input != "Running") {
-    return {DiagramLight::Off, "Stopped"};
-  }
-  return system.InputOpen ? DiagramBoxState{DiagramLight::Good, "Running"} : kNotOpen;
+  return system.InputOpen ? DiagramBoxState{DiagramLight::Good, InputStateText(InputState::Running)}
+                          : kNotOpen;
 }
 
 DiagramBoxState ControlOf(TrackMode mode) {

@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "settings/PortState.h"
 #include "settings/TrackMode.h"
 
 namespace veerwatch {
@@ -32,7 +33,7 @@ struct DiagramState {
 
 /// What the helm is doing.
 struct DiagramSystem {
-  std::string_view Input;  ///< state of the input as the receiver tells it: "Running", "Simulate", ...
+  InputState Input = InputState::Stopped;
   bool InputOpen = false;  ///< the port of the instruments
   TrackMode Mode = TrackMode::Off;
   bool Simulate = false;

@@ -3,28 +3,37 @@
 namespace veerwatch {
 
 Helm::Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Timer& tmrNmea,
-           const Clock& clock, RandomSource& random, HelmView& view)
+           const Clock& clock, RandomSource& random)
     : m_settings(settings),
       m_clock(clock),
-      m_view(view),
       m_nmeaPort(nmeaPort),
-      m_record(settings, view),
-      m_receiver(settings, nmeaPort, tmrNmea, clock, m_record, *this, view),
-      m_pilot(settings, nmeaPort, pilotPort, view),
-      m_loop(settings, m_record.Data(), m_pilot, view),
-      m_modes(settings, m_receiver, m_pilot, m_loop, view),
-      m_simulator(settings, m_record, random, *this) {}
+      m_record(settings),
+      m_receiver(settings, nmeaPort, tmrNmea, clock, m_record, *this),
+      m_pilot(settings, nmeaPort, pilotPort, *this),
+      m_loop(settings, m_record.Data()),
+      m_modes(settings, m_receiver, m_pilot, m_loop, *this),
+      m_simulator(settings, m_record, random) {}
 
 HelmNow Helm::Now() const {
   HelmNow now;
   now.Mode = m_settings.m_eTrackMode;
+  now.Hand = m_supervisor.Hand(now.Mode);
   now.InputStarted = m_receiver.Started();
   now.InputPort = m_settings.m_iNmeaPort;
   now.InputOpen = m_settings.m_bSimulate || m_nmeaPort.PortOpen();
+  now.Input = m_inputState;
+  now.InputFailure = m_inputFailure;
+  now.Advice = m_advice;
   now.OutputPort = m_settings.m_iPilotPort;
   now.OutputOpen = m_pilot.Open();
+  now.Output = m_outputState;
+  now.OutputFailure = m_outputFailure;
+  now.WindLost = m_supervisor.WindLost();
   now.Sent = m_pilot.Sent();
   now.AutoPilot = m_settings.m_fAutoPilot;
+  if (now.Mode == TrackMode::Track) {
+    now.InUse = m_loop.Tuning();
+  }
   const InstrumentData& data = Data();
   if (data.HeadingValid) {
     now.Heading = data.Heading;
@@ -35,13 +44,216 @@ HelmNow Helm::Now() const {
   return now;
 }
 
+// The order of the steps
+
+void Helm::OnSentence(std::string_view line, const Dispatcher::Outcome& outcome, const Moment& now) {
+  // Deliberate: an enabled wind sentence that brings no wind runs the steps, too.
+  const InstrumentData& data = Data();
+  const bool steers = outcome.WindSentence && data.WindApparentValid && data.WindTrueValid;
+  const Pass pass = steers ? Steer(now) : Pass{};
+
+  TellChanges();
+  m_observers.Tell([&](HelmObserver& observer) {
+    observer.OnNmeaLine(line, outcome.Incomplete ? LineFault::Decode : LineFault::None, outcome.Used);
+  });
+  if (!steers) {
+    return;
+  }
+  TellPass(pass);
+  if (data.BoatSpeedValid) {
+    TellPolar();
+  }
+  if (data.VariationValid) {
+    m_record.WindIndicatorUpdate();
+    TellChanges();
+  }
+}
+
+void Helm::SimulatorTick() {
+  const Moment now = m_clock.Now();
+  m_simulator.Tick(now);
+  // Deliberate: no validity is tested.
+  const Pass pass = Steer(now);
+
+  TellChanges();
+  // Deliberate: the polar window comes before the loop; after a wind sentence it comes after it.
+  TellPolar();
+  TellPass(pass);
+}
+
+Helm::Pass Helm::Steer(const Moment& now) {
+  Pass pass;
+  pass.Step = m_loop.ControlStep(now);
+  if (pass.Step.Sends) {
+    pass.Sentence = m_pilot.PilotSend(m_settings.m_fAutoPilot);
+  }
+  return pass;
+}
+
 void Helm::Tick() {
   if (m_settings.m_bSimulate) {
-    m_simulator.Tick(m_clock.Now());
+    SimulatorTick();
   } else {
     m_receiver.Tick();
     m_pilot.Tick();
   }
+  if (m_supervisor.Second()) {
+    m_observers.Tell([lost = m_supervisor.WindLost()](HelmObserver& observer) { observer.OnWindLost(lost); });
+  }
+  Decide(m_supervisor.Look());
+  m_observers.Tell([](HelmObserver& observer) { observer.OnTick(); });
+}
+
+// What is told
+
+void Helm::TellChanges() {
+  const InstrumentData& data = Data();
+  const auto tell = [this](RecordValue value, auto&& call) {
+    if (m_record.Changed(value)) {
+      m_observers.Tell(call);
+    }
+  };
+  tell(RecordValue::Heading, [&](HelmObserver& observer) { observer.OnHeading(data.Heading); });
+  tell(RecordValue::BoatSpeed, [&](HelmObserver& observer) { observer.OnBoatSpeed(data.BoatSpeed); });
+  if (m_record.Changed(RecordValue::WindApparent)) {
+    m_supervisor.Came(TrackSide::Apparent);
+  }
+  tell(RecordValue::WindApparent, [&](HelmObserver& observer) {
+    observer.OnWindApparent(data.WindAngleApparent, data.WindSpeedApparent);
+  });
+  if (m_record.Changed(RecordValue::WindTrue)) {
+    m_supervisor.Came(TrackSide::True);
+  }
+  tell(RecordValue::WindTrue,
+       [&](HelmObserver& observer) { observer.OnWindTrue(data.WindAngleTrue, data.WindSpeedTrue); });
+  tell(RecordValue::WindIndicator, [&](HelmObserver& observer) {
+    observer.OnWindIndicator(data.WindDirectionAverage, data.WindSpeedAverage);
+  });
+  tell(RecordValue::Waypoint,
+       [&](HelmObserver& observer) { observer.OnWaypoint(data.WaypointRange, data.WaypointBearing); });
+  m_record.ForgetChanges();
+}
+
+void Helm::TellPass(const Pass& pass) {
+  const LoopStep& step = pass.Step;
+  if (!step.Ran) {
+    return;
+  }
+  if (step.Followed) {
+    TellDesired();
+  }
+  m_observers.Tell([&](HelmObserver& observer) {
+    observer.OnDelta(step.DeltaApparent, step.DeltaTrue);
+    if (step.Tracked) {
+      observer.OnPilotDelta(step.Error);
+      observer.OnAutoPilot(m_settings.m_fAutoPilot);
+    }
+    if (step.Rings == LoopStep::Alarm::Raised) {
+      observer.OnAlarm(m_loop.Side(), step.Error);
+    } else if (step.Rings == LoopStep::Alarm::Over) {
+      observer.OnAlarmOver();
+    }
+  });
+  if (!pass.Sentence.empty()) {
+    m_observers.Tell([&](HelmObserver& observer) { observer.OnPilotData(pass.Sentence); });
+  }
+  if (step.Sends) {
+    m_observers.Tell([&](HelmObserver& observer) { observer.OnPilotHeading(m_settings.m_fAutoPilot); });
+  }
+}
+
+void Helm::TellDesired() {
+  m_observers.Tell([this](HelmObserver& observer) {
+    observer.OnDesired(m_settings.DesiredAngle[1], m_settings.DesiredAngle[2]);
+  });
+}
+
+void Helm::TellPolar() {
+  m_observers.Tell(
+      [this](HelmObserver& observer) { observer.OnPolarUpdate(m_settings.m_eTrackMode, Data()); });
+}
+
+// What the user, or a turn, does
+
+void Helm::TrackSteerTo(float change) {
+  if (m_loop.TrackSteerTo(change)) {
+    m_observers.Tell([this](HelmObserver& observer) { observer.OnAutoPilot(m_settings.m_fAutoPilot); });
+    TellDesired();
+  }
+}
+
+void Helm::UserSteersTo(double bearing) {
+  UserTakesPilot();
+  m_loop.SetAutoPilot(bearing);
+}
+
+void Helm::TurnSteersTo(float bearing) {
+  m_loop.SetAutoPilot(static_cast<double>(bearing));
+  m_observers.Tell([this](HelmObserver& observer) { observer.OnAutoPilot(m_settings.m_fAutoPilot); });
+}
+
+void Helm::Decide(TurnFate fate) {
+  if (fate != TurnFate::GoesOn) {
+    m_observers.Tell([fate](HelmObserver& observer) { observer.OnTurnEnds(fate); });
+  }
+}
+
+// What input, output and modes say
+
+void Helm::OnInputStarts() {
+  m_record.ForgetChanges();
+  m_observers.Tell([](HelmObserver& observer) { observer.OnInputStarts(); });
+}
+
+void Helm::OnBadLine(std::string_view line, LineFault fault) {
+  m_observers.Tell([&](HelmObserver& observer) { observer.OnNmeaLine(line, fault, false); });
+}
+
+void Helm::OnInputStatus(const PortStatus& status) {
+  m_observers.Tell([&](HelmObserver& observer) { observer.OnInputStatus(status); });
+}
+
+void Helm::OnInputState(InputState state) {
+  m_inputState = state;
+  Decide(m_supervisor.Input(state, m_settings.m_eTrackMode));
+  m_observers.Tell([state](HelmObserver& observer) { observer.OnInputState(state); });
+}
+
+void Helm::OnInputFailure(const std::string& reason) {
+  m_inputFailure = reason;
+  m_observers.Tell([&](HelmObserver& observer) { observer.OnInputFailure(m_inputFailure); });
+}
+
+void Helm::OnSourceAdvice(const std::vector<std::string>& lines) {
+  m_advice = lines;
+  m_observers.Tell([&](HelmObserver& observer) { observer.OnSourceAdvice(m_advice); });
+}
+
+void Helm::OnOutputStatus(const PortStatus& status) {
+  m_observers.Tell([&](HelmObserver& observer) { observer.OnOutputStatus(status); });
+}
+
+void Helm::OnOutputState(OutputState state) {
+  m_outputState = state;
+  m_observers.Tell([state](HelmObserver& observer) { observer.OnOutputState(state); });
+}
+
+void Helm::OnOutputFailure(const std::string& reason) {
+  m_outputFailure = reason;
+  m_observers.Tell([&](HelmObserver& observer) { observer.OnOutputFailure(m_outputFailure); });
+}
+
+void Helm::OnTrackMode(TrackMode mode) {
+  Decide(m_supervisor.Entered(mode));
+  m_observers.Tell([mode](HelmObserver& observer) { observer.OnTrackMode(mode); });
+}
+
+void Helm::OnTrackRefused(TrackRefusal why) {
+  m_observers.Tell([why](HelmObserver& observer) { observer.OnTrackRefused(why); });
+}
+
+void Helm::OnAlarmOver() {
+  m_observers.Tell([](HelmObserver& observer) { observer.OnAlarmOver(); });
 }
 
 }  // namespace veerwatch

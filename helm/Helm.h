@@ -1,11 +1,17 @@
 // Everything that steers, put together without a window: the receiver, the record, the simulator, the loop
-// with its modes and the pilot output. The main window, the command line and the tests each drive one.
+// with its modes, the pilot output and the supervisor. The main window, the command line and the tests each
+// drive one. It alone says what follows what: steer first, tell afterwards.
 #pragma once
 
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "control/Supervisor.h"
 #include "control/TrackLoop.h"
 #include "control/TrackModes.h"
 #include "helm/HelmNow.h"
-#include "instruments/FollowUp.h"
+#include "helm/HelmObserver.h"
 #include "instruments/InstrumentRecord.h"
 #include "instruments/Simulator.h"
 #include "nmea/NmeaReceiver.h"
@@ -18,25 +24,34 @@
 
 namespace veerwatch {
 
-/// All that a helm tells; whoever looks on overrides what it shows.
-class HelmView : public InstrumentRecord::Listener,
-                 public NmeaReceiver::Listener,
-                 public PilotOutput::Listener,
-                 public TrackLoop::Listener,
-                 public TrackModes::Listener {
- public:
-  /// The record for the polar window, after a wind with a valid boat speed and at every simulator tick.
-  virtual void OnPolarUpdate(TrackMode /*mode*/, const InstrumentData& /*data*/) {}
-};
-
-class Helm final : private FollowUp {
+class Helm final : private NmeaReceiver::Listener,
+                   private PilotOutput::Listener,
+                   private TrackModes::Listener {
  public:
   /// Every collaborator outlives the helm. `tmrNmea` ticks into Tick().
   Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Timer& tmrNmea, const Clock& clock,
-       RandomSource& random, HelmView& view);
+       RandomSource& random);
 
-  /// One tick of tmrNmea: the simulator's clock, or the watch over the ports.
+  /// Whom the helm tells.
+  HelmObservers& Observers() { return m_observers; }
+
+  /// One tick of tmrNmea: the simulator's clock, or the watch over the ports; and what is lost.
   void Tick();
+
+  // What the user, or a turn, does with the pilot.
+
+  /// TrackLoop::TrackSteerTo, told.
+  void TrackSteerTo(float change);
+  /// Takes a bearing that the user sets [deg magnetic, any turn]; one that is not finite changes nothing.
+  /// Ends a turn.
+  void UserSteersTo(double bearing);
+  /// The user takes the pilot with the bearing as it is, as at the close. Ends a turn.
+  void UserTakesPilot() { Decide(m_supervisor.UserTakes()); }
+  /// A turn has the pilot from now on, until TurnOver() or OnTurnEnds().
+  void TurnBegins() { m_supervisor.TurnBegins(); }
+  void TurnOver() { m_supervisor.TurnOver(); }
+  /// Takes the bearing of the turn that has the pilot, and tells it.
+  void TurnSteersTo(float bearing);
 
   NmeaReceiver& Receiver() { return m_receiver; }
   PilotOutput& Pilot() { return m_pilot; }
@@ -44,27 +59,58 @@ class Helm final : private FollowUp {
   const TrackLoop& Loop() const { return m_loop; }
   TrackModes& Modes() { return m_modes; }
   Simulator& Boat() { return m_simulator; }
-  const InstrumentData& Data() const { return m_record.Data(); }
-  /// The present values with their sources and ages.
   const InstrumentRecord& Record() const { return m_record; }
+  const InstrumentData& Data() const { return m_record.Data(); }
 
-  /// What the helm does at this moment; the watch over the winds is the caller's.
+  /// What the helm does at this moment.
   HelmNow Now() const;
 
  private:
-  void ControlStep(const Moment& now) override { m_loop.ControlStep(now); }
-  void PolarUpdate() override { m_view.OnPolarUpdate(m_settings.m_eTrackMode, m_record.Data()); }
+  /// A pass of the loop with its sentence.
+  struct Pass {
+    LoopStep Step;
+    std::string_view Sentence;  ///< "" for none
+  };
+
+  /// One pass of the loop over the record, for a wind that came at `now`, and its sentence to the pilot.
+  Pass Steer(const Moment& now);
+  void TellChanges();
+  void TellPass(const Pass& pass);
+  void TellDesired();
+  void TellPolar();
+  void SimulatorTick();
+  void Decide(TurnFate fate);
+
+  void OnInputStarts() override;
+  void OnSentence(std::string_view line, const Dispatcher::Outcome& outcome, const Moment& now) override;
+  void OnBadLine(std::string_view line, LineFault fault) override;
+  void OnInputStatus(const PortStatus& status) override;
+  void OnInputState(InputState state) override;
+  void OnInputFailure(const std::string& reason) override;
+  void OnSourceAdvice(const std::vector<std::string>& lines) override;
+  void OnOutputStatus(const PortStatus& status) override;
+  void OnOutputState(OutputState state) override;
+  void OnOutputFailure(const std::string& reason) override;
+  void OnTrackMode(TrackMode mode) override;
+  void OnTrackRefused(TrackRefusal why) override;
+  void OnAlarmOver() override;
 
   Settings& m_settings;
   const Clock& m_clock;
-  HelmView& m_view;
   const SerialPort& m_nmeaPort;
+  HelmObservers m_observers;
   InstrumentRecord m_record;
+  Supervisor m_supervisor;
   NmeaReceiver m_receiver;
   PilotOutput m_pilot;
   TrackLoop m_loop;
   TrackModes m_modes;
   Simulator m_simulator;
+  InputState m_inputState = InputState::Stopped;
+  OutputState m_outputState = OutputState::None;
+  std::string m_inputFailure;
+  std::string m_outputFailure;
+  std::vector<std::string> m_advice;
 };
 
 }  // namespace veerwatch

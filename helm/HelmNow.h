@@ -1,21 +1,32 @@
-// What the helm does at one moment, as a turn of the autopilot asks it. Standard library only: every folder
-// may include it.
+// What the helm does at one moment, for whoever comes later than it was told.
 #pragma once
 
 #include <cstdint>
 #include <optional>
+#include <string>
+#include <vector>
 
+#include "control/Supervisor.h"
+#include "control/TrackLoop.h"
+#include "nmea/PortStatus.h"
 #include "settings/TrackMode.h"
 
 namespace veerwatch {
 
 struct HelmNow {
   TrackMode Mode = TrackMode::Off;
-  bool InputStarted = false;           ///< the instruments, or the simulator, are read
-  int InputPort = 0;                   ///< number of the instrument port
-  bool InputOpen = false;              ///< it is open, or not needed
-  int OutputPort = 0;                  ///< number of the pilot port
-  bool OutputOpen = false;             ///< it is open, or not needed
+  PilotHand Hand = PilotHand::Nobody;
+  std::optional<TrackTuning> InUse;  ///< what the loop tracks with, in Track
+  bool InputStarted = false;         ///< the instruments, or the simulator, are read
+  int InputPort = 0;                 ///< number of the instrument port
+  bool InputOpen = false;            ///< it is open, or not needed
+  InputState Input = InputState::Stopped;
+  std::string InputFailure;         ///< why the instrument port is not open; "" when it is, or is not wanted
+  std::vector<std::string> Advice;  ///< what the chosen sources do not bring, a line each
+  int OutputPort = 0;               ///< number of the pilot port
+  bool OutputOpen = false;          ///< it is open, or not needed
+  OutputState Output = OutputState::None;
+  std::string OutputFailure;           ///< the same of the pilot port
   bool WindLost = false;               ///< an apparent or a true wind has not come for too long
   std::uint64_t Sent = 0;              ///< sentences that have left for the pilot
   float AutoPilot = 0.0F;              ///< its bearing [deg magnetic, [0, 360)]

@@ -1,9 +1,8 @@
 // What the main window is to every other window: its settings and its public operations.
 #pragma once
 
-#include <string_view>
-
 #include "helm/HelmNow.h"
+#include "helm/HelmObserver.h"
 #include "settings/Settings.h"
 
 namespace veerwatch {
@@ -25,13 +24,16 @@ class MainWindowApi : public Settings {
   /// Moves the held wind angle and the autopilot bearing by `change` [deg, positive to starboard]; only in
   /// Track.
   virtual void TrackSteerTo(float change) = 0;
-  /// Sets and shows the autopilot bearing [deg magnetic, any turn] for the manoeuvre that has the pilot. One
-  /// that is not finite changes nothing.
+  /// A turn has the pilot from now on, until TurnOver() or HelmObserver::OnTurnEnds().
+  virtual void TurnBegins() = 0;
+  virtual void TurnOver() = 0;
+  /// Sets and shows the autopilot bearing [deg magnetic, any turn] for the turn that has the pilot. One that
+  /// is not finite changes nothing.
   virtual void AutoPilotSet(float bearing) = 0;
+  /// Whom the helm tells.
+  virtual HelmObservers& Observers() = 0;
   /// What the helm does at this moment.
   virtual HelmNow Now() const = 0;
-  /// Beeps, and shows for ten seconds in place of the mode that a turn has ended by itself, and why.
-  virtual void TurnEnded(std::string_view why) = 0;
   virtual void TrackSetOff() = 0;
   virtual void TrackSetSetup() = 0;
   virtual void TrackSetManual() = 0;

@@ -25,15 +25,20 @@ void InstrumentRecord::Restart() {
   m_data.WindApparentValid = false;
   m_data.WindIndicatorValid = false;
   m_data.WindTrueValid = false;
-  for (const RecordValue value : {RecordValue::Heading, RecordValue::BoatSpeed, RecordValue::Waypoint,
-                                  RecordValue::WindApparent, RecordValue::WindTrue}) {
+  for (const RecordValue value :
+       {RecordValue::Heading, RecordValue::BoatSpeed, RecordValue::Waypoint, RecordValue::WindApparent,
+        RecordValue::WindTrue, RecordValue::WindIndicator}) {
     From(value).reset();
   }
-  m_listener.OnValuesBlanked();
+}
+
+void InstrumentRecord::Note(RecordValue value, const Origin& from) {
+  From(value) = from;
+  m_changed.set(static_cast<std::size_t>(value));
 }
 
 void InstrumentRecord::HeadingUpdate(float Heading, const Origin& from) {
-  From(RecordValue::Heading) = from;
+  Note(RecordValue::Heading, from);
   const float folded = FoldBearing(static_cast<double>(Heading));
   if (m_data.HeadingValid) {
     AverageAngleAbsolute(folded, m_settings.m_fNmeaTrueWindAverage, m_data.HeadingAverage);
@@ -42,11 +47,10 @@ void InstrumentRecord::HeadingUpdate(float Heading, const Origin& from) {
     m_data.HeadingAverage = Heading;
   }
   m_data.Heading = folded;
-  m_listener.OnHeading(m_data.Heading);
 }
 
 void InstrumentRecord::BoatSpeedUpdate(float BoatSpeed, const Origin& from) {
-  From(RecordValue::BoatSpeed) = from;
+  Note(RecordValue::BoatSpeed, from);
   if (m_data.BoatSpeedValid) {
     AverageValue(BoatSpeed, m_settings.m_fNmeaTrueWindAverage, m_data.BoatSpeedAverage);
   } else {
@@ -54,26 +58,24 @@ void InstrumentRecord::BoatSpeedUpdate(float BoatSpeed, const Origin& from) {
     m_data.BoatSpeedAverage = BoatSpeed;
   }
   m_data.BoatSpeed = BoatSpeed;
-  m_listener.OnBoatSpeed(BoatSpeed);
 }
 
 void InstrumentRecord::VariationUpdate(float Variation, const Origin& from) {
-  From(RecordValue::Variation) = from;
+  Note(RecordValue::Variation, from);
   m_data.VariationValid = true;
   m_data.Variation = Variation;
 }
 
 void InstrumentRecord::WaypointUpdate(float WaypointRange, float WaypointBearing, const Origin& from) {
-  From(RecordValue::Waypoint) = from;
+  Note(RecordValue::Waypoint, from);
   m_data.WaypointRange = WaypointRange;
   m_data.WaypointBearing = WaypointBearing;
   m_data.WaypointValid = true;
-  m_listener.OnWaypoint(WaypointRange, WaypointBearing);
 }
 
 void InstrumentRecord::WindApparentUpdate(float WindAngle, float WindSpeed, bool ComputeTrue,
                                           const Origin& from) {
-  From(RecordValue::WindApparent) = from;
+  Note(RecordValue::WindApparent, from);
   const float angle = FoldRelative(static_cast<double>(WindAngle));
   if (m_data.WindApparentValid) {
     const float count = m_settings.m_fNmeaTrueWindAverage;
@@ -86,7 +88,6 @@ void InstrumentRecord::WindApparentUpdate(float WindAngle, float WindSpeed, bool
   }
   m_data.WindAngleApparent = angle;
   m_data.WindSpeedApparent = WindSpeed;
-  m_listener.OnWindApparent(angle, WindSpeed);
 
   if (ComputeTrue && m_settings.m_iNmeaTrueWind == 1 && m_data.BoatSpeedValid) {
     float trueSpeed = 0.0F;
@@ -98,7 +99,7 @@ void InstrumentRecord::WindApparentUpdate(float WindAngle, float WindSpeed, bool
 }
 
 void InstrumentRecord::WindTrueUpdate(float WindAngle, float WindSpeed, bool Average, const Origin& from) {
-  From(RecordValue::WindTrue) = from;
+  Note(RecordValue::WindTrue, from);
   const float angle = FoldRelative(static_cast<double>(WindAngle));
   if (Average && m_data.WindTrueValid) {
     const float count = m_settings.m_fNmeaTrueWindAverage;
@@ -109,7 +110,6 @@ void InstrumentRecord::WindTrueUpdate(float WindAngle, float WindSpeed, bool Ave
     m_data.WindAngleTrue = angle;
     m_data.WindSpeedTrue = WindSpeed;
   }
-  m_listener.OnWindTrue(m_data.WindAngleTrue, m_data.WindSpeedTrue);
 }
 
 void InstrumentRecord::WindTrueSimulated(float WindAngle, float WindSpeed, const Origin& from) {
@@ -119,6 +119,9 @@ void InstrumentRecord::WindTrueSimulated(float WindAngle, float WindSpeed, const
 }
 
 void InstrumentRecord::WindIndicatorUpdate() {
+  if (const auto from = Source(RecordValue::WindTrue)) {
+    Note(RecordValue::WindIndicator, *from);
+  }
   const double direction = static_cast<double>(m_data.WindAngleTrue) + static_cast<double>(m_data.Heading) +
                            static_cast<double>(m_data.Variation);
   if (!m_data.WindIndicatorValid) {
@@ -130,7 +133,6 @@ void InstrumentRecord::WindIndicatorUpdate() {
     AverageAngleAbsolute(FoldBearing(direction), count, m_data.WindDirectionAverage);
     AverageValue(m_data.WindSpeedTrue, count, m_data.WindSpeedAverage);
   }
-  m_listener.OnWindIndicator(m_data.WindDirectionAverage, m_data.WindSpeedAverage);
 }
 
 }  // namespace veerwatch

@@ -1,9 +1,10 @@
 // The updates that write InstrumentData: each stores the raw value, keeps its smoothed copy, remembers where
-// and when it came from, and tells the listener what to show. Called by SourceChoice and the simulator with
-// values that are finite; nobody else writes the record.
+// and when it came from, and notes that it has changed. Called by SourceChoice and the simulator with values
+// that are finite; nobody else writes the record.
 #pragma once
 
 #include <array>
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -14,28 +15,13 @@
 
 namespace veerwatch {
 
-/// What the record holds, for the questions after source and age.
-enum class RecordValue { Heading, BoatSpeed, Variation, Waypoint, WindApparent, WindTrue };
+/// What the record holds, for the questions after source, age and change.
+enum class RecordValue { Heading, BoatSpeed, Variation, Waypoint, WindApparent, WindTrue, WindIndicator };
 
 class InstrumentRecord {
  public:
-  /// Shows values; numbers only, whoever shows them formats them.
-  class Listener {
-   public:
-    virtual ~Listener() = default;
-    virtual void OnHeading(float /*heading: folded raw, deg magnetic*/) {}
-    virtual void OnBoatSpeed(float /*speed: raw, kn*/) {}
-    virtual void OnWaypoint(float /*range: nm*/, float /*bearing: deg magnetic*/) {}
-    virtual void OnWindApparent(float /*angle: raw, deg relative*/, float /*speed: raw, kn*/) {}
-    virtual void OnWindTrue(float /*angle: smoothed, deg relative*/, float /*speed: smoothed, kn*/) {}
-    virtual void OnWindIndicator(float /*direction: smoothed, deg true*/, float /*speed: smoothed, kn*/) {}
-    /// The input starts anew: the seven value labels go blank.
-    virtual void OnValuesBlanked() {}
-  };
-
   /// Reads m_fNmeaTrueWindAverage, m_fNmeaWindIndicatorAverage and m_iNmeaTrueWind at every update.
-  InstrumentRecord(const Settings& settings, Listener& listener)
-      : m_settings(settings), m_listener(listener) {}
+  explicit InstrumentRecord(const Settings& settings) : m_settings(settings) {}
 
   const InstrumentData& Data() const { return m_data; }
 
@@ -46,7 +32,11 @@ class InstrumentRecord {
   /// none.
   std::optional<std::int64_t> Age(RecordValue value, const Moment& now) const;
 
-  /// Clears the validity flags and blanks the labels, so that every smoothed value restarts from its next
+  /// Whether the value was updated since ForgetChanges().
+  bool Changed(RecordValue value) const { return m_changed[static_cast<std::size_t>(value)]; }
+  void ForgetChanges() { m_changed.reset(); }
+
+  /// Clears the validity flags, so that every smoothed value restarts from its next
   /// sample. Deliberate: the variation, its flag and its source stay, and no value is zeroed.
   void Restart();
 
@@ -68,18 +58,21 @@ class InstrumentRecord {
   /// The simulator's true wind. Deliberate: it is the present value before it is smoothed, so it is averaged
   /// with itself and not smoothed.
   void WindTrueSimulated(float WindAngle, float WindSpeed, const Origin& from);
-  /// Smooths the geographic direction of the true wind for the caption. Call it only with a valid variation.
+  /// Smooths the geographic direction of the true wind for the caption. Call it only with a valid variation
+  /// and after a true wind, whose origin it takes.
   void WindIndicatorUpdate();
 
  private:
-  static constexpr std::size_t kValues = 6;
+  static constexpr std::size_t kValues = 7;
 
   std::optional<Origin>& From(RecordValue value) { return m_from[static_cast<std::size_t>(value)]; }
+  /// Keeps where `value` came from, and that it has changed.
+  void Note(RecordValue value, const Origin& from);
 
   const Settings& m_settings;
-  Listener& m_listener;
   InstrumentData m_data;
   std::array<std::optional<Origin>, kValues> m_from;
+  std::bitset<kValues> m_changed;
 };
 
 }  // namespace veerwatch

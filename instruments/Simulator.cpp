@@ -45,9 +45,6 @@ void Simulator::Tick(const Moment& now) {
   float range = 0.0F;
   SimulateTime(m_settings.m_fSimulateTime, bearing, range);
   m_record.WaypointUpdate(range, bearing, here);
-
-  m_followUp.PolarUpdate();
-  m_followUp.ControlStep(now);
 }
 
 void Simulator::SimulateTime(float Time, float& TimeWaypointBearing, float& TimeWaypointRange) {

@@ -2,7 +2,6 @@
 // the heading that the control loop commands, so that the whole chain runs without a boat.
 #pragma once
 
-#include "instruments/FollowUp.h"
 #include "instruments/InstrumentRecord.h"
 #include "platform/Random.h"
 #include "settings/Settings.h"
@@ -11,13 +10,12 @@ namespace veerwatch {
 
 class Simulator {
  public:
-  Simulator(Settings& settings, InstrumentRecord& record, RandomSource& random, FollowUp& followUp)
-      : m_settings(settings), m_record(record), m_random(random), m_followUp(followUp) {}
+  Simulator(Settings& settings, InstrumentRecord& record, RandomSource& random)
+      : m_settings(settings), m_record(record), m_random(random) {}
 
-  /// One second of simulated sailing at `now`: the updates of the record, then the polar window, then the
-  /// control step. Draws four random numbers: angle and speed noise of the apparent wind, then of the true
-  /// wind. Deliberate: the simulated true wind is not smoothed; the steps that follow make no validity tests,
-  /// and the polar window comes before the control step (after a wind sentence it comes behind).
+  /// One second of simulated sailing at `now`: updates every value of the record. Draws four random numbers:
+  /// angle and speed noise of the apparent wind, then of the true wind. Deliberate: the simulated true wind
+  /// is not smoothed.
   void Tick(const Moment& now);
 
   /// Moves the boat along the autopilot bearing from m_fSimulateTime to `Time` [h] at the simulated speed,
@@ -33,7 +31,6 @@ class Simulator {
   Settings& m_settings;
   InstrumentRecord& m_record;
   RandomSource& m_random;
-  FollowUp& m_followUp;
   float m_waypointBearing = 0.0F;
   float m_waypointRange = 0.0F;
 };

@@ -9,18 +9,16 @@ namespace veerwatch {
 namespace {
 
 constexpr int kSilentTicks = 4;
-constexpr std::string_view kNoInputData = "No Input Data";
 
 }  // namespace
 
 NmeaReceiver::NmeaReceiver(const Settings& settings, SerialPort& port, Timer& tmrNmea, const Clock& clock,
-                           InstrumentRecord& record, FollowUp& followUp, Listener& listener)
+                           InstrumentRecord& record, Listener& listener)
     : m_settings(settings),
       m_port(port),
       m_timer(tmrNmea),
       m_clock(clock),
       m_record(record),
-      m_followUp(followUp),
       m_listener(listener),
       m_dispatcher(settings, record) {
   m_connection = m_port.Connect(*this);
@@ -32,18 +30,18 @@ bool NmeaReceiver::NmeaStart() {
   m_noDataCount = 0;
   m_noDataShown = false;
   m_timer.Enabled(true);
-  m_listener.OnNmeaListCleared();
   m_record.Restart();
+  m_listener.OnInputStarts();
   m_dispatcher.Sources().Restart();
   Advise({});
   if (m_settings.m_bSimulate) {
     Failure("");
-    Status("Simulate");
-    m_listener.OnInputState("Simulate");
+    Status({PortStatus::What::Simulate});
+    m_listener.OnInputState(InputState::Simulate);
     return true;
   }
-  Status("");
-  m_listener.OnInputState("Running");
+  Status({});
+  m_listener.OnInputState(InputState::Running);
   if (m_port.PortOpen() && m_port.CommPort() != m_settings.m_iNmeaPort) {
     m_port.PortOpen(false);
   }
@@ -57,10 +55,10 @@ void NmeaReceiver::NmeaStop() {
   m_port.PortOpen(false);
   Failure("");
   Advise({});
-  if (m_notOpenShown) {
-    Status("");
+  if (NotOpenShown()) {
+    Status({});
   }
-  m_listener.OnInputState("Stopped");
+  m_listener.OnInputState(InputState::Stopped);
 }
 
 void NmeaReceiver::OpenPort() {
@@ -69,10 +67,9 @@ void NmeaReceiver::OpenPort() {
   Failure(open ? "" : m_port.OpenFailure());
   m_framer.Clear();
   if (!open && m_noDataCount < kSilentTicks) {
-    Status("Input Port " + std::to_string(m_settings.m_iNmeaPort) + " Not Open");
-    m_notOpenShown = true;
-  } else if (open && m_notOpenShown) {
-    Status("");
+    Status({PortStatus::What::NotOpen, m_settings.m_iNmeaPort});
+  } else if (open && NotOpenShown()) {
+    Status({});
   }
 }
 
@@ -99,12 +96,12 @@ void NmeaReceiver::Tick() {
   m_port.PollLineErrors();
   ++m_noDataCount;
   if (m_noDataCount >= kSilentTicks) {
-    Status(kNoInputData);
-    m_listener.OnInputState(kNoInputData);
+    Status({PortStatus::What::NoInputData});
+    m_listener.OnInputState(InputState::NoData);
     m_noDataShown = true;
   } else if (m_noDataShown) {
-    Status("");
-    m_listener.OnInputState("Running");
+    Status({});
+    m_listener.OnInputState(InputState::Running);
     m_noDataShown = false;
   }
   if (m_reopenPause.Tick(m_port.PortOpen())) {
@@ -116,15 +113,14 @@ void NmeaReceiver::OnComm(int commEvent) {
   if (commEvent == CommEvent::kReceive) {
     Receive();
   } else {
-    Status(CommEventText(commEvent));
+    Status({PortStatus::What::LineEvent, commEvent});
   }
 }
 
 void NmeaReceiver::OnPortLost() {
   if (m_started) {
     m_framer.Clear();
-    Status("Input Port " + std::to_string(m_port.CommPort()) + " Not Open");
-    m_notOpenShown = true;
+    Status({PortStatus::What::NotOpen, m_port.CommPort()});
   }
 }
 
@@ -134,59 +130,47 @@ void NmeaReceiver::Receive() {
     return;
   }
   m_receiving = true;
-  if (!m_status.empty()) {
-    Status("");
-  }
-  m_port.Input(m_input);
+  m_heard = true;
   m_arrived = m_clock.Now();
+  m_port.Input(m_input);
   m_framer.Feed(
       m_input, [this](std::string_view line) { SentenceLine(line); },
-      [this](std::string_view line) { BadLine(line, "Sentence Error"); });
+      [this](std::string_view line) { BadLine(line, LineFault::Sentence); });
+  Heard();
   m_receiving = false;
 }
 
 void NmeaReceiver::SentenceLine(std::string_view line) {
   switch (CheckFrame(line)) {
     case Frame::NoDollar:
-      BadLine(line, "Sentence Error");
+      BadLine(line, LineFault::Sentence);
       return;
     case Frame::WrongChecksum:
-      BadLine(line, "Checksum Error");
+      BadLine(line, LineFault::Checksum);
       return;
     case Frame::Good:
       break;
   }
   const Dispatcher::Outcome outcome = m_dispatcher.Dispatch(line, m_settings.m_iNmeaPort, m_arrived);
-  if (outcome.Incomplete) {
-    m_text.assign("Decode Error - ").append(line);
-    m_listener.OnNmeaError(m_text);
-  }
-  m_listener.OnNmeaData(line, outcome.Used);
+  m_listener.OnSentence(line, outcome, m_arrived);
+  Heard();
+}
 
-  const InstrumentData& data = m_record.Data();
-  if (outcome.WindSentence && data.WindApparentValid && data.WindTrueValid) {
-    m_followUp.ControlStep(m_arrived);
-    if (data.BoatSpeedValid) {
-      m_followUp.PolarUpdate();
-    }
-    if (data.VariationValid) {
-      m_record.WindIndicatorUpdate();
-    }
+void NmeaReceiver::BadLine(std::string_view line, LineFault fault) {
+  m_heard = false;
+  Status({fault == LineFault::Checksum ? PortStatus::What::ChecksumError : PortStatus::What::SentenceError});
+  m_listener.OnBadLine(line, fault);
+}
+
+void NmeaReceiver::Heard() {
+  if (std::exchange(m_heard, false) && m_status.Says != PortStatus::What::Clear) {
+    Status({});
   }
 }
 
-void NmeaReceiver::BadLine(std::string_view line, std::string_view fault) {
-  Status(fault);
-  m_text.assign(line).append(" <<").append(fault).append(">>");
-  m_listener.OnNmeaData(m_text, false);
-  m_text.assign(fault).append(" - ").append(line);
-  m_listener.OnNmeaError(m_text);
-}
-
-void NmeaReceiver::Status(std::string_view text) {
-  m_notOpenShown = false;
-  m_status = text;
-  m_listener.OnInputStatus(text);
+void NmeaReceiver::Status(const PortStatus& status) {
+  m_status = status;
+  m_listener.OnInputStatus(status);
 }
 
 }  // namespace veerwatch

@@ -6,10 +6,11 @@
 #include <string_view>
 #include <vector>
 
-#include "instruments/FollowUp.h"
 #include "instruments/InstrumentRecord.h"
 #include "nmea/Dispatcher.h"
+#include "nmea/LineFault.h"
 #include "nmea/LineFramer.h"
+#include "nmea/PortStatus.h"
 #include "platform/Clock.h"
 #include "platform/ReopenPause.h"
 #include "platform/SerialPort.h"
@@ -20,32 +21,29 @@ namespace veerwatch {
 
 class NmeaReceiver final : public SerialPort::Events {
  public:
+  /// Who hears of what comes in.
   class Listener {
    public:
     virtual ~Listener() = default;
-    /// Text of the input panel of the status bar; "" empties it.
-    virtual void OnInputStatus(std::string_view /*text*/) {}
-    /// State of the input: "Running", "Simulate", "Stopped", "No Input Data".
-    virtual void OnInputState(std::string_view /*text*/) {}
+    /// The input starts anew: the record has no valid value, and the list of received sentences begins anew.
+    virtual void OnInputStarts() = 0;
+    /// The record has been given a line whose frame is good, which came at `now`.
+    virtual void OnSentence(std::string_view line, const Dispatcher::Outcome& outcome, const Moment& now) = 0;
+    /// A line failed: LineFault::Sentence or LineFault::Checksum.
+    virtual void OnBadLine(std::string_view line, LineFault fault) = 0;
+    virtual void OnInputStatus(const PortStatus& status) = 0;
+    virtual void OnInputState(InputState state) = 0;
     /// Why the port is not open, as the system says; "" when it is, or while nothing is known.
-    virtual void OnInputFailure(std::string_view /*reason*/) {}
+    virtual void OnInputFailure(const std::string& reason) = 0;
     /// What the chosen sources do not bring while others would, a line each; none when all is well.
-    virtual void OnSourceAdvice(const std::vector<std::string>& /*lines*/) {}
-    /// The input starts: the list of received sentences begins anew.
-    virtual void OnNmeaListCleared() {}
-    /// Each line, with a mark behind it when its frame is bad; `used` when it updated the record.
-    virtual void OnNmeaData(std::string_view /*line*/, bool /*used*/) {}
-    /// Each line that failed, behind the kind of failure. Comes before OnNmeaData when a decoder fails,
-    /// behind it when the frame is bad.
-    virtual void OnNmeaError(std::string_view /*text*/) {}
+    virtual void OnSourceAdvice(const std::vector<std::string>& lines) = 0;
   };
 
-  /// Everything outlives this; `clock` says when characters arrived.
   NmeaReceiver(const Settings& settings, SerialPort& port, Timer& tmrNmea, const Clock& clock,
-               InstrumentRecord& record, FollowUp& followUp, Listener& listener);
+               InstrumentRecord& record, Listener& listener);
 
   /// Starts the input, with the present port number and with the present m_bSimulate. Always true; a port
-  /// that cannot be opened is shown as "Input Port n Not Open" and tried again at every fourth tick.
+  /// that cannot be opened is told as "Input Port n Not Open" and tried again at every fourth tick.
   bool NmeaStart();
   void NmeaStop();
 
@@ -73,8 +71,11 @@ class NmeaReceiver final : public SerialPort::Events {
  private:
   void Receive();
   void SentenceLine(std::string_view line);
-  void BadLine(std::string_view line, std::string_view fault);
-  void Status(std::string_view text);
+  void BadLine(std::string_view line, LineFault fault);
+  void Status(const PortStatus& status);
+  /// Something has come: a status of before is over.
+  void Heard();
+  bool NotOpenShown() const { return m_status.Says == PortStatus::What::NotOpen; }
   void OpenPort();
   void Failure(std::string reason);
   void Advise(std::vector<std::string> lines);
@@ -84,7 +85,6 @@ class NmeaReceiver final : public SerialPort::Events {
   Timer& m_timer;
   const Clock& m_clock;
   InstrumentRecord& m_record;
-  FollowUp& m_followUp;
   Listener& m_listener;
   Dispatcher m_dispatcher;
 
@@ -94,13 +94,12 @@ class NmeaReceiver final : public SerialPort::Events {
   ReopenPause m_reopenPause;
   int m_noDataCount = 0;
   bool m_noDataShown = false;
-  bool m_notOpenShown = false;
-  Moment m_arrived;  ///< the latest characters
-  std::string m_status;
+  bool m_heard = false;  ///< characters came, and the status of before still stands
+  Moment m_arrived;      ///< the latest characters
+  PortStatus m_status;
   std::string m_failure;
   std::vector<std::string> m_advice;
   std::string m_input;
-  std::string m_text;
   SerialPort::Connection m_connection;
 };
 

@@ -54,6 +54,8 @@ frmOptions::frmOptions(const Parts& parts)
       },
       [this] { vscSimulate_Changed(); });
   OptionsReload();
+  ShowHelm();
+  m_told = parts.Main.Observers().Join(*this);
   Fit();
   const QSize screenRoom = screen()->availableSize() * kScreenShare;
   resize(kUsualSize.expandedTo(minimumSize()).boundedTo(screenRoom));
@@ -75,8 +77,8 @@ void frmOptions::MakeTabs() {
   SSTab->addTab(new OptionPageQt(m_simulate, SSTab), QStringLiteral("&Simulate"));
   SSTab->addTab(new LoopDiagramQt(SSTab), QStringLiteral("Dia&gram"));
   for (QRadioButton* option : m_input->Format) {
-    connect(option, &QRadioButton::clicked, this, [this] { NmeaListClear(); });
-    connect(option, &QRadioButton::toggled, this, [this] { NmeaListClear(); });
+    connect(option, &QRadioButton::clicked, this, [this] { m_input->List->Clear(); });
+    connect(option, &QRadioButton::toggled, this, [this] { m_input->List->Clear(); });
   }
   lstNmeaSentence = new SentenceListQt(this);
   lstNmeaSentence->hide();
@@ -197,44 +199,51 @@ void frmOptions::ShowAt(QPoint topLeft) {
   activateWindow();
 }
 
-// What the ports tell
+// What the helm tells
 
-void frmOptions::NmeaError(std::string_view line) {
-  if (isVisible() && m_input->Format[1]->isChecked()) {
-    NmeaList(line, false);
+void frmOptions::OnNmeaLine(std::string_view line, LineFault fault, bool used) {
+  if (!isVisible()) {
+    return;
   }
-}
-
-void frmOptions::NmeaData(std::string_view line, bool checked) {
-  if (isVisible() && m_input->Format[0]->isChecked()) {
-    NmeaList(line, checked);
+  if (m_input->Format[0]->isChecked()) {
+    ListedLine(line, fault, m_line);
+    NmeaList(m_line, used);
+  }
+  if (m_input->Format[1]->isChecked() && fault != LineFault::None) {
+    ListedFault(line, fault, m_line);
+    NmeaList(m_line, false);
   }
 }
 
 void frmOptions::NmeaList(std::string_view line, bool checked) {
-  if (isVisible() && m_input->ListOn->isChecked()) {
+  if (m_input->ListOn->isChecked()) {
     m_input->List->Add(line, checked);
   }
 }
 
-void frmOptions::PilotData(std::string_view line) {
+void frmOptions::OnPilotData(std::string_view sentence) {
   if (isVisible() && m_output->ListOn->isChecked() && SSTab->isTabEnabled(Output)) {
-    m_output->List->Add(line, false);
+    m_output->List->Add(sentence, false);
   }
 }
 
-void frmOptions::NmeaStatus(std::string_view text) { m_input->Status->setText(Text(text)); }
+void frmOptions::OnInputState(InputState state) { m_input->Status->setText(Text(InputStateText(state))); }
 
-void frmOptions::NmeaReason(const std::string& text) { m_input->Explain(text); }
+void frmOptions::OnOutputState(OutputState state) { m_output->Status->setText(Text(OutputStateText(state))); }
 
-void frmOptions::PilotReason(const std::string& text) { m_output->Explain(text); }
-
-void frmOptions::SourceAdvice(const std::vector<std::string>& lines) { m_data->Advise(lines); }
-
-void frmOptions::PilotStatus(std::string_view text) { m_output->Status->setText(Text(text)); }
-
-void frmOptions::TrackInUse(const std::optional<TrackTuning>& tuning) {
+void frmOptions::OnTrackMode(TrackMode /*mode*/) {
+  const auto tuning = m_parts.Main.Now().InUse;
   m_track->lblTrackInUse->setText(tuning ? Text(TrackInUseText(*tuning)) : QString());
+}
+
+void frmOptions::ShowHelm() {
+  const HelmNow now = m_parts.Main.Now();
+  OnInputState(now.Input);
+  OnInputFailure(now.InputFailure);
+  OnSourceAdvice(now.Advice);
+  OnOutputState(now.Output);
+  OnOutputFailure(now.OutputFailure);
+  OnTrackMode(now.Mode);
 }
 
 // Settings to controls and back

@@ -26,7 +26,7 @@
 
 namespace veerwatch {
 
-class frmOptions final : public QDialog {
+class frmOptions final : public QDialog, private HelmObserver {
  public:
   /// What the dialog works with; everything outlives it.
   struct Parts {
@@ -50,30 +50,6 @@ class frmOptions final : public QDialog {
   /// Shows the dialog with the upper left corner of its frame there [px of the desktop].
   void ShowAt(QPoint topLeft);
 
-  /// A line that failed, behind the kind of failure; listed with "Decoded Error".
-  void NmeaError(std::string_view line);
-  /// A received line and whether it was used; listed with "Raw NMEA".
-  void NmeaData(std::string_view line, bool checked);
-  /// Lists a line, highlighted when `checked`, where the display of the input is on.
-  void NmeaList(std::string_view line, bool checked);
-  /// Empties the list of the input.
-  void NmeaListClear() { m_input->List->Clear(); }
-  /// A sentence to the autopilot, without its line end.
-  void PilotData(std::string_view line);
-
-  /// Shows the state of the input, and of the output.
-  void NmeaStatus(std::string_view text);
-  void PilotStatus(std::string_view text);
-  /// Shows why the port of the input is not open; "" hides it.
-  void NmeaReason(const std::string& text);
-  /// The same for the output.
-  void PilotReason(const std::string& text);
-  /// Shows on the Data page what the chosen sources do not bring; nothing hides it.
-  void SourceAdvice(const std::vector<std::string>& lines);
-
-  /// Shows what the loop tracks with; nothing while it does not track.
-  void TrackInUse(const std::optional<TrackTuning>& tuning);
-
   /// Whom to tell when the dialog was closed by its frame, to destroy it.
   void Closed(std::function<void()> handler) { m_closed = std::move(handler); }
 
@@ -95,6 +71,23 @@ class frmOptions final : public QDialog {
   void Fit();
   void LayOut();
   QPoint Centre() const;
+
+  /// Lists a line, highlighted when `checked`, where the display of the input is on.
+  void NmeaList(std::string_view line, bool checked);
+
+  void OnInputStarts() override { m_input->List->Clear(); }
+  /// Lists lines with "Raw NMEA", faults with "Decoded Error".
+  void OnNmeaLine(std::string_view line, LineFault fault, bool used) override;
+  void OnPilotData(std::string_view sentence) override;
+  void OnInputState(InputState state) override;
+  void OnOutputState(OutputState state) override;
+  void OnInputFailure(const std::string& reason) override { m_input->Explain(reason); }
+  void OnOutputFailure(const std::string& reason) override { m_output->Explain(reason); }
+  void OnSourceAdvice(const std::vector<std::string>& lines) override { m_data->Advise(lines); }
+  void OnTrackMode(TrackMode mode) override;
+
+  /// Shows what was told before the dialog was there.
+  void ShowHelm();
 
   OptionsForm Form() const;
   bool OptionsApply();
@@ -124,6 +117,8 @@ class frmOptions final : public QDialog {
   QPushButton* cmdCancel;
   QPushButton* cmdApply;
   std::function<void()> m_closed;
+  std::string m_line;  ///< as it is listed
+  HelmObservers::Membership m_told;
 };
 
 }  // namespace veerwatch

@@ -35,12 +35,12 @@ void PilotOutput::PilotStart() {
     Failure("");
   }
   if (m_settings.m_bSimulate) {
-    Status("Simulate");
-    m_listener.OnOutputState("Simulate");
+    Status({PortStatus::What::Simulate});
+    m_listener.OnOutputState(OutputState::Simulate);
     return;
   }
-  Status("");
-  m_listener.OnOutputState("Running");
+  Status({});
+  m_listener.OnOutputState(OutputState::Running);
   if (OwnPort()) {
     OpenPort();
   }
@@ -51,7 +51,7 @@ void PilotOutput::PilotStop() {
   m_pilotPort.PortOpen(false);
   Failure("");
   if (m_notOpenShown) {
-    Status("");
+    Status({});
   }
 }
 
@@ -60,10 +60,10 @@ void PilotOutput::OpenPort() {
   const bool open = m_pilotPort.PortOpen(true);
   Failure(open ? "" : m_pilotPort.OpenFailure());
   if (!open) {
-    Status("Output Port " + std::to_string(m_settings.m_iPilotPort) + " Not Open");
+    Status({PortStatus::What::NotOpen, m_settings.m_iPilotPort});
     m_notOpenShown = true;
   } else if (m_notOpenShown) {
-    Status("");
+    Status({});
   }
 }
 
@@ -85,7 +85,7 @@ void PilotOutput::Tick() {
   if (!OwnPort()) {
     Failure("");
     if (m_notOpenShown) {
-      Status("");
+      Status({});
     }
     return;
   }
@@ -95,9 +95,9 @@ void PilotOutput::Tick() {
   }
 }
 
-void PilotOutput::PilotSend(float bearing) {
+std::string_view PilotOutput::PilotSend(float bearing) {
   if (!std::isfinite(bearing)) {
-    return;
+    return {};
   }
   BuildPilotSentence(bearing, m_sentence);
   SerialPort& port = OwnPort() ? m_pilotPort : m_nmeaPort;
@@ -108,7 +108,7 @@ void PilotOutput::PilotSend(float bearing) {
   if (m_settings.m_bSimulate) {
     ++m_simulated;
   }
-  m_listener.OnPilotData(std::string_view(m_sentence).substr(0, m_sentence.size() - 2));
+  return std::string_view(m_sentence).substr(0, m_sentence.size() - 2);
 }
 
 bool PilotOutput::Open() const {
@@ -118,22 +118,22 @@ bool PilotOutput::Open() const {
 void PilotOutput::OnComm(int commEvent) {
   if (commEvent == CommEvent::kReceive) {
     m_pilotPort.Input(m_dropped);
-    Status("Receive Error");
+    Status({PortStatus::What::ReceiveError});
   } else {
-    Status(CommEventText(commEvent));
+    Status({PortStatus::What::LineEvent, commEvent});
   }
 }
 
 void PilotOutput::OnPortLost() {
   if (m_started) {
-    Status("Output Port " + std::to_string(m_pilotPort.CommPort()) + " Not Open");
+    Status({PortStatus::What::NotOpen, m_pilotPort.CommPort()});
     m_notOpenShown = true;
   }
 }
 
-void PilotOutput::Status(std::string_view text) {
+void PilotOutput::Status(const PortStatus& status) {
   m_notOpenShown = false;
-  m_listener.OnOutputStatus(text);
+  m_listener.OnOutputStatus(status);
 }
 
 }  // namespace veerwatch

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "nmea/PortStatus.h"
 #include "platform/ReopenPause.h"
 #include "platform/SerialPort.h"
 #include "settings/Settings.h"
@@ -14,17 +15,14 @@ namespace veerwatch {
 
 class PilotOutput final : public SerialPort::Events {
  public:
+  /// Who hears of the port.
   class Listener {
    public:
     virtual ~Listener() = default;
-    /// Text of the output panel of the status bar; "" empties it.
-    virtual void OnOutputStatus(std::string_view /*text*/) {}
-    /// State of the output: "Running" or "Simulate".
-    virtual void OnOutputState(std::string_view /*text*/) {}
+    virtual void OnOutputStatus(const PortStatus& status) = 0;
+    virtual void OnOutputState(OutputState state) = 0;
     /// Why the pilot's own port is not open, as the system says; "" when it is, or is not wanted.
-    virtual void OnOutputFailure(std::string_view /*reason*/) {}
-    /// Each sentence that is built, without its line end, whether or not a port is open to take it.
-    virtual void OnPilotData(std::string_view /*sentence*/) {}
+    virtual void OnOutputFailure(const std::string& reason) = 0;
   };
 
   PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Listener& listener);
@@ -33,7 +31,7 @@ class PilotOutput final : public SerialPort::Events {
   /// another number than it should, so that the device is free for the instruments.
   void PilotRelease();
 
-  /// Opens the pilot port where it is needed. One that cannot be opened is shown as "Output Port n Not Open"
+  /// Opens the pilot port where it is needed. One that cannot be opened is told
   /// and tried again at every fourth tick.
   void PilotStart();
   void PilotStop();
@@ -42,8 +40,9 @@ class PilotOutput final : public SerialPort::Events {
   void Tick();
 
   /// Builds the sentence for `bearing` [deg magnetic, [0, 360)] and writes it, whole, with its line end. A
-  /// bearing that is not finite is not sent. Without an open port the sentence only reaches the listener.
-  void PilotSend(float bearing);
+  /// bearing that is not finite is not sent. Returns the sentence without its line end, until the next call;
+  /// also while no port is open to take it, and "" where none was built.
+  std::string_view PilotSend(float bearing);
 
   /// How many sentences have left for the pilot. While simulating, where none leaves, each that is built
   /// counts.
@@ -62,7 +61,7 @@ class PilotOutput final : public SerialPort::Events {
   void CloseUnneeded();
   void OpenPort();
   void Failure(std::string reason);
-  void Status(std::string_view text);
+  void Status(const PortStatus& status);
 
   const Settings& m_settings;
   SerialPort& m_nmeaPort;

@@ -41,13 +41,6 @@ std::string TurnHindrance(const HelmNow& now) {
   return now.WindLost ? std::string("No turn: ") + kNoWind : std::string();
 }
 
-std::string TurnEnd(const HelmNow& now) {
-  if (!now.InputStarted) {
-    return kInputStopped;
-  }
-  return now.WindLost ? kNoWind : "";
-}
-
 TurnFrom TurnFromNow(const HelmNow& now, const TurnFrom& before) {
   return {now.Heading.value_or(before.Heading), now.AutoPilot, now.WindAngleTrue.value_or(before.WindAngle)};
 }

@@ -1,4 +1,4 @@
-// Whether a turn may begin and go on, and what the user has to be told before it begins. The manoeuvre dialog
+// Whether a turn may begin, and what the user has to be told before it begins. The manoeuvre dialog
 // asks.
 #pragma once
 
@@ -12,9 +12,6 @@ namespace veerwatch {
 /// Why no sentence would carry a turn to the pilot now; "" when one will: Off, the input stopped, no wind, or
 /// a port that is not open.
 std::string TurnHindrance(const HelmNow& now);
-
-/// Why a turn that runs ends by itself; "" while it goes on. A port that is not open only makes it wait.
-std::string TurnEnd(const HelmNow& now);
 
 /// What a turn starts from.
 struct TurnFrom {

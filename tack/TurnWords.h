@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "tack/Manoeuvre.h"
+#include "control/Manoeuvre.h"
 
 namespace veerwatch {
 

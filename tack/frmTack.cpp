@@ -18,7 +18,8 @@ namespace veerwatch {
 namespace {
 
 constexpr int kTimerInterval = 1000;  // [ms]
-constexpr int kTextHeight = 18;       // [px]
+constexpr double kMillisecondsPerSecond = 1000.0;
+constexpr int kTextHeight = 18;  // [px]
 constexpr int kEntryHeight = 24;
 constexpr int kHeadingHeight = 44;
 constexpr int kMargin = 24;
@@ -82,6 +83,7 @@ frmTack::frmTack(const TackParts& parts, QWidget* main) : QDialog(main), m_parts
   m_parts.TimerTack.Interval(kTimerInterval);
   MakeControls();
   Dim();
+  m_told = m_parts.Main.Observers().Join(*this);
 }
 
 void frmTack::MakeControls() {
@@ -240,6 +242,11 @@ void frmTack::ShowKind() {
 
 void frmTack::Steering(bool steering) {
   m_parts.TimerTack.Enabled(steering);
+  if (steering) {
+    m_parts.Main.TurnBegins();
+  } else {
+    m_parts.Main.TurnOver();
+  }
   txtHeading->setReadOnly(steering);
   for (QWidget* control :
        {static_cast<QWidget*>(cmdOk), static_cast<QWidget*>(txtOvershoot), static_cast<QWidget*>(txtRate)}) {
@@ -280,11 +287,8 @@ void frmTack::ShowNotes(const TurnNow& now) {
 }
 
 void frmTack::HelmChanged() {
-  const TurnNow now = m_parts.Now();
   if (!m_parts.TimerTack.Enabled()) {
-    ShowNotes(now);
-  } else if (const std::string why = TurnEnd(now.Helm); !why.empty()) {
-    TurnEnds(why);
+    ShowNotes(m_parts.Now());
   }
 }
 
@@ -340,6 +344,7 @@ void frmTack::Begin() {
   m_settings.Rate[kind] = LeadingNumber(txtRate->text().toStdString());
   m_turn.Start(TypedHeading(), m_settings.Overshoot[kind], m_settings.Rate[kind]);
   m_pace.Start(m_parts.Now().Helm.Sent);
+  m_stepped = m_parts.Time.Now().Steady;
   lblNote->clear();
   // A bar without a length would show a turn that never ends.
   ProgressBarTack->setRange(0, std::max(1, static_cast<int>(std::lround(std::fabs(m_turn.Change())))));
@@ -356,11 +361,9 @@ void frmTack::TimerTack_Timer() {
   if (!m_parts.TimerTack.Enabled()) {
     return;
   }
-  HelmChanged();
-  if (!m_parts.TimerTack.Enabled()) {
-    return;
-  }
-  const bool arrived = m_pace.Tick(m_turn, m_parts.Now().Helm.Sent);
+  const std::int64_t now = m_parts.Time.Now().Steady;
+  const double seconds = static_cast<double>(now - std::exchange(m_stepped, now)) / kMillisecondsPerSecond;
+  const bool arrived = m_pace.Step(m_turn, m_parts.Now().Helm.Sent, seconds);
   lblNote->setText(m_pace.Waiting() ? QStringLiteral("Waits: nothing leaves for the pilot") : QString());
   ShowProgress();
   txtHeading->setText(Text(FormatNumber(m_turn.Heading(), "0")));
@@ -371,20 +374,12 @@ void frmTack::TimerTack_Timer() {
   }
 }
 
-void frmTack::PilotTaken() {
-  if (m_parts.TimerTack.Enabled()) {
-    reject();
+void frmTack::OnTurnEnds(TurnFate why) {
+  if (why != TurnFate::Taken) {
+    m_pace.Halt(m_turn, m_parts.Now().Helm.Sent);
+    m_parts.Main.AutoPilotSet(m_turn.AutoPilot());
   }
-}
-
-void frmTack::TurnEnds(std::string_view why) {
-  if (!m_parts.TimerTack.Enabled()) {
-    return;
-  }
-  m_pace.Halt(m_turn, m_parts.Now().Helm.Sent);
-  m_parts.Main.AutoPilotSet(m_turn.AutoPilot());
   reject();
-  m_parts.Main.TurnEnded(why);
 }
 
 void frmTack::Unload() { TackStore(m_parts.Store, m_settings); }
@@ -407,6 +402,7 @@ bool frmTack::event(QEvent* event) {
 
 void frmTack::done(int result) {
   m_parts.TimerTack.Enabled(false);
+  m_parts.Main.TurnOver();
   QDialog::done(result);
 }
 

@@ -10,18 +10,19 @@
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
-#include <string_view>
 
+#include "control/Manoeuvre.h"
+#include "control/TurnPace.h"
 #include "helm/MainWindowApi.h"
+#include "platform/Clock.h"
 #include "platform/Profile.h"
 #include "platform/Timer.h"
-#include "tack/Manoeuvre.h"
 #include "tack/TackSettings.h"
 #include "tack/TurnGuard.h"
-#include "tack/TurnPace.h"
 #include "tack/TurnWords.h"
 
 namespace veerwatch {
@@ -37,10 +38,11 @@ struct TackParts {
   MainWindowApi& Main;
   Timer& TimerTack;  ///< ticks into TimerTack_Timer()
   Profile& Store;
+  const Clock& Time;
   std::function<TurnNow()> Now;
 };
 
-class frmTack final : public QDialog {
+class frmTack final : public QDialog, private HelmObserver {
  public:
   /// Makes the dialog, hidden, and reads its settings from the profile. `main` gets the keyboard back at the
   /// end of a turn.
@@ -54,18 +56,8 @@ class frmTack final : public QDialog {
   /// From now on the dialog is in front of `opener`, whatever is clicked.
   void StayInFrontOf(QWidget& opener);
 
-  /// Something about the helm may be another: shows whether a turn can begin, and ends one that cannot go on.
-  void HelmChanged();
-
-  /// One second of the turn; nothing while none runs.
+  /// A step of the turn, as long as the time since the one before; nothing while none runs.
   void TimerTack_Timer();
-
-  /// Somebody else has taken the pilot: a turn that runs ends here, with the bearing as it is.
-  void PilotTaken();
-
-  /// What carries a turn is gone: one that runs ends here, with the bearing that was sent last, and the main
-  /// window tells `why`.
-  void TurnEnds(std::string_view why);
 
   /// Sets the keys of "Tack Data" in the profile, which somebody else commits.
   void Unload();
@@ -78,6 +70,14 @@ class frmTack final : public QDialog {
   bool event(QEvent* event) override;
 
  private:
+  void OnTurnEnds(TurnFate why) override;
+  void OnTick() override { HelmChanged(); }
+  void OnTrackMode(TrackMode /*mode*/) override { HelmChanged(); }
+  void OnInputState(InputState /*state*/) override { HelmChanged(); }
+  void OnOutputState(OutputState /*state*/) override { HelmChanged(); }
+
+  /// Something about the helm may be another: shows whether a turn can begin.
+  void HelmChanged();
   void MakeControls();
   void ShowKind();
   /// What the turn of the present texts will do, and what is to be known before OK.
@@ -102,11 +102,13 @@ class frmTack final : public QDialog {
   TackSettings m_settings;
   Manoeuvre m_turn;
   TurnPace m_pace;
-  float m_newHeading = 0.0F;  ///< the heading that was asked for at the opening
-  TurnFrom m_from;            ///< as at the opening, or when it was filled anew
+  std::int64_t m_stepped = 0;  ///< when the turn began, or its latest step was made [ms of the steady clock]
+  float m_newHeading = 0.0F;   ///< the heading that was asked for at the opening
+  TurnFrom m_from;             ///< as at the opening, or when it was filled anew
   WindCrossing m_said = WindCrossing::None;
   std::string m_question;  ///< why OK has to be pressed once more
   std::string m_asked;     ///< the words of the turn that the user was asked about
+  HelmObservers::Membership m_told;
 
   QLabel* lblPrompt;
   QLabel* lblWords;

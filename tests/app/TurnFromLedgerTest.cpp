@@ -6,7 +6,7 @@
 
 #include "polar/CourseLedger.h"
 #include "polar/PolarFile.h"
-#include "tack/Manoeuvre.h"
+#include "control/Manoeuvre.h"
 #include "tack/TurnWords.h"
 
 namespace veerwatch {

@@ -7,7 +7,7 @@ namespace veerwatch {
 Passage::Passage(const BoatSettings& boat, double heading, std::uint64_t seed)
     : Boat(boat, heading, seed),
       Input(seed + 1),
-      m_helm(Set, NmeaPort, PilotPort, m_timer, m_clock, m_random, m_view) {
+      m_helm(Set, NmeaPort, PilotPort, m_timer, m_clock, m_random) {
   Set.m_iPilotPort = static_cast<std::int16_t>(Set.m_iNmeaPort + 1);
   Set.m_fAutoPilot = static_cast<float>(heading);
   m_timer.OnTick = [this] { m_helm.Tick(); };

@@ -44,7 +44,6 @@ class Passage {
  private:
   double Off(double apparent, double trueWind) const;
 
-  HelmView m_view;
   HandTimer m_timer;
   HandClock m_clock;
   FixedRandom m_random;

@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "control/TrackLoop.h"
-#include "tests/support/RecordingView.h"
-#include "tests/support/ScriptedPort.h"
 
 namespace veerwatch {
 namespace {
@@ -29,11 +27,7 @@ class SteeringChange : public testing::Test {
 
   Settings m_settings;
   InstrumentData m_data;
-  RecordingView m_view;
-  ScriptedPort m_nmeaPort;
-  ScriptedPort m_pilotPort;
-  PilotOutput m_pilot{m_settings, m_nmeaPort, m_pilotPort, m_view};
-  TrackLoop m_loop{m_settings, m_data, m_pilot, m_view};
+  TrackLoop m_loop{m_settings, m_data};
 };
 
 TEST_F(SteeringChange, BeginsWithAnEmptyAccumulator) {

@@ -17,25 +17,21 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class TrackModesTest : public testing::Test, private FollowUp {
+class TrackModesTest : public testing::Test {
  protected:
   TrackModesTest() { m_settings.m_iPilotPort = 6; }
 
   Settings m_settings;
   RecordingView m_view;
-  InstrumentRecord m_record{m_settings, m_view};
+  InstrumentRecord m_record{m_settings};
   ScriptedPort m_nmeaPort;
   ScriptedPort m_pilotPort;
   HandTimer m_timer;
   HandClock m_clock;
-  NmeaReceiver m_receiver{m_settings, m_nmeaPort, m_timer, m_clock, m_record, *this, m_view};
+  NmeaReceiver m_receiver{m_settings, m_nmeaPort, m_timer, m_clock, m_record, m_view};
   PilotOutput m_pilot{m_settings, m_nmeaPort, m_pilotPort, m_view};
-  TrackLoop m_loop{m_settings, m_record.Data(), m_pilot, m_view};
+  TrackLoop m_loop{m_settings, m_record.Data()};
   TrackModes m_modes{m_settings, m_receiver, m_pilot, m_loop, m_view};
-
- private:
-  void ControlStep(const Moment& /*now*/) override {}
-  void PolarUpdate() override {}
 };
 
 TEST_F(TrackModesTest, SetupStartsTheInputAndSeesToThePilotPort) {
@@ -44,7 +40,7 @@ TEST_F(TrackModesTest, SetupStartsTheInputAndSeesToThePilotPort) {
   EXPECT_TRUE(m_receiver.Started());
   EXPECT_TRUE(m_nmeaPort.PortOpen());
   EXPECT_TRUE(m_pilotPort.PortOpen());
-  EXPECT_EQ(m_view.Count("OnNmeaListCleared"), 1U);
+  EXPECT_EQ(m_view.Count("OnInputStarts"), 1U);
   EXPECT_THAT(m_view.Only({"OnTrackMode"}), ElementsAre("OnTrackMode 3"));
 }
 
@@ -137,10 +133,13 @@ TEST_F(TrackModesTest, WithoutUsableGainsTrackIsRefusedWithAReasonAndTheModeStay
     m_view.Take();
     m_modes.TrackSetTrack();
     EXPECT_EQ(m_settings.m_eTrackMode, TrackMode::Manual);
-    ASSERT_EQ(m_view.Count("OnTrackRefused"), 1U);
-    EXPECT_GT(m_view.Only({"OnTrackRefused"}).front().size(), std::string("OnTrackRefused ").size());
-    EXPECT_EQ(m_view.Only({"OnTrackMode", "OnTrackRefused"}).front(), "OnTrackMode 5");
+    EXPECT_THAT(m_view.Only({"OnTrackMode", "OnTrackRefused"}),
+                ElementsAre("OnTrackMode 5", "OnTrackRefused 0"));
   }
+}
+
+TEST(TrackRefusalText, SaysWhatTrackNeeds) {
+  EXPECT_EQ(TrackRefusalText(TrackRefusal::NoGains), "Track needs a bandwidth above 0 and a usable damping");
 }
 
 TEST_F(TrackModesTest, LeavingTrackWithdrawsAnAlarmThatShows) {
@@ -149,8 +148,8 @@ TEST_F(TrackModesTest, LeavingTrackWithdrawsAnAlarmThatShows) {
                              Switch{&TrackModes::TrackSetManual}}) {
     m_modes.TrackSetTrack();
     m_record.WindApparentUpdate(m_settings.DesiredAngle[1] + 20.0F, 12.0F, false, kOrigin);
-    m_loop.ControlStep(kOrigin.At);
-    ASSERT_EQ(m_view.Count("OnAlarm"), 1U);
+    ASSERT_EQ(m_loop.ControlStep(kOrigin.At).Rings, LoopStep::Alarm::Raised);
+    ASSERT_EQ(m_view.Count("OnAlarmOver"), 0U);
     (m_modes.*leave)();
     EXPECT_EQ(m_view.Count("OnAlarmOver"), 1U);
     m_view.Take();

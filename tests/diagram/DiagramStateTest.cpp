@@ -6,20 +6,19 @@ namespace veerwatch {
 namespace {
 
 TEST(DiagramState, TheInputIsAliveSilentSimulatedOrStopped) {
-  const auto input = [](std::string_view text, bool open) {
-    return DiagramStateOf({text, open, TrackMode::Setup, false, true}).Input;
+  const auto input = [](InputState state, bool open) {
+    return DiagramStateOf({state, open, TrackMode::Setup, false, true}).Input;
   };
-  EXPECT_EQ(input("Running", true), (DiagramBoxState{DiagramLight::Good, "Running"}));
-  EXPECT_EQ(input("Running", false), (DiagramBoxState{DiagramLight::Trouble, "Not Open"}));
-  EXPECT_EQ(input("No Input Data", true), (DiagramBoxState{DiagramLight::Trouble, "No Input Data"}));
-  EXPECT_EQ(input("Simulate", false), (DiagramBoxState{DiagramLight::Ready, "Simulate"}));
-  EXPECT_EQ(input("Stopped", false), (DiagramBoxState{DiagramLight::Off, "Stopped"}));
-  EXPECT_EQ(input("", false), (DiagramBoxState{DiagramLight::Off, "Stopped"}));
+  EXPECT_EQ(input(InputState::Running, true), (DiagramBoxState{DiagramLight::Good, "Running"}));
+  EXPECT_EQ(input(InputState::Running, false), (DiagramBoxState{DiagramLight::Trouble, "Not Open"}));
+  EXPECT_EQ(input(InputState::NoData, true), (DiagramBoxState{DiagramLight::Trouble, "No Input Data"}));
+  EXPECT_EQ(input(InputState::Simulate, false), (DiagramBoxState{DiagramLight::Ready, "Simulate"}));
+  EXPECT_EQ(input(InputState::Stopped, false), (DiagramBoxState{DiagramLight::Off, "Stopped"}));
 }
 
 TEST(DiagramState, TheControlLoopShowsTheMode) {
   const auto control = [](TrackMode mode) {
-    return DiagramStateOf({"Running", true, mode, false, true}).Control;
+    return DiagramStateOf({InputState::Running, true, mode, false, true}).Control;
   };
   EXPECT_EQ(control(TrackMode::Off), (DiagramBoxState{DiagramLight::Off, "Off"}));
   EXPECT_EQ(control(TrackMode::Switching), (DiagramBoxState{DiagramLight::Off, "Off"}));
@@ -30,7 +29,7 @@ TEST(DiagramState, TheControlLoopShowsTheMode) {
 
 TEST(DiagramState, TheOutputIsOpenOrNotOutsideOfOff) {
   const auto output = [](TrackMode mode, bool simulate, bool open) {
-    return DiagramStateOf({"Running", true, mode, simulate, open}).Output;
+    return DiagramStateOf({InputState::Running, true, mode, simulate, open}).Output;
   };
   for (const TrackMode mode : {TrackMode::Setup, TrackMode::Manual, TrackMode::Track}) {
     EXPECT_EQ(output(mode, false, true), (DiagramBoxState{DiagramLight::Good, "Open"}));

@@ -44,7 +44,7 @@ void DemandPilotSentence(std::string_view sentence) {
 }
 
 /// Everything that is told is a number that somebody sees.
-class NumberView final : public HelmView {
+class NumberView final : public HelmObserver {
  public:
   void OnHeading(float heading) override { Show(heading); }
   void OnBoatSpeed(float speed) override { Show(speed); }
@@ -61,8 +61,8 @@ class NumberView final : public HelmView {
     Show(error);
     alarms.Reach();
   }
-  void OnNmeaError(std::string_view text) override {
-    if (text.size() > LineFramer::kLongestLine) {
+  void OnNmeaLine(std::string_view line, LineFault fault, bool /*used*/) override {
+    if (fault != LineFault::None && line.size() >= LineFramer::kLongestLine) {
       cuts.Reach();
     }
   }
@@ -85,7 +85,7 @@ bool Change(Helm& helm, unsigned number) {
       helm.Modes().TrackSetManual();
       break;
     case 1:
-      helm.Loop().TrackSteerTo((number & 1U) != 0 ? 1.0F : -10.0F);
+      helm.TrackSteerTo((number & 1U) != 0 ? 1.0F : -10.0F);
       break;
     case 2:
       helm.Modes().TrackSetTrack();
@@ -213,7 +213,8 @@ class Rig {
   HandTimer m_timer;
   HandClock m_clock;
   FixedRandom m_random;
-  Helm m_helm{m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random, m_view};
+  Helm m_helm{m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random};
+  HelmObservers::Membership m_told = m_helm.Observers().Join(m_view);
 };
 
 /// What a stream brings again takes no more memory.

@@ -1,49 +1,9 @@
-#include "helm/Helm.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <string>
-#include <string_view>
-
-#include "tests/support/FixedRandom.h"
-#include "tests/support/HandClock.h"
-#include "tests/support/HandTimer.h"
-#include "tests/support/RecordingView.h"
-#include "tests/support/ScriptedPort.h"
-#include "tests/support/Sentences.h"
+#include "tests/helm/HelmFixture.h"
 
 namespace veerwatch {
 namespace {
 
 using testing::ElementsAre;
-
-class HelmTest : public testing::Test {
- protected:
-  HelmTest() {
-    m_settings.m_iPilotPort = 6;
-    m_settings.m_fNmeaTrueWindAverage = 0.0F;
-    m_settings.m_fTrackBandwidth = 8.0F;
-    m_settings.m_fTrackDamping = 0.5F;  // both gains 0.25
-    m_timer.OnTick = [this] { m_helm.Tick(); };
-  }
-
-  void Receive(std::string_view body) { m_nmeaPort.Receive(WithChecksum(body) + "\r\n"); }
-
-  static std::string Sentence(const std::string& bearing) {
-    return WithChecksum("$ECAPB,A,A,0.00,R,N,V,V," + bearing + ",M,1," + bearing + ",M," + bearing + ",M") +
-           "\r\n";
-  }
-
-  Settings m_settings;
-  RecordingView m_view;
-  ScriptedPort m_nmeaPort;
-  ScriptedPort m_pilotPort;
-  HandTimer m_timer;
-  HandClock m_clock;
-  FixedRandom m_random;
-  Helm m_helm{m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random, m_view};
-};
 
 TEST_F(HelmTest, TurnsAWindSentenceIntoAHeadingForTheAutopilot) {
   m_settings.m_fAutoPilot = 100.0F;
@@ -54,12 +14,12 @@ TEST_F(HelmTest, TurnsAWindSentenceIntoAHeadingForTheAutopilot) {
   EXPECT_EQ(m_pilotPort.TakeWritten(), "");
   m_helm.Modes().TrackSetManual();
   Receive("$IIMWV,045,R,14.0,N,A");
-  EXPECT_EQ(m_pilotPort.TakeWritten(), Sentence("100.0"));
+  EXPECT_EQ(m_pilotPort.TakeWritten(), Sentence("100.0") + "\r\n");
   m_helm.Modes().TrackSetTrack();
   Receive("$IIMWV,053,R,14.0,N,A");  // 8 degrees too far off the bow: a quarter of it to starboard
-  EXPECT_EQ(m_pilotPort.TakeWritten(), Sentence("102.0"));
+  EXPECT_EQ(m_pilotPort.TakeWritten(), Sentence("102.0") + "\r\n");
   Receive("$IIMWV,053,R,14.0,N,A");  // a quarter of 8 and of the accumulated 2
-  EXPECT_EQ(m_pilotPort.TakeWritten(), Sentence("104.5"));
+  EXPECT_EQ(m_pilotPort.TakeWritten(), Sentence("104.5") + "\r\n");
 }
 
 TEST_F(HelmTest, NothingIsSentWithoutATrueWind) {
@@ -75,11 +35,11 @@ TEST_F(HelmTest, OnePortServesBothWaysWithEqualNumbers) {
   m_helm.Modes().TrackSetManual();
   Receive("$GPVTG,,T,123.0,M,6.0,N,,K");
   Receive("$IIMWV,045,R,14.0,N,A");
-  EXPECT_EQ(m_nmeaPort.TakeWritten(), Sentence("040.0"));
+  EXPECT_EQ(m_nmeaPort.TakeWritten(), Sentence("040.0") + "\r\n");
   EXPECT_TRUE(m_pilotPort.OpenedNumbers.empty());
 }
 
-TEST_F(HelmTest, ThePolarUpdateCarriesTheModeAndComesBehindTheControlStep) {
+TEST_F(HelmTest, ThePolarUpdateCarriesTheModeAndComesAfterTheControlStep) {
   m_helm.Modes().TrackSetSetup();
   m_helm.Modes().TrackSetManual();
   Receive("$GPVTG,,T,123.0,M,6.0,N,,K");

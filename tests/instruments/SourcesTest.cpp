@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "instruments/SourceChoice.h"
-#include "tests/support/RecordingView.h"
 
 namespace veerwatch {
 namespace {
@@ -62,14 +61,14 @@ class Sources : public testing::Test {
   }
 
   Settings m_settings;
-  RecordingView m_view;
-  InstrumentRecord m_record{m_settings, m_view};
+  InstrumentRecord m_record{m_settings};
   SourceChoice m_choice{m_settings, m_record};
 };
 
 TEST_F(Sources, AValueThatNeverCameHasNoAge) {
-  for (const RecordValue value : {RecordValue::Heading, RecordValue::BoatSpeed, RecordValue::Variation,
-                                  RecordValue::Waypoint, RecordValue::WindApparent, RecordValue::WindTrue}) {
+  for (const RecordValue value :
+       {RecordValue::Heading, RecordValue::BoatSpeed, RecordValue::Variation, RecordValue::Waypoint,
+        RecordValue::WindApparent, RecordValue::WindTrue, RecordValue::WindIndicator}) {
     EXPECT_EQ(Age(value, 5000), std::nullopt);
     EXPECT_EQ(SentenceOf(value), "none");
   }
@@ -98,6 +97,16 @@ TEST_F(Sources, AComputedTrueWindIsAsOldAsTheWindThatItComesFrom) {
   EXPECT_EQ(Age(RecordValue::WindTrue, 2500), 500);
   EXPECT_EQ(SentenceOf(RecordValue::WindTrue), "MWV");
   EXPECT_EQ(Age(RecordValue::WindApparent, 2500), 500);
+}
+
+TEST_F(Sources, AWindIndicatorIsAsOldAsTheTrueWindThatItComesFrom) {
+  m_settings.m_iNmeaTrueWind = 0;
+  Bring("$WIMWV", 2000, {{Quantity::TrueWindAngle, 40.0F}, {Quantity::TrueWindSpeed, 12.0F}});
+  m_record.WindIndicatorUpdate();
+  EXPECT_EQ(Age(RecordValue::WindIndicator, 2500), 500);
+  EXPECT_EQ(SentenceOf(RecordValue::WindIndicator), "MWV");
+  m_record.Restart();
+  EXPECT_EQ(Age(RecordValue::WindIndicator, 2500), std::nullopt);
 }
 
 TEST_F(Sources, WhatTheSettingsDoNotChooseIsNoSource) {

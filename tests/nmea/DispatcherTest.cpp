@@ -1,6 +1,5 @@
 #include "nmea/Dispatcher.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,15 +9,12 @@
 #include <vector>
 
 #include "tests/support/Origins.h"
+#include "tests/support/RecordChanges.h"
 #include "tests/support/RecordFault.h"
-#include "tests/support/RecordingView.h"
 #include "tests/support/Sentences.h"
 
 namespace veerwatch {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 class DispatcherTest : public testing::Test {
  protected:
@@ -31,8 +27,7 @@ class DispatcherTest : public testing::Test {
   const InstrumentData& Data() const { return m_record.Data(); }
 
   Settings m_settings;
-  RecordingView m_view;
-  InstrumentRecord m_record{m_settings, m_view};
+  InstrumentRecord m_record{m_settings};
   Dispatcher m_dispatcher{m_settings, m_record};
 };
 
@@ -330,13 +325,13 @@ TEST_F(DispatcherTest, EachTypeHasItsOwnSwitch) {
     m_record.VariationUpdate(0.0F, kOrigin);
     m_settings.m_iNmeaHeading = c.Body == kVtg ? 1 : 0;
     ASSERT_TRUE(Used(c.Body)) << c.Body;
-    m_view.Take();
+    m_record.ForgetChanges();
     m_settings.*c.Switch = false;
     const Dispatcher::Outcome outcome = Dispatch(c.Body);
     EXPECT_FALSE(outcome.Used) << c.Body;
     EXPECT_FALSE(outcome.Incomplete) << c.Body;
     EXPECT_FALSE(outcome.WindSentence) << c.Body;
-    EXPECT_THAT(m_view.Calls, IsEmpty()) << c.Body;
+    EXPECT_EQ(TakeChanges(m_record), "") << c.Body;
     m_settings.*c.Switch = true;
     EXPECT_TRUE(Used(c.Body)) << c.Body;
   }
@@ -361,7 +356,7 @@ TEST_F(DispatcherTest, AnotherTypeChangesNothing) {
     EXPECT_FALSE(outcome.Incomplete) << body;
     EXPECT_FALSE(outcome.WindSentence) << body;
   }
-  EXPECT_THAT(m_view.Calls, IsEmpty());
+  EXPECT_EQ(TakeChanges(m_record), "");
 }
 
 TEST_F(DispatcherTest, ACommaAtAnotherPlaceThanTheSeventhIsIncomplete) {
@@ -385,8 +380,9 @@ TEST_F(DispatcherTest, TheLastSourceOfAVariationCounts) {
 TEST_F(DispatcherTest, AHeadingFromTheCompassIsOverwrittenByTheNextSource) {
   m_settings.m_iNmeaHeading = 0;
   Dispatch(kHdg);
+  EXPECT_EQ(Data().Heading, 123.4F);
   Dispatch(kVhw);
-  EXPECT_THAT(m_view.Only({"OnHeading"}), ElementsAre("OnHeading 123.4", "OnHeading 123.5"));
+  EXPECT_EQ(Data().Heading, 123.5F);
 }
 
 // --- Damage
@@ -398,15 +394,15 @@ class DamagedSentence : public DispatcherTest, public testing::WithParamInterfac
     m_settings.m_fNmeaTrueWindAverage = 2.0F;
     m_record.VariationUpdate(2.0F, kOrigin);
     m_record.BoatSpeedUpdate(6.0F, kOrigin);
-    m_view.Take();
+    m_record.ForgetChanges();
   }
 
   // Straight to the decoders, as a line without a checksum would come.
   void DispatchRaw(const std::string& line) {
     const Dispatcher::Outcome outcome = m_dispatcher.Dispatch(line, 5, kOrigin.At);
     ASSERT_EQ(RecordFault(Data()), "") << line;
-    ASSERT_TRUE(outcome.Used || m_view.Calls.empty()) << line;
-    m_view.Take();
+    const std::string changes = TakeChanges(m_record);
+    ASSERT_TRUE(outcome.Used || changes.empty()) << line << " changes " << changes;
   }
 };
 

@@ -18,7 +18,7 @@
 
 namespace veerwatch {
 
-class NmeaReceiverTest : public testing::Test, private FollowUp {
+class NmeaReceiverTest : public testing::Test {
  protected:
   NmeaReceiverTest() {
     m_settings.m_fNmeaTrueWindAverage = 0.0F;
@@ -47,19 +47,15 @@ class NmeaReceiverTest : public testing::Test, private FollowUp {
 
   Settings m_settings;
   RecordingView m_view;
-  InstrumentRecord m_record{m_settings, m_view};
+  InstrumentRecord m_record{m_settings};
   ScriptedPort m_port;
   HandTimer m_timer;
   HandClock m_clock;
-  NmeaReceiver m_receiver{m_settings, m_port, m_timer, m_clock, m_record, *this, m_view};
+  NmeaReceiver m_receiver{m_settings, m_port, m_timer, m_clock, m_record, m_view};
 
   void SetUp() override {
     m_timer.OnTick = [this] { m_receiver.Tick(); };
   }
-
- private:
-  void ControlStep(const Moment& /*now*/) override { m_view.Calls.emplace_back("ControlStep"); }
-  void PolarUpdate() override { m_view.Calls.emplace_back("PolarUpdate"); }
 };
 
 inline constexpr std::string_view kApparent = "$IIMWV,045,R,10.5,N,A";

@@ -28,14 +28,13 @@ TEST_F(NmeaReceiverTest, StartsTheTimerAndOpensThePortWithItsPresentNumber) {
   EXPECT_EQ(m_view.InputState, "Running");
 }
 
-TEST_F(NmeaReceiverTest, AStartClearsTheListAndTheRecordsFlags) {
+TEST_F(NmeaReceiverTest, AStartIsToldOnceAndClearsTheRecordsFlags) {
   m_record.HeadingUpdate(10.0F, kOrigin);
   m_record.BoatSpeedUpdate(10.0F, kOrigin);
   m_record.VariationUpdate(3.0F, kOrigin);
   m_view.Take();
   m_receiver.NmeaStart();
-  EXPECT_EQ(m_view.Count("OnNmeaListCleared"), 1U);
-  EXPECT_EQ(m_view.Count("OnValuesBlanked"), 1U);
+  EXPECT_EQ(m_view.Count("OnInputStarts"), 1U);
   EXPECT_FALSE(Data().HeadingValid);
   EXPECT_FALSE(Data().BoatSpeedValid);
   EXPECT_TRUE(Data().VariationValid);
@@ -90,7 +89,7 @@ TEST_F(NmeaReceiverTest, AGoodSentenceIsUsedAndListed) {
   Start();
   ReceiveSentence(kApparent);
   EXPECT_EQ(Data().WindAngleApparent, 45.0F);
-  EXPECT_EQ(m_view.Calls.back(), "OnNmeaData " + WithChecksum(kApparent) + " used");
+  EXPECT_EQ(m_view.Calls.back(), "OnNmeaLine " + WithChecksum(kApparent) + " used");
   EXPECT_EQ(m_view.Count("OnNmeaError"), 0U);
   EXPECT_EQ(m_view.InputStatus, "");
 }
@@ -108,7 +107,7 @@ TEST_F(NmeaReceiverTest, TheSameSentenceWithItsChecksumInLowerCaseIsAChecksumErr
   Receive(line + "\r");
   EXPECT_FALSE(Data().WindApparentValid);
   EXPECT_THAT(m_view.Calls,
-              ElementsAre("OnInputStatus Checksum Error", "OnNmeaData " + line + " <<Checksum Error>> unused",
+              ElementsAre("OnInputStatus Checksum Error", "OnNmeaLine " + line + " <<Checksum Error>> unused",
                           "OnNmeaError Checksum Error - " + line));
 }
 
@@ -116,7 +115,7 @@ TEST_F(NmeaReceiverTest, ALineWithoutADollarIsASentenceError) {
   Start();
   Receive("IIMWV,045,R,10.5,N,A\r\n");
   EXPECT_THAT(m_view.Calls, ElementsAre("OnInputStatus Sentence Error",
-                                        "OnNmeaData IIMWV,045,R,10.5,N,A <<Sentence Error>> unused",
+                                        "OnNmeaLine IIMWV,045,R,10.5,N,A <<Sentence Error>> unused",
                                         "OnNmeaError Sentence Error - IIMWV,045,R,10.5,N,A"));
   EXPECT_FALSE(Data().WindApparentValid);
 }
@@ -125,7 +124,7 @@ TEST_F(NmeaReceiverTest, AnEmptyLineIsASentenceError) {
   Start();
   Receive("\r");
   EXPECT_THAT(m_view.Calls,
-              ElementsAre("OnInputStatus Sentence Error", "OnNmeaData  <<Sentence Error>> unused",
+              ElementsAre("OnInputStatus Sentence Error", "OnNmeaLine  <<Sentence Error>> unused",
                           "OnNmeaError Sentence Error - "));
 }
 
@@ -133,7 +132,7 @@ TEST_F(NmeaReceiverTest, AWrongChecksumIsAChecksumError) {
   Start();
   Receive("$IIMWV,045,R,10.5,N,A*00\r");
   EXPECT_THAT(m_view.Calls, ElementsAre("OnInputStatus Checksum Error",
-                                        "OnNmeaData $IIMWV,045,R,10.5,N,A*00 <<Checksum Error>> unused",
+                                        "OnNmeaLine $IIMWV,045,R,10.5,N,A*00 <<Checksum Error>> unused",
                                         "OnNmeaError Checksum Error - $IIMWV,045,R,10.5,N,A*00"));
 }
 
@@ -143,13 +142,14 @@ TEST_F(NmeaReceiverTest, ALineWithoutAChecksumIsAccepted) {
   EXPECT_TRUE(Data().WindApparentValid);
 }
 
-TEST_F(NmeaReceiverTest, ADecodeErrorComesBeforeTheListingAndLeavesThePanelAlone) {
+TEST_F(NmeaReceiverTest, ADecodeErrorIsToldWithItsLineAndLeavesThePanelAlone) {
   Start();
   m_settings.m_iNmeaHeading = 0;
   const std::string line = WithChecksum("$IIHDG,123.4,,,,");
   Receive(line + "\r");
-  EXPECT_THAT(m_view.Calls, ElementsAre("OnHeading 123.4", "OnNmeaError Decode Error - " + line,
-                                        "OnNmeaData " + line + " used"));
+  EXPECT_THAT(m_view.Calls,
+              ElementsAre("OnNmeaLine " + line + " used", "OnNmeaError Decode Error - " + line));
+  EXPECT_EQ(Data().Heading, 123.4F);
   EXPECT_EQ(m_view.InputStatus, "");
 }
 
@@ -157,26 +157,26 @@ TEST_F(NmeaReceiverTest, AFirstCommaAtAnotherPlaceIsADecodeError) {
   Start();
   Receive("$IIHDG5,123.4,,,5.0,W\r");
   EXPECT_EQ(m_view.Count("OnNmeaError"), 1U);
-  EXPECT_EQ(m_view.Calls.front(), "OnNmeaError Decode Error - $IIHDG5,123.4,,,5.0,W");
+  EXPECT_EQ(m_view.Calls.back(), "OnNmeaError Decode Error - $IIHDG5,123.4,,,5.0,W");
 }
 
 TEST_F(NmeaReceiverTest, AnotherTypeIsOnlyListed) {
   Start();
   Receive("$PGRME,15.0,M,45.0,M,25.0,M\r");
-  EXPECT_THAT(m_view.Calls, ElementsAre("OnNmeaData $PGRME,15.0,M,45.0,M,25.0,M unused"));
+  EXPECT_THAT(m_view.Calls, ElementsAre("OnNmeaLine $PGRME,15.0,M,45.0,M,25.0,M unused"));
 }
 
 TEST_F(NmeaReceiverTest, AWindInAnotherUnitIsListedAsNotUsedWithoutAnError) {
   Start();
   Receive("$IIMWV,045,R,10.5,K,A\r");
-  EXPECT_THAT(m_view.Calls, ElementsAre("OnNmeaData $IIMWV,045,R,10.5,K,A unused"));
+  EXPECT_THAT(m_view.Calls, ElementsAre("OnNmeaLine $IIMWV,045,R,10.5,K,A unused"));
 }
 
 TEST_F(NmeaReceiverTest, AVariationAloneCountsAsUse) {
   Start();
   const std::string line = WithChecksum("$IIHVM,5.0,W");
   Receive(line + "\r");
-  EXPECT_THAT(m_view.Calls, ElementsAre("OnNmeaData " + line + " used"));
+  EXPECT_THAT(m_view.Calls, ElementsAre("OnNmeaLine " + line + " used"));
 }
 
 TEST_F(NmeaReceiverTest, ALineSplitAcrossEventsIsJoinedAndSeveralInOneEventAreTaken) {
@@ -184,16 +184,16 @@ TEST_F(NmeaReceiverTest, ALineSplitAcrossEventsIsJoinedAndSeveralInOneEventAreTa
   const std::string line = WithChecksum(kApparent);
   Receive(line.substr(0, 9));
   Receive(line.substr(9));
-  EXPECT_EQ(m_view.Count("OnNmeaData"), 0U);
+  EXPECT_EQ(m_view.Count("OnNmeaLine"), 0U);
   Receive("\r\n" + line + "\r" + line + "\n\r" + line.substr(0, 3));
-  EXPECT_EQ(m_view.Count("OnNmeaData"), 3U);
+  EXPECT_EQ(m_view.Count("OnNmeaLine"), 3U);
   EXPECT_EQ(m_receiver.LineBuffer(), line.substr(0, 3));
 }
 
 TEST_F(NmeaReceiverTest, ALineFeedAloneNeverEndsALine) {
   Start();
   Receive(WithChecksum(kApparent) + "\n");
-  EXPECT_EQ(m_view.Count("OnNmeaData"), 0U);
+  EXPECT_EQ(m_view.Count("OnNmeaLine"), 0U);
 }
 
 TEST_F(NmeaReceiverTest, ALineThatIsTooLongIsOneSentenceErrorAndTheRestUpToItsEndIsDropped) {
@@ -205,7 +205,7 @@ TEST_F(NmeaReceiverTest, ALineThatIsTooLongIsOneSentenceErrorAndTheRestUpToItsEn
     ASSERT_LE(m_receiver.LineBuffer().size(), 4096U);
   }
   Receive("\r");
-  EXPECT_EQ(m_view.Count("OnNmeaData"), 1U);
+  EXPECT_EQ(m_view.Count("OnNmeaLine"), 1U);
   EXPECT_EQ(m_view.Count("OnNmeaError"), 1U);
   EXPECT_EQ(m_view.Only({"OnNmeaError"}).front(), "OnNmeaError Sentence Error - " + kept);
   m_view.Take();
@@ -267,13 +267,13 @@ TEST_F(NmeaReceiverTest, AnEventWhileReceivingIsDroppedAndItsCharactersAreReadWi
   bool receivingSeen = false;
   std::size_t linesMeanwhile = 0;
   bool once = true;
-  m_view.DuringNmeaData = [&] {
+  m_view.DuringNmeaLine = [&] {
     receivingSeen = m_receiver.Receiving();
     if (once) {
       once = false;
-      const std::size_t before = m_view.Count("OnNmeaData");
+      const std::size_t before = m_view.Count("OnNmeaLine");
       Receive("$PXXX,second\r");
-      linesMeanwhile = m_view.Count("OnNmeaData") - before;
+      linesMeanwhile = m_view.Count("OnNmeaLine") - before;
     }
   };
   Receive("$PXXX,first\r");
@@ -282,15 +282,15 @@ TEST_F(NmeaReceiverTest, AnEventWhileReceivingIsDroppedAndItsCharactersAreReadWi
   EXPECT_FALSE(m_receiver.Receiving());
   EXPECT_EQ(m_port.Waiting, "$PXXX,second\r");
   Receive("$PXXX,third\r");
-  EXPECT_THAT(m_view.Only({"OnNmeaData"}),
-              ElementsAre("OnNmeaData $PXXX,first unused", "OnNmeaData $PXXX,second unused",
-                          "OnNmeaData $PXXX,third unused"));
+  EXPECT_THAT(m_view.Only({"OnNmeaLine"}),
+              ElementsAre("OnNmeaLine $PXXX,first unused", "OnNmeaLine $PXXX,second unused",
+                          "OnNmeaLine $PXXX,third unused"));
 }
 
 TEST_F(NmeaReceiverTest, ADroppedEventDoesNotBlankThePanel) {
   Start();
-  m_view.DuringNmeaData = [&] {
-    m_view.DuringNmeaData = nullptr;
+  m_view.DuringNmeaLine = [&] {
+    m_view.DuringNmeaLine = nullptr;
     Receive("x");
   };
   Receive("bad\r");
@@ -301,7 +301,7 @@ TEST_F(NmeaReceiverTest, ADroppedEventStillCountsAsData) {
   Start();
   m_timer.Tick(3);
   bool once = true;
-  m_view.DuringNmeaData = [&] {
+  m_view.DuringNmeaLine = [&] {
     if (once) {
       once = false;
       m_timer.Tick(3);  // three seconds pass inside of the event
@@ -314,7 +314,7 @@ TEST_F(NmeaReceiverTest, ADroppedEventStillCountsAsData) {
 
 TEST_F(NmeaReceiverTest, AStopFromInsideALineIsTaken) {
   Start();
-  m_view.DuringNmeaData = [&] { m_receiver.NmeaStop(); };
+  m_view.DuringNmeaLine = [&] { m_receiver.NmeaStop(); };
   Receive("$PXXX,first\r$PXXX,second\r");
   EXPECT_FALSE(m_receiver.Started());
   EXPECT_FALSE(m_receiver.Receiving());
@@ -341,7 +341,7 @@ TEST_F(NmeaReceiverTest, EveryTruncationAndEveryDamagedByteOfAGoodSentenceIsSurv
       m_view.Take();
       Receive(line.substr(0, at) + "\r");
       ASSERT_EQ(RecordFault(Data()), "");
-      ASSERT_EQ(m_view.Count("OnNmeaData"), 1U);
+      ASSERT_EQ(m_view.Count("OnNmeaLine"), 1U);
       for (int byte = 0; byte < 256; byte += 5) {
         std::string damaged = line;
         damaged[at] = static_cast<char>(byte);

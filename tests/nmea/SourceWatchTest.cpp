@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "nmea/Dispatcher.h"
-#include "tests/support/RecordingView.h"
 #include "tests/support/Sentences.h"
 
 namespace veerwatch {
@@ -28,8 +27,7 @@ class SourceWatchTest : public testing::Test {
   const WindCounts& Winds() { return m_dispatcher.Sources().Winds(); }
 
   Settings m_settings;
-  RecordingView m_view;
-  InstrumentRecord m_record{m_settings, m_view};
+  InstrumentRecord m_record{m_settings};
   Dispatcher m_dispatcher{m_settings, m_record};
 };
 

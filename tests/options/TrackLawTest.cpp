@@ -9,8 +9,6 @@
 #include "control/TrackLoop.h"
 #include "options/TrackResponse.h"
 #include "tests/support/FixedRandom.h"
-#include "tests/support/RecordingView.h"
-#include "tests/support/ScriptedPort.h"
 
 namespace veerwatch {
 namespace {
@@ -24,11 +22,7 @@ std::vector<double> Steered(float bandwidth, float damping, float offset, std::s
   settings.m_fAutoPilot = offset;
   settings.DesiredAngle[2] = 0.0F;
   InstrumentData data;
-  RecordingView view;
-  ScriptedPort nmeaPort;
-  ScriptedPort pilotPort;
-  PilotOutput pilot(settings, nmeaPort, pilotPort, view);
-  TrackLoop loop(settings, data, pilot, view);
+  TrackLoop loop(settings, data);
   loop.Side(TrackSide::True);
   EXPECT_TRUE(loop.StartTracking());
   settings.m_eTrackMode = TrackMode::Track;

@@ -1,5 +1,5 @@
 // Timed turns of the autopilot, turned and seen in a mirror.
-#include "tack/Manoeuvre.h"
+#include "control/Manoeuvre.h"
 
 #include <gtest/gtest.h>
 
@@ -67,7 +67,7 @@ Course Sail(const Question& question) {
   bool done = false;
   course.Seconds.push_back({turn.Progress(), turn.Heading(), turn.AutoPilot()});
   while (!done && course.Seconds.size() < 1000) {
-    done = turn.Tick();
+    done = turn.Step(1.0);
     course.Seconds.push_back({turn.Progress(), turn.Heading(), turn.AutoPilot()});
   }
   EXPECT_TRUE(done);

@@ -35,7 +35,7 @@ Settings RandomSettings(Dice& dice) {
 }
 
 /// Keeps what the labels show.
-class Labels final : public HelmView {
+class Labels final : public HelmObserver {
  public:
   SceneAnswer Shown;
 
@@ -167,7 +167,7 @@ void Act(const SceneStep& step, const Seen& seen, Helm& helm) {
       helm.Loop().Side(TrackSide::True);
       break;
     case What::SteerTo:
-      helm.Loop().TrackSteerTo(static_cast<float>(seen.Relative()));
+      helm.TrackSteerTo(static_cast<float>(seen.Relative()));
       break;
     case What::AutoPilot:
       helm.Loop().SetAutoPilot(seen.Magnetic());
@@ -243,7 +243,8 @@ std::vector<SceneAnswer> Play(const Scene& scene, const SceneView& view) {
   HandClock clock;
   FixedRandom random;
   Labels labels;
-  Helm helm(settings, nmeaPort, pilotPort, timer, clock, random, labels);
+  Helm helm(settings, nmeaPort, pilotPort, timer, clock, random);
+  const auto shows = helm.Observers().Join(labels);
 
   std::vector<SceneAnswer> answers;
   for (const SceneStep& step : scene.Steps) {

@@ -145,13 +145,12 @@ TEST_F(AnySentence, EveryTypeReachesTheRecord) {
   Settings settings;
   settings.m_fNmeaTrueWindAverage = 0.0F;
   settings.m_iNmeaTrueWind = 0;
-  HelmView view;
   ScriptedPort port;
   ScriptedPort pilotPort;
   HandTimer timer;
   HandClock clock;
   FixedRandom random;
-  Helm helm(settings, port, pilotPort, timer, clock, random, view);
+  Helm helm(settings, port, pilotPort, timer, clock, random);
   helm.Modes().TrackSetSetup();
   const InstrumentData& data = helm.Data();
   const auto receive = [&](const std::string& line) { port.Receive(line + "\r\n"); };

@@ -87,13 +87,12 @@ class AnyWindOnTheWire : public AnyWind {
   }
 
   Settings m_settings;
-  HelmView m_view;
   ScriptedPort m_port;
   ScriptedPort m_pilotPort;
   HandTimer m_timer;
   HandClock m_clock;
   FixedRandom m_random;
-  Helm m_helm{m_settings, m_port, m_pilotPort, m_timer, m_clock, m_random, m_view};
+  Helm m_helm{m_settings, m_port, m_pilotPort, m_timer, m_clock, m_random};
 };
 
 TEST_F(AnyWindOnTheWire, TheRecordFindsTheTrueWindBehindAnApparentOne) {

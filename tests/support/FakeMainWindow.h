@@ -13,6 +13,8 @@ class FakeMainWindow final : public MainWindowApi {
  public:
   std::vector<std::string> Calls;    ///< with the ports and the simulator at the moment of the call
   std::vector<float> SimulateTimes;  ///< times that SimulateTime was asked for [h]
+  HelmObservers Tells;               ///< whom the helm tells
+  HelmNow Answer;                    ///< what the helm does
   float WaypointBearing = 77.0F;     ///< what SimulateTime answers
   float WaypointRange = 6.25F;
 
@@ -28,9 +30,11 @@ class FakeMainWindow final : public MainWindowApi {
     timeWaypointRange = WaypointRange;
   }
   void TrackSteerTo(float /*change*/) override {}
+  void TurnBegins() override {}
+  void TurnOver() override {}
   void AutoPilotSet(float /*bearing*/) override {}
-  HelmNow Now() const override { return {}; }
-  void TurnEnded(std::string_view /*why*/) override {}
+  HelmObservers& Observers() override { return Tells; }
+  HelmNow Now() const override { return Answer; }
   void TrackSetOff() override { Note("Off"); }
   void TrackSetSetup() override { Note("Setup"); }
   void TrackSetManual() override { Note("Manual"); }

@@ -1,4 +1,4 @@
-// A helm's view that keeps every call as a line of text.
+// Keeps all that a helm tells, or a receiver, a pilot output or the modes alone, as lines of text.
 #pragma once
 
 #include <algorithm>
@@ -9,12 +9,18 @@
 #include <utility>
 #include <vector>
 
-#include "helm/Helm.h"
+#include "control/TrackModes.h"
+#include "helm/HelmObserver.h"
+#include "nmea/NmeaReceiver.h"
+#include "pilot/PilotOutput.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
 
-class RecordingView final : public HelmView {
+class RecordingView final : public HelmObserver,
+                            public NmeaReceiver::Listener,
+                            public PilotOutput::Listener,
+                            public TrackModes::Listener {
  public:
   std::vector<std::string> Calls;  ///< such as "OnHeading 123.4", in their order
 
@@ -23,8 +29,8 @@ class RecordingView final : public HelmView {
   std::string OutputStatus;  ///< the latest text of the output panel
   std::string OutputState;   ///< the latest state of the output
 
-  /// Called from inside every OnNmeaData, for tests of what happens meanwhile.
-  std::function<void()> DuringNmeaData;
+  /// Called from inside every OnNmeaLine, for tests of what happens meanwhile.
+  std::function<void()> DuringNmeaLine;
 
   /// The calls since the last time.
   std::vector<std::string> Take() { return std::exchange(Calls, {}); }
@@ -33,8 +39,7 @@ class RecordingView final : public HelmView {
   std::vector<std::string> Only(const std::vector<std::string>& names) const {
     std::vector<std::string> found;
     for (const std::string& call : Calls) {
-      const std::string name = call.substr(0, call.find(' '));
-      if (std::find(names.begin(), names.end(), name) != names.end()) {
+      if (std::find(names.begin(), names.end(), NameOf(call)) != names.end()) {
         found.push_back(call);
       }
     }
@@ -43,39 +48,66 @@ class RecordingView final : public HelmView {
 
   std::size_t Count(const std::string& name) const { return Only({name}).size(); }
 
+  /// The names of the calls, in their order.
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names(Calls.size());
+    std::transform(Calls.begin(), Calls.end(), names.begin(), NameOf);
+    return names;
+  }
+
   void OnHeading(float heading) override { Keep("OnHeading", heading); }
   void OnBoatSpeed(float speed) override { Keep("OnBoatSpeed", speed); }
   void OnWaypoint(float range, float bearing) override { Keep("OnWaypoint", range, bearing); }
   void OnWindApparent(float angle, float speed) override { Keep("OnWindApparent", angle, speed); }
   void OnWindTrue(float angle, float speed) override { Keep("OnWindTrue", angle, speed); }
   void OnWindIndicator(float direction, float speed) override { Keep("OnWindIndicator", direction, speed); }
-  void OnValuesBlanked() override { Keep("OnValuesBlanked"); }
+  void OnPolarUpdate(TrackMode mode, const InstrumentData& data) override {
+    Keep("OnPolarUpdate", static_cast<float>(mode), data.BoatSpeed);
+  }
 
-  void OnInputStatus(std::string_view text) override {
-    InputStatus = text;
-    Keep("OnInputStatus", text);
-  }
-  void OnInputState(std::string_view text) override {
-    InputState = text;
-    Keep("OnInputState", text);
-  }
-  void OnNmeaListCleared() override { Keep("OnNmeaListCleared"); }
-  void OnNmeaData(std::string_view line, bool used) override {
-    Keep("OnNmeaData", std::string(line) + (used ? " used" : " unused"));
-    if (DuringNmeaData) {
-      DuringNmeaData();
+  void OnInputStarts() override { Keep("OnInputStarts"); }
+  void OnNmeaLine(std::string_view line, LineFault fault, bool used) override {
+    std::string text;
+    ListedLine(line, fault, text);
+    Keep("OnNmeaLine", text + (used ? " used" : " unused"));
+    if (fault != LineFault::None) {
+      ListedFault(line, fault, text);
+      Keep("OnNmeaError", text);
+    }
+    if (DuringNmeaLine) {
+      DuringNmeaLine();
     }
   }
-  void OnNmeaError(std::string_view text) override { Keep("OnNmeaError", text); }
+  void OnSentence(std::string_view line, const Dispatcher::Outcome& outcome, const Moment& /*now*/) override {
+    OnNmeaLine(line, outcome.Incomplete ? LineFault::Decode : LineFault::None, outcome.Used);
+  }
+  void OnBadLine(std::string_view line, LineFault fault) override { OnNmeaLine(line, fault, false); }
+  void OnInputStatus(const PortStatus& status) override {
+    InputStatus = InputStatusText(status);
+    Keep("OnInputStatus", InputStatus);
+  }
+  void OnInputState(veerwatch::InputState state) override {
+    InputState = InputStateText(state);
+    Keep("OnInputState", InputState);
+  }
+  void OnInputFailure(const std::string& reason) override { Keep("OnInputFailure", reason); }
+  void OnSourceAdvice(const std::vector<std::string>& lines) override {
+    std::string text;
+    for (const std::string& line : lines) {
+      text += line + ";";
+    }
+    Keep("OnSourceAdvice", text);
+  }
 
-  void OnOutputStatus(std::string_view text) override {
-    OutputStatus = text;
-    Keep("OnOutputStatus", text);
+  void OnOutputStatus(const PortStatus& status) override {
+    OutputStatus = OutputStatusText(status);
+    Keep("OnOutputStatus", OutputStatus);
   }
-  void OnOutputState(std::string_view text) override {
-    OutputState = text;
-    Keep("OnOutputState", text);
+  void OnOutputState(veerwatch::OutputState state) override {
+    OutputState = OutputStateText(state);
+    Keep("OnOutputState", OutputState);
   }
+  void OnOutputFailure(const std::string& reason) override { Keep("OnOutputFailure", reason); }
   void OnPilotData(std::string_view sentence) override { Keep("OnPilotData", sentence); }
 
   void OnDesired(float apparent, float trueWind) override { Keep("OnDesired", apparent, trueWind); }
@@ -89,13 +121,18 @@ class RecordingView final : public HelmView {
   void OnAlarmOver() override { Keep("OnAlarmOver"); }
 
   void OnTrackMode(TrackMode mode) override { Keep("OnTrackMode", static_cast<float>(mode)); }
-  void OnTrackRefused(std::string_view reason) override { Keep("OnTrackRefused", reason); }
-
-  void OnPolarUpdate(TrackMode mode, const InstrumentData& data) override {
-    Keep("OnPolarUpdate", static_cast<float>(mode), data.BoatSpeed);
+  void OnTrackRefused(TrackRefusal why) override { Keep("OnTrackRefused", static_cast<float>(why)); }
+  void OnWindLost(bool lost) override { Keep("OnWindLost", lost ? "yes" : "no"); }
+  void OnTurnEnds(TurnFate why) override {
+    constexpr const char* kFates[] = {"GoesOn", "Taken", "InputStopped", "NoInputData", "NoWind"};
+    Keep("OnTurnEnds", kFates[static_cast<std::size_t>(why)]);
   }
 
+  void OnTick() override { Keep("OnTick"); }
+
  private:
+  static std::string NameOf(const std::string& call) { return call.substr(0, call.find(' ')); }
+
   void Keep(std::string name) { Calls.push_back(std::move(name)); }
   void Keep(std::string name, std::string_view text) {
     Calls.push_back(std::move(name.append(" ").append(text)));

@@ -6,7 +6,7 @@
 #include <limits>
 #include <string_view>
 
-#include "tack/Manoeuvre.h"
+#include "control/Manoeuvre.h"
 #include "tack/TackSettings.h"
 
 namespace veerwatch {
@@ -20,7 +20,7 @@ TEST(TurnFromDamage, AnOvershootThatIsNotFiniteIsNone) {
     ASSERT_TRUE(turn.Open(190.0F, 100.0F, 100.0F, 45.0F));
     turn.Start(190.0F, overshoot, 10.0F);
     int seconds = 1;
-    while (!turn.Tick() && seconds < 100) {
+    while (!turn.Step(1.0) && seconds < 100) {
       ++seconds;
     }
     EXPECT_EQ(seconds, 9);

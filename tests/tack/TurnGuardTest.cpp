@@ -23,7 +23,6 @@ TEST(TurnHindrance, IsNoneInEachModeThatReads) {
     HelmNow now = Sending();
     now.Mode = mode;
     EXPECT_EQ(TurnHindrance(now), "");
-    EXPECT_EQ(TurnEnd(now), "");
   }
 }
 
@@ -39,17 +38,6 @@ TEST(TurnHindrance, NamesWhatNoSentenceCanPass) {
   EXPECT_EQ(TurnHindrance(now), "No turn: Input Stopped, press Setup first");
   now.Mode = TrackMode::Off;
   EXPECT_EQ(TurnHindrance(now), "No turn in Off: press Setup first");
-}
-
-TEST(TurnEnd, ComesWithALostWindAndAStoppedInputButNotWithAPort) {
-  HelmNow now = Sending();
-  now.OutputOpen = false;
-  now.InputOpen = false;
-  EXPECT_EQ(TurnEnd(now), "");
-  now.WindLost = true;
-  EXPECT_EQ(TurnEnd(now), "No Wind");
-  now.InputStarted = false;
-  EXPECT_EQ(TurnEnd(now), "Input Stopped");
 }
 
 TEST(TurnFromNow, KeepsWhatIsNotKnown) {

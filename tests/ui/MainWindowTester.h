@@ -56,7 +56,10 @@ class MainWindowTester : public testing::Test {
                                                        Time, Random, Asks(), Store, ProfileFile()});
     tmrNmea.OnTick = [this] { Window->tmrNmea_Timer(); };
     tmrUnload.OnTick = [this] { Window->tmrUnload_Timer(); };
-    TimerTack.OnTick = [this] { Window->TimerTack_Timer(); };
+    TimerTack.OnTick = [this] {
+      Time.Pass(TimerTack.Milliseconds);
+      Window->TimerTack_Timer();
+    };
   }
 
   /// Makes, loads and shows the window with a profile of that content.

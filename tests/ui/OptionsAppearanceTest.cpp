@@ -28,13 +28,14 @@ class OptionsAppearance : public OptionsTester {
     Main.m_bSimulate = true;
     Main.m_fSimulateTime = 1.5F;
     Start(frmOptions::Input);
-    Window->NmeaStatus("Running");
-    Window->PilotStatus("Running");
-    Window->TrackInUse(TrackTuning{33.5F, 2.25F});
+    InputIs(InputState::Running);
+    OutputIs(OutputState::Running);
+    Main.Answer.InUse = TrackTuning{33.5F, 2.25F};
+    Main.Tells.Tell([](HelmObserver& told) { told.OnTrackMode(TrackMode::Track); });
     Find<QRadioButton>("optNmeaListOn").setChecked(true);
     for (int i = 0; i < 30; ++i) {
-      Window->NmeaData("$IIMWV,045.0,R,12." + std::to_string(i % 10) + ",N,A*2A", i % 4 != 0);
-      Window->NmeaData("$GPRMC,120344,A,4807.038,N,01131.000,E,007.4,084.4,230394,003.1,W*6A", false);
+      Receive("$IIMWV,045.0,R,12." + std::to_string(i % 10) + ",N,A*2A", i % 4 != 0);
+      Receive("$GPRMC,120344,A,4807.038,N,01131.000,E,007.4,084.4,230394,003.1,W*6A", false);
     }
   }
 
@@ -164,8 +165,8 @@ TEST_P(OptionsInFont, NothingIsCutOff) {
   QApplication::setFont(font);
   Main.m_bSimulate = true;
   Start(frmOptions::Input);
-  Window->NmeaStatus("No Input Data");
-  Window->PilotStatus("Simulate");
+  InputIs(InputState::NoData);
+  OutputIs(OutputState::Simulate);
   // As on a screen that has the room.
   Window->resize(2600, 1900);
   QApplication::processEvents();

@@ -17,31 +17,31 @@ class OptionsLists : public OptionsTester {};
 
 TEST_F(OptionsLists, TakeLinesOnlyWhenOnAndVisible) {
   Start(frmOptions::Input);
-  Window->NmeaData("off", true);
+  Receive("off", true);
   Click("optNmeaListOn");
-  Window->NmeaData("on", true);
+  Receive("on", true);
   EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("on"));
   Window->hide();
-  Window->NmeaData("hidden", true);
+  Receive("hidden", true);
   EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("on"));
   Show(frmOptions::Input);
   Click("optNmeaListOff");
-  Window->NmeaList("off again", true);
+  Receive("off again", true);
   EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("on"));
 }
 
 TEST_F(OptionsLists, FollowTheFormat) {
   Start(frmOptions::Input);
   Click("optNmeaListOn");
-  Window->NmeaError("Decode Error - raw selected");
-  EXPECT_THAT(Lines("lstNmeaData"), IsEmpty());
-  Window->NmeaData("$A", true);
-  EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("$A"));
+  Receive("raw selected", false, LineFault::Checksum);
+  EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("raw selected <<Checksum Error>>"));
+  Receive("$A", true);
+  EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("raw selected <<Checksum Error>>", "$A"));
   Click("optNmeaDataFormat(2)");
   EXPECT_THAT(Lines("lstNmeaData"), IsEmpty());
-  Window->NmeaData("$B", true);
+  Receive("$B", true);
   EXPECT_THAT(Lines("lstNmeaData"), IsEmpty());
-  Window->NmeaError("Decode Error - $C");
+  Receive("$C", false, LineFault::Decode);
   EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("Decode Error - $C"));
   EXPECT_FALSE(Highlighted("lstNmeaData", 0));
   Click("optNmeaDataFormat(2)");
@@ -51,8 +51,8 @@ TEST_F(OptionsLists, FollowTheFormat) {
 TEST_F(OptionsLists, HighlightWhatWasUsed) {
   Start(frmOptions::Input);
   Click("optNmeaListOn");
-  Window->NmeaData("$A", true);
-  Window->NmeaData("$B", false);
+  Receive("$A", true);
+  Receive("$B", false);
   EXPECT_TRUE(Highlighted("lstNmeaData", 0));
   EXPECT_FALSE(Highlighted("lstNmeaData", 1));
   // Also in what is painted.
@@ -70,7 +70,7 @@ TEST_F(OptionsLists, HoldTheNewest101Of10000Lines) {
   Start(frmOptions::Input);
   Click("optNmeaListOn");
   for (int i = 1; i <= 10000; ++i) {
-    Window->NmeaData("line " + std::to_string(i), i % 3 == 0);
+    Receive("line " + std::to_string(i), i % 3 == 0);
     if (i == 100 || i == 101 || i == 102) {
       EXPECT_EQ(Lines("lstNmeaData").size(), i == 100 ? 100U : 101U);
     }
@@ -91,14 +91,14 @@ TEST_F(OptionsLists, ScrollToTheNewestLine) {
   Click("optNmeaListOn");
   auto& list = Find<QListView>("lstNmeaData");
   for (int i = 0; i < 300; ++i) {
-    Window->NmeaData("line " + std::to_string(i), false);
+    Receive("line " + std::to_string(i), false);
   }
   QApplication::processEvents();
   EXPECT_EQ(list.verticalScrollBar()->value(), list.verticalScrollBar()->maximum());
   const QRect last = list.visualRect(list.model()->index(100, 0));
   EXPECT_TRUE(list.viewport()->rect().contains(last));
   list.verticalScrollBar()->setValue(0);
-  Window->NmeaData("one more", false);
+  Receive("one more", false);
   QApplication::processEvents();
   EXPECT_EQ(list.verticalScrollBar()->value(), list.verticalScrollBar()->maximum());
 }
@@ -106,13 +106,13 @@ TEST_F(OptionsLists, ScrollToTheNewestLine) {
 TEST_F(OptionsLists, AreClearedByAReloadAndByAStartOfTheInput) {
   Start(frmOptions::Input);
   Click("optNmeaListOn");
-  Window->NmeaData("$A", true);
-  Window->NmeaListClear();
+  Receive("$A", true);
+  Main.Tells.Tell([](HelmObserver& told) { told.OnInputStarts(); });
   EXPECT_THAT(Lines("lstNmeaData"), IsEmpty());
-  Window->NmeaData("$B", true);
+  Receive("$B", true);
   Tab(frmOptions::Output);
   Click("optPilotListOn");
-  Window->PilotData("$ECAPB");
+  Send("$ECAPB");
   Click("cmdApply");
   EXPECT_THAT(Lines("lstNmeaData"), IsEmpty());
   EXPECT_THAT(Lines("lstPilotData"), IsEmpty());
@@ -120,33 +120,33 @@ TEST_F(OptionsLists, AreClearedByAReloadAndByAStartOfTheInput) {
 
 TEST_F(OptionsLists, OfTheOutputTakesWhatIsSent) {
   Start(frmOptions::Output);
-  Window->PilotData("off");
+  Send("off");
   Click("optPilotListOn");
   for (int i = 1; i <= 150; ++i) {
-    Window->PilotData("$ECAPB " + std::to_string(i));
+    Send("$ECAPB " + std::to_string(i));
   }
   ASSERT_EQ(Lines("lstPilotData").size(), 101U);
   EXPECT_EQ(Lines("lstPilotData").front(), "$ECAPB 50");
   EXPECT_FALSE(Highlighted("lstPilotData", 100));
   // The other tabs do not matter, a disabled one does.
   Tab(frmOptions::Input);
-  Window->PilotData("from elsewhere");
+  Send("from elsewhere");
   EXPECT_EQ(Lines("lstPilotData").back(), "from elsewhere");
   Find<QTabWidget>("SSTab").setTabEnabled(frmOptions::Output, false);
-  Window->PilotData("disabled");
+  Send("disabled");
   EXPECT_EQ(Lines("lstPilotData").back(), "from elsewhere");
   Find<QTabWidget>("SSTab").setTabEnabled(frmOptions::Output, true);
   Window->hide();
-  Window->PilotData("hidden");
+  Send("hidden");
   EXPECT_EQ(Lines("lstPilotData").back(), "from elsewhere");
 }
 
 TEST_F(OptionsLists, ShowHostileLinesWithoutHarm) {
   Start(frmOptions::Input);
   Click("optNmeaListOn");
-  Window->NmeaData(std::string_view("\0\x1b[2J\t<b>\xff\xfe\n\x80", 12), false);
-  Window->NmeaData(std::string(4096, '\xc3'), true);
-  Window->NmeaData("", false);
+  Receive(std::string_view("\0\x1b[2J\t<b>\xff\xfe\n\x80", 12), false);
+  Receive(std::string(4096, '\xc3'), true);
+  Receive("", false);
   EXPECT_FALSE(Window->grab().isNull());
   const auto lines = Lines("lstNmeaData");
   EXPECT_EQ(lines[0], "\u2400\u241b[2J\t<b>\u00ff\u00fe\u240a");
@@ -157,14 +157,14 @@ TEST_F(OptionsLists, StandStillInAPause) {
   Start(frmOptions::Input);
   Click("optNmeaListOn");
   for (int i = 0; i < 90; ++i) {
-    Window->NmeaData("line " + std::to_string(i), false);
+    Receive("line " + std::to_string(i), false);
   }
   QApplication::processEvents();
   Click("chkNmeaPause");
   auto& bar = *Find<QListView>("lstNmeaData").verticalScrollBar();
   bar.setValue(3);
   const auto before = Lines("lstNmeaData");
-  Window->NmeaData("in the pause", true);
+  Receive("in the pause", true);
   QApplication::processEvents();
   EXPECT_EQ(Lines("lstNmeaData"), before);
   EXPECT_EQ(bar.value(), 3);
@@ -178,9 +178,9 @@ TEST_F(OptionsLists, StandStillInAPause) {
 TEST_F(OptionsLists, OfTheOutputPausesAndIsCopied) {
   Start(frmOptions::Output);
   Click("optPilotListOn");
-  Window->PilotData("$ECAPB,1");
+  Send("$ECAPB,1");
   Click("chkPilotPause");
-  Window->PilotData("$ECAPB,2");
+  Send("$ECAPB,2");
   EXPECT_THAT(Lines("lstPilotData"), ElementsAre("$ECAPB,1"));
   Click("cmdPilotCopy");
   EXPECT_EQ(QApplication::clipboard()->text(), "$ECAPB,1\n");
@@ -192,7 +192,7 @@ TEST_F(OptionsLists, AreCopiedWhole) {
   Start(frmOptions::Input);
   Click("optNmeaListOn");
   for (int i = 0; i < 60; ++i) {
-    Window->NmeaData("$WIMWV," + std::to_string(i), false);
+    Receive("$WIMWV," + std::to_string(i), false);
   }
   Click("cmdNmeaCopy");
   const QStringList copied = QApplication::clipboard()->text().split('\n');
@@ -208,7 +208,7 @@ TEST_F(OptionsLists, AreFilteredByTheTypesThatCame) {
   auto& types = Find<QComboBox>("cmbNmeaType");
   EXPECT_EQ(types.count(), 1);
   for (const char* line : {"$WIMWV,1", "$GPRMC,1", "noise", "$IIHDG,1", "$WIMWV,2"}) {
-    Window->NmeaData(line, false);
+    Receive(line, false);
   }
   ASSERT_EQ(types.count(), 4);
   EXPECT_EQ(types.itemText(0), "All");
@@ -219,13 +219,13 @@ TEST_F(OptionsLists, AreFilteredByTheTypesThatCame) {
   QTest::keyClicks(&types, "M");
   ASSERT_EQ(types.currentText(), "MWV");
   EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("$WIMWV,1", "$WIMWV,2"));
-  Window->NmeaData("$GPRMC,2", false);
-  Window->NmeaData("$GPGGA,1", false);
-  Window->NmeaData("$WIMWV,3", true);
+  Receive("$GPRMC,2", false);
+  Receive("$GPGGA,1", false);
+  Receive("$WIMWV,3", true);
   EXPECT_THAT(Lines("lstNmeaData"), ElementsAre("$WIMWV,1", "$WIMWV,2", "$WIMWV,3"));
   EXPECT_EQ(types.currentText(), "MWV") << "another type came meanwhile";
   QTest::keyClick(&types, Qt::Key_Home);
-  Window->NmeaData("$GPRMC,3", false);
+  Receive("$GPRMC,3", false);
   EXPECT_EQ(Lines("lstNmeaData").back(), "$GPRMC,3");
   EXPECT_FALSE(Bold()) << "nothing to apply";
 }
@@ -234,10 +234,10 @@ TEST_F(OptionsLists, ScrollSidewaysAndStayThere) {
   Start(frmOptions::Input);
   Click("optNmeaListOn");
   auto& list = Find<QListView>("lstNmeaData");
-  Window->NmeaData("short", false);
+  Receive("short", false);
   QApplication::processEvents();
   EXPECT_EQ(list.horizontalScrollBar()->maximum(), 0);
-  Window->NmeaData(std::string(400, '.') + "END", false);
+  Receive(std::string(400, '.') + "END", false);
   QApplication::processEvents();
   auto& bar = *list.horizontalScrollBar();
   const int advance = QFontMetrics(list.font()).horizontalAdvance('0');
@@ -245,7 +245,7 @@ TEST_F(OptionsLists, ScrollSidewaysAndStayThere) {
   const QImage before = list.viewport()->grab().toImage();
   bar.setValue(bar.maximum());
   EXPECT_NE(list.viewport()->grab().toImage(), before);
-  Window->NmeaData("one more", false);
+  Receive("one more", false);
   QApplication::processEvents();
   EXPECT_EQ(bar.value(), bar.maximum());
 }

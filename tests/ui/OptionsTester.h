@@ -44,6 +44,23 @@ class OptionsTester : public testing::Test {
     ASSERT_TRUE(QTest::qWaitForWindowActive(Window.get()));
   }
 
+  // The helm tells.
+
+  void InputIs(InputState state) {
+    Main.Tells.Tell([state](HelmObserver& told) { told.OnInputState(state); });
+  }
+  void OutputIs(OutputState state) {
+    Main.Tells.Tell([state](HelmObserver& told) { told.OnOutputState(state); });
+  }
+  /// A line was received.
+  void Receive(std::string_view line, bool used, LineFault fault = LineFault::None) {
+    Main.Tells.Tell([=](HelmObserver& told) { told.OnNmeaLine(line, fault, used); });
+  }
+  /// A sentence to the autopilot was built.
+  void Send(std::string_view sentence) {
+    Main.Tells.Tell([=](HelmObserver& told) { told.OnPilotData(sentence); });
+  }
+
   template <class Control>
   Control& Find(const std::string& name) const {
     auto* control = Window->findChild<Control*>(QString::fromStdString(name));

@@ -11,7 +11,7 @@
 namespace veerwatch {
 namespace {
 
-class SentenceFirst : public SerialPortQtTest, public HelmView {
+class SentenceFirst : public SerialPortQtTest, public HelmObserver {
  protected:
   void OnPolarUpdate(TrackMode /*mode*/, const InstrumentData& /*data*/) override {
     SentBefore.push_back(m_pty.Read());
@@ -28,7 +28,8 @@ TEST_F(SentenceFirst, LeavesBeforeThePolarIsUpdated) {
   HandTimer timer;
   HandClock clock;
   FixedRandom random;
-  Helm helm(settings, nmeaPort, m_port, timer, clock, random, *this);
+  Helm helm(settings, nmeaPort, m_port, timer, clock, random);
+  const HelmObservers::Membership told = helm.Observers().Join(*this);
   helm.Modes().TrackSetSetup();
   nmeaPort.Receive(WithChecksum("$GPVTG,,T,123.0,M,6.0,N,,K") + "\r\n");
   nmeaPort.Receive(WithChecksum("$IIMWV,045,R,14.0,N,A") + "\r\n");

@@ -1,4 +1,4 @@
-#include "tack/TurnPace.h"
+#include "control/TurnPace.h"
 
 #include <gtest/gtest.h>
 
@@ -16,8 +16,8 @@ class TurnPaceTest : public testing::TestWithParam<int> {
   }
 
   /// A second in which a sentence leaves, and one in which none does.
-  bool Heard() { return Pace.Tick(Turn, ++Sent); }
-  bool Unheard() { return Pace.Tick(Turn, Sent); }
+  bool Heard() { return Pace.Step(Turn, ++Sent, 1.0); }
+  bool Unheard() { return Pace.Step(Turn, Sent, 1.0); }
   /// What is turned [deg].
   double Turned() const { return Turn.Progress() * GetParam(); }
 
@@ -36,6 +36,28 @@ TEST_P(TurnPaceTest, GoesOnWhileSentencesLeaveAndArrives) {
   }
   EXPECT_TRUE(Heard());
   EXPECT_EQ(Turned(), 90.0);
+}
+
+TEST_P(TurnPaceTest, TurnsByTheTimeThatHasPassedNotByItsTicks) {
+  for (const double seconds : {0.95, 1.05, 0.9, 1.1}) {
+    Pace.Step(Turn, ++Sent, seconds);
+  }
+  EXPECT_NEAR(Turned(), 40.0, 1e-9);
+  Pace.Step(Turn, ++Sent, 0.0);
+  EXPECT_NEAR(Turned(), 40.0, 1e-9);
+}
+
+TEST_P(TurnPaceTest, CountsAStandstillOfTheProgramAsTwoSeconds) {
+  Pace.Step(Turn, ++Sent, 30.0);
+  EXPECT_EQ(Turned(), 20.0);
+}
+
+TEST_P(TurnPaceTest, WaitsAtTheSecondSilentTickOfATimerThatIsEarly) {
+  Pace.Step(Turn, ++Sent, 0.95);
+  Pace.Step(Turn, Sent, 0.95);
+  EXPECT_FALSE(Pace.Waiting());
+  Pace.Step(Turn, Sent, 0.95);
+  EXPECT_TRUE(Pace.Waiting());
 }
 
 TEST_P(TurnPaceTest, GoesOnWithASentenceEveryOtherSecond) {

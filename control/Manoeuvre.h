@@ -1,5 +1,5 @@
 // A timed turn of the autopilot to a new heading: which kind of turn it is, where it ends, and where the
-// pilot stands after every second of it. The manoeuvre dialog drives it; it knows no window and no clock.
+// pilot stands at every moment of it. The manoeuvre dialog drives it; it knows no window and no clock.
 #pragma once
 
 namespace veerwatch {
@@ -37,8 +37,9 @@ class Manoeuvre {
   /// The change that Start() would make of these [deg, [-180, 180], positive to starboard].
   double Planned(float newHeading, float overshoot) const;
 
-  /// One second of the turn. True when the boat has arrived, with Progress() equal to Change().
-  bool Tick();
+  /// `seconds` more of the turn [s, at least 0]. True when the boat has arrived, with Progress() equal to
+  /// Change().
+  bool Step(double seconds);
 
   /// Takes the turn back, or on, to where `progress` of it was turned [deg, from 0 to Change()].
   void ContinueFrom(double progress) { m_progress = progress; }
@@ -62,7 +63,7 @@ class Manoeuvre {
   ManoeuvreKind m_kind = ManoeuvreKind::Steer;
   int m_direction = 0;
   double m_change = 0.0;
-  double m_step = 0.0;
+  double m_rate = 0.0;  // [deg/s], with the sign of the change
   double m_progress = 0.0;
 };
 

@@ -1,4 +1,4 @@
-#include "tack/Manoeuvre.h"
+#include "control/Manoeuvre.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +25,7 @@ std::vector<float> Headings(Manoeuvre& turn) {
   std::vector<float> headings;
   bool done = false;
   while (!done && headings.size() < 1000) {
-    done = turn.Tick();
+    done = turn.Step(1.0);
     headings.push_back(turn.Heading());
   }
   EXPECT_TRUE(done);
@@ -153,7 +153,7 @@ TEST(Manoeuvre, ARateOfZeroOrLessOrNoNumberTurnsTenDegreesASecond) {
 TEST(Manoeuvre, TurnsByHalfADegreeASecondWhereThatIsTheRate) {
   Manoeuvre turn = Opened(45.0F, 35.0F);
   turn.Start(135.0F, 0.0F, 0.5F);
-  turn.Tick();
+  turn.Step(1.0);
   EXPECT_EQ(turn.Heading(), 100.5F);
 }
 
@@ -168,8 +168,8 @@ TEST(Manoeuvre, AChangeOf170At20DegreesASecondTakesNineTicks) {
 TEST(Manoeuvre, EndsAtTheTickThatJustReachesTheChange) {
   Manoeuvre turn = Opened(45.0F, 20.0F);
   turn.Start(120.0F, 0.0F, 10.0F);
-  EXPECT_FALSE(turn.Tick());
-  EXPECT_TRUE(turn.Tick());
+  EXPECT_FALSE(turn.Step(1.0));
+  EXPECT_TRUE(turn.Step(1.0));
 }
 
 TEST(Manoeuvre, TurnsThroughNorthTheShortWay) {
@@ -188,15 +188,15 @@ TEST(Manoeuvre, KeepsThePilotsOffsetThroughTheTurn) {
   Manoeuvre turn;
   ASSERT_TRUE(turn.Open(20.0F, 340.0F, 352.5F, 20.0F));
   turn.Start(20.0F, 0.0F, 20.0F);
-  EXPECT_FALSE(turn.Tick());
+  EXPECT_FALSE(turn.Step(1.0));
   EXPECT_EQ(turn.Heading(), 0.0F);
   EXPECT_EQ(turn.AutoPilot(), 12.5F);
-  EXPECT_TRUE(turn.Tick());
+  EXPECT_TRUE(turn.Step(1.0));
   EXPECT_EQ(turn.AutoPilot(), 32.5F);
   // An offset across north to port: 355 is 10 less than 5.
   ASSERT_TRUE(turn.Open(15.0F, 5.0F, 355.0F, 90.0F));
   turn.Start(15.0F, 0.0F, 2.0F);
-  EXPECT_FALSE(turn.Tick());
+  EXPECT_FALSE(turn.Step(1.0));
   EXPECT_EQ(turn.AutoPilot(), 357.0F);
 }
 
@@ -204,9 +204,9 @@ TEST(Manoeuvre, StartsFromWhereItWasOpenedHoweverLate) {
   Manoeuvre turn;
   ASSERT_TRUE(turn.Open(120.0F, 100.0F, 103.0F, 90.0F));
   turn.Start(80.0F, 0.0F, 5.0F);
-  EXPECT_FALSE(turn.Tick());
+  EXPECT_FALSE(turn.Step(1.0));
   turn.Start(120.0F, 0.0F, 5.0F);
-  EXPECT_FALSE(turn.Tick());
+  EXPECT_FALSE(turn.Step(1.0));
   EXPECT_EQ(turn.Heading(), 105.0F);
   EXPECT_EQ(turn.AutoPilot(), 108.0F);
 }
@@ -272,7 +272,7 @@ TEST(Manoeuvre, FoldsATypedHeading) {
 TEST(Manoeuvre, NoChangeIsDoneAtTheFirstTick) {
   Manoeuvre turn = Opened(45.0F, 0.0F);
   turn.Start(100.0F, 0.0F, 10.0F);
-  EXPECT_TRUE(turn.Tick());
+  EXPECT_TRUE(turn.Step(1.0));
   EXPECT_EQ(turn.Heading(), 100.0F);
 }
 
@@ -290,7 +290,7 @@ TEST(Manoeuvre, WhateverComesInTheBearingIsOnTheCompassAndTheTurnEnds) {
           turn.Start(heading, overshoot, 7.0F);
           bool done = false;
           for (int tick = 0; tick < 30 && !done; ++tick) {
-            done = turn.Tick();
+            done = turn.Step(1.0);
             ASSERT_GE(turn.AutoPilot(), 0.0F);
             ASSERT_LT(turn.AutoPilot(), 360.0F);
             ASSERT_GE(turn.Heading(), 0.0F);
@@ -306,8 +306,8 @@ TEST(Manoeuvre, WhateverComesInTheBearingIsOnTheCompassAndTheTurnEnds) {
 TEST(Manoeuvre, OpenedAgainStandsAtItsNewStartWithNothingTurned) {
   Manoeuvre turn = Opened(45.0F, 90.0F);
   turn.Start(190.0F, 0.0F, 10.0F);
-  turn.Tick();
-  turn.Tick();
+  turn.Step(1.0);
+  turn.Step(1.0);
   ASSERT_TRUE(turn.Open(300.0F, 200.0F, 212.0F, 45.0F));
   EXPECT_EQ(turn.Change(), 0.0);
   EXPECT_EQ(turn.Progress(), 0.0);

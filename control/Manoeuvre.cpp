@@ -1,4 +1,4 @@
-#include "tack/Manoeuvre.h"
+#include "control/Manoeuvre.h"
 
 #include <algorithm>
 #include <cmath>
@@ -54,11 +54,11 @@ void Manoeuvre::Start(float newHeading, float overshoot, float rate) {
   m_change = Planned(newHeading, overshoot);
   m_progress = 0.0;
   const double speed = std::isfinite(rate) && rate > 0.0F ? static_cast<double>(rate) : kUsualRate;
-  m_step = m_change < 0.0 ? -speed : speed;
+  m_rate = m_change < 0.0 ? -speed : speed;
 }
 
-bool Manoeuvre::Tick() {
-  m_progress += m_step;
+bool Manoeuvre::Step(double seconds) {
+  m_progress += m_rate * seconds;
   const bool done = std::fabs(m_progress) >= std::fabs(m_change);
   if (done) {
     m_progress = m_change;

@@ -1,0 +1,76 @@
+// How one part of the program tells others: whoever wants to be told joins the list of whoever tells, and leaves
+// it when his membership ends.
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace veerwatch {
+
+template <class Observer>
+class ObserverList {
+  using Members = std::vector<Observer*>;
+
+ public:
+  /// The place of one observer in a list; its end is the end of being told. It may outlive the list.
+  class Membership {
+   public:
+    Membership() = default;
+    Membership(Membership&& other) noexcept
+        : m_members(std::move(other.m_members)), m_observer(std::exchange(other.m_observer, nullptr)) {}
+    Membership& operator=(Membership&& other) noexcept {
+      std::swap(m_members, other.m_members);
+      std::swap(m_observer, other.m_observer);
+      return *this;
+    }
+    ~Membership() {
+      const auto members = m_members.lock();
+      if (members && m_observer != nullptr) {
+        // Somebody may be walking through the list.
+        std::replace(members->begin(), members->end(), m_observer, static_cast<Observer*>(nullptr));
+      }
+    }
+
+   private:
+    friend class ObserverList;
+    Membership(const std::shared_ptr<Members>& members, Observer& observer)
+        : m_members(members), m_observer(&observer) {}
+
+    std::weak_ptr<Members> m_members;
+    Observer* m_observer = nullptr;
+  };
+
+  ObserverList() = default;
+  ObserverList(const ObserverList&) = delete;
+  ObserverList& operator=(const ObserverList&) = delete;
+
+  /// From now on `observer` is told, after those that joined before, as long as the membership lasts.
+  [[nodiscard]] Membership Join(Observer& observer) {
+    m_members->push_back(&observer);
+    return Membership(m_members, observer);
+  }
+
+  /// Calls `call` with each observer. One that joins meanwhile is called, too; one that leaves is not called
+  /// any more.
+  template <class Call>
+  void Tell(Call&& call) {
+    ++m_telling;
+    for (std::size_t i = 0; i < m_members->size(); ++i) {
+      if (Observer* observer = (*m_members)[i]) {
+        call(*observer);
+      }
+    }
+    if (--m_telling == 0) {
+      std::erase(*m_members, nullptr);
+    }
+  }
+
+ private:
+  std::shared_ptr<Members> m_members = std::make_shared<Members>();
+  int m_telling = 0;  ///< walks through the list, one inside the other
+};
+
+}  // namespace veerwatch
