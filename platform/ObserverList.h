@@ -1,5 +1,5 @@
-// How one part of the program tells others: whoever wants to be told joins the list of whoever tells, and leaves
-// it when his membership ends.
+// How one part of the program tells others: whoever wants to be told joins the list of whoever tells, and
+// leaves it when his membership ends.
 #pragma once
 
 #include <algorithm>
@@ -29,8 +29,11 @@ class ObserverList {
     ~Membership() {
       const auto members = m_members.lock();
       if (members && m_observer != nullptr) {
-        // Somebody may be walking through the list.
-        std::replace(members->begin(), members->end(), m_observer, static_cast<Observer*>(nullptr));
+        // Somebody may be walking through the list; and an observer may have joined anew.
+        if (const auto place = std::find(members->begin(), members->end(), m_observer);
+            place != members->end()) {
+          *place = nullptr;
+        }
       }
     }
 

@@ -230,6 +230,14 @@ TEST_F(ObserverListTest, AMovedMembershipLastsAsLongAsItsNewPlace) {
   EXPECT_THAT(TakeTold(), IsEmpty());
 }
 
+TEST_F(ObserverListTest, AMembershipThatIsRenewedStays) {
+  Listener a = Named("a");
+  Membership membership = m_list->Join(a);
+  membership = m_list->Join(a);
+  Tell();
+  EXPECT_THAT(TakeTold(), ElementsAre("a"));
+}
+
 TEST_F(ObserverListTest, AMembershipThatIsReplacedEnds) {
   Listener a = Named("a");
   Listener b = Named("b");
