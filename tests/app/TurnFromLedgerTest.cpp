@@ -4,9 +4,9 @@
 
 #include <ostream>
 
+#include "control/Manoeuvre.h"
 #include "polar/CourseLedger.h"
 #include "polar/PolarFile.h"
-#include "control/Manoeuvre.h"
 #include "tack/TurnWords.h"
 
 namespace veerwatch {

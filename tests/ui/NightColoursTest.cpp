@@ -90,9 +90,8 @@ TEST_F(NightColours, EveryPageOfTheOptionsIsRedOnBlack) {
   ASSERT_NE(options, nullptr);
   options->findChild<QRadioButton*>(QStringLiteral("optNmeaListOn"))->setChecked(true);
   for (int i = 0; i < 30; ++i) {
-    Window->Observers().Tell([i](HelmObserver& told) {
-      told.OnNmeaLine("$WIMWV,040,R,10.0,N,A", LineFault::None, i % 2 == 0);
-    });
+    Window->Observers().Tell(
+        [i](HelmObserver& told) { told.OnNmeaLine("$WIMWV,040,R,10.0,N,A", LineFault::None, i % 2 == 0); });
   }
   for (int tab = 0; tab < 6; ++tab) {
     options->TabSelect(tab);
