@@ -20,25 +20,24 @@ using testing::IsEmpty;
 // Every port's claims, on an endpoint that takes everything and sends it in its own time, as a driver does,
 // and on one that takes a few characters at a time and keeps none, as a socket may.
 
-class MemoryRig {
+class MemoryRig : public PortRig {
  public:
   MemoryRig() { m_port.PortOpen(true); }
 
-  SerialPort& Port() { return m_port; }
-  std::string Arrive(std::string_view text) {
+  SerialPort& Port() override { return m_port; }
+  std::string Arrive(std::string_view text) override {
     m_port.Arrive(text);
     return std::string(text);
   }
-  template <typename Condition>
-  bool Await(Condition condition) {
+  bool Await(const std::function<bool()>& condition) override {
     for (int step = 0; step < 10'000 && !condition(); ++step) {
       m_port.Pass(1);
     }
     return condition();
   }
-  const std::string& Heard() const { return m_port.Heard; }
-  void Pass(int milliseconds) { m_port.Pass(milliseconds); }
-  void StandStill(int milliseconds) { m_clock.Pass(milliseconds); }
+  const std::string& Heard() override { return m_port.Heard; }
+  void Pass(int milliseconds) override { m_port.Pass(milliseconds); }
+  void StandStill(int milliseconds) override { m_clock.Pass(milliseconds); }
 
  protected:
   HandClock m_clock;
@@ -47,8 +46,8 @@ class MemoryRig {
 
 class DriverRig : public MemoryRig {
  public:
-  void Stick() { m_port.Holds = true; }
-  void Move() {
+  void Stick() override { m_port.Holds = true; }
+  void Move() override {
     m_port.Holds = false;
     m_port.Drain();
   }
@@ -57,23 +56,17 @@ class DriverRig : public MemoryRig {
 class TrickleRig : public MemoryRig {
  public:
   TrickleRig() { m_port.Takes = std::string_view(kFirst).size(); }
-  void Stick() {
+  void Stick() override {
     m_port.Takes = 2;
     m_port.TakesInAll = 2;
   }
-  void Move() { m_port.TakesInAll = MemoryEndpoint::kAll; }
+  void Move() override { m_port.TakesInAll = MemoryEndpoint::kAll; }
 };
 
-using MemoryRigs = testing::Types<DriverRig, TrickleRig>;
-
-struct RigNames {
-  template <typename Rig>
-  static std::string GetName(int /*index*/) {
-    return std::is_same_v<Rig, DriverRig> ? "Driver" : "Trickle";
-  }
-};
-
-INSTANTIATE_TYPED_TEST_SUITE_P(Memory, PortPolicy, MemoryRigs, RigNames);
+INSTANTIATE_TEST_SUITE_P(Memory, PortPolicy,
+                         testing::Values(PortRigKind{"Driver", &MakeRig<DriverRig>},
+                                         PortRigKind{"Trickle", &MakeRig<TrickleRig>}),
+                         PortRigName);
 
 // Opening.
 

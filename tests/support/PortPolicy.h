@@ -1,16 +1,13 @@
-// What holds for a port on every endpoint. A test program gives a rig, a class with an open port and its far
-// end, and has all these claims tested on it:
-//
-//   Port(), Endpoint's port                     Arrive(text), as much as it takes; gives that part
-//   Await(condition), turns the event loop      Heard(), all that came out
-//   Pass(ms), time goes on while it runs        StandStill(ms), time goes on while it does not
-//   Stick(), the next bundle gets stuck on its way and nothing leaves       Move(), everything leaves again
+// What holds for a port on every endpoint. A test program gives rigs, and has all these claims tested on
+// each.
 #pragma once
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "platform/EndpointPort.h"
 #include "tests/support/Bundles.h"
@@ -18,8 +15,36 @@
 
 namespace veerwatch {
 
-template <typename Rig>
-class PortPolicy : public testing::Test {
+/// An open port and its far end.
+class PortRig {
+ public:
+  virtual ~PortRig() = default;
+  virtual SerialPort& Port() = 0;
+  /// Lets text come in, as much as the endpoint takes; gives that part.
+  virtual std::string Arrive(std::string_view text) = 0;
+  /// All that came out.
+  virtual const std::string& Heard() = 0;
+  /// Turns the event loop until the condition holds; false when it never does.
+  virtual bool Await(const std::function<bool()>& condition) = 0;
+  /// Time goes on while the loop turns [ms], and while it does not.
+  virtual void Pass(int milliseconds) = 0;
+  virtual void StandStill(int milliseconds) = 0;
+  /// The next bundle gets stuck on its way and nothing leaves; everything leaves again.
+  virtual void Stick() = 0;
+  virtual void Move() = 0;
+};
+
+struct PortRigKind {
+  const char* Name;
+  std::unique_ptr<PortRig> (*Make)();
+};
+
+template <class Rig>
+std::unique_ptr<PortRig> MakeRig() {
+  return std::make_unique<Rig>();
+}
+
+class PortPolicy : public testing::TestWithParam<PortRigKind> {
  protected:
   /// Turns the loop until everything that was under way before has come in.
   void PassAMark() {
@@ -28,144 +53,140 @@ class PortPolicy : public testing::Test {
     m_owner.Text.pop_back();
   }
 
-  Rig m_rig;
+ private:
+  std::unique_ptr<PortRig> m_made = GetParam().Make();
+
+ protected:
+  PortRig& m_rig = *m_made;
   SerialPort& m_port = m_rig.Port();
   PortOwner m_owner{m_port};
 };
 
-TYPED_TEST_SUITE_P(PortPolicy);
+inline std::string PortRigName(const testing::TestParamInfo<PortRigKind>& rig) { return rig.param.Name; }
 
-TYPED_TEST_P(PortPolicy, OffersAgainWhatItsOwnerLeftUnread) {
+TEST_P(PortPolicy, OffersAgainWhatItsOwnerLeftUnread) {
   int offers = 0;
-  this->m_owner.Handle = [&] {
+  m_owner.Handle = [&] {
     if (++offers > 3) {
-      this->m_owner.Read();
+      m_owner.Read();
     }
   };
-  this->m_rig.Arrive("patience");
-  ASSERT_TRUE(this->m_rig.Await([&] { return this->m_owner.Text == "patience"; }));
+  m_rig.Arrive("patience");
+  ASSERT_TRUE(m_rig.Await([&] { return m_owner.Text == "patience"; }));
   EXPECT_EQ(offers, 4);
 }
 
-TYPED_TEST_P(PortPolicy, HoldsALimitedAmountUnreadAndLosesNothing) {
+TEST_P(PortPolicy, HoldsALimitedAmountUnreadAndLosesNothing) {
   bool refuse = true;
-  this->m_owner.Handle = [&] {
+  m_owner.Handle = [&] {
     if (!refuse) {
-      this->m_owner.Read();
+      m_owner.Read();
     }
   };
   std::string text;
   for (int number = 0; text.size() < 100'000; ++number) {
     text += std::to_string(number) + ",";
   }
-  std::string arrived = this->m_rig.Arrive(text);
-  ASSERT_TRUE(this->m_rig.Await([&] { return !this->m_owner.Codes.empty(); }));
+  std::string arrived = m_rig.Arrive(text);
+  ASSERT_TRUE(m_rig.Await([&] { return !m_owner.Codes.empty(); }));
   refuse = false;
-  this->m_owner.Read();
-  EXPECT_EQ(this->m_owner.Text.size(), EndpointPort::kLargestUnread);
-  ASSERT_TRUE(this->m_rig.Await([&] { return this->m_owner.Text.size() >= arrived.size(); }));
-  EXPECT_EQ(this->m_owner.Text, arrived);
+  m_owner.Read();
+  EXPECT_EQ(m_owner.Text.size(), EndpointPort::kLargestUnread);
+  ASSERT_TRUE(m_rig.Await([&] { return m_owner.Text.size() >= arrived.size(); }));
+  EXPECT_EQ(m_owner.Text, arrived);
 }
 
-TYPED_TEST_P(PortPolicy, DropsWhatWaitedWhileTheProgramStoodStill) {
-  this->PassAMark();
-  this->m_rig.Arrive("old");
-  this->m_rig.StandStill(3000);
-  ASSERT_TRUE(this->m_rig.Await([&] { return this->m_owner.Overslept > 0; }));
-  this->m_rig.Pass(400);
-  this->m_rig.Arrive("new");
-  ASSERT_TRUE(this->m_rig.Await([&] { return this->m_owner.Text.ends_with("new"); }));
-  EXPECT_EQ(this->m_owner.Text, "new");
-  EXPECT_EQ(this->m_owner.Overslept, 1);
+TEST_P(PortPolicy, DropsWhatWaitedWhileTheProgramStoodStill) {
+  PassAMark();
+  m_rig.Arrive("old");
+  m_rig.StandStill(3000);
+  ASSERT_TRUE(m_rig.Await([&] { return m_owner.Overslept > 0; }));
+  m_rig.Pass(400);
+  m_rig.Arrive("new");
+  ASSERT_TRUE(m_rig.Await([&] { return m_owner.Text.ends_with("new"); }));
+  EXPECT_EQ(m_owner.Text, "new");
+  EXPECT_EQ(m_owner.Overslept, 1);
 }
 
-TYPED_TEST_P(PortPolicy, HandsABundleOverBeforeItReturns) {
-  this->m_port.Output(kFirst);
-  EXPECT_EQ(this->m_rig.Heard(), kFirst);
-  EXPECT_EQ(this->m_port.Sent(), 1U);
+TEST_P(PortPolicy, HandsABundleOverBeforeItReturns) {
+  m_port.Output(kFirst);
+  EXPECT_EQ(m_rig.Heard(), kFirst);
+  EXPECT_EQ(m_port.Sent(), 1U);
 }
 
-TYPED_TEST_P(PortPolicy, PutsTheNewestBundleAsAWholeInPlaceOfTheOneThatWaits) {
-  this->m_rig.Stick();
+TEST_P(PortPolicy, PutsTheNewestBundleAsAWholeInPlaceOfTheOneThatWaits) {
+  m_rig.Stick();
   for (const char* bundle : {kFirst, kSecond, kThird}) {
-    this->m_port.Output(bundle);
+    m_port.Output(bundle);
   }
-  this->m_rig.Pass(100);
-  this->m_rig.Move();
-  ASSERT_TRUE(this->m_rig.Await([&] { return this->m_rig.Heard().ends_with(kThird); }));
-  EXPECT_EQ(this->m_rig.Heard(), std::string(kFirst) + kThird);
-  EXPECT_EQ(this->m_port.Sent(), 2U);
+  m_rig.Pass(100);
+  m_rig.Move();
+  ASSERT_TRUE(m_rig.Await([&] { return m_rig.Heard().ends_with(kThird); }));
+  EXPECT_EQ(m_rig.Heard(), std::string(kFirst) + kThird);
+  EXPECT_EQ(m_port.Sent(), 2U);
 }
 
-TYPED_TEST_P(PortPolicy, ForgetsABundleThatHasWaitedForTwoSeconds) {
-  this->m_rig.Stick();
-  this->m_port.Output(kFirst);
-  this->m_port.Output(kSecond);
-  this->m_rig.Pass(2100);
-  this->m_rig.Move();
-  ASSERT_TRUE(this->m_rig.Await([&] { return this->m_rig.Heard().ends_with(kFirst); }));
-  this->m_rig.Pass(100);
-  this->m_port.Output(kThird);
-  ASSERT_TRUE(this->m_rig.Await([&] { return this->m_rig.Heard().ends_with(kThird); }));
-  EXPECT_EQ(this->m_rig.Heard(), std::string(kFirst) + kThird);
+TEST_P(PortPolicy, ForgetsABundleThatHasWaitedForTwoSeconds) {
+  m_rig.Stick();
+  m_port.Output(kFirst);
+  m_port.Output(kSecond);
+  m_rig.Pass(2100);
+  m_rig.Move();
+  ASSERT_TRUE(m_rig.Await([&] { return m_rig.Heard().ends_with(kFirst); }));
+  m_rig.Pass(100);
+  m_port.Output(kThird);
+  ASSERT_TRUE(m_rig.Await([&] { return m_rig.Heard().ends_with(kThird); }));
+  EXPECT_EQ(m_rig.Heard(), std::string(kFirst) + kThird);
 }
 
-TYPED_TEST_P(PortPolicy, ForgetsABundleThatIsWithdrawnButNotTheOneOnItsWay) {
-  this->m_rig.Stick();
-  this->m_port.Output(kFirst);
-  this->m_port.Output(kSecond);
-  this->m_port.Withdraw();
-  this->m_rig.Move();
-  ASSERT_TRUE(this->m_rig.Await([&] { return this->m_rig.Heard().ends_with(kFirst); }));
-  this->m_rig.Pass(100);
-  this->m_port.Output(kThird);
-  ASSERT_TRUE(this->m_rig.Await([&] { return this->m_rig.Heard().ends_with(kThird); }));
-  EXPECT_EQ(this->m_rig.Heard(), std::string(kFirst) + kThird);
+TEST_P(PortPolicy, ForgetsABundleThatIsWithdrawnButNotTheOneOnItsWay) {
+  m_rig.Stick();
+  m_port.Output(kFirst);
+  m_port.Output(kSecond);
+  m_port.Withdraw();
+  m_rig.Move();
+  ASSERT_TRUE(m_rig.Await([&] { return m_rig.Heard().ends_with(kFirst); }));
+  m_rig.Pass(100);
+  m_port.Output(kThird);
+  ASSERT_TRUE(m_rig.Await([&] { return m_rig.Heard().ends_with(kThird); }));
+  EXPECT_EQ(m_rig.Heard(), std::string(kFirst) + kThird);
 }
 
-TYPED_TEST_P(PortPolicy, LeavesNothingForTheNextTimeThatItIsOpened) {
-  this->m_owner.Handle = [] {};
-  this->m_rig.Arrive("old");
-  ASSERT_TRUE(this->m_rig.Await([&] { return !this->m_owner.Codes.empty(); }));
-  this->m_rig.Stick();
-  this->m_port.Output(kFirst);
-  this->m_port.Output(kSecond);
-  this->m_port.PortOpen(false);
-  this->m_rig.Move();
-  this->m_rig.Pass(100);
-  this->m_owner.Handle = nullptr;
-  ASSERT_TRUE(this->m_port.PortOpen(true));
-  const std::string before = this->m_rig.Heard();
-  this->m_port.Output(kThird);
-  this->m_rig.Arrive("new");
-  ASSERT_TRUE(this->m_rig.Await([&] { return this->m_owner.Text.ends_with("new"); }));
-  EXPECT_EQ(this->m_owner.Text, "new");
-  ASSERT_TRUE(this->m_rig.Await([&] { return this->m_rig.Heard().ends_with(kThird); }));
-  EXPECT_EQ(this->m_rig.Heard(), before + kThird);
+TEST_P(PortPolicy, LeavesNothingForTheNextTimeThatItIsOpened) {
+  m_owner.Handle = [] {};
+  m_rig.Arrive("old");
+  ASSERT_TRUE(m_rig.Await([&] { return !m_owner.Codes.empty(); }));
+  m_rig.Stick();
+  m_port.Output(kFirst);
+  m_port.Output(kSecond);
+  m_port.PortOpen(false);
+  m_rig.Move();
+  m_rig.Pass(100);
+  m_owner.Handle = nullptr;
+  ASSERT_TRUE(m_port.PortOpen(true));
+  const std::string before = m_rig.Heard();
+  m_port.Output(kThird);
+  m_rig.Arrive("new");
+  ASSERT_TRUE(m_rig.Await([&] { return m_owner.Text.ends_with("new"); }));
+  EXPECT_EQ(m_owner.Text, "new");
+  ASSERT_TRUE(m_rig.Await([&] { return m_rig.Heard().ends_with(kThird); }));
+  EXPECT_EQ(m_rig.Heard(), before + kThird);
 }
 
-TYPED_TEST_P(PortPolicy, TellsNothingToAnOwnerWhoIsGone) {
-  auto gone = std::make_unique<PortOwner>(this->m_port);
+TEST_P(PortPolicy, TellsNothingToAnOwnerWhoIsGone) {
+  auto gone = std::make_unique<PortOwner>(m_port);
   bool offered = false;
   gone->Handle = [&] { offered = true; };
-  this->m_rig.Arrive("first,");
-  ASSERT_TRUE(this->m_rig.Await([&] { return offered; }));
+  m_rig.Arrive("first,");
+  ASSERT_TRUE(m_rig.Await([&] { return offered; }));
   gone.reset();
-  this->m_rig.Arrive("second,");
-  this->m_rig.StandStill(3000);
-  this->m_rig.Pass(1000);
-  PortOwner next(this->m_port);
-  this->m_rig.Arrive("third");
-  ASSERT_TRUE(this->m_rig.Await([&] { return next.Text.ends_with("third"); }));
-  EXPECT_EQ(this->m_owner.Codes.size(), 0U) << "it was replaced";
+  m_rig.Arrive("second,");
+  m_rig.StandStill(3000);
+  m_rig.Pass(1000);
+  PortOwner next(m_port);
+  m_rig.Arrive("third");
+  ASSERT_TRUE(m_rig.Await([&] { return next.Text.ends_with("third"); }));
+  EXPECT_EQ(m_owner.Codes.size(), 0U) << "it was replaced";
 }
-
-REGISTER_TYPED_TEST_SUITE_P(PortPolicy, OffersAgainWhatItsOwnerLeftUnread,
-                            HoldsALimitedAmountUnreadAndLosesNothing,
-                            DropsWhatWaitedWhileTheProgramStoodStill, HandsABundleOverBeforeItReturns,
-                            PutsTheNewestBundleAsAWholeInPlaceOfTheOneThatWaits,
-                            ForgetsABundleThatHasWaitedForTwoSeconds,
-                            ForgetsABundleThatIsWithdrawnButNotTheOneOnItsWay,
-                            LeavesNothingForTheNextTimeThatItIsOpened, TellsNothingToAnOwnerWhoIsGone);
 
 }  // namespace veerwatch

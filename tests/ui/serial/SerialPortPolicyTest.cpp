@@ -15,20 +15,20 @@
 namespace veerwatch {
 namespace {
 
-class PtyRig {
+class PtyRig final : public PortRig {
  public:
   PtyRig() : m_filler(::open(m_pty.Device().c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC)) {
     EXPECT_GE(m_filler, 0);
     m_profile.ProfileSet("Ports", "1", std::string_view(m_pty.Device()));
     EXPECT_TRUE(m_port.PortOpen(true)) << m_port.OpenFailure();
   }
-  ~PtyRig() { ::close(m_filler); }
+  ~PtyRig() override { ::close(m_filler); }
   PtyRig(const PtyRig&) = delete;
   PtyRig& operator=(const PtyRig&) = delete;
 
-  SerialPort& Port() { return m_port; }
+  SerialPort& Port() override { return m_port; }
 
-  std::string Arrive(std::string_view text) {
+  std::string Arrive(std::string_view text) override {
     std::size_t taken = 0;
     for (int idle = 0; taken < text.size() && idle < 100;) {
       const std::size_t part = m_pty.Write(text.substr(taken));
@@ -41,9 +41,9 @@ class PtyRig {
     return std::string(text.substr(0, taken));
   }
 
-  bool Await(const std::function<bool()>& condition) { return veerwatch::Await(condition); }
+  bool Await(const std::function<bool()>& condition) override { return veerwatch::Await(condition); }
 
-  const std::string& Heard() {
+  const std::string& Heard() override {
     if (!m_stuck) {
       for (const char c : m_pty.Read()) {
         if (c != 'x') {
@@ -54,23 +54,23 @@ class PtyRig {
     return m_heard;
   }
 
-  void Pass(int milliseconds) {
+  void Pass(int milliseconds) override {
     QTest::qWait(2 * EndpointPort::kLookAgain);
     m_clock.Shift += milliseconds;
     QTest::qWait(2 * EndpointPort::kLookAgain);
   }
-  void StandStill(int milliseconds) { m_clock.Shift += milliseconds; }
+  void StandStill(int milliseconds) override { m_clock.Shift += milliseconds; }
   void StopTheClock() { m_clock.Stop(); }
 
   /// Fills the terminal. The kernel moves what it holds in steps, so that room shows up again after the first
   /// filling.
-  void Stick() {
+  void Stick() override {
     m_stuck = true;
     for (int quiet = 0; quiet < 5; quiet = Fill() == 0 ? quiet + 1 : 0) {
       QTest::qWait(20);
     }
   }
-  void Move() { m_stuck = false; }
+  void Move() override { m_stuck = false; }
 
  private:
   /// Writes as much as the terminal takes [bytes].
@@ -96,13 +96,6 @@ class PtyRig {
   std::string m_heard;
 };
 
-struct RigName {
-  template <typename Rig>
-  static std::string GetName(int /*index*/) {
-    return "Pty";
-  }
-};
-
 TEST(SerialPortLeaves, SendsWhatIsStillInTheProgramWhileItCloses) {
   PtyRig rig;
   rig.Stick();
@@ -120,7 +113,8 @@ TEST(SerialPortLeaves, SendsWhatIsStillInTheProgramWhileItCloses) {
   EXPECT_EQ(rig.Heard(), kFirst);
 }
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Serial, PortPolicy, PtyRig, RigName);
+INSTANTIATE_TEST_SUITE_P(Serial, PortPolicy, testing::Values(PortRigKind{"Pty", &MakeRig<PtyRig>}),
+                         PortRigName);
 
 }  // namespace
 }  // namespace veerwatch
