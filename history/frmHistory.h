@@ -1,6 +1,6 @@
 // The history window: a strip chart of the instrument and autopilot values of one day. The main window loads
-// it at the first value, feeds it, and shows it; it records whether it is visible or not. Its place and the
-// chart's choices are kept in the profile.
+// it at the first value, feeds it, and shows it. Deliberate: closing it only hides it; it records until the
+// program ends. Its place and the chart's choices are kept in the profile.
 #pragma once
 
 #include <QFrame>

@@ -10,8 +10,9 @@ namespace veerwatch {
 ///            1 2    3 4   5   6       7 8        9 10    11    12    13
 ///            |                                     |     bearing to the waypoint [deg true, [-360, 360]]
 ///            |                                     range to the waypoint [nm, [0, 100000]]
-///            status; a "V" is used like an "A"
+///            status
 ///
+/// Deliberate: a status "V" is used like an "A".
 /// Deliberate: where field 1 is not "A" but field 2 is, every field stands one further on, as some senders
 /// put a field of their own before the status.
 ///

@@ -333,6 +333,8 @@ void frmOptions::vscSimulate_Changed() {
   }
 }
 
+// Deliberate: the sources and "Auto Apply" never come here, and what changes without the keyboard marks
+// nothing.
 void frmOptions::Mark(const QWidget* control) {
   if (control == QApplication::focusWidget()) {
     ApplyBold(true);

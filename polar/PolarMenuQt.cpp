@@ -58,6 +58,7 @@ PolarMenuQt::PolarMenuQt(QMainWindow& window) {
   mnuOverlayColor = Item(polars, "mnuOverlayColor", "Set Color...");
   mnuOverlayScale = Item(polars, "mnuOverlayScale", "Set Scaling...");
   mnuOverlaySmooth = Ticked(Item(polars, "mnuOverlaySmooth", "Smooth Between Winds"));
+  // Deliberate: "mnuSeparartor5".
   Separator(polars, "mnuSeparartor5");
   mnuOverlayFile2 = Ticked(Item(polars, "mnuOverlayFile2", "Show Reference..."));
 

@@ -85,8 +85,8 @@ class PolarModel {
   const std::optional<PolarHeld>& Held(int slot) const { return m_held[static_cast<std::size_t>(slot)]; }
   /// What a slot holds as the plot names it, as "Fast Sled 60ft 90%".
   std::string Name(int slot) const;
-  /// Takes `file` into a slot. The own polar starts with the speed factor 1 and, once loaded, hides the
-  /// reference; a reference that is loaded is shown.
+  /// Takes `file` into a slot; a reference that is loaded is shown. Deliberate: the own polar starts with the
+  /// speed factor 1 and, once loaded, hides the reference, which each start of the program hides, too.
   PolarLoadResult Open(int slot, const std::string& file);
   /// Writes the own polar to `file`, which then is its file; the factor stays. Nothing when done, else what
   /// went wrong.

@@ -66,6 +66,7 @@ void PolarQuestions::AskNumber(const char* title, const char* prompt, float pres
 }
 
 void PolarQuestions::AskRange() {
+  // Deliberate: "maximun".
   AskNumber("Polar Plot - Speed Range", "Enter the maximun speed (Kts) for the polar plot display.",
             m_model.Settings().SpeedRange, &PolarModel::TakeRange);
 }
@@ -76,6 +77,7 @@ void PolarQuestions::AskTargetBearing() {
 }
 
 void PolarQuestions::AskMotorSpeed() {
+  // Deliberate: "Traget".
   AskNumber("Polar Plot - Motor Speed", "Enter the Motor Only Speed to Traget/Waypoint.",
             m_model.Settings().BoatMotorSpeed, &PolarModel::TakeMotorSpeed);
 }
@@ -179,6 +181,7 @@ void PolarQuestions::AskTarget(const std::string& proposed, Target target) {
       target(*file);
       return;
     }
+    // Deliberate: no blank in front of "file".
     m_asks.WarnYesNo(kSaveAs, VisibleText(*file) + "file already exists.\nDo you want to replace it?",
                      [target, chosen = *file](bool yes) {
                        if (yes) {

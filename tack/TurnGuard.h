@@ -24,6 +24,7 @@ struct TurnFrom {
 TurnFrom TurnFromNow(const HelmNow& now, const TurnFrom& before);
 
 /// Whether any of the three has moved by more than 5 degrees, so that a turn planned before is out of date.
+/// Deliberate: within that the turn starts from what it was planned with, however late OK comes.
 bool TurnHasMoved(const TurnFrom& before, const TurnFrom& now);
 
 /// Says that the boat swings, when her heading and the bearing of the pilot are more than 10 degrees apart;

@@ -34,6 +34,12 @@ TEST(PilotSentence, RoundsTheBearingToOneDecimal) {
   EXPECT_EQ(Built(359.94F).substr(24, 5), "359.9");
 }
 
+TEST(PilotSentence, WritesABearingJustUnderAWholeTurnAs360) {
+  // "360.0" has the characters of "000.0" but for 33 ^ 36, three times over: 05 ^ 33 ^ 36.
+  EXPECT_EQ(Built(359.95F), "$ECAPB,A,A,0.00,R,N,V,V,360.0,M,1,360.0,M,360.0,M*00");
+  EXPECT_EQ(Built(359.96F), Built(359.95F));
+}
+
 TEST(PilotSentence, IsWholeForEveryTenthOfADegree) {
   for (int tenths = 0; tenths < 3600; ++tenths) {
     const std::string sentence = Built(static_cast<float>(tenths / 10.0));
