@@ -174,10 +174,10 @@ SettingValue<StructOf<Where>> Named(Where where, std::vector<std::string> names)
 
 /// Any text that is not empty; `what` says what it is.
 template <class Where>
-SettingValue<StructOf<Where>> Text(Where where, std::string what) {
+SettingValue<StructOf<Where>> Text(Where where, const std::string& what) {
   using Struct = StructOf<Where>;
   SettingValue<Struct> value;
-  value.Range = std::move(what);
+  value.Range = what;
   value.Read = [where](const Profile& profile, std::string_view section, std::string_view key, Struct& all) {
     profile.ProfileGet(section, key, At(all, where));
   };

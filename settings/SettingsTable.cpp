@@ -104,8 +104,7 @@ SettingTable<S> View() {
        "red on black in every window; File > Default leaves it", kViewMenu},
       {"View", "Save While Running", Truth(&S::m_bSaveWhileRunning), "",
        "settings are also saved ten seconds after a change; the bearing and the wanted angles go along and "
-       "set "
-       "nothing off",
+       "set nothing off",
        kViewMenu},
   };
 }
