@@ -72,6 +72,7 @@ void SourceWatch::Tick() {
 
 void SourceWatch::Saw(const SentenceKind& kind, const Readings& readings, bool complete,
                       bool variationKnown) {
+  static_assert(kBringers.size() == kOtherUnit, "a source without its row, or a row without its source");
   if (kind.IsWind) {
     CountWind(readings, complete);
   }

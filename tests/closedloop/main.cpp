@@ -236,7 +236,7 @@ std::string LargeShiftTable() {
 }
 
 std::string StandbyTable() {
-  Table table({"At the wheel", "for", "bearing off the heading", "largest error behind it"});
+  Table table({"At the wheel", "for", "bearing off the heading", "largest error after it"});
   for (const double off : {5.0, 10.0, 20.0}) {
     for (const double seconds : {30.0, 60.0, 120.0}) {
       const StandbyResult result = StandbyInTrack(LoopCase{}, off, seconds);

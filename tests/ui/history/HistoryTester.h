@@ -11,6 +11,7 @@
 #include <string>
 
 #include "bench/SampleDay.h"
+#include "history/HistoryTraces.h"
 #include "history/frmHistory.h"
 #include "tests/support/HandClock.h"
 #include "tests/support/QueuedDialogs.h"
@@ -73,6 +74,16 @@ class HistoryTester : public testing::Test {
       }
     }
     throw std::runtime_error("no trace " + name);
+  }
+
+  /// The legend's entry of a trace that is shown.
+  const ChartLegendEntry& Entry(const std::string& trace) {
+    for (const ChartLegendEntry& entry : Chart().Picture().Legend) {
+      if (Chart().Data().Traces()[static_cast<std::size_t>(entry.Trace)].Name == trace) {
+        return entry;
+      }
+    }
+    throw std::runtime_error("no entry " + trace);
   }
 
   std::string PathIn(const char* name) const { return m_folder.filePath(QLatin1String(name)).toStdString(); }
