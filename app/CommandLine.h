@@ -14,8 +14,8 @@ struct CommandLine {
   std::string Trouble;                 ///< what is wrong with it, as one line; "" when nothing is
 };
 
-/// Reads the words behind the name of the program. The first mistake counts; Help and Version are those that
-/// stand before it or behind it.
+/// Reads the words after the name of the program. The first mistake counts; Help and Version are those that
+/// stand before or after it.
 CommandLine ReadCommandLine(int argc, const char* const* argv);
 
 /// What --help prints.

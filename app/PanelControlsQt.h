@@ -79,7 +79,7 @@ class CaptionQt final : public QLabel {
 /// A box for one number. Enter takes the text and goes no further. Leaving the box takes it too, whatever the
 /// keyboard goes to: another control, a menu, another window. Its own pop-up menu does not leave it.
 /// Deliberate: leaving the box takes only a text that was edited, so that the rounded text does not overwrite
-/// the value behind it.
+/// the value that it was made of.
 class EntryBoxQt final : public QLineEdit {
  public:
   EntryBoxQt(const QString& name, const QString& pattern, QWidget* parent);

@@ -25,7 +25,7 @@ struct PolarSpeedOptions {
 /// it.
 PolarTable LoadedPolar(const std::string& file, float factor = 1.0F);
 
-/// Reads the line with this number, counted from 1, without its line feed; false behind the last one. Throws
+/// Reads the line with this number, counted from 1, without its line feed; false after the last one. Throws
 /// CommandError at a line that is longer than any question.
 bool NextLine(std::istream& in, long number, std::string& line);
 

@@ -67,7 +67,7 @@ struct SteeringArguments {
   }
 };
 
-/// Says what went wrong, as one line whatever the names in it hold; gives the exit status.
+/// Says what went wrong, as one line whatever the names in it hold; returns the exit status.
 int Complain(std::string_view text) {
   std::cerr << "veerwatch-cli: " << veerwatch::VisibleText(text) << '\n';
   return kExitBadCall;

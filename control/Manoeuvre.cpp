@@ -28,15 +28,15 @@ bool Manoeuvre::Open(float newHeading, float heading, float autoPilot, float win
 
   const float before = FoldRelative(static_cast<double>(windAngle));
   m_wind = static_cast<double>(before);
-  const float behind = FoldRelative(m_wind - (static_cast<double>(newHeading) - m_start));
-  const float low = std::min(before, behind);
-  const float high = std::max(before, behind);
+  const float after = FoldRelative(m_wind - (static_cast<double>(newHeading) - m_start));
+  const float low = std::min(before, after);
+  const float high = std::max(before, after);
   if (-90.0F < low && low < 0.0F && 0.0F < high && high < 90.0F) {
     m_kind = ManoeuvreKind::Tack;
-    m_direction = behind <= 0.0F ? 1 : -1;
+    m_direction = after <= 0.0F ? 1 : -1;
   } else if (low < -90.0F && high > 90.0F) {
     m_kind = ManoeuvreKind::Jibe;
-    m_direction = behind <= 0.0F ? -1 : 1;
+    m_direction = after <= 0.0F ? -1 : 1;
   } else {
     m_kind = ManoeuvreKind::Steer;
     m_direction = 0;

@@ -67,7 +67,7 @@ class TrackLoop {
   double TrackIntegral() const { return m_controller.Integral(); }
   double TrackGainIntegral() const { return m_controller.Gains().Integral; }
   double TrackGainProportional() const { return m_controller.Gains().Proportional; }
-  /// The bearing behind the latest pass in a mode other than Off [deg magnetic].
+  /// The bearing after the latest pass in a mode other than Off [deg magnetic].
   float PreviousAutoPilot() const { return m_previousAutoPilot; }
 
  private:

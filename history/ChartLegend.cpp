@@ -21,11 +21,11 @@ const char* const kLongest = "-188.8";
 // Parts of the text height.
 constexpr double kTwoLineCell = 3.0;  // a cell of this height has the name above the value
 constexpr double kNameRow = 1.2;
-constexpr double kNameGap = 0.5;  // between a name and the value behind it
+constexpr double kNameGap = 0.5;  // between a name and the value after it
 constexpr double kUnitsGap = 0.35;
 constexpr double kUnitsText = 0.9;
 constexpr double kLargestValue = 3.2;    // above its name
-constexpr double kLargestInLine = 1.15;  // behind its name
+constexpr double kLargestInLine = 1.15;  // after its name
 
 /// What all entries of a legend share.
 struct Columns {

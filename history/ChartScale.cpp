@@ -103,7 +103,7 @@ ValueScale CircularScale(ScaleKind kind, const std::vector<ValueInterval>& shown
   }
   std::size_t free = 0;
   std::size_t longest = 0;
-  std::size_t arcBegin = 0;  // the first degree behind the longest free arc
+  std::size_t arcBegin = 0;  // the first degree after the longest free arc
   for (std::size_t degree = 0; degree < 2 * kDegrees; ++degree) {
     if (!touched.test(degree % kDegrees)) {
       ++free;

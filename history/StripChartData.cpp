@@ -17,7 +17,7 @@ std::int64_t Whole(std::int64_t value, std::int64_t step) {
   return value - (rest < 0 ? rest + step : rest);
 }
 
-/// A sample's text at its first blank: the number, and the units behind it.
+/// A sample's text at its first blank: the number, and the units after it.
 struct SampleParts {
   std::string_view Number;
   std::string_view Units;

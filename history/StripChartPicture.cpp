@@ -32,7 +32,7 @@ double TextFor(const ChartView& view) {
 
 std::string ValueText(float value) { return FormatNumber(value, "0.0"); }
 
-/// The lowest and the highest value of a column behind its latest one; nothing where they are the same.
+/// The lowest and the highest value of a column after its latest one; nothing where they are the same.
 std::string EdgesText(const ValueScale& scale, const TraceBucket& bucket) {
   if (ValueText(bucket.Low) == ValueText(bucket.High)) {
     return "";

@@ -135,7 +135,7 @@ class StripChart final : public QWidget, public StripChartOperations {
 
   bool m_redraw = true;
   int m_redrawInterval = 10000;           ///< [ms]
-  std::optional<std::int64_t> m_endSlot;  ///< the slot behind the right edge; nothing: now
+  std::optional<std::int64_t> m_endSlot;  ///< the slot after the right edge; nothing: now
   double m_scrollRest = 0.0;              ///< notches of the wheel that did not make a slot yet
   double m_zoomRest = 0.0;                ///< notches of the wheel with Ctrl that did not make a step yet
   std::optional<Drag> m_drag;

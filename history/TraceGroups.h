@@ -12,7 +12,7 @@ namespace veerwatch {
 /// Where a trace belongs. Groups and scales count from 0.
 struct TraceGroup {
   int Group = 0;
-  /// The scale: that of its group, or, for directions, the one behind those of all groups. Angles to the bow
+  /// The scale: that of its group, or, for directions, the one after those of all groups. Angles to the bow
   /// and directions share a panel, and each has a scale of its own on its side.
   int Scale = 0;
   ScaleKind Kind = ScaleKind::Linear;

@@ -11,7 +11,7 @@ namespace veerwatch {
 inline constexpr double kPi = 3.14159265358979;
 
 /// Angle of the vector (X, Y) [rad, [-pi, pi]]; the cosine component comes first.
-/// Deliberate: X < 0 with Y exactly 0 gives -pi, not +pi.
+/// Deliberate: X < 0 with Y exactly 0 returns -pi, not +pi.
 double Atan2(double X, double Y);
 
 /// One step of a first-order filter over unit vectors: the new sample weighs 1 / Count, the old average the

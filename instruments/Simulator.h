@@ -19,7 +19,7 @@ class Simulator {
   void Tick(const Moment& now);
 
   /// Moves the boat along the autopilot bearing from m_fSimulateTime to `Time` [h] at the simulated speed,
-  /// and gives the waypoint from there: bearing [deg, [-180, 180] once moved], range [nm]. Time 0 puts the
+  /// and returns the waypoint from there: bearing [deg, [-180, 180] once moved], range [nm]. Time 0 puts the
   /// boat back; the same time again changes nothing. A time or a result that is not finite changes nothing
   /// either.
   void SimulateTime(float Time, float& TimeWaypointBearing, float& TimeWaypointRange);

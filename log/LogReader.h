@@ -20,7 +20,7 @@ class LogReader {
 
   LogReader(std::istream& stream, LineEnds ends) : m_stream(stream), m_ends(ends) {}
 
-  /// Gives the next line without its end; false behind the last one.
+  /// Reads the next line without its end; false after the last one.
   bool Next(std::string& line);
 
  private:

@@ -6,7 +6,7 @@
 
 namespace veerwatch {
 
-/// Each gives nothing for a text that is no number and for a number out of range.
+/// Each returns nothing for a text that is no number and for a number out of range.
 
 /// An angle, heading or course [deg, [-360, 360]].
 std::optional<float> AngleField(std::string_view field);

@@ -18,7 +18,7 @@ class Fields {
   static constexpr std::size_t kKept = 16;
 
   /// Splits `line` at its commas. The first must be the 7th character, else there are no fields. The last
-  /// field ends at the first "*" behind the last comma, or at the end of the line. Deliberate: a last field
+  /// field ends at the first "*" after the last comma, or at the end of the line. Deliberate: a last field
   /// of one character in a line without any "*" is empty.
   explicit Fields(std::string_view line);
 

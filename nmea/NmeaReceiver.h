@@ -66,7 +66,7 @@ class NmeaReceiver final : public SerialPort::Events {
 
   void OnComm(int commEvent) override;
   void OnPortLost() override;
-  void OnPortOverslept() override { m_framer.Clear(); }
+  void OnPortStandstill() override { m_framer.Clear(); }
 
  private:
   void Receive();

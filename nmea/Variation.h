@@ -16,7 +16,7 @@ struct VariationValue {
   void AddTo(Readings& readings) const;
 };
 
-/// Reads field `n` and its direction in the field behind, where the line has at least n + 1 fields.
+/// Reads field `n` and its direction in the field after it, where the line has at least n + 1 fields.
 VariationValue DecodeVariation(const Fields& fields, std::size_t n);
 
 }  // namespace veerwatch

@@ -35,7 +35,7 @@ class LiveLines {
   void Type(std::string_view type);
   bool Wants(std::string_view text) const { return m_type.empty() || LiveLineType(text) == m_type; }
 
-  /// Lines that come while it pauses wait; afterwards they stand behind the others.
+  /// Lines that come while it pauses wait; afterwards they stand after the others.
   void Pause(bool paused);
   bool Paused() const { return m_paused; }
   void Wait(std::string_view text, bool highlighted) { Put(m_waiting, {std::string(text), highlighted}); }

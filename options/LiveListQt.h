@@ -42,7 +42,7 @@ class LiveListQt final : public QListView {
  public:
   LiveListQt(const char* name, const char* hint, QWidget* parent);
 
-  /// Adds a line behind all others. The list follows once per turn of the event loop.
+  /// Adds a line after all others. The list follows once per turn of the event loop.
   void Add(std::string_view text, bool highlighted);
   void Clear() { m_lines->Clear(); }
 

@@ -8,7 +8,7 @@
 
 namespace veerwatch {
 
-/// The hours [h] in a text: the number in front of the first colon and a sixtieth of the number behind it. A
+/// The hours [h] in a text: the number in front of the first colon and a sixtieth of the number after it. A
 /// part that is no number is a fault. Deliberate: without a colon, or with one at the beginning, the result
 /// is 0, so "1.5" is no time.
 Converted<float> SimulateTimeParse(std::string_view text);

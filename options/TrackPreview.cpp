@@ -27,7 +27,7 @@ struct Numbers {
   double Max = 0.0;
 };
 
-/// Reads the boxes; gives the line about the first that is no number, or "".
+/// Reads the boxes; returns the line about the first that is no number, or "".
 std::string Read(const TrackPreviewTexts& texts, Numbers& numbers) {
   struct Box {
     const char* Name;

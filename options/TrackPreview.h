@@ -75,7 +75,7 @@ struct TrackPreview {
   std::vector<int> Rows;
   /// In the order in which they are drawn.
   std::array<TrackReference, 3> References{{{1.0, 0xFF0000, 0}, {0.0, 0x00FF00, 0}, {-1.0, 0xFF0000, 0}}};
-  /// The offset at column 0 and the bearing behind each pass, from 0 seconds on. Of more than two points on
+  /// The offset at column 0 and the bearing after each pass, from 0 seconds on. Of more than two points on
   /// one column the first, the least, the largest and the last row are kept, which look the same. Empty when
   /// nothing is drawn.
   std::vector<TrackPoint> Trace;

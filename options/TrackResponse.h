@@ -31,7 +31,7 @@ std::string TrackResponseTrouble(const TrackResponseInputs& inputs);
 /// What to say when a response leaves the range of finite numbers.
 inline constexpr const char* kTrackResponseDiverges = "Bandwidth: the response grows beyond all numbers";
 
-/// The bearings behind the passes at 0, 1, 2, ... seconds, to the last whole second of the run [deg], one
+/// The bearings after the passes at 0, 1, 2, ... seconds, to the last whole second of the run [deg], one
 /// pass of the loop's law a second, each taking one random number. Nothing when an input allows no response
 /// or it leaves the finite range. Deliberate: the error includes the noise, and the bearing is not reduced to
 /// a turn.

@@ -5,11 +5,11 @@
 namespace veerwatch {
 
 /// Folds once into (-180, 180]; exact for inputs within 540 either way.
-/// Deliberate: larger inputs are corrected once and stay out of range (600 gives 240).
+/// Deliberate: larger inputs are corrected once and stay out of range (600 returns 240).
 double AngleRelative(double Angle);
 
 /// Folds once into [0, 360); exact for inputs from -360 to below 720.
-/// Deliberate: one correction only (-400 gives -40).
+/// Deliberate: one correction only (-400 returns -40).
 double AngleAbsolute(double Angle);
 
 /// Folds any finite angle into [0, 360) and narrows it, so that the single too stays below 360.

@@ -11,7 +11,7 @@ class ApplicationQt final : public QApplication {
   ApplicationQt(int& argc, char** argv) : QApplication(argc, argv) {}
 
   /// Every event finds the vector registers clean: Qt's drawing leaves its traces in them, and whatever is
-  /// computed behind a repaint, for the autopilot too, would wait for those.
+  /// computed after a repaint, for the autopilot too, would wait for those.
   bool notify(QObject* receiver, QEvent* event) override;
 };
 

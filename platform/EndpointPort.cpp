@@ -107,7 +107,7 @@ void EndpointPort::Wake() {
   // Before anything is told: whoever hears of it may turn the event loop.
   Later(m_beatTime, now, kBeat);
   if (Events* const events = Connected(); events != nullptr && stoodStill) {
-    events->OnPortOverslept();
+    events->OnPortStandstill();
   }
   if (pump) {
     Pump();

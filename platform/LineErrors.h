@@ -32,8 +32,8 @@ class LineErrorWatch {
   /// error.
   void Restart() { m_last.reset(); }
 
-  /// Reads the counters and gives the event code of each kind that grew since the last reading, once each, in
-  /// the order kBreak, kFrame, kOverrun, kRxParity, kRxOver. The first reading only sets the start, and so
+  /// Reads the counters and returns the event code of each kind that grew since the last reading, once each,
+  /// in the order kBreak, kFrame, kOverrun, kRxParity, kRxOver. The first reading only sets the start, and so
   /// does one in which any counter has gone back, as it does when the device was reset. No reading changes
   /// nothing.
   std::vector<int> Poll(LineErrorCounters& counters);

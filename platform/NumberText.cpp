@@ -22,7 +22,7 @@ struct Scanned {
   bool Negative = false;
   bool Plain = true;         ///< no exponent, and Digits holds all digits
   std::uint64_t Digits = 0;  ///< the digits without the point
-  int Decimals = 0;          ///< how many of them stand behind the point
+  int Decimals = 0;          ///< how many of them stand after the point
 };
 
 enum class Exponent { Read, Ignored };

@@ -12,12 +12,12 @@ std::string_view Trim(std::string_view text);
 
 /// `value` by a pattern of zeros with at most one point, as "0", "0.0", "0.00", "000.0", "00" or ".0": the
 /// zeros before the point are the least number of integer digits, those after it the exact number of
-/// decimals. Rounds the shortest decimal text of the single, halves away from zero (5.25 gives "5.3"), and
-/// never gives "-0". A value that is not finite gives "".
+/// decimals. Rounds the shortest decimal text of the single, halves away from zero (5.25 returns "5.3"), and
+/// never returns "-0". A value that is not finite returns "".
 std::string FormatNumber(float value, std::string_view pattern);
 
 /// The shortest decimal text that reads back as the same single, without an exponent ("92.3", "5", "0.5").
-/// A value that is not finite gives "".
+/// A value that is not finite returns "".
 std::string ShortestText(float value);
 
 /// A whole text as a number: an optional sign, digits with an optional point, an optional exponent, blanks

@@ -1,4 +1,4 @@
-// What a port has to send: at most one bundle of sentences on its way and the newest one behind it. However
+// What a port has to send: at most one bundle of sentences on its way and the newest one after it. However
 // slow the line and whether or not anybody reads, nothing old piles up, and bundles leave whole and in order.
 #pragma once
 
@@ -21,7 +21,7 @@ class OutputSlot {
     /// True while anything that it took has not left, where it can tell.
     virtual bool Leaving() = 0;
     /// Takes characters from the front of `text`, as many as it has room for at this moment, and sends them
-    /// in its own time. Gives how many it took; 0 while it takes none. Never blocks.
+    /// in its own time. Returns how many it took; 0 while it takes none. Never blocks.
     virtual std::size_t Write(std::string_view text) = 0;
   };
 

@@ -65,7 +65,7 @@ std::string ProgramName(pid_t process) {
 
 using Folder = std::unique_ptr<DIR, int (*)(DIR*)>;
 
-/// Calls `look` with the name of each entry of `path` until it gives false.
+/// Calls `look` with the name of each entry of `path` until it returns false.
 template <class Look>
 void ForEntries(const std::string& path, Look&& look) {
   const Folder folder(::opendir(path.c_str()), ::closedir);

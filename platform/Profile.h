@@ -46,7 +46,7 @@ class Profile {
   void ProfileGet(std::string_view section, std::string_view key, float& value) const;
   void ProfileGet(std::string_view section, std::string_view key, std::string& value) const;
 
-  // Each sets a key, in its own line when it is there, else behind the last line of its section, else in a
+  // Each sets a key, in its own line when it is there, else after the last line of its section, else in a
   // new section at the end.
 
   void ProfileSet(std::string_view section, std::string_view key, bool value);

@@ -36,7 +36,7 @@ class SerialPort {
     /// The device went away; the port has closed itself.
     virtual void OnPortLost() = 0;
     /// The program itself stood still, and what had arrived meanwhile was dropped as too old.
-    virtual void OnPortOverslept() {}
+    virtual void OnPortStandstill() {}
   };
 
   /// The tie between a port and whoever hears of its events. Its end unties them, so a member of this type
@@ -81,18 +81,18 @@ class SerialPort {
   /// Hands a bundle to the port: one or more whole sentences that belong together, each with its line end.
   /// They leave in their order, with nothing between them. Never blocks; a device that has room has the
   /// bundle on return. While an earlier bundle has not left wholly, the newest takes the place of any that
-  /// waits behind it, as a whole; one that waits for more than two seconds is forgotten. A bundle of which
+  /// waits after it, as a whole; one that waits for more than two seconds is forgotten. A bundle of which
   /// anything has gone to the device is replaced and forgotten no more. Without effect on a closed port.
   virtual void Output(std::string_view bundle) = 0;
 
   /// How many bundles have gone to the device; one that waits, or was forgotten, is not among them.
   virtual std::uint64_t Sent() const = 0;
 
-  /// Forgets a bundle that waits behind one that has not left.
+  /// Forgets a bundle that waits after one that has not left.
   virtual void Withdraw() = 0;
 
   /// Asks the driver for line errors since the last time and raises an event, at once, for each kind that
-  /// occurred. The port itself asks behind every receive event.
+  /// occurred. The port itself asks after every receive event.
   virtual void PollLineErrors() = 0;
 
  protected:

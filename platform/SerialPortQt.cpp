@@ -149,7 +149,7 @@ std::size_t SerialPortQt::Write(std::string_view text) {
     return 0;
   }
   const qint64 taken = m_port.write(text.data(), static_cast<qint64>(text.size()));
-  // Qt would keep it until the event loop comes round, behind everything that follows from the same wind. A
+  // Qt would keep it until the event loop comes round, after everything that follows from the same wind. A
   // driver that has no room is asked by the loop; asked here, it would count as an error of the port.
   m_handed = DriverTakes(m_port) && m_port.flush();
   return static_cast<std::size_t>(taken > 0 ? taken : 0);

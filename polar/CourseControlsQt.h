@@ -21,8 +21,8 @@ class CourseControlsQt {
   /// The user wants to see the ledger, or not.
   void Want(bool wanted);
 
-  /// Fits the panel to the plot's size, and gives the room that it needs beside the plot [px]; none while it
-  /// is hidden or has been dragged away.
+  /// Fits the panel to the plot's size, and returns the room that it needs beside the plot [px]; none while
+  /// it is hidden or has been dragged away.
   PlotRoom Room();
   /// Puts both where they belong on a plot that is drawn anew.
   void Place(const PolarStill& still);

@@ -64,7 +64,7 @@ struct LedgerInput {
 
 /// The ledger for the course source, the scaling and the boat in `settings`. With Course Scale all speeds
 /// follow the boat's own. Deliberate: under motor and sail they do so without it too. Leg times are the
-/// shares of the whole time. Under motor and sail the time at the motor speed stands behind that under sail.
+/// shares of the whole time. Under motor and sail the time at the motor speed stands after that under sail.
 LedgerContent CourseLedger(const PolarSettings& settings, const LedgerInput& input,
                            const CourseSolution& solution);
 

@@ -97,7 +97,7 @@ std::vector<std::string_view> Cells(std::string_view line, char separator) {
     cells.push_back(Bare(line.substr(at, end - at)));
     at = end + 1;
   }
-  // A separator behind the last cell means nothing.
+  // A separator after the last cell means nothing.
   while (!cells.empty() && cells.back().empty()) {
     cells.pop_back();
   }
@@ -134,7 +134,7 @@ class Reader {
     }
   }
 
-  /// Gives the note.
+  /// Returns the note.
   std::string Store(PolarTable& table, int slot, int lastLine) {
     if (m_winds.empty()) {
       Fail(std::max(lastLine, 1), "no table");
@@ -276,18 +276,18 @@ class Reader {
       return Interpolate(wind, less->first, more->first, less->second, more->second);
     }
     Neighbour before;
-    Neighbour behind;
+    Neighbour after;
     for (std::size_t i = 0; i < known.size(); ++i) {
       if (const Speed speed = known[i].Speeds[column]) {
         if (i < row) {
           before = {known[i].Angle, *speed};
-        } else if (!behind) {
-          behind = {known[i].Angle, *speed};
+        } else if (!after) {
+          after = {known[i].Angle, *speed};
         }
       }
     }
-    if (before && behind) {
-      return Interpolate(known[row].Angle, before->first, behind->first, before->second, behind->second);
+    if (before && after) {
+      return Interpolate(known[row].Angle, before->first, after->first, before->second, after->second);
     }
     if (more) {
       return Interpolate(wind, 0.0F, more->first, 0.0F, more->second);

@@ -2,7 +2,7 @@
 //
 //     # comment                    cells separated by tabs, semicolons, commas or blanks, as in the first
 //     line twa/tws;6;8;10               "twa", "twa/tws" or "TWA\TWS" in any case; a byte order mark before
-//     it 52;5,1;;6,4                  comma as the decimal sign behind tabs and semicolons; a blank cell
+//     it 52;5,1;;6,4                  comma as the decimal sign after tabs and semicolons; a blank cell
 //     40;4,4;5,2;5,8               rows and columns in any order
 //
 // The program itself opens only its own format (polar/PolarFile); this is for converting.

@@ -19,7 +19,7 @@ enum class CellEnd { Tab, LineFeed, EndOfFile };
 
 /// How a load ended.
 struct PolarLoadResult {
-  bool Loaded = false;  ///< the end of the file was reached behind a line end
+  bool Loaded = false;  ///< the end of the file was reached after a line end
   std::string Error;    ///< the text for a message box; "" for none, also for a file without a last line end
   /// The first line was whole: what the slot holds now is of this file, if only in part. False leaves all
   /// that counts of the slot as it was.

@@ -27,7 +27,7 @@ TEST(CommandLine, AsksForHelpOrTheVersion) {
   for (const char* word : {"-h", "--help"}) {
     EXPECT_TRUE(Read({word}).Help);
     EXPECT_FALSE(Read({word}).Version);
-    EXPECT_TRUE(Read({"-platform", "offscreen", word}).Help) << "behind the toolkit's options";
+    EXPECT_TRUE(Read({"-platform", "offscreen", word}).Help) << "after the toolkit's options";
   }
   for (const char* word : {"-v", "--version"}) {
     EXPECT_TRUE(Read({word}).Version);

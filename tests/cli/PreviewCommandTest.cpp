@@ -74,7 +74,7 @@ TEST(PreviewCommand, RefusesWhatTheOptionsWouldNotTake) {
 TEST(PreviewCommand, ResponseBeyondASingleStopsIt) {
   const std::string grows = "Bandwidth: the response grows beyond all numbers";
   EXPECT_EQ(Stopped({0.01, 1.0, 10.0, 1.0, 1000.0}), grows);
-  // About 320 times as much each second: beyond a single behind 16, within a double.
+  // About 320 times as much each second: beyond a single after 16, within a double.
   EXPECT_EQ(Stopped({0.01, 1.0, 10.0, 0.0, 30.0}), grows);
   EXPECT_EQ(Stopped({0.01, 1.0, 10.0, 0.0, 5.0}), "");
 }

@@ -75,7 +75,7 @@ TEST(Replay, HoldsInTrackWhatWasSailedInSetup) {
   EXPECT_EQ(objects[1]["desired"][0], 45.0);
   EXPECT_EQ(objects[2]["desired"][0], 45.0);
   EXPECT_EQ(objects[2]["delta"][0], 5.0);
-  // 40 + 5 * (0.2 * 64 / 65), and the accumulator behind it: 5 * (0.2 / 65).
+  // 40 + 5 * (0.2 * 64 / 65), and the accumulator after it: 5 * (0.2 / 65).
   EXPECT_NEAR(objects[2]["autopilot"].get<double>(), 40.984615, 1e-5);
   EXPECT_NEAR(objects[2]["integral"].get<double>(), 0.0153846, 1e-6);
 }

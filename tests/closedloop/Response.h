@@ -23,8 +23,8 @@ struct LoopCase {
 struct ShiftCase {
   LoopCase Loop;
   double Shift = 10.0;     ///< of the wind's direction [deg]
-  double Seconds = 600.0;  ///< watched behind the shift
-  /// Given the time behind the shift [s] and the error [deg], at every tick of the boat.
+  double Seconds = 600.0;  ///< watched after the shift
+  /// Given the time after the shift [s] and the error [deg], at every tick of the boat.
   std::function<void(double, double)> Each;
 };
 
@@ -46,7 +46,7 @@ struct GustResult {
   double Untracked = 0.0;  ///< the same with the bearing left alone [deg]
 };
 
-/// Half an hour in the boat's own gusts, five minutes behind the start of tracking.
+/// Half an hour in the boat's own gusts, five minutes after the start of tracking.
 GustResult HoldInGusts(const LoopCase& what, std::uint64_t seed);
 
 struct StandbyResult {

@@ -94,7 +94,7 @@ TEST_P(Sleeps, GoesOnWithWhatIsNew) {
     In.Write(ApparentWind("042"));
   }
   ASSERT_EQ(::kill(m_program->Id(), SIGCONT), 0);
-  // Behind a long sleep what arrives with the old is old too.
+  // After a long sleep what arrives with the old is old too.
   ASSERT_TRUE(Await([&] {
     WriteAll(In, "\r\n" + ApparentWind("048"));
     return Text("lblAppWindAngle") == "48";

@@ -72,7 +72,7 @@ TEST_F(RealPorts, GoesOnWhenTheInputDeviceComesBack) {
   in.reset();
   EXPECT_TRUE(Says("shows StatusBar(2)=Input Port 1 Not Open")) << m_program->Said();
 
-  // One single sentence waits in the device that comes back: behind the rest of the old line it would be
+  // One single sentence waits in the device that comes back: after the rest of the old line it would be
   // lost.
   Pty back;
   WriteAll(back, ApparentWind("042"));

@@ -22,7 +22,7 @@ class StuckPilot : public RealPorts {
     ASSERT_GE(m_filler, 0);
     Sail();
     Click("tbrTrack(7)");
-    // The kernel moves what it holds in steps, so that room shows up again behind the first filling.
+    // The kernel moves what it holds in steps, so that room shows up again after the first filling.
     for (int quiet = 0; quiet < 5; quiet = Fill() == 0 ? quiet + 1 : 0) {
       std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
@@ -38,7 +38,7 @@ class StuckPilot : public RealPorts {
     }
   }
 
-  /// What comes out behind the filling, until nothing more does for half a second.
+  /// What comes out after the filling, until nothing more does for half a second.
   std::string Drain() {
     std::string all;
     for (int quiet = 0; quiet < 25;) {

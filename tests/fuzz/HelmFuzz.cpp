@@ -1,5 +1,5 @@
 // Any bytes on the instrument port in every mode: the record stays sound, all that is told is a number, only
-// whole sentences leave, no memory grows, and the first good sentence behind it all counts.
+// whole sentences leave, no memory grows, and the first good sentence after it all counts.
 #include <algorithm>
 #include <array>
 #include <cmath>

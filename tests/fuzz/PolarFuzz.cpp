@@ -1,5 +1,5 @@
 // Any bytes as a polar file: loaded, saved, looked up, and asked for the best course. The first 22 bytes
-// choose how the table is seen and what is asked; behind them the file begins.
+// choose how the table is seen and what is asked; after them the file begins.
 #include <cmath>
 #include <cstddef>
 #include <cstdint>

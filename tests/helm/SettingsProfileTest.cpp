@@ -149,7 +149,7 @@ TEST(SettingsProfile, EachKeyIsReadAloneAndWrittenBack) {
     for (const Key& other : kKeys) {
       const bool same = &other == &key;
       EXPECT_EQ(Written(settings, other), same ? other.Other : other.Default)
-          << other.Section << "/" << other.Name << " behind " << key.Section << "/" << key.Name;
+          << other.Section << "/" << other.Name << " after " << key.Section << "/" << key.Name;
     }
   }
 }
@@ -177,7 +177,7 @@ TEST(SettingsProfile, FalseAndZeroSwitchTheAlarmOff) {
   EXPECT_TRUE(ReadFrom(With("Track", "Alarm", "1")).m_bTrackAlarm);
 }
 
-TEST(SettingsProfile, TheDefaultsReturnBehindAProfileWithOtherDesiredAngles) {
+TEST(SettingsProfile, TheDefaultsReturnAfterAProfileWithOtherDesiredAngles) {
   Settings settings = ReadFrom(With("Track", "Desired 1", "30"));
   ASSERT_EQ(settings.DesiredAngle[1], 30.0F);
   SettingsDefault(settings);

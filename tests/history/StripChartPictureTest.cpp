@@ -160,7 +160,7 @@ TEST_F(StripChartPictureTest, TheValuesOfTheLegendStandUnderEachOtherByTheirPoin
         EXPECT_EQ(entry.Value.Box.Right(), first.Box.Right());
         EXPECT_EQ(entry.Value.Height, first.Height);
         EXPECT_EQ(entry.Value.Align, ChartText::Side::Right);
-        // Right-aligned and bold it still begins behind the bar.
+        // Right-aligned and bold it still begins after the bar.
         EXPECT_GT(entry.Value.Box.Right() - EvenMeasure().BoldWidth(entry.Value.Text, entry.Value.Height),
                   entry.Swatch.Right());
       }
@@ -271,7 +271,7 @@ TEST_F(StripChartPictureTest, ADayHasAFewTimes) {
   EXPECT_GT(Picture.PerBucket, 1);
 }
 
-TEST_F(StripChartPictureTest, AJumpOfTheClockIsMarkedAndTheTimesGoOnBehindIt) {
+TEST_F(StripChartPictureTest, AJumpOfTheClockIsMarkedAndTheTimesGoOnAfterIt) {
   for (int i = 0; i < 60; ++i) {
     Add("Heading", "90.0 M");
     Time.Pass(10000);

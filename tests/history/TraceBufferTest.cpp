@@ -81,7 +81,7 @@ TEST_F(TraceBufferTest, AValueThatIsNotFiniteMakesAGap) {
   }
 }
 
-TEST_F(TraceBufferTest, BeginsAnewBehindAGap) {
+TEST_F(TraceBufferTest, BeginsAnewAfterAGap) {
   const TraceSlot& slot = Feed(TraceKind::Speed, {5.0F, std::nanf(""), 8.0F});
   EXPECT_EQ(slot.Low, 8.0F);
   EXPECT_EQ(slot.High, 8.0F);

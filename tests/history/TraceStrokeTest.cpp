@@ -43,7 +43,7 @@ TEST(TraceStroke, SoIsASlope) {
 }
 
 TEST(TraceStroke, PiecesReachOverACornerUntilTheirOuterEdgesMeet) {
-  // Level, then 45 degrees down: the outer edges meet tan(22.5 degrees) half widths behind the corner.
+  // Level, then 45 degrees down: the outer edges meet tan(22.5 degrees) half widths after the corner.
   const auto pieces = Pieces({{0.0, 0.0}, {10.0, 0.0}, {20.0, 10.0}});
   const double reach = kWidth / 2.0 * std::tan(22.5 * M_PI / 180.0);
   ASSERT_EQ(pieces.size(), 2U);

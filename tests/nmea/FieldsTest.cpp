@@ -36,7 +36,7 @@ TEST(Fields, TheLastOneEndsAtTheStar) {
   EXPECT_THAT(Split("$IIHVM,5.0,*7A"), ElementsAre("5.0", ""));
 }
 
-TEST(Fields, TheLastOneEndsAtTheFirstStarBehindTheLastComma) {
+TEST(Fields, TheLastOneEndsAtTheFirstStarAfterTheLastComma) {
   EXPECT_THAT(Split("$IIHVM,5*1,W*7A*7B"), ElementsAre("5*1", "W"));
 }
 

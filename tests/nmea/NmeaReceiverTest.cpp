@@ -59,7 +59,7 @@ TEST_F(NmeaReceiverTest, AStartEmptiesTheLineBuffer) {
   EXPECT_EQ(m_receiver.LineBuffer(), "");
 }
 
-TEST_F(NmeaReceiverTest, AStartBehindAStopOpensTheNewNumber) {
+TEST_F(NmeaReceiverTest, AStartAfterAStopOpensTheNewNumber) {
   Start();
   m_settings.m_iNmeaPort = 9;
   m_receiver.NmeaStop();

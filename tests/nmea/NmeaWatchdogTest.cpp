@@ -13,7 +13,7 @@ using NmeaWatchdog = NmeaReceiverTest;
 // --- The watchdog
 // ------------------------------------------------------------------------------------------------
 
-TEST_F(NmeaWatchdog, FourSilentTicksAreReportedAndWithdrawnAtTheFirstTickBehindNewData) {
+TEST_F(NmeaWatchdog, FourSilentTicksAreReportedAndWithdrawnAtTheFirstTickAfterNewData) {
   Start();
   EXPECT_THAT(Watch(6), ElementsAre("|Running", "|Running", "|Running", "No Input Data|No Input Data",
                                     "No Input Data|No Input Data", "No Input Data|No Input Data"));

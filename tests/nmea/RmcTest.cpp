@@ -51,7 +51,7 @@ TEST(Rmc, NeedsSevenFieldsForSpeedEightForCourseElevenForVariation) {
   EXPECT_EQ(Decode("$GPRMC,,A,,,,,5.2,230.0,,3.1,E*00").Variation.Degrees, 3.1F);
 }
 
-TEST(Rmc, TakesTheModeBehindTheVariation) {
+TEST(Rmc, TakesTheModeAfterTheVariation) {
   EXPECT_EQ(Decode("$GPRMC,,A,,,,,5.2,230.0,,3.1,W,A*00").Variation.Degrees, -3.1F);
   EXPECT_EQ(Decode("$GPRMC,,A,,,,,5.2,230.0,,3.1,W,A").Variation.Degrees, -3.1F);
 }

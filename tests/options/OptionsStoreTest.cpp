@@ -135,7 +135,7 @@ void PrintTo(const Failing& failing, std::ostream* out) { *out << failing.Group;
 
 class OptionsStoringFails : public OptionsStoring, public testing::WithParamInterface<Failing> {};
 
-TEST_P(OptionsStoringFails, BehindWhatWasStoredBefore) {
+TEST_P(OptionsStoringFails, AfterWhatWasStoredBefore) {
   OptionsForm form = OtherForm();
   GetParam().Spoil(form);
   EXPECT_EQ(Store.Store(form),

@@ -115,7 +115,7 @@ TEST_F(EndpointPortTest, DoesNothingOnceItIsClosed) {
   EXPECT_EQ(m_port.Heard, "");
   EXPECT_THAT(m_owner.Codes, IsEmpty());
   EXPECT_EQ(m_owner.Lost, 0);
-  EXPECT_EQ(m_owner.Overslept, 0);
+  EXPECT_EQ(m_owner.Standstills, 0);
   EXPECT_EQ(m_port.WakeAsked, std::nullopt);
 }
 
@@ -178,7 +178,7 @@ TEST_F(EndpointPortTest, OffersAgainAfterAHundredMillisecondsUntilItIsRead) {
   EXPECT_EQ(m_owner.Text, "x");
 }
 
-TEST_F(EndpointPortTest, OffersAtOnceWhatArrivesBehindSomethingUnread) {
+TEST_F(EndpointPortTest, OffersAtOnceWhatArrivesAfterSomethingUnread) {
   m_owner.Handle = [] {};
   m_port.Arrive("x");
   m_port.Turn();
@@ -299,7 +299,7 @@ TEST_F(EndpointPortTest, KeepsBeatingWhileAnEventTurnsTheLoop) {
   m_port.Turn();
   m_port.Arrive("y");
   m_port.Turn();
-  EXPECT_EQ(m_owner.Overslept, 0);
+  EXPECT_EQ(m_owner.Standstills, 0);
   EXPECT_EQ(m_owner.Text, "xy");
 }
 
@@ -312,14 +312,14 @@ TEST_F(EndpointPortTest, BeatsTwiceASecond) {
   m_port.Pass(1);
   EXPECT_EQ(m_port.WakeAsked, 500) << "asked anew";
   m_port.Pass(3'600'000);
-  EXPECT_EQ(m_owner.Overslept, 0);
+  EXPECT_EQ(m_owner.Standstills, 0);
 }
 
 TEST_F(EndpointPortTest, TakesTwoSecondsWithoutABeatForNoStandstill) {
   m_port.Arrive("x");
   m_clock.Pass(2000);
   m_port.Turn();
-  EXPECT_EQ(m_owner.Overslept, 0);
+  EXPECT_EQ(m_owner.Standstills, 0);
   EXPECT_EQ(m_owner.Text, "x");
 }
 
@@ -327,7 +327,7 @@ TEST_F(EndpointPortTest, DropsWhatWaitedForMoreThanTwoSecondsWithoutABeat) {
   m_port.Arrive("old");
   m_clock.Pass(2001);
   m_port.Turn();
-  EXPECT_EQ(m_owner.Overslept, 1);
+  EXPECT_EQ(m_owner.Standstills, 1);
   EXPECT_EQ(m_owner.Text, "");
   EXPECT_THAT(m_owner.Codes, IsEmpty());
 }
@@ -343,7 +343,7 @@ TEST_F(EndpointPortTest, DropsWhatArrivesInTheFirstThreeTenthsAfterAStandstill) 
   m_port.Arrive("new");
   m_port.Turn();
   EXPECT_EQ(m_owner.Text, "new");
-  EXPECT_EQ(m_owner.Overslept, 1);
+  EXPECT_EQ(m_owner.Standstills, 1);
 }
 
 TEST_F(EndpointPortTest, DropsAllThatWaitedAlsoWhatHadNoRoom) {
@@ -374,7 +374,7 @@ TEST_F(EndpointPortTest, TakesTheTimeWhenItWasClosedForNoStandstill) {
   m_port.PortOpen(true);
   m_port.Arrive("new");
   m_port.Turn();
-  EXPECT_EQ(m_owner.Overslept, 0);
+  EXPECT_EQ(m_owner.Standstills, 0);
   EXPECT_EQ(m_owner.Text, "new");
 }
 

@@ -10,7 +10,7 @@
 namespace veerwatch {
 namespace {
 
-TEST(NumberPart, NothingBehindTheEndOfTheTextIsRead) {
+TEST(NumberPart, NothingAfterTheEndOfTheTextIsRead) {
   const std::string_view longer = "1e123456789";
   EXPECT_EQ(StrictNumber(longer.substr(0, 3)), 10.0F);
   EXPECT_EQ(StrictDouble(longer.substr(0, 4)), 1e12);

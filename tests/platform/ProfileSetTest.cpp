@@ -28,7 +28,7 @@ TEST_F(ProfileTest, SetsTheFirstOfTwoEqualKeysAndLeavesTheSecond) {
   EXPECT_EQ(profile.Content(), "[S]\nK=3\nK=2\n");
 }
 
-TEST_F(ProfileTest, SetsANewKeyBehindTheLastLineOfItsSection) {
+TEST_F(ProfileTest, SetsANewKeyAfterTheLastLineOfItsSection) {
   Profile profile = Loaded("[A]\nX=1\n[B]\nY=2\n");
   profile.ProfileSet("A", "K", "new");
   EXPECT_EQ(profile.Content(), "[A]\nX=1\nK=new\n[B]\nY=2\n");

@@ -46,8 +46,8 @@ TEST(SmoothLine, HasNoCorners) {
       SmoothLine({{10.0, 0.0}, {60.0, 30.0}, {80.0, 90.0}, {40.0, 150.0}, {0.0, 170.0}}, 0.0);
   for (std::size_t i = 1; i + 1 < line.size(); ++i) {
     const double before = std::atan2(line[i].Y - line[i - 1].Y, line[i].X - line[i - 1].X);
-    const double behind = std::atan2(line[i + 1].Y - line[i].Y, line[i + 1].X - line[i].X);
-    EXPECT_LT(std::fabs(std::remainder(behind - before, 2.0 * std::acos(-1.0))), 0.35) << i;
+    const double after = std::atan2(line[i + 1].Y - line[i].Y, line[i + 1].X - line[i].X);
+    EXPECT_LT(std::fabs(std::remainder(after - before, 2.0 * std::acos(-1.0))), 0.35) << i;
   }
 }
 

@@ -31,7 +31,7 @@ TEST(PolarDialect, ReadsEveryLineEndAndAByteOrderMark) {
   EXPECT_EQ(Converted("TWA\t6\t10\r40\t4\t5.5\r90\t6\t7.5"), kPlain);
 }
 
-TEST(PolarDialect, ReadsCommasAsDecimalSignsBehindSemicolonsAndTabs) {
+TEST(PolarDialect, ReadsCommasAsDecimalSignsAfterSemicolonsAndTabs) {
   EXPECT_EQ(Converted("TWA;6,0;10\n40;4,0;5,5\n90;6;7.5\n"), kPlain);
   EXPECT_EQ(Converted("TWA\t6\t10\n40\t4,0\t5,5\n90\t6,0\t7,5\n"), kPlain);
 }

@@ -71,7 +71,7 @@ TEST(PolarLoad, IsFalseWithoutATextWhenTheLastLineHasNoEnd) {
   EXPECT_EQ(table.Value(0, 2, 2), 6.0F) << "the values are stored all the same";
 }
 
-TEST(PolarLoad, IsFalseWithoutATextBehindALastTab) {
+TEST(PolarLoad, IsFalseWithoutATextAfterALastTab) {
   PolarTable table;
   const PolarLoadResult result = ReadText(table, "TWA\t6\n30\t");
   EXPECT_FALSE(result.Loaded);
@@ -254,7 +254,7 @@ TEST(PolarLoad, RefusesAtOnceWhatIsTooLargeOrNoFile) {
   EXPECT_TRUE(PolarLoad(table, 0, 1.0F, folder / "a.pol").Loaded) << "the largest one";
   WriteFile(folder / "a.pol", start + std::string(kLargestPolar - start.size(), ' ') + "\n");
   EXPECT_EQ(Refused(folder / "a.pol"), "Polar File Error: larger than 1 MiB");
-  // 40 GB that take no room on the disk, behind a good beginning.
+  // 40 GB that take no room on the disk, after a good beginning.
   ASSERT_EQ(::truncate((folder / "a.pol").c_str(), off_t{40} << 30), 0);
   EXPECT_EQ(Refused(folder / "a.pol"), "Polar File Error: larger than 1 MiB");
   ASSERT_EQ(::mkfifo((folder / "pipe.pol").c_str(), 0600), 0);

@@ -64,8 +64,8 @@ void ExpectFace(const TurnFace& expected, const TurnFace& face) {
   EXPECT_EQ(expected.Back, face.Back) << face.Caption;
 }
 
-/// What stands behind the heading in a figure, as "(50%)".
-std::string BehindHeading(const LedgerFigure& figure) {
+/// What stands after the heading in a figure, as "(50%)".
+std::string AfterHeading(const LedgerFigure& figure) {
   const std::size_t blank = figure.Value.find(' ');
   return blank == std::string::npos ? "" : figure.Value.substr(blank);
 }
@@ -109,11 +109,11 @@ class AnyLedger : public AnyCourse {
       EXPECT_EQ(a.Value, b.Value);
       return;
     }
-    const float behind = LeadingNumber(b.Value, -1.0F);
-    EXPECT_EQ(Off(behind, where(LeadingNumber(a.Value))), 0.0);
-    EXPECT_GE(behind, 0.0F);
-    EXPECT_LT(behind, 360.0F);
-    EXPECT_EQ(BehindHeading(a), BehindHeading(b));
+    const float after = LeadingNumber(b.Value, -1.0F);
+    EXPECT_EQ(Off(after, where(LeadingNumber(a.Value))), 0.0);
+    EXPECT_GE(after, 0.0F);
+    EXPECT_LT(after, 360.0F);
+    EXPECT_EQ(AfterHeading(a), AfterHeading(b));
   }
 
   /// What was tried.

@@ -51,7 +51,7 @@ struct SceneView {
   int Turn = 0;  ///< [0.1 deg]
 };
 
-/// What stands behind one step.
+/// What stands after one step.
 struct SceneAnswer {
   InstrumentData Record;
   float AutoPilot = 0.0F;  ///< [deg magnetic]

@@ -95,7 +95,7 @@ class AnyWindOnTheWire : public AnyWind {
   Helm m_helm{m_settings, m_port, m_pilotPort, m_timer, m_clock, m_random};
 };
 
-TEST_F(AnyWindOnTheWire, TheRecordFindsTheTrueWindBehindAnApparentOne) {
+TEST_F(AnyWindOnTheWire, TheRecordFindsTheTrueWindOfAnApparentOne) {
   for (int i = 0; i < 2000; ++i) {
     const Wind wind = Any();
     const float boat = Between(0.0, 30.0);

@@ -59,7 +59,7 @@ Sample Measure(pid_t process) {
   for (std::filesystem::directory_iterator it(folder / "fd", error), end; it != end; it.increment(error)) {
     ++sample.Files;
   }
-  // User and system time are fields 14 and 15, the 12th and 13th behind the name in parentheses.
+  // User and system time are fields 14 and 15, the 12th and 13th after the name in parentheses.
   const std::string stat = ReadFile(folder / "stat");
   std::istringstream fields(stat.substr(std::min(stat.size(), stat.rfind(')') + 1)));
   std::string field;

@@ -49,7 +49,7 @@ struct BoatSettings {
   double WindPeriod = 1.0;      ///< time between wind sentences [s]
   double HeadingPeriod = 1.0;   ///< time between compass sentences [s]
   double OtherPeriod = 1.0;     ///< time between the sentences of log and satellite receiver [s]
-  bool TrueWindSensor = false;  ///< sends a true wind behind each apparent one
+  bool TrueWindSensor = false;  ///< sends a true wind after each apparent one
 };
 
 /// A gusty afternoon in a seaway: gusts of 20 percent, shifts of 4 degrees, noise on every instrument.
@@ -81,8 +81,8 @@ class BoatModel {
   /// waypoint ten miles ahead, and holds that heading until a first autopilot sentence comes.
   BoatModel(const BoatSettings& settings, double heading, std::uint64_t seed);
 
-  /// Sails on for `seconds` and gives what the instruments sent meanwhile: whole lines, each with CR and LF.
-  /// Parts of a tick wait for the next call.
+  /// Sails on for `seconds` and returns what the instruments sent meanwhile: whole lines, each with CR and
+  /// LF. Parts of a tick wait for the next call.
   std::string Step(double seconds);
 
   /// Bytes for the autopilot, in pieces of any size. The heading to steer of each good autopilot sentence

@@ -1,4 +1,4 @@
-// Sentences of a boat's instruments from their values: the senders' side of what nmea/ decodes. Each gives
+// Sentences of a boat's instruments from their values: the senders' side of what nmea/ decodes. Each returns
 // one line with its checksum and without its line end. Angles [deg], speeds [kn], variations [deg, east
 // positive].
 #pragma once

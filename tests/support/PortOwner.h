@@ -31,7 +31,7 @@ class PortOwner : public SerialPort::Events {
       HandleLoss();
     }
   }
-  void OnPortOverslept() override { ++Overslept; }
+  void OnPortStandstill() override { ++Standstills; }
   void Read() {
     Port.Input(m_input);
     Text += m_input;
@@ -43,7 +43,7 @@ class PortOwner : public SerialPort::Events {
   std::vector<int> Codes;
   std::string Text;
   int Lost = 0;
-  int Overslept = 0;
+  int Standstills = 0;
   bool OpenWhenLost = false;
 
  private:

@@ -20,7 +20,7 @@ class PortRig {
  public:
   virtual ~PortRig() = default;
   virtual SerialPort& Port() = 0;
-  /// Lets text come in, as much as the endpoint takes; gives that part.
+  /// Lets text come in, as much as the endpoint takes; returns that part.
   virtual std::string Arrive(std::string_view text) = 0;
   /// All that came out.
   virtual const std::string& Heard() = 0;
@@ -100,12 +100,12 @@ TEST_P(PortPolicy, DropsWhatWaitedWhileTheProgramStoodStill) {
   PassAMark();
   m_rig.Arrive("old");
   m_rig.StandStill(3000);
-  ASSERT_TRUE(m_rig.Await([&] { return m_owner.Overslept > 0; }));
+  ASSERT_TRUE(m_rig.Await([&] { return m_owner.Standstills > 0; }));
   m_rig.Pass(400);
   m_rig.Arrive("new");
   ASSERT_TRUE(m_rig.Await([&] { return m_owner.Text.ends_with("new"); }));
   EXPECT_EQ(m_owner.Text, "new");
-  EXPECT_EQ(m_owner.Overslept, 1);
+  EXPECT_EQ(m_owner.Standstills, 1);
 }
 
 TEST_P(PortPolicy, HandsABundleOverBeforeItReturns) {

@@ -23,7 +23,7 @@ class QueuedDialogs final : public Dialogs {
     std::string Text;
   };
 
-  std::deque<bool> Answers;         ///< answers to the next questions; No behind them
+  std::deque<bool> Answers;         ///< answers to the next questions; No after them
   std::vector<Question> Questions;  ///< what was asked
 
   struct FileQuestion {
@@ -40,8 +40,8 @@ class QueuedDialogs final : public Dialogs {
   /// Called from inside every beep.
   std::function<void()> DuringBeep;
 
-  std::deque<std::optional<std::string>> Texts;  ///< answers of the next input boxes; cancelled behind them
-  std::deque<std::optional<std::string>> Files;  ///< answers of the next file dialogs; cancelled behind them
+  std::deque<std::optional<std::string>> Texts;  ///< answers of the next input boxes; cancelled after them
+  std::deque<std::optional<std::string>> Files;  ///< answers of the next file dialogs; cancelled after them
   std::deque<std::optional<std::uint32_t>> PickedColours;  ///< the same of the colour dialogs
 
   std::vector<std::string> Pages;  ///< what the browser was to show

@@ -30,7 +30,7 @@ class ScriptedPort final : public SerialPort {
 
   std::deque<bool> OpenResults;         ///< results of the next tries to open; then OpensOtherwise
   bool Stuck = false;                   ///< nothing leaves: each sentence waits
-  bool OpensOtherwise = true;           ///< result of a try to open behind the scripted ones
+  bool OpensOtherwise = true;           ///< result of a try to open after the scripted ones
   std::string Failure;                  ///< why the port does not open
   const ScriptedPort* Other = nullptr;  ///< a port that, while open, holds its device against this one
   std::vector<int> LineErrorsWaiting;   ///< events that the next PollLineErrors raises

@@ -6,7 +6,7 @@
 
 namespace veerwatch {
 
-/// `body`, which begins with "$" and has no "*", with its checksum behind it.
+/// `body`, which begins with "$" and has no "*", with its checksum after it.
 inline std::string WithChecksum(std::string_view body) {
   unsigned sum = 0;
   for (const char c : body.substr(1)) {

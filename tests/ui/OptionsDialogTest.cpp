@@ -219,7 +219,7 @@ void PrintTo(const Group& group, std::ostream* out) { *out << group.Name; }
 
 class OptionsGroups : public OptionsTester, public testing::WithParamInterface<Group> {};
 
-TEST_P(OptionsGroups, FailWithTheirNameBehindWhatIsStored) {
+TEST_P(OptionsGroups, FailWithTheirNameAfterWhatIsStored) {
   Main.m_bSimulate = true;
   Start(frmOptions::Data);
   Type("txtNmeaTrueWindAverage", "3");

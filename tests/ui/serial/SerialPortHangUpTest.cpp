@@ -22,13 +22,13 @@ TEST_F(SerialPortHangUp, ClosesOnAHangUpAndSaysSoOnce) {
   EXPECT_FALSE(m_owner.OpenWhenLost);
   EXPECT_FALSE(m_port.PortOpen());
   EXPECT_EQ(m_port.CommPort(), 1);
-  // Nothing keeps the loop busy behind it.
+  // Nothing keeps the loop busy after it.
   EXPECT_LT(BusyTurns(), 10);
   EXPECT_EQ(m_owner.Lost, 1);
   EXPECT_THAT(m_owner.Codes, IsEmpty());
 }
 
-TEST_F(SerialPortHangUp, SaysNothingOfAHangUpBehindItsOwnClosing) {
+TEST_F(SerialPortHangUp, SaysNothingOfAHangUpAfterItsOwnClosing) {
   ASSERT_TRUE(m_port.PortOpen(true));
   PassAMark();
   m_pty.HangUp();

@@ -46,7 +46,7 @@ TEST_F(SerialPortLineErrors, AreRaisedWhenAskedFor) {
   EXPECT_THAT(m_listener.Codes, ElementsAre(CommEvent::kFrame));
 }
 
-TEST_F(SerialPortLineErrors, AreRaisedBehindAReceiveEvent) {
+TEST_F(SerialPortLineErrors, AreRaisedAfterAReceiveEvent) {
   ASSERT_TRUE(m_counting.PortOpen(true));
   ++m_counts.Break;
   ++m_counts.BufferOverrun;

@@ -68,7 +68,7 @@ TEST_F(SerialPortOutput, SendsWholeSentencesAndTheNewestLastWhenNobodyReadForLon
   ASSERT_TRUE(m_port.PortOpen());
   std::string sent;
   ASSERT_TRUE(Await([&] { return (sent += m_pty.Read()).ends_with(sentence(kSentences - 1)); }));
-  // The terminal itself held the older ones; none behind it waited in the port but the newest.
+  // The terminal itself held the older ones; none after it waited in the port but the newest.
   EXPECT_LT(sent.size(), 200'000U);
   int last = -1;
   std::size_t at = 0;
@@ -85,7 +85,7 @@ TEST_F(SerialPortOutput, SendsWholeSentencesAndTheNewestLastWhenNobodyReadForLon
   EXPECT_EQ(m_owner.Lost, 0);
 }
 
-/// With a line that takes nothing: a filling is on its way, "waiting" waits behind it.
+/// With a line that takes nothing: a filling is on its way, "waiting" waits after it.
 class StuckLine : public SerialPortQtTest {
  protected:
   void SetUp() override {
