@@ -63,7 +63,7 @@ class InstrumentPanelQt final : public QWidget {
   void OrderTabs();
   void Place();
   void ApplyTheme();
-  /// Draws the cards anew.
+  /// Draws the cards again.
   void Repaint();
   void PaintGround();
 

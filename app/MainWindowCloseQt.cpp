@@ -43,7 +43,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
   }
   if (m_ask && m_tbrTrack->Button(TrackMode::Track)->isChecked()) {
     AskToStop();
-    // A Yes closes anew, but for one that has come already.
+    // A Yes closes again, but for one that has come already.
     if (m_ask) {
       event->ignore();
       return;

@@ -18,7 +18,7 @@ class TrackController {
   void Reset() { m_integral = 0.0; }
 
   /// One pass with `error` [deg]: what the bearing is to be changed by [deg]. It may not be finite, for gains
-  /// or errors without measure; an accumulator that runs out of range starts anew instead of blocking the
+  /// or errors without measure; an accumulator that runs out of range starts again instead of blocking the
   /// loop for good. `elapsed` is the time since the pass before [s, at least 0]. Deliberate: the correction
   /// uses the accumulator of before the pass, nothing limits it, and this law counts passes, so `elapsed`
   /// plays no part in it.

@@ -34,7 +34,7 @@ class HelmObserver {
 
   // The input.
 
-  /// The input starts anew: the value labels go blank, and the list of received sentences begins anew.
+  /// The input starts again: the value labels go blank, and the list of received sentences begins again.
   virtual void OnInputStarts() {}
   /// Each received line; `used` when it updated the record.
   virtual void OnNmeaLine(std::string_view /*line*/, LineFault /*fault*/, bool /*used*/) {}

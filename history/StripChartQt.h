@@ -55,7 +55,7 @@ class StripChart final : public QWidget, public StripChartOperations {
   void Refresh();
   /// Whether the newest value is at the right edge.
   bool FollowsNow() const { return !m_endSlot.has_value(); }
-  /// How often everything was drawn anew, and not just what a sample changes.
+  /// How often everything was drawn again, and not just what a sample changes.
   int FullRedraws() const { return m_fullRedraws; }
   /// The chart as a picture of `scale` device pixels per pixel, with nothing under the mouse.
   QImage Image(double scale);

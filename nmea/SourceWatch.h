@@ -28,7 +28,7 @@ class SourceWatch {
  public:
   explicit SourceWatch(const Settings& settings) : m_settings(settings) { Restart(); }
 
-  /// The input starts anew: nothing has come yet.
+  /// The input starts again: nothing has come yet.
   void Restart();
 
   /// A second has passed.

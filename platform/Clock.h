@@ -8,7 +8,7 @@ namespace veerwatch {
 
 /// One moment on both clocks.
 struct Moment {
-  std::int64_t Steady = 0;  ///< [ms] since any start; goes on while the computer sleeps, where it can
+  std::int64_t Steady = 0;  ///< [ms] since any start; goes on while the computer is suspended, where it can
   std::int64_t Wall = 0;    ///< [ms] since 1970-01-01 00:00 UTC; whoever sets the clock makes it jump
 };
 

@@ -28,7 +28,7 @@ class LineErrorCounters {
 
 class LineErrorWatch {
  public:
-  /// Forgets the last reading; for a port that is opened anew. What was counted before then is nobody's
+  /// Forgets the last reading; for a port that is opened again. What was counted before then is nobody's
   /// error.
   void Restart() { m_last.reset(); }
 

@@ -29,7 +29,7 @@ class ObserverList {
     ~Membership() {
       const auto members = m_members.lock();
       if (members && m_observer != nullptr) {
-        // Somebody may be walking through the list; and an observer may have joined anew.
+        // Somebody may be walking through the list; and an observer may have joined again.
         if (const auto place = std::find(members->begin(), members->end(), m_observer);
             place != members->end()) {
           *place = nullptr;

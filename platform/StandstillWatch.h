@@ -1,5 +1,5 @@
-// Notices that the program stood still, or slept with its computer: what arrived meanwhile has waited and is
-// old. Whoever takes in characters beats all the time and asks before he hands any on.
+// Notices that the program stood still, or was suspended with its computer: what arrived meanwhile has waited
+// and is old. Whoever takes in characters beats all the time and asks before he hands any on.
 #pragma once
 
 #include <cstdint>

@@ -11,7 +11,7 @@ constexpr std::int64_t kMillisecondsPerSecond = 1000;
 
 std::int64_t SteadyMilliseconds() {
 #ifdef __linux__
-  // The one that goes on during sleep.
+  // The one that goes on while the computer is suspended.
   timespec time{};
   if (clock_gettime(CLOCK_BOOTTIME, &time) == 0) {
     constexpr std::int64_t kNanosecondsPerMillisecond = 1000000;

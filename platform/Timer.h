@@ -8,7 +8,7 @@ class Timer {
   virtual ~Timer() = default;
   /// Time between ticks [ms], above 0.
   virtual void Interval(int milliseconds) = 0;
-  /// Starts (anew) or stops the ticks; whoever made the timer has said where they go.
+  /// Starts (again) or stops the ticks; whoever made the timer has said where they go.
   virtual void Enabled(bool enabled) = 0;
   virtual bool Enabled() const = 0;
 };

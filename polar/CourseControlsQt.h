@@ -24,7 +24,7 @@ class CourseControlsQt {
   /// Fits the panel to the plot's size, and returns the room that it needs beside the plot [px]; none while
   /// it is hidden or has been dragged away.
   PlotRoom Room();
-  /// Puts both where they belong on a plot that is drawn anew.
+  /// Puts both where they belong on a plot that is drawn again.
   void Place(const PolarStill& still);
 
  private:

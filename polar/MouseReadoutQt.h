@@ -22,7 +22,7 @@ class MouseReadoutQt final : public QLabel {
   void Press(QPointF at);
   void Move(QPointF at);
   void Leave();
-  /// The plot was drawn anew, with text of `textHeight` [px]: what is read out follows it.
+  /// The plot was drawn again, with text of `textHeight` [px]: what is read out follows it.
   void Follow(double textHeight);
 
   QSize sizeHint() const override;

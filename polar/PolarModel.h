@@ -102,7 +102,7 @@ class PolarModel {
   /// small the next multiple of 5 kn, above 30 kn of 10 kn, so that the rings stay round. No curve leaves the
   /// range.
   void RangeFit();
-  void Factor(float factor) { m_settings.SpeedFactor = factor; }  ///< the own polar has to be loaded anew
+  void Factor(float factor) { m_settings.SpeedFactor = factor; }  ///< the own polar has to be loaded again
   void Color(std::uint32_t color) { m_settings.SpeedColor = color; }
   void Average(float seconds) { m_settings.PlotAverage = seconds; }
   /// Makes `source` the course, or, when it is the course already, leaves no course.
@@ -113,7 +113,7 @@ class PolarModel {
   // Typed numbers: each is true when the text was a number that can be, and then took it.
 
   bool TakeRange(const std::string& text);   ///< [kn, above 0]
-  bool TakeFactor(const std::string& text);  ///< [above 0]; the own polar has to be loaded anew
+  bool TakeFactor(const std::string& text);  ///< [above 0]; the own polar has to be loaded again
   bool TakeBearing(const std::string& text);
   bool TakeMotorSpeed(const std::string& text);  ///< [kn]
 

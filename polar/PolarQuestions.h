@@ -22,7 +22,7 @@ class PolarQuestions {
       : m_model(model), m_asks(asks), m_changed(std::move(changed)) {}
 
   void AskRange();
-  /// A new factor loads the own polar anew. One above 3 asks whether its hundredth was meant.
+  /// A new factor loads the own polar again. One above 3 asks whether its hundredth was meant.
   void AskScaling();
   void AskTargetBearing();
   void AskMotorSpeed();
@@ -33,7 +33,7 @@ class PolarQuestions {
   void AskOpen(int slot);
 
   /// Saves the own polar under a new name, with a question before an old file is replaced. After a scaled one
-  /// it says so and offers the factor 1, with which the polar is loaded anew.
+  /// it says so and offers the factor 1, with which the polar is loaded again.
   void SaveAs();
 
   /// Loads a slot and tells what was wrong with it.

@@ -104,7 +104,7 @@ class frmTack final : public QDialog, private HelmObserver {
   TurnPace m_pace;
   std::int64_t m_stepped = 0;  ///< when the turn began, or its latest step was made [ms of the steady clock]
   float m_newHeading = 0.0F;   ///< the heading that was asked for at the opening
-  TurnFrom m_from;             ///< as at the opening, or when it was filled anew
+  TurnFrom m_from;             ///< as at the opening, or when it was filled again
   WindCrossing m_said = WindCrossing::None;
   std::string m_question;  ///< why OK has to be pressed once more
   std::string m_asked;     ///< the words of the turn that the user was asked about

@@ -176,7 +176,7 @@ TEST_F(HelmSteps, SpeedHeadingAndApparentWindAreToldRawAndTheTrueWindSmoothed) {
 }
 
 TEST_F(HelmSteps, WhatCameBeforeAStartIsNotToldAfterIt) {
-  // Somebody starts the input anew while a sentence is told.
+  // Somebody starts the input again while a sentence is told.
   struct Restarter final : HelmObserver {
     explicit Restarter(Helm& helm) : TheHelm(helm) {}
     void OnHeading(float /*heading*/) override { TheHelm.Modes().TrackSetSetup(); }

@@ -197,7 +197,7 @@ TEST(CourseTargets, StandsStillWithoutSpeeds) {
 
 // The search against the plain statement of its rule
 
-/// Every pair looked up anew, one after the other.
+/// Every pair looked up again, one after the other.
 CourseSolution Plainly(const PolarTable& table, const CourseQuery& query) {
   const auto at = [&](double relative, double offset) {
     return static_cast<double>(table.PolarSpeed(
