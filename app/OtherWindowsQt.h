@@ -1,7 +1,6 @@
 // The windows beside the main window: makes each at its first use, shows it, passes on what the helm tells,
-// and stores and hides them all at the close. The main window hands on every event that one of them shows; an
-// event for a window that is not loaded does nothing, but the first value loads the history and the first
-// sentence to the autopilot the options dialog.
+// and stores and hides them all at the close. What is told for a window that is not loaded does nothing, but
+// the first value loads the history and the first sentence to the autopilot the options dialog.
 #pragma once
 
 #include <QApplication>

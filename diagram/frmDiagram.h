@@ -1,5 +1,5 @@
 // The block diagram: instruments, computer and autopilot as a picture whose boxes are buttons and light up
-// with what the system does. Made by the main window's side on first use, afterwards shown and hidden.
+// with what the system does. Made by app/OtherWindowsQt on first use, afterwards shown and hidden.
 #pragma once
 
 #include <QLabel>

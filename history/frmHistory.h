@@ -1,6 +1,6 @@
-// The history window: a strip chart of the instrument and autopilot values of one day. The main window loads
-// it at the first value, feeds it, and shows it. Deliberate: closing it only hides it; it records until the
-// program ends. Its place and the chart's choices are kept in the profile.
+// The history window: a strip chart of the instrument and autopilot values of one day. It is loaded
+// and fed by app/OtherWindowsQt, from the first value on. Deliberate: closing it only hides it; it records
+// until the program ends. Its place and the chart's choices are kept in the profile.
 #pragma once
 
 #include <QFrame>

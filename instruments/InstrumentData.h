@@ -1,5 +1,5 @@
-// The record of the boat's present instrument values. Written by instruments/InstrumentRecord and the
-// simulator alone; read by everyone.
+// The boat's present instrument values. Written by the updates of instruments/InstrumentRecord alone; read
+// by everyone.
 #pragma once
 
 namespace veerwatch {

@@ -1,7 +1,7 @@
 // The options dialog: every setting of the main window on six tabs, with live lists of what comes in and goes
 // out. It copies the settings into its controls when it is loaded and after each Apply, and back on Apply and
 // OK. It is hidden by OK and Cancel, with what was typed still in it, and destroyed when it is closed by its
-// frame. Whoever owns it routes to it what the ports tell; nothing is listed while it is not visible.
+// frame. It is an observer of the helm; nothing is listed while it is not visible.
 #pragma once
 
 #include <QDialog>

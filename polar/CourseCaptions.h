@@ -25,9 +25,9 @@ struct TurnFace {
 /// "< Steer -12".
 TurnFace SteerFace(float newHeading, float heading);
 
-/// The turn to the other leg: a tack up to a true wind angle of 90 degrees, beyond a gybe. With the wind from
+/// The turn to the other leg: a tack up to a true wind angle of 90 degrees, beyond a jibe. With the wind from
 /// port "<< Tack" or "Jibe >>", else "Tack >>" or "<< Jibe". Deliberate: the arrows are opposite for the same
-/// wind, as a tack turns the bow through the wind and a gybe the stern. `possible` is whether there is
+/// wind, as a tack turns the bow through the wind and a jibe the stern. `possible` is whether there is
 /// another leg; without one the colour is the window's own.
 TurnFace TackFace(bool sideFlag, bool upwind, bool possible);
 

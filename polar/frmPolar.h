@@ -1,5 +1,5 @@
 // The polar window: the boat's polar as a plot, with the boat's present speed and wind against it. Made by
-// the main window on first use, afterwards shown and hidden. Closing it hides it and stores its settings.
+// app/OtherWindowsQt on first use, afterwards shown and hidden. Closing it hides it and stores its settings.
 #pragma once
 
 #include <QMainWindow>

@@ -1,7 +1,7 @@
 // The manoeuvre dialog: takes the autopilot to a new heading by a timed turn, as a plain change of course, a
-// tack or a jibe. Made by the main window on first use, afterwards shown and hidden; the main window stays
-// usable beside it and ends the turn as soon as anybody else takes the pilot. A turn begins only while the
-// wind's sentences can carry it, and waits while none of them leaves.
+// tack or a jibe. Made by app/OtherWindowsQt on first use, afterwards shown and hidden; the main window stays
+// usable beside it. The helm ends the turn as soon as anybody else takes the pilot. A turn begins only while
+// the wind's sentences can carry it, and waits while none of them leaves.
 #pragma once
 
 #include <QDialog>
