@@ -89,7 +89,7 @@ bool HasOpen(const std::string& process, const std::string& device, int& looks) 
   return found;
 }
 
-/// The process that has `device` open, among those whose open files may be seen; the youngest first.
+/// The process that has `device` open, among those whose open files may be seen; the newest first.
 std::optional<pid_t> UserByFiles(const std::string& device) {
   std::vector<pid_t> processes;
   ForEntries("/proc", [&processes](const char* name, int) {

@@ -1,4 +1,4 @@
-// Work that many may wish for and that is done seldom.
+// Work that many may wish for and that is done rarely.
 #pragma once
 
 #include <QTimer>

@@ -45,6 +45,15 @@ TEST_F(PolarModelTest, OpensANewPolarUnscaledAndHidesTheReference) {
   EXPECT_EQ(Model.Table().Value(0, 1, 1), 4.0F);
 }
 
+TEST_F(PolarModelTest, HidesTheReferenceAtEachStart) {
+  EXPECT_TRUE(Model.Open(PolarModel::kReference, (Program / kDefaultPolar).string()).Loaded);
+  ASSERT_EQ(Model.PolarsShown(), 2);
+  Profile profile;
+  PolarStore(profile, Model.Settings(), Program.Path());
+  Model.Reset(&profile);
+  EXPECT_EQ(Model.PolarsShown(), 1);
+}
+
 TEST_F(PolarModelTest, ShowsNoReferenceThatFailedToLoad) {
   EXPECT_FALSE(Model.Open(PolarModel::kReference, (Program / "missing.pol").string()).Loaded);
   EXPECT_EQ(Model.PolarsShown(), 1);
