@@ -168,16 +168,16 @@ TEST(BoatModel, ThePilotTakesWholeGoodSentencesInPiecesAndNothingElse) {
   BoatModel boat(BoatSettings{}, 10.0, 1);
   const std::string good = Apb("245.5");
   boat.Steer(good.substr(0, 20));
-  EXPECT_EQ(boat.Bearing(), 10.0);
+  EXPECT_EQ(boat.Pilot().Bearing(), 10.0);
   boat.Steer(good.substr(20));
-  EXPECT_EQ(boat.Bearing(), 245.5);
+  EXPECT_EQ(boat.Pilot().Bearing(), 245.5);
   std::string damaged = good;
   damaged[30] = '9';
   boat.Steer(damaged);
   boat.Steer("\r\n$\r\nnoise\r\n" + WithChecksum("$ECAPB,A,A") + "\r\n");
-  EXPECT_EQ(boat.Bearing(), 245.5);
-  EXPECT_EQ(boat.GoodSentences(), 1);
-  EXPECT_EQ(boat.BadSentences(), 5);
+  EXPECT_EQ(boat.Pilot().Bearing(), 245.5);
+  EXPECT_EQ(boat.Pilot().GoodSentences(), 1);
+  EXPECT_EQ(boat.Pilot().BadSentences(), 5);
 }
 
 TEST(BoatModel, InStandbySomebodyAtTheWheelKeepsAHeading) {

@@ -203,10 +203,10 @@ TEST_F(AnySentence, TheAutopilotSentenceIsReadAsItWasSent) {
     BuildPilotSentence(static_cast<float>(bearing), sentence);
     ASSERT_EQ(CheckFrame(sentence), Frame::Good);
     boat.Steer(sentence + "\r\n");
-    ASSERT_EQ(boat.GoodSentences(), tenths + 1) << sentence;
-    ASSERT_NEAR(boat.Bearing(), tenths / 10.0, 1e-9) << sentence;
+    ASSERT_EQ(boat.Pilot().GoodSentences(), tenths + 1) << sentence;
+    ASSERT_NEAR(boat.Pilot().Bearing(), tenths / 10.0, 1e-9) << sentence;
   }
-  EXPECT_EQ(boat.BadSentences(), 0);
+  EXPECT_EQ(boat.Pilot().BadSentences(), 0);
 }
 
 TEST_F(AnySentence, OneCharacterChangedIsFoundByTheChecksum) {

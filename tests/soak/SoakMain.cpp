@@ -111,7 +111,7 @@ int Soak(double hours, double speed) {
   program.Do("click tbrTrack(7)");
   program.Do("delays");
   const std::size_t windsBefore = wire.Winds();
-  const int ordersBefore = wire.Boat().GoodSentences();
+  const int ordersBefore = wire.Boat().Pilot().GoodSentences();
 
   std::printf("boat's hours  memory kB  files  processor %%  delay ms: median  99 %%  99.9 %%  most\n");
   std::vector<Sample> samples;
@@ -136,7 +136,7 @@ int Soak(double hours, double speed) {
   // What is on its way arrives.
   sail(passed() + 1.0);
   const std::size_t winds = wire.Winds() - windsBefore;
-  const auto orders = static_cast<std::size_t>(wire.Boat().GoodSentences() - ordersBefore);
+  const auto orders = static_cast<std::size_t>(wire.Boat().Pilot().GoodSentences() - ordersBefore);
   const std::optional<int> status = program.Close();
   if (samples.size() < 2 || status != 0) {
     std::fprintf(stderr, "the program did not last: %d after %zu samples\n", status.value_or(-1),
@@ -161,10 +161,11 @@ int Soak(double hours, double speed) {
       "event loop: 99.9 %% of its turns late by %.1f ms or less in half of the samples, %.1f in the worst\n",
       delay, delays.back());
   std::printf("wind sentences %zu, sentences for the pilot %zu, bad ones %d\n", winds, orders,
-              wire.Boat().BadSentences());
+              wire.Boat().Pilot().BadSentences());
   // Faster than a line, several winds arrive in one piece, and only the newest heading is sent.
   const bool inTime = speed > kLineSpeed || (winds == orders && delays.back() < kMostDelay);
-  const bool good = growth <= kMostGrowth && files == 0.0 && wire.Boat().BadSentences() == 0 && inTime;
+  const bool good =
+      growth <= kMostGrowth && files == 0.0 && wire.Boat().Pilot().BadSentences() == 0 && inTime;
   std::printf("%s\n", good ? "as promised" : "NOT as promised");
   return good ? 0 : 1;
 }

@@ -5,9 +5,6 @@
 #include <cmath>
 #include <numbers>
 
-#include "platform/NumberText.h"
-#include "tests/support/Sentences.h"
-
 namespace veerwatch {
 
 namespace {
@@ -112,8 +109,23 @@ BoatSettings GustyBoat() {
   return settings;
 }
 
+BoatSettings HardBoat(Sea sea) {
+  BoatSettings settings = GustyBoat();
+  settings.YawDeviation = 0.0;
+  settings.Sea = SeaOf(sea);
+  settings.Rudder = RudderSettings{};
+  settings.Pilot.CompassOffset = 4.0;
+  settings.WindSpeed = 15.0;
+  settings.GustDeviation = 0.15;
+  settings.ShiftDeviation = 6.0;
+  settings.VaneLag = 0.0;
+  settings.VaneDelay = 1.5;
+  settings.LogLag = 3.0;
+  return settings;
+}
+
 BoatModel::BoatModel(const BoatSettings& settings, double heading, std::uint64_t seed)
-    : m_settings(settings), m_random(seed), m_bearing(heading), m_wheel(heading) {
+    : m_settings(settings), m_random(seed), m_seaway(seed + 1), m_pilot(heading) {
   m_keel = HeadingAt(settings, heading);
   m_state.Heading = m_keel;
   m_state.Compass = CompassAt(settings, m_keel);
@@ -122,8 +134,9 @@ BoatModel::BoatModel(const BoatSettings& settings, double heading, std::uint64_t
   const double angle = Turn180(m_state.WindFrom - m_keel);
   m_state.Speed = PolarSpeed(settings, angle, m_state.WindSpeed);
   Move();
-  m_vaneAhead = m_state.ApparentSpeed * std::cos(m_state.ApparentAngle * kRadian);
-  m_vaneRight = m_state.ApparentSpeed * std::sin(m_state.ApparentAngle * kRadian);
+  m_vane = {m_state.ApparentSpeed * std::cos(m_state.ApparentAngle * kRadian),
+            m_state.ApparentSpeed * std::sin(m_state.ApparentAngle * kRadian)};
+  m_log = m_state.Speed;
 }
 
 std::string BoatModel::Step(double seconds) {
@@ -141,9 +154,11 @@ void BoatModel::Tick() {
   ++m_ticks;
   m_state.Seconds = static_cast<double>(m_ticks) * kTick;
   MoveWind();
+  MoveSea();
   Turn();
   Move();
   ReadVane();
+  m_log = m_state.Speed + (m_log - m_state.Speed) * Remains(m_settings.LogLag);
   Send();
 }
 
@@ -166,13 +181,62 @@ void BoatModel::MoveWind() {
   m_state.WindFrom = Turn360(m_settings.WindFrom + m_settings.ShiftDeviation * m_shift);
 }
 
+void BoatModel::MoveSea() {
+  m_sea = m_seaway.At(m_settings.Sea, m_state.Seconds);
+  m_sea.Yaw += m_settings.YawDeviation * m_yaw;
+}
+
 void BoatModel::Turn() {
-  const double missing = Turn180((m_engaged ? m_bearing : m_wheel) - m_state.Compass);
-  const double asked = std::clamp(missing / m_settings.TurnLag, -m_settings.TurnRate, m_settings.TurnRate);
-  m_turnRate = asked + (m_turnRate - asked) * Remains(m_settings.RudderLag);
-  m_keel = Turn360(m_keel + m_turnRate * kTick);
-  m_state.Heading = Turn360(m_keel + m_settings.YawDeviation * m_yaw);
+  if (m_settings.Rudder) {
+    TurnByRudder(*m_settings.Rudder);
+  } else {
+    TurnAsAsked();
+  }
+  m_keel = Turn360(m_keel + m_state.TurnRate * kTick);
+  m_state.Heading = Turn360(m_keel + m_sea.Yaw);
   m_state.Compass = CompassAt(m_settings, m_state.Heading);
+}
+
+double BoatModel::Missing() const {
+  if (m_engaged) {
+    const double missing = Turn180(m_pilot.Bearing() - m_state.Compass);
+    return m_settings.Pilot.Reversed ? -missing : missing;
+  }
+  return m_wheel ? Turn180(*m_wheel - m_state.Compass) : 0.0;
+}
+
+void BoatModel::TurnAsAsked() {
+  const double asked = std::clamp(Missing() / m_settings.TurnLag, -m_settings.TurnRate, m_settings.TurnRate);
+  m_state.TurnRate = asked + (m_state.TurnRate - asked) * Remains(m_settings.RudderLag);
+}
+
+double BoatModel::RudderAsked() {
+  if (m_engaged) {
+    return m_pilot.Rudder(m_settings.Pilot, m_state.Compass, m_state.TurnRate, kTick);
+  }
+  // Somebody at the wheel steers as the pilot does, by the boat's compass.
+  return m_wheel ? m_settings.Pilot.Gain * Missing() - m_settings.Pilot.Counter * m_state.TurnRate
+                 : m_state.Rudder;
+}
+
+void BoatModel::TurnByRudder(const RudderSettings& rudder) {
+  const double asked = std::clamp(RudderAsked(), -rudder.Most, rudder.Most);
+  const double most = rudder.Rate * kTick;
+  const double moved = std::clamp(asked - m_state.Rudder, -most, most);
+  m_state.Rudder += moved;
+  m_state.RudderTravel += std::fabs(moved);
+
+  constexpr double kReferenceSpeed = 6.0;
+  constexpr double kLeastWay = 0.15;  // some water always passes the rudder
+  constexpr double kReferenceWind = 12.0;
+  constexpr double kMostHeel = 3.0;  // the heeled boat spills what the wind has more
+  const double way = std::max(kLeastWay, m_state.Speed / kReferenceSpeed);
+  const double heel = std::min(kMostHeel, std::pow(m_state.ApparentSpeed / kReferenceWind, 2.0));
+  const double pull = rudder.Pull * heel * std::sin(m_state.ApparentAngle * kRadian);
+  const double turn = m_state.TurnRate;
+  const double changes =
+      rudder.Turn * way * (m_state.Rudder + pull) - turn - rudder.Damping * turn * std::fabs(turn);
+  m_state.TurnRate += changes * kTick * way / rudder.Time;
 }
 
 void BoatModel::Move() {
@@ -198,11 +262,19 @@ void BoatModel::Move() {
 }
 
 void BoatModel::ReadVane() {
-  const double ahead = m_state.ApparentSpeed * std::cos(m_state.ApparentAngle * kRadian);
-  const double right = m_state.ApparentSpeed * std::sin(m_state.ApparentAngle * kRadian);
+  constexpr double kKnotsPerMetre = 3600.0 / 1852.0;
+  const double masthead = m_settings.MastHeight * kRadian * kKnotsPerMetre;
+  const double ahead =
+      m_state.ApparentSpeed * std::cos(m_state.ApparentAngle * kRadian) + masthead * m_sea.PitchRate;
+  const double right =
+      m_state.ApparentSpeed * std::sin(m_state.ApparentAngle * kRadian) + masthead * m_sea.RollRate;
   const double remains = Remains(m_settings.VaneLag);
-  m_vaneAhead = ahead + (m_vaneAhead - ahead) * remains;
-  m_vaneRight = right + (m_vaneRight - right) * remains;
+  m_vane = {ahead + (m_vane.Ahead - ahead) * remains, right + (m_vane.Right - right) * remains};
+  m_vaneLate.push_back(m_vane);
+  const auto late = static_cast<std::size_t>(std::llround(m_settings.VaneDelay / kTick));
+  while (m_vaneLate.size() > late + 1) {
+    m_vaneLate.pop_front();
+  }
 }
 
 void BoatModel::Send() {
@@ -215,7 +287,7 @@ void BoatModel::Send() {
     Line(EncodeHdg(m_state.Compass, m_settings.Variation));
   }
   if (due(m_settings.OtherPeriod)) {
-    Line(EncodeVhw(m_state.Compass + m_settings.Variation, m_state.Compass, speed(m_state.Speed)));
+    Line(EncodeVhw(m_state.Compass + m_settings.Variation, m_state.Compass, speed(m_log)));
     const double ground = speed(m_state.SpeedOverGround);
     Line(EncodeRmc(MomentAt(m_state.Seconds), m_state.Place, ground, m_state.Course, m_settings.Variation));
     Line(EncodeVtg(m_state.Course, m_state.Course - m_settings.Variation, ground));
@@ -223,8 +295,9 @@ void BoatModel::Send() {
     SendWaypoint();
   }
   if (due(m_settings.WindPeriod)) {
-    const double apparent = std::atan2(m_vaneRight, m_vaneAhead) / kRadian + m_settings.VaneNoise * Gauss();
-    Line(EncodeMwv(apparent, 'R', speed(std::hypot(m_vaneAhead, m_vaneRight))));
+    const VaneWind& wind = m_vaneLate.front();
+    const double apparent = std::atan2(wind.Right, wind.Ahead) / kRadian + m_settings.VaneNoise * Gauss();
+    Line(EncodeMwv(apparent, 'R', speed(std::hypot(wind.Ahead, wind.Right))));
     if (m_settings.TrueWindSensor) {
       const double trueAngle = m_state.TrueAngle + m_settings.VaneNoise * Gauss();
       Line(EncodeMwv(trueAngle, 'T', speed(m_state.TrueSpeed)));
@@ -238,44 +311,9 @@ void BoatModel::SendWaypoint() {
   Line(EncodeRmb(m_waypoint, way.Length(), way.Direction(), closing));
 }
 
-void BoatModel::PilotStandby(double heading) {
+void BoatModel::PilotStandby(std::optional<double> heading) {
   m_engaged = false;
   m_wheel = heading;
-}
-
-void BoatModel::Steer(std::string_view bytes) {
-  for (const char byte : bytes) {
-    if (byte == '\r') {
-      TakeLine();
-      m_received.clear();
-    } else if (byte != '\n') {
-      m_received.push_back(byte);
-    }
-  }
-}
-
-void BoatModel::TakeLine() {
-  constexpr std::size_t kHeadingToSteer = 13;
-  const std::string_view line = m_received;
-  constexpr std::size_t kAddress = 7;  // "$ECAPB,"
-  const std::size_t star = line.find('*');
-  if (line.size() < kAddress || line.front() != '$' || line.substr(3, 4) != "APB," ||
-      star == std::string_view::npos || WithChecksum(line.substr(0, star)) != line) {
-    ++m_badSentences;
-    return;
-  }
-  std::string_view rest = line.substr(0, star);
-  for (std::size_t field = 0; field < kHeadingToSteer; ++field) {
-    const std::size_t comma = rest.find(',');
-    rest = comma == std::string_view::npos ? std::string_view{} : rest.substr(comma + 1);
-  }
-  const auto bearing = StrictDouble(rest.substr(0, rest.find(',')));
-  if (!bearing) {
-    ++m_badSentences;
-    return;
-  }
-  ++m_goodSentences;
-  m_bearing = *bearing;
 }
 
 }  // namespace veerwatch

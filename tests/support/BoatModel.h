@@ -2,23 +2,45 @@
 // that a boat sends and follows the bearing of the autopilot sentences that it is given. Its geometry is its
 // own, so that it can stand against the program's.
 //
-// Turning: the pilot asks for a rate of turn in proportion to what its compass misses, bounded by what the
-// boat can turn; the boat takes up that rate with the lag of the rudder. Speed: comes to that of a smooth
-// polar with a lag. Wind: a mean with gusts and shifts, noise whose memory fades exponentially. All of it
-// follows from the settings and the seed alone.
+// Turning, in one of two ways. Without a rudder the pilot asks for a rate of turn in proportion to what the
+// boat's compass misses, bounded by what the boat can turn; the boat takes up that rate with the lag of the
+// rudder. With a rudder the pilot is a BoatPilot, the rudder moves at its own rate, and the hull answers to
+// it as a system of first order in the rate of turn (Source: Nomoto), slower and less the slower the boat
+// sails; the wind's pull on the heeled boat turns her to windward. Speed: comes to that of a smooth polar
+// with a lag. Wind: a mean with gusts and shifts, noise whose memory fades exponentially. Sea: a Seaway,
+// which yaws the boat and swings the masthead with the vane. All of it follows from the settings and the seed
+// alone.
 #pragma once
 
 #include <cstdint>
+#include <deque>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "platform/Random.h"
+#include "tests/support/BoatPilot.h"
 #include "tests/support/Encode.h"
+#include "tests/support/Seaway.h"
 
 namespace veerwatch {
 
+/// A rudder and the hull that answers to it. Turn and time constant are those at 6 knots: the first grows
+/// with the speed, the second shrinks with it.
+struct RudderSettings {
+  double Rate = 4.0;      ///< at which it moves [deg/s]
+  double Most = 30.0;     ///< to either side [deg]
+  double Turn = 0.4;      ///< small rates of turn [deg/s for each degree of rudder]
+  double Time = 1.5;      ///< time constant with which a rate of turn is taken up [s]
+  double Damping = 0.04;  ///< by which turning faster takes more rudder [s/deg]
+  double Pull = 3.0;      ///< rudder that an apparent wind of 12 knots abeam asks for, to windward [deg]
+};
+
 struct BoatSettings {
   // Hull and pilot.
+  std::optional<RudderSettings> Rudder;  ///< nothing: TurnLag, TurnRate and RudderLag say how the boat turns
+  PilotSettings Pilot;                   ///< without a rudder only its switches count
+  SeaSettings Sea;
   double TurnLag = 4.0;       ///< time constant of the turn to a new bearing [s], above 0
   double TurnRate = 8.0;      ///< fastest turn [deg/s]
   double RudderLag = 0.5;     ///< time constant with which a rate of turn is taken up [s]
@@ -44,6 +66,9 @@ struct BoatSettings {
   // Instruments.
   double Deviation = 2.0;       ///< most deviation of the one compass, on east and west [deg]
   double VaneLag = 1.0;         ///< time constant of the wind instrument [s], 0 for none
+  double VaneDelay = 0.0;       ///< by which the apparent wind that is sent is late besides [s]
+  double MastHeight = 15.0;     ///< of the vane over the water [m]
+  double LogLag = 0.0;          ///< time constant of the speed through the water that is sent [s]
   double VaneNoise = 0.0;       ///< standard deviation of each wind angle sent [deg]
   double SpeedNoise = 0.0;      ///< standard deviation of each speed sent [kn]
   double WindPeriod = 1.0;      ///< time between wind sentences [s]
@@ -54,6 +79,9 @@ struct BoatSettings {
 
 /// A gusty afternoon in a seaway: gusts of 20 percent, shifts of 4 degrees, noise on every instrument.
 BoatSettings GustyBoat();
+
+/// A cruiser with a rudder in a shifty wind, a pilot whose compass differs from the boat's, late instruments.
+BoatSettings HardBoat(Sea sea);
 
 /// What the boat really does.
 struct BoatState {
@@ -69,6 +97,9 @@ struct BoatState {
   double ApparentSpeed = 0.0;    ///< [kn]
   double TrueAngle = 0.0;        ///< of the wind over the water, off the bow [deg relative, (-180, 180]]
   double TrueSpeed = 0.0;        ///< [kn]
+  double TurnRate = 0.0;         ///< without the waves [deg/s, positive to starboard]
+  double Rudder = 0.0;           ///< [deg, positive to starboard]
+  double RudderTravel = 0.0;     ///< the way that the rudder has made since the start [deg]
   EarthPlace Place{50.0, -5.0};
 };
 
@@ -85,25 +116,30 @@ class BoatModel {
   /// LF. Parts of a tick wait for the next call.
   std::string Step(double seconds);
 
-  /// Bytes for the autopilot, in pieces of any size. The heading to steer of each good autopilot sentence
-  /// becomes the bearing; any other line is counted and leaves it.
-  void Steer(std::string_view bytes);
+  /// Bytes for the autopilot, in pieces of any size.
+  void Steer(std::string_view bytes) { m_pilot.Take(bytes, m_settings.Pilot.Refuses); }
 
-  /// Whether the pilot steers. While it does not, somebody at the wheel keeps `heading` [deg magnetic].
-  void PilotStandby(double heading);
+  /// Whether the pilot steers. While it does not, somebody at the wheel keeps `heading` [deg magnetic], or
+  /// nobody is there and the wheel stays where it was.
+  void PilotStandby(std::optional<double> heading);
   void PilotEngage() { m_engaged = true; }
 
   /// May be changed while sailing.
   BoatSettings& Set() { return m_settings; }
   const BoatState& State() const { return m_state; }
-  double Bearing() const { return m_bearing; }  ///< that the pilot was told last [deg magnetic]
-  int GoodSentences() const { return m_goodSentences; }
-  int BadSentences() const { return m_badSentences; }
+  const BoatPilot& Pilot() const { return m_pilot; }
 
  private:
   void Tick();
   void MoveWind();
+  void MoveSea();
   void Turn();
+  /// What is missing to the bearing, or to the heading that somebody at the wheel keeps [deg].
+  double Missing() const;
+  /// The rate of turn that the pilot asks for [deg/s].
+  void TurnAsAsked();
+  void TurnByRudder(const RudderSettings& rudder);
+  double RudderAsked();
   void Move();
   void ReadVane();
   void Send();
@@ -112,7 +148,6 @@ class BoatModel {
   /// One tick of a noise with memory, of unit deviation.
   void Wander(double& value, double memory);
   void Line(const std::string& sentence) { m_sent.append(sentence).append("\r\n"); }
-  void TakeLine();
 
   BoatSettings m_settings;
   BoatState m_state;
@@ -124,18 +159,22 @@ class BoatModel {
   double m_gust = 0.0;
   double m_shift = 0.0;
   double m_yaw = 0.0;
-  double m_keel = 0.0;      ///< heading without the waves [deg true]
-  double m_turnRate = 0.0;  ///< [deg/s]
-  double m_vaneAhead = 0.0;
-  double m_vaneRight = 0.0;
+  double m_keel = 0.0;  ///< heading without the waves [deg true]
+  Seaway m_seaway;
+  SeaMotion m_sea;
+  /// The wind at the vane [kn, from ahead and from the right].
+  struct VaneWind {
+    double Ahead = 0.0;
+    double Right = 0.0;
+  };
+  VaneWind m_vane;
+  std::deque<VaneWind> m_vaneLate;  ///< what the instrument has read and not sent yet, the oldest first
+  double m_log = 0.0;               ///< speed that the log shows [kn]
   EarthPlace m_waypoint;
 
+  BoatPilot m_pilot;
   bool m_engaged = true;
-  double m_bearing = 0.0;
-  double m_wheel = 0.0;
-  std::string m_received;
-  int m_goodSentences = 0;
-  int m_badSentences = 0;
+  std::optional<double> m_wheel;  ///< heading that somebody at the wheel keeps [deg magnetic]
 };
 
 }  // namespace veerwatch
