@@ -1,0 +1,66 @@
+// How well a wind angle is held over a passage of twenty minutes by a boat with a rudder, in gusts and a sea;
+// and the set of such passages over which methods of tracking are compared.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+#include "settings/Settings.h"
+#include "settings/TrackMode.h"
+#include "tests/support/BoatModel.h"
+
+namespace veerwatch {
+
+/// A method of tracking: what it sets.
+struct NamedMethod {
+  std::string_view Name;
+  void (*Use)(Settings&);
+};
+
+/// Every method that there is.
+const std::vector<NamedMethod>& NamedMethods();
+
+struct HoldCase {
+  NamedMethod Method = NamedMethods().front();
+  float Bandwidth = Settings{}.m_fTrackBandwidth;
+  float Damping = Settings{}.m_fTrackDamping;
+  bool Constant = false;  ///< the pilot keeps the mean course, and nothing is tracked
+
+  double WindRate = 1.0;      ///< wind sentences a second
+  double HeadingRate = 10.0;  ///< compass sentences a second
+  double Lag = 4.0;           ///< of the pilot [s]
+  Sea TheSea = Sea::Flat;
+  TrackSide Side = TrackSide::True;
+  double Angle = 100.0;  ///< to hold [deg relative]
+  std::uint64_t Seed = 1;
+};
+
+struct HoldResult {
+  double Mean = 0.0;     ///< of what the boat's real wind angle is off the held one [deg]
+  double Rms = 0.0;      ///< of the same, against its mean [deg]
+  double Most = 0.0;     ///< of the same, to either side [deg]
+  double Rudder = 0.0;   ///< how far the rudder moves [deg a minute]
+  double Changes = 0.0;  ///< new bearings for the pilot [a minute]
+
+  /// The angle is not held: it is off by more than 20 degrees, taken as the root of the mean square.
+  bool Lost() const { return Mean * Mean + Rms * Rms > 20.0 * 20.0; }
+};
+
+/// Five minutes to come to rest, then twenty that count.
+HoldResult Hold(const HoldCase& what);
+
+/// The 90 passages of `what`: each lag of the pilot in each sea at each angle, with a seed of its own.
+std::vector<HoldCase> Passages(const HoldCase& what);
+
+struct HoldSummary {
+  int Lost = 0;
+  int Count = 0;
+  double Rms = 0.0;  ///< the median, as the following ones
+  double Rudder = 0.0;
+  double Changes = 0.0;
+};
+
+HoldSummary SummaryOf(const std::vector<HoldResult>& results);
+
+}  // namespace veerwatch

@@ -1,0 +1,117 @@
+// The passages of twenty minutes, held by the default method.
+#include "tests/closedloop/Holding.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <set>
+#include <tuple>
+
+namespace veerwatch {
+namespace {
+
+TEST(Holding, AConstantHeadingHasTheSpreadOfTheWindAndTellsThePilotNothing) {
+  HoldCase what;
+  what.Constant = true;
+  const HoldResult result = Hold(what);
+  // Shifts of 6 degrees with a memory of 40 s leave some thirty winds of their own in twenty minutes.
+  EXPECT_NEAR(result.Rms, 6.0, 1.5);
+  EXPECT_NEAR(result.Mean, 0.0, 3.0);
+  EXPECT_GT(result.Most, 2.0 * result.Rms);
+  EXPECT_EQ(result.Changes, 0.0);
+  EXPECT_LT(result.Rudder, 20.0) << "there is no sea, and the pilot has little to do";
+  EXPECT_FALSE(result.Lost());
+}
+
+TEST(Holding, BeginsOnEveryAngleThatIsHeld) {
+  for (const HoldCase& one : Passages({})) {
+    if (one.Lag == 4.0 && one.TheSea == Sea::Slight) {
+      HoldCase constant = one;
+      constant.Constant = true;
+      // The gusts turn the apparent wind aft by more than the lulls turn it forward.
+      EXPECT_NEAR(Hold(constant).Mean, 0.0, 4.0) << "angle " << one.Angle;
+    }
+  }
+}
+
+TEST(Holding, ACalmLoopHoldsCloserThanAConstantHeading) {
+  HoldCase what;
+  what.Constant = true;
+  const HoldResult constant = Hold(what);
+  what.Constant = false;
+  what.Bandwidth = 60.0F;
+  const HoldResult held = Hold(what);
+  EXPECT_LT(held.Rms, 0.9 * constant.Rms);
+  EXPECT_NEAR(held.Mean, 0.0, 0.5);
+  EXPECT_GT(held.Rudder, constant.Rudder);
+  EXPECT_GT(held.Changes, 30.0);
+  EXPECT_LE(held.Changes, 60.0) << "one bearing for each wind";
+}
+
+TEST(Holding, TheDefaultLosesTheAngleAtTenWindsASecond) {
+  HoldCase what;
+  what.WindRate = 10.0;
+  what.Lag = 8.0;
+  const HoldResult result = Hold(what);
+  EXPECT_TRUE(result.Lost());
+  EXPECT_GT(result.Rudder, 150.0);
+  EXPECT_GT(result.Changes, 500.0);
+}
+
+TEST(Holding, ASeaMakesTheRudderWork) {
+  HoldCase what;
+  what.Constant = true;
+  const double flat = Hold(what).Rudder;
+  what.TheSea = Sea::Following;
+  EXPECT_GT(Hold(what).Rudder, flat + 50.0);
+}
+
+TEST(Holding, TheSamePassageComesOutTheSame) {
+  HoldCase what;
+  what.TheSea = Sea::Head;
+  const HoldResult one = Hold(what);
+  const HoldResult two = Hold(what);
+  EXPECT_EQ(one.Rms, two.Rms);
+  EXPECT_EQ(one.Rudder, two.Rudder);
+  what.Seed = 2;
+  EXPECT_NE(one.Rms, Hold(what).Rms);
+}
+
+TEST(Holding, LostIsWhatIsOffByMoreThanTwentyDegreesInTheMeanSquare) {
+  HoldResult result;
+  result.Rms = 20.0;
+  EXPECT_FALSE(result.Lost());
+  result.Mean = -0.5;
+  EXPECT_TRUE(result.Lost());
+  result = {};
+  result.Mean = 170.0;
+  EXPECT_TRUE(result.Lost()) << "steady on the other side";
+}
+
+TEST(Holding, ThereAreNinetyPassagesWithASeedOfTheirOwn) {
+  std::set<std::uint64_t> seeds;
+  std::set<std::tuple<double, Sea, TrackSide, double>> cases;
+  HoldCase what;
+  what.WindRate = 5.0;
+  for (const HoldCase& one : Passages(what)) {
+    seeds.insert(one.Seed);
+    cases.insert({one.Lag, one.TheSea, one.Side, one.Angle});
+    EXPECT_EQ(one.WindRate, 5.0);
+  }
+  EXPECT_EQ(seeds.size(), 90U);
+  EXPECT_EQ(cases.size(), 90U);
+}
+
+TEST(Holding, TheSummaryHasTheMediansAndCountsTheLost) {
+  const HoldSummary sum = SummaryOf(
+      {{0.0, 30.0, 60.0, 200.0, 60.0}, {0.0, 5.0, 20.0, 100.0, 50.0}, {0.0, 4.0, 20.0, 10.0, 55.0}});
+  EXPECT_EQ(sum.Lost, 1);
+  EXPECT_EQ(sum.Count, 3);
+  EXPECT_EQ(sum.Rms, 5.0);
+  EXPECT_EQ(sum.Rudder, 100.0);
+  EXPECT_EQ(sum.Changes, 55.0);
+  EXPECT_EQ(SummaryOf({{0.0, 4.0, 9.0, 1.0, 1.0}, {0.0, 5.0, 9.0, 1.0, 1.0}}).Rms, 4.5);
+}
+
+}  // namespace
+}  // namespace veerwatch
