@@ -20,6 +20,9 @@ BoatSettings BoatOf(const HoldCase& what) {
   boat.Pilot.BearingLag = what.Lag;
   boat.WindPeriod = 1.0 / what.WindRate;
   boat.HeadingPeriod = 1.0 / what.HeadingRate;
+  if (what.Alter != nullptr) {
+    what.Alter(boat);
+  }
   return boat;
 }
 

@@ -34,6 +34,7 @@ struct HoldCase {
   TrackSide Side = TrackSide::True;
   double Angle = 100.0;  ///< to hold [deg relative]
   std::uint64_t Seed = 1;
+  void (*Alter)(BoatSettings&) = nullptr;  ///< what else is to be different on the boat
 };
 
 struct HoldResult {

@@ -44,8 +44,32 @@ TEST(Holding, ACalmLoopHoldsCloserThanAConstantHeading) {
   EXPECT_LT(held.Rms, 0.9 * constant.Rms);
   EXPECT_NEAR(held.Mean, 0.0, 0.5);
   EXPECT_GT(held.Rudder, constant.Rudder);
+  what.Bandwidth = 20.0F;
+  EXPECT_GT(Hold(what).Rudder, 1.5 * held.Rudder) << "a smaller bandwidth steers more";
   EXPECT_GT(held.Changes, 30.0);
   EXPECT_LE(held.Changes, 60.0) << "one bearing for each wind";
+}
+
+TEST(Holding, TheSpreadIsTakenAgainstTheMean) {
+  HoldCase what;
+  what.Constant = true;
+  what.Alter = [](BoatSettings& boat) {
+    boat.GustDeviation = 0.0;
+    boat.ShiftDeviation = 0.0;
+    // It keeps the course by its own compass, 4 degrees to the left of the one by the boat's.
+    boat.Pilot.Refuses = true;
+  };
+  const HoldResult result = Hold(what);
+  EXPECT_NEAR(result.Mean, 4.0, 0.2);
+  EXPECT_LT(result.Rms, 0.2);
+  EXPECT_NEAR(result.Most, 4.0, 0.4);
+}
+
+TEST(Holding, APilotThatTurnsTheWrongWayLosesTheAngle) {
+  HoldCase what;
+  what.Bandwidth = 60.0F;
+  what.Alter = [](BoatSettings& boat) { boat.Pilot.Reversed = true; };
+  EXPECT_TRUE(Hold(what).Lost());
 }
 
 TEST(Holding, TheDefaultLosesTheAngleAtTenWindsASecond) {
