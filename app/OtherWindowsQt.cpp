@@ -217,7 +217,7 @@ bool OtherWindowsQt::PilotPortOpen() const {
 
 void OtherWindowsQt::DiagramShow() {
   if (!m_diagram) {
-    m_diagram = std::make_unique<frmDiagram>(static_cast<DiagramListener&>(*this));
+    m_diagram = std::make_unique<frmDiagram>(static_cast<DiagramObserver&>(*this));
     m_diagram->setWindowIcon(ProgramIcon());
   }
   DiagramLights();

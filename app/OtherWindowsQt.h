@@ -12,7 +12,7 @@
 
 #include "app/MainWindowParts.h"
 #include "app/frmMainCommands.h"
-#include "diagram/DiagramListener.h"
+#include "diagram/DiagramObserver.h"
 #include "diagram/frmAbout.h"
 #include "diagram/frmDiagram.h"
 #include "helm/Helm.h"
@@ -20,7 +20,7 @@
 #include "helm/SettingsProfile.h"
 #include "history/frmHistory.h"
 #include "options/frmOptions.h"
-#include "polar/PolarListener.h"
+#include "polar/PolarObserver.h"
 #include "polar/frmPolar.h"
 #include "tack/frmTack.h"
 
@@ -28,9 +28,9 @@ namespace veerwatch {
 
 class OtherWindowsQt final : private HelmObserver,
                              public RememberedWindows,
-                             private PolarListener,
+                             private PolarObserver,
                              private OptionsPorts,
-                             private DiagramListener {
+                             private DiagramObserver {
  public:
   /// Connects the commands of `menu` that show a window. `window` is the main window. All of them outlive
   /// this.

@@ -7,7 +7,7 @@
 
 #include "bench/NoDialogs.h"
 #include "platform/Dialogs.h"
-#include "polar/PolarListener.h"
+#include "polar/PolarObserver.h"
 #include "polar/frmPolar.h"
 
 namespace veerwatch {
@@ -23,7 +23,7 @@ class Plot {
     m_profile.ProfileSet("Polar Data", "Plot Label WindSpeed", true);
     m_profile.ProfileSet("Polar Data", "Speed Range", 18.0F);
     m_window = std::make_unique<frmPolar>(
-        PolarParts{m_profile, m_dialogs, m_listener, {VEERWATCH_POLAR_FOLDER, {}}});
+        PolarParts{m_profile, m_dialogs, m_observer, {VEERWATCH_POLAR_FOLDER, {}}});
     m_canvas = m_window->centralWidget();
     m_window->show();
     m_window->resize(m_window->size() + QSize(kSize, kSize) - m_canvas->size());
@@ -47,7 +47,7 @@ class Plot {
  private:
   Profile m_profile;
   NoDialogs m_dialogs;
-  PolarListener m_listener;
+  PolarObserver m_observer;
   std::unique_ptr<frmPolar> m_window;
   QWidget* m_canvas;
   QImage m_image{kSize, kSize, QImage::Format_ARGB32_Premultiplied};

@@ -13,13 +13,13 @@ std::string_view TrackRefusalText(TrackRefusal why) {
 void TrackModes::Leave() {
   m_settings.m_eTrackMode = TrackMode::Switching;
   if (m_loop.WithdrawAlarm()) {
-    m_listener.OnAlarmOver();
+    m_observer.OnAlarmOver();
   }
 }
 
 void TrackModes::Enter(TrackMode mode) {
   m_settings.m_eTrackMode = mode;
-  m_listener.OnTrackMode(mode);
+  m_observer.OnTrackMode(mode);
 }
 
 void TrackModes::TrackSetOff() {
@@ -45,8 +45,8 @@ void TrackModes::TrackSetManual() {
 
 void TrackModes::TrackSetTrack() {
   if (!m_loop.StartTracking()) {
-    m_listener.OnTrackMode(m_settings.m_eTrackMode);
-    m_listener.OnTrackRefused(TrackRefusal::NoGains);
+    m_observer.OnTrackMode(m_settings.m_eTrackMode);
+    m_observer.OnTrackRefused(TrackRefusal::NoGains);
     return;
   }
   Leave();

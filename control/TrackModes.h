@@ -21,9 +21,9 @@ std::string_view TrackRefusalText(TrackRefusal why);
 
 class TrackModes {
  public:
-  class Listener {
+  class Observer {
    public:
-    virtual ~Listener() = default;
+    virtual ~Observer() = default;
     /// The mode is now `mode`, or still is after a switch that was refused.
     virtual void OnTrackMode(TrackMode mode) = 0;
     /// Track was refused. Comes after OnTrackMode.
@@ -33,8 +33,8 @@ class TrackModes {
   };
 
   TrackModes(Settings& settings, NmeaReceiver& receiver, PilotOutput& pilot, TrackLoop& loop,
-             Listener& listener)
-      : m_settings(settings), m_receiver(receiver), m_pilot(pilot), m_loop(loop), m_listener(listener) {}
+             Observer& observer)
+      : m_settings(settings), m_receiver(receiver), m_pilot(pilot), m_loop(loop), m_observer(observer) {}
 
   /// Stops the input and closes the pilot port.
   void TrackSetOff();
@@ -54,7 +54,7 @@ class TrackModes {
   NmeaReceiver& m_receiver;
   PilotOutput& m_pilot;
   TrackLoop& m_loop;
-  Listener& m_listener;
+  Observer& m_observer;
 };
 
 /// Which controls of the main window answer in a mode.

@@ -59,7 +59,7 @@ std::pair<QColor, QColor> Colours(DiagramLight light, const QPalette& palette) {
 
 }  // namespace
 
-frmDiagram::frmDiagram(DiagramListener& tells) : m_tells(tells) {
+frmDiagram::frmDiagram(DiagramObserver& tells) : m_tells(tells) {
   setObjectName(QStringLiteral("frmDiagram"));
   setWindowTitle(QStringLiteral("Veerwatch - Block Diagram"));
   setAttribute(Qt::WA_QuitOnClose, false);

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "diagram/BlockDiagram.h"
-#include "diagram/DiagramListener.h"
+#include "diagram/DiagramObserver.h"
 #include "diagram/DiagramState.h"
 
 namespace veerwatch {
@@ -17,7 +17,7 @@ namespace veerwatch {
 class frmDiagram final : public QWidget {
  public:
   /// Makes the window, hidden. `tells` outlives it.
-  explicit frmDiagram(DiagramListener& tells);
+  explicit frmDiagram(DiagramObserver& tells);
 
   /// Lights the boxes; nothing is drawn while nothing changes.
   void ShowState(const DiagramState& state);
@@ -41,7 +41,7 @@ class frmDiagram final : public QWidget {
   QPushButton& Button(const char* name) const;
   DiagramAnchor Anchor(const QWidget& button) const;
 
-  DiagramListener& m_tells;
+  DiagramObserver& m_tells;
   const BlockDiagram m_diagram = BlockDiagramMade();
   const std::vector<DiagramLine> m_heads = BlockArrowHeads(m_diagram);
   std::vector<std::pair<QWidget*, BlockArea>> m_placed;

@@ -24,9 +24,9 @@
 
 namespace veerwatch {
 
-class Helm final : private NmeaReceiver::Listener,
-                   private PilotOutput::Listener,
-                   private TrackModes::Listener {
+class Helm final : private NmeaReceiver::Observer,
+                   private PilotOutput::Observer,
+                   private TrackModes::Observer {
  public:
   /// Every collaborator outlives the helm. `tmrNmea` ticks into Tick().
   Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Timer& tmrNmea, const Clock& clock,

@@ -13,13 +13,13 @@ constexpr int kSilentTicks = 4;
 }  // namespace
 
 NmeaReceiver::NmeaReceiver(const Settings& settings, SerialPort& port, Timer& tmrNmea, const Clock& clock,
-                           InstrumentRecord& record, Listener& listener)
+                           InstrumentRecord& record, Observer& observer)
     : m_settings(settings),
       m_port(port),
       m_timer(tmrNmea),
       m_clock(clock),
       m_record(record),
-      m_listener(listener),
+      m_observer(observer),
       m_dispatcher(settings, record) {
   m_connection = m_port.Connect(*this);
 }
@@ -31,17 +31,17 @@ bool NmeaReceiver::NmeaStart() {
   m_noDataShown = false;
   m_timer.Enabled(true);
   m_record.Restart();
-  m_listener.OnInputStarts();
+  m_observer.OnInputStarts();
   m_dispatcher.Sources().Restart();
   Advise({});
   if (m_settings.m_bSimulate) {
     Failure("");
     Status({PortStatus::What::Simulate});
-    m_listener.OnInputState(InputState::Simulate);
+    m_observer.OnInputState(InputState::Simulate);
     return true;
   }
   Status({});
-  m_listener.OnInputState(InputState::Running);
+  m_observer.OnInputState(InputState::Running);
   if (m_port.PortOpen() && m_port.CommPort() != m_settings.m_iNmeaPort) {
     m_port.PortOpen(false);
   }
@@ -58,7 +58,7 @@ void NmeaReceiver::NmeaStop() {
   if (NotOpenShown()) {
     Status({});
   }
-  m_listener.OnInputState(InputState::Stopped);
+  m_observer.OnInputState(InputState::Stopped);
 }
 
 void NmeaReceiver::OpenPort() {
@@ -76,14 +76,14 @@ void NmeaReceiver::OpenPort() {
 void NmeaReceiver::Failure(std::string reason) {
   if (reason != m_failure) {
     m_failure = std::move(reason);
-    m_listener.OnInputFailure(m_failure);
+    m_observer.OnInputFailure(m_failure);
   }
 }
 
 void NmeaReceiver::Advise(std::vector<std::string> lines) {
   if (lines != m_advice) {
     m_advice = std::move(lines);
-    m_listener.OnSourceAdvice(m_advice);
+    m_observer.OnSourceAdvice(m_advice);
   }
 }
 
@@ -97,11 +97,11 @@ void NmeaReceiver::Tick() {
   ++m_noDataCount;
   if (m_noDataCount >= kSilentTicks) {
     Status({PortStatus::What::NoInputData});
-    m_listener.OnInputState(InputState::NoData);
+    m_observer.OnInputState(InputState::NoData);
     m_noDataShown = true;
   } else if (m_noDataShown) {
     Status({});
-    m_listener.OnInputState(InputState::Running);
+    m_observer.OnInputState(InputState::Running);
     m_noDataShown = false;
   }
   if (m_reopenPause.Tick(m_port.PortOpen())) {
@@ -152,14 +152,14 @@ void NmeaReceiver::SentenceLine(std::string_view line) {
       break;
   }
   const Dispatcher::Outcome outcome = m_dispatcher.Dispatch(line, m_settings.m_iNmeaPort, m_arrived);
-  m_listener.OnSentence(line, outcome, m_arrived);
+  m_observer.OnSentence(line, outcome, m_arrived);
   Heard();
 }
 
 void NmeaReceiver::BadLine(std::string_view line, LineFault fault) {
   m_heard = false;
   Status({fault == LineFault::Checksum ? PortStatus::What::ChecksumError : PortStatus::What::SentenceError});
-  m_listener.OnBadLine(line, fault);
+  m_observer.OnBadLine(line, fault);
 }
 
 void NmeaReceiver::Heard() {
@@ -170,7 +170,7 @@ void NmeaReceiver::Heard() {
 
 void NmeaReceiver::Status(const PortStatus& status) {
   m_status = status;
-  m_listener.OnInputStatus(status);
+  m_observer.OnInputStatus(status);
 }
 
 }  // namespace veerwatch

@@ -22,9 +22,9 @@ namespace veerwatch {
 class NmeaReceiver final : public SerialPort::Events {
  public:
   /// Who hears of what comes in.
-  class Listener {
+  class Observer {
    public:
-    virtual ~Listener() = default;
+    virtual ~Observer() = default;
     /// The input starts anew: the record has no valid value, and the list of received sentences begins anew.
     virtual void OnInputStarts() = 0;
     /// The record has been given a line whose frame is good, which came at `now`.
@@ -40,7 +40,7 @@ class NmeaReceiver final : public SerialPort::Events {
   };
 
   NmeaReceiver(const Settings& settings, SerialPort& port, Timer& tmrNmea, const Clock& clock,
-               InstrumentRecord& record, Listener& listener);
+               InstrumentRecord& record, Observer& observer);
 
   /// Starts the input, with the present port number and with the present m_bSimulate. Always true; a port
   /// that cannot be opened is told as "Input Port n Not Open" and tried again at every fourth tick.
@@ -85,7 +85,7 @@ class NmeaReceiver final : public SerialPort::Events {
   Timer& m_timer;
   const Clock& m_clock;
   InstrumentRecord& m_record;
-  Listener& m_listener;
+  Observer& m_observer;
   Dispatcher m_dispatcher;
 
   LineFramer m_framer;

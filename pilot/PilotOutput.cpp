@@ -8,8 +8,8 @@
 namespace veerwatch {
 
 PilotOutput::PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort,
-                         Listener& listener)
-    : m_settings(settings), m_nmeaPort(nmeaPort), m_pilotPort(pilotPort), m_listener(listener) {
+                         Observer& observer)
+    : m_settings(settings), m_nmeaPort(nmeaPort), m_pilotPort(pilotPort), m_observer(observer) {
   m_connection = m_pilotPort.Connect(*this);
 }
 
@@ -36,11 +36,11 @@ void PilotOutput::PilotStart() {
   }
   if (m_settings.m_bSimulate) {
     Status({PortStatus::What::Simulate});
-    m_listener.OnOutputState(OutputState::Simulate);
+    m_observer.OnOutputState(OutputState::Simulate);
     return;
   }
   Status({});
-  m_listener.OnOutputState(OutputState::Running);
+  m_observer.OnOutputState(OutputState::Running);
   if (OwnPort()) {
     OpenPort();
   }
@@ -70,7 +70,7 @@ void PilotOutput::OpenPort() {
 void PilotOutput::Failure(std::string reason) {
   if (reason != m_failure) {
     m_failure = std::move(reason);
-    m_listener.OnOutputFailure(m_failure);
+    m_observer.OnOutputFailure(m_failure);
   }
 }
 
@@ -133,7 +133,7 @@ void PilotOutput::OnPortLost() {
 
 void PilotOutput::Status(const PortStatus& status) {
   m_notOpenShown = false;
-  m_listener.OnOutputStatus(status);
+  m_observer.OnOutputStatus(status);
 }
 
 }  // namespace veerwatch

@@ -16,16 +16,16 @@ namespace veerwatch {
 class PilotOutput final : public SerialPort::Events {
  public:
   /// Who hears of the port.
-  class Listener {
+  class Observer {
    public:
-    virtual ~Listener() = default;
+    virtual ~Observer() = default;
     virtual void OnOutputStatus(const PortStatus& status) = 0;
     virtual void OnOutputState(OutputState state) = 0;
     /// Why the pilot's own port is not open, as the system says; "" when it is, or is not wanted.
     virtual void OnOutputFailure(const std::string& reason) = 0;
   };
 
-  PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Listener& listener);
+  PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Observer& observer);
 
   /// Forgets a sentence that waits to be sent, and closes the pilot port where it is not needed or has
   /// another number than it should, so that the device is free for the instruments.
@@ -66,7 +66,7 @@ class PilotOutput final : public SerialPort::Events {
   const Settings& m_settings;
   SerialPort& m_nmeaPort;
   SerialPort& m_pilotPort;
-  Listener& m_listener;
+  Observer& m_observer;
   bool m_started = false;
   bool m_notOpenShown = false;
   ReopenPause m_reopenPause;

@@ -13,9 +13,9 @@
 #include "polar/MouseReadoutQt.h"
 #include "polar/PacedQt.h"
 #include "polar/PolarCanvasQt.h"
-#include "polar/PolarListener.h"
 #include "polar/PolarMenuQt.h"
 #include "polar/PolarModel.h"
+#include "polar/PolarObserver.h"
 #include "polar/PolarQuestions.h"
 #include "polar/PolarScene.h"
 #include "settings/TrackMode.h"
@@ -26,7 +26,7 @@ namespace veerwatch {
 struct PolarParts {
   Profile& Store;
   Dialogs& Asks;
-  PolarListener& Tells;
+  PolarObserver& Tells;
   PolarFolders Folders;
   int Rest = 180;  ///< least time from one set of values that is shown to the next [ms]
 };

@@ -18,9 +18,9 @@
 namespace veerwatch {
 
 class RecordingView final : public HelmObserver,
-                            public NmeaReceiver::Listener,
-                            public PilotOutput::Listener,
-                            public TrackModes::Listener {
+                            public NmeaReceiver::Observer,
+                            public PilotOutput::Observer,
+                            public TrackModes::Observer {
  public:
   std::vector<std::string> Calls;  ///< such as "OnHeading 123.4", in their order
 

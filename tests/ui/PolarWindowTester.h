@@ -24,7 +24,7 @@
 
 namespace veerwatch {
 
-class PolarWindowTester : public testing::Test, public PolarListener {
+class PolarWindowTester : public testing::Test, public PolarObserver {
  public:
   TemporaryFolder Program;
   Profile Store;

@@ -8,9 +8,9 @@ namespace veerwatch {
 /// What the button says that a turn is asked for with.
 enum class TurnButton { Steer, Tack, Jibe };
 
-class PolarListener {
+class PolarObserver {
  public:
-  virtual ~PolarListener() = default;
+  virtual ~PolarObserver() = default;
   /// A value for the history: the channel's name and the value with its unit. Only while the window shows.
   virtual void OnPolarValue(std::string_view /*channel*/, std::string_view /*value*/) {}
   /// The window was shown or hidden.

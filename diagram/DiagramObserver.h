@@ -5,9 +5,9 @@
 
 namespace veerwatch {
 
-class DiagramListener {
+class DiagramObserver {
  public:
-  virtual ~DiagramListener() = default;
+  virtual ~DiagramObserver() = default;
   /// The options dialog on `tab` [0, 5], at the place for `anchor` [px of the desktop].
   /// Deliberate: the control loop opens tab 1, where the source of the true wind is chosen.
   virtual void OnDiagramOptions(int tab, const DiagramAnchor& anchor) = 0;
