@@ -7,6 +7,8 @@
 #include <initializer_list>
 #include <utility>
 
+#include "draw/DrawQt.h"
+
 namespace veerwatch {
 
 namespace {
@@ -22,7 +24,7 @@ constexpr const char* kAnglePattern = "-000";
 constexpr const char* kFineAnglePattern = "-000.0";
 constexpr const char* kSpeedPattern = "00.0";
 
-QRect Rounded(const PanelBox& box) { return QRectF(box.X, box.Y, box.Width, box.Height).toAlignedRect(); }
+QRect Rounded(const Box& box) { return ToQt(box).toAlignedRect(); }
 
 QString Element(const char* array, int index) {
   return QStringLiteral("%1(%2)").arg(QLatin1String(array)).arg(index);
@@ -167,7 +169,7 @@ void InstrumentPanelQt::Place() {
   const QFont buttons = Sized(font(), m_layout.ButtonText, QFont::Bold);
   const QFont figures = Sized(font(), 1.0, QFont::Normal);
 
-  const auto place = [](QWidget* control, const PanelBox& box, const QFont& textFont) {
+  const auto place = [](QWidget* control, const Box& box, const QFont& textFont) {
     control->setGeometry(Rounded(box));
     if (control->font() != textFont) {
       control->setFont(textFont);
@@ -219,8 +221,8 @@ void InstrumentPanelQt::Place() {
     place(optControl[i], m_layout.Winds[i].Option, buttons);
   }
   // Both buttons of a pair have letters of one size.
-  const auto placeNudges = [&](const ControlArray<NudgeButtonQt>& pair, const PanelBox& port,
-                               const PanelBox& starboard) {
+  const auto placeNudges = [&](const ControlArray<NudgeButtonQt>& pair, const Box& port,
+                               const Box& starboard) {
     const int height = std::min(pair[0]->FittingTextHeight(buttons, port.Width),
                                 pair[1]->FittingTextHeight(buttons, starboard.Width));
     const QFont letters = Sized(font(), height, QFont::Bold);
@@ -277,12 +279,11 @@ void InstrumentPanelQt::PaintGround() {
   QPainter painter(&m_ground);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillRect(rect(), m_theme.Window);
-  const auto card = [&](const PanelBox& box, bool chosen) {
+  const auto card = [&](const Box& box, bool chosen) {
     const QColor edge = m_mode == TrackMode::Track ? m_theme.Mode(m_mode).Fill : m_theme.Accent;
     painter.setPen(chosen ? QPen(edge, 2.5) : QPen(m_theme.Edge, 1.0));
     painter.setBrush(m_theme.Card);
-    painter.drawRoundedRect(QRectF(box.X, box.Y, box.Width, box.Height).adjusted(1.0, 1.0, -1.0, -1.0),
-                            kCardRadius, kCardRadius);
+    painter.drawRoundedRect(ToQt(box).adjusted(1.0, 1.0, -1.0, -1.0), kCardRadius, kCardRadius);
   };
   const bool answers = m_mode != TrackMode::Off && m_mode != TrackMode::Switching;
   card(m_layout.Winds[0].Card, answers && m_side == TrackSide::Apparent);

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "app/IconsQt.h"
+#include "draw/DrawQt.h"
 #include "platform/NumberText.h"
 #include "platform/WindowFrameQt.h"
 
@@ -239,9 +240,9 @@ void OtherWindowsQt::OnDiagramOptions(int tab, const DiagramAnchor& anchor) {
   const QRect screen = m_diagram->screen()->availableGeometry();
   const auto corner = [&options, &anchor, screen] {
     const QSize size = FramedSize(options);
-    const DiagramPlace place = DiagramShowNear(anchor, size.width(), size.height(),
-                                               screen.x() + screen.width(), screen.y() + screen.height());
-    return QPoint(place.Left, place.Top);
+    return ToQt(DiagramShowNear(anchor, size.width(), size.height(), screen.x() + screen.width(),
+                                screen.y() + screen.height()))
+        .toPoint();
   };
   options.ShowAt(corner());
   // The frame may have its size only now.

@@ -33,33 +33,33 @@ constexpr double kTallWindShare = 0.60;
 /// Divides the height of a box from top to bottom, with equal gaps.
 class Rows {
  public:
-  Rows(const PanelBox& box, double gap, double shares, int rows)
+  Rows(const Box& box, double gap, double shares, int rows)
       : m_box(box), m_gap(gap), m_unit((box.Height - gap * (rows - 1)) / shares), m_y(box.Y) {}
 
-  PanelBox Next(double share) {
-    const PanelBox row{m_box.X, m_y, m_box.Width, m_unit * share};
+  Box Next(double share) {
+    const Box row{m_box.X, m_y, m_box.Width, m_unit * share};
     m_y += row.Height + m_gap;
     return row;
   }
 
  private:
-  PanelBox m_box;
+  Box m_box;
   double m_gap;
   double m_unit;
   double m_y;
 };
 
-PanelBox Inset(const PanelBox& box, double padding) {
+Box Inset(const Box& box, double padding) {
   return {box.X + padding, box.Y + padding, box.Width - 2.0 * padding, box.Height - 2.0 * padding};
 }
 
 /// Column `index` of `count` equal ones.
-PanelBox Column(const PanelBox& row, int index, int count, double gap) {
+Box Column(const Box& row, int index, int count, double gap) {
   const double width = (row.Width - gap * (count - 1)) / count;
   return {row.X + index * (width + gap), row.Y, width, row.Height};
 }
 
-PanelLayout::Readout ReadoutIn(const PanelBox& box, double captionText) {
+PanelLayout::Readout ReadoutIn(const Box& box, double captionText) {
   const double caption = std::min(box.Height * 0.4, captionText * 1.5);
   return {{box.X, box.Y, box.Width, caption}, {box.X, box.Y + caption, box.Width, box.Height - caption}};
 }
@@ -73,41 +73,41 @@ class Designer {
   double Scaled(double length) const { return m_scale * length; }
   double Text(double height) const { return std::max(kLeastText, Scaled(height)); }
 
-  PanelLayout::Wind Wind(const PanelBox& card) const {
+  PanelLayout::Wind Wind(const Box& card) const {
     Rows rows(Inset(card, Scaled(kPadding)), Scaled(kMargin),
               kOptionShare + kMeasuredShare + kHeldShare + kButtonShare, 4);
     PanelLayout::Wind wind;
     wind.Card = card;
     wind.Option = rows.Next(kOptionShare);
-    const PanelBox measured = rows.Next(kMeasuredShare);
+    const Box measured = rows.Next(kMeasuredShare);
     wind.Angle = ReadoutIn(Left(measured), Text(kCaptionText));
     wind.Speed = ReadoutIn(Right(measured), Text(kCaptionText));
-    const PanelBox held = rows.Next(kHeldShare);
+    const Box held = rows.Next(kHeldShare);
     wind.Desired = ReadoutIn(Left(held), Text(kCaptionText));
     wind.Delta = ReadoutIn(Right(held), Text(kCaptionText));
-    const PanelBox buttons = rows.Next(kButtonShare);
+    const Box buttons = rows.Next(kButtonShare);
     wind.Port = Left(buttons);
     wind.Starboard = Right(buttons);
     return wind;
   }
 
-  PanelLayout::Instrument Instrument(const PanelBox& card) const {
+  PanelLayout::Instrument Instrument(const Box& card) const {
     return {card, ReadoutIn(Inset(card, Scaled(kPadding)), Text(kCaptionText))};
   }
 
-  PanelLayout::Pilot Pilot(const PanelBox& card) const {
+  PanelLayout::Pilot Pilot(const Box& card) const {
     Rows rows(Inset(card, Scaled(kPadding)), Scaled(kMargin), kPilotValueShare + kButtonShare, 2);
     PanelLayout::Pilot pilot;
     pilot.Card = card;
     pilot.Bearing = ReadoutIn(rows.Next(kPilotValueShare), Text(kCaptionText));
-    const PanelBox buttons = rows.Next(kButtonShare);
+    const Box buttons = rows.Next(kButtonShare);
     pilot.Port = Left(buttons);
     pilot.Starboard = Right(buttons);
     return pilot;
   }
 
-  PanelBox Left(const PanelBox& row) const { return Column(row, 0, 2, Scaled(kMargin)); }
-  PanelBox Right(const PanelBox& row) const { return Column(row, 1, 2, Scaled(kMargin)); }
+  Box Left(const Box& row) const { return Column(row, 0, 2, Scaled(kMargin)); }
+  Box Right(const Box& row) const { return Column(row, 1, 2, Scaled(kMargin)); }
 
  private:
   double m_scale;
@@ -119,7 +119,7 @@ PanelLayout LayPanel(double width, double height) {
   const bool tall = height > width;
   const Designer design(width, height, tall);
   const double gap = design.Scaled(kMargin);
-  const PanelBox whole = Inset({0.0, 0.0, width, height}, gap);
+  const Box whole = Inset({0.0, 0.0, width, height}, gap);
 
   PanelLayout layout;
   layout.Margin = gap;
@@ -128,15 +128,15 @@ PanelLayout LayPanel(double width, double height) {
 
   const double windShare = tall ? kTallWindShare : kWindShare;
   Rows parts(whole, gap, 1.0, 2);
-  const PanelBox winds = parts.Next(windShare);
-  const PanelBox band = parts.Next(1.0 - windShare);
+  const Box winds = parts.Next(windShare);
+  const Box band = parts.Next(1.0 - windShare);
   if (tall) {
     Rows stacked(winds, gap, 2.0, 2);
     layout.Winds[0] = design.Wind(stacked.Next(1.0));
     layout.Winds[1] = design.Wind(stacked.Next(1.0));
     Rows rows(band, gap, 2.0, 2);
-    const PanelBox upper = rows.Next(1.0);
-    const PanelBox lower = rows.Next(1.0);
+    const Box upper = rows.Next(1.0);
+    const Box lower = rows.Next(1.0);
     layout.Heading = design.Instrument(design.Left(upper));
     layout.BoatSpeed = design.Instrument(design.Right(upper));
     layout.Waypoint = design.Instrument(design.Left(lower));

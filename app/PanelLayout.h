@@ -1,50 +1,45 @@
 // Where everything stands on the instrument panel: pure arithmetic from the panel's size, so that any size
-// gives places that neither overlap nor leave the panel. Used by InstrumentPanelQt. Standard library only.
+// gives places that neither overlap nor leave the panel. Used by InstrumentPanelQt.
 #pragma once
 
 #include <array>
 #include <vector>
 
+#include "draw/Shapes.h"
+
 namespace veerwatch {
 
-/// A rectangle [px]; the origin is the panel's upper left corner.
-struct PanelBox {
-  double X = 0.0;
-  double Y = 0.0;
-  double Width = 0.0;
-  double Height = 0.0;
-};
-
+/// All places count from the panel's upper left corner.
 struct PanelLayout {
   /// A value with its caption above it.
   struct Readout {
-    PanelBox Caption;
-    PanelBox Value;
+    Box Caption;
+    Box Value;
   };
 
   /// The card of one wind: what is measured above, what is held below.
   struct Wind {
-    PanelBox Card;
-    PanelBox Option;
+    Box Card;
+    Box Option;
     Readout Angle;
     Readout Speed;
     Readout Desired;
     Readout Delta;
-    PanelBox Port;
-    PanelBox Starboard;
+    Box Port;
+    Box Starboard;
   };
 
   struct Instrument {
-    PanelBox Card;
+    Box Card;
     Readout Value;
   };
 
   /// The card of the autopilot bearing.
   struct Pilot {
-    PanelBox Card;
+    Box Card;
     Readout Bearing;
-    PanelBox Port;
-    PanelBox Starboard;
+    Box Port;
+    Box Starboard;
   };
 
   std::array<Wind, 2> Winds;  ///< apparent, true

@@ -12,22 +12,15 @@
 #include <vector>
 
 #include "draw/DiagramArrow.h"
+#include "draw/Shapes.h"
 
 namespace veerwatch {
-
-/// A rectangle [twips].
-struct BlockArea {
-  double X = 0.0;
-  double Y = 0.0;
-  double Width = 0.0;
-  double Height = 0.0;
-};
 
 /// A text in the middle of its area, or the box of a device with its name in it.
 struct BlockLabel {
   std::string_view Name;  ///< of the control
   std::string_view Text;
-  BlockArea Area;
+  Box Area;
   bool Framed = false;  ///< a device: a box around the text
 };
 
@@ -35,26 +28,23 @@ struct BlockButton {
   std::string_view Name;
   std::string_view Caption;
   std::string_view ToolTip;
-  BlockArea Area;
+  Box Area;
 };
 
 struct BlockDiagram {
-  double Width = 0.0;     ///< [twips]
-  double Height = 0.0;    ///< [twips]
-  double TextSize = 0.0;  ///< height of the letters' font [twips]
-  BlockArea Computer;     ///< the frame around the buttons
+  double Width = 0.0;     ///< [px]
+  double Height = 0.0;    ///< [px]
+  double TextSize = 0.0;  ///< height of the letters [px]
+  Box Computer;           ///< the frame around the buttons
   std::vector<BlockButton> Buttons;
   std::vector<BlockLabel> Labels;
   /// Where the state of cmdInput, cmdControl and cmdOutput is written, above each.
   std::vector<BlockLabel> States;
-  std::vector<DiagramLine> Lines;         ///< the ways without an arrow
-  std::vector<DiagramLine> lnArrowRight;  ///< the ways that end in an arrow
+  std::vector<Stroke> Lines;               ///< the ways without an arrow
+  std::vector<DiagramArrow> lnArrowRight;  ///< the ways that end in an arrow
 };
 
-/// The diagram at its own size.
+/// The diagram at its own size, which is the window's at a scale of 100 %.
 BlockDiagram BlockDiagramMade();
-
-/// The strokes of the arrowheads of all lines of `lnArrowRight`.
-std::vector<DiagramLine> BlockArrowHeads(const BlockDiagram& diagram);
 
 }  // namespace veerwatch

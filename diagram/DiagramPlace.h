@@ -1,33 +1,21 @@
-// Where a window opens that a button of the block diagram opens. Pure arithmetic, in any one unit.
+// Where a window opens that a button of the block diagram opens. Pure arithmetic.
 #pragma once
+
+#include "draw/Shapes.h"
 
 namespace veerwatch {
 
-/// The pressed button and the diagram's window around it.
+/// The pressed button and the diagram's window around it [px].
 struct DiagramAnchor {
-  double ButtonLeft = 0.0;  ///< inside the window
-  double ButtonTop = 0.0;
-  double ButtonWidth = 0.0;
-  double ButtonHeight = 0.0;
-  double WindowLeft = 0.0;  ///< of the frame, on the screen
-  double WindowTop = 0.0;
-  double OuterWidth = 0.0;  ///< with the frame
-  double OuterHeight = 0.0;
-  double InnerWidth = 0.0;  ///< without it
+  Box Button;               ///< inside the window
+  Box Frame;                ///< of the window, on the screen
+  double InnerWidth = 0.0;  ///< of the window without its frame
   double InnerHeight = 0.0;
 };
 
-/// The upper left corner of a window.
-struct DiagramPlace {
-  int Left = 0;
-  int Top = 0;
-
-  bool operator==(const DiagramPlace&) const = default;
-};
-
-/// The place of a window of that size just below the middle of the pressed button, flush with the right and
-/// the lower edge of the screen where it would reach beyond them. Rounded to whole units.
-DiagramPlace DiagramShowNear(const DiagramAnchor& anchor, double width, double height, double screenRight,
-                             double screenBottom);
+/// The upper left corner of a window of `width` by `height` just below the middle of the pressed button,
+/// flush with the right and the lower edge of the screen where it would reach beyond them. In whole pixels.
+Point DiagramShowNear(const DiagramAnchor& anchor, double width, double height, double screenRight,
+                      double screenBottom);
 
 }  // namespace veerwatch

@@ -5,6 +5,7 @@
 #include <QScreen>
 #include <algorithm>
 
+#include "draw/DrawQt.h"
 #include "platform/ColoursQt.h"
 
 namespace veerwatch {
@@ -13,21 +14,9 @@ namespace {
 
 constexpr double kScreenShare = 0.92;
 constexpr double kSmallestScale = 0.5;
-constexpr qreal kWayWidth = 30.0;   // [twips]
-constexpr qreal kEdgeWidth = 18.0;  // [twips]
-constexpr qreal kCorner = 120.0;    // [twips]
-
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QRectF In(const BlockArea& area) { return {area.X, area.Y, area.Width, area.Height}; }
-
-void Stroke(QPainter& painter, const std::vector<DiagramLine>& lines) {
-  for (const DiagramLine& line : lines) {
-    painter.drawLine(QPointF(line.X1, line.Y1), QPointF(line.X2, line.Y2));
-  }
-}
+constexpr qreal kWayWidth = 2.0;
+constexpr qreal kEdgeWidth = 1.2;
+constexpr qreal kCorner = 8.0;
 
 /// The fill of a box and the text on it.
 std::pair<QColor, QColor> Colours(DiagramLight light, const QPalette& palette) {
@@ -65,7 +54,7 @@ frmDiagram::frmDiagram(DiagramObserver& tells) : m_tells(tells) {
   setAttribute(Qt::WA_QuitOnClose, false);
   MakeControls();
   ConnectButtons();
-  const QSizeF size(m_diagram.Width / kTwipsPerPixel, m_diagram.Height / kTwipsPerPixel);
+  const QSizeF size(m_diagram.Width, m_diagram.Height);
   setMinimumSize((size * kSmallestScale).toSize());
   const QSizeF room = screen() != nullptr ? QSizeF(screen()->availableSize()) * kScreenShare : size;
   const bool fits = size.width() <= room.width() && size.height() <= room.height();
@@ -75,8 +64,8 @@ frmDiagram::frmDiagram(DiagramObserver& tells) : m_tells(tells) {
 
 void frmDiagram::MakeControls() {
   const auto make = [this](const BlockLabel& label) {
-    auto* shown = new QLabel(Text(label.Text), this);
-    shown->setObjectName(Text(label.Name));
+    auto* shown = new QLabel(ToQt(label.Text), this);
+    shown->setObjectName(ToQt(label.Name));
     shown->setTextFormat(Qt::PlainText);
     shown->setAlignment(Qt::AlignCenter);
     m_placed.emplace_back(shown, label.Area);
@@ -84,9 +73,9 @@ void frmDiagram::MakeControls() {
   std::for_each(m_diagram.Labels.begin(), m_diagram.Labels.end(), make);
   std::for_each(m_diagram.States.begin(), m_diagram.States.end(), make);
   for (const BlockButton& button : m_diagram.Buttons) {
-    auto* shown = new QPushButton(Text(button.Caption), this);
-    shown->setObjectName(Text(button.Name));
-    shown->setToolTip(Text(button.ToolTip));
+    auto* shown = new QPushButton(ToQt(button.Caption), this);
+    shown->setObjectName(ToQt(button.Name));
+    shown->setToolTip(ToQt(button.ToolTip));
     shown->setAutoDefault(true);
     m_placed.emplace_back(shown, button.Area);
   }
@@ -113,22 +102,18 @@ void frmDiagram::ConnectButtons() {
 }
 
 DiagramAnchor frmDiagram::Anchor(const QWidget& button) const {
-  const QRect frame = frameGeometry();
-  const QRect place = button.geometry();
-  return {static_cast<double>(place.x()),     static_cast<double>(place.y()),
-          static_cast<double>(place.width()), static_cast<double>(place.height()),
-          static_cast<double>(frame.x()),     static_cast<double>(frame.y()),
-          static_cast<double>(frame.width()), static_cast<double>(frame.height()),
-          static_cast<double>(width()),       static_cast<double>(height())};
+  return {ToBox(button.geometry()), ToBox(frameGeometry()), static_cast<double>(width()),
+          static_cast<double>(height())};
 }
 
 double frmDiagram::Scale() const { return std::min(width() / m_diagram.Width, height() / m_diagram.Height); }
 
-QRectF frmDiagram::Placed(const BlockArea& area) const {
+QRectF frmDiagram::Placed(const Box& area) const {
   const double scale = Scale();
   const QPointF corner((width() - m_diagram.Width * scale) / 2.0,
                        (height() - m_diagram.Height * scale) / 2.0);
-  return {corner + QPointF(area.X, area.Y) * scale, QSizeF(area.Width, area.Height) * scale};
+  const QRectF place = ToQt(area);
+  return {corner + place.topLeft() * scale, place.size() * scale};
 }
 
 void frmDiagram::LayOut() {
@@ -152,8 +137,8 @@ void frmDiagram::Light(QPushButton& button, QLabel* label, const DiagramBoxState
                      "QPushButton:focus{border:3px solid %3}")
           .arg(fill.name(), text.name(), Mixed(fill, focus, 0.6).name(), Mixed(fill, text, 0.25).name()));
   if (label != nullptr) {
-    label->setText(Text(state.Text));
-    button.setAccessibleDescription(Text(state.Text));
+    label->setText(ToQt(state.Text));
+    button.setAccessibleDescription(ToQt(state.Text));
   }
 }
 
@@ -184,16 +169,18 @@ void frmDiagram::paintEvent(QPaintEvent* /*event*/) {
 
   painter.setPen(QPen(Mixed(window, text, 0.4), kEdgeWidth));
   painter.setBrush(Mixed(window, text, 0.05));
-  painter.drawRoundedRect(In(m_diagram.Computer), 2.0 * kCorner, 2.0 * kCorner);
+  painter.drawRoundedRect(ToQt(m_diagram.Computer), 2.0 * kCorner, 2.0 * kCorner);
   for (const BlockLabel& label : m_diagram.Labels) {
     if (label.Framed) {
-      painter.drawRoundedRect(In(label.Area), kCorner, kCorner);
+      painter.drawRoundedRect(ToQt(label.Area), kCorner, kCorner);
     }
   }
   painter.setPen(QPen(text, kWayWidth, Qt::SolidLine, Qt::RoundCap));
-  Stroke(painter, m_diagram.Lines);
-  Stroke(painter, m_diagram.lnArrowRight);
-  Stroke(painter, m_heads);
+  Draw(painter, m_diagram.Lines);
+  for (const DiagramArrow& arrow : m_diagram.lnArrowRight) {
+    painter.drawLine(ToQt(arrow.Way));
+  }
+  Draw(painter, m_heads);
 }
 
 void frmDiagram::resizeEvent(QResizeEvent* event) {

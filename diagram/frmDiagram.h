@@ -32,9 +32,9 @@ class frmDiagram final : public QWidget {
  private:
   void MakeControls();
   void ConnectButtons();
-  /// Pixels per twip: as large as fits.
+  /// How much larger than the diagram the window shows it: as large as fits.
   double Scale() const;
-  QRectF Placed(const BlockArea& area) const;
+  QRectF Placed(const Box& area) const;
   void LayOut();
   void Dress();
   void Light(QPushButton& button, QLabel* label, const DiagramBoxState& state);
@@ -43,8 +43,8 @@ class frmDiagram final : public QWidget {
 
   DiagramObserver& m_tells;
   const BlockDiagram m_diagram = BlockDiagramMade();
-  const std::vector<DiagramLine> m_heads = BlockArrowHeads(m_diagram);
-  std::vector<std::pair<QWidget*, BlockArea>> m_placed;
+  const std::vector<Stroke> m_heads = ArrowHeads(m_diagram.lnArrowRight);
+  std::vector<std::pair<QWidget*, Box>> m_placed;
   DiagramState m_state;
 };
 

@@ -2,18 +2,22 @@
 
 namespace veerwatch {
 
-std::vector<DiagramLine> ArrowHead(const DiagramLine& line) {
-  constexpr double kAlong = 60.0;
-  constexpr double kAside = 45.0;
-  if (line.Tag == "Right") {
-    return {{line.X2 - kAlong, line.Y2 + kAside, line.X2, line.Y2, {}},
-            {line.X2 - kAlong, line.Y2 - kAside, line.X2, line.Y2, {}}};
+std::vector<Stroke> ArrowHeads(const std::vector<DiagramArrow>& arrows) {
+  constexpr double kAlong = 4.0;
+  constexpr double kAside = 3.0;
+  std::vector<Stroke> strokes;
+  for (const DiagramArrow& arrow : arrows) {
+    if (arrow.Tag == "Right") {
+      const Point tip = arrow.Way.To;
+      strokes.push_back({{tip.X - kAlong, tip.Y + kAside}, tip});
+      strokes.push_back({{tip.X - kAlong, tip.Y - kAside}, tip});
+    } else if (arrow.Tag == "Top") {
+      const Point tip = arrow.Way.From;
+      strokes.push_back({{tip.X + kAlong, tip.Y + kAside}, tip});
+      strokes.push_back({{tip.X - kAlong, tip.Y + kAside}, tip});
+    }
   }
-  if (line.Tag == "Top") {
-    return {{line.X1 + kAlong, line.Y1 + kAside, line.X1, line.Y1, {}},
-            {line.X1 - kAlong, line.Y1 + kAside, line.X1, line.Y1, {}}};
-  }
-  return {};
+  return strokes;
 }
 
 }  // namespace veerwatch

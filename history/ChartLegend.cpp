@@ -51,14 +51,14 @@ void TakeValue(const StripChartData& data, ChartLegendEntry& entry) {
   const bool none = newest.Slot == NewestValue::kNever || !std::isfinite(newest.Value);
   entry.Old = none || data.LastSlot() - newest.Slot >= kOldAfter;
   entry.Value.Text = none ? kNoValue : FormatNumber(newest.Value, "0.0");
-  entry.Value.Align = ChartText::Side::Right;
+  entry.Value.Align = PlacedText::Side::Right;
   entry.Name.Text = trace.Name;
   entry.Units.Text = trace.ShownUnits();
 }
 
 /// Leaves units out for which there is no room.
 Columns Measured(double text, const TextMeasure& measure, std::vector<ChartLegendEntry>& legend) {
-  const ChartBox& first = legend.front().Cell;
+  const Box& first = legend.front().Cell;
   Columns columns{text, first.X + Swatch(text) + 0.5 * text, first.Right(), first.Height,
                   measure.Width("Kts", kUnitsText * text)};
   for (ChartLegendEntry& entry : legend) {
@@ -81,9 +81,9 @@ void PlaceInTwoLines(const Columns& columns, const TextMeasure& measure, ChartLe
     entry.Name.Text = ShortName(entry.Name.Text);
   }
   entry.Name.Height = columns.Text;
-  entry.Name.Box = {columns.Left, top, columns.Width(), kNameRow * columns.Text};
-  entry.Value.Box = {columns.Left, entry.Name.Box.Bottom(), columns.ValueRight - columns.Left,
-                     0.86 * entry.Cell.Height - kNameRow * columns.Text};
+  entry.Name.Place = {columns.Left, top, columns.Width(), kNameRow * columns.Text};
+  entry.Value.Place = {columns.Left, entry.Name.Place.Bottom(), columns.ValueRight - columns.Left,
+                       0.86 * entry.Cell.Height - kNameRow * columns.Text};
 }
 
 /// Names, as long as they fit, in front of their values.
@@ -94,8 +94,8 @@ void PlaceInOneLine(const Columns& columns, double value, const TextMeasure& mea
     entry.Name.Text = ShortName(entry.Name.Text);
   }
   entry.Name.Height = std::min(columns.Text, 0.85 * columns.Cell);
-  entry.Name.Box = {columns.Left, entry.Cell.Y, room, entry.Cell.Height};
-  entry.Value.Box = {columns.ValueRight - value, entry.Cell.Y, value, entry.Cell.Height};
+  entry.Name.Place = {columns.Left, entry.Cell.Y, room, entry.Cell.Height};
+  entry.Value.Place = {columns.ValueRight - value, entry.Cell.Y, value, entry.Cell.Height};
 }
 
 }  // namespace
@@ -137,11 +137,11 @@ void ComposeLegend(const StripChartData& data, double text, const TextMeasure& m
       PlaceInOneLine(columns, longest * columns.ValueHeight, measure, entry);
     }
     const double own = measure.BoldWidth(entry.Value.Text, 1.0);
-    entry.Value.Height = std::min(columns.ValueHeight, WholePixels(entry.Value.Box.Width / own + 1e-9));
+    entry.Value.Height = std::min(columns.ValueHeight, WholePixels(entry.Value.Place.Width / own + 1e-9));
     const double unitsLeft = columns.ValueRight + kUnitsGap * text;
     entry.Units.Height = kUnitsText * text;
-    entry.Units.Box = {unitsLeft, entry.Value.Box.Y, std::max(columns.Right - unitsLeft, 0.0),
-                       entry.Value.Box.Height};
+    entry.Units.Place = {unitsLeft, entry.Value.Place.Y, std::max(columns.Right - unitsLeft, 0.0),
+                         entry.Value.Place.Height};
     if (!units) {
       entry.Units.Text.clear();
     }

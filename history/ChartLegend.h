@@ -4,7 +4,8 @@
 
 #include <vector>
 
-#include "history/ChartText.h"
+#include "draw/Shapes.h"
+#include "draw/TextMeasure.h"
 #include "history/StripChartData.h"
 
 namespace veerwatch {
@@ -12,11 +13,11 @@ namespace veerwatch {
 /// A trace with its newest value, beside its panel.
 struct ChartLegendEntry {
   int Trace = 0;  ///< counts from 0
-  ChartBox Cell;
-  ChartBox Swatch;
-  ChartText Name;
-  ChartText Value;  ///< drawn bold
-  ChartText Units;
+  Box Cell;
+  Box Swatch;
+  PlacedText Name;
+  PlacedText Value;  ///< drawn bold
+  PlacedText Units;
   bool Old = false;  ///< the value is no more of now
 };
 

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "draw/DrawQt.h"
 #include "platform/ColoursQt.h"
 
 namespace veerwatch {
@@ -49,7 +50,7 @@ QColor StripChartColoursQt::Plot(const QColor& group) const {
 
 QColor StripChartColoursQt::Trace(std::size_t number, const std::optional<std::uint32_t>& chosen) const {
   if (chosen) {
-    return ShadeFor(Back, QColor(static_cast<QRgb>(*chosen | 0xFF000000U)));
+    return ShadeFor(Back, FromRgb(*chosen));
   }
   const Shades& shades = kTraces[number % kTraces.size()];
   return QColor(Night ? shades.AtNight : Dark ? shades.OnDark : shades.OnLight);

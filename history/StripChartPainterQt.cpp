@@ -1,90 +1,24 @@
 #include "history/StripChartPainterQt.h"
 
-#include <QFontMetricsF>
 #include <algorithm>
-#include <cmath>
+
+#include "draw/DrawQt.h"
 
 namespace veerwatch {
 
 namespace {
 
-/// Characters are measured at this height [px].
-constexpr int kReferenceHeight = 64;
 constexpr int kBarAlpha = 70;
-
-QRectF Box(const ChartBox& box) { return {box.X, box.Y, box.Width, box.Height}; }
-
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// A panel's plot, and what a dot on its edge takes beyond it.
 QRectF Clip(const ChartPanel& panel) {
   constexpr double kBeyond = ChartDot::kDiameter / 2.0;
-  return Box(panel.Plot).adjusted(-kBeyond, -kBeyond, kBeyond, kBeyond);
-}
-
-Qt::Alignment Aligned(ChartText::Side side) {
-  switch (side) {
-    case ChartText::Side::Left:
-      return Qt::AlignLeft;
-    case ChartText::Side::Right:
-      return Qt::AlignRight;
-    case ChartText::Side::Middle:
-      break;
-  }
-  return Qt::AlignHCenter;
-}
-
-int FontPixels(double height) { return std::max(1, static_cast<int>(std::lround(height))); }
-
-/// The width of a text from those of its characters, in a font of 1 px.
-double Sum(std::string_view text, const std::array<double, 128>& widths) {
-  double width = 0.0;
-  for (const char c : text) {
-    const auto code = static_cast<unsigned char>(c);
-    constexpr unsigned kContinued = 0x80;
-    constexpr unsigned kContinuedMask = 0xC0;
-    if (code < widths.size()) {
-      width += widths[code];
-    } else if ((code & kContinuedMask) != kContinued) {
-      // Another character counts as a digit.
-      width += widths['0'];
-    }
-  }
-  return width;
+  return ToQt(panel.Plot).adjusted(-kBeyond, -kBeyond, kBeyond, kBeyond);
 }
 
 }  // namespace
 
-TextMeasureQt::TextMeasureQt(const QFont& font) : m_font(font) {
-  const auto measure = [](const QFont& reference, Widths& widths) {
-    const QFontMetricsF metrics(reference);
-    for (std::size_t code = 0; code < widths.size(); ++code) {
-      widths[code] = metrics.horizontalAdvance(QLatin1Char(static_cast<char>(code))) / kReferenceHeight;
-    }
-  };
-  QFont reference = At(kReferenceHeight);
-  measure(reference, m_widths);
-  reference.setBold(true);
-  measure(reference, m_boldWidths);
-}
-
-QFont TextMeasureQt::At(double height) const {
-  QFont font = m_font;
-  font.setPixelSize(FontPixels(height));
-  return font;
-}
-
-double TextMeasureQt::Width(std::string_view text, double height) const {
-  return Sum(text, m_widths) * FontPixels(height);
-}
-
-double TextMeasureQt::BoldWidth(std::string_view text, double height) const {
-  return Sum(text, m_boldWidths) * FontPixels(height);
-}
-
-void StripChartPainterQt::PaintText(const ChartText& text, const QColor& colour, bool bold) {
+void StripChartPainterQt::PaintText(const PlacedText& text, const QColor& colour, bool bold) {
   if (text.Text.empty()) {
     return;
   }
@@ -92,13 +26,13 @@ void StripChartPainterQt::PaintText(const ChartText& text, const QColor& colour,
   font.setBold(bold);
   m_painter.setFont(font);
   m_painter.setPen(colour);
-  m_painter.drawText(Box(text.Box),
-                     static_cast<int>(Aligned(text.Align) | Qt::AlignVCenter) | Qt::TextDontClip,
-                     Text(text.Text));
+  m_painter.drawText(ToQt(text.Place),
+                     static_cast<int>(ToQt(text.Align) | Qt::AlignVCenter) | Qt::TextDontClip,
+                     ToQt(text.Text));
 }
 
 void StripChartPainterQt::PaintAxes(const ChartPanel& panel) {
-  const QRectF plot = Box(panel.Plot);
+  const QRectF plot = ToQt(panel.Plot);
   m_painter.setRenderHint(QPainter::Antialiasing, false);
   const auto group = static_cast<std::size_t>(panel.Group);
   m_painter.fillRect(plot,
@@ -121,7 +55,7 @@ void StripChartPainterQt::PaintAxes(const ChartPanel& panel) {
     const bool right = &axis != &panel.Axes.front();
     PaintText(axis.Title, right ? m_colours.Caption : m_colours.Text, !right);
     PaintText(axis.Units, m_colours.Dimmed);
-    for (const ChartText& label : axis.Labels) {
+    for (const PlacedText& label : axis.Labels) {
       PaintText(label, m_colours.Caption);
     }
     if (right) {
@@ -138,8 +72,8 @@ void StripChartPainterQt::PaintLine(const ChartTrace& trace, const TraceLine& li
   QColor bars = colour;
   bars.setAlpha(kBarAlpha);
   m_painter.setRenderHint(QPainter::Antialiasing, false);
-  for (const ChartBox& bar : line.Bars) {
-    m_painter.fillRect(Box(bar), bars);
+  for (const Box& bar : line.Bars) {
+    m_painter.fillRect(ToQt(bar), bars);
   }
   m_painter.setRenderHint(QPainter::Antialiasing, true);
   const double width = m_picture.PerBucket > 1 ? 1.0 : std::max(1.4, 0.115 * m_picture.TextHeight);
@@ -147,15 +81,15 @@ void StripChartPainterQt::PaintLine(const ChartTrace& trace, const TraceLine& li
   for (std::size_t i = 0; i < line.Starts.size(); ++i) {
     const auto points = std::span(line.Points).subspan(line.Starts[i], line.End(i) - line.Starts[i]);
     m_pieces.clear();
-    for (const ChartPiece& piece : m_stroke.Pieces(points, width)) {
-      m_pieces.append(QLineF(piece.From.X, piece.From.Y, piece.To.X, piece.To.Y));
+    for (const Stroke& piece : m_stroke.Pieces(points, width)) {
+      m_pieces.append(ToQt(piece));
     }
     m_painter.drawLines(m_pieces);
   }
   m_painter.setPen(Qt::NoPen);
   m_painter.setBrush(colour);
   for (const ChartDot& dot : line.Dots) {
-    m_painter.drawEllipse(QPointF(dot.Middle.X, dot.Middle.Y), dot.Diameter / 2.0, dot.Diameter / 2.0);
+    m_painter.drawEllipse(ToQt(dot.Middle), dot.Diameter / 2.0, dot.Diameter / 2.0);
   }
 }
 
@@ -174,11 +108,11 @@ void StripChartPainterQt::PaintStill() {
     PaintText(tick.Label, m_colours.Caption);
   }
   if (m_picture.Panels.empty()) {
-    ChartText none;
+    PlacedText none;
     none.Text = "No trace is shown";
     none.Height = m_picture.TextHeight;
-    none.Align = ChartText::Side::Middle;
-    none.Box = m_picture.PlotArea;
+    none.Align = PlacedText::Side::Middle;
+    none.Place = m_picture.PlotArea;
     PaintText(none, m_colours.Dimmed);
   }
 }
@@ -198,7 +132,7 @@ void StripChartPainterQt::PaintLive() {
     m_painter.setPen(Qt::NoPen);
     m_painter.setBrush(colour);
     const double round = entry.Swatch.Width / 2.0;
-    m_painter.drawRoundedRect(Box(entry.Swatch), round, round);
+    m_painter.drawRoundedRect(ToQt(entry.Swatch), round, round);
     PaintText(entry.Name, m_colours.Caption);
     PaintText(entry.Value, entry.Old ? m_colours.Dimmed : colour, true);
     PaintText(entry.Units, m_colours.Dimmed);
@@ -234,21 +168,21 @@ void StripChartPainterQt::PaintReading(const ChartReading& reading) {
   m_painter.setPen(QPen(m_colours.Edge, 1.0));
   m_painter.setBrush(fill);
   m_painter.drawRoundedRect(box, 0.4 * text, 0.4 * text);
-  ChartText line;
+  PlacedText line;
   line.Height = text;
   line.Text = reading.Time;
-  line.Box = {box.left() + pad, box.top() + pad / 2.0, width, row};
+  line.Place = {box.left() + pad, box.top() + pad / 2.0, width, row};
   PaintText(line, m_colours.Text, true);
   for (std::size_t i = 0; i < reading.Values.size(); ++i) {
     const ChartReading::Value& value = reading.Values[i];
-    line.Box.Y += row;
+    line.Place.Y += row;
     m_painter.setPen(Qt::NoPen);
     m_painter.setBrush(TraceColour(value.Trace));
-    m_painter.drawEllipse(QPointF(box.left() + pad + 0.3 * text, line.Box.Y + row / 2.0), 0.3 * text,
+    m_painter.drawEllipse(QPointF(box.left() + pad + 0.3 * text, line.Place.Y + row / 2.0), 0.3 * text,
                           0.3 * text);
-    ChartText named = line;
+    PlacedText named = line;
     named.Text = value.Text;
-    named.Box.X += swatch;
+    named.Place.X += swatch;
     PaintText(named, i == reading.Nearest ? m_colours.Text : m_colours.Caption, i == reading.Nearest);
   }
 }

@@ -1,35 +1,17 @@
 // Strokes the numbers of a StripChartPicture.
 #pragma once
 
-#include <QFont>
 #include <QLineF>
 #include <QList>
 #include <QPainter>
-#include <array>
 #include <vector>
 
+#include "draw/TextMeasureQt.h"
 #include "history/StripChartColoursQt.h"
 #include "history/StripChartPicture.h"
 #include "history/TraceStroke.h"
 
 namespace veerwatch {
-
-/// The widths of texts in one font at any height, from the widths of single characters.
-class TextMeasureQt final : public TextMeasure {
- public:
-  explicit TextMeasureQt(const QFont& font);
-  double Width(std::string_view text, double height) const override;
-  double BoldWidth(std::string_view text, double height) const override;
-  /// The font at a height [px].
-  QFont At(double height) const;
-
- private:
-  using Widths = std::array<double, 128>;
-
-  QFont m_font;
-  Widths m_widths{};  ///< of the ASCII characters in a font of 1 px
-  Widths m_boldWidths{};
-};
 
 class StripChartPainterQt {
  public:
@@ -54,7 +36,7 @@ class StripChartPainterQt {
  private:
   void PaintAxes(const ChartPanel& panel);
   void PaintLine(const ChartTrace& trace, const TraceLine& line);
-  void PaintText(const ChartText& text, const QColor& colour, bool bold = false);
+  void PaintText(const PlacedText& text, const QColor& colour, bool bold = false);
   QColor TraceColour(int trace) const { return m_traceColours[static_cast<std::size_t>(trace)]; }
 
   QPainter& m_painter;

@@ -147,7 +147,7 @@ void StripChartPicture::LayOut(const ChartSubject& subject, const ChartView& vie
   LiveSlot = subject.Data.LastSlot() < EndSlot ? subject.Data.LastSlot() / PerBucket * PerBucket : EndSlot;
 }
 
-void StripChartPicture::PlaceLegendCells(const ChartPanel& panel, const ChartBox& box) {
+void StripChartPicture::PlaceLegendCells(const ChartPanel& panel, const Box& box) {
   constexpr double kLargestCell = 6.0;
   const double height =
       std::min(box.Height / static_cast<double>(panel.Traces.size()), kLargestCell * TextHeight);
@@ -210,26 +210,26 @@ void StripChartPicture::ComposePanel(const ChartSubject& subject, ChartPanel& pa
       axis.Scale = FixedScale(axis.Scale.Kind, static_cast<double>(choice.Low),
                               static_cast<double>(choice.High), ticks);
     }
-    const ChartBox& plot = panel.Plot;
+    const Box& plot = panel.Plot;
     const double titleHeight = kTitleRow * text;
     axis.Title.Height = text;
-    axis.Title.Align = right ? ChartText::Side::Right : ChartText::Side::Left;
-    axis.Title.Box = {plot.X, plot.Y - titleHeight, plot.Width, titleHeight};
+    axis.Title.Align = right ? PlacedText::Side::Right : PlacedText::Side::Left;
+    axis.Title.Place = {plot.X, plot.Y - titleHeight, plot.Width, titleHeight};
     const double unitsLeft = plot.X + measure.BoldWidth(axis.Title.Text, text) + 0.5 * text;
     axis.Units.Height = 0.9 * text;
-    axis.Units.Box = {unitsLeft, axis.Title.Box.Y, std::max(plot.Right() - unitsLeft, 0.0), titleHeight};
+    axis.Units.Place = {unitsLeft, axis.Title.Place.Y, std::max(plot.Right() - unitsLeft, 0.0), titleHeight};
     for (const ValueTick& tick : Ticks(axis.Scale)) {
       const double y =
           plot.Bottom() - (tick.Value - axis.Scale.Low) / (axis.Scale.High - axis.Scale.Low) * plot.Height;
-      ChartText label;
+      PlacedText label;
       label.Text = tick.Text;
       label.Height = kTickText * text;
-      label.Align = right ? ChartText::Side::Left : ChartText::Side::Right;
+      label.Align = right ? PlacedText::Side::Left : PlacedText::Side::Right;
       const double height = 1.3 * text;
       const double gap = 0.35 * text;
-      label.Box = right ? ChartBox{plot.Right() + gap, y - height / 2.0,
-                                   measure.Width(tick.Text, label.Height) + 1.0, height}
-                        : ChartBox{0.0, y - height / 2.0, plot.X - gap, height};
+      label.Place = right ? Box{plot.Right() + gap, y - height / 2.0,
+                                measure.Width(tick.Text, label.Height) + 1.0, height}
+                          : Box{0.0, y - height / 2.0, plot.X - gap, height};
       axis.Labels.push_back(label);
       axis.TickY.push_back(y);
     }
@@ -294,8 +294,8 @@ void StripChartPicture::ComposeTime(const StripChartData& data, const TextMeasur
       if (left >= free && left + labelWidth <= TimeArea.Right() + 2.0 * text) {
         tick.Label.Text = ClockText(wall, UtcOffset);
         tick.Label.Height = height;
-        tick.Label.Align = ChartText::Side::Middle;
-        tick.Label.Box = {left, TimeArea.Y, labelWidth, TimeArea.Height};
+        tick.Label.Align = PlacedText::Side::Middle;
+        tick.Label.Place = {left, TimeArea.Y, labelWidth, TimeArea.Height};
         free = left + labelWidth + 0.5 * text;
       }
       TimeTicks.push_back(tick);

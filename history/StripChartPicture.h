@@ -8,8 +8,9 @@
 #include <string>
 #include <vector>
 
+#include "draw/Shapes.h"
+#include "draw/TextMeasure.h"
 #include "history/ChartLegend.h"
-#include "history/ChartText.h"
 #include "history/StripChartData.h"
 #include "history/TraceGroups.h"
 #include "history/TraceLine.h"
@@ -38,9 +39,9 @@ struct ChartSubject {
 struct ChartAxis {
   ValueScale Scale;
   int ScaleIndex = 0;
-  ChartText Title;
-  ChartText Units;  ///< behind the title; none for angles, whose labels have the degree sign
-  std::vector<ChartText> Labels;
+  PlacedText Title;
+  PlacedText Units;  ///< behind the title; none for angles, whose labels have the degree sign
+  std::vector<PlacedText> Labels;
   std::vector<double> TickY;
 };
 
@@ -55,14 +56,14 @@ struct ChartTrace {
 /// A value group.
 struct ChartPanel {
   int Group = 0;
-  ChartBox Plot;
+  Box Plot;
   std::vector<ChartAxis> Axes;  ///< one or two: at the left of the plot, at its right
   std::vector<ChartTrace> Traces;
 };
 
 struct ChartTimeTick {
   double X = 0.0;
-  ChartText Label;  ///< without a text where there is no room for one
+  PlacedText Label;  ///< without a text where there is no room for one
 };
 
 /// What a point of the chart shows.
@@ -83,8 +84,8 @@ struct ChartReading {
 
 struct StripChartPicture {
   double TextHeight = 0.0;
-  ChartBox PlotArea;  ///< from the first panel's plot to the last one's
-  ChartBox TimeArea;  ///< the clock times
+  Box PlotArea;  ///< from the first panel's plot to the last one's
+  Box TimeArea;  ///< the clock times
   std::int64_t EndSlot = 0;
   double SlotWidth = 1.0;
   std::int64_t PerBucket = 1;
@@ -106,7 +107,7 @@ struct StripChartPicture {
 
  private:
   void LayOut(const ChartSubject& subject, const ChartView& view, const TextMeasure& measure);
-  void PlaceLegendCells(const ChartPanel& panel, const ChartBox& box);
+  void PlaceLegendCells(const ChartPanel& panel, const Box& box);
   void ComposePanel(const ChartSubject& subject, ChartPanel& panel, const TextMeasure& measure) const;
   void ComposeTime(const StripChartData& data, const TextMeasure& measure);
 };

@@ -6,14 +6,14 @@
 #include <algorithm>
 #include <iterator>
 
+#include "draw/DrawQt.h"
+
 namespace veerwatch {
 
 namespace {
 
 /// A sample shows after this time, so that those of one moment show together [ms].
 constexpr int kSoon = 100;
-
-QColor Colour(std::uint32_t rgb) { return QColor(static_cast<QRgb>(rgb | 0xFF000000U)); }
 
 }  // namespace
 
@@ -83,7 +83,7 @@ void StripChart::SpanSet(std::int16_t seconds) {
 }
 
 void StripChart::BackColourSet(std::uint32_t colour) {
-  m_colours = StripChartColoursQt(Colour(colour));
+  m_colours = StripChartColoursQt(FromRgb(colour));
   Changed();
 }
 
@@ -102,7 +102,7 @@ void StripChart::GroupTitleSet(std::int16_t number, const std::string& title) {
 
 void StripChart::GroupColourSet(std::int16_t number, std::uint32_t colour) {
   if (number >= 1 && static_cast<std::size_t>(number) <= m_groupColours.size()) {
-    m_groupColours[static_cast<std::size_t>(number) - 1] = Colour(colour);
+    m_groupColours[static_cast<std::size_t>(number) - 1] = FromRgb(colour);
     Changed();
   }
 }
@@ -349,7 +349,7 @@ void StripChart::PlaceButtons() {
     return;
   }
   Compose();
-  const ChartBox& time = m_picture.TimeArea;
+  const Box& time = m_picture.TimeArea;
   QFont small = m_measure.At(m_picture.TextHeight * 0.92);
   m_cmdSettings->setFont(small);
   m_cmdSettings->setAutoRaise(true);

@@ -30,9 +30,9 @@ void Join(TraceBucket& bucket, const TraceSlot& slot, TraceKind kind) {
 }
 
 /// Draws an unwrapped path into a scale, on every turn on which the scale shows some of it.
-class Stroke {
+class TracePen {
  public:
-  Stroke(const TraceFrame& frame, TraceLine& line) : m_frame(frame), m_line(line) {}
+  TracePen(const TraceFrame& frame, TraceLine& line) : m_frame(frame), m_line(line) {}
 
   void MoveTo(double x, double value) {
     m_x = x;
@@ -112,17 +112,17 @@ class Stroke {
       return;
     }
     const auto at = [&](double part) {
-      return ChartPoint{x0 + (x1 - x0) * part, m_frame.Y(v0 + (v1 - v0) * part)};
+      return Point{x0 + (x1 - x0) * part, m_frame.Y(v0 + (v1 - v0) * part)};
     };
-    const ChartPoint begin = at(from);
+    const Point begin = at(from);
     if (!m_open || !(m_line.Points.back() == begin)) {
       m_open = false;
       Append(begin);
     }
-    Append(to == 1.0 ? ChartPoint{x1, m_frame.Y(v1)} : at(to));
+    Append(to == 1.0 ? Point{x1, m_frame.Y(v1)} : at(to));
   }
 
-  void Append(const ChartPoint& point) {
+  void Append(const Point& point) {
     if (!m_open) {
       m_line.Starts.push_back(m_line.Points.size());
       m_open = true;
@@ -187,7 +187,7 @@ void GatherBuckets(const StripChartData& data, const StripChartData::Trace& trac
 void TraceBuckets(const TraceFrame& frame, const std::vector<TraceBucket>& buckets, std::size_t begin,
                   std::size_t end, TraceLine& line) {
   line.Clear();
-  Stroke stroke(frame, line);
+  TracePen pen(frame, line);
   const double width = frame.SlotWidth * static_cast<double>(frame.PerBucket);
   const auto centre = [&](const TraceBucket& bucket) {
     return frame.X(static_cast<double>(bucket.Slot)) + width / 2.0;
@@ -196,19 +196,19 @@ void TraceBuckets(const TraceFrame& frame, const std::vector<TraceBucket>& bucke
     const TraceBucket& bucket = buckets[i];
     const double x = centre(bucket);
     if (bucket.High > bucket.Low) {
-      stroke.Bar(x - width / 2.0, width, static_cast<double>(bucket.Low), static_cast<double>(bucket.High));
+      pen.Bar(x - width / 2.0, width, static_cast<double>(bucket.Low), static_cast<double>(bucket.High));
     }
     const bool joined = bucket.Joined && i > 0;
     if (joined) {
       if (i == begin) {
-        stroke.MoveTo(centre(buckets[i - 1]), static_cast<double>(buckets[i - 1].Latest));
+        pen.MoveTo(centre(buckets[i - 1]), static_cast<double>(buckets[i - 1].Latest));
       }
-      stroke.LineTo(x, static_cast<double>(bucket.Latest));
+      pen.LineTo(x, static_cast<double>(bucket.Latest));
     } else {
-      stroke.MoveTo(x, static_cast<double>(bucket.Latest));
+      pen.MoveTo(x, static_cast<double>(bucket.Latest));
       const bool alone = i + 1 == buckets.size() || !buckets[i + 1].Joined;
       if (alone) {
-        stroke.Dot(DotDiameter(frame, buckets, i));
+        pen.Dot(DotDiameter(frame, buckets, i));
       }
     }
   }

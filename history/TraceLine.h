@@ -6,29 +6,11 @@
 #include <cstdint>
 #include <vector>
 
+#include "draw/Shapes.h"
 #include "history/ChartScale.h"
 #include "history/StripChartData.h"
 
 namespace veerwatch {
-
-struct ChartPoint {
-  double X = 0.0;
-  double Y = 0.0;
-
-  bool operator==(const ChartPoint&) const = default;
-};
-
-/// A rectangle [px]; Y grows downwards.
-struct ChartBox {
-  double X = 0.0;
-  double Y = 0.0;
-  double Width = 0.0;
-  double Height = 0.0;
-
-  double Right() const { return X + Width; }
-  double Bottom() const { return Y + Height; }
-  bool Contains(double x, double y) const { return x >= X && x < Right() && y >= Y && y < Bottom(); }
-};
 
 /// Some slots of a trace together, that one column is drawn for.
 struct TraceBucket {
@@ -47,7 +29,7 @@ void GatherBuckets(const StripChartData& data, const StripChartData::Trace& trac
 
 /// Where slots and values stand in a panel.
 struct TraceFrame {
-  ChartBox Plot;
+  Box Plot;
   std::int64_t EndSlot = 0;    ///< the slot whose beginning is at the right edge
   double SlotWidth = 1.0;      ///< [px]
   std::int64_t PerBucket = 1;  ///< slots in a column
@@ -63,16 +45,16 @@ struct TraceFrame {
 struct ChartDot {
   static constexpr double kDiameter = 5.0;  ///< [px]; less where the next column is nearer
 
-  ChartPoint Middle;
+  Point Middle;
   double Diameter = kDiameter;
 };
 
 /// A trace as it is stroked: polylines through the latest values, and bars over all that happened.
 struct TraceLine {
-  std::vector<ChartPoint> Points;   ///< of all polylines, one behind the other
+  Polyline Points;                  ///< of all polylines, one behind the other
   std::vector<std::size_t> Starts;  ///< where in Points each begins; each has two points at least
   std::vector<ChartDot> Dots;
-  std::vector<ChartBox> Bars;
+  std::vector<Box> Bars;
 
   void Clear() {
     Points.clear();

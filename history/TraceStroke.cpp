@@ -9,28 +9,28 @@ namespace veerwatch {
 namespace {
 
 /// From one point to another, of length 1.
-ChartPoint Direction(const ChartPoint& from, const ChartPoint& to) {
+Point Direction(const Point& from, const Point& to) {
   const double x = to.X - from.X;
   const double y = to.Y - from.Y;
   const double length = std::sqrt(x * x + y * y);
-  return length > 0.0 ? ChartPoint{x / length, y / length} : ChartPoint{};
+  return length > 0.0 ? Point{x / length, y / length} : Point{};
 }
 
 /// How far two pieces of half a width reach over the corner between them until their outer edges meet; at a
 /// corner sharper than a right angle by half the width.
-double Reach(const ChartPoint& in, const ChartPoint& out, double half) {
+double Reach(const Point& in, const Point& out, double half) {
   const double cosine = in.X * out.X + in.Y * out.Y;
   const double sine = std::fabs(in.X * out.Y - in.Y * out.X);
   return cosine <= 0.0 ? half : half * sine / (1.0 + cosine);
 }
 
-ChartPoint Along(const ChartPoint& point, const ChartPoint& direction, double way) {
+Point Along(const Point& point, const Point& direction, double way) {
   return {point.X + direction.X * way, point.Y + direction.Y * way};
 }
 
 }  // namespace
 
-void TraceStroke::FindCorners(std::span<const ChartPoint> points) {
+void TraceStroke::FindCorners(std::span<const Point> points) {
   m_corners.assign(1, points.front());
   constexpr double kAny = std::numeric_limits<double>::infinity();
   // The slopes of all lines from the last corner that pass near enough to the points since.
@@ -52,7 +52,7 @@ void TraceStroke::FindCorners(std::span<const ChartPoint> points) {
   m_corners.push_back(points.back());
 }
 
-const std::vector<ChartPiece>& TraceStroke::Pieces(std::span<const ChartPoint> points, double width) {
+const std::vector<Stroke>& TraceStroke::Pieces(std::span<const Point> points, double width) {
   m_pieces.clear();
   if (points.size() < 2) {
     return m_pieces;
@@ -60,10 +60,10 @@ const std::vector<ChartPiece>& TraceStroke::Pieces(std::span<const ChartPoint> p
   FindCorners(points);
   const double half = width / 2.0;
   double before = 0.0;  // what the piece reaches over its beginning
-  ChartPoint direction = Direction(m_corners[0], m_corners[1]);
+  Point direction = Direction(m_corners[0], m_corners[1]);
   for (std::size_t i = 0; i + 1 < m_corners.size(); ++i) {
     const bool last = i + 2 == m_corners.size();
-    const ChartPoint next = last ? direction : Direction(m_corners[i + 1], m_corners[i + 2]);
+    const Point next = last ? direction : Direction(m_corners[i + 1], m_corners[i + 2]);
     const double behind = last ? half : Reach(direction, next, half);
     m_pieces.push_back({Along(m_corners[i], direction, -before), Along(m_corners[i + 1], direction, behind)});
     before = behind;

@@ -6,14 +6,9 @@
 #include <span>
 #include <vector>
 
-#include "history/TraceLine.h"
+#include "draw/Shapes.h"
 
 namespace veerwatch {
-
-struct ChartPiece {
-  ChartPoint From;
-  ChartPoint To;
-};
 
 class TraceStroke {
  public:
@@ -22,13 +17,13 @@ class TraceStroke {
 
   /// The pieces of a polyline that runs from left to right, in their order, to be stroked `width` [px] wide.
   /// Valid until the next call.
-  const std::vector<ChartPiece>& Pieces(std::span<const ChartPoint> points, double width);
+  const std::vector<Stroke>& Pieces(std::span<const Point> points, double width);
 
  private:
-  void FindCorners(std::span<const ChartPoint> points);
+  void FindCorners(std::span<const Point> points);
 
-  std::vector<ChartPoint> m_corners;
-  std::vector<ChartPiece> m_pieces;
+  Polyline m_corners;
+  std::vector<Stroke> m_pieces;
 };
 
 }  // namespace veerwatch

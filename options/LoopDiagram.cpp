@@ -4,109 +4,115 @@ namespace veerwatch {
 
 namespace {
 
-constexpr double kRadius = 110.0;
+/// Everything stands on a grid of two thirds of a pixel.
+constexpr double Grid(double steps) { return steps * 2.0 / 3.0; }
+
+constexpr double kTextSize = 11.0;
+constexpr double kRadius = Grid(11);
 
 // Heights of the ways.
-constexpr double kMain = 700.0;
-constexpr double kOvershoot = 1750.0;
-constexpr double kBack = 2380.0;
+constexpr double kMain = Grid(70);
+constexpr double kOvershoot = Grid(175);
+constexpr double kBack = Grid(238);
 
 // Where the signals meet and part.
-constexpr double kDifference = 1740.0;
-constexpr double kParting = 2500.0;
-constexpr double kSum = 5100.0;
+constexpr double kDifference = Grid(174);
+constexpr double kParting = Grid(250);
+constexpr double kSum = Grid(510);
 
 // A circuit: two boxes side by side in a frame with a title.
-constexpr double kHigh = 520.0;
-constexpr double kScaleWidth = 640.0;
-constexpr double kSumWidth = 1120.0;
-constexpr double kGap = 200.0;
-constexpr double kMargin = 120.0;
-constexpr double kTitle = 330.0;
+constexpr double kHigh = Grid(52);
+constexpr double kScaleWidth = Grid(64);
+constexpr double kSumWidth = Grid(112);
+constexpr double kGap = Grid(20);
+constexpr double kMargin = Grid(12);
+constexpr double kTitle = Grid(33);
 
-DiagramBox BoxAt(double x, double middle, double width, std::string_view text) {
-  return {x, middle - kHigh / 2.0, width, kHigh, text};
+PlacedText BoxAt(double x, double middle, double width, const char* text) {
+  return {text, {x, middle - kHigh / 2.0, width, kHigh}, kTextSize, PlacedText::Side::Middle};
 }
 
-double Right(const DiagramBox& box) { return box.X + box.Width; }
-double Bottom(const DiagramBox& box) { return box.Y + box.Height; }
-double Middle(const DiagramBox& box) { return box.X + box.Width / 2.0; }
-
-DiagramBox FrameAround(const DiagramBox& left, const DiagramBox& right, std::string_view title) {
-  return {left.X - kMargin, left.Y - kTitle, Right(right) - left.X + 2.0 * kMargin, kHigh + kTitle + kMargin,
-          title};
+/// A frame around two boxes, with its title.
+void AddCircuit(LoopDiagram& diagram, const Box& left, const Box& right, const char* title) {
+  const Box frame{left.X - kMargin, left.Y - kTitle, right.Right() - left.X + 2.0 * kMargin,
+                  kHigh + kTitle + kMargin};
+  diagram.Circuits.push_back(frame);
+  diagram.Titles.push_back(
+      {title, {frame.X, frame.Y, frame.Width, kTitle}, kTextSize, PlacedText::Side::Middle});
 }
 
-DiagramLine RightArrow(double from, double to, double y) { return {from, y, to, y, "Right"}; }
-/// Up from `from` to `to`; the upper end is the line's first.
-DiagramLine TopArrow(double x, double from, double to) { return {x, to, x, from, "Top"}; }
+DiagramArrow RightArrow(double from, double to, double y) { return {{{from, y}, {to, y}}, "Right"}; }
+/// Up from `from` to `to`; the upper end is the way's first.
+DiagramArrow TopArrow(double x, double from, double to) { return {{{x, to}, {x, from}}, "Top"}; }
 
-}  // namespace
-
-LoopDiagram LoopDiagramMade() {
-  constexpr double kAngleWidth = 1260.0;
-  const DiagramBox current = BoxAt(120.0, kMain, kAngleWidth, "Current Wind Angle");
-  const DiagramBox desired =
-      BoxAt(kDifference - kAngleWidth / 2.0, kOvershoot, kAngleWidth, "Desired Wind Angle");
-  const DiagramBox overshootScale = BoxAt(kParting + 280.0, kOvershoot, kScaleWidth, "Scale");
-  const DiagramBox overshootSum = BoxAt(Right(overshootScale) + kGap, kOvershoot, kSumWidth, "Accumulator");
-  const DiagramBox trackingScale = BoxAt(kSum + 390.0, kMain, kScaleWidth, "Scale");
-  const DiagramBox trackingSum = BoxAt(Right(trackingScale) + kGap, kMain, kSumWidth, "Accumulator");
-  const DiagramBox bearing = BoxAt(Right(trackingSum) + 380.0, kMain, 900.0, "Bearing");
-
-  LoopDiagram diagram;
-  diagram.Width = Right(bearing) + 120.0;
-  diagram.Height = kBack + 120.0;
-  diagram.TextSize = 165.0;
-  diagram.TitleHeight = kTitle;
-  diagram.Circuits = {FrameAround(trackingScale, trackingSum, "Tracking Circuit"),
-                      FrameAround(overshootScale, overshootSum, "Overshoot Circuit")};
-  diagram.Boxes = {current, desired, overshootScale, overshootSum, trackingScale, trackingSum, bearing};
-  diagram.Junctions = {{kDifference, kMain, kRadius}, {kSum, kMain, kRadius}};
-  diagram.Parting = {kParting, kMain, 36.0};
-
-  // A sign stands beside the arrow that it belongs to.
-  constexpr double kSign = 45.0;
-  constexpr double kBeside = 120.0;
+/// Plus and minus, each beside the arrow that it belongs to.
+void AddSigns(LoopDiagram& diagram) {
+  constexpr double kSign = 3.0;
+  constexpr double kBeside = Grid(12);
   const auto minus = [&diagram](double x, double y) {
-    diagram.Signs.push_back({x - kSign, y, x + kSign, y, {}});
+    diagram.Signs.push_back({{x - kSign, y}, {x + kSign, y}});
   };
   const auto plus = [&diagram, &minus](double x, double y) {
     minus(x, y);
-    diagram.Signs.push_back({x, y - kSign, x, y + kSign, {}});
+    diagram.Signs.push_back({{x, y - kSign}, {x, y + kSign}});
   };
   const double beside = kRadius + kBeside;
   plus(kDifference - beside, kMain - kBeside);
   minus(kDifference + kBeside, kMain + beside);
   plus(kSum - beside, kMain - kBeside);
   plus(kSum + kBeside, kMain + beside);
+}
 
-  constexpr double kLanding = 200.0;
-  diagram.lnArrow = {RightArrow(Right(current), kDifference - kRadius, kMain),
+}  // namespace
+
+LoopDiagram LoopDiagramMade() {
+  constexpr double kAngleWidth = Grid(126);
+  constexpr double kEdge = Grid(12);
+  LoopDiagram diagram;
+  diagram.Boxes = {
+      BoxAt(kEdge, kMain, kAngleWidth, "Current Wind Angle"),
+      BoxAt(kDifference - kAngleWidth / 2.0, kOvershoot, kAngleWidth, "Desired Wind Angle"),
+      BoxAt(kParting + Grid(28), kOvershoot, kScaleWidth, "Scale"),
+      BoxAt(kParting + Grid(28) + kScaleWidth + kGap, kOvershoot, kSumWidth, "Accumulator"),
+      BoxAt(kSum + Grid(39), kMain, kScaleWidth, "Scale"),
+      BoxAt(kSum + Grid(39) + kScaleWidth + kGap, kMain, kSumWidth, "Accumulator"),
+      BoxAt(kSum + Grid(39) + kScaleWidth + kGap + kSumWidth + Grid(38), kMain, Grid(90), "Bearing")};
+  const Box current = diagram.Boxes[0].Place;
+  const Box desired = diagram.Boxes[1].Place;
+  const Box overshootScale = diagram.Boxes[2].Place;
+  const Box overshootSum = diagram.Boxes[3].Place;
+  const Box trackingScale = diagram.Boxes[4].Place;
+  const Box trackingSum = diagram.Boxes[5].Place;
+  const Box bearing = diagram.Boxes[6].Place;
+
+  diagram.Width = bearing.Right() + kEdge;
+  diagram.Height = kBack + kEdge;
+  diagram.TextSize = kTextSize;
+  AddCircuit(diagram, trackingScale, trackingSum, "Tracking Circuit");
+  AddCircuit(diagram, overshootScale, overshootSum, "Overshoot Circuit");
+  diagram.Junctions = {{{kDifference, kMain}, kRadius}, {{kSum, kMain}, kRadius}};
+  diagram.Parting = {{kParting, kMain}, 2.4};
+  AddSigns(diagram);
+
+  constexpr double kLanding = Grid(20);
+  const double home = current.Middle().X;
+  const double far = bearing.Middle().X;
+  diagram.lnArrow = {RightArrow(current.Right(), kDifference - kRadius, kMain),
                      TopArrow(kDifference, desired.Y, kMain + kRadius),
                      RightArrow(kDifference + kRadius, kSum - kRadius, kMain),
                      RightArrow(kParting, overshootScale.X, kOvershoot),
-                     RightArrow(Right(overshootScale), overshootSum.X, kOvershoot),
+                     RightArrow(overshootScale.Right(), overshootSum.X, kOvershoot),
                      TopArrow(kSum, kOvershoot, kMain + kRadius),
                      RightArrow(kSum + kRadius, trackingScale.X, kMain),
-                     RightArrow(Right(trackingScale), trackingSum.X, kMain),
-                     RightArrow(Right(trackingSum), bearing.X, kMain),
-                     TopArrow(Middle(current), Bottom(current) + kLanding, Bottom(current))};
-  diagram.Lines = {{kParting, kMain, kParting, kOvershoot, {}},
-                   {Right(overshootSum), kOvershoot, kSum, kOvershoot, {}}};
-  diagram.WayBack = {{Middle(bearing), Bottom(bearing), Middle(bearing), kBack, {}},
-                     {Middle(bearing), kBack, Middle(current), kBack, {}},
-                     {Middle(current), kBack, Middle(current), Bottom(current) + kLanding, {}}};
+                     RightArrow(trackingScale.Right(), trackingSum.X, kMain),
+                     RightArrow(trackingSum.Right(), bearing.X, kMain),
+                     TopArrow(home, current.Bottom() + kLanding, current.Bottom())};
+  diagram.Lines = {{{kParting, kMain}, {kParting, kOvershoot}},
+                   {{overshootSum.Right(), kOvershoot}, {kSum, kOvershoot}}};
+  diagram.WayBack = {{{far, bearing.Bottom()}, {far, kBack}},
+                     {{far, kBack}, {home, kBack}},
+                     {{home, kBack}, {home, current.Bottom() + kLanding}}};
   return diagram;
-}
-
-std::vector<DiagramLine> LoopDiagramArrowHeads(const LoopDiagram& diagram) {
-  std::vector<DiagramLine> strokes;
-  for (const DiagramLine& line : diagram.lnArrow) {
-    const std::vector<DiagramLine> head = ArrowHead(line);
-    strokes.insert(strokes.end(), head.begin(), head.end());
-  }
-  return strokes;
 }
 
 }  // namespace veerwatch

@@ -9,49 +9,29 @@
 // error remains. The boat turns with the bearing and so changes the wind angle: the dashed way back.
 #pragma once
 
-#include <string_view>
 #include <vector>
 
 #include "draw/DiagramArrow.h"
+#include "draw/Shapes.h"
 
 namespace veerwatch {
 
-/// A rectangle with a text [twips].
-struct DiagramBox {
-  double X = 0.0;
-  double Y = 0.0;
-  double Width = 0.0;
-  double Height = 0.0;
-  std::string_view Text;
-};
-
-/// A circle at which signals meet [twips].
-struct DiagramJunction {
-  double X = 0.0;
-  double Y = 0.0;
-  double Radius = 0.0;
-};
-
 struct LoopDiagram {
-  double Width = 0.0;        ///< [twips]
-  double Height = 0.0;       ///< [twips]
-  double TextSize = 0.0;     ///< height of the letters' font [twips]
-  double TitleHeight = 0.0;  ///< [twips]
-  std::vector<DiagramBox>
-      Circuits;  ///< frames around the boxes of a circuit, a title of TitleHeight at their top
-  std::vector<DiagramBox> Boxes;  ///< the text in the middle
-  std::vector<DiagramJunction> Junctions;
-  DiagramJunction Parting;           ///< the dot at which a way parts
-  std::vector<DiagramLine> Signs;    ///< plus and minus at the junctions
-  std::vector<DiagramLine> Lines;    ///< the ways without an arrow
-  std::vector<DiagramLine> WayBack;  ///< the ways outside of the program
-  std::vector<DiagramLine> lnArrow;  ///< the ways that end in an arrow
+  double Width = 0.0;              ///< [px]
+  double Height = 0.0;             ///< [px]
+  double TextSize = 0.0;           ///< height of all letters [px]
+  std::vector<Box> Circuits;       ///< frames around the boxes of a circuit
+  std::vector<PlacedText> Titles;  ///< of the circuits, at the top of each frame
+  std::vector<PlacedText> Boxes;   ///< frames with a text
+  std::vector<Circle> Junctions;   ///< at which signals meet
+  Circle Parting;                  ///< the dot at which a way parts
+  std::vector<Stroke> Signs;       ///< plus and minus at the junctions
+  std::vector<Stroke> Lines;       ///< the ways without an arrow
+  std::vector<Stroke> WayBack;     ///< the ways outside of the program
+  std::vector<DiagramArrow> lnArrow;
 };
 
 /// The diagram at its own size.
 LoopDiagram LoopDiagramMade();
-
-/// The strokes of the arrowheads of all lines of `lnArrow`.
-std::vector<DiagramLine> LoopDiagramArrowHeads(const LoopDiagram& diagram);
 
 }  // namespace veerwatch

@@ -4,26 +4,31 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "draw/DrawQt.h"
+
 namespace veerwatch {
 
 namespace {
 
-constexpr qreal kWayWidth = 20.0;   // [twips]
-constexpr qreal kEdgeWidth = 15.0;  // [twips]
-constexpr qreal kCorner = 60.0;     // [twips]
+constexpr qreal kWayWidth = 4.0 / 3.0;
+constexpr qreal kEdgeWidth = 1.0;
+constexpr qreal kCorner = 4.0;
 
 constexpr int kTextFlags = static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextWordWrap);
 
-QString Text(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+/// Letters are sized in these parts of a pixel, as a font is whole pixels high.
+constexpr qreal kLetterParts = 15.0;
+
+QRectF InLetterParts(const Box& box) {
+  const QRectF place = ToQt(box);
+  return {place.topLeft() * kLetterParts, place.size() * kLetterParts};
 }
 
-QRectF In(const DiagramBox& box) { return {box.X, box.Y, box.Width, box.Height}; }
-
-void Stroke(QPainter& painter, const std::vector<DiagramLine>& lines) {
-  for (const DiagramLine& line : lines) {
-    painter.drawLine(QPointF(line.X1, line.Y1), QPointF(line.X2, line.Y2));
-  }
+void Write(QPainter& painter, const PlacedText& text, int flags) {
+  painter.save();
+  painter.scale(1.0 / kLetterParts, 1.0 / kLetterParts);
+  painter.drawText(InLetterParts(text.Place), flags, ToQt(text.Text));
+  painter.restore();
 }
 
 }  // namespace
@@ -42,16 +47,16 @@ double LoopDiagramQt::Scale() const {
   return std::min(width() / m_diagram.Width, height() / m_diagram.Height);
 }
 
-QFont LoopDiagramQt::Letters() const {
-  constexpr qreal kBeside = 60.0;
+QFont LoopDiagramQt::FittingLetters() const {
+  constexpr qreal kBeside = 4.0 * kLetterParts;
   QFont letters = font();
-  const auto fits = [this, &letters](const DiagramBox& box) {
+  const auto fits = [&letters](const PlacedText& box) {
     const QFontMetricsF metrics(letters);
-    const QRectF room = In(box).adjusted(kBeside, 0.0, -kBeside, 0.0);
-    const QRectF needed = metrics.boundingRect(room, kTextFlags, Text(box.Text));
+    const QRectF room = InLetterParts(box.Place).adjusted(kBeside, 0.0, -kBeside, 0.0);
+    const QRectF needed = metrics.boundingRect(room, kTextFlags, ToQt(box.Text));
     return needed.width() <= room.width() && needed.height() <= room.height();
   };
-  for (int size = qRound(m_diagram.TextSize); size > 1; --size) {
+  for (int size = qRound(m_diagram.TextSize * kLetterParts); size > 1; --size) {
     letters.setPixelSize(size);
     if (std::all_of(m_diagram.Boxes.begin(), m_diagram.Boxes.end(), fits)) {
       break;
@@ -86,43 +91,45 @@ void LoopDiagramQt::paintEvent(QPaintEvent* /*event*/) {
   const QColor base = palette().color(QPalette::Base);
   const QColor text = palette().color(QPalette::Text);
   QColor tint = palette().color(QPalette::Highlight);
-  const QFont letters = Letters();
+  const QFont letters = FittingLetters();
   QFont titles = letters;
   titles.setWeight(QFont::DemiBold);
   painter.setFont(titles);
-  for (const DiagramBox& circuit : m_diagram.Circuits) {
+  for (const Box& circuit : m_diagram.Circuits) {
     tint.setAlphaF(0.14F);
     painter.setBrush(tint);
     tint.setAlphaF(0.6F);
     painter.setPen(QPen(tint, kEdgeWidth));
-    painter.drawRoundedRect(In(circuit), 2.0 * kCorner, 2.0 * kCorner);
-    painter.setPen(text);
-    painter.drawText(QRectF(circuit.X, circuit.Y, circuit.Width, m_diagram.TitleHeight), Qt::AlignCenter,
-                     Text(circuit.Text));
+    painter.drawRoundedRect(ToQt(circuit), 2.0 * kCorner, 2.0 * kCorner);
+  }
+  painter.setPen(text);
+  for (const PlacedText& title : m_diagram.Titles) {
+    Write(painter, title, Qt::AlignCenter);
   }
 
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(text, kWayWidth, Qt::DashLine, Qt::FlatCap));
-  Stroke(painter, m_diagram.WayBack);
+  Draw(painter, m_diagram.WayBack);
   painter.setPen(QPen(text, kWayWidth, Qt::SolidLine, Qt::RoundCap));
-  Stroke(painter, m_diagram.Lines);
-  Stroke(painter, m_diagram.lnArrow);
-  Stroke(painter, m_heads);
-  Stroke(painter, m_diagram.Signs);
+  Draw(painter, m_diagram.Lines);
+  for (const DiagramArrow& arrow : m_diagram.lnArrow) {
+    painter.drawLine(ToQt(arrow.Way));
+  }
+  Draw(painter, m_heads);
+  Draw(painter, m_diagram.Signs);
 
   painter.setPen(Qt::NoPen);
   painter.setBrush(text);
-  painter.drawEllipse(QPointF(m_diagram.Parting.X, m_diagram.Parting.Y), m_diagram.Parting.Radius,
-                      m_diagram.Parting.Radius);
+  Draw(painter, m_diagram.Parting);
   painter.setFont(letters);
   painter.setPen(QPen(text, kEdgeWidth));
   painter.setBrush(base);
-  for (const DiagramJunction& junction : m_diagram.Junctions) {
-    painter.drawEllipse(QPointF(junction.X, junction.Y), junction.Radius, junction.Radius);
+  for (const Circle& junction : m_diagram.Junctions) {
+    Draw(painter, junction);
   }
-  for (const DiagramBox& box : m_diagram.Boxes) {
-    painter.drawRoundedRect(In(box), kCorner, kCorner);
-    painter.drawText(In(box), kTextFlags, Text(box.Text));
+  for (const PlacedText& box : m_diagram.Boxes) {
+    painter.drawRoundedRect(ToQt(box.Place), kCorner, kCorner);
+    Write(painter, box, kTextFlags);
   }
 }
 

@@ -11,7 +11,7 @@ class LoopDiagramQt final : public QWidget {
  public:
   explicit LoopDiagramQt(QWidget* parent);
 
-  /// Pixels per twip: as large as fits.
+  /// How much larger than the diagram its picture is: as large as fits.
   double Scale() const;
 
   QSize sizeHint() const override;
@@ -21,13 +21,14 @@ class LoopDiagramQt final : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  /// The largest letters, up to the diagram's own, with which every text fits into its box [twips].
-  QFont Letters() const;
+  /// The largest letters, up to the diagram's own, with which every text fits into its box, sized in
+  /// parts of a pixel.
+  QFont FittingLetters() const;
   /// The size at which the diagram's letters are `textHeight` pixels high.
   QSize SizeFor(qreal textHeight) const;
 
   const LoopDiagram m_diagram = LoopDiagramMade();
-  const std::vector<DiagramLine> m_heads = LoopDiagramArrowHeads(m_diagram);
+  const std::vector<Stroke> m_heads = ArrowHeads(m_diagram.lnArrow);
 };
 
 }  // namespace veerwatch

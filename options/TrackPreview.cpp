@@ -29,19 +29,19 @@ struct Numbers {
 
 /// Reads the boxes; returns the line about the first that is no number, or "".
 std::string Read(const TrackPreviewTexts& texts, Numbers& numbers) {
-  struct Box {
+  struct Entry {
     const char* Name;
     const std::string& Text;
     double& Value;
   };
-  const std::array<Box, 7> boxes{{{"Bandwidth", texts.Bandwidth, numbers.Inputs.Bandwidth},
-                                  {"Damping", texts.Damping, numbers.Inputs.Damping},
-                                  {"Offset", texts.Offset, numbers.Inputs.Offset},
-                                  {"Noise", texts.Noise, numbers.Inputs.Noise},
-                                  {"Time", texts.Time, numbers.Inputs.Time},
-                                  {"Minimum", texts.Min, numbers.Min},
-                                  {"Maximum", texts.Max, numbers.Max}}};
-  for (const Box& box : boxes) {
+  const std::array<Entry, 7> boxes{{{"Bandwidth", texts.Bandwidth, numbers.Inputs.Bandwidth},
+                                    {"Damping", texts.Damping, numbers.Inputs.Damping},
+                                    {"Offset", texts.Offset, numbers.Inputs.Offset},
+                                    {"Noise", texts.Noise, numbers.Inputs.Noise},
+                                    {"Time", texts.Time, numbers.Inputs.Time},
+                                    {"Minimum", texts.Min, numbers.Min},
+                                    {"Maximum", texts.Max, numbers.Max}}};
+  for (const Entry& box : boxes) {
     const auto value = StrictDouble(box.Text);
     if (!value) {
       return std::string(box.Name).append(" is not a number");
@@ -150,27 +150,25 @@ class TraceGatherer {
 };
 
 /// The part of a piece between the rows `top` and `bottom`.
-std::optional<TrackStroke> Cut(TrackStroke stroke, double top, double bottom) {
-  const double rise = stroke.Y2 - stroke.Y1;
+std::optional<Stroke> Cut(Stroke stroke, double top, double bottom) {
+  const auto [from, to] = stroke;
+  const double rise = to.Y - from.Y;
   if (rise == 0.0) {
-    return stroke.Y1 >= top && stroke.Y1 <= bottom ? std::optional(stroke) : std::nullopt;
+    return from.Y >= top && from.Y <= bottom ? std::optional(stroke) : std::nullopt;
   }
-  const double atTop = (top - stroke.Y1) / rise;
-  const double atBottom = (bottom - stroke.Y1) / rise;
+  const double atTop = (top - from.Y) / rise;
+  const double atBottom = (bottom - from.Y) / rise;
   const double begin = std::max(std::min(atTop, atBottom), 0.0);
   const double end = std::min(std::max(atTop, atBottom), 1.0);
   if (begin > end) {
     return std::nullopt;
   }
-  const double run = stroke.X2 - stroke.X1;
-  const TrackStroke whole = stroke;
+  const double run = to.X - from.X;
   if (begin > 0.0) {
-    stroke.X1 = whole.X1 + run * begin;
-    stroke.Y1 = whole.Y1 + rise * begin;
+    stroke.From = {from.X + run * begin, from.Y + rise * begin};
   }
   if (end < 1.0) {
-    stroke.X2 = whole.X1 + run * end;
-    stroke.Y2 = whole.Y1 + rise * end;
+    stroke.To = {from.X + run * end, from.Y + rise * end};
   }
   return stroke;
 }
@@ -183,13 +181,13 @@ int TrackScale::BearingRow(double bearing) const {
   return Nearest((bearing - BearingMin) * BearingScale + BearingOrigin);
 }
 
-std::vector<TrackStroke> TrackPreview::Strokes() const {
-  std::vector<TrackStroke> strokes;
+std::vector<Stroke> TrackPreview::Strokes() const {
+  std::vector<Stroke> strokes;
   for (std::size_t i = 1; i < Trace.size(); ++i) {
     const TrackPoint& from = Trace[i - 1];
     const TrackPoint& to = Trace[i];
-    const TrackStroke whole{static_cast<double>(from.Column), static_cast<double>(from.Row),
-                            static_cast<double>(to.Column), static_cast<double>(to.Row)};
+    const Stroke whole{{static_cast<double>(from.Column), static_cast<double>(from.Row)},
+                       {static_cast<double>(to.Column), static_cast<double>(to.Row)}};
     if (const auto stroke = Cut(whole, -Height, 2.0 * Height)) {
       strokes.push_back(*stroke);
     }

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "draw/Shapes.h"
 #include "options/TrackResponse.h"
 #include "platform/Random.h"
 
@@ -40,19 +41,12 @@ struct TrackScale {
   int BearingRow(double bearing) const;
 };
 
+/// A place of the trace in whole plot units.
 struct TrackPoint {
   int Column = 0;
   int Row = 0;
 
   bool operator==(const TrackPoint&) const = default;
-};
-
-/// A straight piece of the trace [plot units].
-struct TrackStroke {
-  double X1 = 0.0;
-  double Y1 = 0.0;
-  double X2 = 0.0;
-  double Y2 = 0.0;
 };
 
 /// A line across the whole width.
@@ -86,8 +80,9 @@ struct TrackPreview {
   /// "This run: overshoot 1.25 deg, settling time 31 s, steady state 0.50 deg rms"; "" when nothing is drawn.
   std::string FiguresText() const;
 
-  /// The trace in straight pieces. What is more than a plot's height above or below the plot is cut off.
-  std::vector<TrackStroke> Strokes() const;
+  /// The trace in straight pieces [plot units]. What is more than a plot's height above or below the plot is
+  /// cut off.
+  std::vector<Stroke> Strokes() const;
 
   /// What stands at a place of the plot [plot units]: "time=12.5, bearing=-0.25". "" when nothing is drawn.
   std::string ReadOut(double x, double y) const;

@@ -7,6 +7,7 @@
 #include <QToolTip>
 #include <cstdlib>
 
+#include "draw/DrawQt.h"
 #include "platform/ColoursQt.h"
 
 namespace veerwatch {
@@ -83,13 +84,12 @@ void TrackPreviewQt::Render() {
   }
   const QColor window = palette().color(QPalette::Active, QPalette::Window);
   for (const TrackReference& reference : m_picture.References) {
-    const QColor colour(static_cast<QRgb>(reference.Rgb | 0xFF000000U));
-    fillLine(0, reference.Row, pixels.width(), 0, ShadeFor(window, colour));
+    fillLine(0, reference.Row, pixels.width(), 0, ShadeFor(window, FromRgb(reference.Rgb)));
   }
 
   QVector<QLineF> strokes;
-  for (const TrackStroke& stroke : m_picture.Strokes()) {
-    strokes.append(QLineF(stroke.X1, stroke.Y1, stroke.X2, stroke.Y2));
+  for (const Stroke& stroke : m_picture.Strokes()) {
+    strokes.append(ToQt(stroke));
   }
   // With seconds closer than the columns there is nothing to smooth, and much to draw.
   const bool smooth = m_picture.Scale.TimeScale >= 1.0;

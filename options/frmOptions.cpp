@@ -17,10 +17,9 @@ namespace veerwatch {
 
 namespace {
 
-constexpr int kTwipsPerPixel = 15;
 // Around the tabs and the buttons, and between two buttons [px].
-constexpr int kMargin = 120 / kTwipsPerPixel;
-constexpr int kGap = 240 / kTwipsPerPixel;
+constexpr int kMargin = 8;
+constexpr int kGap = 16;
 
 constexpr QSize kUsualSize(880, 640);
 constexpr double kScreenShare = 0.94;

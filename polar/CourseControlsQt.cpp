@@ -1,5 +1,7 @@
 #include "polar/CourseControlsQt.h"
 
+#include "draw/DrawQt.h"
+
 namespace veerwatch {
 
 namespace {
@@ -52,13 +54,10 @@ void CourseControlsQt::Place(const PolarStill& still) {
     return;
   }
   frmLedger->Place(still.Legend.Corners);
-  QFont letters = lblSteer->font();
-  letters.setPixelSize(qRound(still.TextHeight * kSteerText));
-  letters.setWeight(QFont::DemiBold);
-  lblSteer->setFont(letters);
+  lblSteer->setFont(Letters(lblSteer->font(), still.TextHeight * kSteerText, QFont::DemiBold));
   lblSteer->setMargin(qRound(still.TextHeight * kSteerMargin));
   const QSize size = lblSteer->sizeHint();
-  const PlotBox place = SteerPlace(still.Geometry, still.Grid.Labels, size.width(), size.height());
+  const Box place = SteerPlace(still.Geometry, still.Grid.Labels, size.width(), size.height());
   lblSteer->setGeometry(qRound(place.X), qRound(place.Y), size.width(), size.height());
 }
 

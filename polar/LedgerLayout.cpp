@@ -31,24 +31,26 @@ constexpr std::size_t kTime = 8;
 /// The widest of some texts, each 0 of which stands for any digit.
 class Widest {
  public:
-  explicit Widest(const std::function<double(const std::string&)>& width) : m_width(width) {
+  Widest(const TextMeasure& measure, double height) : m_measure(measure), m_height(height) {
     for (char digit = '1'; digit <= '9'; ++digit) {
-      if (width(std::string(1, digit)) > width(std::string(1, m_digit))) {
+      if (Width(std::string(1, digit)) > Width(std::string(1, m_digit))) {
         m_digit = digit;
       }
     }
   }
+  double Width(const std::string& text) const { return m_measure.Width(text, m_height); }
   double Of(const std::vector<std::string>& patterns) const {
     double widest = 0.0;
     for (std::string text : patterns) {
       std::replace(text.begin(), text.end(), '0', m_digit);
-      widest = std::max(widest, m_width(text));
+      widest = std::max(widest, Width(text));
     }
     return widest;
   }
 
  private:
-  const std::function<double(const std::string&)>& m_width;
+  const TextMeasure& m_measure;
+  double m_height;
   char m_digit = '0';
 };
 
@@ -60,8 +62,8 @@ struct Column {
 }  // namespace
 
 LedgerTexts MeasureLedger(const LedgerContent& content, double height, bool rows,
-                          const std::function<double(const std::string&)>& width) {
-  const Widest widest(width);
+                          const TextMeasure& measure) {
+  const Widest widest(measure, height);
   LedgerTexts texts;
   texts.Height = height;
   texts.LegValue = widest.Of({"000 (000%)", "000 (00:00)"});
@@ -78,12 +80,12 @@ LedgerTexts MeasureLedger(const LedgerContent& content, double height, bool rows
       texts.LongValue = widest.Of({"00:00 (motor 00:00)"});
     }
     double& room = longTime ? texts.LongValue : leg ? texts.LegValue : texts.Value;
-    room = std::max(room, width(figure.Value));
-    texts.Caption = std::max(texts.Caption, width(figure.Heading));
+    room = std::max(room, widest.Width(figure.Value));
+    texts.Caption = std::max(texts.Caption, widest.Width(figure.Heading));
   }
   for (const LedgerRow& row : content.Rows) {
-    texts.Label = std::max(texts.Label, width(row.Label));
-    texts.Number = std::max({texts.Number, width(row.Angle), width(row.Speed)});
+    texts.Label = std::max(texts.Label, widest.Width(row.Label));
+    texts.Number = std::max({texts.Number, widest.Width(row.Angle), widest.Width(row.Speed)});
   }
   return texts;
 }
@@ -157,27 +159,23 @@ bool LedgerFits(const LedgerLayout& layout, double width, double height) {
   return layout.Width <= kMostWidth * width && layout.Height <= kMostHeight * height;
 }
 
-PlotPoint LedgerHome(const PlotBox& panel, double width, double height, bool legendInCorners) {
+Point LedgerHome(const Box& panel, double width, double height, bool legendInCorners) {
   constexpr double kEdge = 8.0;
   const double x = legendInCorners ? (width - panel.Width) / 2.0 : width - kEdge - panel.Width;
   return KeepInside({x, height - kEdge - panel.Height, panel.Width, panel.Height}, width, height);
 }
 
-PlotBox SteerPlace(const PolarGeometry& geometry, const std::vector<PlotLabel>& labels, double width,
-                   double height) {
+Box SteerPlace(const PolarGeometry& geometry, const std::vector<PlotLabel>& labels, double width,
+               double height) {
   // Shares of the outer radius, the best first.
   constexpr std::array<double, 7> kAhead{0.66, 0.62, 0.7, 0.58, 0.74, 0.54, 0.78};
   const auto at = [&](double ahead) {
-    return PlotBox{geometry.CentreX - width / 2.0, geometry.CentreY * (1.0 - ahead) - height / 2.0, width,
-                   height};
+    return Box{geometry.CentreX - width / 2.0, geometry.CentreY * (1.0 - ahead) - height / 2.0, width,
+               height};
   };
   for (const double ahead : kAhead) {
-    const PlotBox box = at(ahead);
-    const auto covers = [&box](const PlotLabel& label) {
-      const PlotBox& other = label.Box;
-      return box.X < other.X + other.Width && other.X < box.X + box.Width && box.Y < other.Y + other.Height &&
-             other.Y < box.Y + box.Height;
-    };
+    const Box box = at(ahead);
+    const auto covers = [&box](const PlotLabel& label) { return box.Overlaps(label.Place); };
     if (std::none_of(labels.begin(), labels.end(), covers)) {
       return box;
     }
@@ -185,7 +183,7 @@ PlotBox SteerPlace(const PolarGeometry& geometry, const std::vector<PlotLabel>& 
   return at(kAhead.front());
 }
 
-PlotPoint KeepInside(const PlotBox& panel, double width, double height) {
+Point KeepInside(const Box& panel, double width, double height) {
   return {std::max(0.0, std::min(panel.X, width - panel.Width)),
           std::max(0.0, std::min(panel.Y, height - panel.Height))};
 }

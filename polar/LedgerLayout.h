@@ -4,10 +4,10 @@
 
 #include <array>
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <vector>
 
+#include "draw/TextMeasure.h"
 #include "polar/CourseLedger.h"
 #include "polar/PolarGrid.h"
 
@@ -27,34 +27,33 @@ struct LedgerTexts {
   bool operator==(const LedgerTexts&) const = default;
 };
 
-/// The widths for `content` in text of `height`, of which `width` says how wide a text is. A column has room
+/// The widths for `content` in text of `height`. A column has room
 /// for whatever usually comes to stand in it, so that the ledger keeps its size while the figures change, and
 /// for what stands in it now.
-LedgerTexts MeasureLedger(const LedgerContent& content, double height, bool rows,
-                          const std::function<double(const std::string&)>& width);
+LedgerTexts MeasureLedger(const LedgerContent& content, double height, bool rows, const TextMeasure& measure);
 
 struct LedgerFigurePlace {
-  PlotBox Heading;
-  PlotBox Value;
+  Box Heading;
+  Box Value;
 };
 
 struct LedgerRowPlace {
-  PlotBox Sample;  ///< of the row's colour
-  PlotBox Label;
-  PlotBox Angle;
-  PlotBox Speed;
+  Box Sample;  ///< of the row's colour
+  Box Label;
+  Box Angle;
+  Box Speed;
 };
 
 struct LedgerLayout {
   double Width = 0.0;
   double Height = 0.0;
   double Text = 0.0;  ///< height of the text
-  PlotBox Title;
+  Box Title;
   std::vector<LedgerFigurePlace> Figures;
-  std::vector<LedgerRowPlace> Rows;    ///< six, or none
-  std::vector<PlotStroke> Separators;  ///< between the rows
-  PlotBox Steer;
-  PlotBox Tack;
+  std::vector<LedgerRowPlace> Rows;  ///< six, or none
+  std::vector<Stroke> Separators;    ///< between the rows
+  Box Steer;
+  Box Tack;
 };
 
 /// Title, figures in two columns, rows with lines between them, buttons.
@@ -68,15 +67,15 @@ bool LedgerFits(const LedgerLayout& layout, double width, double height);
 
 /// The upper left corner of a panel that nobody has moved: at the lower right, or at the middle below where
 /// the legend has the corners.
-PlotPoint LedgerHome(const PlotBox& panel, double width, double height, bool legendInCorners);
+Point LedgerHome(const Box& panel, double width, double height, bool legendInCorners);
 
 /// Where a plate of `width` by `height` stands ahead of the boat, in the sector where none sails, clear of
 /// the labels of the grid where it can.
-PlotBox SteerPlace(const PolarGeometry& geometry, const std::vector<PlotLabel>& labels, double width,
-                   double height);
+Box SteerPlace(const PolarGeometry& geometry, const std::vector<PlotLabel>& labels, double width,
+               double height);
 
 /// The place nearest to that of `panel` at which it lies inside of `width` by `height`; the upper left corner
 /// for one that is larger.
-PlotPoint KeepInside(const PlotBox& panel, double width, double height);
+Point KeepInside(const Box& panel, double width, double height);
 
 }  // namespace veerwatch

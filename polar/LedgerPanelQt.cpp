@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "draw/DrawQt.h"
+#include "draw/TextMeasureQt.h"
 #include "platform/ColoursQt.h"
 
 namespace veerwatch {
@@ -16,22 +18,13 @@ namespace {
 constexpr qreal kRadius = 6.0;
 constexpr qreal kFaint = 0.45;
 
-QRectF In(const PlotBox& box) { return {box.X, box.Y, box.Width, box.Height}; }
-QRect Whole(const PlotBox& box) { return In(box).toRect(); }
-QString Text(const std::string& text) { return QString::fromStdString(text); }
-
-QFont Letters(const QFont& base, double height, QFont::Weight weight = QFont::Normal) {
-  QFont font(base);
-  font.setPixelSize(std::max(1, qRound(height)));
-  font.setWeight(weight);
-  return font;
-}
+QRect Whole(const Box& box) { return ToQt(box).toRect(); }
 
 /// A text in its box, shortened where it is too long.
-void Put(QPainter& painter, const PlotBox& box, Qt::Alignment side, const std::string& text) {
+void Put(QPainter& painter, const Box& box, Qt::Alignment side, const std::string& text) {
   const QFontMetricsF metrics(painter.font(), painter.device());
-  painter.drawText(In(box), static_cast<int>(side | Qt::AlignVCenter),
-                   metrics.elidedText(Text(text), Qt::ElideRight, box.Width + 1.0));
+  painter.drawText(ToQt(box), static_cast<int>(side | Qt::AlignVCenter),
+                   metrics.elidedText(ToQt(text), Qt::ElideRight, box.Width + 1.0));
 }
 
 }  // namespace
@@ -53,10 +46,7 @@ LedgerPanelQt::LedgerPanelQt(QWidget* parent)
 }
 
 LedgerTexts LedgerPanelQt::Measure(double height, bool rows) const {
-  const QFontMetricsF metrics(Letters(font(), height), this);
-  return MeasureLedger(m_content, height, rows, [&metrics](const std::string& text) {
-    return std::ceil(metrics.horizontalAdvance(Text(text)));
-  });
+  return MeasureLedger(m_content, height, rows, FontMeasureQt(font(), *this));
 }
 
 void LedgerPanelQt::Show(const LedgerContent& content) {
@@ -93,16 +83,14 @@ void LedgerPanelQt::Fit() {
 }
 
 void LedgerPanelQt::Place(bool legendInCorners) {
-  const PlotBox panel{static_cast<double>(x()), static_cast<double>(y()), static_cast<double>(width()),
-                      static_cast<double>(height())};
-  MoveTo(m_dragged ? PlotPoint{panel.X, panel.Y}
+  const auto panel = ToBox(geometry());
+  MoveTo(m_dragged ? Point{panel.X, panel.Y}
                    : LedgerHome(panel, parentWidget()->width(), parentWidget()->height(), legendInCorners));
 }
 
-void LedgerPanelQt::MoveTo(const PlotPoint& at) {
-  const PlotPoint inside =
-      KeepInside({at.X, at.Y, static_cast<double>(width()), static_cast<double>(height())},
-                 parentWidget()->width(), parentWidget()->height());
+void LedgerPanelQt::MoveTo(const Point& at) {
+  const Point inside = KeepInside({at.X, at.Y, static_cast<double>(width()), static_cast<double>(height())},
+                                  parentWidget()->width(), parentWidget()->height());
   move(qRound(inside.X), qRound(inside.Y));
 }
 
@@ -131,7 +119,7 @@ void LedgerPanelQt::paintEvent(QPaintEvent* /*event*/) {
   if (m_content.Figures.empty()) {
     return;
   }
-  const PlotBox& title = m_layout.Title;
+  const auto& title = m_layout.Title;
   const double indent = m_layout.Text * 0.8;
   painter.drawLine(QPointF(0.5, title.Height), QPointF(title.Width, title.Height));
   painter.setFont(Letters(font(), m_layout.Text, QFont::Bold));
@@ -158,13 +146,13 @@ void LedgerPanelQt::PaintFigures(QPainter& painter) const {
 
 void LedgerPanelQt::PaintRows(QPainter& painter) const {
   painter.setPen(QPen(m_colours.Grid, 1.0));
-  for (const PlotStroke& line : m_layout.Separators) {
-    painter.drawLine(QPointF(line.From.X, line.From.Y), QPointF(line.To.X, line.To.Y));
+  for (const Stroke& line : m_layout.Separators) {
+    painter.drawLine(ToQt(line));
   }
   for (std::size_t i = 0; i < m_layout.Rows.size(); ++i) {
     const LedgerRowPlace& place = m_layout.Rows[i];
     const LedgerRow& row = m_content.Rows[i];
-    const QRectF sample = In(place.Sample);
+    const QRectF sample = ToQt(place.Sample);
     QPen line(ColourOf(row.Subject), m_layout.Text * 0.25, Qt::SolidLine, Qt::FlatCap);
     if (row.Subject == LedgerSubject::Target) {
       line.setDashPattern({0.7, 0.7});

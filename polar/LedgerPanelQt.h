@@ -52,7 +52,7 @@ class LedgerPanelQt final : public QFrame {
   };
   LedgerTexts Measure(double height, bool rows) const;
   /// Moves the upper left corner as near to `at` as the parent allows.
-  void MoveTo(const PlotPoint& at);
+  void MoveTo(const Point& at);
   QColor ColourOf(LedgerSubject subject) const;
   void PaintFigures(QPainter& painter) const;
   void PaintRows(QPainter& painter) const;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "draw/DrawQt.h"
 #include "polar/PolarPaletteQt.h"
 
 namespace veerwatch {
@@ -24,13 +25,6 @@ constexpr double kCaptionText = 1.0;
 constexpr double kMargin = 0.4;
 constexpr double kLine = 1.25;
 constexpr float kEdge = 0.35F;
-
-QFont Letters(const QFont& base, double height, QFont::Weight weight) {
-  QFont font(base);
-  font.setPixelSize(std::max(1, qRound(height)));
-  font.setWeight(weight);
-  return font;
-}
 
 double Widest(const QFontMetricsF& metrics, const QStringList& lines) {
   double widest = 0.0;

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "draw/DrawQt.h"
+
 namespace veerwatch {
 
 namespace {
@@ -25,21 +27,6 @@ constexpr qreal kLegNowWidth = 3.6;
 /// How strongly the minor curves of a dense table show.
 constexpr qreal kMinorShare = 0.3;
 
-QPointF At(const PlotPoint& point) { return {point.X, point.Y}; }
-
-QRectF In(const PlotBox& box) { return {box.X, box.Y, box.Width, box.Height}; }
-
-QString Text(const std::string& text) { return QString::fromStdString(text); }
-
-QPolygonF Polygon(const PlotLine& line) {
-  QPolygonF polygon;
-  polygon.reserve(static_cast<qsizetype>(line.size()));
-  for (const PlotPoint& point : line) {
-    polygon.append(At(point));
-  }
-  return polygon;
-}
-
 QPen RoundPen(const QColor& colour, qreal width) {
   return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
@@ -52,18 +39,11 @@ QPen DashedPen(const QColor& colour, qreal width, qreal size, qreal dash = 8.0) 
   return pen;
 }
 
-void Stroke(QPainter& painter, const std::vector<PlotLine>& lines, const QPen& pen) {
+void StrokeLines(QPainter& painter, const std::vector<Polyline>& lines, const QPen& pen) {
   painter.setPen(pen);
-  for (const PlotLine& line : lines) {
-    painter.drawPolyline(Polygon(line));
+  for (const Polyline& line : lines) {
+    painter.drawPolyline(ToQt(line));
   }
-}
-
-QFont TextFont(const QFont& base, qreal pixels, int weight = QFont::Normal) {
-  QFont font(base);
-  font.setPixelSize(std::max(1, qRound(pixels)));
-  font.setWeight(static_cast<QFont::Weight>(weight));
-  return font;
 }
 
 /// Text with an outline of the background, legible on any lines.
@@ -122,13 +102,13 @@ void PolarCanvasQt::PaintStill(QPainter& painter) const {
 void PolarCanvasQt::PaintLabels(QPainter& painter) const {
   for (const PlotLabel& label : m_still.Grid.Labels) {
     const bool wind = label.Kind == PlotLabelKind::Wind;
-    const QRectF box = In(label.Box);
+    const QRectF box = ToQt(label.Place);
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_colours.Disc);
     painter.drawRoundedRect(box, box.height() * 0.3, box.height() * 0.3);
-    painter.setFont(TextFont(font(), m_still.TextHeight, wind ? QFont::Bold : QFont::Normal));
+    painter.setFont(Letters(font(), label.Height, wind ? QFont::Bold : QFont::Normal));
     painter.setPen(wind ? m_colours.Curve(m_still.SpeedColor) : m_colours.GridLabel);
-    painter.drawText(box, static_cast<int>(Qt::AlignCenter) | Qt::TextDontClip, Text(label.Text));
+    painter.drawText(box, static_cast<int>(Qt::AlignCenter) | Qt::TextDontClip, ToQt(label.Text));
   }
 }
 
@@ -146,8 +126,8 @@ void PolarCanvasQt::PaintGrid(QPainter& painter) const {
     painter.drawEllipse(centre, inside, inside);
   }
   for (const auto* strokes : {&m_still.Grid.Spokes, &m_still.Grid.Ticks}) {
-    for (const PlotStroke& stroke : *strokes) {
-      painter.drawLine(At(stroke.From), At(stroke.To));
+    for (const Stroke& stroke : *strokes) {
+      painter.drawLine(ToQt(stroke));
     }
   }
 }
@@ -161,26 +141,26 @@ void PolarCanvasQt::PaintCurves(QPainter& painter) const {
   for (const bool major : {false, true}) {
     for (const PolarCurve& polar : m_still.Main) {
       if (polar.Major == major) {
-        Stroke(painter, polar.Lines, RoundPen(major ? curve : faint, major ? kCurveWidth * size : 1.0));
+        StrokeLines(painter, polar.Lines, RoundPen(major ? curve : faint, major ? kCurveWidth * size : 1.0));
       }
     }
   }
   for (const PolarCurve& polar : m_still.Reference) {
     if (polar.Major) {
-      Stroke(painter, polar.Lines, DashedPen(m_colours.Reference, kCurveWidth * size, size));
+      StrokeLines(painter, polar.Lines, DashedPen(m_colours.Reference, kCurveWidth * size, size));
     }
   }
 }
 
 void PolarCanvasQt::PaintKeys(QPainter& painter) const {
   for (std::size_t i = 0; i < std::min(m_still.Legend.Keys.size(), m_still.Keys.size()); ++i) {
-    const QRectF box = In(m_still.Legend.Keys[i]);
+    const QRectF box = ToQt(m_still.Legend.Keys[i]);
     const bool right = m_still.Legend.Corners && i == 1;
-    painter.setFont(TextFont(font(), box.height() * 0.62));
+    painter.setFont(Letters(font(), box.height() * 0.62));
     const qreal sample = box.height() * 1.5;
     const QFontMetricsF metrics(painter.font(), painter.device());
     const QString name =
-        metrics.elidedText(Text(m_still.Keys[i]), Qt::ElideMiddle, box.width() - sample * 1.25);
+        metrics.elidedText(ToQt(m_still.Keys[i]), Qt::ElideMiddle, box.width() - sample * 1.25);
     const qreal width = metrics.horizontalAdvance(name) + sample * 1.25;
     const qreal x = right ? box.right() - width : box.left();
     const qreal y = box.center().y();
@@ -200,18 +180,18 @@ void PolarCanvasQt::PaintMoving(QPainter& painter) const {
   painter.setRenderHint(QPainter::Antialiasing);
   const qreal size = std::clamp(m_still.Geometry.CentreX * 2.0 / kDesignSize, 0.5, 1.6);
   painter.setBrush(Qt::NoBrush);
-  Stroke(painter, m_moving.Wind, RoundPen(m_colours.Disc, (kWindWidth + kHalo) * size));
-  Stroke(painter, m_moving.Wind, RoundPen(m_colours.Wind, kWindWidth * size));
-  Stroke(painter, m_moving.ReferenceWind, DashedPen(m_colours.Reference, kWindWidth * size, 1.3 * size));
+  StrokeLines(painter, m_moving.Wind, RoundPen(m_colours.Disc, (kWindWidth + kHalo) * size));
+  StrokeLines(painter, m_moving.Wind, RoundPen(m_colours.Wind, kWindWidth * size));
+  StrokeLines(painter, m_moving.ReferenceWind, DashedPen(m_colours.Reference, kWindWidth * size, 1.3 * size));
   if (m_moving.Target) {
     painter.setPen(DashedPen(m_colours.Target, kTargetWidth * size, size, kTargetDash));
-    painter.drawLine(At(m_moving.Target->Line.From), At(m_moving.Target->Line.To));
+    painter.drawLine(ToQt(m_moving.Target->Line));
   }
   PaintLabels(painter);
   if (m_moving.Target) {
     painter.setPen(Qt::NoPen);
     painter.setBrush(m_colours.Target);
-    painter.drawPolygon(Polygon({m_moving.Target->Diamond.begin(), m_moving.Target->Diamond.end()}));
+    painter.drawPolygon(ToQt(Polyline{m_moving.Target->Diamond.begin(), m_moving.Target->Diamond.end()}));
   }
   if (m_moving.Arrow) {
     PaintArrow(painter, size);
@@ -225,16 +205,16 @@ void PolarCanvasQt::PaintMoving(QPainter& painter) const {
 
 void PolarCanvasQt::PaintArrow(QPainter& painter, qreal size) const {
   const WindArrow& arrow = *m_moving.Arrow;
-  const QPointF neck = (At(arrow.HeadLeft) + At(arrow.HeadRight)) / 2.0;
-  const QPolygonF head{At(arrow.Shaft.To), At(arrow.HeadLeft), At(arrow.HeadRight)};
+  const QPointF neck = (ToQt(arrow.HeadLeft) + ToQt(arrow.HeadRight)) / 2.0;
+  const QPolygonF head{ToQt(arrow.Shaft.To), ToQt(arrow.HeadLeft), ToQt(arrow.HeadRight)};
   painter.setPen(QPen(m_colours.Wind, 1.2 * size));
-  painter.drawLine(At(arrow.Line.From), At(arrow.Line.To));
+  painter.drawLine(ToQt(arrow.Line));
   painter.setPen(RoundPen(m_colours.Disc, (6.0 + kHalo) * size));
   painter.setBrush(Qt::NoBrush);
-  painter.drawLine(At(arrow.Shaft.From), neck);
+  painter.drawLine(ToQt(arrow.Shaft.From), neck);
   painter.drawPolygon(head);
   painter.setPen(QPen(m_colours.Wind, 6.0 * size, Qt::SolidLine, Qt::FlatCap));
-  painter.drawLine(At(arrow.Shaft.From), neck);
+  painter.drawLine(ToQt(arrow.Shaft.From), neck);
   painter.setPen(Qt::NoPen);
   painter.setBrush(m_colours.Wind);
   painter.drawPolygon(head);
@@ -242,12 +222,12 @@ void PolarCanvasQt::PaintArrow(QPainter& painter, qreal size) const {
 
 void PolarCanvasQt::PaintBoat(QPainter& painter, qreal size) const {
   const BoatPoint& boat = *m_moving.Boat;
-  painter.setFont(TextFont(font(), 30.0 * size, QFont::Black));
-  HaloText(painter, At(boat.Point), QStringLiteral("X"), m_colours.Boat, m_colours.Disc);
+  painter.setFont(Letters(font(), 30.0 * size, QFont::Black));
+  HaloText(painter, ToQt(boat.At), QStringLiteral("X"), m_colours.Boat, m_colours.Disc);
   if (boat.Beyond) {
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(m_colours.Boat, 3.0 * size));
-    painter.drawEllipse(At(boat.Point), 22.0 * size, 22.0 * size);
+    painter.drawEllipse(ToQt(boat.At), 22.0 * size, 22.0 * size);
   }
 }
 
@@ -261,10 +241,10 @@ void PolarCanvasQt::PaintLegs(QPainter& painter, qreal size) const {
     const QPen line = m_colours.Dashed(leg.PortTack) ? DashedPen(colour, width, size) : head;
     for (const auto& [linePen, headPen] : {std::pair{halo, halo}, std::pair{line, head}}) {
       painter.setPen(linePen);
-      painter.drawLine(At(leg.Arrow.Line.From), At(leg.Arrow.Line.To));
+      painter.drawLine(ToQt(leg.Arrow.Line));
       painter.setPen(headPen);
-      painter.drawLine(At(leg.Arrow.HeadLeft.From), At(leg.Arrow.HeadLeft.To));
-      painter.drawLine(At(leg.Arrow.HeadRight.From), At(leg.Arrow.HeadRight.To));
+      painter.drawLine(ToQt(leg.Arrow.HeadLeft));
+      painter.drawLine(ToQt(leg.Arrow.HeadRight));
     }
   }
 }
@@ -272,23 +252,23 @@ void PolarCanvasQt::PaintLegs(QPainter& painter, qreal size) const {
 void PolarCanvasQt::PaintLegend(QPainter& painter) const {
   const PolarLegend& legend = m_still.Legend;
   const PolarReadout& readout = m_moving.Readout;
-  const QFont captionFont = TextFont(font(), legend.CaptionText);
-  const QFont valueFont = TextFont(font(), legend.ValueText, QFont::DemiBold);
-  const QFont percentFont = TextFont(font(), legend.ValueText * 0.62, QFont::DemiBold);
+  const QFont captionFont = Letters(font(), legend.CaptionText);
+  const QFont valueFont = Letters(font(), legend.ValueText, QFont::DemiBold);
+  const QFont percentFont = Letters(font(), legend.ValueText * 0.62, QFont::DemiBold);
   const auto cell = [&](const LegendCell& place, const std::string& caption, const std::string& value,
                         const std::string& percent, const QColor& colour) {
     const Qt::Alignment side = place.Right ? Qt::AlignRight : Qt::AlignLeft;
     painter.setFont(captionFont);
     painter.setPen(m_colours.Caption);
-    painter.drawText(In(place.Caption), static_cast<int>(side | Qt::AlignVCenter) | Qt::TextDontClip,
-                     Text(caption));
+    painter.drawText(ToQt(place.Caption), static_cast<int>(side | Qt::AlignVCenter) | Qt::TextDontClip,
+                     ToQt(caption));
     painter.setFont(valueFont);
     painter.setPen(colour);
-    const QRectF box = In(place.Value);
+    const QRectF box = ToQt(place.Value);
     const QFontMetricsF metrics(valueFont);
     const qreal baseline = box.center().y() + metrics.capHeight() / 2.0;
-    const QString number = Text(value);
-    const QString share = Text(percent);
+    const QString number = ToQt(value);
+    const QString share = ToQt(percent);
     const QFontMetricsF small(percentFont);
     const qreal gap = share.isEmpty() ? 0.0 : legend.ValueText * 0.25;
     const qreal width = metrics.horizontalAdvance(number) + gap + small.horizontalAdvance(share);

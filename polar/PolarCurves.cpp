@@ -20,12 +20,12 @@ constexpr double kOnAxis = 1e-3;
 constexpr std::size_t kMostMajor = 12;
 constexpr std::size_t kDenseCurves = 10;
 
-double Distance(const PlotPoint& a, const PlotPoint& b) { return std::hypot(a.X - b.X, a.Y - b.Y); }
+double Distance(const Point& a, const Point& b) { return std::hypot(a.X - b.X, a.Y - b.Y); }
 
-PlotPoint Mirrored(const PlotPoint& point, double axisX) { return {2.0 * axisX - point.X, point.Y}; }
+Point Mirrored(const Point& point, double axisX) { return {2.0 * axisX - point.X, point.Y}; }
 
 /// The neighbour that a line's end lacks: `inner` beyond `end`.
-PlotPoint Beyond(const PlotPoint& end, const PlotPoint& inner, double axisX) {
+Point Beyond(const Point& end, const Point& inner, double axisX) {
   if (std::fabs(end.X - axisX) < kOnAxis) {
     return Mirrored(inner, axisX);
   }
@@ -33,21 +33,20 @@ PlotPoint Beyond(const PlotPoint& end, const PlotPoint& inner, double axisX) {
 }
 
 /// Slope of a centripetal spline at `b` per unit of the span `own`, one of the spans `before` and `after`.
-PlotPoint Tangent(const PlotPoint& a, const PlotPoint& b, const PlotPoint& c, double before, double after,
-                  double own) {
+Point Tangent(const Point& a, const Point& b, const Point& c, double before, double after, double own) {
   const auto slope = [&](double va, double vb, double vc) {
     return own * ((vb - va) / before - (vc - va) / (before + after) + (vc - vb) / after);
   };
   return {slope(a.X, b.X, c.X), slope(a.Y, b.Y, c.Y)};
 }
 
-std::vector<PlotLine> BothSides(const std::vector<PlotPoint>& knots, const PolarGeometry& geometry) {
-  std::vector<PlotLine> lines = ClipToDisc(SmoothLine(knots, geometry.CentreX), geometry.CentreX,
+std::vector<Polyline> BothSides(const Polyline& knots, const PolarGeometry& geometry) {
+  std::vector<Polyline> lines = ClipToDisc(SmoothLine(knots, geometry.CentreX), geometry.CentreX,
                                            geometry.CentreY, OuterRadius(geometry));
   const std::size_t count = lines.size();
   for (std::size_t i = 0; i < count; ++i) {
-    PlotLine mirror = lines[i];
-    for (PlotPoint& point : mirror) {
+    Polyline mirror = lines[i];
+    for (Point& point : mirror) {
       point = Mirrored(point, geometry.CentreX);
     }
     lines.push_back(std::move(mirror));
@@ -57,10 +56,10 @@ std::vector<PlotLine> BothSides(const std::vector<PlotPoint>& knots, const Polar
 
 }  // namespace
 
-PlotLine SmoothLine(const std::vector<PlotPoint>& knots, double axisX) {
-  std::vector<PlotPoint> k;
+Polyline SmoothLine(const Polyline& knots, double axisX) {
+  Polyline k;
   k.reserve(knots.size());
-  for (const PlotPoint& knot : knots) {
+  for (const Point& knot : knots) {
     if (k.empty() || Distance(k.back(), knot) > kSamePlace) {
       k.push_back(knot);
     }
@@ -68,18 +67,18 @@ PlotLine SmoothLine(const std::vector<PlotPoint>& knots, double axisX) {
   if (k.size() < 2) {
     return k;
   }
-  PlotLine line{k.front()};
+  Polyline line{k.front()};
   for (std::size_t i = 0; i + 1 < k.size(); ++i) {
-    const PlotPoint& from = k[i];
-    const PlotPoint& to = k[i + 1];
-    const PlotPoint before = i > 0 ? k[i - 1] : Beyond(from, to, axisX);
-    const PlotPoint after = i + 2 < k.size() ? k[i + 2] : Beyond(to, from, axisX);
+    const Point& from = k[i];
+    const Point& to = k[i + 1];
+    const Point before = i > 0 ? k[i - 1] : Beyond(from, to, axisX);
+    const Point after = i + 2 < k.size() ? k[i + 2] : Beyond(to, from, axisX);
     const double length = Distance(from, to);
     const double span = std::sqrt(length);
     const double spanBefore = std::sqrt(std::max(Distance(before, from), kSamePlace));
     const double spanAfter = std::sqrt(std::max(Distance(to, after), kSamePlace));
-    const PlotPoint leave = Tangent(before, from, to, spanBefore, span, span);
-    const PlotPoint arrive = Tangent(from, to, after, span, spanAfter, span);
+    const Point leave = Tangent(before, from, to, spanBefore, span, span);
+    const Point arrive = Tangent(from, to, after, span, spanAfter, span);
     const int count = static_cast<int>(std::clamp(std::ceil(length / kPointDistance), 1.0, kMostPoints));
     for (int step = 1; step < count; ++step) {
       const double t = static_cast<double>(step) / count;
@@ -97,8 +96,8 @@ PlotLine SmoothLine(const std::vector<PlotPoint>& knots, double axisX) {
   return line;
 }
 
-std::vector<PlotLine> ClipToDisc(const PlotLine& line, double centreX, double centreY, double radius) {
-  std::vector<PlotLine> parts;
+std::vector<Polyline> ClipToDisc(const Polyline& line, double centreX, double centreY, double radius) {
+  std::vector<Polyline> parts;
   bool open = false;
   for (std::size_t i = 0; i + 1 < line.size(); ++i) {
     // Where the way from one point (0) to the next (1) crosses the circle.
@@ -121,7 +120,7 @@ std::vector<PlotLine> ClipToDisc(const PlotLine& line, double centreX, double ce
       open = false;
       continue;
     }
-    const auto at = [&](double t) { return PlotPoint{line[i].X + t * dx, line[i].Y + t * dy}; };
+    const auto at = [&](double t) { return Point{line[i].X + t * dx, line[i].Y + t * dy}; };
     if (!open || enter > 0.0) {
       parts.push_back({at(enter)});
     }
@@ -136,7 +135,7 @@ std::vector<PolarCurve> PolarCurves(const PolarTable& table, int slot, const Pol
   const auto columns = static_cast<std::size_t>(table.PolarColumns(slot));
   const std::size_t step = columns <= kMostMajor ? 1 : (columns + kDenseCurves - 1) / kDenseCurves;
   for (int column = 1; column <= table.PolarColumns(slot); ++column) {
-    std::vector<PlotPoint> knots;
+    Polyline knots;
     for (int row = 1; row <= table.PolarRows(slot); ++row) {
       const PolarCell cell = table.PolarPoint(slot, row, column);
       knots.push_back(
@@ -154,7 +153,7 @@ PolarCurve WindCurve(const PolarTable& table, int slot, float windSpeed, const P
   if (columns.Lower == 0) {
     return curve;
   }
-  std::vector<PlotPoint> knots;
+  Polyline knots;
   for (int row = 1; row <= table.PolarRows(slot); ++row) {
     const PolarCell cell = table.PolarPointAt(slot, row, columns);
     knots.push_back(PointAt(geometry, static_cast<double>(cell.Angle), static_cast<double>(cell.BoatSpeed)));

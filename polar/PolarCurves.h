@@ -10,16 +10,16 @@ namespace veerwatch {
 
 /// A smooth line through `knots`, in their order, with a point every few pixels. An end on the vertical
 /// through `axisX` leaves it at a right angle, so that it meets its mirror image without a kink.
-PlotLine SmoothLine(const std::vector<PlotPoint>& knots, double axisX);
+Polyline SmoothLine(const Polyline& knots, double axisX);
 
 /// What of `line` lies in the disc around (`centreX`, `centreY`).
-std::vector<PlotLine> ClipToDisc(const PlotLine& line, double centreX, double centreY, double radius);
+std::vector<Polyline> ClipToDisc(const Polyline& line, double centreX, double centreY, double radius);
 
 /// The curve of one wind speed, both sides, within the outer ring.
 struct PolarCurve {
   float WindSpeed = 0.0F;       ///< [kn]
   bool Major = true;            ///< false for the columns that a dense table has between the others
-  std::vector<PlotLine> Lines;  ///< starboard lines, then their mirror images
+  std::vector<Polyline> Lines;  ///< starboard lines, then their mirror images
 };
 
 /// A curve per column.

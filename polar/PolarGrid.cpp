@@ -23,26 +23,26 @@ constexpr double kCharacterWidth = 0.68;
 /// Height of a label in shares of the text height.
 constexpr double kLabelHeight = 1.2;
 
-bool Overlap(const PlotBox& a, const PlotBox& b) {
-  return a.X < b.X + b.Width && b.X < a.X + a.Width && a.Y < b.Y + b.Height && b.Y < a.Y + a.Height;
-}
-
-PlotBox BoxAround(const PlotPoint& centre, const std::string& text, double textHeight) {
+PlotLabel Label(PlotLabelKind kind, const Point& centre, const std::string& text, double textHeight) {
   const double width = LabelWidth(text, textHeight);
   const double height = kLabelHeight * textHeight;
-  return {centre.X - width / 2.0, centre.Y - height / 2.0, width, height};
+  return {{text,
+           {centre.X - width / 2.0, centre.Y - height / 2.0, width, height},
+           textHeight,
+           PlacedText::Side::Middle},
+          kind};
 }
 
 /// Takes a label where it keeps clear of those before it and of the square's edge.
 bool Place(PolarGrid& grid, const PolarGeometry& geometry, PlotLabel label) {
   const double radius = OuterRadius(geometry);
-  const PlotBox& box = label.Box;
+  const Box& box = label.Place;
   if (box.X < geometry.CentreX - radius || box.Y < geometry.CentreY - radius ||
-      box.X + box.Width > geometry.CentreX + radius || box.Y + box.Height > geometry.CentreY + radius) {
+      box.Right() > geometry.CentreX + radius || box.Bottom() > geometry.CentreY + radius) {
     return false;
   }
   for (const PlotLabel& other : grid.Labels) {
-    if (Overlap(other.Box, box)) {
+    if (other.Place.Overlaps(box)) {
       return false;
     }
   }
@@ -58,8 +58,8 @@ void PlaceAngles(PolarGrid& grid, const PolarGeometry& geometry, double textHeig
     const double radians = angle * kRadiansPerDegree;
     const double extent = std::fabs(std::sin(radians)) * LabelWidth(text, textHeight) / 2.0 +
                           std::fabs(std::cos(radians)) * kLabelHeight * textHeight / 2.0;
-    const PlotPoint centre = AtRadius(geometry, angle, radius - extent - textHeight * 0.7);
-    Place(grid, geometry, {PlotLabelKind::Angle, BoxAround(centre, text, textHeight), text});
+    const Point centre = AtRadius(geometry, angle, radius - extent - textHeight * 0.7);
+    Place(grid, geometry, Label(PlotLabelKind::Angle, centre, text, textHeight));
   }
 }
 
@@ -70,18 +70,17 @@ void PlaceSpeeds(PolarGrid& grid, const PolarGeometry& geometry, const PolarGrid
     const std::string text = ShortestText(ToSingle(std::round(static_cast<double>(speed) * 1e4) / 1e4));
     const bool outer = ring == grid.Rings.rbegin();
     const double radius = outer ? *ring - options.TextHeight : *ring;
-    Place(
-        grid, geometry,
-        {PlotLabelKind::Speed, BoxAround(AtRadius(geometry, side, radius), text, options.TextHeight), text});
+    Place(grid, geometry,
+          Label(PlotLabelKind::Speed, AtRadius(geometry, side, radius), text, options.TextHeight));
   }
 }
 
 /// The point of a curve's starboard side that is nearest in angle to `angle`; false when none is near.
-bool PointNear(const PolarCurve& curve, const PolarGeometry& geometry, double angle, PlotPoint& found) {
+bool PointNear(const PolarCurve& curve, const PolarGeometry& geometry, double angle, Point& found) {
   constexpr double kNear = 6.0;
   double best = kNear;
-  for (const PlotLine& line : curve.Lines) {
-    for (const PlotPoint& point : line) {
+  for (const Polyline& line : curve.Lines) {
+    for (const Point& point : line) {
       const double at = std::atan2(point.X - geometry.CentreX, geometry.CentreY - point.Y);
       const double off = std::fabs(at / kRadiansPerDegree - angle);
       if (off < best) {
@@ -101,9 +100,9 @@ void PlaceWinds(PolarGrid& grid, const PolarGeometry& geometry, double textHeigh
     }
     const std::string text = ShortestText(curve.WindSpeed);
     for (const double angle : {105.0, 95.0, 115.0, 85.0, 125.0, 75.0, 135.0, 65.0, 145.0, 55.0, 160.0}) {
-      PlotPoint point;
+      Point point;
       if (PointNear(curve, geometry, angle, point) &&
-          Place(grid, geometry, {PlotLabelKind::Wind, BoxAround(point, text, textHeight), text})) {
+          Place(grid, geometry, Label(PlotLabelKind::Wind, point, text, textHeight))) {
         break;
       }
     }

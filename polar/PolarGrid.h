@@ -10,10 +10,9 @@ namespace veerwatch {
 
 enum class PlotLabelKind { Angle, Speed, Wind };
 
-struct PlotLabel {
+/// A label, its text in the middle of its place.
+struct PlotLabel : PlacedText {
   PlotLabelKind Kind = PlotLabelKind::Angle;
-  PlotBox Box;  ///< the text is centred in it
-  std::string Text;
 };
 
 /// What the grid and its labels depend on.
@@ -26,8 +25,8 @@ struct PolarGridOptions {
 
 struct PolarGrid {
   std::vector<double> Rings;  ///< radii [px], the outer ring last
-  std::vector<PlotStroke> Spokes;
-  std::vector<PlotStroke> Ticks;  ///< every ten degrees at the outer ring
+  std::vector<Stroke> Spokes;
+  std::vector<Stroke> Ticks;      ///< every ten degrees at the outer ring
   std::vector<PlotLabel> Labels;  ///< none overlaps another or leaves the outer ring's square
 };
 

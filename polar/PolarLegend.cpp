@@ -17,7 +17,7 @@ constexpr double kCellShape = 0.56;
 constexpr double kLeastCaption = 7.5;
 
 /// A cell in a box: the caption above the value.
-LegendCell CellIn(const PlotBox& box) {
+LegendCell CellIn(const Box& box) {
   const double caption = box.Height * kCaptionShare;
   return {
       {box.X, box.Y, box.Width, caption}, {box.X, box.Y + caption, box.Width, box.Height - caption}, false};
@@ -34,7 +34,7 @@ double CaptionBeside(const PolarLegend& legend) {
   return std::max(legend.Boat.Caption.Height * 0.62, std::min(kLeastCaption, legend.ValueText * 0.8));
 }
 
-void LayColumn(PolarLegend& legend, const PlotBox& box, int keys) {
+void LayColumn(PolarLegend& legend, const Box& box, int keys) {
   const double keyHeight = std::clamp(box.Height * 0.03, 9.0, 20.0);
   const double cellHeight =
       std::min((box.Height - (keys + 1) * keyHeight * 1.5) / 4.0, box.Width * kCellShape);
@@ -50,7 +50,7 @@ void LayColumn(PolarLegend& legend, const PlotBox& box, int keys) {
   legend.CaptionText = CaptionBeside(legend);
 }
 
-void LayRow(PolarLegend& legend, const PlotBox& box, int keys) {
+void LayRow(PolarLegend& legend, const Box& box, int keys) {
   const double keyHeight = std::clamp(box.Height * 0.11, 9.0, 18.0);
   const double height = box.Height - keys * keyHeight * 1.4;
   // In one row or in two, whichever makes the values larger.

@@ -9,8 +9,8 @@ namespace veerwatch {
 
 /// One value of the legend.
 struct LegendCell {
-  PlotBox Caption;
-  PlotBox Value;
+  Box Caption;
+  Box Value;
   bool Right = false;  ///< texts stand at the right of their boxes
 };
 
@@ -21,9 +21,9 @@ struct PolarLegend {
   LegendCell Boat;
   LegendCell WindSpeed;
   LegendCell WindAngle;
-  std::vector<PlotBox> Keys;  ///< a line each for the polars' names; none where there is no room
-  double CaptionText = 0.0;   ///< height of the captions [px]
-  double ValueText = 0.0;     ///< height of the values [px]
+  std::vector<Box> Keys;     ///< a line each for the polars' names; none where there is no room
+  double CaptionText = 0.0;  ///< height of the captions [px]
+  double ValueText = 0.0;    ///< height of the values [px]
   bool Corners = false;
 };
 

@@ -21,9 +21,9 @@ WindArrow MakeWindArrow(const PolarGeometry& geometry, double angle, double text
   constexpr double kHeadHalf = 0.05;
   const double radius = OuterRadius(geometry);
   const double radians = angle * kRadiansPerDegree;
-  const PlotPoint tail = AtRadius(geometry, angle, radius * kTail);
-  const PlotPoint tip = AtRadius(geometry, angle, radius * kTip);
-  const PlotPoint neck = AtRadius(geometry, angle, radius * (kTip + kHeadLength));
+  const Point tail = AtRadius(geometry, angle, radius * kTail);
+  const Point tip = AtRadius(geometry, angle, radius * kTip);
+  const Point neck = AtRadius(geometry, angle, radius * (kTip + kHeadLength));
   const double rim = std::max(radius - 3.2 * textHeight, radius * kTail);
   const double acrossX = std::cos(radians) * radius * kHeadHalf;
   const double acrossY = std::sin(radians) * radius * kHeadHalf;
@@ -48,11 +48,11 @@ LegArrow MakeLegArrow(const PolarGeometry& geometry, double angle, double speed)
   constexpr double kMostHead = 0.5;
   const double radius = OuterRadius(geometry);
   const double length = std::min(speed * geometry.ScaleX, radius);
-  const PlotPoint tip = AtRadius(geometry, angle, length);
+  const Point tip = AtRadius(geometry, angle, length);
   const double head = std::min(kHead * radius, kMostHead * length);
   const auto back = [&](double side) {
     const double radians = (angle + 180.0 + side) * kRadiansPerDegree;
-    return PlotPoint{tip.X + head * std::sin(radians), tip.Y - head * std::cos(radians)};
+    return Point{tip.X + head * std::sin(radians), tip.Y - head * std::cos(radians)};
   };
   return {{{geometry.CentreX, geometry.CentreY}, tip}, {tip, back(kHeadAngle)}, {tip, back(-kHeadAngle)}};
 }
@@ -62,9 +62,9 @@ TargetMark MakeTargetMark(const PolarGeometry& geometry, double angle, double te
   constexpr double kLength = 1.0;
   constexpr double kHalfWidth = 0.35;
   const double radius = OuterRadius(geometry);
-  const PlotPoint rim = AtRadius(geometry, angle, radius);
-  const PlotPoint waist = AtRadius(geometry, angle, radius - kLength * textHeight / 2.0);
-  const PlotPoint inner = AtRadius(geometry, angle, radius - kLength * textHeight);
+  const Point rim = AtRadius(geometry, angle, radius);
+  const Point waist = AtRadius(geometry, angle, radius - kLength * textHeight / 2.0);
+  const Point inner = AtRadius(geometry, angle, radius - kLength * textHeight);
   const double radians = angle * kRadiansPerDegree;
   const double acrossX = std::cos(radians) * kHalfWidth * textHeight;
   const double acrossY = std::sin(radians) * kHalfWidth * textHeight;

@@ -9,33 +9,33 @@ namespace veerwatch {
 
 /// The wind: an arrow towards the centre, and a thin line from the angle labels to it.
 struct WindArrow {
-  PlotStroke Line;
-  PlotStroke Shaft;
-  PlotPoint HeadLeft;
-  PlotPoint HeadRight;
+  Stroke Line;
+  Stroke Shaft;
+  Point HeadLeft;
+  Point HeadRight;
 };
 WindArrow MakeWindArrow(const PolarGeometry& geometry, double angle, double textHeight);
 
 /// The boat's point; one beyond the outer ring is held on it.
 struct BoatPoint {
-  PlotPoint Point;
+  Point At;
   bool Beyond = false;
 };
 BoatPoint MakeBoatPoint(const PolarGeometry& geometry, double angle, double speed);
 
 /// A leg of the course: a line from the centre with an arrow head of two strokes at its point.
 struct LegArrow {
-  PlotStroke Line;
-  PlotStroke HeadLeft;  ///< from the point backwards, 30 degrees off the line
-  PlotStroke HeadRight;
+  Stroke Line;
+  Stroke HeadLeft;  ///< from the point backwards, 30 degrees off the line
+  Stroke HeadRight;
 };
 /// For `speed` [kn, above 0] at the wind angle `angle` [deg]; a leg beyond the outer ring ends on it.
 LegArrow MakeLegArrow(const PolarGeometry& geometry, double angle, double speed);
 
 /// The bearing to sail to: a line from the centre to the outer ring, and a diamond inside of it at the ring.
 struct TargetMark {
-  PlotStroke Line;
-  std::array<PlotPoint, 4> Diamond;
+  Stroke Line;
+  std::array<Point, 4> Diamond;
 };
 /// For a target at the wind angle `angle` [deg].
 TargetMark MakeTargetMark(const PolarGeometry& geometry, double angle, double textHeight);

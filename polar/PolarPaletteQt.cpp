@@ -1,5 +1,6 @@
 #include "polar/PolarPaletteQt.h"
 
+#include "draw/DrawQt.h"
 #include "platform/ColoursQt.h"
 
 namespace veerwatch {
@@ -46,10 +47,7 @@ QColor PolarPaletteQt::Curve(std::uint32_t speedColor) const {
   if (speedColor == 0) {
     return Night ? kNightCurve : Foreground;
   }
-  constexpr std::uint32_t kByte = 0xFFU;
-  const QColor chosen(static_cast<int>(speedColor & kByte), static_cast<int>((speedColor >> 8U) & kByte),
-                      static_cast<int>((speedColor >> 16U) & kByte));
-  return ShadeFor(Surface, chosen);
+  return ShadeFor(Surface, FromBgr(speedColor));
 }
 
 }  // namespace veerwatch

@@ -20,13 +20,13 @@ PolarGeometry PlotGeometry(double width, double height, double speedRange) {
 
 double OuterRadius(const PolarGeometry& geometry) { return geometry.CentreX; }
 
-PlotPoint PointAt(const PolarGeometry& geometry, double angle, double speed) {
+Point PointAt(const PolarGeometry& geometry, double angle, double speed) {
   const double radians = angle * kRadiansPerDegree;
   return {geometry.CentreX + speed * geometry.ScaleX * std::sin(radians),
           geometry.CentreY - speed * geometry.ScaleY * std::cos(radians)};
 }
 
-PlotPoint AtRadius(const PolarGeometry& geometry, double angle, double radius) {
+Point AtRadius(const PolarGeometry& geometry, double angle, double radius) {
   const double radians = angle * kRadiansPerDegree;
   return {geometry.CentreX + radius * std::sin(radians), geometry.CentreY - radius * std::cos(radians)};
 }

@@ -3,30 +3,10 @@
 // PolarMarks and PolarLegend; PolarCanvasQt strokes it.
 #pragma once
 
-#include <vector>
-
+#include "draw/Shapes.h"
 #include "polar/PolarTable.h"
 
 namespace veerwatch {
-
-struct PlotPoint {
-  double X = 0.0;
-  double Y = 0.0;
-};
-
-struct PlotBox {
-  double X = 0.0;
-  double Y = 0.0;
-  double Width = 0.0;
-  double Height = 0.0;
-};
-
-using PlotLine = std::vector<PlotPoint>;
-
-struct PlotStroke {
-  PlotPoint From;
-  PlotPoint To;
-};
 
 /// Centre and scale of a plot in an area of `width` by `height` [px]: the largest square at the upper left,
 /// with `speedRange` [kn, above 0] at its edge.
@@ -36,9 +16,9 @@ PolarGeometry PlotGeometry(double width, double height, double speedRange);
 double OuterRadius(const PolarGeometry& geometry);
 
 /// Where `speed` [kn] at `angle` [deg, 0 up, positive to the right] lies.
-PlotPoint PointAt(const PolarGeometry& geometry, double angle, double speed);
+Point PointAt(const PolarGeometry& geometry, double angle, double speed);
 
 /// The point `radius` [px] from the centre in the direction `angle` [deg, 0 up, positive to the right].
-PlotPoint AtRadius(const PolarGeometry& geometry, double angle, double radius);
+Point AtRadius(const PolarGeometry& geometry, double angle, double radius);
 
 }  // namespace veerwatch

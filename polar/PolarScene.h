@@ -36,8 +36,8 @@ struct PolarLeg {
 };
 
 struct PolarMoving {
-  std::vector<PlotLine> Wind;           ///< the own polar in the present true wind
-  std::vector<PlotLine> ReferenceWind;  ///< the reference in it
+  std::vector<Polyline> Wind;           ///< the own polar in the present true wind
+  std::vector<Polyline> ReferenceWind;  ///< the reference in it
   std::optional<WindArrow> Arrow;       ///< none until values have come
   std::optional<BoatPoint> Boat;
   std::optional<TargetMark> Target;  ///< the bearing to sail to, while there is a course

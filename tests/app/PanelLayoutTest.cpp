@@ -7,35 +7,35 @@
 namespace veerwatch {
 namespace {
 
-std::vector<PanelBox> Cards(const PanelLayout& layout) {
+std::vector<Box> Cards(const PanelLayout& layout) {
   return {layout.Winds[0].Card,  layout.Winds[1].Card, layout.Heading.Card,
           layout.BoatSpeed.Card, layout.Waypoint.Card, layout.AutoPilot.Card};
 }
 
-std::vector<PanelBox> Of(const PanelLayout::Wind& wind) {
+std::vector<Box> Of(const PanelLayout::Wind& wind) {
   return {wind.Option,          wind.Angle.Caption, wind.Angle.Value,   wind.Speed.Caption, wind.Speed.Value,
           wind.Desired.Caption, wind.Desired.Value, wind.Delta.Caption, wind.Delta.Value,   wind.Port,
           wind.Starboard};
 }
 
-std::vector<PanelBox> Of(const PanelLayout::Pilot& pilot) {
+std::vector<Box> Of(const PanelLayout::Pilot& pilot) {
   return {pilot.Bearing.Caption, pilot.Bearing.Value, pilot.Port, pilot.Starboard};
 }
 
-bool Overlap(const PanelBox& a, const PanelBox& b) {
+bool Overlap(const Box& a, const Box& b) {
   constexpr double kTouch = 1e-6;
   return a.X + a.Width > b.X + kTouch && b.X + b.Width > a.X + kTouch && a.Y + a.Height > b.Y + kTouch &&
          b.Y + b.Height > a.Y + kTouch;
 }
 
-bool Inside(const PanelBox& inner, const PanelBox& outer) {
+bool Inside(const Box& inner, const Box& outer) {
   constexpr double kTouch = 1e-6;
   return inner.X >= outer.X - kTouch && inner.Y >= outer.Y - kTouch &&
          inner.X + inner.Width <= outer.X + outer.Width + kTouch &&
          inner.Y + inner.Height <= outer.Y + outer.Height + kTouch;
 }
 
-void ExpectApart(const std::vector<PanelBox>& boxes, const PanelBox& within) {
+void ExpectApart(const std::vector<Box>& boxes, const Box& within) {
   for (std::size_t i = 0; i < boxes.size(); ++i) {
     EXPECT_GT(boxes[i].Width, 0.0) << i;
     EXPECT_GT(boxes[i].Height, 0.0) << i;
@@ -64,7 +64,7 @@ TEST(PanelLayout, KeepsEverythingApartAndInsideAtAnySize) {
 TEST(PanelLayout, SurvivesAPanelOfOnePixel) {
   const PanelLayout layout = LayPanel(1.0, 1.0);
   EXPECT_GE(layout.CaptionText, 6.0);
-  for (const PanelBox& card : Cards(layout)) {
+  for (const Box& card : Cards(layout)) {
     EXPECT_TRUE(Inside(card, {0.0, 0.0, 1.0, 1.0}));
   }
 }

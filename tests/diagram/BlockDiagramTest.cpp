@@ -10,13 +10,9 @@ namespace {
 
 using testing::UnorderedElementsAre;
 
-bool Overlap(const BlockArea& a, const BlockArea& b) {
-  return a.X < b.X + b.Width && b.X < a.X + a.Width && a.Y < b.Y + b.Height && b.Y < a.Y + a.Height;
-}
-
-bool Inside(const BlockArea& inner, const BlockArea& outer) {
-  return inner.X >= outer.X && inner.Y >= outer.Y && inner.X + inner.Width <= outer.X + outer.Width &&
-         inner.Y + inner.Height <= outer.Y + outer.Height;
+bool Inside(const Box& inner, const Box& outer) {
+  return inner.X >= outer.X && inner.Y >= outer.Y && inner.Right() <= outer.Right() &&
+         inner.Bottom() <= outer.Bottom();
 }
 
 TEST(BlockDiagram, HasTheFiveButtonsWithTheirTexts) {
@@ -42,7 +38,7 @@ TEST(BlockDiagram, HasItsLabels) {
 
 TEST(BlockDiagram, NothingCoversAnythingElse) {
   const BlockDiagram diagram = BlockDiagramMade();
-  std::vector<BlockArea> areas;
+  std::vector<Box> areas;
   for (const BlockButton& button : diagram.Buttons) {
     EXPECT_TRUE(Inside(button.Area, diagram.Computer)) << button.Name;
     areas.push_back(button.Area);
@@ -52,18 +48,18 @@ TEST(BlockDiagram, NothingCoversAnythingElse) {
       areas.push_back(label.Area);
     }
   }
-  const BlockArea all{0.0, 0.0, diagram.Width, diagram.Height};
+  const Box all{0.0, 0.0, diagram.Width, diagram.Height};
   for (std::size_t i = 0; i < areas.size(); ++i) {
     EXPECT_TRUE(Inside(areas[i], all)) << i;
     for (std::size_t j = i + 1; j < areas.size(); ++j) {
-      EXPECT_FALSE(Overlap(areas[i], areas[j])) << i << " " << j;
+      EXPECT_FALSE(areas[i].Overlaps(areas[j])) << i << " " << j;
     }
   }
 }
 
 TEST(BlockDiagram, NoWayCrossesABoxOrAText) {
   const BlockDiagram diagram = BlockDiagramMade();
-  std::vector<BlockArea> areas;
+  std::vector<Box> areas;
   for (const BlockButton& button : diagram.Buttons) {
     areas.push_back(button.Area);
   }
@@ -72,39 +68,36 @@ TEST(BlockDiagram, NoWayCrossesABoxOrAText) {
       areas.push_back(label.Area);
     }
   }
-  for (const auto& lines : {diagram.Lines, diagram.lnArrowRight}) {
-    for (const DiagramLine& line : lines) {
-      EXPECT_TRUE(line.X1 == line.X2 || line.Y1 == line.Y2) << "straight";
-      const BlockArea box{std::min(line.X1, line.X2), std::min(line.Y1, line.Y2), std::abs(line.X2 - line.X1),
-                          std::abs(line.Y2 - line.Y1)};
-      for (const BlockArea& area : areas) {
-        EXPECT_FALSE(Overlap(box, area)) << line.X1 << " " << line.Y1 << " " << area.X << " " << area.Y;
-      }
+  std::vector<Stroke> ways = diagram.Lines;
+  for (const DiagramArrow& arrow : diagram.lnArrowRight) {
+    ways.push_back(arrow.Way);
+  }
+  for (const auto& [from, to] : ways) {
+    EXPECT_TRUE(from.X == to.X || from.Y == to.Y) << "straight";
+    const Box box{std::min(from.X, to.X), std::min(from.Y, to.Y), std::abs(to.X - from.X),
+                  std::abs(to.Y - from.Y)};
+    for (const Box& area : areas) {
+      EXPECT_FALSE(box.Overlaps(area)) << from.X << " " << from.Y << " " << area.X << " " << area.Y;
     }
   }
 }
 
 TEST(BlockDiagram, EveryArrowEndsInABoxAtTheRightWithAHead) {
   const BlockDiagram diagram = BlockDiagramMade();
-  const std::vector<DiagramLine> heads = BlockArrowHeads(diagram);
+  const std::vector<Stroke> heads = ArrowHeads(diagram.lnArrowRight);
   ASSERT_EQ(heads.size(), 2 * diagram.lnArrowRight.size());
   for (std::size_t i = 0; i < diagram.lnArrowRight.size(); ++i) {
-    const DiagramLine& line = diagram.lnArrowRight[i];
-    EXPECT_LT(line.X1, line.X2);
-    EXPECT_EQ(line.Y1, line.Y2);
-    const DiagramLine& below = heads[2 * i];
-    const DiagramLine& above = heads[2 * i + 1];
-    EXPECT_EQ(below, (DiagramLine{line.X2 - 60, line.Y2 + 45, line.X2, line.Y2, {}}));
-    EXPECT_EQ(above, (DiagramLine{line.X2 - 60, line.Y2 - 45, line.X2, line.Y2, {}}));
+    const auto [from, tip] = diagram.lnArrowRight[i].Way;
+    EXPECT_LT(from.X, tip.X);
+    EXPECT_EQ(from.Y, tip.Y);
+    EXPECT_EQ(heads[2 * i], (Stroke{{tip.X - 4, tip.Y + 3}, tip}));
+    EXPECT_EQ(heads[2 * i + 1], (Stroke{{tip.X - 4, tip.Y - 3}, tip}));
     int ends = 0;
     for (const BlockButton& button : diagram.Buttons) {
-      ends +=
-          button.Area.X == line.X2 && line.Y2 > button.Area.Y && line.Y2 < button.Area.Y + button.Area.Height
-              ? 1
-              : 0;
+      ends += button.Area.X == tip.X && tip.Y > button.Area.Y && tip.Y < button.Area.Bottom() ? 1 : 0;
     }
     for (const BlockLabel& label : diagram.Labels) {
-      ends += label.Framed && label.Area.X == line.X2 ? 1 : 0;
+      ends += label.Framed && label.Area.X == tip.X ? 1 : 0;
     }
     EXPECT_EQ(ends, 1) << i;
   }

@@ -84,12 +84,12 @@ class StripChartPictureTest : public testing::Test {
   StripChartPicture Picture;
 };
 
-bool Inside(const ChartBox& inner, double width, double height) {
+bool Inside(const Box& inner, double width, double height) {
   return inner.X >= -0.01 && inner.Y >= -0.01 && inner.Right() <= width + 0.01 &&
          inner.Bottom() <= height + 0.01;
 }
 
-bool Overlap(const ChartBox& a, const ChartBox& b) {
+bool Overlap(const Box& a, const Box& b) {
   return a.X < b.Right() - 0.01 && b.X < a.Right() - 0.01 && a.Y < b.Bottom() - 0.01 &&
          b.Y < a.Bottom() - 0.01;
 }
@@ -118,7 +118,7 @@ TEST_F(StripChartPictureTest, FitsAnySize) {
       ASSERT_EQ(Picture.Panels.size(), 3U);
       ASSERT_EQ(Picture.Legend.size(), kHistoryTraces.size());
       for (std::size_t i = 0; i < 3; ++i) {
-        const ChartBox& plot = Picture.Panels[i].Plot;
+        const Box& plot = Picture.Panels[i].Plot;
         EXPECT_TRUE(Inside(plot, width, height));
         EXPECT_GT(plot.Width, width < 267.0 ? 50.0 : width * 0.38);
         EXPECT_GT(plot.Height, 8.0);
@@ -130,8 +130,8 @@ TEST_F(StripChartPictureTest, FitsAnySize) {
         const ChartLegendEntry& entry = Picture.Legend[i];
         EXPECT_TRUE(Inside(entry.Cell, width, height));
         EXPECT_GE(entry.Value.Height, 7.0);
-        EXPECT_FALSE(Overlap(entry.Name.Box, entry.Value.Box)) << entry.Name.Text;
-        EXPECT_FALSE(Overlap(entry.Value.Box, entry.Units.Box)) << entry.Name.Text;
+        EXPECT_FALSE(Overlap(entry.Name.Place, entry.Value.Place)) << entry.Name.Text;
+        EXPECT_FALSE(Overlap(entry.Value.Place, entry.Units.Place)) << entry.Name.Text;
         for (std::size_t other = 0; other < i; ++other) {
           EXPECT_FALSE(Overlap(entry.Cell, Picture.Legend[other].Cell));
         }
@@ -155,13 +155,13 @@ TEST_F(StripChartPictureTest, TheValuesOfTheLegendStandUnderEachOtherByTheirPoin
     for (const double height : {180.0, 265.0, 600.0, 2160.0}) {
       SCOPED_TRACE(std::to_string(width) + " x " + std::to_string(height));
       Compose(width, height);
-      const ChartText& first = Picture.Legend.front().Value;
+      const PlacedText& first = Picture.Legend.front().Value;
       for (const ChartLegendEntry& entry : Picture.Legend) {
-        EXPECT_EQ(entry.Value.Box.Right(), first.Box.Right());
+        EXPECT_EQ(entry.Value.Place.Right(), first.Place.Right());
         EXPECT_EQ(entry.Value.Height, first.Height);
-        EXPECT_EQ(entry.Value.Align, ChartText::Side::Right);
+        EXPECT_EQ(entry.Value.Align, PlacedText::Side::Right);
         // Right-aligned and bold it still begins after the bar.
-        EXPECT_GT(entry.Value.Box.Right() - EvenMeasure().BoldWidth(entry.Value.Text, entry.Value.Height),
+        EXPECT_GT(entry.Value.Place.Right() - EvenMeasure().BoldWidth(entry.Value.Text, entry.Value.Height),
                   entry.Swatch.Right());
       }
     }
@@ -173,10 +173,10 @@ TEST_F(StripChartPictureTest, AValueThatIsTooLongForTheLegendIsSmaller) {
   Add("Boat Speed", "-1234567.8 Kts");
   for (const double height : {265.0, 600.0}) {
     Compose(800.0, height);
-    const ChartText& heading = Entry("Heading").Value;
+    const PlacedText& heading = Entry("Heading").Value;
     const ChartLegendEntry& boat = Entry("Boat Speed");
     EXPECT_LT(boat.Value.Height, heading.Height);
-    EXPECT_GE(boat.Value.Box.Right() - EvenMeasure().BoldWidth(boat.Value.Text, boat.Value.Height),
+    EXPECT_GE(boat.Value.Place.Right() - EvenMeasure().BoldWidth(boat.Value.Text, boat.Value.Height),
               boat.Swatch.Right());
   }
 }
@@ -323,7 +323,7 @@ TEST_F(StripChartPictureTest, AFixedScaleIsUsed) {
 TEST_F(StripChartPictureTest, OnlyTheNewestBucketChangesWithASample) {
   Record(3600, 10);
   Compose();
-  std::vector<std::vector<ChartPoint>> past;
+  std::vector<Polyline> past;
   for (const ChartPanel& panel : Picture.Panels) {
     for (const ChartTrace& trace : panel.Traces) {
       past.push_back(trace.Past.Points);
@@ -348,7 +348,7 @@ TEST_F(StripChartPictureTest, ReadsWhatStandsUnderAPoint) {
     Time.Pass(10000);
   }
   Compose();
-  const ChartBox& plot = Picture.Panels[1].Plot;
+  const Box& plot = Picture.Panels[1].Plot;
   const auto reading = Picture.ReadAt(Subject(), plot.Right() - 1.5 * Picture.SlotWidth, plot.Y + 1.0);
   ASSERT_TRUE(reading);
   EXPECT_EQ(reading->Panel, 1U);
@@ -370,7 +370,7 @@ TEST_F(StripChartPictureTest, ReadsATurnRightRoundAsAllRound) {
     Add("Pilot Delta", std::to_string(degrees < 360 ? degrees : 359) + ".0 deg");
   }
   Compose();
-  const ChartBox& plot = Picture.Panels[1].Plot;
+  const Box& plot = Picture.Panels[1].Plot;
   const auto reading = Picture.ReadAt(Subject(), plot.Right() - 0.5 * Picture.SlotWidth, plot.Y + 1.0);
   ASSERT_TRUE(reading);
   ASSERT_EQ(reading->Values.size(), 3U);
@@ -383,7 +383,7 @@ TEST_F(StripChartPictureTest, ASpeedIsNeverAllRound) {
   Add("Boat Speed", "0.0 Kts");
   Add("Boat Speed", "400.0 Kts");
   Compose();
-  const ChartBox& plot = Picture.Panels[2].Plot;
+  const Box& plot = Picture.Panels[2].Plot;
   const auto reading = Picture.ReadAt(Subject(), plot.Right() - 0.5 * Picture.SlotWidth, plot.Y + 1.0);
   ASSERT_TRUE(reading);
   EXPECT_EQ(reading->Values[0].Text, "Boat Speed 400.0 Kts (0.0 to 400.0)");
@@ -397,7 +397,7 @@ TEST_F(StripChartPictureTest, ReadsTimesInWholeTensOfSeconds) {
   Time.Pass(1000);
   Add("Heading", "91.0 M");
   Compose();
-  const ChartBox& plot = Picture.Panels[1].Plot;
+  const Box& plot = Picture.Panels[1].Plot;
   for (const auto& [slots, time] : {std::pair{0.5, "09:00:10"}, std::pair{2.5, "09:00:00"}}) {
     const auto reading = Picture.ReadAt(Subject(), plot.Right() - slots * Picture.SlotWidth, plot.Y + 1.0);
     ASSERT_TRUE(reading);
@@ -410,7 +410,7 @@ TEST_F(StripChartPictureTest, ReadsNothingOutsideOfPlotsAndInGaps) {
   Time.Pass(30000);
   Add("Heading", "90.0 M");
   Compose();
-  const ChartBox& plot = Picture.Panels[1].Plot;
+  const Box& plot = Picture.Panels[1].Plot;
   const double y = plot.Y + 1.0;
   EXPECT_FALSE(Picture.ReadAt(Subject(), plot.X - 2.0, y));
   EXPECT_FALSE(Picture.ReadAt(Subject(), plot.Right() + 2.0, y));

@@ -45,7 +45,7 @@ class TraceLineTest : public testing::Test {
     return Line;
   }
 
-  std::vector<ChartPoint> Polyline(std::size_t number) const {
+  std::vector<Point> Polyline(std::size_t number) const {
     return {Line.Points.begin() + static_cast<std::ptrdiff_t>(Line.Starts[number]),
             Line.Points.begin() + static_cast<std::ptrdiff_t>(Line.End(number))};
   }
@@ -61,7 +61,7 @@ const ValueScale kSpeeds{ScaleKind::Linear, 0.0, 9.0, 1.0};
 const ValueScale kCompass{ScaleKind::Compass, 0.0, 360.0, 90.0};
 const ValueScale kRelative{ScaleKind::Relative, -180.0, 180.0, 90.0};
 
-using Points = std::vector<ChartPoint>;
+using Points = std::vector<Point>;
 
 TEST_F(TraceLineTest, StandsAtTheMiddlesOfSlots) {
   Define(TraceKind::Speed, kSpeeds);
@@ -92,8 +92,8 @@ TEST_F(TraceLineTest, ALonelySlotIsADotOfFivePixels) {
   Feed({"1", "", "3", "", "5", "6"});
   Draw();
   ASSERT_EQ(Line.Dots.size(), 2U);
-  EXPECT_EQ(Line.Dots[0].Middle, (ChartPoint{15.0, 85.0}));
-  EXPECT_EQ(Line.Dots[1].Middle, (ChartPoint{35.0, 65.0}));
+  EXPECT_EQ(Line.Dots[0].Middle, (Point{15.0, 85.0}));
+  EXPECT_EQ(Line.Dots[1].Middle, (Point{35.0, 65.0}));
   EXPECT_EQ(Line.Dots[0].Diameter, 5.0);
   EXPECT_EQ(Line.Dots[1].Diameter, 5.0);
   ASSERT_EQ(Line.Starts.size(), 1U);
@@ -121,8 +121,8 @@ TEST_F(TraceLineTest, ADotBeyondAFixedScaleIsNotDrawn) {
   Feed({"1.9", "", "2", "", "4", "", "4.1"});
   Draw();
   ASSERT_EQ(Line.Dots.size(), 2U);
-  EXPECT_EQ(Line.Dots[0].Middle, (ChartPoint{35.0, 95.0}));
-  EXPECT_EQ(Line.Dots[1].Middle, (ChartPoint{55.0, 5.0}));
+  EXPECT_EQ(Line.Dots[0].Middle, (Point{35.0, 95.0}));
+  EXPECT_EQ(Line.Dots[1].Middle, (Point{55.0, 5.0}));
 }
 
 TEST_F(TraceLineTest, ABarShowsWhatHappenedInASlot) {
@@ -137,7 +137,7 @@ TEST_F(TraceLineTest, ABarShowsWhatHappenedInASlot) {
   EXPECT_EQ(Line.Bars[0].Y, 25.0);
   EXPECT_EQ(Line.Bars[0].Bottom(), 75.0);
   ASSERT_EQ(Line.Dots.size(), 1U);
-  EXPECT_EQ(Line.Dots[0].Middle, (ChartPoint{15.0, 65.0}));
+  EXPECT_EQ(Line.Dots[0].Middle, (Point{15.0, 65.0}));
 }
 
 TEST_F(TraceLineTest, AHeadingLeavesAtTheTopAndComesBackAtTheBottom) {
@@ -180,7 +180,7 @@ TEST_F(TraceLineTest, NoStrokeCrossesTheWrap) {
         Feed({text(begin), text(begin + step), text(begin + 2 * step)});
         Draw();
         for (std::size_t line = 0; line < Line.Starts.size(); ++line) {
-          const std::vector<ChartPoint> points = Polyline(line);
+          const std::vector<Point> points = Polyline(line);
           for (std::size_t i = 1; i < points.size(); ++i) {
             const double angle = std::fabs(points[i].Y - points[i - 1].Y) / 90.0 * 360.0;
             ASSERT_LE(angle, std::abs(step) + 1e-6) << begin << " by " << step;
@@ -200,7 +200,7 @@ TEST_F(TraceLineTest, ABarOverTheSeamIsTwo) {
   Draw();
   ASSERT_EQ(Line.Bars.size(), 2U);
   double height = 0.0;
-  for (const ChartBox& bar : Line.Bars) {
+  for (const Box& bar : Line.Bars) {
     height += bar.Height;
   }
   EXPECT_NEAR(height, 12.0 / 360.0 * 90.0, 1e-6);
@@ -212,7 +212,7 @@ TEST_F(TraceLineTest, WhatIsBeyondAFixedScaleIsCutAtItsEdge) {
   Draw();
   ASSERT_EQ(Line.Starts.size(), 2U);
   EXPECT_EQ(Polyline(0), (Points{{15.0, 50.0}, {20.0, 5.0}}));
-  EXPECT_EQ(Polyline(1).back(), (ChartPoint{45.0, 50.0}));
+  EXPECT_EQ(Polyline(1).back(), (Point{45.0, 50.0}));
   EXPECT_EQ(Polyline(1).front().Y, 5.0);
 }
 
@@ -310,7 +310,7 @@ TEST_F(TraceLineTest, PastAndLiveTogetherAreTheWholeLine) {
   Define(TraceKind::Speed, kSpeeds);
   Feed({"1", "2", "3", "4"});
   Draw();
-  const std::vector<ChartPoint> whole = Line.Points;
+  const std::vector<Point> whole = Line.Points;
   TraceLine past;
   TraceLine live;
   TraceBuckets(Frame, Buckets, 0, 3, past);

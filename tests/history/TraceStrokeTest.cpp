@@ -9,13 +9,13 @@
 namespace veerwatch {
 namespace {
 
-using Points = std::vector<ChartPoint>;
+using Points = std::vector<Point>;
 
 constexpr double kWidth = 2.0;
 
-std::vector<ChartPiece> Pieces(const Points& points) { return TraceStroke().Pieces(points, kWidth); }
+std::vector<Stroke> Pieces(const Points& points) { return TraceStroke().Pieces(points, kWidth); }
 
-void ExpectPoint(const ChartPoint& point, double x, double y) {
+void ExpectPoint(const Point& point, double x, double y) {
   EXPECT_NEAR(point.X, x, 1e-9);
   EXPECT_NEAR(point.Y, y, 1e-9);
 }
@@ -71,9 +71,9 @@ TEST(TraceStroke, NoPointIsFarFromItsPiece) {
   const auto pieces = Pieces(points);
   EXPECT_LT(pieces.size(), 1800U);
   ASSERT_GT(pieces.size(), 100U);
-  for (const ChartPoint& point : points) {
+  for (const Point& point : points) {
     double nearest = 1e9;
-    for (const ChartPiece& piece : pieces) {
+    for (const Stroke& piece : pieces) {
       if (point.X >= piece.From.X - 1e-9 && point.X <= piece.To.X + 1e-9) {
         const double part = (point.X - piece.From.X) / (piece.To.X - piece.From.X);
         nearest = std::min(nearest, std::fabs(piece.From.Y + part * (piece.To.Y - piece.From.Y) - point.Y));

@@ -329,12 +329,12 @@ TEST(TrackPreview, ManyPointsOnAColumnKeepItsFirstLeastLargestAndLastRow) {
 
 TEST(TrackPreview, StrokesJoinThePoints) {
   const TrackPreview preview = Drawn(Texts());
-  const std::vector<TrackStroke> strokes = preview.Strokes();
+  const std::vector<Stroke> strokes = preview.Strokes();
   ASSERT_EQ(strokes.size(), 121U);
-  EXPECT_EQ(strokes[1].X1, 0.0);
-  EXPECT_EQ(strokes[1].Y1, 58.0);
-  EXPECT_EQ(strokes[1].X2, 2.0);
-  EXPECT_EQ(strokes[1].Y2, 66.0);
+  EXPECT_EQ(strokes[1].From.X, 0.0);
+  EXPECT_EQ(strokes[1].From.Y, 58.0);
+  EXPECT_EQ(strokes[1].To.X, 2.0);
+  EXPECT_EQ(strokes[1].To.Y, 66.0);
 }
 
 TEST(TrackPreview, StrokesAreCutOnTheirWayFarOffThePlot) {
@@ -342,16 +342,16 @@ TEST(TrackPreview, StrokesAreCutOnTheirWayFarOffThePlot) {
   preview.Width = 100;
   preview.Height = 100;
   preview.Trace = {{0, 50}, {40, 650}, {80, 650}, {90, -1000000000}, {100, -350}};
-  const std::vector<TrackStroke> strokes = preview.Strokes();
+  const std::vector<Stroke> strokes = preview.Strokes();
   ASSERT_EQ(strokes.size(), 2U);
-  EXPECT_EQ(strokes[0].X1, 0.0);
-  EXPECT_EQ(strokes[0].Y1, 50.0);
-  EXPECT_DOUBLE_EQ(strokes[0].X2, 10.0);
-  EXPECT_DOUBLE_EQ(strokes[0].Y2, 200.0);
-  EXPECT_NEAR(strokes[1].X1, 80.0, 1e-4);
-  EXPECT_NEAR(strokes[1].Y1, 200.0, 1e-3);
-  EXPECT_NEAR(strokes[1].X2, 80.0, 1e-4);
-  EXPECT_NEAR(strokes[1].Y2, -100.0, 1e-3);
+  EXPECT_EQ(strokes[0].From.X, 0.0);
+  EXPECT_EQ(strokes[0].From.Y, 50.0);
+  EXPECT_DOUBLE_EQ(strokes[0].To.X, 10.0);
+  EXPECT_DOUBLE_EQ(strokes[0].To.Y, 200.0);
+  EXPECT_NEAR(strokes[1].From.X, 80.0, 1e-4);
+  EXPECT_NEAR(strokes[1].From.Y, 200.0, 1e-3);
+  EXPECT_NEAR(strokes[1].To.X, 80.0, 1e-4);
+  EXPECT_NEAR(strokes[1].To.Y, -100.0, 1e-3);
 }
 
 TEST(TrackPreview, RowsStayInRangeWhateverTheBearing) {
@@ -365,9 +365,9 @@ TEST(TrackPreview, RowsStayInRangeWhateverTheBearing) {
   for (const TrackPoint& point : preview.Trace) {
     EXPECT_LE(std::abs(point.Row), 1000000000);
   }
-  for (const TrackStroke& stroke : preview.Strokes()) {
-    EXPECT_TRUE(std::isfinite(stroke.X1) && std::isfinite(stroke.X2));
-    EXPECT_TRUE(std::fabs(stroke.Y1) <= 500.0 && std::fabs(stroke.Y2) <= 500.0);
+  for (const Stroke& stroke : preview.Strokes()) {
+    EXPECT_TRUE(std::isfinite(stroke.From.X) && std::isfinite(stroke.To.X));
+    EXPECT_TRUE(std::fabs(stroke.From.Y) <= 500.0 && std::fabs(stroke.To.Y) <= 500.0);
   }
 }
 

@@ -13,8 +13,8 @@ LedgerTexts Texts(std::size_t figures, bool rows, bool longTime) {
   return {11.0, 66.0, 62.0, 36.0, longTime ? 120.0 : 0.0, 190.0, 28.0, figures, rows};
 }
 
-std::vector<PlotBox> Boxes(const LedgerLayout& layout) {
-  std::vector<PlotBox> boxes{layout.Title, layout.Steer, layout.Tack};
+std::vector<Box> Boxes(const LedgerLayout& layout) {
+  std::vector<Box> boxes{layout.Title, layout.Steer, layout.Tack};
   for (const LedgerFigurePlace& figure : layout.Figures) {
     boxes.insert(boxes.end(), {figure.Heading, figure.Value});
   }
@@ -24,7 +24,7 @@ std::vector<PlotBox> Boxes(const LedgerLayout& layout) {
   return boxes;
 }
 
-bool Overlap(const PlotBox& a, const PlotBox& b) {
+bool Overlap(const Box& a, const Box& b) {
   return a.X + kSlack < b.X + b.Width && b.X + kSlack < a.X + a.Width && a.Y + kSlack < b.Y + b.Height &&
          b.Y + kSlack < a.Y + a.Height;
 }
@@ -60,13 +60,20 @@ TEST(LayLedger, GivesEveryTextItsRoomAndNoneThatOfAnother) {
 }
 
 /// Widths of some font with digits that differ, in which a plus sign is wider than a minus sign.
-double WidthOf(const std::string& text) {
+double WidthOf(std::string_view text) {
   double width = 0.0;
   for (const char c : text) {
     width += c == '+' ? 9.0 : c == '-' ? 4.0 : c == '1' ? 4.0 : c == '4' ? 7.5 : c == ' ' ? 3.0 : 6.0;
   }
   return width;
 }
+
+/// The same in every height.
+class UnevenMeasure final : public TextMeasure {
+ public:
+  double Width(std::string_view text, double /*height*/) const override { return WidthOf(text); }
+  double BoldWidth(std::string_view text, double /*height*/) const override { return WidthOf(text); }
+};
 
 /// A ledger with these texts in its columns.
 LedgerContent Filled(const std::string& leg, const std::string& value, const std::string& time,
@@ -85,11 +92,12 @@ LedgerContent Filled(const std::string& leg, const std::string& value, const std
 }
 
 TEST(MeasureLedger, HasRoomForTheWidestTextOfEachColumn) {
-  const LedgerTexts usual = MeasureLedger(Filled("0 (0%)", "0.0", "0:00", "0", "0.0"), 11.0, true, WidthOf);
+  const LedgerTexts usual =
+      MeasureLedger(Filled("0 (0%)", "0.0", "0:00", "0", "0.0"), 11.0, true, UnevenMeasure());
   for (const std::string& time : {std::string("44:44"), std::string("44:44 (motor 44:44)")}) {
     for (const char* angle : {"+165", "+144", "-144", "--"}) {
       const LedgerContent content = Filled("344 (44:44)", "444.4", time, angle, "44.4");
-      const LedgerTexts texts = MeasureLedger(content, 11.0, true, WidthOf);
+      const LedgerTexts texts = MeasureLedger(content, 11.0, true, UnevenMeasure());
       EXPECT_EQ(texts.Number, usual.Number) << "the ledger keeps its size";
       EXPECT_EQ(texts.LegValue, usual.LegValue);
       EXPECT_EQ(texts.Value, usual.Value);
@@ -110,12 +118,12 @@ TEST(MeasureLedger, HasRoomForTheWidestTextOfEachColumn) {
 
 TEST(MeasureLedger, GrowsWithATextThatIsWiderThanUsual) {
   const LedgerContent content = Filled("0 (0%)", "99999.9", "0:00", "0", "1234.5");
-  const LedgerTexts texts = MeasureLedger(content, 11.0, true, WidthOf);
+  const LedgerTexts texts = MeasureLedger(content, 11.0, true, UnevenMeasure());
   EXPECT_EQ(texts.Value, WidthOf("99999.9"));
   EXPECT_EQ(texts.Number, WidthOf("1234.5"));
 }
 
-void ExpectBox(const PlotBox& box, const PlotBox& wanted) {
+void ExpectBox(const Box& box, const Box& wanted) {
   EXPECT_NEAR(box.X, wanted.X, kSlack);
   EXPECT_NEAR(box.Y, wanted.Y, kSlack);
   EXPECT_NEAR(box.Width, wanted.Width, kSlack);
@@ -176,7 +184,7 @@ TEST(LedgerFits, OnThreeQuartersOfTheWidthAndSixTenthsOfTheHeight) {
 }
 
 TEST(LedgerHome, IsAtTheLowerRightOrBetweenTheCornersOfTheLegend) {
-  const PlotBox panel{0.0, 0.0, 300.0, 200.0};
+  const Box panel{0.0, 0.0, 300.0, 200.0};
   EXPECT_EQ(LedgerHome(panel, 1000.0, 700.0, false).X, 692.0);
   EXPECT_EQ(LedgerHome(panel, 1000.0, 700.0, false).Y, 492.0);
   EXPECT_EQ(LedgerHome(panel, 700.0, 700.0, true).X, 200.0);
@@ -185,25 +193,25 @@ TEST(LedgerHome, IsAtTheLowerRightOrBetweenTheCornersOfTheLegend) {
 
 TEST(KeepInside, MovesAPanelBackAsLittleAsItCan) {
   const auto at = [](double x, double y) {
-    const PlotPoint point = KeepInside({x, y, 100.0, 50.0}, 400.0, 300.0);
+    const Point point = KeepInside({x, y, 100.0, 50.0}, 400.0, 300.0);
     return std::pair{point.X, point.Y};
   };
   EXPECT_EQ(at(20.0, 30.0), (std::pair{20.0, 30.0}));
   EXPECT_EQ(at(-20.0, 30.0), (std::pair{0.0, 30.0}));
   EXPECT_EQ(at(380.0, 299.0), (std::pair{300.0, 250.0}));
-  const PlotPoint large = KeepInside({50.0, 50.0, 500.0, 500.0}, 400.0, 300.0);
+  const Point large = KeepInside({50.0, 50.0, 500.0, 500.0}, 400.0, 300.0);
   EXPECT_EQ(large.X, 0.0);
   EXPECT_EQ(large.Y, 0.0);
 }
 
 TEST(SteerPlace, KeepsClearOfTheLabelsOfTheGrid) {
   const PolarGeometry geometry = PlotGeometry(700.0, 700.0, 10.0);
-  const PlotBox free = SteerPlace(geometry, {}, 120.0, 30.0);
+  const Box free = SteerPlace(geometry, {}, 120.0, 30.0);
   EXPECT_EQ(free.X, 290.0);
   EXPECT_NEAR(free.Y, 350.0 * 0.34 - 15.0, kSlack);
-  const PlotLabel label{PlotLabelKind::Speed, {380.0, free.Y + 25.0, 20.0, 14.0}, "8"};
-  EXPECT_FALSE(Overlap(SteerPlace(geometry, {label}, 120.0, 30.0), label.Box));
-  const PlotLabel everywhere{PlotLabelKind::Speed, {0.0, 0.0, 700.0, 700.0}, "8"};
+  const PlotLabel label{{"8", {380.0, free.Y + 25.0, 20.0, 14.0}}, PlotLabelKind::Speed};
+  EXPECT_FALSE(Overlap(SteerPlace(geometry, {label}, 120.0, 30.0), label.Place));
+  const PlotLabel everywhere{{"8", {0.0, 0.0, 700.0, 700.0}}, PlotLabelKind::Speed};
   EXPECT_EQ(SteerPlace(geometry, {everywhere}, 120.0, 30.0).Y, free.Y);
 }
 

@@ -11,13 +11,13 @@
 namespace veerwatch {
 namespace {
 
-double Far(const PlotPoint& a, const PlotPoint& b) { return std::hypot(a.X - b.X, a.Y - b.Y); }
+double Far(const Point& a, const Point& b) { return std::hypot(a.X - b.X, a.Y - b.Y); }
 
 /// Distance from `point` to the nearest point of the lines.
-double Nearest(const std::vector<PlotLine>& lines, const PlotPoint& point) {
+double Nearest(const std::vector<Polyline>& lines, const Point& point) {
   double nearest = 1e9;
-  for (const PlotLine& line : lines) {
-    for (const PlotPoint& other : line) {
+  for (const Polyline& line : lines) {
+    for (const Point& other : line) {
       nearest = std::min(nearest, Far(point, other));
     }
   }
@@ -25,9 +25,9 @@ double Nearest(const std::vector<PlotLine>& lines, const PlotPoint& point) {
 }
 
 TEST(SmoothLine, GoesThroughEveryKnotInSmallSteps) {
-  const std::vector<PlotPoint> knots{{10.0, 0.0}, {60.0, 30.0}, {80.0, 90.0}, {40.0, 150.0}};
-  const PlotLine line = SmoothLine(knots, 0.0);
-  for (const PlotPoint& knot : knots) {
+  const std::vector<Point> knots{{10.0, 0.0}, {60.0, 30.0}, {80.0, 90.0}, {40.0, 150.0}};
+  const Polyline line = SmoothLine(knots, 0.0);
+  for (const Point& knot : knots) {
     EXPECT_LT(Nearest({line}, knot), 1e-9);
   }
   for (std::size_t i = 1; i < line.size(); ++i) {
@@ -42,7 +42,7 @@ TEST(SmoothLine, HasAPointForEverySevenPixels) {
 }
 
 TEST(SmoothLine, HasNoCorners) {
-  const PlotLine line =
+  const Polyline line =
       SmoothLine({{10.0, 0.0}, {60.0, 30.0}, {80.0, 90.0}, {40.0, 150.0}, {0.0, 170.0}}, 0.0);
   for (std::size_t i = 1; i + 1 < line.size(); ++i) {
     const double before = std::atan2(line[i].Y - line[i - 1].Y, line[i].X - line[i - 1].X);
@@ -52,16 +52,16 @@ TEST(SmoothLine, HasNoCorners) {
 }
 
 TEST(SmoothLine, LeavesTheAxisAtARightAngle) {
-  const PlotLine line = SmoothLine({{80.0, 20.0}, {60.0, 80.0}, {0.0, 100.0}}, 0.0);
-  const PlotPoint& last = line.back();
-  const PlotPoint& before = line[line.size() - 2];
+  const Polyline line = SmoothLine({{80.0, 20.0}, {60.0, 80.0}, {0.0, 100.0}}, 0.0);
+  const Point& last = line.back();
+  const Point& before = line[line.size() - 2];
   EXPECT_NEAR(last.X, 0.0, 1e-9);
   EXPECT_LT(std::fabs(last.Y - before.Y), 0.15 * std::fabs(last.X - before.X));
 }
 
 TEST(SmoothLine, RunsStraightOnFromAnEndAThousandthOfAPixelBesideTheAxis) {
   const auto slope = [](double x) {
-    const PlotLine line = SmoothLine({{x, 0.0}, {x + 14.0, 14.0}}, 0.0);
+    const Polyline line = SmoothLine({{x, 0.0}, {x + 14.0, 14.0}}, 0.0);
     return (line[1].Y - line[0].Y) / (line[1].X - line[0].X);
   };
   EXPECT_NEAR(slope(0.001), 1.0, 1e-9);
@@ -71,7 +71,7 @@ TEST(SmoothLine, RunsStraightOnFromAnEndAThousandthOfAPixelBesideTheAxis) {
 TEST(SmoothLine, SurvivesKnotsAtOnePlaceAndFarAway) {
   EXPECT_TRUE(SmoothLine({}, 0.0).empty());
   EXPECT_EQ(SmoothLine({{1.0, 1.0}, {1.0, 1.0}}, 0.0).size(), 1U);
-  for (const PlotPoint& point : SmoothLine({{0.0, 0.0}, {0.0, 0.0}, {1e40, -1e40}, {3.0, 4.0}}, 0.0)) {
+  for (const Point& point : SmoothLine({{0.0, 0.0}, {0.0, 0.0}, {1e40, -1e40}, {3.0, 4.0}}, 0.0)) {
     EXPECT_TRUE(std::isfinite(point.X) && std::isfinite(point.Y));
   }
 }
@@ -94,7 +94,7 @@ TEST(ClipToDisc, CutsALineThatOnlyPassesThrough) {
 }
 
 TEST(ClipToDisc, LeavesEveryPointInsideExactlyWhereItIs) {
-  PlotLine line;
+  Polyline line;
   for (int i = 0; i < 100; ++i) {
     line.push_back({0.1 * i, 0.07 * (i % 3)});
   }
@@ -125,8 +125,8 @@ TEST(PolarCurves, GoThroughTheirCellsOnBothSides) {
     EXPECT_TRUE(curve.Major);
     for (int row = 1; row <= 4; ++row) {
       for (const double side : {1.0, -1.0}) {
-        const PlotPoint cell = PointAt(geometry, side * static_cast<double>(table.Value(0, row, 0)),
-                                       static_cast<double>(table.Value(0, row, column)));
+        const Point cell = PointAt(geometry, side * static_cast<double>(table.Value(0, row, 0)),
+                                   static_cast<double>(table.Value(0, row, column)));
         EXPECT_LT(Nearest(curve.Lines, cell), 1e-6) << row << "," << column;
       }
     }
@@ -138,8 +138,8 @@ TEST(PolarCurves, StayWithinTheOuterRing) {
       TableOf("TWA\t6\t10\n30\t1\t300000000000000000000000000000000000000\n90\t9\t40\n150\t20\t2\n");
   const PolarGeometry geometry = PlotGeometry(300.0, 300.0, 10.0);
   for (const PolarCurve& curve : PolarCurves(table, 0, geometry)) {
-    for (const PlotLine& line : curve.Lines) {
-      for (const PlotPoint& point : line) {
+    for (const Polyline& line : curve.Lines) {
+      for (const Point& point : line) {
         EXPECT_LE(Far(point, {150.0, 150.0}), 150.0 + 1e-3);
       }
     }

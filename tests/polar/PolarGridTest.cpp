@@ -10,23 +10,19 @@
 namespace veerwatch {
 namespace {
 
-double Far(const PlotPoint& a, const PlotPoint& b) { return std::hypot(a.X - b.X, a.Y - b.Y); }
+double Far(const Point& a, const Point& b) { return std::hypot(a.X - b.X, a.Y - b.Y); }
 
-bool Overlap(const PlotBox& a, const PlotBox& b) {
-  return a.X < b.X + b.Width && b.X < a.X + a.Width && a.Y < b.Y + b.Height && b.Y < a.Y + a.Height;
-}
-
-bool Inside(const PlotBox& box, double width, double height) {
+bool Inside(const Box& box, double width, double height) {
   constexpr double kSlack = 1e-6;
   return box.X >= -kSlack && box.Y >= -kSlack && box.X + box.Width <= width + kSlack &&
          box.Y + box.Height <= height + kSlack && box.Width >= 0.0 && box.Height >= 0.0;
 }
 
 /// Distance from `point` to the nearest point of the lines.
-double Nearest(const std::vector<PlotLine>& lines, const PlotPoint& point) {
+double Nearest(const std::vector<Polyline>& lines, const Point& point) {
   double nearest = 1e9;
-  for (const PlotLine& line : lines) {
-    for (const PlotPoint& other : line) {
+  for (const Polyline& line : lines) {
+    for (const Point& other : line) {
       nearest = std::min(nearest, Far(point, other));
     }
   }
@@ -68,9 +64,9 @@ TEST(MakeGrid, KeepsLabelsApartAtEverySize) {
       const double text = std::clamp(size * 0.021, 9.0, 26.0);
       const PolarGrid grid = MakeGrid(geometry, {range, text, true, true}, PolarCurves(table, 0, geometry));
       for (std::size_t i = 0; i < grid.Labels.size(); ++i) {
-        EXPECT_TRUE(Inside(grid.Labels[i].Box, size, size));
+        EXPECT_TRUE(Inside(grid.Labels[i].Place, size, size));
         for (std::size_t j = 0; j < i; ++j) {
-          EXPECT_FALSE(Overlap(grid.Labels[i].Box, grid.Labels[j].Box))
+          EXPECT_FALSE(grid.Labels[i].Place.Overlaps(grid.Labels[j].Place))
               << size << " " << range << ": " << grid.Labels[i].Text << " on " << grid.Labels[j].Text;
         }
       }
@@ -89,7 +85,7 @@ TEST(MakeGrid, PutsAWindLabelOnEachCurve) {
       return other.Kind == PlotLabelKind::Wind && other.Text == text;
     });
     ASSERT_NE(label, grid.Labels.end()) << text;
-    const PlotPoint centre{label->Box.X + label->Box.Width / 2.0, label->Box.Y + label->Box.Height / 2.0};
+    const Point centre = label->Place.Middle();
     EXPECT_LT(Nearest(curve.Lines, centre), 1.0) << text;
   }
   const PolarGrid without = MakeGrid(geometry, {16.0, 13.0, false, true}, curves);
@@ -98,12 +94,12 @@ TEST(MakeGrid, PutsAWindLabelOnEachCurve) {
 }
 
 /// The place of `radius` px in the direction `angle` [deg] from (250, 250).
-PlotPoint From250(double angle, double radius) {
+Point From250(double angle, double radius) {
   const double radians = angle * std::acos(-1.0) / 180.0;
   return {250.0 + radius * std::sin(radians), 250.0 - radius * std::cos(radians)};
 }
 
-PlotPoint CentreOf(const PlotBox& box) { return {box.X + box.Width / 2.0, box.Y + box.Height / 2.0}; }
+Point CentreOf(const Box& box) { return {box.X + box.Width / 2.0, box.Y + box.Height / 2.0}; }
 
 TEST(MakeGrid, PutsEachAngleLabelItsOwnExtentInsideOfTheRing) {
   // Texts of 10 px: boxes of 12 px by 16.6, 23.4 and 30.2 for one to three digits and the sign. Of half the
@@ -124,11 +120,11 @@ TEST(MakeGrid, PutsEachAngleLabelItsOwnExtentInsideOfTheRing) {
       {120.0, "120\u00b0", 30.2, 226.9230164}, {-120.0, "120\u00b0", 30.2, 226.9230164},
       {150.0, "150\u00b0", 30.2, 230.2538476}, {-150.0, "150\u00b0", 30.2, 230.2538476}};
   for (const Wanted& one : wanted) {
-    const PlotPoint place = From250(one.Angle, one.Radius);
+    const Point place = From250(one.Angle, one.Radius);
     EXPECT_TRUE(std::any_of(grid.Labels.begin(), grid.Labels.end(), [&](const PlotLabel& label) {
       return label.Kind == PlotLabelKind::Angle && label.Text == one.Text &&
-             Far(CentreOf(label.Box), place) < 1e-6 && std::fabs(label.Box.Width - one.Width) < 1e-9 &&
-             std::fabs(label.Box.Height - 12.0) < 1e-9;
+             Far(CentreOf(label.Place), place) < 1e-6 && std::fabs(label.Place.Width - one.Width) < 1e-9 &&
+             std::fabs(label.Place.Height - 12.0) < 1e-9;
     })) << one.Angle;
   }
   EXPECT_EQ(std::count_if(grid.Labels.begin(), grid.Labels.end(),
@@ -149,7 +145,7 @@ TEST(MakeGrid, StartsTheSpokesAbeamAndAheadAtTheCentreAndTheOthersWithinTheInner
 
 /// A curve of `wind` kn that has points only at these angles [deg], 150 px from (250, 250).
 PolarCurve PointsAt(const std::vector<double>& angles, float wind = 8.0F) {
-  PlotLine line;
+  Polyline line;
   line.reserve(angles.size());
   for (const double angle : angles) {
     line.push_back(From250(angle, 150.0));
@@ -163,7 +159,7 @@ std::vector<double> WindAngles(const std::vector<PolarCurve>& curves) {
   std::vector<double> angles;
   for (const PlotLabel& label : grid.Labels) {
     if (label.Kind == PlotLabelKind::Wind) {
-      const PlotPoint centre = CentreOf(label.Box);
+      const Point centre = CentreOf(label.Place);
       EXPECT_NEAR(Far(centre, {250.0, 250.0}), 150.0, 1e-9);
       angles.push_back(
           std::round(std::atan2(centre.X - 250.0, 250.0 - centre.Y) * 180.0 / std::acos(-1.0) * 100.0) /

@@ -7,11 +7,11 @@
 namespace veerwatch {
 namespace {
 
-double Far(const PlotPoint& a, const PlotPoint& b) { return std::hypot(a.X - b.X, a.Y - b.Y); }
+double Far(const Point& a, const Point& b) { return std::hypot(a.X - b.X, a.Y - b.Y); }
 
 TEST(WindArrow, PointsFromTheWindToTheCentre) {
   const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 10.0);
-  const PlotPoint centre{200.0, 200.0};
+  const Point centre{200.0, 200.0};
   for (const double angle : {0.0, 45.0, -120.0, 180.0}) {
     const WindArrow arrow = MakeWindArrow(geometry, angle, 12.0);
     EXPECT_LT(Far(arrow.Shaft.To, centre), Far(arrow.Shaft.From, centre));
@@ -26,7 +26,7 @@ TEST(WindArrow, PointsFromTheWindToTheCentre) {
 TEST(WindArrow, HasItsPlacesInSharesOfTheOuterRadius) {
   // From starboard on a radius of 200 px: the line from three and a fifth texts inside of the ring.
   const WindArrow arrow = MakeWindArrow(PlotGeometry(400.0, 400.0, 10.0), 90.0, 12.0);
-  const auto at = [](const PlotPoint& point, double x, double y) { return Far(point, {x, y}) < 1e-9; };
+  const auto at = [](const Point& point, double x, double y) { return Far(point, {x, y}) < 1e-9; };
   EXPECT_TRUE(at(arrow.Line.From, 361.6, 200.0));
   EXPECT_TRUE(at(arrow.Line.To, 272.0, 200.0));
   EXPECT_TRUE(at(arrow.Shaft.From, 272.0, 200.0));
@@ -42,11 +42,11 @@ TEST(BoatPoint, IsHeldOnTheOuterRing) {
   const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 10.0);
   const BoatPoint inside = MakeBoatPoint(geometry, 90.0, 5.0);
   EXPECT_FALSE(inside.Beyond);
-  EXPECT_NEAR(inside.Point.X, 300.0, 1e-9);
+  EXPECT_NEAR(inside.At.X, 300.0, 1e-9);
   const BoatPoint beyond = MakeBoatPoint(geometry, -90.0, 25.0);
   EXPECT_TRUE(beyond.Beyond);
-  EXPECT_NEAR(beyond.Point.X, 0.0, 1e-9);
-  EXPECT_NEAR(beyond.Point.Y, 200.0, 1e-9);
+  EXPECT_NEAR(beyond.At.X, 0.0, 1e-9);
+  EXPECT_NEAR(beyond.At.Y, 200.0, 1e-9);
 }
 
 TEST(MakeLegArrow, EndsAtTheSpeedPointWithStrokesThirtyDegreesOffTheLine) {
@@ -78,7 +78,7 @@ TEST(MakeTargetMark, GoesFromTheCentreToTheOuterRingWithItsDiamondInsideOfIt) {
     const TargetMark mark = MakeTargetMark(geometry, angle, 12.0);
     EXPECT_EQ(Far(mark.Line.From, {200.0, 200.0}), 0.0);
     EXPECT_LT(Far(mark.Line.To, PointAt(geometry, angle, 10.0)), 1e-9);
-    for (const PlotPoint& corner : mark.Diamond) {
+    for (const Point& corner : mark.Diamond) {
       EXPECT_LE(Far(corner, {200.0, 200.0}), 200.0 + 1e-9);
       EXPECT_LE(Far(corner, mark.Line.To), 12.0 + 1e-9);
     }

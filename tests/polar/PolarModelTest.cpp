@@ -239,7 +239,7 @@ TEST_F(PolarModelTest, TakesNoNumberThatCannotBe) {
 
 TEST_F(PolarModelTest, ReadsTheCellUnderTheMouseOut) {
   const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 20.0);
-  const PlotPoint at = PointAt(geometry, -120.0, 14.0);
+  const Point at = PointAt(geometry, -120.0, 14.0);
   const auto found = Model.Nearest(at.X + 15.0, at.Y + 15.0, geometry);
   ASSERT_TRUE(found.has_value()) << "450 px squared away";
   EXPECT_EQ(found->Text, "-120.0\n20\n14.0");
@@ -253,13 +253,13 @@ TEST_F(PolarModelTest, ReadsTheCellUnderTheMouseOut) {
 TEST_F(PolarModelTest, ReadsTheReferenceOutWhereItIsNearer) {
   WriteFile(Program / "r.pol", "TWA\t20\n80\t11\n120\t16\n");
   const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 20.0);
-  const PlotPoint at = PointAt(geometry, 120.0, 16.0);
+  const Point at = PointAt(geometry, 120.0, 16.0);
   EXPECT_EQ(Model.Nearest(at.X, at.Y, geometry)->Text, "120.0\n20\n14.0") << "hidden";
   ASSERT_TRUE(Model.Open(PolarModel::kReference, (Program / "r.pol").string()).Loaded);
   EXPECT_EQ(Model.Nearest(at.X, at.Y, geometry)->Text, "120.0\n20\n16.0");
   EXPECT_TRUE(Model.Nearest(at.X, at.Y, geometry)->Reference);
   EXPECT_EQ(Model.Nearest(at.X, at.Y, geometry)->Captions, "TWA (R)\nTWS (Kts)\nReference (Kts)");
-  const PlotPoint both = PointAt(geometry, 80.0, 11.0);
+  const Point both = PointAt(geometry, 80.0, 11.0);
   EXPECT_FALSE(Model.Nearest(both.X, both.Y, geometry)->Reference) << "the own polar wins a tie";
 }
 

@@ -7,7 +7,7 @@
 namespace veerwatch {
 namespace {
 
-double Far(const PlotPoint& a, const PlotPoint& b) { return std::hypot(a.X - b.X, a.Y - b.Y); }
+double Far(const Point& a, const Point& b) { return std::hypot(a.X - b.X, a.Y - b.Y); }
 
 TEST(PlotGeometry, PutsTheRangeAtTheEdgeOfTheSquareAtTheUpperLeft) {
   const PolarGeometry wide = PlotGeometry(900.0, 600.0, 12.0);

@@ -85,8 +85,8 @@ TEST_F(PolarModelTest, DrawsNoBoatBeforeValuesCome) {
   const PolarMoving moving = scene.Moving();
   ASSERT_TRUE(moving.Boat.has_value());
   // Half of the range to port of the centre.
-  EXPECT_NEAR(moving.Boat->Point.X, 75.0, 1e-3);
-  EXPECT_NEAR(moving.Boat->Point.Y, 150.0, 1e-3);
+  EXPECT_NEAR(moving.Boat->At.X, 75.0, 1e-3);
+  EXPECT_NEAR(moving.Boat->At.Y, 150.0, 1e-3);
   EXPECT_TRUE(moving.Arrow.has_value());
   EXPECT_FALSE(moving.Wind.empty());
   EXPECT_TRUE(moving.ReferenceWind.empty());

@@ -455,7 +455,7 @@ TEST_F(OptionsDialog, ItsLayoutFollowsTheWindow) {
     const QRect apply = Find<QPushButton>("cmdApply").geometry();
     const QRect cancel = Find<QPushButton>("cmdCancel").geometry();
     const QRect ok = Find<QPushButton>("cmdOk").geometry();
-    // 120 and 240 twips of 15 to a pixel.
+    // The margins and gaps [px].
     EXPECT_EQ(apply.right() + 1, size.width() - 8);
     EXPECT_EQ(apply.bottom() + 1, size.height() - 8);
     EXPECT_EQ(cancel.right() + 1, apply.left() - 16);

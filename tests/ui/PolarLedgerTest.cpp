@@ -252,7 +252,7 @@ TEST_F(PolarLedger, DrawsTheTargetBearing) {
   const auto on = [&](double angle) {
     int points = 0;
     for (double speed = 6.5; speed < 9.0; speed += 0.05) {
-      const PlotPoint at = PointAt(geometry, angle, speed);
+      const Point at = PointAt(geometry, angle, speed);
       points += image.pixelColor(static_cast<int>(at.X), static_cast<int>(at.Y)) == target ? 1 : 0;
     }
     return points;
@@ -420,7 +420,7 @@ TEST_F(PolarLedger, KeepsTheMouseFromThePlotBeneath) {
 
 // Pixels
 
-int Near(const QImage& image, const PlotPoint& centre, const QColor& colour) {
+int Near(const QImage& image, const Point& centre, const QColor& colour) {
   int count = 0;
   for (int y = -2; y <= 2; ++y) {
     for (int x = -2; x <= 2; ++x) {
@@ -453,8 +453,8 @@ TEST_F(PolarLedger, DrawsTheLegsWithArrowHeads) {
     const QColor colour = side < 0.0 ? colours.PortTack : colours.StarboardTack;
     EXPECT_GT(Near(image, PointAt(geometry, side * 45.0, 5.2), colour), 4) << side;
     const LegArrow arrow = MakeLegArrow(geometry, side * 45.0, 6.0);
-    for (const PlotStroke& stroke : {arrow.HeadLeft, arrow.HeadRight}) {
-      const PlotPoint middle{(stroke.From.X + stroke.To.X) / 2.0, (stroke.From.Y + stroke.To.Y) / 2.0};
+    for (const Stroke& stroke : {arrow.HeadLeft, arrow.HeadRight}) {
+      const Point middle{(stroke.From.X + stroke.To.X) / 2.0, (stroke.From.Y + stroke.To.Y) / 2.0};
       EXPECT_GT(Near(image, middle, colour), 4) << side;
     }
     EXPECT_EQ(Near(image, PointAt(geometry, side * 45.0, 7.0), colour), 0) << side;

@@ -25,7 +25,7 @@ std::vector<std::string> Items(const QMenu& menu) {
 }
 
 /// Pixels within `radius` of `centre` that are nearly of `colour`.
-int Count(const QImage& image, const PlotPoint& centre, int radius, const QColor& colour) {
+int Count(const QImage& image, const Point& centre, int radius, const QColor& colour) {
   int count = 0;
   for (int y = -radius; y <= radius; ++y) {
     for (int x = -radius; x <= radius; ++x) {
@@ -309,7 +309,7 @@ TEST_F(PolarWindow, ReadsTheCellUnderTheMouseOut) {
   Start();
   Square(480);
   const auto geometry = PlotGeometry(480.0, 480.0, 16.0);
-  const PlotPoint cell = PointAt(geometry, 120.0, 14.0);
+  const Point cell = PointAt(geometry, 120.0, 14.0);
   const QPoint at(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y)));
   auto& label = Find<QLabel>("lblMouse");
   EXPECT_FALSE(label.isVisible());
@@ -338,7 +338,7 @@ TEST_F(PolarWindow, ReadsTheReferenceOutInAnotherColour) {
   Square(480);
   Dialogs.Files = {(Program / "r.pol").string()};
   Choose("mnuOverlayFile2");
-  const PlotPoint cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), -150.0, 13.0);
+  const Point cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), -150.0, 13.0);
   QTest::mousePress(&Plot(), Qt::LeftButton, {},
                     QPoint(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y))));
   auto& label = Find<QLabel>("lblMouse");
@@ -350,7 +350,7 @@ TEST_F(PolarWindow, KeepsTheMouseReadoutWhileTheMouseRests) {
   Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
   Start();
   Square(480);
-  const PlotPoint cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), 120.0, 14.0);
+  const Point cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), 120.0, 14.0);
   const QPoint at(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y)));
   QTest::mousePress(&Plot(), Qt::LeftButton, {}, at);
   ASSERT_TRUE(Find<QLabel>("lblMouse").isVisible());
@@ -366,7 +366,7 @@ TEST_F(PolarWindow, TakesTheMouseReadoutBackWhenTheCellHasMoved) {
   Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
   Start();
   Square(480);
-  const PlotPoint cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), 120.0, 14.0);
+  const Point cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), 120.0, 14.0);
   const QPoint at(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y)));
   QTest::mousePress(&Plot(), Qt::LeftButton, {}, at);
   ASSERT_TRUE(Find<QLabel>("lblMouse").isVisible());
@@ -379,7 +379,7 @@ TEST_F(PolarWindow, ReadsOutWhereTheMouseRests) {
   Start();
   Square(480);
   const auto at = [](double angle, double speed) {
-    const PlotPoint cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), angle, speed);
+    const Point cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), angle, speed);
     return QPoint(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y)));
   };
   auto& label = Find<QLabel>("lblMouse");
@@ -400,7 +400,7 @@ TEST_F(PolarWindow, WritesTheMouseReadoutLargeWithItsCaptions) {
   Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
   Start();
   Square(700);
-  const PlotPoint cell = PointAt(PlotGeometry(700.0, 700.0, 16.0), 120.0, 14.0);
+  const Point cell = PointAt(PlotGeometry(700.0, 700.0, 16.0), 120.0, 14.0);
   QTest::mousePress(&Plot(), Qt::LeftButton, {},
                     QPoint(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y))));
   auto& label = Find<QLabel>("lblMouse");
@@ -416,7 +416,7 @@ TEST_F(PolarWindow, WritesTheMouseReadoutLargeWithItsCaptions) {
       const QImage part = image.copy(QRectF(left * label.width() * scale, line * label.height() / 3.0 * scale,
                                             0.4 * label.width() * scale, label.height() / 3.0 * scale)
                                          .toRect());
-      const PlotPoint middle{part.width() / 2.0, part.height() / 2.0};
+      const Point middle{part.width() / 2.0, part.height() / 2.0};
       EXPECT_GT(Count(part, middle, part.width(), QColor(0, 0, 255)), 10) << left << " " << line;
     }
   }
@@ -435,8 +435,8 @@ TEST_F(PolarWindow, DrawsEachCellWhereItBelongsInTheSpeedColour) {
   for (int column = 1; column <= 4; ++column) {
     for (int row = 2; row <= 3; ++row) {
       for (const double side : {-1.0, 1.0}) {
-        const PlotPoint at = PointAt(geometry, side * static_cast<double>(table.Value(0, row, 0)),
-                                     static_cast<double>(table.Value(0, row, column)));
+        const Point at = PointAt(geometry, side * static_cast<double>(table.Value(0, row, 0)),
+                                 static_cast<double>(table.Value(0, row, column)));
         EXPECT_GT(Count(image, at, 2, QColor(0, 0xC8, 0)), 2) << row << "," << column << " " << side;
       }
     }
@@ -452,7 +452,7 @@ TEST_F(PolarWindow, PacksColoursBlueFirst) {
   Dialogs.PickedColours = {0x0000E6U};
   Choose("mnuOverlayColor");
   EXPECT_EQ(Dialogs.Colours, std::vector<std::uint32_t>{0U});
-  const PlotPoint cell = PointAt(PlotGeometry(700.0, 700.0, 20.0), 80.0, 11.0);
+  const Point cell = PointAt(PlotGeometry(700.0, 700.0, 20.0), 80.0, 11.0);
   EXPECT_GT(Count(GrabPlot(), cell, 2, QColor(0xE6, 0, 0)), 2) << "red";
 }
 
@@ -463,7 +463,7 @@ TEST_F(PolarWindow, DrawsTheBoatAtItsPoint) {
   Square(500);
   const auto geometry = PlotGeometry(500.0, 500.0, 16.0);
   const QColor boat = PolarPaletteQt(Window->palette()).Boat;
-  const PlotPoint at = PointAt(geometry, -130.0, 12.5);
+  const Point at = PointAt(geometry, -130.0, 12.5);
   EXPECT_EQ(Count(GrabPlot(), at, 8, boat), 0);
   Sail(-130.0F, 8.0F, 12.5F);
   EXPECT_GT(Count(GrabPlot(), at, 8, boat), 20);
@@ -480,7 +480,7 @@ TEST_F(PolarWindow, DrawsTheCurveOfThePresentWind) {
   const auto geometry = PlotGeometry(500.0, 500.0, 16.0);
   const QColor wind = PolarPaletteQt(Window->palette()).Wind;
   // Half way between the winds of 14 and 20 kn.
-  const PlotPoint at = PointAt(geometry, 120.0, 12.0);
+  const Point at = PointAt(geometry, 120.0, 12.0);
   EXPECT_EQ(Count(GrabPlot(), at, 3, wind), 0);
   Sail(-60.0F, 17.0F, 5.0F);
   EXPECT_GT(Count(GrabPlot(), at, 3, wind), 5);
@@ -505,8 +505,8 @@ TEST_F(PolarWindow, DrawsTheLabelsOfTheGridAboveItsCurves) {
   int seen = 0;
   PolarScene scene(Window->Model());
   for (const PlotLabel& label : scene.Still(500, 500).Grid.Labels) {
-    const PlotBox& box = label.Box;
-    const PlotPoint middle{box.X + box.Width / 2.0, box.Y + box.Height / 2.0};
+    const Box& box = label.Place;
+    const Point middle = box.Middle();
     if (std::abs(std::hypot(middle.X - 250.0, middle.Y - 250.0) - 10.0 * geometry.ScaleX) < 2.0) {
       ++seen;
       EXPECT_EQ(Count(image, middle, static_cast<int>(std::min(box.Width, box.Height) / 2.0) - 2, wind), 0)
@@ -560,7 +560,7 @@ TEST_F(PolarWindow, DrawsItsCurvesInTheForegroundOfAnyPalette) {
   Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
   Start();
   Square(700);
-  const PlotPoint cell = PointAt(PlotGeometry(700.0, 700.0, 16.0), 80.0, 11.0);
+  const Point cell = PointAt(PlotGeometry(700.0, 700.0, 16.0), 80.0, 11.0);
   QPalette dark(QColor(0x2a, 0x2d, 0x31), QColor(0x1b, 0x1e, 0x22));
   dark.setColor(QPalette::WindowText, QColor(0xe6, 0xea, 0xee));
   Window->setPalette(dark);

@@ -179,10 +179,11 @@ TEST(LoopDiagramWidget, ShowsTheLoopAtAnySizeAndShade) {
       EXPECT_LE(numbers.Height * scale, size.height() + 0.01);
       // The tip of every arrow is drawn in the colour of the text.
       const QColor text = diagram.palette().color(QPalette::Text);
-      for (const DiagramLine& line : numbers.lnArrow) {
-        const bool right = line.Tag == "Right";
-        const double x = right ? line.X2 - 20.0 : line.X1;
-        const double y = right ? line.Y2 : line.Y1 + 20.0;
+      for (const DiagramArrow& arrow : numbers.lnArrow) {
+        constexpr double kInside = 4.0 / 3.0;
+        const bool right = arrow.Tag == "Right";
+        const double x = right ? arrow.Way.To.X - kInside : arrow.Way.From.X;
+        const double y = right ? arrow.Way.To.Y : arrow.Way.From.Y + kInside;
         const QPoint tip(static_cast<int>((size.width() - numbers.Width * scale) / 2.0 + x * scale),
                          static_cast<int>((size.height() - numbers.Height * scale) / 2.0 + y * scale));
         EXPECT_LT(std::abs(qGray(image.pixel(tip)) - qGray(text.rgb())), 110) << x << ", " << y;

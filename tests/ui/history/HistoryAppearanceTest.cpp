@@ -33,10 +33,10 @@ class HistoryAppearance : public HistoryTester, public testing::WithParamInterfa
     EXPECT_EQ(PartOf(image, Chart().geometry()).pixelColor(1, 1),
               QApplication::palette().color(QPalette::Window))
         << name;
-    const std::vector<ChartText> texts = Texts();
+    const std::vector<PlacedText> texts = Texts();
     EXPECT_GT(texts.size(), 20U) << name;
     std::vector<QRectF> taken;
-    for (const ChartText& text : texts) {
+    for (const PlacedText& text : texts) {
       const QRectF drawn = Drawn(text);
       EXPECT_TRUE(QRectF(Chart().rect()).adjusted(-1.0, -1.0, 1.0, 1.0).contains(drawn))
           << text.Text << " is cut off in " << name;
@@ -51,21 +51,21 @@ class HistoryAppearance : public HistoryTester, public testing::WithParamInterfa
   }
 
   /// Where the characters of a text stand, which may be more than its box.
-  QRectF Drawn(const ChartText& text) {
+  QRectF Drawn(const PlacedText& text) {
     QFont font = Chart().font();
     font.setPixelSize(qRound(text.Height));
     const double width = QFontMetricsF(font).horizontalAdvance(QString::fromStdString(text.Text));
-    const double room = text.Box.Width - width;
-    const double left = text.Align == ChartText::Side::Left    ? 0.0
-                        : text.Align == ChartText::Side::Right ? room
-                                                               : room / 2.0;
-    return {text.Box.X + left, text.Box.Y + (text.Box.Height - text.Height) / 2.0, width, text.Height};
+    const double room = text.Place.Width - width;
+    const double left = text.Align == PlacedText::Side::Left    ? 0.0
+                        : text.Align == PlacedText::Side::Right ? room
+                                                                : room / 2.0;
+    return {text.Place.X + left, text.Place.Y + (text.Place.Height - text.Height) / 2.0, width, text.Height};
   }
 
   /// Every text that the chart shows.
-  std::vector<ChartText> Texts() {
-    std::vector<ChartText> texts;
-    const auto add = [&texts](const ChartText& text) {
+  std::vector<PlacedText> Texts() {
+    std::vector<PlacedText> texts;
+    const auto add = [&texts](const PlacedText& text) {
       if (!text.Text.empty()) {
         texts.push_back(text);
       }
@@ -74,7 +74,7 @@ class HistoryAppearance : public HistoryTester, public testing::WithParamInterfa
       for (const ChartAxis& axis : panel.Axes) {
         add(axis.Title);
         add(axis.Units);
-        for (const ChartText& label : axis.Labels) {
+        for (const PlacedText& label : axis.Labels) {
           add(label);
         }
       }

@@ -87,7 +87,7 @@ TEST_F(HistoryDrawing, ALonelyValueIsADotOfFivePixels) {
                                  [](const ChartTrace& trace) { return trace.Trace == 0; });
   ASSERT_NE(boat, panel.Traces.end());
   ASSERT_EQ(boat->Past.Dots.size(), 1U);
-  const ChartPoint middle = boat->Past.Dots.front().Middle;
+  const Point middle = boat->Past.Dots.front().Middle;
   const auto like = [&](double x, double y) {
     return image.pixelColor(static_cast<int>(x * ratio), static_cast<int>(y * ratio)) ==
            image.pixelColor(static_cast<int>(middle.X * ratio), static_cast<int>(middle.Y * ratio));
@@ -113,7 +113,7 @@ TEST_F(HistoryDrawing, TheValuesOfTheLegendStayOffTheirColourBars) {
     for (const ChartLegendEntry& entry : Chart().Picture().Legend) {
       const QColor back = image.pixelColor(1, 1);
       const int x = qCeil(entry.Swatch.Right()) + 1;
-      for (int y = qCeil(entry.Value.Box.Y); y < qFloor(entry.Value.Box.Bottom()); ++y) {
+      for (int y = qCeil(entry.Value.Place.Y); y < qFloor(entry.Value.Place.Bottom()); ++y) {
         ASSERT_EQ(image.pixelColor(x, y), back)
             << size.width() << " x " << size.height() << ", " << entry.Name.Text << " at " << x << ", " << y;
       }
@@ -127,7 +127,7 @@ TEST_F(HistoryDrawing, TheMouseShowsTheValueUnderIt) {
   Record(1800, 10);
   Show();
   const QImage before = Chart().grab().toImage();
-  const ChartBox plot = Chart().Picture().Panels[1].Plot;
+  const Box plot = Chart().Picture().Panels[1].Plot;
   QTest::mouseMove(&Chart(), QPoint(qRound(plot.X + plot.Width / 2.0), qRound(plot.Y + 20.0)));
   EXPECT_TRUE(WaitFor([&] { return Chart().grab().toImage() != before; }));
   QTest::mouseMove(&Chart(), QPoint(798, 3));
