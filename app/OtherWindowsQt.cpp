@@ -6,8 +6,8 @@
 
 #include "app/IconsQt.h"
 #include "draw/DrawQt.h"
+#include "draw/WindowPlaceQt.h"
 #include "platform/NumberText.h"
-#include "platform/WindowFrameQt.h"
 
 namespace veerwatch {
 

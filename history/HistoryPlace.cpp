@@ -1,5 +1,7 @@
 #include "history/HistoryPlace.h"
 
+#include <cmath>
+
 namespace veerwatch {
 
 namespace {
@@ -14,7 +16,28 @@ std::optional<float> Within(float number, float least) {
 constexpr NumberRule kPosition{"-1000000 to 1000000", [](float twips) { return Within(twips, -kLargest); }};
 constexpr NumberRule kSize{"1 to 1000000", [](float twips) { return Within(twips, 1.0F); }};
 
+constexpr double kTwipsPerPixel = 15.0;
+
+double Pixels(float twips) { return std::round(static_cast<double>(twips) / kTwipsPerPixel); }
+
+void Note(float& twips, double pixels) {
+  if (Pixels(twips) != pixels) {
+    twips = static_cast<float>(pixels * kTwipsPerPixel);
+  }
+}
+
 }  // namespace
+
+Box FrameOf(const HistoryPlace& place) {
+  return {Pixels(place.Left), Pixels(place.Top), Pixels(place.Width), Pixels(place.Height)};
+}
+
+void NoteFrame(HistoryPlace& place, const Box& frame) {
+  Note(place.Top, frame.Y);
+  Note(place.Left, frame.X);
+  Note(place.Height, frame.Height);
+  Note(place.Width, frame.Width);
+}
 
 const SettingTable<HistoryPlace>& HistoryPlaceTable() {
   using setting::Number;

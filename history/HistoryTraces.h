@@ -44,7 +44,7 @@ void HistorySetUp(StripChartOperations& chart, std::uint32_t windowColour);
 std::string HistoryText(float value, std::string_view units);
 
 /// Half of the sum of a length and the place that it begins at, as the configuration pop-up is placed
-/// [twips]. Deliberate: on the axis on which the chart begins above 0 this is neither its centre nor the
+/// [px]. Deliberate: on the axis on which the chart begins above 0 this is neither its centre nor the
 /// window's.
 std::int16_t HistoryPopupPlace(double length, double begin);
 

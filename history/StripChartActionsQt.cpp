@@ -11,7 +11,6 @@
 #include <cmath>
 #include <filesystem>
 
-#include "draw/WindowPlace.h"
 #include "history/ClockText.h"
 #include "history/HistoryCsv.h"
 #include "history/StripChartQt.h"
@@ -130,7 +129,7 @@ void StripChart::contextMenuEvent(QContextMenuEvent* event) { PopupAt(event->glo
 
 void StripChart::ConfigPopupShow(std::int16_t x, std::int16_t y, std::int16_t /*a*/, std::int16_t /*b*/,
                                  std::int16_t /*c*/) {
-  PopupAt(mapToGlobal(QPoint(qRound(x / kTwipsPerPixel), qRound(y / kTwipsPerPixel))));
+  PopupAt(mapToGlobal(QPoint(x, y)));
 }
 
 void StripChart::MakePopup() {

@@ -1,9 +1,7 @@
 #include "history/frmHistory.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
-#include <QScreen>
-#include <cmath>
+#include <algorithm>
 
 #include "history/HistoryTraces.h"
 
@@ -12,19 +10,10 @@ namespace veerwatch {
 namespace {
 
 const char* const kTraceSection = "History Trace";
-constexpr double kChartTop = 30.0;  // [twips]
-constexpr double kChartLeft = 0.0;  // [twips]
+constexpr int kChartTop = 2;
+constexpr int kChartLeft = 0;
 constexpr QSize kSmallestSize(220, 180);
 constexpr int kPlaceTime = 200;  // [ms]
-
-int Pixels(double twips) { return static_cast<int>(std::lround(twips / kTwipsPerPixel)); }
-
-/// A place in twips that a window at `pixels` has; the stored one where it still means the same pixel.
-void Note(float& twips, int pixels) {
-  if (Pixels(static_cast<double>(twips)) != pixels) {
-    twips = static_cast<float>(pixels * kTwipsPerPixel);
-  }
-}
 
 }  // namespace
 
@@ -53,42 +42,15 @@ std::uint32_t frmHistory::WindowColour() const { return palette().color(QPalette
 
 void frmHistory::LoadPlace() {
   SettingsRead(HistoryPlaceTable(), m_parts.Store, m_place);
-  std::vector<PlaceBox> screens;
-  for (const QScreen* screen : QGuiApplication::screens()) {
-    const QRect free = screen->availableGeometry();
-    screens.push_back({static_cast<double>(free.x()), static_cast<double>(free.y()),
-                       static_cast<double>(free.width()), static_cast<double>(free.height())});
-  }
-  const PlaceBox frame = PlaceOnScreen({static_cast<double>(Pixels(static_cast<double>(m_place.Left))),
-                                        static_cast<double>(Pixels(static_cast<double>(m_place.Top))),
-                                        static_cast<double>(Pixels(static_cast<double>(m_place.Width))),
-                                        static_cast<double>(Pixels(static_cast<double>(m_place.Height)))},
-                                       screens, kSmallestSize.width(), kSmallestSize.height());
-  m_wanted = QRectF(frame.X, frame.Y, frame.Width, frame.Height).toRect();
-  move(m_wanted.topLeft());
-  resize(m_wanted.size());
-}
-
-void frmHistory::FitFrame() {
-  // What the frame takes is known only when the window is on the screen.
-  const QSize frame = frameGeometry().size() - size();
-  if (!m_fitted && isVisible() && !frame.isNull()) {
-    m_fitted = true;
-    if (size() == m_wanted.size()) {
-      resize(m_wanted.size() - frame);
-    }
-  }
+  m_frame.Restore(FrameOf(m_place));
 }
 
 void frmHistory::NotePlace() {
-  const bool normal =
-      (windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen)) == 0;
-  if (isVisible() && normal) {
-    const QRect frame = frameGeometry();
-    Note(m_place.Top, frame.y());
-    Note(m_place.Left, frame.x());
-    Note(m_place.Height, frame.height());
-    Note(m_place.Width, frame.width());
+  if (!isVisible()) {
+    return;
+  }
+  if (const auto frame = FramePlace(*this)) {
+    NoteFrame(m_place, *frame);
   }
 }
 
@@ -97,11 +59,10 @@ void frmHistory::SetValue(std::string_view name, float value, std::string_view u
 }
 
 void frmHistory::ConfigurePopup() {
-  const auto twips = [](int pixels) { return pixels * kTwipsPerPixel; };
   constexpr std::int16_t kArguments[] = {16, 3, 2};
-  m_chart->ConfigPopupShow(HistoryPopupPlace(twips(m_chart->width()), kChartLeft),
-                           HistoryPopupPlace(twips(m_chart->height()), kChartTop), kArguments[0],
-                           kArguments[1], kArguments[2]);
+  m_chart->ConfigPopupShow(HistoryPopupPlace(m_chart->width(), kChartLeft),
+                           HistoryPopupPlace(m_chart->height(), kChartTop), kArguments[0], kArguments[1],
+                           kArguments[2]);
 }
 
 void frmHistory::Unload() {
@@ -117,7 +78,7 @@ void frmHistory::closeEvent(QCloseEvent* event) {
 
 void frmHistory::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
-  QTimer::singleShot(0, this, [this] { FitFrame(); });
+  QTimer::singleShot(0, this, [this] { m_frame.Fit(); });
   if (!event->spontaneous() && m_visibleChanged) {
     m_visibleChanged(true);
   }
@@ -132,7 +93,7 @@ void frmHistory::hideEvent(QHideEvent* event) {
 
 void frmHistory::moveEvent(QMoveEvent* event) {
   QWidget::moveEvent(event);
-  FitFrame();
+  m_frame.Fit();
   m_placeTimer.start();
 }
 
@@ -142,9 +103,8 @@ void frmHistory::resizeEvent(QResizeEvent* event) {
   if (isMinimized()) {
     return;
   }
-  m_line->setGeometry(0, 0, width(), Pixels(kChartTop));
-  const int top = Pixels(kChartTop);
-  m_chart->setGeometry(Pixels(kChartLeft), top, width(), std::max(height() - top, 0));
+  m_line->setGeometry(0, 0, width(), kChartTop);
+  m_chart->setGeometry(kChartLeft, kChartTop, width(), std::max(height() - kChartTop, 0));
 }
 
 void frmHistory::changeEvent(QEvent* event) {

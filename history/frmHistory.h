@@ -10,7 +10,7 @@
 #include <memory>
 #include <string_view>
 
-#include "draw/WindowPlace.h"
+#include "draw/WindowPlaceQt.h"
 #include "history/HistoryPlace.h"
 #include "history/StripChartQt.h"
 #include "platform/Clock.h"
@@ -56,7 +56,6 @@ class frmHistory final : public QWidget {
  private:
   std::uint32_t WindowColour() const;
   void LoadPlace();
-  void FitFrame();
   /// Keeps the frame that shows; not that of a window that fills the screen or is minimised.
   void NotePlace();
 
@@ -67,8 +66,7 @@ class frmHistory final : public QWidget {
   HistoryPlace m_place;
   /// Runs from the latest move on: the desktop may tell only afterwards that it was no move by hand.
   QTimer m_placeTimer{this};
-  QRect m_wanted;         ///< the frame that was loaded [px]
-  bool m_fitted = false;  ///< the frame has the size that was loaded
+  FrameRestoreQt m_frame{*this};
   std::function<void(bool)> m_visibleChanged;
 };
 

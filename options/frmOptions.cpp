@@ -7,11 +7,11 @@
 #include <algorithm>
 #include <initializer_list>
 
+#include "draw/WindowPlaceQt.h"
 #include "options/DeviceHint.h"
 #include "options/LoopDiagramQt.h"
 #include "options/SimulateTimeText.h"
 #include "options/TrackInUseText.h"
-#include "platform/WindowFrameQt.h"
 
 namespace veerwatch {
 

@@ -1,5 +1,6 @@
 #include "polar/PolarSettings.h"
 
+#include <algorithm>
 namespace veerwatch {
 
 namespace {
@@ -62,18 +63,16 @@ const SettingTable<PolarSettings>& PolarSettingsTable() {
   return kTable;
 }
 
-const SettingTable<WindowPlace>& PolarPlaceTable() {
+const SettingTable<PolarPlace>& PolarPlaceTable() {
   constexpr const char* kWindow = "Polar Window";
   constexpr const char* kByHand = "by moving and sizing it";
-  const auto pixels = [](std::int16_t WindowPlace::*member) {
-    return Whole(member, kNoPlace + 1, INT16_MAX);
-  };
-  static const SettingTable<WindowPlace> kTable{
-      {kWindow, "Top", pixels(&WindowPlace::Top), "px", "place of the polar window; all four keys or none",
+  const auto pixels = [](std::int16_t PolarPlace::*member) { return Whole(member, kNoPlace + 1, INT16_MAX); };
+  static const SettingTable<PolarPlace> kTable{
+      {kWindow, "Top", pixels(&PolarPlace::Top), "px", "place of the polar window; all four keys or none",
        kByHand},
-      {kWindow, "Left", pixels(&WindowPlace::Left), "px", "from the left", kByHand},
-      {kWindow, "Height", pixels(&WindowPlace::Height), "px", "inner height, above 0", kByHand},
-      {kWindow, "Width", pixels(&WindowPlace::Width), "px", "inner width, above 0", kByHand}};
+      {kWindow, "Left", pixels(&PolarPlace::Left), "px", "from the left", kByHand},
+      {kWindow, "Height", pixels(&PolarPlace::Height), "px", "inner height, above 0", kByHand},
+      {kWindow, "Width", pixels(&PolarPlace::Width), "px", "inner width, above 0", kByHand}};
   return kTable;
 }
 
@@ -88,17 +87,22 @@ void PolarStore(Profile& profile, PolarSettings settings, const std::filesystem:
   SettingsWrite(PolarSettingsTable(), profile, settings);
 }
 
-std::optional<WindowPlace> PolarPlaceRecall(const Profile& profile) {
-  WindowPlace place{kNoPlace, kNoPlace, kNoPlace, kNoPlace};
+std::optional<Box> PolarPlaceRecall(const Profile& profile) {
+  PolarPlace place{kNoPlace, kNoPlace, kNoPlace, kNoPlace};
   SettingsRead(PolarPlaceTable(), profile, place);
   if (place.Top == kNoPlace || place.Left == kNoPlace || place.Height <= 0 || place.Width <= 0) {
     return std::nullopt;
   }
-  return place;
+  return Box{static_cast<double>(place.Left), static_cast<double>(place.Top),
+             static_cast<double>(place.Width), static_cast<double>(place.Height)};
 }
 
-void PolarPlaceStore(Profile& profile, const WindowPlace& place) {
-  SettingsWrite(PolarPlaceTable(), profile, place);
+void PolarPlaceStore(Profile& profile, const Box& place) {
+  const auto kept = [](double pixels) {
+    return static_cast<std::int16_t>(std::clamp<double>(pixels, kNoPlace + 1, INT16_MAX));
+  };
+  SettingsWrite(PolarPlaceTable(), profile,
+                {kept(place.Y), kept(place.X), kept(place.Height), kept(place.Width)});
 }
 
 std::string WithoutFolder(const std::string& file, const std::filesystem::path& programFolder) {

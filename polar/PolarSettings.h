@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "draw/Shapes.h"
 #include "polar/PolarTable.h"
 #include "settings/SettingRow.h"
 
@@ -43,8 +44,8 @@ struct PolarSettings {
   bool SmoothWinds = false;  ///< PolarTable::Smooth
 };
 
-/// Position and inner size of a window [px].
-struct WindowPlace {
+/// Where the window stands, as the profile keeps it: the corner of its frame and its inner size [px].
+struct PolarPlace {
   std::int16_t Top = 0;
   std::int16_t Left = 0;
   std::int16_t Height = 0;
@@ -53,17 +54,17 @@ struct WindowPlace {
 
 /// The keys of section "Polar Data" and of the place in section "Polar Window".
 const SettingTable<PolarSettings>& PolarSettingsTable();
-const SettingTable<WindowPlace>& PolarPlaceTable();
+const SettingTable<PolarPlace>& PolarPlaceTable();
 
 /// Overlays what the profile holds; what is missing, unreadable or out of range stays.
 void PolarRecall(const Profile& profile, PolarSettings& settings);
 
 /// The place in the profile; nothing unless all four keys are there with a size above 0.
-std::optional<WindowPlace> PolarPlaceRecall(const Profile& profile);
+std::optional<Box> PolarPlaceRecall(const Profile& profile);
 
 /// Sets every key. A file inside `programFolder` is written without that folder.
 void PolarStore(Profile& profile, PolarSettings settings, const std::filesystem::path& programFolder);
-void PolarPlaceStore(Profile& profile, const WindowPlace& place);
+void PolarPlaceStore(Profile& profile, const Box& place);
 
 /// `file` without `programFolder` in front of it.
 std::string WithoutFolder(const std::string& file, const std::filesystem::path& programFolder);

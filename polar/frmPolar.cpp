@@ -1,9 +1,9 @@
 #include "polar/frmPolar.h"
 
 #include <QCloseEvent>
-#include <QGuiApplication>
 #include <QScreen>
-#include <algorithm>
+
+#include "draw/WindowPlaceQt.h"
 
 namespace veerwatch {
 
@@ -12,20 +12,6 @@ namespace {
 constexpr QSize kDefaultSize(1000, 740);
 constexpr QSize kSmallestSize(220, 180);
 constexpr double kScreenShare = 0.92;
-
-/// A place that can be seen on one of the screens.
-bool OnScreen(const QRect& place) {
-  constexpr int kLeastSeen = 40;
-  const auto screens = QGuiApplication::screens();
-  return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
-    const QRect seen = screen->availableGeometry().intersected(place);
-    return seen.width() >= kLeastSeen && seen.height() >= kLeastSeen;
-  });
-}
-
-std::int16_t Short(int value) {
-  return static_cast<std::int16_t>(std::clamp<int>(value, INT16_MIN + 1, INT16_MAX));
-}
 
 }  // namespace
 
@@ -136,21 +122,15 @@ void frmPolar::PolarInit(bool recall) {
 
 void frmPolar::PolarRecall() {
   m_model.Reset(&m_parts.Store);
-  const auto place = PolarPlaceRecall(m_parts.Store);
-  if (!place) {
-    return;
-  }
-  const QRect window(place->Left, place->Top, place->Width, place->Height);
-  resize(window.size());
-  if (OnScreen(window)) {
-    move(window.topLeft());
+  if (const auto place = PolarPlaceRecall(m_parts.Store)) {
+    RestoreInner(*this, *place);
   }
 }
 
 void frmPolar::PolarStore() {
   veerwatch::PolarStore(m_parts.Store, m_model.Settings(), m_parts.Folders.Program);
-  if (!isMaximized() && !isFullScreen() && !isMinimized()) {
-    PolarPlaceStore(m_parts.Store, {Short(y()), Short(x()), Short(height()), Short(width())});
+  if (const auto place = InnerPlace(*this)) {
+    PolarPlaceStore(m_parts.Store, *place);
   }
 }
 

@@ -7,10 +7,10 @@
 namespace veerwatch {
 namespace {
 
-const PlaceBox kScreen{0.0, 0.0, 1920.0, 1080.0};
-const PlaceBox kRight{1920.0, 200.0, 1280.0, 800.0};
+const Box kScreen{0.0, 0.0, 1920.0, 1080.0};
+const Box kRight{1920.0, 200.0, 1280.0, 800.0};
 
-void Expect(const PlaceBox& placed, double x, double y, double width, double height) {
+void Expect(const Box& placed, double x, double y, double width, double height) {
   EXPECT_EQ(placed.X, x);
   EXPECT_EQ(placed.Y, y);
   EXPECT_EQ(placed.Width, width);
@@ -41,6 +41,18 @@ TEST(WindowPlace, AWindowWhoseTitleBarIsAboveTheScreenIsBroughtBack) {
 TEST(WindowPlace, AWindowIsNeitherTooSmallNorTooLarge) {
   Expect(PlaceOnScreen({10, 10, 1, 1}, {kScreen}, 220, 180), 10, 10, 220, 180);
   Expect(PlaceOnScreen({10, 10, 60000, 60000}, {kScreen}, 220, 180), 10, 10, 1920, 1080);
+}
+
+TEST(WindowPlace, AWindowIsSeenWithFortyPixelsEachWayOnOneScreen) {
+  const std::vector<Box> screens{kScreen, kRight};
+  EXPECT_TRUE(CanBeSeen({100, 100, 400, 300}, screens));
+  EXPECT_TRUE(CanBeSeen({-360, -260, 400, 300}, screens));
+  EXPECT_FALSE(CanBeSeen({-361, -260, 400, 300}, screens));
+  EXPECT_FALSE(CanBeSeen({-360, -261, 400, 300}, screens));
+  EXPECT_TRUE(CanBeSeen({3160, 960, 400, 300}, screens)) << "on the right screen";
+  EXPECT_FALSE(CanBeSeen({3161, 960, 400, 300}, screens));
+  EXPECT_FALSE(CanBeSeen({1881, -261, 78, 500}, {kScreen})) << "too narrow";
+  EXPECT_FALSE(CanBeSeen({100, 100, 400, 300}, {})) << "without screens";
 }
 
 TEST(WindowPlace, WithoutScreensItStays) {

@@ -128,20 +128,27 @@ TEST(PolarSettings, NameFilesInTheProgramsFolderWithoutIt) {
 TEST(PolarPlace, ComesBackWhenItIsWhole) {
   Profile profile;
   EXPECT_FALSE(PolarPlaceRecall(profile).has_value());
-  PolarPlaceStore(profile, {-20, 30, 400, 500});
+  PolarPlaceStore(profile, {30, -20, 500, 400});
   const auto place = PolarPlaceRecall(profile);
   ASSERT_TRUE(place.has_value());
-  EXPECT_EQ(place->Top, -20);
-  EXPECT_EQ(place->Left, 30);
-  EXPECT_EQ(place->Height, 400);
-  EXPECT_EQ(place->Width, 500);
+  EXPECT_EQ(*place, (Box{30, -20, 500, 400}));
+  EXPECT_EQ(profile.Text("Polar Window", "Top"), "-20");
+  EXPECT_EQ(profile.Text("Polar Window", "Left"), "30");
+  EXPECT_EQ(profile.Text("Polar Window", "Height"), "400");
+  EXPECT_EQ(profile.Text("Polar Window", "Width"), "500");
   PolarPlaceStore(profile, {0, 0, 1, 1});
   EXPECT_TRUE(PolarPlaceRecall(profile).has_value());
-  PolarPlaceStore(profile, {0, 0, 500, 0});
-  EXPECT_FALSE(PolarPlaceRecall(profile).has_value());
   PolarPlaceStore(profile, {0, 0, 0, 500});
   EXPECT_FALSE(PolarPlaceRecall(profile).has_value());
+  PolarPlaceStore(profile, {0, 0, 500, 0});
+  EXPECT_FALSE(PolarPlaceRecall(profile).has_value());
   EXPECT_FALSE(PolarPlaceRecall(ProfileOf("[Polar Window]\nTop=1\nLeft=2\nWidth=5\n")).has_value());
+}
+
+TEST(PolarPlace, IsKeptInSixteenBits) {
+  Profile profile;
+  PolarPlaceStore(profile, {-40000, 40000, 300, 200});
+  EXPECT_EQ(PolarPlaceRecall(profile), (Box{-32767, 32767, 300, 200}));
 }
 
 TEST(PolarAverages, AreNothingBeforeAnythingCame) {

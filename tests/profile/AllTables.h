@@ -35,7 +35,7 @@ template <class Visit>
 void VisitTables(const Visit& visit) {
   visit(SettingsTable(), Settings());
   visit(OpenWindowsTable(), OpenWindows());
-  visit(PolarPlaceTable(), WindowPlace());
+  visit(PolarPlaceTable(), PolarPlace());
   visit(PolarSettingsTable(), PolarSettings());
   visit(TackSettingsTable(), TackSettings());
   visit(HistoryPlaceTable(), HistoryPlace());

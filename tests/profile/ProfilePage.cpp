@@ -25,7 +25,7 @@ std::string ProfilePageTable() {
   VisitTables([&page]<class Struct>(const SettingTable<Struct>& table, const Struct& defaults) {
     for (const SettingRow<Struct>& row : table) {
       // A window that was never moved has no place.
-      constexpr bool kNoDefault = std::is_same_v<Struct, WindowPlace>;
+      constexpr bool kNoDefault = std::is_same_v<Struct, PolarPlace>;
       AddLine(page, {row.Section, row.Key, kNoDefault ? "" : WrittenText(row, defaults), row.Value.Range,
                      row.Unit, row.Meaning, row.Where});
     }

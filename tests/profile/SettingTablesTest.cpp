@@ -120,7 +120,7 @@ TEST(SettingTables, TakeEachDefaultAgainAfterAnotherValue) {
   const auto candidates = Candidates();
   ForEachRow([&candidates]<class Struct>(const SettingTable<Struct>& table, const SettingRow<Struct>& row,
                                          const Struct& defaults) {
-    if constexpr (std::is_same_v<Struct, WindowPlace>) {
+    if constexpr (std::is_same_v<Struct, PolarPlace>) {
       return;  // has none
     }
     if (std::is_same_v<Struct, TraceChoice> && row.Value.Range.starts_with("#")) {

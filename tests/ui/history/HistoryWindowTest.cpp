@@ -206,10 +206,10 @@ TEST_F(HistoryWindow, ThePopupOpensAtHalfTheSumOfLengthAndBegin) {
   Window->ConfigurePopup();
   auto& popup = Find<QFrame>("frmConfigPopup");
   EXPECT_TRUE(popup.isVisible());
-  // Half of 300 px, and half of 240 px and 30 twips, from the chart's corner.
+  // Half of 300 px, and half of 240 px and 2 px, from the chart's corner.
   const QPoint placed = popup.pos();
   popup.close();
-  Chart().ConfigPopupShow(2250, 1815, 16, 3, 2);
+  Chart().ConfigPopupShow(150, 121, 16, 3, 2);
   EXPECT_EQ(popup.pos(), placed);
   // What the platform draws around a window moves it by a little.
   EXPECT_LE((placed - Chart().mapToGlobal(QPoint(150, 121))).manhattanLength(), 4);
@@ -259,7 +259,7 @@ TEST_F(HistoryWindow, ThePopupChangesAColour) {
   EXPECT_EQ(Chart().Settings().Traces[0].Colour, 0xFF2000U);  // cancelled
   Find<QFrame>("frmConfigPopup").close();
   const QImage image = Chart().Image(1.0);
-  const ChartBox swatch = Entry("Boat Speed").Swatch;
+  const Box swatch = Entry("Boat Speed").Swatch;
   EXPECT_EQ(image.pixelColor(qRound(swatch.X + swatch.Width / 2.0), qRound(swatch.Y + swatch.Height / 2.0)),
             QColor(255, 32, 0));
 }
