@@ -1,5 +1,5 @@
-// Where everything stands on the instrument panel: pure arithmetic from the panel's size, so that any size
-// gives places that neither overlap nor leave the panel. Used by InstrumentPanelQt.
+// Where everything stands on the instrument panel: pure arithmetic from the panel's size, so that at any
+// size the places neither overlap nor leave the panel. Used by InstrumentPanelQt.
 #pragma once
 
 #include <array>

@@ -22,7 +22,7 @@ namespace veerwatch {
 struct ChartView {
   double Width = 0.0;           ///< [px]
   double Height = 0.0;          ///< [px]
-  std::int64_t EndSlot = 0;     ///< the slot behind the last one that is wanted
+  std::int64_t EndSlot = 0;     ///< the slot after the last one that is wanted
   std::int32_t UtcOffset = 0;   ///< local time ahead of UTC [s]
   double LeastTextHeight = 11;  ///< [px]
 };
@@ -40,7 +40,7 @@ struct ChartAxis {
   ValueScale Scale;
   int ScaleIndex = 0;
   PlacedText Title;
-  PlacedText Units;  ///< behind the title; none for angles, whose labels have the degree sign
+  PlacedText Units;  ///< after the title; none for angles, whose labels have the degree sign
   std::vector<PlacedText> Labels;
   std::vector<double> TickY;
 };

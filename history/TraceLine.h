@@ -51,7 +51,7 @@ struct ChartDot {
 
 /// A trace as it is stroked: polylines through the latest values, and bars over all that happened.
 struct TraceLine {
-  Polyline Points;                  ///< of all polylines, one behind the other
+  Polyline Points;                  ///< of all polylines, one after the other
   std::vector<std::size_t> Starts;  ///< where in Points each begins; each has two points at least
   std::vector<ChartDot> Dots;
   std::vector<Box> Bars;

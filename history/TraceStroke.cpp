@@ -64,9 +64,9 @@ const std::vector<Stroke>& TraceStroke::Pieces(std::span<const Point> points, do
   for (std::size_t i = 0; i + 1 < m_corners.size(); ++i) {
     const bool last = i + 2 == m_corners.size();
     const Point next = last ? direction : Direction(m_corners[i + 1], m_corners[i + 2]);
-    const double behind = last ? half : Reach(direction, next, half);
-    m_pieces.push_back({Along(m_corners[i], direction, -before), Along(m_corners[i + 1], direction, behind)});
-    before = behind;
+    const double after = last ? half : Reach(direction, next, half);
+    m_pieces.push_back({Along(m_corners[i], direction, -before), Along(m_corners[i + 1], direction, after)});
+    before = after;
     direction = next;
   }
   return m_pieces;
