@@ -56,6 +56,51 @@ std::int64_t WallAt(const StripChartData& data, std::int64_t slot) {
   return data.Wall(held) + (slot - held) * data.SlotMilliseconds();
 }
 
+/// Directions have their axis at the right of the panel that they share.
+bool AtRight(const ChartPanel& panel, const ChartAxis& axis) { return axis.ScaleIndex != panel.Group; }
+
+/// One axis per scale in use; the panel's own at the left, that of directions at the right.
+void MakeAxes(const ChartSubject& subject, ChartPanel& panel) {
+  panel.Axes.clear();
+  for (const ChartTrace& drawn : panel.Traces) {
+    const auto at = static_cast<std::size_t>(drawn.Trace);
+    const TraceGroup& group = subject.Groups[at];
+    if (std::any_of(panel.Axes.begin(), panel.Axes.end(),
+                    [&group](const ChartAxis& axis) { return axis.ScaleIndex == group.Scale; })) {
+      continue;
+    }
+    ChartAxis axis;
+    axis.ScaleIndex = group.Scale;
+    axis.Scale.Kind = group.Kind;
+    axis.Title.Text = AtRight(panel, axis) ? subject.Data.Traces()[at].Name
+                                           : subject.Titles[static_cast<std::size_t>(panel.Group)];
+    if (axis.Scale.Kind == ScaleKind::Linear) {
+      axis.Units.Text = subject.Data.Traces()[at].ShownUnits();
+    }
+    panel.Axes.push_back(axis);
+  }
+  std::sort(panel.Axes.begin(), panel.Axes.end(),
+            [](const ChartAxis& a, const ChartAxis& b) { return a.ScaleIndex < b.ScaleIndex; });
+}
+
+/// The scale that the user chose for an axis, or the one that what shows needs.
+ValueScale ScaleOf(const ChartSubject& subject, const ChartPanel& panel, const ChartAxis& axis, int ticks) {
+  const ScaleChoice& choice = subject.Settings.Scales[static_cast<std::size_t>(axis.ScaleIndex)];
+  if (!choice.Automatic) {
+    return FixedScale(axis.Scale.Kind, static_cast<double>(choice.Low), static_cast<double>(choice.High),
+                      ticks);
+  }
+  std::vector<ValueInterval> shown;
+  for (const ChartTrace& drawn : panel.Traces) {
+    if (subject.Groups[static_cast<std::size_t>(drawn.Trace)].Scale == axis.ScaleIndex) {
+      for (const TraceBucket& bucket : drawn.Buckets) {
+        shown.push_back({static_cast<double>(bucket.Low), static_cast<double>(bucket.High)});
+      }
+    }
+  }
+  return AutomaticScale(axis.Scale.Kind, shown, ticks);
+}
+
 }  // namespace
 
 std::int64_t SlotsOfSpan(const StripChartData& data, int span) {
@@ -72,23 +117,13 @@ void StripChartPicture::Compose(const ChartSubject& subject, const ChartView& vi
   ComposeTime(subject.Data, measure);
 }
 
-void StripChartPicture::LayOut(const ChartSubject& subject, const ChartView& view,
-                               const TextMeasure& measure) {
-  TextHeight = TextFor(view);
-  const double text = TextHeight;
-  const double edge = kEdge * text;
-  Legend.clear();
-
-  // The panels that have something to show, their buffers kept.
+void StripChartPicture::ChoosePanels(const ChartSubject& subject) {
   std::size_t used = 0;
-  std::vector<double> shares;
-  bool directions = false;
   for (std::size_t group = 0; group < subject.Titles.size(); ++group) {
     std::vector<int> shown;
     for (std::size_t i = 0; i < subject.Groups.size(); ++i) {
       if (subject.Groups[i].Group == static_cast<int>(group) && subject.Settings.Traces[i].Shown) {
         shown.push_back(static_cast<int>(i));
-        directions = directions || subject.Groups[i].Kind == ScaleKind::Compass;
       }
     }
     if (shown.empty()) {
@@ -103,39 +138,40 @@ void StripChartPicture::LayOut(const ChartSubject& subject, const ChartView& vie
     for (std::size_t i = 0; i < shown.size(); ++i) {
       panel.Traces[i].Trace = shown[i];
     }
-    constexpr double kLeastShare = 2.0;
-    shares.push_back(std::max(static_cast<double>(shown.size()), kLeastShare));
   }
   Panels.resize(used);
+}
+
+bool StripChartPicture::ShowsDirections(const ChartSubject& subject) const {
+  const auto direction = [&subject](const ChartTrace& drawn) {
+    return subject.Groups[static_cast<std::size_t>(drawn.Trace)].Kind == ScaleKind::Compass;
+  };
+  return std::any_of(Panels.begin(), Panels.end(), [&direction](const ChartPanel& panel) {
+    return std::any_of(panel.Traces.begin(), panel.Traces.end(), direction);
+  });
+}
+
+void StripChartPicture::LayOut(const ChartSubject& subject, const ChartView& view,
+                               const TextMeasure& measure) {
+  TextHeight = TextFor(view);
+  const double text = TextHeight;
+  Legend.clear();
+  ChoosePanels(subject);
 
   const double tick = kTickText * text;
   const double left = measure.Width("-1800", tick) + 0.7 * text;
-  const double right = directions ? measure.Width("3600", tick) + 0.9 * text : 0.7 * text;
+  const double right = ShowsDirections(subject) ? measure.Width("3600", tick) + 0.9 * text : 0.7 * text;
   constexpr double kLegendShare = 0.19;
   const double legend = std::max(view.Width * kLegendShare, LegendLeastWidth(text, measure));
   PlotArea.X = left;
   PlotArea.Width = std::max(view.Width - left - right - legend, 1.0);
+  const double edge = kEdge * text;
   const double bottom = std::max(view.Height - kTimeRow * text, edge + 1.0);
   TimeArea = {PlotArea.X, bottom, PlotArea.Width, kTimeRow * text};
-
-  double sum = 0.0;
-  for (const double share : shares) {
-    sum += share;
-  }
-  const double gaps = kPanelGap * text * static_cast<double>(used > 0 ? used - 1 : 0);
-  const double room = std::max(bottom - edge - gaps, 0.0);
-  double top = edge;
-  for (std::size_t i = 0; i < used; ++i) {
-    const double height = room * shares[i] / sum;
-    const double title = std::min(kTitleRow * text, height / 2.0);
-    Panels[i].Plot = {PlotArea.X, top + title, PlotArea.Width, std::max(height - title, 1.0)};
-    const double legendLeft = PlotArea.Right() + right;
-    PlaceLegendCells(Panels[i],
-                     {legendLeft, top, std::max(view.Width - legendLeft - 0.3 * text, 1.0), height});
-    top += height + kPanelGap * text;
-  }
+  const double legendLeft = PlotArea.Right() + right;
+  StackPanels(edge, bottom, {legendLeft, 0.0, std::max(view.Width - legendLeft - 0.3 * text, 1.0), 0.0});
   ComposeLegend(subject.Data, text, measure, Legend);
-  PlotArea.Y = used > 0 ? Panels.front().Plot.Y : edge;
+  PlotArea.Y = Panels.empty() ? edge : Panels.front().Plot.Y;
   PlotArea.Height = std::max(bottom - PlotArea.Y, 1.0);
 
   const std::int64_t span = SlotsOfSpan(subject.Data, subject.Settings.Span);
@@ -145,6 +181,27 @@ void StripChartPicture::LayOut(const ChartSubject& subject, const ChartView& vie
   // Whole columns, so that they stay what they are while the time goes on.
   EndSlot = (view.EndSlot + PerBucket - 1) / PerBucket * PerBucket;
   LiveSlot = subject.Data.LastSlot() < EndSlot ? subject.Data.LastSlot() / PerBucket * PerBucket : EndSlot;
+}
+
+void StripChartPicture::StackPanels(double top, double bottom, const Box& legend) {
+  const auto share = [](const ChartPanel& panel) {
+    constexpr double kLeastShare = 2.0;
+    return std::max(static_cast<double>(panel.Traces.size()), kLeastShare);
+  };
+  double sum = 0.0;
+  for (const ChartPanel& panel : Panels) {
+    sum += share(panel);
+  }
+  const double gap = kPanelGap * TextHeight;
+  const double gaps = gap * static_cast<double>(Panels.empty() ? 0 : Panels.size() - 1);
+  const double room = std::max(bottom - top - gaps, 0.0);
+  for (ChartPanel& panel : Panels) {
+    const double height = room * share(panel) / sum;
+    const double title = std::min(kTitleRow * TextHeight, height / 2.0);
+    panel.Plot = {PlotArea.X, top + title, PlotArea.Width, std::max(height - title, 1.0)};
+    PlaceLegendCells(panel, {legend.X, top, legend.Width, height});
+    top += height + gap;
+  }
 }
 
 void StripChartPicture::PlaceLegendCells(const ChartPanel& panel, const Box& box) {
@@ -163,84 +220,20 @@ void StripChartPicture::PlaceLegendCells(const ChartPanel& panel, const Box& box
 
 void StripChartPicture::ComposePanel(const ChartSubject& subject, ChartPanel& panel,
                                      const TextMeasure& measure) const {
-  const double text = TextHeight;
-  const int ticks = std::max(2, static_cast<int>(panel.Plot.Height / (kTickRoom * text)));
-  const std::int64_t firstSlot = EndSlot - SlotsOfSpan(subject.Data, subject.Settings.Span);
-
-  // One axis per scale in use; the panel's own at the left, that of directions at the right.
-  panel.Axes.clear();
-  for (ChartTrace& drawn : panel.Traces) {
-    const auto at = static_cast<std::size_t>(drawn.Trace);
-    drawn.Frame.Plot = panel.Plot;
-    drawn.Frame.EndSlot = EndSlot;
-    drawn.Frame.SlotWidth = SlotWidth;
-    drawn.Frame.PerBucket = PerBucket;
-    GatherBuckets(subject.Data, subject.Data.Traces()[at], firstSlot, EndSlot - 1, PerBucket, drawn.Buckets);
-    const int scale = subject.Groups[at].Scale;
-    if (std::none_of(panel.Axes.begin(), panel.Axes.end(),
-                     [scale](const ChartAxis& axis) { return axis.ScaleIndex == scale; })) {
-      ChartAxis axis;
-      axis.ScaleIndex = scale;
-      axis.Scale.Kind = subject.Groups[at].Kind;
-      axis.Title.Text = scale == panel.Group ? subject.Titles[static_cast<std::size_t>(panel.Group)]
-                                             : subject.Data.Traces()[at].Name;
-      if (axis.Scale.Kind == ScaleKind::Linear) {
-        axis.Units.Text = subject.Data.Traces()[at].ShownUnits();
-      }
-      panel.Axes.push_back(axis);
-    }
-  }
-  std::sort(panel.Axes.begin(), panel.Axes.end(),
-            [](const ChartAxis& a, const ChartAxis& b) { return a.ScaleIndex < b.ScaleIndex; });
-
+  GatherTraces(subject, panel);
+  MakeAxes(subject, panel);
+  const int ticks = std::max(2, static_cast<int>(panel.Plot.Height / (kTickRoom * TextHeight)));
   for (ChartAxis& axis : panel.Axes) {
-    const bool right = axis.ScaleIndex != panel.Group;
-    const ScaleChoice& choice = subject.Settings.Scales[static_cast<std::size_t>(axis.ScaleIndex)];
-    if (choice.Automatic) {
-      std::vector<ValueInterval> shown;
-      for (const ChartTrace& drawn : panel.Traces) {
-        if (subject.Groups[static_cast<std::size_t>(drawn.Trace)].Scale == axis.ScaleIndex) {
-          for (const TraceBucket& bucket : drawn.Buckets) {
-            shown.push_back({static_cast<double>(bucket.Low), static_cast<double>(bucket.High)});
-          }
-        }
-      }
-      axis.Scale = AutomaticScale(axis.Scale.Kind, shown, ticks);
-    } else {
-      axis.Scale = FixedScale(axis.Scale.Kind, static_cast<double>(choice.Low),
-                              static_cast<double>(choice.High), ticks);
-    }
-    const Box& plot = panel.Plot;
-    const double titleHeight = kTitleRow * text;
-    axis.Title.Height = text;
-    axis.Title.Align = right ? PlacedText::Side::Right : PlacedText::Side::Left;
-    axis.Title.Place = {plot.X, plot.Y - titleHeight, plot.Width, titleHeight};
-    const double unitsLeft = plot.X + measure.BoldWidth(axis.Title.Text, text) + 0.5 * text;
-    axis.Units.Height = 0.9 * text;
-    axis.Units.Place = {unitsLeft, axis.Title.Place.Y, std::max(plot.Right() - unitsLeft, 0.0), titleHeight};
-    for (const ValueTick& tick : Ticks(axis.Scale)) {
-      const double y =
-          plot.Bottom() - (tick.Value - axis.Scale.Low) / (axis.Scale.High - axis.Scale.Low) * plot.Height;
-      PlacedText label;
-      label.Text = tick.Text;
-      label.Height = kTickText * text;
-      label.Align = right ? PlacedText::Side::Left : PlacedText::Side::Right;
-      const double height = 1.3 * text;
-      const double gap = 0.35 * text;
-      label.Place = right ? Box{plot.Right() + gap, y - height / 2.0,
-                                measure.Width(tick.Text, label.Height) + 1.0, height}
-                          : Box{0.0, y - height / 2.0, plot.X - gap, height};
-      axis.Labels.push_back(label);
-      axis.TickY.push_back(y);
-    }
+    axis.Scale = ScaleOf(subject, panel, axis, ticks);
+    PlaceTitle(panel, measure, axis);
+    PlaceTicks(panel, measure, axis);
   }
   // Both titles share a row: the right one goes where they would meet.
-  if (panel.Axes.size() > 1 && measure.BoldWidth(panel.Axes[0].Title.Text, text) +
-                                       measure.Width(panel.Axes[1].Title.Text, text) + text >
+  if (panel.Axes.size() > 1 && measure.BoldWidth(panel.Axes[0].Title.Text, TextHeight) +
+                                       measure.Width(panel.Axes[1].Title.Text, TextHeight) + TextHeight >
                                    panel.Plot.Width) {
     panel.Axes[1].Title.Text.clear();
   }
-
   for (ChartTrace& drawn : panel.Traces) {
     const int scale = subject.Groups[static_cast<std::size_t>(drawn.Trace)].Scale;
     for (const ChartAxis& axis : panel.Axes) {
@@ -254,6 +247,52 @@ void StripChartPicture::ComposePanel(const ChartSubject& subject, ChartPanel& pa
     }
     TraceBuckets(drawn.Frame, drawn.Buckets, 0, live, drawn.Past);
     TraceBuckets(drawn.Frame, drawn.Buckets, live, drawn.Buckets.size(), drawn.Live);
+  }
+}
+
+void StripChartPicture::GatherTraces(const ChartSubject& subject, ChartPanel& panel) const {
+  const std::int64_t firstSlot = EndSlot - SlotsOfSpan(subject.Data, subject.Settings.Span);
+  for (ChartTrace& drawn : panel.Traces) {
+    drawn.Frame.Plot = panel.Plot;
+    drawn.Frame.EndSlot = EndSlot;
+    drawn.Frame.SlotWidth = SlotWidth;
+    drawn.Frame.PerBucket = PerBucket;
+    GatherBuckets(subject.Data, subject.Data.Traces()[static_cast<std::size_t>(drawn.Trace)], firstSlot,
+                  EndSlot - 1, PerBucket, drawn.Buckets);
+  }
+}
+
+void StripChartPicture::PlaceTitle(const ChartPanel& panel, const TextMeasure& measure,
+                                   ChartAxis& axis) const {
+  const double text = TextHeight;
+  const Box& plot = panel.Plot;
+  const double height = kTitleRow * text;
+  axis.Title.Height = text;
+  axis.Title.Align = AtRight(panel, axis) ? PlacedText::Side::Right : PlacedText::Side::Left;
+  axis.Title.Place = {plot.X, plot.Y - height, plot.Width, height};
+  const double unitsLeft = plot.X + measure.BoldWidth(axis.Title.Text, text) + 0.5 * text;
+  axis.Units.Height = 0.9 * text;
+  axis.Units.Place = {unitsLeft, axis.Title.Place.Y, std::max(plot.Right() - unitsLeft, 0.0), height};
+}
+
+void StripChartPicture::PlaceTicks(const ChartPanel& panel, const TextMeasure& measure,
+                                   ChartAxis& axis) const {
+  const bool right = AtRight(panel, axis);
+  const double height = 1.3 * TextHeight;
+  const double gap = 0.35 * TextHeight;
+  const Box& plot = panel.Plot;
+  for (const ValueTick& tick : Ticks(axis.Scale)) {
+    const double y =
+        plot.Bottom() - (tick.Value - axis.Scale.Low) / (axis.Scale.High - axis.Scale.Low) * plot.Height;
+    PlacedText label;
+    label.Text = tick.Text;
+    label.Height = kTickText * TextHeight;
+    label.Align = right ? PlacedText::Side::Left : PlacedText::Side::Right;
+    label.Place = right ? Box{plot.Right() + gap, y - height / 2.0,
+                              measure.Width(tick.Text, label.Height) + 1.0, height}
+                        : Box{0.0, y - height / 2.0, plot.X - gap, height};
+    axis.Labels.push_back(label);
+    axis.TickY.push_back(y);
   }
 }
 

@@ -107,8 +107,16 @@ struct StripChartPicture {
 
  private:
   void LayOut(const ChartSubject& subject, const ChartView& view, const TextMeasure& measure);
+  /// The panels that have something to show, their buffers kept.
+  void ChoosePanels(const ChartSubject& subject);
+  bool ShowsDirections(const ChartSubject& subject) const;
+  /// Panels from `top` to `bottom`, each with its part of the column `legend` beside it.
+  void StackPanels(double top, double bottom, const Box& legend);
   void PlaceLegendCells(const ChartPanel& panel, const Box& box);
   void ComposePanel(const ChartSubject& subject, ChartPanel& panel, const TextMeasure& measure) const;
+  void GatherTraces(const ChartSubject& subject, ChartPanel& panel) const;
+  void PlaceTitle(const ChartPanel& panel, const TextMeasure& measure, ChartAxis& axis) const;
+  void PlaceTicks(const ChartPanel& panel, const TextMeasure& measure, ChartAxis& axis) const;
   void ComposeTime(const StripChartData& data, const TextMeasure& measure);
 };
 
