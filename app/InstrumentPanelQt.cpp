@@ -37,6 +37,13 @@ QFont Sized(const QFont& font, double pixels, QFont::Weight weight) {
   return sized;
 }
 
+void PlaceText(QWidget* control, const Box& box, const QFont& letters) {
+  control->setGeometry(Rounded(box));
+  if (control->font() != letters) {
+    control->setFont(letters);
+  }
+}
+
 }  // namespace
 
 InstrumentPanelQt::InstrumentPanelQt(QWidget* parent) : QWidget(parent), m_theme(palette()) {
@@ -165,74 +172,69 @@ void InstrumentPanelQt::changeEvent(QEvent* event) {
 
 void InstrumentPanelQt::Place() {
   m_layout = LayPanel(std::max(1, width()), std::max(1, height()));
-  const QFont captions = Sized(font(), m_layout.CaptionText, QFont::Normal);
-  const QFont buttons = Sized(font(), m_layout.ButtonText, QFont::Bold);
-  const QFont figures = Sized(font(), 1.0, QFont::Normal);
-
-  const auto place = [](QWidget* control, const Box& box, const QFont& textFont) {
-    control->setGeometry(Rounded(box));
-    if (control->font() != textFont) {
-      control->setFont(textFont);
-    }
-  };
-  using Group = std::initializer_list<std::pair<ValueLabelQt*, const PanelLayout::Readout*>>;
-  // Figures of a group stand in one size.
-  const auto placeValues = [&](const Group& group, int most) {
-    int height = most;
-    for (const auto& [label, readout] : group) {
-      height = std::min(height, FittingTextHeight(figures, label->Pattern(), Rounded(readout->Value).size()));
-    }
-    for (const auto& [label, readout] : group) {
-      label->setGeometry(Rounded(readout->Value));
-      label->TextHeight(height);
-      auto* caption = findChild<QLabel*>(label->objectName() + QStringLiteral(".Caption"));
-      place(caption, readout->Caption, captions);
-    }
-    return height;
-  };
-  const auto placeEntry = [&](EntryBoxQt* box, CaptionQt* caption, const PanelLayout::Readout& readout) {
-    place(caption, readout.Caption, captions);
-    const QRect area = Rounded(readout.Value);
-    box->setGeometry(area);
-    // Room for the frame and the cursor.
-    const QSize inside(area.width() - 16, area.height() - 6);
-    const int height = FittingTextHeight(figures, box->Pattern(), inside * 0.92);
-    place(box, readout.Value, Sized(font(), height, QFont::Normal));
-  };
-
   const PanelLayout::Wind& app = m_layout.Winds[0];
   const PanelLayout::Wind& trueWind = m_layout.Winds[1];
   const int most = std::max(1, height());
-  const int winds = placeValues({{lblAppWindAngle, &app.Angle},
+  const int winds = PlaceValues({{lblAppWindAngle, &app.Angle},
                                  {lblAppWindSpeed, &app.Speed},
                                  {lblTrueWindAngle, &trueWind.Angle},
                                  {lblTrueWindSpeed, &trueWind.Speed}},
                                 most);
-  placeValues({{lblHeading, &m_layout.Heading.Value},
+  PlaceValues({{lblHeading, &m_layout.Heading.Value},
                {lblBoatSpeed, &m_layout.BoatSpeed.Value},
                {lblWaypointBearing, &m_layout.Waypoint.Value}},
               winds + winds / 5);
-  placeValues({{lblDelta[0], &app.Delta}, {lblDelta[1], &trueWind.Delta}}, most);
-  placeEntry(txtDesired[0], lblDesired[0], app.Desired);
-  placeEntry(txtDesired[1], lblDesired[1], trueWind.Desired);
-  placeEntry(txtAutoPilot, lblAutoPilot, m_layout.AutoPilot.Bearing);
-
+  PlaceValues({{lblDelta[0], &app.Delta}, {lblDelta[1], &trueWind.Delta}}, most);
+  PlaceEntry(txtDesired[0], lblDesired[0], app.Desired);
+  PlaceEntry(txtDesired[1], lblDesired[1], trueWind.Desired);
+  PlaceEntry(txtAutoPilot, lblAutoPilot, m_layout.AutoPilot.Bearing);
   for (std::size_t i = 0; i < m_layout.Winds.size(); ++i) {
-    place(optControl[i], m_layout.Winds[i].Option, buttons);
+    PlaceText(optControl[i], m_layout.Winds[i].Option, ButtonFont());
   }
-  // Both buttons of a pair have letters of one size.
-  const auto placeNudges = [&](const ControlArray<NudgeButtonQt>& pair, const Box& port,
-                               const Box& starboard) {
-    const int height = std::min(pair[0]->FittingTextHeight(buttons, port.Width),
-                                pair[1]->FittingTextHeight(buttons, starboard.Width));
-    const QFont letters = Sized(font(), height, QFont::Bold);
-    place(pair[0], port, letters);
-    place(pair[1], starboard, letters);
-  };
-  placeNudges(cmdDesiredApp, app.Port, app.Starboard);
-  placeNudges(cmdDesiredTrue, trueWind.Port, trueWind.Starboard);
-  placeNudges(cmdAutoPilot, m_layout.AutoPilot.Port, m_layout.AutoPilot.Starboard);
+  PlaceNudges(cmdDesiredApp, app.Port, app.Starboard);
+  PlaceNudges(cmdDesiredTrue, trueWind.Port, trueWind.Starboard);
+  PlaceNudges(cmdAutoPilot, m_layout.AutoPilot.Port, m_layout.AutoPilot.Starboard);
   Repaint();
+}
+
+QFont InstrumentPanelQt::CaptionFont() const { return Sized(font(), m_layout.CaptionText, QFont::Normal); }
+
+QFont InstrumentPanelQt::ButtonFont() const { return Sized(font(), m_layout.ButtonText, QFont::Bold); }
+
+int InstrumentPanelQt::PlaceValues(const ValueGroup& group, int most) {
+  const QFont figures = Sized(font(), 1.0, QFont::Normal);
+  const QFont captions = CaptionFont();
+  int height = most;
+  for (const auto& [label, readout] : group) {
+    height = std::min(height, FittingTextHeight(figures, label->Pattern(), Rounded(readout->Value).size()));
+  }
+  for (const auto& [label, readout] : group) {
+    label->setGeometry(Rounded(readout->Value));
+    label->TextHeight(height);
+    auto* caption = findChild<QLabel*>(label->objectName() + QStringLiteral(".Caption"));
+    PlaceText(caption, readout->Caption, captions);
+  }
+  return height;
+}
+
+void InstrumentPanelQt::PlaceEntry(EntryBoxQt* box, CaptionQt* caption, const PanelLayout::Readout& readout) {
+  PlaceText(caption, readout.Caption, CaptionFont());
+  const QRect area = Rounded(readout.Value);
+  // Room for the frame and the cursor.
+  const QSize inside(area.width() - 16, area.height() - 6);
+  const QFont figures = Sized(font(), 1.0, QFont::Normal);
+  const int height = FittingTextHeight(figures, box->Pattern(), inside * 0.92);
+  PlaceText(box, readout.Value, Sized(font(), height, QFont::Normal));
+}
+
+void InstrumentPanelQt::PlaceNudges(const ControlArray<NudgeButtonQt>& pair, const Box& port,
+                                    const Box& starboard) {
+  const QFont buttons = ButtonFont();
+  const int height = std::min(pair[0]->FittingTextHeight(buttons, port.Width),
+                              pair[1]->FittingTextHeight(buttons, starboard.Width));
+  const QFont letters = Sized(font(), height, QFont::Bold);
+  PlaceText(pair[0], port, letters);
+  PlaceText(pair[1], starboard, letters);
 }
 
 void InstrumentPanelQt::ApplyTheme() {

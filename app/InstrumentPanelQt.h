@@ -5,6 +5,8 @@
 #include <QPixmap>
 #include <QWidget>
 #include <array>
+#include <initializer_list>
+#include <utility>
 
 #include "app/PanelControlsQt.h"
 #include "app/PanelLayout.h"
@@ -61,7 +63,16 @@ class InstrumentPanelQt final : public QWidget {
   EntryBoxQt* NewEntry(const char* name, const char* pattern, const char* description);
   NudgeButtonQt* NewNudge(const char* array, int index);
   void OrderTabs();
+  using ValueGroup = std::initializer_list<std::pair<ValueLabelQt*, const PanelLayout::Readout*>>;
+
   void Place();
+  QFont CaptionFont() const;
+  QFont ButtonFont() const;
+  /// Figures of a group stand in one size, of `most` pixels at most; returns it.
+  int PlaceValues(const ValueGroup& group, int most);
+  void PlaceEntry(EntryBoxQt* box, CaptionQt* caption, const PanelLayout::Readout& readout);
+  /// Both buttons of a pair have letters of one size.
+  void PlaceNudges(const ControlArray<NudgeButtonQt>& pair, const Box& port, const Box& starboard);
   void ApplyTheme();
   /// Draws the cards again.
   void Repaint();
