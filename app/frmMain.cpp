@@ -255,7 +255,7 @@ void frmMain::tbrTrack_ButtonClick(TrackMode mode) {
 
 void frmMain::optControl_Click(int index) {
   m_instead.clear();
-  m_helm.Loop().Side(index == 2 ? TrackSide::True : TrackSide::Apparent);
+  m_helm.Track(index == 2 ? TrackSide::True : TrackSide::Apparent);
   ShowControls();
   ShowModeText();
 }

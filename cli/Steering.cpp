@@ -1,9 +1,17 @@
 #include "cli/Steering.h"
 
 #include "helm/SettingsProfile.h"
+#include "nmea/Fields.h"
+#include "nmea/SentenceTable.h"
 #include "platform/Profile.h"
 
 namespace veerwatch {
+
+namespace {
+
+constexpr std::int64_t kSecond = 1000;  // [ms]
+
+}  // namespace
 
 Steering::Steering(const SteeringOptions& options, bool simulate, std::uint64_t seed)
     : m_mode(options.Mode),
@@ -20,6 +28,15 @@ Steering::Steering(const SteeringOptions& options, bool simulate, std::uint64_t 
   }
   m_settings.m_bSimulate = simulate;
   m_helm.Loop().Side(options.Side);
+}
+
+bool Steering::BringsTracked(std::string_view line) const {
+  const SentenceKind* kind = FindSentence(line);
+  if (kind == nullptr || !kind->IsWind) {
+    return false;
+  }
+  const bool fromSensor = m_helm.Loop().Side() == TrackSide::True && m_settings.m_iNmeaTrueWind == 0;
+  return Fields(line)[2] == (fromSensor ? "T" : "R");
 }
 
 void Steering::Start() { m_helm.Modes().TrackSetSetup(); }
@@ -39,12 +56,15 @@ void Steering::EnterMode() {
 
 void Steering::Line(const std::string& line) {
   Forget();
+  // A log without times: a second for each wind of the tracked side.
+  if (BringsTracked(line)) {
+    m_clock.Pass(kSecond);
+  }
   m_bytes.assign(line).push_back('\r');
   m_nmeaPort.Arrive(m_bytes);
 }
 
 void Steering::Tick() {
-  constexpr std::int64_t kSecond = 1000;  // [ms]
   Forget();
   m_clock.Pass(kSecond);
   m_helm.Tick();

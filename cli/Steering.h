@@ -5,6 +5,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 
 #include "cli/MemoryPort.h"
 #include "helm/Helm.h"
@@ -63,6 +64,8 @@ class Steering final : private HelmObserver {
 
  private:
   void Forget();
+  /// A wind of the side that is tracked, or that it follows from.
+  bool BringsTracked(std::string_view line) const;
 
   void OnInputStatus(const PortStatus& status) override { m_status = InputStatusText(status); }
   void OnNmeaLine(std::string_view line, LineFault fault, bool used) override;

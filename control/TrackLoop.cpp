@@ -9,28 +9,91 @@
 
 namespace veerwatch {
 
+namespace {
+
+constexpr double kFarOff = 15.0;         // [deg]
+constexpr float kLeastBandwidth = 1.0F;  // [s], before the first tracking
+
+constexpr std::size_t At(TrackSide side) { return side == TrackSide::True ? 1 : 0; }
+
+}  // namespace
+
+bool TrackLoop::CanTrack() const {
+  const auto above0 = [](float value) { return value > 0.0F && std::isfinite(value); };
+  const bool bandwidth = above0(m_settings.m_fTrackBandwidth);
+  const bool limits = above0(m_settings.m_fTrackMaxAhead) && above0(m_settings.m_fTrackMaxRate);
+  const bool gains = bandwidth && TrackGainsFor(static_cast<double>(m_settings.m_fTrackBandwidth),
+                                                static_cast<double>(m_settings.m_fTrackDamping));
+  switch (m_settings.m_eTrackMethod) {
+    case TrackMethod::Sentence:
+      return gains;
+    case TrackMethod::Clock:
+      return gains && limits;
+    case TrackMethod::Direction:
+      return bandwidth && limits;
+  }
+  return false;
+}
+
+bool TrackLoop::LacksHeading() const {
+  return m_settings.m_eTrackMethod != TrackMethod::Sentence && !m_data.HeadingValid;
+}
+
 bool TrackLoop::StartTracking() {
-  if (!(m_settings.m_fTrackBandwidth > 0.0F)) {
+  if (!CanTrack()) {
     return false;
   }
-  const auto gains = TrackGainsFor(static_cast<double>(m_settings.m_fTrackBandwidth),
-                                   static_cast<double>(m_settings.m_fTrackDamping));
-  if (!gains) {
-    return false;
-  }
+  m_method = m_settings.m_eTrackMethod;
   m_tuning = {m_settings.m_fTrackBandwidth, m_settings.m_fTrackDamping};
-  m_controller.Start(*gains);
-  m_stepped.reset();
+  m_limits = {static_cast<double>(m_settings.m_fTrackMaxAhead),
+              static_cast<double>(m_settings.m_fTrackMaxRate)};
+  const TrackGains gains =
+      TrackGainsFor(static_cast<double>(m_tuning.Bandwidth), static_cast<double>(m_tuning.Damping))
+          .value_or(TrackGains());
+  m_controller.Start(gains);
+  m_clock.Start(gains);
+  m_tracked.Restart();
+  m_alarmError = 0.0F;
+  if (m_method != TrackMethod::Sentence && m_settings.m_eTrackMode != TrackMode::Track) {
+    HoldMean(TrackSide::Apparent);
+    HoldMean(TrackSide::True);
+    const double off = static_cast<double>(m_settings.m_fAutoPilot) - static_cast<double>(m_data.Heading);
+    if (m_data.HeadingValid && std::fabs(FoldRelative(off)) > static_cast<float>(kFarOff)) {
+      SetAutoPilot(static_cast<double>(m_data.Heading));
+    }
+  }
+  m_direction.Start(static_cast<double>(m_settings.m_fAutoPilot));
   return true;
 }
 
-LoopStep TrackLoop::ControlStep(const Moment& now) {
+bool TrackLoop::HoldMean(TrackSide side) {
+  const auto mean = m_means[At(side)].Mean();
+  if (mean) {
+    SetDesired(side, *mean);
+  }
+  return mean.has_value();
+}
+
+bool TrackLoop::Side(TrackSide side) {
+  const bool other = std::exchange(m_side, side) != side;
+  if (!other || m_method == TrackMethod::Sentence || m_settings.m_eTrackMode != TrackMode::Track) {
+    return false;
+  }
+  m_controller.Reset();
+  m_clock.Reset();
+  m_direction.Reset();
+  m_tracked.Restart();
+  return HoldMean(side);
+}
+
+LoopStep TrackLoop::ControlStep(const LoopInput& input) {
   const TrackMode mode = m_settings.m_eTrackMode;
   LoopStep step;
   if (mode == TrackMode::Off || mode == TrackMode::Switching) {
     return step;
   }
   step.Ran = true;
+  Listen(input);
   float& apparent = Desired(TrackSide::Apparent);
   float& trueWind = Desired(TrackSide::True);
   if (mode == TrackMode::Setup || mode == TrackMode::Manual) {
@@ -42,33 +105,86 @@ LoopStep TrackLoop::ControlStep(const Moment& now) {
       FoldRelative(static_cast<double>(m_data.WindAngleApparent) - static_cast<double>(apparent));
   step.DeltaTrue = FoldRelative(static_cast<double>(m_data.WindAngleTrue) - static_cast<double>(trueWind));
 
+  const double seconds = m_passes.Next(input.Now);
   if (mode == TrackMode::Track) {
     step.Tracked = true;
-    step.Error = m_side == TrackSide::Apparent ? step.DeltaApparent : step.DeltaTrue;
-    Control(step.Error, now);
-    step.Rings = TestAlarm(step.Error);
+    const float error = m_side == TrackSide::Apparent ? step.DeltaApparent : step.DeltaTrue;
+    step.Error = Control(error, input);
+    step.Rings = TestAlarm(error, seconds);
   }
   step.Sends = mode != TrackMode::Setup;
   m_previousAutoPilot = m_settings.m_fAutoPilot;
   return step;
 }
 
-double TrackLoop::Elapsed(const Moment& now) {
-  constexpr double kMillisecondsPerSecond = 1000.0;
-  const Moment before = std::exchange(m_stepped, now).value_or(now);
-  return std::max(0.0, static_cast<double>(now.Steady - before.Steady) / kMillisecondsPerSecond);
+void TrackLoop::Listen(const LoopInput& input) {
+  if (input.BringsApparent) {
+    m_means[At(TrackSide::Apparent)].Add(static_cast<double>(m_data.WindAngleApparent), input.Now.Steady);
+  }
+  m_trueSeconds = 0.0;
+  if (!input.BringsTrue) {
+    return;
+  }
+  const LoopInput::Wind wind =
+      input.TrueWind.value_or(LoopInput::Wind{m_data.WindAngleTrue, m_data.WindSpeedTrue});
+  m_means[At(TrackSide::True)].Add(static_cast<double>(wind.Angle), input.Now.Steady);
+  if (m_settings.m_eTrackMethod != TrackMethod::Direction && m_method != TrackMethod::Direction) {
+    return;
+  }
+  m_trueSeconds = m_winds.Next(input.Now);
+  m_direction.Feed({static_cast<double>(wind.Angle), static_cast<double>(wind.Speed),
+                    m_data.BoatSpeedValid ? static_cast<double>(m_data.BoatSpeed) : 0.0, Heading(input),
+                    static_cast<double>(m_settings.m_fAutoPilot)},
+                   m_trueSeconds, static_cast<double>(std::max(m_tuning.Bandwidth, kLeastBandwidth)));
 }
 
-void TrackLoop::Control(float error, const Moment& now) {
-  const double bearing = m_controller.Step(static_cast<double>(error), Elapsed(now)) +
-                         static_cast<double>(m_settings.m_fAutoPilot);
+std::optional<double> TrackLoop::Heading(const LoopInput& input) const {
+  const bool there = m_data.HeadingValid && input.HeadingFresh;
+  return there ? std::optional(static_cast<double>(m_data.Heading)) : std::nullopt;
+}
+
+float TrackLoop::Control(float error, const LoopInput& input) {
+  const auto before = static_cast<double>(m_settings.m_fAutoPilot);
+  const bool tracked = m_side == TrackSide::Apparent ? input.BringsApparent : input.BringsTrue;
+  switch (m_method) {
+    case TrackMethod::Sentence:
+      Take(before + m_controller.Step(static_cast<double>(error), m_tracked.Next(input.Now)));
+      break;
+    case TrackMethod::Clock:
+      if (tracked) {
+        Take(
+            m_clock
+                .Step(static_cast<double>(error), m_tracked.Next(input.Now), before, Heading(input), m_limits)
+                .Bearing);
+      }
+      break;
+    case TrackMethod::Direction: {
+      const auto answer = m_direction.Step(
+          {m_side, static_cast<double>(Desired(m_side)), m_means[At(TrackSide::Apparent)].Mean()}, before,
+          m_limits, m_trueSeconds);
+      if (answer) {
+        Take(answer->Steer.Bearing);
+        m_directionError = ToSingle(answer->Error);
+      }
+      return m_directionError;
+    }
+  }
+  return error;
+}
+
+void TrackLoop::Take(double bearing) {
   if (std::isfinite(bearing)) {
     m_settings.m_fAutoPilot = FoldBearing(bearing);
   }
 }
 
-LoopStep::Alarm TrackLoop::TestAlarm(float error) {
-  if (m_settings.m_bTrackAlarm && std::fabs(error) > m_settings.m_fTrackAlarmLimit) {
+LoopStep::Alarm TrackLoop::TestAlarm(float error, double seconds) {
+  const auto average = static_cast<double>(m_settings.m_fTrackAlarmAverage);
+  const double weight = average > 0.0 ? 1.0 - std::exp(-seconds / average) : 1.0;
+  const double apart =
+      static_cast<double>(FoldRelative(static_cast<double>(error) - static_cast<double>(m_alarmError)));
+  m_alarmError = weight < 1.0 ? FoldRelative(static_cast<double>(m_alarmError) + apart * weight) : error;
+  if (m_settings.m_bTrackAlarm && std::fabs(m_alarmError) > m_settings.m_fTrackAlarmLimit) {
     m_alarmActive = true;
     return LoopStep::Alarm::Raised;
   }
@@ -86,6 +202,8 @@ bool TrackLoop::TrackSteerTo(float change) {
   }
   SetAutoPilot(static_cast<double>(m_settings.m_fAutoPilot) + static_cast<double>(change));
   m_controller.Reset();
+  m_clock.Reset();
+  m_direction.Reset();
   return true;
 }
 
@@ -102,11 +220,7 @@ void TrackLoop::TurnHeldWind(float change) {
   SetDesired(TrackSide::Apparent, static_cast<double>(apparent));
 }
 
-void TrackLoop::SetAutoPilot(double bearing) {
-  if (std::isfinite(bearing)) {
-    m_settings.m_fAutoPilot = FoldBearing(bearing);
-  }
-}
+void TrackLoop::SetAutoPilot(double bearing) { Take(bearing); }
 
 void TrackLoop::SetDesired(TrackSide side, double angle) {
   if (std::isfinite(angle)) {

@@ -4,7 +4,12 @@
 #include <optional>
 #include <utility>
 
+#include "control/BearingLimits.h"
+#include "control/PassTime.h"
+#include "control/TrackClock.h"
 #include "control/TrackController.h"
+#include "control/TrackDirection.h"
+#include "control/WindMean.h"
 #include "instruments/InstrumentData.h"
 #include "platform/Clock.h"
 #include "settings/Settings.h"
@@ -16,6 +21,23 @@ namespace veerwatch {
 struct TrackTuning {
   float Bandwidth = 0.0F;  ///< [s]
   float Damping = 0.0F;
+};
+
+/// What a pass of the loop works on besides the record.
+struct LoopInput {
+  /// A wind that came at `now`, for both sides.
+  LoopInput(const Moment& now) : Now(now) {}  // NOLINT(google-explicit-constructor): a pass is mostly that
+
+  Moment Now;
+  bool BringsApparent = true;  ///< this wind is an apparent one
+  bool BringsTrue = true;      ///< a true one came with it, or follows from it
+  bool HeadingFresh = true;    ///< the record's heading is of the last seconds
+  /// The true wind before it was smoothed, where the record's is [deg relative], [kn].
+  struct Wind {
+    float Angle = 0.0F;
+    float Speed = 0.0F;
+  };
+  std::optional<Wind> TrueWind;
 };
 
 /// What one pass of the loop did, for whoever sends and tells.
@@ -36,13 +58,19 @@ class TrackLoop {
   /// Everything outlives this.
   TrackLoop(Settings& settings, const InstrumentData& data) : m_settings(settings), m_data(data) {}
 
-  /// Computes the gains from bandwidth and damping and zeroes the accumulator. False, with nothing changed,
-  /// when the bandwidth is not above 0 or a gain is not finite.
+  /// Whether the settings give gains, or where they need none, a time constant and limits.
+  bool CanTrack() const;
+  /// Whether the method of the settings needs a heading and there is none.
+  bool LacksHeading() const;
+
+  /// Takes method, gains and limits from the settings and begins anew with them: empty accumulators. False,
+  /// with nothing changed, where it cannot track. But for Sentence, and from another mode than Track, what is
+  /// held is the wind of the last ten seconds, and a bearing far off the heading begins at the heading.
   bool StartTracking();
 
-  /// One pass over the record at `now`, by the present mode.
-  /// Deliberate: no correction is limited, and an error equal to the alarm limit raises no alarm.
-  LoopStep ControlStep(const Moment& now);
+  /// One pass over the record by the present mode.
+  /// Deliberate: Sentence limits no correction, and an error equal to the alarm limit raises no alarm.
+  LoopStep ControlStep(const LoopInput& input);
 
   /// Moves the held wind angle by -`change` and the bearing by `change` [deg, positive to starboard], and
   /// zeroes the accumulator. Only in Track, and only for a finite change: true when it did.
@@ -60,7 +88,9 @@ class TrackLoop {
   bool WithdrawAlarm() { return std::exchange(m_alarmActive, false); }
 
   TrackSide Side() const { return m_side; }
-  void Side(TrackSide side) { m_side = side; }
+  /// While another method than Sentence tracks, the angle of the last ten seconds is held from now on: true
+  /// when that changed what is held.
+  bool Side(TrackSide side);
 
   /// What the latest StartTracking that succeeded took from the settings; later settings wait for the next.
   const TrackTuning& Tuning() const { return m_tuning; }
@@ -72,18 +102,32 @@ class TrackLoop {
 
  private:
   float& Desired(TrackSide side) { return m_settings.DesiredAngle[static_cast<std::size_t>(side)]; }
-  /// The time since the pass before [s, at least 0]; 0 at the first one.
-  double Elapsed(const Moment& now);
-  void Control(float error, const Moment& now);
+  void Listen(const LoopInput& input);
+  /// The angle of the last ten seconds is held from now on; false where none came.
+  bool HoldMean(TrackSide side);
+  std::optional<double> Heading(const LoopInput& input) const;
+  /// Corrects the bearing; the error that the method works on [deg].
+  float Control(float error, const LoopInput& input);
+  void Take(double bearing);
   void TurnHeldWind(float change);
-  LoopStep::Alarm TestAlarm(float error);
+  LoopStep::Alarm TestAlarm(float error, double seconds);
 
   Settings& m_settings;
   const InstrumentData& m_data;
   TrackSide m_side = TrackSide::Apparent;
   TrackTuning m_tuning;
+  TrackMethod m_method = TrackMethod::Sentence;  ///< of the latest start
+  BearingLimits m_limits;
   TrackController m_controller;
-  std::optional<Moment> m_stepped;  ///< the pass before; nothing at the first one of a tracking
+  TrackClock m_clock;
+  TrackDirection m_direction;
+  WindMean m_means[2];            ///< apparent and true
+  PassTime m_tracked;             ///< between the winds of the tracked side
+  PassTime m_winds;               ///< between the winds that feed the direction
+  PassTime m_passes;              ///< between all passes
+  double m_trueSeconds = 0.0;     ///< since the latest wind that fed the direction [s]
+  float m_directionError = 0.0F;  ///< the latest error of the direction [deg]
+  float m_alarmError = 0.0F;      ///< the error that the alarm tests [deg]
   float m_previousAutoPilot = 0.0F;
   bool m_alarmActive = false;
 };

@@ -6,6 +6,8 @@ std::string_view TrackRefusalText(TrackRefusal why) {
   switch (why) {
     case TrackRefusal::NoGains:
       return "Track needs a bandwidth above 0 and a usable damping";
+    case TrackRefusal::NoHeading:
+      return "Track Needs a Heading";
   }
   return {};
 }
@@ -44,9 +46,10 @@ void TrackModes::TrackSetManual() {
 }
 
 void TrackModes::TrackSetTrack() {
-  if (!m_loop.StartTracking()) {
+  const bool lacksHeading = m_loop.LacksHeading();
+  if (lacksHeading || !m_loop.StartTracking()) {
     m_observer.OnTrackMode(m_settings.m_eTrackMode);
-    m_observer.OnTrackRefused(TrackRefusal::NoGains);
+    m_observer.OnTrackRefused(lacksHeading ? TrackRefusal::NoHeading : TrackRefusal::NoGains);
     return;
   }
   Leave();

@@ -13,7 +13,8 @@ namespace veerwatch {
 
 /// Why Track is refused.
 enum class TrackRefusal {
-  NoGains,  ///< bandwidth and damping give no usable gains
+  NoGains,    ///< bandwidth, damping and limits give no usable gains
+  NoHeading,  ///< the method needs one, and none came yet
 };
 
 /// One line for the status bar.

@@ -46,6 +46,12 @@ HelmNow Helm::Now() const {
 
 // The order of the steps
 
+namespace {
+
+constexpr std::int64_t kStale = 4000;  // [ms]
+
+}  // namespace
+
 void Helm::OnSentence(std::string_view line, const Dispatcher::Outcome& outcome, const Moment& now) {
   // Deliberate: an enabled wind sentence that brings no wind runs the steps, too.
   const InstrumentData& data = Data();
@@ -70,7 +76,10 @@ void Helm::OnSentence(std::string_view line, const Dispatcher::Outcome& outcome,
 }
 
 void Helm::SimulatorTick() {
-  const Moment now = m_clock.Now();
+  // The simulated boat has a clock of its own: a tick is a second, however coarse the timer.
+  constexpr std::int64_t kSecond = 1000;  // [ms]
+  m_simulated += kSecond;
+  const Moment now{m_simulated, m_clock.Now().Wall};
   m_simulator.Tick(now);
   // Deliberate: no validity is tested.
   const Pass pass = Steer(now);
@@ -82,8 +91,16 @@ void Helm::SimulatorTick() {
 }
 
 Helm::Pass Helm::Steer(const Moment& now) {
+  LoopInput input(now);
+  input.BringsApparent = m_record.Changed(RecordValue::WindApparent);
+  input.BringsTrue = m_record.Changed(RecordValue::WindTrue);
+  input.HeadingFresh = m_record.Age(RecordValue::Heading, now).value_or(kStale) < kStale;
+  if (m_settings.m_eTrackMethod == TrackMethod::Direction) {
+    const InstrumentRecord::Wind wind = m_record.WindTrueUnsmoothed();
+    input.TrueWind = LoopInput::Wind{wind.Angle, wind.Speed};
+  }
   Pass pass;
-  pass.Step = m_loop.ControlStep(now);
+  pass.Step = m_loop.ControlStep(input);
   if (pass.Step.Sends) {
     pass.Sentence = m_pilot.PilotSend(m_settings.m_fAutoPilot);
   }
@@ -178,6 +195,12 @@ void Helm::TellPolar() {
 void Helm::TrackSteerTo(float change) {
   if (m_loop.TrackSteerTo(change)) {
     m_observers.Tell([this](HelmObserver& observer) { observer.OnAutoPilot(m_settings.m_fAutoPilot); });
+    TellDesired();
+  }
+}
+
+void Helm::Track(TrackSide side) {
+  if (m_loop.Side(side)) {
     TellDesired();
   }
 }

@@ -3,6 +3,7 @@
 // drive one. It alone says what follows what: steer first, tell afterwards.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -40,6 +41,8 @@ class Helm final : private NmeaReceiver::Observer,
 
   // What the user, or a turn, does with the pilot.
 
+  /// The side that is tracked; what is held may follow it, told.
+  void Track(TrackSide side);
   /// TrackLoop::TrackSteerTo, told.
   void TrackSteerTo(float change);
   /// Takes a bearing that the user sets [deg magnetic, any turn]; one that is not finite changes nothing.
@@ -106,6 +109,7 @@ class Helm final : private NmeaReceiver::Observer,
   TrackLoop m_loop;
   TrackModes m_modes;
   Simulator m_simulator;
+  std::int64_t m_simulated = 0;  ///< clock of the simulated boat [ms]
   InputState m_inputState = InputState::Stopped;
   OutputState m_outputState = OutputState::None;
   std::string m_inputFailure;

@@ -37,11 +37,32 @@ void InstrumentRecord::Note(RecordValue value, const Origin& from) {
   m_changed.set(static_cast<std::size_t>(value));
 }
 
+float InstrumentRecord::CountOf(RecordValue value, float count, const Origin& from) const {
+  const std::optional<Origin> before = Source(value);
+  if (m_settings.m_eTrackMethod == TrackMethod::Sentence || !before) {
+    return count;
+  }
+  constexpr double kMillisecondsPerSecond = 1000.0;
+  constexpr double kLongest = 2.0;  // [s]
+  const double seconds = static_cast<double>(from.At.Steady - before->At.Steady) / kMillisecondsPerSecond;
+  return AverageCountAfter(count, std::clamp(seconds, 0.0, kLongest));
+}
+
+InstrumentRecord::Wind InstrumentRecord::WindTrueUnsmoothed() const {
+  Wind wind = m_sensorWind;
+  if (m_trueComputed) {
+    WindTrueFromApparent(m_data.WindSpeedApparent, m_data.WindAngleApparent, m_data.BoatSpeed, wind.Speed,
+                         wind.Angle);
+  }
+  return wind;
+}
+
 void InstrumentRecord::HeadingUpdate(float Heading, const Origin& from) {
+  const float count = CountOf(RecordValue::Heading, m_settings.m_fNmeaTrueWindAverage, from);
   Note(RecordValue::Heading, from);
   const float folded = FoldBearing(static_cast<double>(Heading));
   if (m_data.HeadingValid) {
-    AverageAngleAbsolute(folded, m_settings.m_fNmeaTrueWindAverage, m_data.HeadingAverage);
+    AverageAngleAbsolute(folded, count, m_data.HeadingAverage);
   } else {
     m_data.HeadingValid = true;
     m_data.HeadingAverage = Heading;
@@ -50,9 +71,10 @@ void InstrumentRecord::HeadingUpdate(float Heading, const Origin& from) {
 }
 
 void InstrumentRecord::BoatSpeedUpdate(float BoatSpeed, const Origin& from) {
+  const float count = CountOf(RecordValue::BoatSpeed, m_settings.m_fNmeaTrueWindAverage, from);
   Note(RecordValue::BoatSpeed, from);
   if (m_data.BoatSpeedValid) {
-    AverageValue(BoatSpeed, m_settings.m_fNmeaTrueWindAverage, m_data.BoatSpeedAverage);
+    AverageValue(BoatSpeed, count, m_data.BoatSpeedAverage);
   } else {
     m_data.BoatSpeedValid = true;
     m_data.BoatSpeedAverage = BoatSpeed;
@@ -75,10 +97,10 @@ void InstrumentRecord::WaypointUpdate(float WaypointRange, float WaypointBearing
 
 void InstrumentRecord::WindApparentUpdate(float WindAngle, float WindSpeed, bool ComputeTrue,
                                           const Origin& from) {
+  const float count = CountOf(RecordValue::WindApparent, m_settings.m_fNmeaTrueWindAverage, from);
   Note(RecordValue::WindApparent, from);
   const float angle = FoldRelative(static_cast<double>(WindAngle));
   if (m_data.WindApparentValid) {
-    const float count = m_settings.m_fNmeaTrueWindAverage;
     AverageAngleRelative(angle, count, m_data.WindAngleApparentAverage);
     AverageValue(WindSpeed, count, m_data.WindSpeedApparentAverage);
   } else {
@@ -95,14 +117,17 @@ void InstrumentRecord::WindApparentUpdate(float WindAngle, float WindSpeed, bool
     WindTrueFromApparent(m_data.WindSpeedApparentAverage, m_data.WindAngleApparentAverage,
                          m_data.BoatSpeedAverage, trueSpeed, trueAngle);
     WindTrueUpdate(trueAngle, trueSpeed, false, from);
+    m_trueComputed = true;
   }
 }
 
 void InstrumentRecord::WindTrueUpdate(float WindAngle, float WindSpeed, bool Average, const Origin& from) {
+  const float count = CountOf(RecordValue::WindTrue, m_settings.m_fNmeaTrueWindAverage, from);
   Note(RecordValue::WindTrue, from);
   const float angle = FoldRelative(static_cast<double>(WindAngle));
+  m_sensorWind = {angle, WindSpeed};
+  m_trueComputed = false;
   if (Average && m_data.WindTrueValid) {
-    const float count = m_settings.m_fNmeaTrueWindAverage;
     AverageAngleRelative(angle, count, m_data.WindAngleTrue);
     AverageValue(WindSpeed, count, m_data.WindSpeedTrue);
   } else {
@@ -119,7 +144,9 @@ void InstrumentRecord::WindTrueSimulated(float WindAngle, float WindSpeed, const
 }
 
 void InstrumentRecord::WindIndicatorUpdate() {
+  float count = m_settings.m_fNmeaWindIndicatorAverage;
   if (const auto from = Source(RecordValue::WindTrue)) {
+    count = CountOf(RecordValue::WindIndicator, count, *from);
     Note(RecordValue::WindIndicator, *from);
   }
   const double direction = static_cast<double>(m_data.WindAngleTrue) + static_cast<double>(m_data.Heading) +
@@ -129,7 +156,6 @@ void InstrumentRecord::WindIndicatorUpdate() {
     m_data.WindDirectionAverage = FoldBearing(direction);
     m_data.WindSpeedAverage = m_data.WindSpeedTrue;
   } else {
-    const float count = m_settings.m_fNmeaWindIndicatorAverage;
     AverageAngleAbsolute(FoldBearing(direction), count, m_data.WindDirectionAverage);
     AverageValue(m_data.WindSpeedTrue, count, m_data.WindSpeedAverage);
   }

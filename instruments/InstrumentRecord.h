@@ -36,6 +36,14 @@ class InstrumentRecord {
   bool Changed(RecordValue value) const { return m_changed[static_cast<std::size_t>(value)]; }
   void ForgetChanges() { m_changed.reset(); }
 
+  /// The present true wind before it was smoothed: the sensor's, or computed from what the instruments said
+  /// last [deg relative, (-180, 180]], [kn].
+  struct Wind {
+    float Angle = 0.0F;
+    float Speed = 0.0F;
+  };
+  Wind WindTrueUnsmoothed() const;
+
   /// Clears the validity flags, so that every smoothed value restarts from its next
   /// sample. Deliberate: the variation, its flag and its source stay, and no value is zeroed.
   void Restart();
@@ -68,9 +76,13 @@ class InstrumentRecord {
   std::optional<Origin>& From(RecordValue value) { return m_from[static_cast<std::size_t>(value)]; }
   /// Keeps where `value` came from, and that it has changed.
   void Note(RecordValue value, const Origin& from);
+  /// The averaging count of a value that comes again, with `from`: by the clock, where the tracking is.
+  float CountOf(RecordValue value, float count, const Origin& from) const;
 
   const Settings& m_settings;
   InstrumentData m_data;
+  Wind m_sensorWind;            ///< the latest true wind that was given
+  bool m_trueComputed = false;  ///< the latest one followed from the apparent wind
   std::array<std::optional<Origin>, kValues> m_from;
   std::bitset<kValues> m_changed;
 };

@@ -1,6 +1,7 @@
 #include "instruments/MathLib.h"
 
 #include <cmath>
+#include <limits>
 
 namespace veerwatch {
 
@@ -54,6 +55,14 @@ void AverageValue(float NewValue, float Count, float& Average) {
   }
   const double k = 1.0 / static_cast<double>(Count);
   Average = ToSingle(static_cast<double>(NewValue) * k + static_cast<double>(Average) * (1.0 - k));
+}
+
+float AverageCountAfter(float Count, double seconds) {
+  if (Count <= 1.0F || seconds == 1.0) {
+    return Count;
+  }
+  const double weight = 1.0 - std::pow(1.0 - 1.0 / static_cast<double>(Count), seconds);
+  return weight > 0.0 ? ToSingle(1.0 / weight) : std::numeric_limits<float>::infinity();
 }
 
 void WindApparentFromTrue(float TrueSpeed, float TrueAngle, float BoatSpeed, float& ApparentSpeed,

@@ -26,6 +26,11 @@ void AverageAngleAbsolute(float NewAngle, float Count, float& Average);
 /// The same for plain values.
 void AverageValue(float NewValue, float Count, float& Average);
 
+/// The Count that weighs a sample `seconds` [s, at least 0] after the one before as much as Count would weigh
+/// them all if one came each second: a weight of 1 - (1 - 1/Count)^seconds. At one second, and for a Count of
+/// up to 1, which has no memory to speak of, it is Count.
+float AverageCountAfter(float Count, double seconds);
+
 /// Adds the boat's motion to the true wind. Speeds [kn]; angles [deg relative, positive from starboard];
 /// the boat moves along 0. ApparentAngle in (-180, 180], or -180 by the rule of Atan2.
 void WindApparentFromTrue(float TrueSpeed, float TrueAngle, float BoatSpeed, float& ApparentSpeed,

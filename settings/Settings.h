@@ -48,11 +48,15 @@ struct Settings {
   float m_fSimulateTime = 0.0F;             ///< simulated time [h]; not kept in the profile
 
   // Tracking.
-  bool m_bTrackAlarm = true;                      ///< alarm on a wind angle that runs away
-  float m_fTrackAlarmLimit = 5.0F;                ///< the error above which the alarm goes off [deg]
-  float m_fTrackBandwidth = 20.0F;                ///< time constant of the loop [s], above 0
-  float m_fTrackDamping = 4.0F;                   ///< damping ratio of the loop
-  float m_fTrackMaxSteerTo = 10.0F;               ///< largest steering change without a question [deg]
+  bool m_bTrackAlarm = true;        ///< alarm on a wind angle that runs away
+  float m_fTrackAlarmLimit = 5.0F;  ///< the error above which the alarm goes off [deg]
+  float m_fTrackBandwidth = 20.0F;  ///< time constant of the loop [s], above 0
+  float m_fTrackDamping = 4.0F;     ///< damping ratio of the loop
+  TrackMethod m_eTrackMethod = TrackMethod::Sentence;
+  float m_fTrackMaxAhead = 30.0F;     ///< the bearing stays within it of the heading, but for Sentence [deg]
+  float m_fTrackMaxRate = 3.0F;       ///< fastest change of the bearing, but for Sentence [deg/s]
+  float m_fTrackAlarmAverage = 0.0F;  ///< the error that the alarm tests is averaged over [s], 0 not at all
+  float m_fTrackMaxSteerTo = 10.0F;   ///< largest steering change without a question [deg]
   TrackMode m_eTrackMode = TrackMode::Switching;  ///< the present mode; not kept in the profile
 
   /// Desired wind angles [deg relative, (-180, 180]]: index 1 apparent, 2 true; index 0 is not used.

@@ -13,6 +13,7 @@ constexpr const char* kSimulate = "Options > Simulate";
 constexpr const char* kTracking = "Options > Tracking";
 constexpr const char* kMainWindow = "main window";
 constexpr const char* kViewMenu = "View menu";
+constexpr const char* kProfile = "the profile alone";
 
 constexpr std::int16_t kLastSource = 1;
 constexpr std::int16_t kFirstPort = 1;
@@ -95,6 +96,15 @@ SettingTable<S> Track() {
        "desired true wind angle", kMainWindow},
       {section, "Max SteerTo", Number(&S::m_fTrackMaxSteerTo, kAnyNumber), "deg",
        "largest steering change without a question", kTracking},
+      {section, "Method", Named(&S::m_eTrackMethod, {"Sentence", "Clock", "Direction"}), "",
+       "the law of the loop: counted by wind sentences, by the clock, or by the direction of the true wind",
+       kTracking},
+      {section, "Max Ahead", Number(&S::m_fTrackMaxAhead, kAboveZero), "deg",
+       "how far the bearing may be from the heading, but for the method Sentence", kProfile},
+      {section, "Max Rate", Number(&S::m_fTrackMaxRate, kAboveZero), "deg/s",
+       "how fast the bearing may change, but for the method Sentence", kProfile},
+      {section, "Alarm Average", Number(&S::m_fTrackAlarmAverage, kFromZero), "s",
+       "what the alarm averages the error over, 0 for nothing", kProfile},
   };
 }
 

@@ -14,6 +14,13 @@ enum class TrackMode : std::int32_t {
   Track = 7,      ///< the controller steers and its bearing is sent
 };
 
+/// By which law the wind is held; the numbers are the indexes of the names in the profile.
+enum class TrackMethod : std::int32_t {
+  Sentence = 0,   ///< proportional plus integral, one pass per wind sentence
+  Clock = 1,      ///< the same law by the time between the sentences
+  Direction = 2,  ///< steers by the direction of the true wind over the earth
+};
+
 /// Which wind angle is held; the numbers are the indexes of the option pair and of the desired angles.
 enum class TrackSide : std::int32_t { Apparent = 1, True = 2 };
 

@@ -82,6 +82,36 @@ TEST(Holding, TheDefaultLosesTheAngleAtTenWindsASecond) {
   EXPECT_GT(result.Changes, 500.0);
 }
 
+/// Every seventh of the ninety passages.
+HoldSummary SomePassages(std::size_t method, float bandwidth, double rate) {
+  HoldCase what;
+  what.Method = NamedMethods().at(method);
+  what.Bandwidth = bandwidth;
+  what.WindRate = rate;
+  const std::vector<HoldCase> all = Passages(what);
+  std::vector<HoldResult> results;
+  for (std::size_t i = 3; i < all.size(); i += 7) {
+    results.push_back(Hold(all[i]));
+  }
+  return SummaryOf(results);
+}
+
+TEST(Holding, ByClockAndDirectionTheRateOfTheSentencesHardlyMatters) {
+  for (const auto& [method, bandwidth] : {std::pair{1U, 60.0F}, std::pair{2U, 20.0F}}) {
+    const HoldSummary slow = SomePassages(method, bandwidth, 1.0);
+    const HoldSummary quick = SomePassages(method, bandwidth, 10.0);
+    EXPECT_EQ(slow.Lost, 0) << method;
+    EXPECT_EQ(quick.Lost, 0) << method;
+    EXPECT_NEAR(quick.Rms, slow.Rms, 0.1 * slow.Rms) << method;
+  }
+}
+
+TEST(Holding, TheDirectionHoldsWithEveryBandwidth) {
+  for (const float bandwidth : {5.0F, 60.0F}) {
+    EXPECT_EQ(SomePassages(2, bandwidth, 5.0).Lost, 0) << bandwidth;
+  }
+}
+
 TEST(Holding, ASeaMakesTheRudderWork) {
   HoldCase what;
   what.Constant = true;

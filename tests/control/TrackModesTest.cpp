@@ -203,5 +203,18 @@ TEST(ControlsFor, InTrackEntryAndNudgesOfTheChosenSideAnswer) {
   EXPECT_TRUE(trueSide.NudgeTrue);
 }
 
+TEST_F(TrackModesTest, AMethodThatNeedsAHeadingIsRefusedWithoutOne) {
+  for (const TrackMethod method : {TrackMethod::Clock, TrackMethod::Direction}) {
+    m_settings.m_eTrackMethod = method;
+    m_modes.TrackSetManual();
+    m_modes.TrackSetTrack();
+    EXPECT_EQ(m_settings.m_eTrackMode, TrackMode::Manual);
+  }
+  m_record.HeadingUpdate(100.0F, kOrigin);
+  m_modes.TrackSetTrack();
+  EXPECT_EQ(m_settings.m_eTrackMode, TrackMode::Track);
+  EXPECT_EQ(TrackRefusalText(TrackRefusal::NoHeading), "Track Needs a Heading");
+}
+
 }  // namespace
 }  // namespace veerwatch

@@ -102,6 +102,40 @@ TEST(AverageValue, ApproachesASteadySample) {
   }
 }
 
+TEST(AverageCountAfter, IsTheCountAtOneSecondAndForCountsWithoutMemory) {
+  for (const float count : {0.0F, 0.6F, 1.0F, 2.0F, 7.5F, 1000.0F}) {
+    EXPECT_EQ(AverageCountAfter(count, 1.0), count);
+  }
+  for (const double seconds : {0.0, 0.1, 2.0}) {
+    EXPECT_EQ(AverageCountAfter(0.0F, seconds), 0.0F);
+    EXPECT_EQ(AverageCountAfter(0.6F, seconds), 0.6F);
+    EXPECT_EQ(AverageCountAfter(1.0F, seconds), 1.0F);
+  }
+}
+
+TEST(AverageCountAfter, WeighsAsMuchASecondAtEveryRate) {
+  for (const float count : {1.5F, 2.0F, 4.0F, 60.0F}) {
+    float once = 10.0F;
+    AverageValue(20.0F, count, once);
+    for (const int rate : {2, 5, 10}) {
+      float often = 10.0F;
+      for (int sample = 0; sample < rate; ++sample) {
+        AverageValue(20.0F, AverageCountAfter(count, 1.0 / rate), often);
+      }
+      EXPECT_NEAR(often, once, 1e-4F) << count << " " << rate;
+    }
+  }
+}
+
+TEST(AverageCountAfter, GivesASampleOfTheSameMomentNoWeight) {
+  float value = 10.0F;
+  AverageValue(20.0F, AverageCountAfter(4.0F, 0.0), value);
+  EXPECT_EQ(value, 10.0F);
+  float angle = 30.0F;
+  AverageAngleRelative(90.0F, AverageCountAfter(4.0F, 0.0), angle);
+  EXPECT_NEAR(angle, 30.0F, 1e-5F);
+}
+
 TEST(AverageAngleRelative, ReturnsTheSampleForACountOfZeroOrOne) {
   EXPECT_EQ(Relative(-170.0F, 0.0F, 30.0F), -170.0F);
   EXPECT_NEAR(Relative(-170.0F, 1.0F, 30.0F), -170.0F, 1e-4);

@@ -65,6 +65,39 @@ class Sources : public testing::Test {
   SourceChoice m_choice{m_settings, m_record};
 };
 
+TEST_F(Sources, TheTrueWindIsKnownUnsmoothed) {
+  m_settings.m_fNmeaTrueWindAverage = 4.0F;
+  m_settings.m_iNmeaTrueWind = 0;
+  for (const float angle : {40.0F, 80.0F}) {
+    Bring("$IIMWV", 1000, {{Quantity::TrueWindAngle, angle}, {Quantity::TrueWindSpeed, 12.0F}});
+  }
+  EXPECT_LT(m_record.Data().WindAngleTrue, 60.0F);
+  EXPECT_EQ(m_record.WindTrueUnsmoothed().Angle, 80.0F);
+  EXPECT_EQ(m_record.WindTrueUnsmoothed().Speed, 12.0F);
+
+  // Computed: dead ahead with 15 knots at 5 knots of boat speed, whatever came before.
+  m_settings.m_iNmeaTrueWind = 1;
+  Bring("$IIVHW", 1000, {{Quantity::SpeedThroughWater, 7.0F}});
+  Bring("$IIVHW", 1000, {{Quantity::SpeedThroughWater, 5.0F}});
+  Bring("$IIMWV", 1000, {{Quantity::ApparentWindAngle, 30.0F}, {Quantity::ApparentWindSpeed, 9.0F}});
+  Bring("$IIMWV", 1000, {{Quantity::ApparentWindAngle, 0.0F}, {Quantity::ApparentWindSpeed, 15.0F}});
+  EXPECT_GT(m_record.Data().WindAngleTrue, 1.0F);
+  EXPECT_NEAR(m_record.WindTrueUnsmoothed().Angle, 0.0F, 1e-4F);
+  EXPECT_NEAR(m_record.WindTrueUnsmoothed().Speed, 10.0F, 1e-4F);
+}
+
+TEST_F(Sources, ByTheClockValuesAreSmoothedAlikeAtEveryRate) {
+  m_settings.m_fNmeaTrueWindAverage = 4.0F;
+  m_settings.m_eTrackMethod = TrackMethod::Clock;
+  Bring("$IIVHW", 1000, {{Quantity::SpeedThroughWater, 4.0F}});
+  for (int sample = 1; sample <= 10; ++sample) {
+    Bring("$IIVHW", 1000 + 100 * sample, {{Quantity::SpeedThroughWater, 8.0F}});
+  }
+  EXPECT_NEAR(m_record.Data().BoatSpeedAverage, 5.0F, 1e-4F) << "a quarter of the way in a second";
+  Bring("$IIVHW", 2000, {{Quantity::SpeedThroughWater, 80.0F}});
+  EXPECT_NEAR(m_record.Data().BoatSpeedAverage, 5.0F, 1e-4F) << "no time has passed";
+}
+
 TEST_F(Sources, AValueThatNeverCameHasNoAge) {
   for (const RecordValue value :
        {RecordValue::Heading, RecordValue::BoatSpeed, RecordValue::Variation, RecordValue::Waypoint,

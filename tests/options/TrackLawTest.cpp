@@ -30,7 +30,7 @@ std::vector<double> Steered(float bandwidth, float damping, float offset, std::s
   for (std::size_t pass = 0; pass < passes; ++pass) {
     data.WindAngleTrue =
         static_cast<float>(-std::remainder(static_cast<double>(settings.m_fAutoPilot), 360.0));
-    loop.ControlStep({static_cast<std::int64_t>(pass) * 1000, 0});
+    loop.ControlStep(Moment{static_cast<std::int64_t>(pass) * 1000, 0});
     bearings.push_back(std::remainder(static_cast<double>(settings.m_fAutoPilot), 360.0));
   }
   return bearings;
