@@ -44,7 +44,7 @@ bool TrackLoop::StartTracking() {
     return false;
   }
   m_method = m_settings.m_eTrackMethod;
-  m_tuning = {m_settings.m_fTrackBandwidth, m_settings.m_fTrackDamping};
+  m_tuning = {m_settings.m_fTrackBandwidth, m_settings.m_fTrackDamping, m_method};
   m_limits = {static_cast<double>(m_settings.m_fTrackMaxAhead),
               static_cast<double>(m_settings.m_fTrackMaxRate)};
   const TrackGains gains =

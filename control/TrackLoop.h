@@ -21,6 +21,7 @@ namespace veerwatch {
 struct TrackTuning {
   float Bandwidth = 0.0F;  ///< [s]
   float Damping = 0.0F;
+  TrackMethod Method = TrackMethod::Sentence;
 };
 
 /// What a pass of the loop works on besides the record.

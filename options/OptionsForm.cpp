@@ -21,6 +21,7 @@ OptionsForm OptionsFormOf(const Settings& settings) {
   form.Simulate = settings.m_bSimulate;
   form.SimulateTime = SimulateTimeFormat(settings.m_fSimulateTime);
   form.TrackAlarm = settings.m_bTrackAlarm;
+  form.TrackMethod = static_cast<int>(settings.m_eTrackMethod);
   return form;
 }
 

@@ -36,6 +36,7 @@ struct OptionsForm {
 
   // Tracking.
   bool TrackAlarm = false;
+  int TrackMethod = 0;  ///< index in its list, as the enumeration
   std::string TrackAlarmLimit;
   std::string TrackBandwidth;
   std::string TrackDamping;

@@ -140,6 +140,7 @@ std::optional<OptionFault> OptionsStore::StoreTime(const std::string& text) {
 
 OptionsStore::Fault OptionsStore::StoreTracking(const OptionsForm& form) {
   m_main.m_bTrackAlarm = form.TrackAlarm;
+  m_main.m_eTrackMethod = static_cast<TrackMethod>(form.TrackMethod);
   return StoreBoxes(OptionGroup::Tracking, form);
 }
 

@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <utility>
 
 namespace veerwatch {
 
@@ -23,6 +24,7 @@ OptionEntryQt* NewPreviewEntry(const char* name, const char* hint, const char* t
 TrackPageQt::TrackPageQt(RandomSource& random, QWidget* parent)
     : QWidget(parent),
       chkTrackAlarm(new QCheckBox(QStringLiteral("Tracking A&larm"), this)),
+      cmbTrackMethod(new QComboBox(this)),
       txtTrackAlarmLimit(
           new OptionEntryQt("txtTrackAlarmLimit", "Tracking Alarm Limit (deg, +/- from Desired)", this)),
       txtTrackBandwidth(new OptionEntryQt("txtTrackBandwidth", "Tracking Bandwidth (sec)", this)),
@@ -42,6 +44,16 @@ TrackPageQt::TrackPageQt(RandomSource& random, QWidget* parent)
   lblTrackFigures->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   lblTrackInUse->setObjectName(QStringLiteral("lblTrackInUse"));
   NameControl(*chkTrackAlarm, "chkTrackAlarm", "Tracking Alarm");
+  NameControl(*cmbTrackMethod, "cmbTrackMethod", "By what the wind is held, from the next Track on");
+  for (const auto& [method, tip] :
+       {std::pair{"Sentence",
+                  "One correction per wind sentence: the bandwidth depends on how many come a second"},
+        std::pair{"Clock", "The same corrections by the clock: the bandwidth holds at every sentence rate"},
+        std::pair{"Direction", "Steers by the direction of the true wind over the earth: needs no tuning"}}) {
+    cmbTrackMethod->addItem(QLatin1String(method));
+    cmbTrackMethod->setItemData(cmbTrackMethod->count() - 1, QLatin1String(tip), Qt::ToolTipRole);
+  }
+  connect(cmbTrackMethod, &QComboBox::currentIndexChanged, this, [this] { ShowMethod(); });
   txtTrackAlarmLimit->setAccessibleName(QStringLiteral("Alarm Limit"));
   txtTrackMin->setAccessibleName(QStringLiteral("Lowest Bearing"));
   txtTrackMax->setAccessibleName(QStringLiteral("Highest Bearing"));
@@ -68,7 +80,9 @@ QWidget* TrackPageQt::NewOptions() {
   rows->addWidget(NewText("deg", this), 1, 6);
   rows->addWidget(NewCaption("Da&mping:", txtTrackDamping, this), 2, 0);
   rows->addWidget(txtTrackDamping, 2, 1);
-  rows->addWidget(lblTrackInUse, 2, 4, 1, 4);
+  rows->addWidget(NewCaption("Met&hod:", cmbTrackMethod, this), 2, 4, Qt::AlignRight);
+  rows->addWidget(cmbTrackMethod, 2, 5, 1, 2);
+  rows->addWidget(lblTrackInUse, 3, 0, 1, 8);
   rows->setColumnMinimumWidth(3, kGroupGap);
   rows->setColumnStretch(7, 1);
   return frame;
@@ -105,6 +119,13 @@ QWidget* TrackPageQt::NewResponse() {
   return frame;
 }
 
+void TrackPageQt::ShowMethod() const {
+  const bool direction = cmbTrackMethod->currentIndex() == static_cast<int>(TrackMethod::Direction);
+  txtTrackDamping->setEnabled(!direction);
+  txtTrackDamping->setToolTip(direction ? QStringLiteral("The method Direction has no damping")
+                                        : txtTrackDamping->accessibleDescription());
+}
+
 std::vector<BoundEntry> TrackPageQt::Entries() const {
   return {
       {txtTrackAlarmLimit, &OptionsForm::TrackAlarmLimit},
@@ -116,11 +137,14 @@ std::vector<BoundEntry> TrackPageQt::Entries() const {
 
 void TrackPageQt::Show(const OptionsForm& form) const {
   chkTrackAlarm->setChecked(form.TrackAlarm);
+  cmbTrackMethod->setCurrentIndex(form.TrackMethod);
+  ShowMethod();
   ShowEntries(Entries(), form);
 }
 
 void TrackPageQt::Read(OptionsForm& form) const {
   form.TrackAlarm = chkTrackAlarm->isChecked();
+  form.TrackMethod = cmbTrackMethod->currentIndex();
   ReadEntries(Entries(), form);
 }
 

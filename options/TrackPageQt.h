@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <array>
 
 #include "options/OptionControlsQt.h"
@@ -26,6 +27,7 @@ class TrackPageQt final : public QWidget {
   std::array<OptionEntryQt*, 8> Marking() const;
 
   QCheckBox* chkTrackAlarm;
+  QComboBox* cmbTrackMethod;
   OptionEntryQt* txtTrackAlarmLimit;
   OptionEntryQt* txtTrackBandwidth;
   OptionEntryQt* txtTrackDamping;
@@ -46,6 +48,8 @@ class TrackPageQt final : public QWidget {
   std::vector<BoundEntry> Entries() const;
 
   QWidget* NewOptions();
+  /// Only what has a part in the chosen method answers.
+  void ShowMethod() const;
   QWidget* NewResponse();
 };
 

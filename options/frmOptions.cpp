@@ -115,6 +115,8 @@ void frmOptions::ConnectMarks() {
   for (OptionEntryQt* box : m_track->Marking()) {
     marks(box);
   }
+  connect(m_track->cmbTrackMethod, &QComboBox::currentIndexChanged, this,
+          [this] { Mark(m_track->cmbTrackMethod); });
   connect(m_simulate->chkSimulate, &QCheckBox::toggled, this, [this] { Mark(m_simulate->chkSimulate); });
   lstNmeaSentence->Changed([this] { Mark(lstNmeaSentence); });
 }

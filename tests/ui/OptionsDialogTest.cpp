@@ -89,6 +89,28 @@ TEST_F(OptionsDialog, ABoxThatDoesNotMarkIsStoredAllTheSame) {
   EXPECT_FALSE(Main.m_bTrackAlarm);
 }
 
+TEST_F(OptionsDialog, ShowsMarksAndStoresTheMethod) {
+  Main.m_eTrackMethod = TrackMethod::Clock;
+  Start(frmOptions::Tracking);
+  auto& method = Find<QComboBox>("cmbTrackMethod");
+  EXPECT_EQ(method.currentText(), "Clock");
+  EXPECT_TRUE(Find<QWidget>("txtTrackDamping").isEnabled());
+  EXPECT_FALSE(Bold());
+  method.setFocus();
+  QTest::keyClick(&method, Qt::Key_Down);
+  EXPECT_EQ(method.currentText(), "Direction");
+  EXPECT_TRUE(Bold());
+  EXPECT_FALSE(Find<QWidget>("txtTrackDamping").isEnabled());
+  EXPECT_EQ(Find<QWidget>("txtTrackDamping").toolTip(), "The method Direction has no damping");
+  Click("cmdApply");
+  EXPECT_EQ(Main.m_eTrackMethod, TrackMethod::Direction);
+  method.setFocus();
+  QTest::keyClick(&method, Qt::Key_Home);
+  Click("cmdApply");
+  EXPECT_EQ(Main.m_eTrackMethod, TrackMethod::Sentence);
+  EXPECT_TRUE(Find<QWidget>("txtTrackDamping").isEnabled());
+}
+
 TEST_F(OptionsDialog, TickingTheAlarmAloneLeavesApplyNormalAndOkStoresIt) {
   Start(frmOptions::Tracking);
   Click("chkTrackAlarm");

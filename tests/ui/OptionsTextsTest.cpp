@@ -49,6 +49,7 @@ TEST_F(OptionsTexts, GiveEveryHintAsToolTipAndAsDescription) {
       {"optPilotListOn", "Output Display Comm Data - On"},
       {"lstPilotData", "Output Nema Data"},
       {"chkTrackAlarm", "Tracking Alarm"},
+      {"cmbTrackMethod", "By what the wind is held, from the next Track on"},
       {"txtTrackAlarmLimit", "Tracking Alarm Limit (deg, +/- from Desired)"},
       {"txtTrackBandwidth", "Tracking Bandwidth (sec)"},
       {"txtTrackDamping", "Tracking Damping Factor (default=1)"},
