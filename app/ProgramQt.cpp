@@ -127,38 +127,9 @@ int TellUnsaved(const frmMain& window, DialogsQt& dialogs) {
   return kNotSaved;
 }
 
-}  // namespace
-
-int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& started) {
-  if (Answered(ReadCommandLine(argc, argv))) {
-    return 0;
-  }
-  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
-  // It takes its own options away.
-  ApplicationQt application(argc, argv);
-  QApplication::setApplicationName(QString::fromLatin1(kApplicationTitle));
-  QApplication::setApplicationVersion(QStringLiteral(VEERWATCH_VERSION));
-  QGuiApplication::setDesktopFileName(QStringLiteral("veerwatch"));
-
-  const CommandLine line = ReadCommandLine(argc, argv);
-  if (!line.Trouble.empty()) {
-    std::fprintf(stderr, "veerwatch: %s\n", line.Trouble.c_str());
-    return 2;
-  }
-  std::error_code error;
-  const std::filesystem::path profileFile =
-      line.Profile ? std::filesystem::absolute(*line.Profile, error) : ProfileFile();
-
-  DialogsQt dialogs;
-  std::filesystem::create_directories(profileFile.parent_path(), error);
-  const ProfileLock lock(LinkTarget(profileFile, error));
-  if (!Taken(lock, profileFile, dialogs)) {
-    // Until the message is closed.
-    QApplication::exec();
-    constexpr int kRunsAlready = 3;
-    return kRunsAlready;
-  }
-
+/// The program with its ports, timers and windows, until the last window is closed; its exit status.
+int Sail(ApplicationQt& application, const std::filesystem::path& profileFile, DialogsQt& dialogs,
+         const std::function<void(QWidget&)>& started) {
   Profile profile;
   const SystemClock clock;
   SerialPortQt MSCommNmea(profile, clock);
@@ -194,6 +165,41 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   tmrSave.Enabled(true);
   const int status = QApplication::exec();
   return window.SaveFailure().empty() ? status : TellUnsaved(window, dialogs);
+}
+
+}  // namespace
+
+int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& started) {
+  if (Answered(ReadCommandLine(argc, argv))) {
+    return 0;
+  }
+  QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+  // It takes its own options away.
+  ApplicationQt application(argc, argv);
+  QApplication::setApplicationName(QString::fromLatin1(kApplicationTitle));
+  QApplication::setApplicationVersion(QStringLiteral(VEERWATCH_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("veerwatch"));
+
+  const CommandLine line = ReadCommandLine(argc, argv);
+  if (!line.Trouble.empty()) {
+    std::fprintf(stderr, "veerwatch: %s\n", line.Trouble.c_str());
+    return 2;
+  }
+  std::error_code error;
+  const std::filesystem::path profileFile =
+      line.Profile ? std::filesystem::absolute(*line.Profile, error) : ProfileFile();
+
+  DialogsQt dialogs;
+  std::filesystem::create_directories(profileFile.parent_path(), error);
+  const ProfileLock lock(LinkTarget(profileFile, error));
+  if (!Taken(lock, profileFile, dialogs)) {
+    // Until the message is closed.
+    QApplication::exec();
+    constexpr int kRunsAlready = 3;
+    return kRunsAlready;
+  }
+
+  return Sail(application, profileFile, dialogs, started);
 }
 
 }  // namespace veerwatch

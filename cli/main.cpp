@@ -228,18 +228,71 @@ class PreviewArguments {
   veerwatch::PreviewOptions m_options;
 };
 
-void RunReplay(const veerwatch::ReplayOptions& options, const std::optional<std::string>& file) {
-  if (!file) {
-    veerwatch::Replay(options, std::cin, std::cout, std::cerr);
-    return;
+/// "replay".
+class ReplayArguments {
+ public:
+  explicit ReplayArguments(CLI::App& app)
+      : m_replay(app.add_subcommand("replay", "Feed recorded sentences, print the autopilot sentences")) {
+    m_steering.AddTo(*m_replay, {"setup", "manual", "track"});
+    m_replay
+        ->add_option("--setup-steps", m_options.SetupSteps,
+                     "Control steps in Setup before the mode (default 0)")
+        ->check(kWholeNumber)
+        ->type_name("N");
+    m_replay->add_flag("--raw", m_raw, "Bytes as on the wire: only a carriage return ends a line");
+    m_replay->add_option("FILE", m_file, "The log; standard input without one");
   }
-  std::ifstream log(*file, std::ios::binary);
-  if (!log.is_open() || (log.peek(), log.bad())) {
-    throw veerwatch::CommandError("cannot read " + *file);
+
+  bool Given() const { return m_replay->parsed(); }
+
+  void Run() {
+    m_options.Steer = m_steering.Taken();
+    m_options.Ends = m_raw ? veerwatch::LineEnds::CarriageReturn : veerwatch::LineEnds::Any;
+    if (!m_file) {
+      veerwatch::Replay(m_options, std::cin, std::cout, std::cerr);
+      return;
+    }
+    std::ifstream log(*m_file, std::ios::binary);
+    if (!log.is_open() || (log.peek(), log.bad())) {
+      throw veerwatch::CommandError("cannot read " + *m_file);
+    }
+    log.clear();
+    veerwatch::Replay(m_options, log, std::cout, std::cerr);
   }
-  log.clear();
-  veerwatch::Replay(options, log, std::cout, std::cerr);
-}
+
+ private:
+  CLI::App* m_replay;
+  SteeringArguments m_steering;
+  veerwatch::ReplayOptions m_options;
+  std::optional<std::string> m_file;
+  bool m_raw = false;
+};
+
+/// "simulate".
+class SimulateArguments {
+ public:
+  explicit SimulateArguments(CLI::App& app)
+      : m_simulate(app.add_subcommand("simulate", "Run the simulator and the loop, a line a tick")) {
+    m_steering.AddTo(*m_simulate, {"manual", "track"});
+    m_simulate->add_option("--ticks", m_options.Ticks, "Seconds to sail (default 60)")
+        ->check(kWholeNumber)
+        ->type_name("N");
+    m_simulate->add_option("--seed", m_options.Seed, "Seed of the noise (default 1)")
+        ->check(kWholeNumber)
+        ->type_name("S");
+    m_simulate->add_flag("--realtime", m_options.RealTime, "A tick a second");
+  }
+
+  void Run() {
+    m_options.Steer = m_steering.Taken();
+    veerwatch::Simulate(m_options, std::cout);
+  }
+
+ private:
+  CLI::App* m_simulate;
+  SteeringArguments m_steering;
+  veerwatch::SimulateOptions m_options;
+};
 
 int Run(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
@@ -248,32 +301,8 @@ int Run(int argc, char** argv) {
   app.set_version_flag("--version", "veerwatch-cli " VEERWATCH_VERSION);
   app.require_subcommand(0, 1);
 
-  veerwatch::ReplayOptions replay;
-  std::optional<std::string> file;
-  bool raw = false;
-  CLI::App* replayCommand =
-      app.add_subcommand("replay", "Feed recorded sentences, print the autopilot sentences");
-  SteeringArguments replaySteering;
-  replaySteering.AddTo(*replayCommand, {"setup", "manual", "track"});
-  replayCommand
-      ->add_option("--setup-steps", replay.SetupSteps, "Control steps in Setup before the mode (default 0)")
-      ->check(kWholeNumber)
-      ->type_name("N");
-  replayCommand->add_flag("--raw", raw, "Bytes as on the wire: only a carriage return ends a line");
-  replayCommand->add_option("FILE", file, "The log; standard input without one");
-
-  veerwatch::SimulateOptions simulate;
-  CLI::App* simulateCommand = app.add_subcommand("simulate", "Run the simulator and the loop, a line a tick");
-  SteeringArguments simulateSteering;
-  simulateSteering.AddTo(*simulateCommand, {"manual", "track"});
-  simulateCommand->add_option("--ticks", simulate.Ticks, "Seconds to sail (default 60)")
-      ->check(kWholeNumber)
-      ->type_name("N");
-  simulateCommand->add_option("--seed", simulate.Seed, "Seed of the noise (default 1)")
-      ->check(kWholeNumber)
-      ->type_name("S");
-  simulateCommand->add_flag("--realtime", simulate.RealTime, "A tick a second");
-
+  ReplayArguments replay(app);
+  SimulateArguments simulate(app);
   PolarArguments polar(app);
   const PreviewArguments preview(app);
 
@@ -287,17 +316,14 @@ int Run(int argc, char** argv) {
   if (app.get_subcommands().empty()) {
     throw veerwatch::CommandError("a command is missing: see --help");
   }
-  replay.Steer = replaySteering.Taken();
-  simulate.Steer = simulateSteering.Taken();
-  replay.Ends = raw ? veerwatch::LineEnds::CarriageReturn : veerwatch::LineEnds::Any;
   if (polar.Given()) {
     polar.Run();
   } else if (preview.Given()) {
     preview.Run();
-  } else if (*replayCommand) {
-    RunReplay(replay, file);
+  } else if (replay.Given()) {
+    replay.Run();
   } else {
-    veerwatch::Simulate(simulate, std::cout);
+    simulate.Run();
   }
   std::cout.flush();
   if (!std::cout) {

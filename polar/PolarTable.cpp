@@ -140,16 +140,19 @@ float PolarTable::SmoothSpeed(int slot, float angle, float windSpeed) const {
   return 0.0F;
 }
 
-float PolarTable::SteppedSpeed(int slot, float angle, float windSpeed) const {
+bool PolarTable::OutsideRows(int slot, float angle) const {
   const int rows = PolarRows(slot);
   const int columns = PolarColumns(slot);
-  if (rows < 2 || columns < 1) {
+  return (angle < PolarPoint(slot, 1, 1).Angle && angle < PolarPoint(slot, 1, columns).Angle) ||
+         (angle > PolarPoint(slot, rows, 1).Angle && angle > PolarPoint(slot, rows, columns).Angle);
+}
+
+float PolarTable::SteppedSpeed(int slot, float angle, float windSpeed) const {
+  const int columns = PolarColumns(slot);
+  if (PolarRows(slot) < 2 || columns < 1) {
     return 0.0F;
   }
-  if (angle < PolarPoint(slot, 1, 1).Angle && angle < PolarPoint(slot, 1, columns).Angle) {
-    return 0.0F;
-  }
-  if (angle > PolarPoint(slot, rows, 1).Angle && angle > PolarPoint(slot, rows, columns).Angle) {
+  if (OutsideRows(slot, angle)) {
     return 0.0F;
   }
 

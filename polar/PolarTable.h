@@ -119,6 +119,8 @@ class PolarTable {
   /// The angle of a cell as they see it [deg].
   float SeenAngle(int slot, int row, int column) const;
   void Forget(int slot) { m_apparent[static_cast<std::size_t>(slot)].clear(); }
+  /// Whether the angle lies before the first row, or after the last one, of the outer columns.
+  bool OutsideRows(int slot, float angle) const;
   float SteppedSpeed(int slot, float angle, float windSpeed) const;
   float SmoothSpeed(int slot, float angle, float windSpeed) const;
   /// Boat speed of a row between two columns [kn].

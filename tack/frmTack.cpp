@@ -94,6 +94,13 @@ void frmTack::MakeControls() {
                        QStringLiteral("0000.0"), kEntryHeight, this);
   txtRate =
       Entry("txtRate", QStringLiteral("How fast to turn"), QStringLiteral("0000.0"), kEntryHeight, this);
+  MakePrompt();
+  MakeSteps();
+  MakeButtons();
+  LayOut();
+}
+
+void frmTack::MakePrompt() {
   lblPrompt = Caption("lblPrompt", QString(), txtHeading, this);
   lblPrompt->setFont(Sized(lblPrompt->font(), kEntryHeight));
   // Room for the longest, so that all three kinds are of one size.
@@ -101,6 +108,9 @@ void frmTack::MakeControls() {
     lblPrompt->setText(Prompt(word));
     lblPrompt->setMinimumWidth(std::max(lblPrompt->minimumWidth(), lblPrompt->sizeHint().width()));
   }
+}
+
+void frmTack::MakeSteps() {
   lstTack = new QListWidget(this);
   lstTack->setObjectName(QStringLiteral("lstTack"));
   lstTack->setAccessibleName(QStringLiteral("Steps"));
@@ -120,6 +130,9 @@ void frmTack::MakeControls() {
   QSizePolicy keepsItsPlace = ProgressBarTack->sizePolicy();
   keepsItsPlace.setRetainSizeWhenHidden(true);
   ProgressBarTack->setSizePolicy(keepsItsPlace);
+}
+
+void frmTack::MakeButtons() {
   cmdOk = new QPushButton(QStringLiteral("OK"), this);
   cmdOk->setObjectName(QStringLiteral("cmdOk"));
   cmdOk->setToolTip(QStringLiteral("Take the pilot and begin to turn"));
@@ -134,7 +147,9 @@ void frmTack::MakeControls() {
   }
   connect(cmdOk, &QPushButton::clicked, this, [this] { cmdOk_Click(); });
   connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
+}
 
+void frmTack::LayOut() {
   auto* grid = new QGridLayout;
   grid->setHorizontalSpacing(kSpacing);
   grid->setVerticalSpacing(kSpacing);

@@ -79,6 +79,10 @@ class frmTack final : public QDialog, private HelmObserver {
   /// Something about the helm may be another: shows whether a turn can begin.
   void HelmChanged();
   void MakeControls();
+  void MakePrompt();
+  void MakeSteps();
+  void MakeButtons();
+  void LayOut();
   void ShowKind();
   /// What the turn of the present texts will do, and what is to be known before OK.
   void ShowWords();

@@ -113,7 +113,10 @@ class Held {
 }  // namespace
 
 const std::vector<NamedMethod>& NamedMethods() {
-  static const std::vector<NamedMethod> methods{{"Sentence", [](Settings& /*set*/) {}}};
+  static const std::vector<NamedMethod> methods{
+      {"Sentence", [](Settings& set) { set.m_eTrackMethod = TrackMethod::Sentence; }},
+      {"Clock", [](Settings& set) { set.m_eTrackMethod = TrackMethod::Clock; }},
+      {"Direction", [](Settings& set) { set.m_eTrackMethod = TrackMethod::Direction; }}};
   return methods;
 }
 

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <set>
 #include <tuple>
+#include <utility>
+#include <vector>
 
 namespace veerwatch {
 namespace {
