@@ -84,9 +84,9 @@ void frmMain::KeepSettings() {
   } else if (result == Profile::LoadResult::Unreadable) {
     const std::string text = m_sProfileFile + " could not be read: it was put aside";
     std::fprintf(stderr, "%s\n", VisibleText(text).c_str());
-    NoticeSet(NoticeKind::Profile, text);
+    NoticeSet(AlarmKind::Profile, text);
   }
-  NoticeSet(NoticeKind::Save, m_saveFailure.empty() ? "" : "Settings not saved: " + m_saveFailure);
+  NoticeSet(AlarmKind::Save, m_saveFailure.empty() ? "" : "Settings not saved: " + m_saveFailure);
 }
 
 std::string frmMain::Keepable() {

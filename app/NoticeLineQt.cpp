@@ -35,7 +35,7 @@ NoticeLineQt::NoticeLineQt(QWidget* parent)
   hide();
 }
 
-void NoticeLineQt::Set(NoticeKind kind, const std::string& text) {
+void NoticeLineQt::Set(AlarmKind kind, const std::string& text) {
   m_notices.Set(kind, text);
   ShowLine();
 }

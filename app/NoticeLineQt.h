@@ -3,7 +3,7 @@
 
 #include <QFrame>
 
-#include "alarms/Notices.h"
+#include "alarms/AlarmCentre.h"
 #include "app/PanelControlsQt.h"
 
 class QToolButton;
@@ -15,7 +15,7 @@ class NoticeLineQt final : public QFrame {
   explicit NoticeLineQt(QWidget* parent);
 
   /// What `kind` has to say now; "" when nothing more.
-  void Set(NoticeKind kind, const std::string& text);
+  void Set(AlarmKind kind, const std::string& text);
   void Theme(const ThemeQt& theme);
   /// Height of the text [px].
   void TextHeight(int pixels);
@@ -23,7 +23,7 @@ class NoticeLineQt final : public QFrame {
  private:
   void ShowLine();
 
-  Notices m_notices;
+  AlarmCentre m_notices;
   CaptionQt* m_lblNotice;
   QToolButton* m_cmdNoticeHide;
 };

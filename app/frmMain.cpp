@@ -185,7 +185,7 @@ void frmMain::ProfileRecall(bool recall) {
           (kind.empty() ? ": defaults are used; at the close it is put aside, not overwritten"
                         : ", " + kind + ": defaults are used, and nothing is saved");
       std::fprintf(stderr, "%s\n", VisibleText(text).c_str());
-      NoticeSet(NoticeKind::Profile, text);
+      NoticeSet(AlarmKind::Profile, text);
     }
     ProfileRead(m_parts.Store, *this, m_others);
   }
@@ -353,7 +353,7 @@ void frmMain::ShowAdvice() {
       text += (text.empty() ? "" : ". ") + line;
     }
   }
-  NoticeSet(NoticeKind::Source, text);
+  NoticeSet(AlarmKind::Source, text);
 }
 
 void frmMain::OnOutputStatus(const PortStatus& status) {

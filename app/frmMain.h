@@ -48,7 +48,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   bool ClosedUnasked() const { return m_unasked; }
 
   /// Says `text` in the line under the mode bar, as long as `kind` has nothing else to say; "" withdraws it.
-  void NoticeSet(NoticeKind kind, const std::string& text) { m_notice->Set(kind, text); }
+  void NoticeSet(AlarmKind kind, const std::string& text) { m_notice->Set(kind, text); }
 
   /// A second has passed. Saves settings that were changed, with "Save While Running". Deliberate: what
   /// follows the boat by itself, bearing and wanted angles, is saved along and sets nothing off.

@@ -25,14 +25,14 @@ void Replay(const ReplayOptions& options, std::istream& log, std::ostream& out, 
   LogReader reader(log, options.Ends);
   std::string line;
   while (out && reader.Next(line)) {
-    if (!inMode && setupSteps == 0) {
+    if (!inMode && setupSteps == 0 && steering.MayEnterMode()) {
       steering.EnterMode();
       inMode = true;
     }
     steering.Line(line);
     Count(counts, steering.Error());
     steps = steps || steering.Delta();
-    if (!inMode && steering.Delta()) {
+    if (!inMode && setupSteps > 0 && steering.Delta()) {
       --setupSteps;
     }
     if (options.Steer.Trace) {

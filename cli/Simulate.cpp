@@ -48,7 +48,14 @@ void WriteColumns(long tick, const Steering& steering, TrackSide side, std::ostr
 void Simulate(const SimulateOptions& options, std::ostream& out) {
   Steering steering(options.Steer, true, options.Seed);
   steering.Start();
-  steering.EnterMode();
+  bool inMode = false;
+  const auto enter = [&] {
+    if (!inMode && steering.MayEnterMode()) {
+      steering.EnterMode();
+      inMode = true;
+    }
+  };
+  enter();
   if (!options.Steer.Trace) {
     for (const std::string_view column : kColumns) {
       out << std::setw(kColumnWidth) << column;
@@ -61,6 +68,7 @@ void Simulate(const SimulateOptions& options, std::ostream& out) {
       next += std::chrono::seconds(1);
       std::this_thread::sleep_until(next);
     }
+    enter();
     steering.Tick();
     if (options.Steer.Trace) {
       out << TraceTick(steering) << '\n';

@@ -41,6 +41,8 @@ bool Steering::BringsTracked(std::string_view line) const {
 
 void Steering::Start() { m_helm.Modes().TrackSetSetup(); }
 
+bool Steering::MayEnterMode() const { return m_mode != TrackMode::Track || !m_helm.Loop().LacksHeading(); }
+
 void Steering::EnterMode() {
   if (m_mode == TrackMode::Setup) {
     return;

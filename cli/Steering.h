@@ -35,6 +35,8 @@ class Steering final : private HelmObserver {
 
   /// Starts in Setup.
   void Start();
+  /// Whether the mode of the options can be entered now: not while it waits for a heading.
+  bool MayEnterMode() const;
   /// Goes on to the mode of the options, through Manual; throws CommandError when Track is refused.
   void EnterMode();
 

@@ -84,7 +84,7 @@ TEST(Holding, TheDefaultLosesTheAngleAtTenWindsASecond) {
   EXPECT_GT(result.Changes, 500.0);
 }
 
-/// Every seventh of the ninety passages.
+/// Every fifteenth of the ninety passages.
 HoldSummary SomePassages(std::size_t method, float bandwidth, double rate) {
   HoldCase what;
   what.Method = NamedMethods().at(method);
@@ -92,7 +92,7 @@ HoldSummary SomePassages(std::size_t method, float bandwidth, double rate) {
   what.WindRate = rate;
   const std::vector<HoldCase> all = Passages(what);
   std::vector<HoldResult> results;
-  for (std::size_t i = 3; i < all.size(); i += 7) {
+  for (std::size_t i = 3; i < all.size(); i += 15) {
     results.push_back(Hold(all[i]));
   }
   return SummaryOf(results);

@@ -116,14 +116,14 @@ TEST_F(MainWindowNotices, SayThatTheProfileIsNoFile) {
 
 TEST_F(MainWindowNotices, ShowControlCharactersAsPictures) {
   Start(kOnPorts);
-  Window->NoticeSet(NoticeKind::Save, "Settings not saved: a\x1B[2J\n");
+  Window->NoticeSet(AlarmKind::Save, "Settings not saved: a\x1B[2J\n");
   EXPECT_EQ(Line(), "Settings not saved: a\u241B[2J\u240A");
 }
 
 TEST_F(MainWindowNotices, ALineThatIsTooLongLeavesTheWindowAsItIs) {
   Start(kOnPorts);
   Window->resize(600, 420);
-  Window->NoticeSet(NoticeKind::Save, std::string(2000, 'W'));
+  Window->NoticeSet(AlarmKind::Save, std::string(2000, 'W'));
   QTest::qWait(0);
   EXPECT_EQ(Window->width(), 600);
   EXPECT_TRUE(Find<QWidget>("cmdNoticeHide").isVisible());

@@ -9,16 +9,16 @@
 namespace veerwatch {
 
 /// Who has something to say; the most important first.
-enum class NoticeKind {
+enum class AlarmKind {
   Save,     ///< the settings could not be saved
   Profile,  ///< the profile could not be read
   Source,   ///< a source of data that brings nothing
 };
 
-class Notices {
+class AlarmCentre {
  public:
   /// What `kind` has to say now, its control characters as pictures; "" when nothing more.
-  void Set(NoticeKind kind, const std::string& text);
+  void Set(AlarmKind kind, const std::string& text);
 
   /// The user has read the first text: it goes until its kind says something else.
   void Dismiss();
@@ -34,7 +34,7 @@ class Notices {
     std::string Text;
     bool Read = false;
   };
-  std::map<NoticeKind, Notice> m_notices;
+  std::map<AlarmKind, Notice> m_notices;
 };
 
 }  // namespace veerwatch

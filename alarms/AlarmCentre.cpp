@@ -1,10 +1,10 @@
-#include "alarms/Notices.h"
+#include "alarms/AlarmCentre.h"
 
 #include "platform/VisibleText.h"
 
 namespace veerwatch {
 
-void Notices::Set(NoticeKind kind, const std::string& text) {
+void AlarmCentre::Set(AlarmKind kind, const std::string& text) {
   const std::string visible = VisibleText(text);
   Notice& notice = m_notices[kind];
   if (notice.Text != visible) {
@@ -12,7 +12,7 @@ void Notices::Set(NoticeKind kind, const std::string& text) {
   }
 }
 
-void Notices::Dismiss() {
+void AlarmCentre::Dismiss() {
   for (auto& [kind, notice] : m_notices) {
     if (!notice.Read && !notice.Text.empty()) {
       notice.Read = true;
@@ -21,7 +21,7 @@ void Notices::Dismiss() {
   }
 }
 
-std::vector<std::string> Notices::Texts() const {
+std::vector<std::string> AlarmCentre::Texts() const {
   std::vector<std::string> texts;
   for (const auto& [kind, notice] : m_notices) {
     if (!notice.Read && !notice.Text.empty()) {
@@ -31,7 +31,7 @@ std::vector<std::string> Notices::Texts() const {
   return texts;
 }
 
-std::string Notices::Line() const {
+std::string AlarmCentre::Line() const {
   const std::vector<std::string> texts = Texts();
   if (texts.empty()) {
     return {};
