@@ -179,11 +179,13 @@ void TrackLoop::Take(double bearing) {
 }
 
 LoopStep::Alarm TrackLoop::TestAlarm(float error, double seconds) {
-  const auto average = static_cast<double>(m_settings.m_fTrackAlarmAverage);
-  const double weight = average > 0.0 ? 1.0 - std::exp(-seconds / average) : 1.0;
-  const double apart =
-      static_cast<double>(FoldRelative(static_cast<double>(error) - static_cast<double>(m_alarmError)));
-  m_alarmError = weight < 1.0 ? FoldRelative(static_cast<double>(m_alarmError) + apart * weight) : error;
+  if (const auto average = static_cast<double>(m_settings.m_fTrackAlarmAverage); average > 0.0) {
+    const auto before = static_cast<double>(m_alarmError);
+    const auto apart = static_cast<double>(FoldRelative(static_cast<double>(error) - before));
+    m_alarmError = FoldRelative(before + apart * (1.0 - std::exp(-seconds / average)));
+  } else {
+    m_alarmError = error;
+  }
   if (m_settings.m_bTrackAlarm && std::fabs(m_alarmError) > m_settings.m_fTrackAlarmLimit) {
     m_alarmActive = true;
     return LoopStep::Alarm::Raised;

@@ -94,7 +94,9 @@ Helm::Pass Helm::Steer(const Moment& now) {
   LoopInput input(now);
   input.BringsApparent = m_record.Changed(RecordValue::WindApparent);
   input.BringsTrue = m_record.Changed(RecordValue::WindTrue);
-  input.HeadingFresh = m_record.Age(RecordValue::Heading, now).value_or(kStale) < kStale;
+  if (m_settings.m_eTrackMethod != TrackMethod::Sentence) {
+    input.HeadingFresh = m_record.Age(RecordValue::Heading, now).value_or(kStale) < kStale;
+  }
   if (m_settings.m_eTrackMethod == TrackMethod::Direction) {
     const InstrumentRecord::Wind wind = m_record.WindTrueUnsmoothed();
     input.TrueWind = LoopInput::Wind{wind.Angle, wind.Speed};
@@ -124,30 +126,36 @@ void Helm::Tick() {
 // What is told
 
 void Helm::TellChanges() {
+  if (!m_record.AnyChange()) {
+    return;
+  }
   const InstrumentData& data = Data();
-  const auto tell = [this](RecordValue value, auto&& call) {
-    if (m_record.Changed(value)) {
-      m_observers.Tell(call);
-    }
-  };
-  tell(RecordValue::Heading, [&](HelmObserver& observer) { observer.OnHeading(data.Heading); });
-  tell(RecordValue::BoatSpeed, [&](HelmObserver& observer) { observer.OnBoatSpeed(data.BoatSpeed); });
   if (m_record.Changed(RecordValue::WindApparent)) {
     m_supervisor.Came(TrackSide::Apparent);
   }
-  tell(RecordValue::WindApparent, [&](HelmObserver& observer) {
-    observer.OnWindApparent(data.WindAngleApparent, data.WindSpeedApparent);
-  });
   if (m_record.Changed(RecordValue::WindTrue)) {
     m_supervisor.Came(TrackSide::True);
   }
-  tell(RecordValue::WindTrue,
-       [&](HelmObserver& observer) { observer.OnWindTrue(data.WindAngleTrue, data.WindSpeedTrue); });
-  tell(RecordValue::WindIndicator, [&](HelmObserver& observer) {
-    observer.OnWindIndicator(data.WindDirectionAverage, data.WindSpeedAverage);
+  m_observers.Tell([&](HelmObserver& observer) {
+    if (m_record.Changed(RecordValue::Heading)) {
+      observer.OnHeading(data.Heading);
+    }
+    if (m_record.Changed(RecordValue::BoatSpeed)) {
+      observer.OnBoatSpeed(data.BoatSpeed);
+    }
+    if (m_record.Changed(RecordValue::WindApparent)) {
+      observer.OnWindApparent(data.WindAngleApparent, data.WindSpeedApparent);
+    }
+    if (m_record.Changed(RecordValue::WindTrue)) {
+      observer.OnWindTrue(data.WindAngleTrue, data.WindSpeedTrue);
+    }
+    if (m_record.Changed(RecordValue::WindIndicator)) {
+      observer.OnWindIndicator(data.WindDirectionAverage, data.WindSpeedAverage);
+    }
+    if (m_record.Changed(RecordValue::Waypoint)) {
+      observer.OnWaypoint(data.WaypointRange, data.WaypointBearing);
+    }
   });
-  tell(RecordValue::Waypoint,
-       [&](HelmObserver& observer) { observer.OnWaypoint(data.WaypointRange, data.WaypointBearing); });
   m_record.ForgetChanges();
 }
 
@@ -170,13 +178,13 @@ void Helm::TellPass(const Pass& pass) {
     } else if (step.Rings == LoopStep::Alarm::Over) {
       observer.OnAlarmOver();
     }
+    if (!pass.Sentence.empty()) {
+      observer.OnPilotData(pass.Sentence);
+    }
+    if (step.Sends) {
+      observer.OnPilotHeading(m_settings.m_fAutoPilot);
+    }
   });
-  if (!pass.Sentence.empty()) {
-    m_observers.Tell([&](HelmObserver& observer) { observer.OnPilotData(pass.Sentence); });
-  }
-  if (step.Sends) {
-    m_observers.Tell([&](HelmObserver& observer) { observer.OnPilotHeading(m_settings.m_fAutoPilot); });
-  }
 }
 
 void Helm::TellDesired() {

@@ -6,12 +6,8 @@
 
 namespace veerwatch {
 
-std::optional<Origin> InstrumentRecord::Source(RecordValue value) const {
-  return m_from[static_cast<std::size_t>(value)];
-}
-
 std::optional<std::int64_t> InstrumentRecord::Age(RecordValue value, const Moment& now) const {
-  const std::optional<Origin> from = Source(value);
+  const std::optional<Origin>& from = Source(value);
   if (!from) {
     return std::nullopt;
   }
@@ -38,8 +34,11 @@ void InstrumentRecord::Note(RecordValue value, const Origin& from) {
 }
 
 float InstrumentRecord::CountOf(RecordValue value, float count, const Origin& from) const {
-  const std::optional<Origin> before = Source(value);
-  if (m_settings.m_eTrackMethod == TrackMethod::Sentence || !before) {
+  if (m_settings.m_eTrackMethod == TrackMethod::Sentence) {
+    return count;
+  }
+  const std::optional<Origin>& before = Source(value);
+  if (!before) {
     return count;
   }
   constexpr double kMillisecondsPerSecond = 1000.0;
@@ -145,7 +144,7 @@ void InstrumentRecord::WindTrueSimulated(float WindAngle, float WindSpeed, const
 
 void InstrumentRecord::WindIndicatorUpdate() {
   float count = m_settings.m_fNmeaWindIndicatorAverage;
-  if (const auto from = Source(RecordValue::WindTrue)) {
+  if (const auto& from = Source(RecordValue::WindTrue)) {
     count = CountOf(RecordValue::WindIndicator, count, *from);
     Note(RecordValue::WindIndicator, *from);
   }

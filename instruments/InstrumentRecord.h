@@ -26,7 +26,9 @@ class InstrumentRecord {
   const InstrumentData& Data() const { return m_data; }
 
   /// Where the present value came from; nothing before the first one since the start, or since Restart().
-  std::optional<Origin> Source(RecordValue value) const;
+  const std::optional<Origin>& Source(RecordValue value) const {
+    return m_from[static_cast<std::size_t>(value)];
+  }
 
   /// How old the present value is at `now` [ms of the steady clock, at least 0]; nothing where Source() has
   /// none.
@@ -34,6 +36,7 @@ class InstrumentRecord {
 
   /// Whether the value was updated since ForgetChanges().
   bool Changed(RecordValue value) const { return m_changed[static_cast<std::size_t>(value)]; }
+  bool AnyChange() const { return m_changed.any(); }
   void ForgetChanges() { m_changed.reset(); }
 
   /// The present true wind before it was smoothed: the sensor's, or computed from what the instruments said

@@ -17,10 +17,4 @@ Origin OriginOf(std::string_view line, std::int16_t port, const Moment& now) {
   return origin;
 }
 
-const Reading* Readings::Find(Quantity what) const {
-  const Reading* found =
-      std::find_if(begin(), end(), [what](const Reading& reading) { return reading.What == what; });
-  return found == end() ? nullptr : found;
-}
-
 }  // namespace veerwatch

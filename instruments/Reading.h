@@ -40,8 +40,8 @@ enum class Quantity {
 
 struct Reading {
   Quantity What = Quantity::Heading;
-  float Value = 0.0F;  ///< in the unit of the quantity, finite
-  Origin From;
+  float Value = 0.0F;            ///< in the unit of the quantity, finite
+  const Origin* From = nullptr;  ///< of the readings that it is among
 };
 
 /// The readings of one sentence, in the order in which the record takes them.
@@ -52,11 +52,14 @@ class Readings {
 
   /// Empty, for a sentence from `from`.
   explicit Readings(const Origin& from) : m_from(from) {}
+  Readings(const Readings&) = delete;
+  Readings& operator=(const Readings&) = delete;
 
   /// Adds a value; one too many is dropped.
   void Add(Quantity what, float value) {
     if (m_count < kMost) {
-      m_readings[m_count++] = {what, value, m_from};
+      m_readings[m_count++] = {what, value, &m_from};
+      m_brought |= BitOf(what);
     }
   }
 
@@ -69,10 +72,22 @@ class Readings {
   const Reading* end() const { return m_readings.data() + m_count; }
 
   /// The value of `what`; null where the sentence brought none.
-  const Reading* Find(Quantity what) const;
+  const Reading* Find(Quantity what) const {
+    if ((m_brought & BitOf(what)) == 0) {
+      return nullptr;
+    }
+    const Reading* reading = begin();
+    while (reading->What != what) {
+      ++reading;
+    }
+    return reading;
+  }
 
  private:
+  static constexpr unsigned BitOf(Quantity what) { return 1U << static_cast<unsigned>(what); }
+
   Origin m_from;
+  unsigned m_brought = 0;  ///< a bit for each quantity
   std::array<Reading, kMost> m_readings{};
   std::size_t m_count = 0;
   std::string_view m_unreadUnit;

@@ -32,14 +32,14 @@ bool SourceChoice::TakeVariation(const Readings& readings) {
   if (variation == nullptr) {
     return false;
   }
-  m_record.VariationUpdate(variation->Value, variation->From);
+  m_record.VariationUpdate(variation->Value, *variation->From);
   return true;
 }
 
 bool SourceChoice::TakeHeading(const Readings& readings) {
   const bool overGround = m_settings.m_iNmeaHeading == kOverGround;
   if (const Reading* heading = readings.Find(overGround ? Quantity::CourseMagnetic : Quantity::Heading)) {
-    m_record.HeadingUpdate(heading->Value, heading->From);
+    m_record.HeadingUpdate(heading->Value, *heading->From);
     return true;
   }
   const Reading* course = overGround ? readings.Find(Quantity::CourseTrue) : nullptr;
@@ -47,7 +47,7 @@ bool SourceChoice::TakeHeading(const Readings& readings) {
   if (course == nullptr || !data.VariationValid) {
     return false;
   }
-  m_record.HeadingUpdate(Magnetic(course->Value, data.Variation), course->From);
+  m_record.HeadingUpdate(Magnetic(course->Value, data.Variation), *course->From);
   return true;
 }
 
@@ -57,7 +57,7 @@ bool SourceChoice::TakeBoatSpeed(const Readings& readings) {
   if (speed == nullptr) {
     return false;
   }
-  m_record.BoatSpeedUpdate(speed->Value, speed->From);
+  m_record.BoatSpeedUpdate(speed->Value, *speed->From);
   return true;
 }
 
@@ -65,7 +65,7 @@ bool SourceChoice::TakeWind(const Readings& readings) {
   const Reading* apparent = readings.Find(Quantity::ApparentWindAngle);
   const Reading* apparentSpeed = readings.Find(Quantity::ApparentWindSpeed);
   if (apparent != nullptr && apparentSpeed != nullptr) {
-    m_record.WindApparentUpdate(apparent->Value, apparentSpeed->Value, true, apparent->From);
+    m_record.WindApparentUpdate(apparent->Value, apparentSpeed->Value, true, *apparent->From);
     return true;
   }
   const Reading* trueWind = readings.Find(Quantity::TrueWindAngle);
@@ -73,7 +73,7 @@ bool SourceChoice::TakeWind(const Readings& readings) {
   if (m_settings.m_iNmeaTrueWind != kWindSensor || trueWind == nullptr || trueSpeed == nullptr) {
     return false;
   }
-  m_record.WindTrueUpdate(trueWind->Value, trueSpeed->Value, true, trueWind->From);
+  m_record.WindTrueUpdate(trueWind->Value, trueSpeed->Value, true, *trueWind->From);
   return true;
 }
 
@@ -84,7 +84,7 @@ bool SourceChoice::TakeWaypoint(const Readings& readings) {
   if (bearing == nullptr || range == nullptr || !data.VariationValid) {
     return false;
   }
-  m_record.WaypointUpdate(range->Value, Magnetic(bearing->Value, data.Variation), bearing->From);
+  m_record.WaypointUpdate(range->Value, Magnetic(bearing->Value, data.Variation), *bearing->From);
   return true;
 }
 

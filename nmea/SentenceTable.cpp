@@ -39,9 +39,13 @@ const std::array<SentenceKind, 7> kSentences{{
 
 const SentenceKind* FindSentence(std::string_view line) {
   constexpr std::size_t kName = 3;
-  const std::string_view name = line.size() >= 2 * kName ? line.substr(kName, kName) : std::string_view{};
-  const auto* found = std::find_if(kSentences.begin(), kSentences.end(),
-                                   [name](const SentenceKind& kind) { return kind.Name == name; });
+  if (line.size() < 2 * kName) {
+    return nullptr;
+  }
+  // Letter by letter: this is asked for every line.
+  const auto* found = std::find_if(kSentences.begin(), kSentences.end(), [line](const SentenceKind& kind) {
+    return kind.Name[0] == line[kName] && kind.Name[1] == line[kName + 1] && kind.Name[2] == line[kName + 2];
+  });
   return found == kSentences.end() ? nullptr : found;
 }
 

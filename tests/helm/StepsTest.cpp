@@ -183,9 +183,13 @@ TEST_F(HelmSteps, WhatCameBeforeAStartIsNotToldAfterIt) {
     Helm& TheHelm;
   } restarter(m_helm);
   const auto restarts = m_helm.Observers().Join(restarter);
+  RecordingView later;
+  const auto laterTold = m_helm.Observers().Join(later);
   Receive(kSpeed);
-  EXPECT_THAT(m_view.Only({"OnHeading", "OnBoatSpeed", "OnInputStarts", "OnNmeaLine"}),
-              ElementsAre("OnHeading 0", "OnInputStarts", "OnNmeaLine " + WithChecksum(kSpeed) + " used"));
+  const std::string line = "OnNmeaLine " + WithChecksum(kSpeed) + " used";
+  const std::vector<std::string> names{"OnHeading", "OnBoatSpeed", "OnInputStarts", "OnNmeaLine"};
+  EXPECT_THAT(m_view.Only(names), ElementsAre("OnHeading 0", "OnBoatSpeed 6", "OnInputStarts", line));
+  EXPECT_THAT(later.Only(names), ElementsAre("OnInputStarts", line)) << "it comes after who starts it";
 }
 
 // --- While simulating

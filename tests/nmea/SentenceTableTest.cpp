@@ -60,8 +60,8 @@ std::pair<std::vector<Carried>, bool> Carries(std::string_view line) {
   const bool complete = FindSentence(line)->Decode(Fields(line), readings);
   std::vector<Carried> carried;
   for (const Reading& reading : readings) {
-    EXPECT_EQ(reading.From.Port, 7);
-    EXPECT_EQ(reading.From.At.Steady, 1);
+    EXPECT_EQ(reading.From->Port, 7);
+    EXPECT_EQ(reading.From->At.Steady, 1);
     carried.push_back({reading.What, reading.Value});
   }
   return {carried, complete};
