@@ -76,14 +76,11 @@ void SourceWatch::Saw(const SentenceKind& kind, const Readings& readings, bool c
   if (kind.IsWind) {
     CountWind(readings, complete);
   }
-  for (const Reading& reading : readings) {
-    if (reading.What == Quantity::CourseTrue && !variationKnown) {
-      continue;
-    }
-    for (std::size_t source = 0; source < kBringers.size(); ++source) {
-      if (kBringers[source].What == reading.What && kBringers[source].Sentence == kind.Name) {
-        m_age[source] = 0;
-      }
+  for (std::size_t source = 0; source < kBringers.size(); ++source) {
+    const Quantity what = kBringers[source].What;
+    const bool counts = what != Quantity::CourseTrue || variationKnown;
+    if (readings.Find(what) != nullptr && counts && kBringers[source].Sentence == kind.Name) {
+      m_age[source] = 0;
     }
   }
 }

@@ -12,7 +12,10 @@ namespace veerwatch {
 
 template <class Observer>
 class ObserverList {
-  using Members = std::vector<Observer*>;
+  struct Members {
+    std::vector<Observer*> List;
+    bool Gaps = false;  ///< somebody has left while the list was walked through
+  };
 
  public:
   /// The place of one observer in a list; its end is the end of being told. It may outlive the list.
@@ -30,9 +33,10 @@ class ObserverList {
       const auto members = m_members.lock();
       if (members && m_observer != nullptr) {
         // Somebody may be walking through the list; and an observer may have joined again.
-        if (const auto place = std::find(members->begin(), members->end(), m_observer);
-            place != members->end()) {
+        if (const auto place = std::find(members->List.begin(), members->List.end(), m_observer);
+            place != members->List.end()) {
           *place = nullptr;
+          members->Gaps = true;
         }
       }
     }
@@ -52,7 +56,7 @@ class ObserverList {
 
   /// From now on `observer` is told, after those that joined before, as long as the membership lasts.
   [[nodiscard]] Membership Join(Observer& observer) {
-    m_members->push_back(&observer);
+    m_members->List.push_back(&observer);
     return Membership(m_members, observer);
   }
 
@@ -61,13 +65,13 @@ class ObserverList {
   template <class Call>
   void Tell(Call&& call) {
     ++m_telling;
-    for (std::size_t i = 0; i < m_members->size(); ++i) {
-      if (Observer* observer = (*m_members)[i]) {
+    for (std::size_t i = 0; i < m_members->List.size(); ++i) {
+      if (Observer* observer = m_members->List[i]) {
         call(*observer);
       }
     }
-    if (--m_telling == 0) {
-      std::erase(*m_members, nullptr);
+    if (--m_telling == 0 && std::exchange(m_members->Gaps, false)) {
+      std::erase(m_members->List, nullptr);
     }
   }
 
