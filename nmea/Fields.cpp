@@ -1,10 +1,13 @@
 #include "nmea/Fields.h"
 
+#include <algorithm>
+
 namespace veerwatch {
 
 Fields::Fields(std::string_view line) {
   constexpr std::size_t kFirstComma = 6;
-  if (line.substr(0, kFirstComma + 1).find(',') != kFirstComma) {
+  const auto* const head = line.data();
+  if (line.size() <= kFirstComma || std::find(head, head + kFirstComma + 1, ',') != head + kFirstComma) {
     return;
   }
   std::size_t start = kFirstComma + 1;

@@ -21,6 +21,15 @@ class LineFramer {
     while (!bytes.empty()) {
       const std::size_t end = bytes.find('\r');
       const bool whole = end != std::string_view::npos;
+      if (whole && m_buffer.empty() && !m_dropping) {
+        // Most lines come in one piece and need no copy.
+        const std::string_view line = WithoutFirstFeed(bytes.substr(0, end));
+        if (line.size() <= kLongestLine && line.find('\n') == std::string_view::npos) {
+          bytes.remove_prefix(end + 1);
+          onLine(line);
+          continue;
+        }
+      }
       const bool fits = Append(bytes.substr(0, end));
       if (!fits) {
         m_dropping = true;
@@ -53,6 +62,11 @@ class LineFramer {
   std::string_view LineBuffer() const { return m_buffer; }
 
  private:
+  static std::string_view WithoutFirstFeed(std::string_view bytes) {
+    bytes.remove_prefix(!bytes.empty() && bytes.front() == '\n' ? 1 : 0);
+    return bytes;
+  }
+
   /// Appends `bytes` without their line feeds; false when the line grows too long by them.
   bool Append(std::string_view bytes) {
     while (!m_dropping && !bytes.empty()) {

@@ -139,14 +139,10 @@ std::string_view Shortest(float value, Digits& digits) {
   return {digits.data(), static_cast<std::size_t>(result.ptr - digits.data())};
 }
 
-/// Adds one to the decimal number in `text`, which may hold a point; grows it by a digit where all were
-/// nines.
+/// Adds one to the whole number in `text`; grows it by a digit where all were nines.
 void RoundUp(std::string& text) {
   for (std::size_t at = text.size(); at > 0; --at) {
     char& c = text[at - 1];
-    if (c == '.') {
-      continue;
-    }
     if (c != '9') {
       ++c;
       return;
@@ -154,6 +150,53 @@ void RoundUp(std::string& text) {
     c = '0';
   }
   text.insert(text.begin(), '1');
+}
+
+/// `magnitude` [at least 0] in units of its last decimal, rounded as its shortest text rounds: its digits,
+/// zeros in front included.
+std::string UnitsOfText(float magnitude, std::size_t decimals) {
+  Digits digits;
+  const std::string_view exact = Shortest(magnitude, digits);
+  const std::size_t point = std::min(exact.find('.'), exact.size());
+  const std::string_view fraction = point < exact.size() ? exact.substr(point + 1) : std::string_view{};
+  std::string units(exact.substr(0, point));
+  units.append(fraction.substr(0, decimals));
+  units.append(decimals - std::min(decimals, fraction.size()), '0');
+  if (fraction.size() > decimals && fraction[decimals] >= '5') {
+    RoundUp(units);
+  }
+  return units;
+}
+
+/// The same as a number, where it is small and so far from a half that single and text round alike. Most are.
+std::optional<std::uint64_t> UnitsOfNumber(float magnitude, std::size_t decimals) {
+  constexpr std::array<double, 4> kPowers{1.0, 10.0, 100.0, 1000.0};
+  constexpr float kSmall = 1e6F;
+  if (decimals >= kPowers.size() || magnitude >= kSmall) {
+    return std::nullopt;
+  }
+  const double units = static_cast<double>(magnitude) * kPowers[decimals];
+  // The shortest text is at most half a unit of the last place away from the single: 2^-24 of it.
+  constexpr double kTextApart = 1e-7;
+  const double whole = std::floor(units);
+  const double overHalf = units - whole - 0.5;
+  if (std::fabs(overHalf) <= units * kTextApart) {
+    return std::nullopt;
+  }
+  return static_cast<std::uint64_t>(whole) + (overHalf > 0.0 ? 1U : 0U);
+}
+
+/// A number in units of its last decimal as its text, with at least `least` digits before the point.
+std::string Patterned(std::string_view units, bool negative, std::size_t least, std::size_t decimals) {
+  units.remove_prefix(std::min(units.find_first_not_of('0'), units.size()));
+  const std::size_t integers = units.size() - std::min(decimals, units.size());
+  std::string text(negative && !units.empty() ? "-" : "");
+  text.append(least - std::min(least, integers), '0').append(units.substr(0, integers));
+  if (decimals > 0) {
+    units.remove_prefix(integers);
+    text.append(1, '.').append(decimals - units.size(), '0').append(units);
+  }
+  return text;
 }
 
 }  // namespace
@@ -176,33 +219,14 @@ std::string FormatNumber(float value, std::string_view pattern) {
   const std::size_t least = patternPoint == std::string_view::npos ? pattern.size() : patternPoint;
   const std::size_t decimals = pattern.size() - least - (patternPoint == std::string_view::npos ? 0 : 1);
 
+  const auto number = UnitsOfNumber(std::fabs(value), decimals);
+  if (!number) {
+    return Patterned(UnitsOfText(std::fabs(value), decimals), value < 0.0F, least, decimals);
+  }
   Digits digits;
-  const std::string_view exact = Shortest(std::fabs(value), digits);
-  const std::size_t point = std::min(exact.find('.'), exact.size());
-  std::string_view fraction = point < exact.size() ? exact.substr(point + 1) : std::string_view{};
-  const bool roundUp = fraction.size() > decimals && fraction[decimals] >= '5';
-  fraction = fraction.substr(0, decimals);
-
-  std::string text(exact.substr(0, point));
-  if (decimals > 0) {
-    text.append(1, '.').append(fraction).append(decimals - fraction.size(), '0');
-  }
-  if (roundUp) {
-    RoundUp(text);
-  }
-  std::size_t integers = std::min(text.find('.'), text.size());
-  if (integers == 1 && text.front() == '0') {
-    text.erase(0, 1);
-    integers = 0;
-  }
-  if (integers < least) {
-    text.insert(0, least - integers, '0');
-  }
-  const bool zero = text.find_first_not_of("0.") == std::string::npos;
-  if (value < 0.0F && !zero) {
-    text.insert(text.begin(), '-');
-  }
-  return text;
+  const auto* const end = std::to_chars(digits.data(), digits.data() + digits.size(), *number).ptr;
+  return Patterned({digits.data(), static_cast<std::size_t>(end - digits.data())}, value < 0.0F, least,
+                   decimals);
 }
 
 std::string ShortestText(float value) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -10,6 +12,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace veerwatch {
@@ -146,6 +149,38 @@ TEST(FormatNumber, AgreesWithIntegerArithmeticForEveryHundredth) {
     const std::string sign = hundredths < 0 && tenths != 0 ? "-" : "";
     const std::string expected = sign + std::to_string(tenths / 10) + "." + std::to_string(tenths % 10);
     ASSERT_EQ(FormatNumber(value, "0.0"), expected) << hundredths;
+  }
+}
+
+/// A positive number with three decimals at most, rounded by the digits of its shortest text.
+std::string RoundedByItsDigits(float value, std::size_t decimals) {
+  std::string digits = ShortestText(value);
+  if (digits.find('.') == std::string::npos) {
+    digits += ".";
+  }
+  digits += "0000";
+  const std::size_t point = digits.find('.');
+  const bool up = digits[point + decimals + 1] >= '5';
+  digits.erase(point, 1);
+  std::string units = std::to_string(std::stoll(digits.substr(0, point + decimals)) + (up ? 1 : 0));
+  units.insert(0, decimals + 1 - std::min(decimals + 1, units.size()), '0');
+  return decimals == 0 ? units : units.insert(units.size() - decimals, ".");
+}
+
+TEST(FormatNumber, RoundsTheTextNextToEveryHalf) {
+  constexpr std::array<std::pair<std::string_view, int>, 4> kPatterns{
+      {{"0", 1}, {"0.0", 10}, {"0.00", 100}, {"0.000", 1000}}};
+  for (std::size_t decimals = 0; decimals < kPatterns.size(); ++decimals) {
+    const auto [pattern, units] = kPatterns[decimals];
+    for (int half = 1; half < 4000000; half = half < 20000 ? half + 2 : half + 1998) {
+      const auto middle = static_cast<float>(half / 2.0 / units);
+      float value = middle;
+      for (int step = 0; step < 3; ++step, value = std::nextafter(value, 0.0F)) {
+        ASSERT_EQ(FormatNumber(value, pattern), RoundedByItsDigits(value, decimals)) << half << " " << step;
+      }
+      value = std::nextafter(middle, 1e9F);
+      ASSERT_EQ(FormatNumber(value, pattern), RoundedByItsDigits(value, decimals)) << half << " above";
+    }
   }
 }
 
