@@ -98,8 +98,8 @@ EntryBoxQt* InstrumentPanelQt::NewEntry(const char* name, const char* pattern, c
 
 NudgeButtonQt* InstrumentPanelQt::NewNudge(const char* array, int index) {
   auto* button = new NudgeButtonQt(Element(array, index), index == 2, this);
-  button->setToolTip(index == 2 ? QStringLiteral("One degree to starboard (Alt+Right)")
-                                : QStringLiteral("One degree to port (Alt+Left)"));
+  button->setToolTip(index == 2 ? QStringLiteral("One degree to starboard (Alt+Right); ten with Shift")
+                                : QStringLiteral("One degree to port (Alt+Left); ten with Shift"));
   return button;
 }
 

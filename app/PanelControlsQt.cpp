@@ -175,7 +175,7 @@ int CaptionQt::TextWidth() const {
 // EntryBoxQt
 
 EntryBoxQt::EntryBoxQt(const QString& name, const QString& pattern, QWidget* parent)
-    : QLineEdit(parent), m_pattern(pattern) {
+    : EntryLineQt(parent), m_pattern(pattern) {
   setObjectName(name);
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
 }
@@ -186,29 +186,24 @@ void EntryBoxQt::Follow(const QString& text) {
   }
 }
 
-void EntryBoxQt::Show(const QString& text) {
-  m_shown = text;
-  if (this->text() != text) {
-    const bool selected = hasSelectedText();
-    setText(text);
-    if (selected) {
-      selectAll();
-    }
-  }
-  setModified(false);
-}
-
 void EntryBoxQt::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     m_taken();
+    selectAll();
     event->accept();
     return;
   }
-  QLineEdit::keyPressEvent(event);
+  if (event->key() == Qt::Key_Escape && Edited()) {
+    Forget();
+    selectAll();
+    event->accept();
+    return;
+  }
+  EntryLineQt::keyPressEvent(event);
 }
 
 void EntryBoxQt::focusOutEvent(QFocusEvent* event) {
-  QLineEdit::focusOutEvent(event);
+  EntryLineQt::focusOutEvent(event);
   if (!m_ownMenu && Edited()) {
     m_taken();
   }
@@ -216,7 +211,7 @@ void EntryBoxQt::focusOutEvent(QFocusEvent* event) {
 
 void EntryBoxQt::contextMenuEvent(QContextMenuEvent* event) {
   m_ownMenu = true;
-  QLineEdit::contextMenuEvent(event);
+  EntryLineQt::contextMenuEvent(event);
   m_ownMenu = false;
 }
 

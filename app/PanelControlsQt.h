@@ -5,13 +5,13 @@
 
 #include <QHash>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
 #include <functional>
 
 #include "app/ThemeQt.h"
+#include "platform/EntryLineQt.h"
 
 namespace veerwatch {
 
@@ -76,11 +76,12 @@ class CaptionQt final : public QLabel {
   Qt::TextElideMode m_elide = Qt::ElideRight;
 };
 
-/// A box for one number. Enter takes the text and goes no further. Leaving the box takes it too, whatever the
-/// keyboard goes to: another control, a menu, another window. Its own pop-up menu does not leave it.
+/// A box for one number. Enter takes the text and goes no further; Escape brings back what holds. Leaving the
+/// box takes the text too, whatever the keyboard goes to: another control, a menu, another window. Its own
+/// pop-up menu does not leave it.
 /// Deliberate: leaving the box takes only a text that was edited, so that the rounded text does not overwrite
 /// the value that it was made of.
-class EntryBoxQt final : public QLineEdit {
+class EntryBoxQt final : public EntryLineQt {
  public:
   EntryBoxQt(const QString& name, const QString& pattern, QWidget* parent);
 
@@ -90,10 +91,6 @@ class EntryBoxQt final : public QLineEdit {
 
   /// Shows a value that comes from the program; while the user is typing he is left alone.
   void Follow(const QString& text);
-  /// Shows a value in place of whatever was typed.
-  void Show(const QString& text);
-  /// Drops what was typed and not taken.
-  void Forget() { Show(m_shown); }
 
   QSize minimumSizeHint() const override { return {0, 0}; }
   QSize sizeHint() const override { return {0, 0}; }
@@ -104,10 +101,7 @@ class EntryBoxQt final : public QLineEdit {
   void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
-  bool Edited() const { return isModified() || text() != m_shown; }
-
   QString m_pattern;
-  QString m_shown;
   bool m_ownMenu = false;  ///< its pop-up menu is about to take the keyboard
   std::function<void()> m_taken;
 };

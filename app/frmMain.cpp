@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "app/IconsQt.h"
+#include "app/TypedAngle.h"
 #include "instruments/CompassPoint.h"
 #include "platform/AtomicFile.h"
 #include "platform/NumberText.h"
@@ -59,8 +60,11 @@ bool TypesElsewhere(const QWidget& main) {
          ((box != nullptr && !box->isReadOnly()) || (number != nullptr && !number->isReadOnly()));
 }
 
-/// The change that a nudge button asks for [deg, positive to starboard].
-constexpr float NudgeOf(int index) { return index == 2 ? 1.0F : -1.0F; }
+/// The change that a nudge button asks for [deg, positive to starboard]: ten degrees with Shift.
+float NudgeOf(int index) {
+  const bool ten = QApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+  return (index == 2 ? 1.0F : -1.0F) * (ten ? 10.0F : 1.0F);
+}
 
 }  // namespace
 
@@ -153,9 +157,14 @@ void frmMain::ConnectControls() {
 
 void frmMain::ConnectKeys() {
   for (const auto& [key, index] : {std::pair{Qt::Key_Left, 1}, std::pair{Qt::Key_Right, 2}}) {
-    auto* shortcut = new QShortcut(QKeySequence(Qt::ALT | key), this);
-    shortcut->setAutoRepeat(false);
-    connect(shortcut, &QShortcut::activated, this, [this, pressed = index] { NudgeKey(pressed); });
+    // With Shift by ten degrees; an entry box keeps Shift and an arrow for itself.
+    for (const Qt::KeyboardModifiers with :
+         {Qt::KeyboardModifiers(Qt::AltModifier), Qt::ShiftModifier | Qt::AltModifier,
+          Qt::KeyboardModifiers(Qt::ShiftModifier)}) {
+      auto* shortcut = new QShortcut(QKeySequence(QKeyCombination(with, key)), this);
+      shortcut->setAutoRepeat(false);
+      connect(shortcut, &QShortcut::activated, this, [this, pressed = index] { NudgeKey(pressed); });
+    }
   }
 }
 
@@ -265,15 +274,41 @@ void frmMain::TakeAutoPilot(double bearing) {
   m_panel->txtAutoPilot->Show(Number(m_fAutoPilot, "0.0"));
 }
 
+void frmMain::TakeTyped(EntryBoxQt& box, float present, const QString& pattern,
+                        std::function<void(float)> take) {
+  const TrackMode mode = m_eTrackMode;
+  const TypedAngle typed =
+      ReadTypedAngle(box.text().toStdString(), present,
+                     {m_bCarefulEntry, m_fTrackMaxSteerTo, m_helm.Now().Hand != PilotHand::Nobody});
+  if (typed.What == TypedAngle::Fate::Take) {
+    take(typed.Value);
+    return;
+  }
+  box.Show(Number(present, pattern.toStdString()));
+  if (typed.What == TypedAngle::Fate::Ask) {
+    const std::string text = box.accessibleName().toStdString() + ": from " + FormatNumber(present, "0") +
+                             " to " + ShortestText(typed.Value) + "?\rThat is more than " +
+                             ShortestText(m_fTrackMaxSteerTo) + " degrees, and the pilot follows.";
+    m_asks->WarnYesNo(kApplicationTitle, text, [this, mode, typed, take = std::move(take)](bool yes) {
+      if (yes && m_eTrackMode == mode) {
+        take(typed.Value);
+      }
+    });
+  }
+}
+
 void frmMain::txtAutoPilot_Taken() {
-  TakeAutoPilot(static_cast<double>(LeadingNumber(m_panel->txtAutoPilot->text().toStdString())));
+  TakeTyped(*m_panel->txtAutoPilot, m_fAutoPilot, QStringLiteral("0.0"),
+            [this](float bearing) { TakeAutoPilot(static_cast<double>(bearing)); });
 }
 
 void frmMain::txtDesired_Taken(int index) {
-  EntryBoxQt& box = *m_panel->txtDesired[At(index)];
-  m_helm.Loop().SetDesired(static_cast<TrackSide>(index),
-                           static_cast<double>(LeadingNumber(box.text().toStdString())));
-  box.Show(Number(DesiredAngle[static_cast<std::size_t>(index)], "0"));
+  float& desired = DesiredAngle[static_cast<std::size_t>(index)];
+  TakeTyped(*m_panel->txtDesired[At(index)], desired, QStringLiteral("0"),
+            [this, index, &desired](float angle) {
+              m_helm.Loop().SetDesired(static_cast<TrackSide>(index), static_cast<double>(angle));
+              m_panel->txtDesired[At(index)]->Show(Number(desired, "0"));
+            });
 }
 
 void frmMain::cmdAutoPilot_Click(int index) {

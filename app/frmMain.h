@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QTimer>
 #include <array>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -108,6 +109,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void tbrTrack_ButtonClick(TrackMode mode);
   void optControl_Click(int index);
   void TakeAutoPilot(double bearing);
+  /// What is typed into `box` over `present` [deg]: taken by `take`, asked about, or put back.
+  void TakeTyped(EntryBoxQt& box, float present, const QString& pattern, std::function<void(float)> take);
   void txtAutoPilot_Taken();
   void txtDesired_Taken(int index);
   void cmdAutoPilot_Click(int index);

@@ -20,7 +20,7 @@ void NameControl(QWidget& control, const char* name, const char* hint) {
   control.setAccessibleDescription(QLatin1String(hint));
 }
 
-OptionEntryQt::OptionEntryQt(const char* name, const char* hint, QWidget* parent) : QLineEdit(parent) {
+OptionEntryQt::OptionEntryQt(const char* name, const char* hint, QWidget* parent) : EntryLineQt(parent) {
   NameControl(*this, name, hint);
   setAlignment(Qt::AlignRight);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -35,7 +35,7 @@ QSize OptionEntryQt::sizeHint() const {
 
 void ShowEntries(const std::vector<BoundEntry>& entries, const OptionsForm& form) {
   for (const BoundEntry& entry : entries) {
-    entry.Box->setText(QString::fromStdString(form.*entry.Text));
+    entry.Box->Show(QString::fromStdString(form.*entry.Text));
   }
 }
 

@@ -2,12 +2,12 @@
 #pragma once
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QScrollArea>
 #include <string>
 #include <vector>
 
 #include "options/OptionsForm.h"
+#include "platform/EntryLineQt.h"
 
 namespace veerwatch {
 
@@ -15,7 +15,7 @@ namespace veerwatch {
 void NameControl(QWidget& control, const char* name, const char* hint);
 
 /// A box for one number, wide enough for it in every font.
-class OptionEntryQt final : public QLineEdit {
+class OptionEntryQt final : public EntryLineQt {
  public:
   OptionEntryQt(const char* name, const char* hint, QWidget* parent);
 

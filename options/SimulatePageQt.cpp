@@ -65,8 +65,8 @@ SimulatePageQt::SimulatePageQt(QWidget* parent)
   QSizePolicy place = frmSimulate->sizePolicy();
   place.setRetainSizeWhenHidden(true);
   frmSimulate->setSizePolicy(place);
-  txtSimulateWaypointRng->setText(QStringLiteral("20.0"));
-  txtSimulateTime->setText(QStringLiteral("0.00"));
+  txtSimulateWaypointRng->Show(QStringLiteral("20.0"));
+  txtSimulateTime->Show(QStringLiteral("0.00"));
   lblSimulateWaypointRng->setText(QStringLiteral("20.0"));
   // A mnemonic then marks the change as a click does.
   connect(chkSimulate, &QCheckBox::pressed, chkSimulate, [this] { chkSimulate->setFocus(); });

@@ -15,7 +15,7 @@ constexpr const char* kTimeHint = "Track Time (sec)";
 
 OptionEntryQt* NewPreviewEntry(const char* name, const char* hint, const char* text, QWidget* parent) {
   auto* box = new OptionEntryQt(name, hint, parent);
-  box->setText(QLatin1String(text));
+  box->Show(QLatin1String(text));
   return box;
 }
 
@@ -158,6 +158,9 @@ void TrackPageQt::TrackPreviewDraw() const {
   texts.Min = txtTrackMin->text().toStdString();
   texts.Max = txtTrackMax->text().toStdString();
   pctTrack->Draw(texts);
+  for (OptionEntryQt* box : {txtTrackOffset, txtTrackNoise, txtTrackTime, txtTrackMin, txtTrackMax}) {
+    box->Take();
+  }
   Axes->update();
   lblTrackFigures->setText(QString::fromStdString(pctTrack->Picture().FiguresText()));
 }

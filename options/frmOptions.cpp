@@ -264,8 +264,8 @@ void frmOptions::OptionsReload() {
   const OptionsForm form = OptionsFormOf(m_parts.Main);
   m_data->Show(form);
   lstNmeaSentence->Show(form);
-  m_input->Port->setText(QString::fromStdString(form.NmeaPort));
-  m_output->Port->setText(QString::fromStdString(form.PilotPort));
+  m_input->Port->Show(QString::fromStdString(form.NmeaPort));
+  m_output->Port->Show(QString::fromStdString(form.PilotPort));
   m_input->List->Clear();
   m_output->List->Clear();
   m_simulate->Show(form);
@@ -282,6 +282,11 @@ bool frmOptions::OptionsApply() {
     const std::string hint = DeviceHint(Form());
     m_asks->Inform(kApplicationTitle, hint.empty() ? *problem : *problem + "\r\r" + hint);
     return false;
+  }
+  for (QLineEdit* control : findChildren<QLineEdit*>()) {
+    if (auto* box = dynamic_cast<EntryLineQt*>(control)) {
+      box->Take();
+    }
   }
   ApplyBold(false);
   return true;

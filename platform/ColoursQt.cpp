@@ -10,6 +10,7 @@ namespace {
 constexpr int kMiddleLightness = 128;
 constexpr QColor kNightWindow(0x0c, 0x00, 0x00);
 constexpr QColor kNightText(0xff, 0x46, 0x28);
+constexpr QColor kAmber(255, 191, 71);
 
 /// Source: WCAG 2, relative luminance.
 double Luminance(const QColor& colour) {
@@ -74,6 +75,14 @@ QPalette NightPalette() {
   palette.setColor(QPalette::Dark, Mixed(kNightWindow, kNightText, 0.08));
   palette.setColor(QPalette::Shadow, black);
   return palette;
+}
+
+QColor AmberText(const QColor& window) {
+  return ShadeFor(window, IsDark(window) ? kAmber : QColor(148, 84, 0));
+}
+
+QColor AmberEdge(const QColor& window) {
+  return ShadeFor(window, IsDark(window) ? kAmber : QColor(204, 122, 0));
 }
 
 QColor NightShade(const QColor& colour) {

@@ -22,6 +22,10 @@ inline constexpr double kDimmedContrast = 4.2;
 /// Whether a window of that colour is dark.
 bool IsDark(const QColor& window);
 
+/// The amber of a text on a window of that colour, and that of a frame or a sign, which needs less contrast.
+QColor AmberText(const QColor& window);
+QColor AmberEdge(const QColor& window);
+
 /// Red on black, for eyes that have to see in the dark afterwards.
 QPalette NightPalette();
 

@@ -66,6 +66,9 @@ struct Settings {
 
   bool m_bSaveWhileRunning = false;  ///< settings are also saved ten seconds after a change
 
+  /// An emptied box restores, and a large change that is typed is asked about.
+  bool m_bCarefulEntry = false;
+
   /// Path of the profile file.
   std::string m_sProfileFile;
 };

@@ -11,6 +11,7 @@ constexpr const char* kData = "Options > Data";
 constexpr const char* kOutput = "Options > Output";
 constexpr const char* kSimulate = "Options > Simulate";
 constexpr const char* kTracking = "Options > Tracking";
+constexpr const char* kWatch = "Options > Watch";
 constexpr const char* kMainWindow = "main window";
 constexpr const char* kViewMenu = "View menu";
 constexpr const char* kProfile = "the profile alone";
@@ -116,6 +117,10 @@ SettingTable<S> View() {
        "settings are also saved ten seconds after a change; the bearing and the wanted angles go along and "
        "set nothing off",
        kViewMenu},
+      {"View", "Careful Entry", Truth(&S::m_bCarefulEntry), "",
+       "an emptied box restores instead of steering to 0, and a typed bearing or angle more than Max SteerTo "
+       "from the present one is asked about while the pilot is sent to",
+       kWatch},
   };
 }
 

@@ -49,14 +49,10 @@ QFont Sized(QFont font, int pixels) {
   return font;
 }
 
-QColor Amber(const QColor& window) {
-  return ShadeFor(window, IsDark(window) ? QColor(255, 191, 71) : QColor(148, 84, 0));
-}
-
 /// A box for one number of up to `pattern`'s width, in figures of `pixels`.
-QLineEdit* Entry(const char* name, const QString& toolTip, const QString& pattern, int pixels,
-                 QWidget* parent) {
-  auto* box = new QLineEdit(parent);
+EntryLineQt* Entry(const char* name, const QString& toolTip, const QString& pattern, int pixels,
+                   QWidget* parent) {
+  auto* box = new EntryLineQt(parent);
   box->setObjectName(QLatin1String(name));
   box->setAccessibleName(toolTip);
   box->setToolTip(toolTip);
@@ -233,7 +229,7 @@ void frmTack::Dim() {
   }
   setPalette(colours);
   QPalette amber;
-  amber.setColor(QPalette::WindowText, Amber(palette().color(QPalette::Active, QPalette::Window)));
+  amber.setColor(QPalette::WindowText, AmberText(palette().color(QPalette::Active, QPalette::Window)));
   lblNote->setPalette(amber);
 }
 
@@ -241,9 +237,9 @@ void frmTack::ShowKind() {
   const std::size_t kind = IndexOf(m_turn.Kind());
   setWindowTitle(QStringLiteral("Veerwatch - ") + QLatin1String(kWords[kind]));
   lblPrompt->setText(Prompt(kWords[kind]));
-  txtHeading->setText(Text(FormatNumber(m_newHeading, "0")));
-  txtOvershoot->setText(Text(ShortestText(m_settings.Overshoot[kind])));
-  txtRate->setText(Text(ShortestText(m_settings.Rate[kind])));
+  txtHeading->Show(Text(FormatNumber(m_newHeading, "0")));
+  txtOvershoot->Show(Text(ShortestText(m_settings.Overshoot[kind])));
+  txtRate->Show(Text(ShortestText(m_settings.Rate[kind])));
   lstTack->clear();
   for (const char* step : {kManual, kOvershoot, kLimit}) {
     if (step != kOvershoot || m_turn.Direction() != 0) {
@@ -315,8 +311,8 @@ void frmTack::FillAnew(const TurnNow& now, const TurnFrom& from) {
   }
   m_newHeading = newHeading;
   m_from = from;
-  std::vector<std::pair<QLineEdit*, QString>> typed;
-  for (QLineEdit* box : {txtHeading, txtOvershoot, txtRate}) {
+  std::vector<std::pair<EntryLineQt*, QString>> typed;
+  for (EntryLineQt* box : {txtHeading, txtOvershoot, txtRate}) {
     if (box->isModified() && (box == txtHeading || m_turn.Kind() == kind)) {
       typed.emplace_back(box, box->text());
     }
@@ -343,7 +339,17 @@ bool frmTack::AsksOnceMore(const TurnNow& now) {
   return !m_question.empty();
 }
 
+void frmTack::RestoreEmptied() {
+  for (EntryLineQt* box : {txtHeading, txtOvershoot, txtRate}) {
+    if (m_parts.Main.m_bCarefulEntry && box->text().trimmed().isEmpty()) {
+      box->Forget();
+    }
+  }
+  ShowWords();
+}
+
 void frmTack::cmdOk_Click() {
+  RestoreEmptied();
   const TurnNow now = m_parts.Now();
   if (TurnHindrance(now.Helm).empty() && !AsksOnceMore(now)) {
     Begin();
@@ -357,6 +363,9 @@ void frmTack::Begin() {
   const std::size_t kind = IndexOf(m_turn.Kind());
   m_settings.Overshoot[kind] = LeadingNumber(txtOvershoot->text().toStdString());
   m_settings.Rate[kind] = LeadingNumber(txtRate->text().toStdString());
+  for (EntryLineQt* box : {txtHeading, txtOvershoot, txtRate}) {
+    box->Take();
+  }
   m_turn.Start(TypedHeading(), m_settings.Overshoot[kind], m_settings.Rate[kind]);
   m_pace.Start(m_parts.Now().Helm.Sent);
   m_stepped = m_parts.Time.Now().Steady;
@@ -381,7 +390,7 @@ void frmTack::TimerTack_Timer() {
   const bool arrived = m_pace.Step(m_turn, m_parts.Now().Helm.Sent, seconds);
   lblNote->setText(m_pace.Waiting() ? QStringLiteral("Waits: nothing leaves for the pilot") : QString());
   ShowProgress();
-  txtHeading->setText(Text(FormatNumber(m_turn.Heading(), "0")));
+  txtHeading->Show(Text(FormatNumber(m_turn.Heading(), "0")));
   m_parts.Main.AutoPilotSet(m_turn.AutoPilot());
   if (arrived) {
     accept();

@@ -6,7 +6,6 @@
 
 #include <QDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QProgressBar>
 #include <QPushButton>
@@ -19,6 +18,7 @@
 #include "control/TurnPace.h"
 #include "helm/MainWindowApi.h"
 #include "platform/Clock.h"
+#include "platform/EntryLineQt.h"
 #include "platform/Profile.h"
 #include "platform/Timer.h"
 #include "tack/TackSettings.h"
@@ -100,6 +100,7 @@ class frmTack final : public QDialog, private HelmObserver {
   void Dim();
   void Steering(bool steering);
   void ShowProgress();
+  void RestoreEmptied();
   void cmdOk_Click();
 
   TackParts m_parts;
@@ -117,9 +118,9 @@ class frmTack final : public QDialog, private HelmObserver {
   QLabel* lblPrompt;
   QLabel* lblWords;
   QLabel* lblNote;
-  QLineEdit* txtHeading;
-  QLineEdit* txtOvershoot;
-  QLineEdit* txtRate;
+  EntryLineQt* txtHeading;
+  EntryLineQt* txtOvershoot;
+  EntryLineQt* txtRate;
   QListWidget* lstTack;
   QProgressBar* ProgressBarTack;
   QPushButton* cmdOk;

@@ -302,7 +302,7 @@ TEST(SettingsProfile, AFreshProfileHasEveryKeyInItsOrder) {
             "Waypoint Range=10\n\n"
             "[Track]\nAlarm=True\nAlarm Limit=5\nBandwidth=20\nDamping=4\nDesired 1=45\n"
             "Desired 2=92\nMax SteerTo=10\nMethod=Sentence\nMax Ahead=30\nMax Rate=3\nAlarm Average=0\n\n"
-            "[View]\nNight Colours=False\nSave While Running=False\n\n"
+            "[View]\nNight Colours=False\nSave While Running=False\nCareful Entry=False\n\n"
             "[History Window]\nVisible=False\n\n[Polar Window]\nVisible=False\n");
 }
 

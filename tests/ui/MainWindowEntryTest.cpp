@@ -4,6 +4,7 @@
 #include <QMenuBar>
 #include <QShortcut>
 
+#include "platform/ColoursQt.h"
 #include "tests/ui/MainWindowTester.h"
 
 namespace veerwatch {
@@ -256,6 +257,176 @@ TEST_F(MainWindowEntry, ATypedBearingIsSentUnchangedInManual) {
   for (const std::string& sentence : PilotPort.Written) {
     EXPECT_NE(sentence.find(",007.5,M,1,007.5,M,007.5,M*"), std::string::npos) << sentence;
   }
+}
+
+TEST_F(MainWindowEntry, AClickSelectsAllSoThatTypingReplaces) {
+  Start(kOnPorts);
+  Mode(5);
+  auto& box = Find<QLineEdit>("txtAutoPilot");
+  // Beyond the last figure.
+  QTest::mouseClick(&box, Qt::LeftButton, {}, box.rect().center() + QPoint(box.width() / 2 - 4, 0));
+  EXPECT_EQ(box.selectedText(), "100.0");
+  QTest::keyClicks(&box, "150");
+  EXPECT_EQ(Entry("txtAutoPilot"), "150");
+  Enter("txtAutoPilot");
+  EXPECT_EQ(Window->m_fAutoPilot, 150.0F);
+  QTest::keyClicks(&box, "160");
+  EXPECT_EQ(Entry("txtAutoPilot"), "160") << "nor behind what Enter took";
+}
+
+TEST_F(MainWindowEntry, TabSelectsAllAndASecondClickKeepsIt) {
+  Start(kOnPorts);
+  auto& box = Find<QLineEdit>("txtAutoPilot");
+  Find<QWidget>("optControl(1)").setFocus();
+  for (int i = 0; i < 20 && !box.hasFocus(); ++i) {
+    QTest::keyClick(Window->focusWidget(), Qt::Key_Tab);
+  }
+  ASSERT_TRUE(box.hasFocus());
+  EXPECT_EQ(box.selectedText(), "100.0");
+  Click("txtAutoPilot");
+  EXPECT_EQ(box.selectedText(), "100.0");
+}
+
+TEST_F(MainWindowEntry, AClickIntoWhatIsBeingTypedPlacesTheCursor) {
+  Start(kOnPorts);
+  Type("txtAutoPilot", "23");
+  auto& box = Find<QLineEdit>("txtAutoPilot");
+  QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(4, box.height() / 2));
+  EXPECT_FALSE(box.hasSelectedText());
+  QTest::keyClicks(&box, "1");
+  EXPECT_EQ(Entry("txtAutoPilot"), "123");
+}
+
+TEST_F(MainWindowEntry, EscapeBringsBackWhatHolds) {
+  Start(kOnPorts);
+  Type("txtAutoPilot", "300");
+  QTest::keyClick(&Find<QLineEdit>("txtAutoPilot"), Qt::Key_Escape);
+  EXPECT_EQ(Entry("txtAutoPilot"), "100.0");
+  Click("txtDesired(1)");
+  EXPECT_EQ(Window->m_fAutoPilot, 100.0F);
+}
+
+/// Pixels of `colour` along the upper edge of a box.
+int EdgePixels(QWidget& box, const QColor& colour) {
+  const QImage picture = box.grab().toImage();
+  int count = 0;
+  for (int x = 0; x < picture.width(); ++x) {
+    count += picture.pixelColor(x, 1).rgb() == colour.rgb() ? 1 : 0;
+  }
+  return count;
+}
+
+TEST_F(MainWindowEntry, ABoxThatIsNotTakenHasAnAmberFrame) {
+  Start(kOnPorts);
+  for (const bool night : {false, true}) {
+    Find<QAction>("mnuViewNight").setChecked(night);
+    auto& box = Find<QLineEdit>("txtAutoPilot");
+    const QColor amber = AmberEdge(Window->palette().color(QPalette::Window));
+    Click("txtAutoPilot");
+    EXPECT_EQ(EdgePixels(box, amber), 0);
+    QTest::keyClicks(&box, "150");
+    EXPECT_GT(EdgePixels(box, amber), box.width() * 9 / 10);
+    Enter("txtAutoPilot");
+    EXPECT_EQ(EdgePixels(box, amber), 0);
+  }
+  Find<QAction>("mnuViewNight").setChecked(false);
+}
+
+TEST_F(MainWindowEntry, ShiftNudgesByTen) {
+  Start(kOnPorts);
+  QTest::mouseClick(&Find<QWidget>("cmdAutoPilot(2)"), Qt::LeftButton, Qt::ShiftModifier);
+  EXPECT_EQ(Window->m_fAutoPilot, 110.0F);
+  QTest::mouseClick(&Find<QWidget>("cmdAutoPilot(1)"), Qt::LeftButton);
+  EXPECT_EQ(Window->m_fAutoPilot, 109.0F);
+  Window->setFocus();
+  QTest::keyClick(Window.get(), Qt::Key_Left, Qt::AltModifier | Qt::ShiftModifier);
+  EXPECT_EQ(Window->m_fAutoPilot, 99.0F);
+  QTest::keyClick(Window.get(), Qt::Key_Right, Qt::ShiftModifier);
+  EXPECT_EQ(Window->m_fAutoPilot, 109.0F);
+  QTest::keyClick(Window.get(), Qt::Key_Right, Qt::AltModifier);
+  EXPECT_EQ(Window->m_fAutoPilot, 110.0F);
+}
+
+TEST_F(MainWindowEntry, ShiftAndAnArrowSelectInABox) {
+  Start(kOnPorts);
+  Type("txtAutoPilot", "23");
+  QTest::keyClick(&Find<QLineEdit>("txtAutoPilot"), Qt::Key_Left, Qt::ShiftModifier);
+  EXPECT_EQ(Find<QLineEdit>("txtAutoPilot").selectedText(), "3");
+  EXPECT_EQ(Window->m_fAutoPilot, 100.0F);
+}
+
+class MainWindowCarefulEntry : public MainWindowTester {
+ public:
+  void StartCareful() {
+    Start(std::string(kOnPorts) + "[View]\nCareful Entry=True\n");
+    NmeaPort.Receive(Winds("30", "40"));
+    Mode(5);
+  }
+};
+
+TEST_F(MainWindowCarefulEntry, AnEmptiedBoxRestores) {
+  StartCareful();
+  Type("txtAutoPilot", "");
+  Enter("txtAutoPilot");
+  EXPECT_EQ(Window->m_fAutoPilot, 100.0F);
+  EXPECT_EQ(Entry("txtAutoPilot"), "100.0");
+  Type("txtAutoPilot", "");
+  Click("txtDesired(1)");
+  EXPECT_EQ(Window->m_fAutoPilot, 100.0F);
+  EXPECT_EQ(Entry("txtAutoPilot"), "100.0");
+}
+
+TEST_F(MainWindowCarefulEntry, AFarBearingIsAskedAboutOnce) {
+  StartCareful();
+  Dialogs.Answers = {false, true};
+  Type("txtAutoPilot", "150");
+  Enter("txtAutoPilot");
+  ASSERT_EQ(Dialogs.Warnings.size(), 1U);
+  EXPECT_EQ(Dialogs.Warnings[0].Text,
+            "AutoPilot Bearing: from 100 to 150?\rThat is more than 10 degrees, and the pilot follows.");
+  EXPECT_EQ(Window->m_fAutoPilot, 100.0F);
+  EXPECT_EQ(Entry("txtAutoPilot"), "100.0");
+  Type("txtAutoPilot", "150");
+  Enter("txtAutoPilot");
+  EXPECT_EQ(Window->m_fAutoPilot, 150.0F);
+  EXPECT_EQ(Entry("txtAutoPilot"), "150.0");
+  EXPECT_EQ(Dialogs.Warnings.size(), 2U);
+  Type("txtAutoPilot", "159");
+  Enter("txtAutoPilot");
+  EXPECT_EQ(Window->m_fAutoPilot, 159.0F);
+  EXPECT_EQ(Dialogs.Warnings.size(), 2U);
+}
+
+TEST_F(MainWindowCarefulEntry, AFarAngleIsAskedAboutInTrack) {
+  StartCareful();
+  Mode(7);
+  Type("txtDesired(1)", "120");
+  Enter("txtDesired(1)");
+  ASSERT_EQ(Dialogs.Warnings.size(), 1U);
+  EXPECT_EQ(Window->DesiredAngle[1], 30.0F);
+  EXPECT_EQ(Entry("txtDesired(1)"), "30");
+}
+
+TEST_F(MainWindowCarefulEntry, NothingIsAskedWhileNothingIsSent) {
+  StartCareful();
+  Mode(3);
+  Type("txtAutoPilot", "275");
+  Enter("txtAutoPilot");
+  EXPECT_TRUE(Dialogs.Warnings.empty());
+  EXPECT_EQ(Window->m_fAutoPilot, 275.0F);
+}
+
+TEST_F(MainWindowCarefulEntry, AnAnswerThatComesInAnotherModeIsDropped) {
+  StartCareful();
+  Dialogs.Later = true;
+  Dialogs.Answers = {true};
+  Type("txtAutoPilot", "275");
+  Enter("txtAutoPilot");
+  ASSERT_TRUE(Dialogs.Open());
+  EXPECT_EQ(Entry("txtAutoPilot"), "100.0") << "nothing is left to be taken when the box is left";
+  Window->TrackSetTrack();
+  Dialogs.Answer();
+  EXPECT_EQ(Window->m_fAutoPilot, 100.0F);
 }
 
 }  // namespace

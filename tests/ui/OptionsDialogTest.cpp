@@ -218,6 +218,23 @@ TEST_F(OptionsDialog, CancelHidesAndKeepsWhatWasTyped) {
   EXPECT_EQ(Main.m_fTrackBandwidth, 12.5F);
 }
 
+TEST_F(OptionsDialog, ABoxIsEditedUntilItIsApplied) {
+  Start(frmOptions::Tracking);
+  auto& box = *Window->findChild<QLineEdit*>(QStringLiteral("txtTrackBandwidth"));
+  const auto edited = [&] { return dynamic_cast<EntryLineQt&>(box).Edited(); };
+  QTest::mouseClick(&box, Qt::LeftButton, {}, box.rect().center() + QPoint(box.width() / 2 - 4, 0));
+  EXPECT_EQ(box.selectedText(), box.text());
+  EXPECT_FALSE(edited());
+  QTest::keyClicks(&box, "12.5");
+  EXPECT_EQ(box.text(), "12.5");
+  EXPECT_TRUE(edited());
+  Click("cmdApply");
+  EXPECT_FALSE(edited());
+  Type("txtTrackBandwidth", "13");
+  Click("cmdOk");
+  EXPECT_FALSE(edited());
+}
+
 TEST_F(OptionsDialog, EscapeIsCancel) {
   Start(frmOptions::Tracking);
   Type("txtTrackBandwidth", "12.5");

@@ -55,6 +55,19 @@ TEST_F(TackCare, ATurnDoesNotBeginInOff) {
   EXPECT_EQ(Note(), "");
 }
 
+TEST_F(TackCare, CarefulEntryRestoresAnEmptiedBox) {
+  OpenKnown();
+  const std::string rate = Entry("txtRate");
+  for (const bool careful : {true, false}) {
+    Window->m_bCarefulEntry = careful;
+    Type("txtRate", "");
+    Click("cmdOk");
+    EXPECT_EQ(Entry("txtRate"), careful ? rate : "");
+    Click("cmdCancel");
+    Window->TackOpen(190.0F, 100.0F, 45.0F);
+  }
+}
+
 TEST_F(TackCare, ATurnDoesNotBeginWhileThePilotPortIsNotOpen) {
   PilotPort.OpensOtherwise = false;
   Start(kOnPorts);
