@@ -15,6 +15,13 @@ QRadioButton* NewOption(const char* caption, const PortPageTexts::Control& texts
   return option;
 }
 
+/// Names a text that the ports write.
+void NameText(QLabel& label, const PortPageTexts::Control& texts) {
+  NameControl(label, texts.Name, texts.Hint);
+  label.setAccessibleName(QLatin1String(texts.Hint));
+  label.setTextFormat(Qt::PlainText);
+}
+
 /// A row of options of which the first is chosen.
 QHBoxLayout* OptionRow(const std::array<QRadioButton*, 2>& options, QWidget* parent) {
   auto* group = new QButtonGroup(parent);
@@ -72,13 +79,8 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
       Pause(new QCheckBox(QStringLiteral("Pa&use"), this)),
       Copy(new QPushButton(QStringLiteral("Cop&y All"), this)),
       List(new LiveListQt(texts.List.Name, texts.List.Hint, this)) {
-  NameControl(*Status, texts.Status.Name, texts.Status.Hint);
-  Status->setAccessibleName(QLatin1String(texts.Status.Hint));
-  Status->setTextFormat(Qt::PlainText);
-
-  NameControl(*Reason, texts.Reason.Name, texts.Reason.Hint);
-  Reason->setAccessibleName(QLatin1String(texts.Reason.Hint));
-  Reason->setTextFormat(Qt::PlainText);
+  NameText(*Status, texts.Status);
+  NameText(*Reason, texts.Reason);
   Reason->setWordWrap(true);
   Reason->hide();
 
@@ -101,22 +103,8 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
   display->addWidget(Copy);
   rows->addLayout(display, 1, 1);
   if (texts.Format[0].Name != nullptr) {
-    for (std::size_t i = 0; i < Format.size(); ++i) {
-      Format[i] = NewOption(texts.FormatCaption[i], texts.Format[i], this);
-    }
     rows->addWidget(NewText("Format:", this), 2, 0);
-    auto* format = OptionRow(Format, this);
-    Type = new QComboBox(this);
-    NameControl(*Type, texts.Type.Name, texts.Type.Hint);
-    Type->addItem(QStringLiteral("All"));
-    Type->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-    format->addWidget(NewCaption("Ty&pe:", Type, this));
-    format->addWidget(Type);
-    rows->addLayout(format, 2, 1);
-    List->Model().TypeFound([this] { OfferTypes(); });
-    connect(Type, &QComboBox::activated, this, [this](int index) {
-      List->Type(index > 0 ? Type->itemText(index).toStdString() : std::string());
-    });
+    rows->addLayout(FormatRow(texts), 2, 1);
   }
   NameControl(*Pause, texts.Pause.Name, texts.Pause.Hint);
   NameControl(*Copy, texts.Copy.Name, texts.Copy.Hint);
@@ -125,6 +113,23 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
   auto* page = new QVBoxLayout(this);
   page->addLayout(rows);
   page->addWidget(List, 1);
+}
+
+QLayout* PortPageQt::FormatRow(const PortPageTexts& texts) {
+  for (std::size_t i = 0; i < Format.size(); ++i) {
+    Format[i] = NewOption(texts.FormatCaption[i], texts.Format[i], this);
+  }
+  auto* row = OptionRow(Format, this);
+  Type = new QComboBox(this);
+  NameControl(*Type, texts.Type.Name, texts.Type.Hint);
+  Type->addItem(QStringLiteral("All"));
+  Type->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  row->addWidget(NewCaption("Ty&pe:", Type, this));
+  row->addWidget(Type);
+  List->Model().TypeFound([this] { OfferTypes(); });
+  connect(Type, &QComboBox::activated, this,
+          [this](int index) { List->Type(index > 0 ? Type->itemText(index).toStdString() : std::string()); });
+  return row;
 }
 
 void PortPageQt::Explain(const std::string& reason) const {

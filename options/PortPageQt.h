@@ -58,6 +58,8 @@ class PortPageQt final : public QWidget {
   LiveListQt* List;
 
  private:
+  /// The options of the list's format, and the choice of one type.
+  QLayout* FormatRow(const PortPageTexts& texts);
   /// Offers every type that came, in the order of the alphabet.
   void OfferTypes() const;
 };

@@ -1,7 +1,7 @@
 // veerwatch_delay winds|flood [OPTION VALUE...]: the real program on pseudo terminals, all of its windows
-// open, in Track. "winds" sends single winds and measures how long each takes to its sentence for the pilot;
-// "flood" sends as many lines as the program takes and measures how late its event loop is. Exit status 1
-// when that is more than is promised.
+// open or the main window alone, in Track. "winds" sends single winds and measures how long each takes to its
+// sentence for the pilot; "flood" sends as many lines as the program takes and measures how late its event
+// loop is. Exit status 1 when that is more than is promised.
 #include <poll.h>
 
 #include <algorithm>
@@ -38,8 +38,9 @@ struct Wishes {
   double Rate = 10.0;  ///< winds a second
   int Rows = 200;      ///< of the polar
   int Columns = 50;
-  double Plot = 1.0;    ///< 0 true, 1 apparent wind
-  double Core = 100.0;  ///< part of one core that the program may use [%]
+  double Plot = 1.0;     ///< 0 true, 1 apparent wind
+  double Core = 100.0;   ///< part of one core that the program may use [%]
+  double Windows = 1.0;  ///< 1 all of them open, 0 the main window alone
 };
 
 /// A polar of that size.
@@ -106,8 +107,12 @@ class Instruments {
   }
 
   std::string Profile() const {
-    return "[Nmea]\nPort=1\n[Pilot]\nPort=2\n[Ports]\n1=" + m_nmea.Device() + "\n2=" + m_pilot.Device() +
-           "\n[Polar Window]\nVisible=True\n[Polar Data]\nFile 1=" + (m_folder / "soak.pol").string() +
+    const std::string ports =
+        "[Nmea]\nPort=1\n[Pilot]\nPort=2\n[Ports]\n1=" + m_nmea.Device() + "\n2=" + m_pilot.Device() + "\n";
+    if (m_wishes.Windows == 0.0) {
+      return ports;
+    }
+    return ports + "[Polar Window]\nVisible=True\n[Polar Data]\nFile 1=" + (m_folder / "soak.pol").string() +
            "\nPlot Type=" + std::to_string(static_cast<int>(m_wishes.Plot)) +
            "\nCourse Waypoint=True\nCourse Waypoint Index=2\n" +
            "[History Window]\nVisible=True\nWidth=15000\nHeight=9000\n";
@@ -168,8 +173,12 @@ double Quantile(const std::vector<double>& sorted, double part) {
 }
 
 /// Goes to Track with the first winds.
-void Begin(Instruments& instruments, Sailor& program) {
-  program.OpenWindows();
+void Begin(const Wishes& wishes, Instruments& instruments, Sailor& program) {
+  if (wishes.Windows != 0.0) {
+    program.OpenWindows();
+  } else {
+    program.Do("click tbrTrack(5)");
+  }
   for (int i = 0; i < 20; ++i) {
     instruments.Nmea().Write(instruments.Next());
     instruments.Wait(Clock::now() + std::chrono::milliseconds(100), false);
@@ -191,7 +200,7 @@ bool End(Sailor& program) {
 int Winds(const Wishes& wishes) {
   Instruments instruments(wishes);
   Sailor program(instruments.Profile());
-  Begin(instruments, program);
+  Begin(wishes, instruments, program);
   std::vector<double> waits;
   std::deque<Clock::time_point> waiting;  // winds without a sentence; the first sentence is for the first
   std::size_t winds = 0;
@@ -234,7 +243,7 @@ int Winds(const Wishes& wishes) {
 int Flood(const Wishes& wishes) {
   Instruments instruments(wishes);
   Sailor program(instruments.Profile());
-  Begin(instruments, program);
+  Begin(wishes, instruments, program);
   std::string waiting;
   std::size_t lines = 0;
   std::size_t sentences = 0;
@@ -279,7 +288,8 @@ bool Take(int argc, char** argv, Wishes& wishes) {
   double columns = wishes.Columns;
   const std::map<std::string_view, double*> options{
       {"--seconds", &wishes.Seconds}, {"--rate", &wishes.Rate}, {"--rows", &rows},
-      {"--columns", &columns},        {"--plot", &wishes.Plot}, {"--core", &wishes.Core}};
+      {"--columns", &columns},        {"--plot", &wishes.Plot}, {"--core", &wishes.Core},
+      {"--windows", &wishes.Windows}};
   for (int i = 2; i < argc; i += 2) {
     const auto option = options.find(argv[i]);
     if (option == options.end() || i + 1 == argc) {
@@ -307,7 +317,7 @@ int main(int argc, char** argv) {
     std::fprintf(
         stderr,
         "usage: veerwatch_delay winds|flood [--seconds S] [--rate N] [--rows N] [--columns N] [--plot 0|1] "
-        "[--core PERCENT]\n");
+        "[--core PERCENT] [--windows 0|1]\n");
     return 2;
   }
   return what == "winds" ? veerwatch::Winds(wishes) : veerwatch::Flood(wishes);

@@ -6,11 +6,10 @@
 #include <QTimer>
 #include <cmath>
 
-#include "polar/LedgerPanelQt.h"
 #include "tests/support/PictureQt.h"
 #include "tests/support/WaitQt.h"
 #include "tests/ui/DarkPalette.h"
-#include "tests/ui/PolarWindowTester.h"
+#include "tests/ui/PolarLedgerTester.h"
 
 namespace veerwatch {
 namespace {
@@ -20,86 +19,7 @@ using testing::ElementsAre;
 constexpr QColor kGreen(128, 255, 128);
 constexpr QColor kRed(255, 128, 128);
 
-/// How often a widget is painted.
-class PaintCount : public QObject {
- public:
-  explicit PaintCount(QWidget& widget) { widget.installEventFilter(this); }
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    Count += event->type() == QEvent::Paint ? 1 : 0;
-    return false;
-  }
-  int Count = 0;
-};
-
-class PolarLedger : public PolarWindowTester {
- public:
-  PolarLedger() {
-    // 6 kn from 45 degrees on: two legs at 45 degrees to windward, straight elsewhere.
-    WriteFile(Program / kDefaultPolar, "TWA\t5\t20\n45\t6\t6\n180\t6\t6\n");
-    Store.ProfileSet("Polar Data", "Plot Average", 0.0F);
-  }
-
-  /// A course to `bearing` from the start.
-  void StartTo(float bearing, CourseSource source = CourseSource::TargetBearing) {
-    Store.ProfileSet("Polar Data", "Course Waypoint", true);
-    Store.ProfileSet("Polar Data", "Course Waypoint Index", static_cast<std::int16_t>(source));
-    Store.ProfileSet("Polar Data", "Course Target Bearing", bearing);
-    Start();
-  }
-
-  struct Moment {
-    float Heading = 135.0F;
-    float WindAngle = -35.0F;
-    float BoatSpeed = 6.0F;
-    bool HeadingValid = true;
-    bool WaypointValid = true;
-    float Bearing = 100.0F;
-    float Range = 12.0F;
-    float WindSpeed = 12.0F;
-  };
-  /// One set of values, shown.
-  void At(const Moment& moment) const {
-    Take(moment);
-    Settle();
-  }
-  /// The same, not shown yet.
-  void Take(const Moment& moment) const {
-    Window->PolarUpdate(TrackMode::Track, moment.HeadingValid, moment.Heading, moment.BoatSpeed,
-                        moment.WindAngle * 0.6F, moment.WindSpeed + 4.0F, moment.WindAngle, moment.WindSpeed,
-                        moment.WaypointValid, moment.Bearing, moment.Range);
-  }
-
-  LedgerPanelQt& Ledger() const { return dynamic_cast<LedgerPanelQt&>(Find<QWidget>("frmLedger")); }
-  QPushButton& Steer() const { return Find<QPushButton>("cmdSteer"); }
-  QPushButton& Tack() const { return Find<QPushButton>("cmdTack"); }
-  QLabel& Label() const { return Find<QLabel>("lblSteer"); }
-  std::vector<std::string> Figures() const {
-    std::vector<std::string> lines;
-    for (const LedgerFigure& figure : Ledger().Content().Figures) {
-      lines.push_back(figure.Heading + "=" + figure.Value);
-    }
-    return lines;
-  }
-  /// Which of ledger, buttons and label show: all or none.
-  bool Shows() const {
-    const bool ledger = Ledger().isVisible();
-    EXPECT_EQ(Steer().isVisible(), ledger);
-    EXPECT_EQ(Tack().isVisible(), ledger);
-    EXPECT_EQ(Label().isVisible(), ledger);
-    return ledger;
-  }
-  void Click(QPushButton& button) const {
-    ASSERT_TRUE(button.isVisible());
-    QTest::mouseClick(&button, Qt::LeftButton);
-  }
-  void Drag(QPoint by) const {
-    const QPoint grab(20, 8);
-    QTest::mousePress(&Ledger(), Qt::LeftButton, {}, grab);
-    QTest::mouseMove(&Ledger(), grab + by);
-    QTest::mouseRelease(&Ledger(), Qt::LeftButton, {}, grab);
-  }
-  bool Inside() const { return Plot().rect().contains(Ledger().geometry()); }
-};
+class PolarLedger : public PolarLedgerTester {};
 
 TEST_F(PolarLedger, IsHiddenByDefault) {
   Start();
@@ -461,59 +381,6 @@ TEST_F(PolarLedger, DrawsTheLegsWithArrowHeads) {
   }
   Choose("mnuCourseWaypoint(0)");
   EXPECT_EQ(Near(GrabPlot(), PointAt(geometry, 45.0, 5.2), colours.StarboardTack), 0);
-}
-
-// Many updates
-
-TEST_F(PolarLedger, ShowsTheNewestOfManyUpdatesOnceAndAveragesAll) {
-  Store.ProfileSet("Polar Data", "Plot Average", 4.0F);
-  StartTo(100.0F);
-  At({});
-  ASSERT_EQ(Figures()[0], "Heading (M)=135");
-  PaintCount paints(Plot());
-  const std::size_t told = Values.size();
-  Moment newer;
-  newer.Heading = 175.0F;
-  for (int i = 0; i < 40; ++i) {
-    Take(newer);
-    EXPECT_EQ(Figures()[0], "Heading (M)=135") << "nothing is searched while sentences wait";
-  }
-  Settle();
-  EXPECT_EQ(Figures()[0], "Heading (M)=175") << "the average of all forty";
-  EXPECT_EQ(Values.size(), told + 40) << "the history is told of each";
-  EXPECT_EQ(paints.Count, 1);
-}
-
-TEST_F(PolarLedger, RestsAfterEachUpdateThatItShows) {
-  constexpr int kHour = 3600000;
-  Rest = kHour;
-  StartTo(100.0F);
-  At({});
-  ASSERT_EQ(Figures()[0], "Heading (M)=135");
-  Moment newer;
-  newer.Heading = 150.0F;
-  At(newer);
-  EXPECT_EQ(Figures()[0], "Heading (M)=135");
-  EXPECT_EQ(Window->Model().Values().Heading, 150.0F) << "what came is not lost";
-}
-
-TEST_F(PolarLedger, ShowsWhatCameDuringTheRest) {
-  Rest = 20;
-  StartTo(100.0F);
-  At({});
-  Moment newer;
-  newer.Heading = 150.0F;
-  At(newer);
-  EXPECT_TRUE(WaitFor([this] { return Figures()[0] == "Heading (M)=150"; })) << Figures()[0];
-}
-
-TEST_F(PolarLedger, ShowsNothingThatCameBeforeItWasClosed) {
-  StartTo(100.0F);
-  Take({});
-  Window->close();
-  Window->show();
-  Settle();
-  EXPECT_FALSE(Shows());
 }
 
 TEST_F(PolarLedger, LooksTheSameInTheDark) {

@@ -24,6 +24,27 @@
 
 namespace veerwatch {
 
+/// Pixels within `radius` of `centre` that are nearly of `colour`.
+inline int Count(const QImage& image, const Point& centre, int radius, const QColor& colour) {
+  int count = 0;
+  for (int y = -radius; y <= radius; ++y) {
+    for (int x = -radius; x <= radius; ++x) {
+      const QPoint at(static_cast<int>(centre.X) + x, static_cast<int>(centre.Y) + y);
+      if (!image.rect().contains(at)) {
+        continue;
+      }
+      const QColor pixel = image.pixelColor(at);
+      constexpr int kNear = 70;
+      count += std::abs(pixel.red() - colour.red()) < kNear &&
+                       std::abs(pixel.green() - colour.green()) < kNear &&
+                       std::abs(pixel.blue() - colour.blue()) < kNear
+                   ? 1
+                   : 0;
+    }
+  }
+  return count;
+}
+
 class PolarWindowTester : public testing::Test, public PolarObserver {
  public:
   TemporaryFolder Program;
