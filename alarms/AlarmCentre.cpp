@@ -1,14 +1,54 @@
 #include "alarms/AlarmCentre.h"
 
+#include "alarms/WatchText.h"
 #include "platform/VisibleText.h"
 
 namespace veerwatch {
+
+namespace {
+
+bool AboutValue(Condition what) {
+  return what != Condition::PilotLost && what != Condition::ManyWinds && what != Condition::PilotLineFull &&
+         what != Condition::Simulation;
+}
+
+/// What the program does about a notice, and what the user can do.
+AlarmEntry NoticeEntry(AlarmKind kind, const std::string& text) {
+  AlarmEntry entry;
+  entry.Text = text;
+  switch (kind) {
+    case AlarmKind::Save:
+      entry.Does = "Keeps the settings, steers on, and tries again at the next change and at the close";
+      entry.Remedy = "Make room on the disk; may you write in that folder?";
+      break;
+    case AlarmKind::Profile:
+      entry.Does = "Works with the defaults";
+      entry.Remedy = "Close the program and look at the file";
+      break;
+    case AlarmKind::Source:
+      entry.Does = "Tells it";
+      entry.Remedy = "Options > Data: choose the source that is there";
+      break;
+  }
+  return entry;
+}
+
+}  // namespace
 
 void AlarmCentre::Set(AlarmKind kind, const std::string& text) {
   const std::string visible = VisibleText(text);
   Notice& notice = m_notices[kind];
   if (notice.Text != visible) {
     notice = {visible, visible.empty()};
+  }
+}
+
+void AlarmCentre::Watch(const WatchNow& watch) {
+  m_watch = watch;
+  for (std::size_t i = 0; i < kConditionCount; ++i) {
+    if (watch.Find(static_cast<Condition>(i)) == nullptr) {
+      m_acknowledged[i].reset();
+    }
   }
 }
 
@@ -21,8 +61,72 @@ void AlarmCentre::Dismiss() {
   }
 }
 
+void AlarmCentre::Acknowledge() {
+  for (const Standing& standing : m_watch.Conditions()) {
+    m_acknowledged[static_cast<std::size_t>(standing.What)] = standing.Rank;
+  }
+}
+
+bool AlarmCentre::Acknowledged(const Standing& standing) const {
+  const auto& at = m_acknowledged[static_cast<std::size_t>(standing.What)];
+  return at && *at <= standing.Rank;
+}
+
+bool AlarmCentre::Muted(const Moment& now) const {
+  constexpr std::int64_t kMute = 600000;  // [ms]
+  return m_mutedAt && now.Steady - *m_mutedAt < kMute;
+}
+
+AlarmTone AlarmCentre::Tone(const Moment& now) const {
+  constexpr std::int64_t kUnanswered = 30000;  // [ms]
+  AlarmTone tone;
+  if (Muted(now)) {
+    return tone;
+  }
+  for (const Standing& standing : m_watch.Conditions()) {
+    if (standing.What == Condition::Simulation || Acknowledged(standing)) {
+      continue;
+    }
+    tone.Pattern = tone.Pattern.value_or(standing.Rank);
+    tone.Rises =
+        tone.Rises || (standing.Rank == Level::Red && now.Steady - standing.Since.Steady >= kUnanswered);
+  }
+  return tone;
+}
+
+AlarmEntry AlarmCentre::EntryOf(const Standing& standing) const {
+  AlarmEntry entry;
+  entry.Rank = standing.Rank;
+  entry.Text = WatchText(standing);
+  entry.What = standing.What;
+  entry.Since = standing.Since;
+  entry.Acknowledged = Acknowledged(standing);
+  if (AboutValue(standing.What)) {
+    entry.Value = ValueText(standing.Value, m_watch.Of(standing.Value));
+  }
+  entry.Does = WatchDoes(standing, m_watch);
+  entry.Remedy = WatchRemedy(standing.What);
+  return entry;
+}
+
+std::vector<AlarmEntry> AlarmCentre::Entries() const {
+  std::vector<AlarmEntry> entries;
+  for (const Standing& standing : m_watch.Conditions()) {
+    entries.push_back(EntryOf(standing));
+  }
+  for (const auto& [kind, notice] : m_notices) {
+    if (!notice.Read && !notice.Text.empty()) {
+      entries.push_back(NoticeEntry(kind, notice.Text));
+    }
+  }
+  return entries;
+}
+
 std::vector<std::string> AlarmCentre::Texts() const {
   std::vector<std::string> texts;
+  for (const Standing& standing : m_watch.Conditions()) {
+    texts.push_back(WatchText(standing));
+  }
   for (const auto& [kind, notice] : m_notices) {
     if (!notice.Read && !notice.Text.empty()) {
       texts.push_back(notice.Text);
@@ -37,7 +141,7 @@ std::string AlarmCentre::Line() const {
     return {};
   }
   return texts.size() == 1 ? texts.front()
-                           : texts.front() + " (and " + std::to_string(texts.size() - 1) + " more)";
+                           : texts.front() + " +" + std::to_string(texts.size() - 1) + " more";
 }
 
 }  // namespace veerwatch

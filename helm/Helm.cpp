@@ -12,7 +12,8 @@ Helm::Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Time
       m_pilot(settings, nmeaPort, pilotPort, *this),
       m_loop(settings, m_record.Data()),
       m_modes(settings, m_receiver, m_pilot, m_loop, *this),
-      m_simulator(settings, m_record, random) {}
+      m_simulator(settings, m_record, random),
+      m_watch(settings, m_record) {}
 
 HelmNow Helm::Now() const {
   HelmNow now;
@@ -41,6 +42,7 @@ HelmNow Helm::Now() const {
   if (data.WindTrueValid) {
     now.WindAngleTrue = data.WindAngleTrue;
   }
+  now.Watch = m_watch.Now();
   return now;
 }
 
@@ -58,6 +60,7 @@ void Helm::OnSentence(std::string_view line, const Dispatcher::Outcome& outcome,
   const bool steers = outcome.WindSentence && data.WindApparentValid && data.WindTrueValid;
   const Pass pass = steers ? Steer(now) : Pass{};
 
+  Feed(outcome, pass, now);
   TellChanges();
   m_observers.Tell([&](HelmObserver& observer) {
     observer.OnNmeaLine(line, outcome.Incomplete ? LineFault::Decode : LineFault::None, outcome.Used);
@@ -84,6 +87,7 @@ void Helm::SimulatorTick() {
   // Deliberate: no validity is tested.
   const Pass pass = Steer(now);
 
+  m_watch.Step(pass.Step, 0, now);
   TellChanges();
   // Deliberate: the polar window comes before the loop; after a wind sentence it comes after it.
   TellPolar();
@@ -120,7 +124,29 @@ void Helm::Tick() {
     m_observers.Tell([lost = m_supervisor.WindLost()](HelmObserver& observer) { observer.OnWindLost(lost); });
   }
   Decide(m_supervisor.Look());
+  LookOut();
   m_observers.Tell([](HelmObserver& observer) { observer.OnTick(); });
+}
+
+void Helm::Feed(const Dispatcher::Outcome& outcome, const Pass& pass, const Moment& now) {
+  if (outcome.Brought != nullptr) {
+    m_watch.Sentence(*outcome.Brought);
+  }
+  if (pass.Step.Ran) {
+    m_watch.Step(pass.Step, pass.Sentence.size(), now);
+  }
+}
+
+void Helm::LookOut() {
+  Watch::Around around;
+  around.Side = m_loop.Side();
+  around.Method = m_loop.Tuning().Method;
+  around.Bandwidth = m_loop.Tuning().Bandwidth;
+  around.InputStarted = m_receiver.Started();
+  around.OutputOpen = m_pilot.Open();
+  around.Sent = m_pilot.Sent();
+  m_watch.Look(around, m_clock.Now());
+  m_observers.Tell([this](HelmObserver& observer) { observer.OnWatch(m_watch.Now()); });
 }
 
 // What is told
@@ -232,6 +258,7 @@ void Helm::Decide(TurnFate fate) {
 // What input, output and modes say
 
 void Helm::OnInputStarts() {
+  m_watch.Restart();
   m_record.ForgetChanges();
   m_observers.Tell([](HelmObserver& observer) { observer.OnInputStarts(); });
 }
@@ -277,6 +304,7 @@ void Helm::OnOutputFailure(const std::string& reason) {
 void Helm::OnTrackMode(TrackMode mode) {
   Decide(m_supervisor.Entered(mode));
   m_observers.Tell([mode](HelmObserver& observer) { observer.OnTrackMode(mode); });
+  LookOut();
 }
 
 void Helm::OnTrackRefused(TrackRefusal why) {

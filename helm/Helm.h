@@ -11,6 +11,7 @@
 #include "control/Supervisor.h"
 #include "control/TrackLoop.h"
 #include "control/TrackModes.h"
+#include "control/Watch.h"
 #include "helm/HelmNow.h"
 #include "helm/HelmObserver.h"
 #include "instruments/InstrumentRecord.h"
@@ -83,6 +84,10 @@ class Helm final : private NmeaReceiver::Observer,
   void TellPolar();
   void SimulatorTick();
   void Decide(TurnFate fate);
+  /// Gives the watch what a sentence brought, once the pilot has its own.
+  void Feed(const Dispatcher::Outcome& outcome, const Pass& pass, const Moment& now);
+  /// The watch looks at everything, and its answer is told.
+  void LookOut();
 
   void OnInputStarts() override;
   void OnSentence(std::string_view line, const Dispatcher::Outcome& outcome, const Moment& now) override;
@@ -109,6 +114,7 @@ class Helm final : private NmeaReceiver::Observer,
   TrackLoop m_loop;
   TrackModes m_modes;
   Simulator m_simulator;
+  Watch m_watch;
   std::int64_t m_simulated = 0;  ///< clock of the simulated boat [ms]
   InputState m_inputState = InputState::Stopped;
   OutputState m_outputState = OutputState::None;

@@ -8,6 +8,7 @@
 
 #include "control/Supervisor.h"
 #include "control/TrackLoop.h"
+#include "control/WatchNow.h"
 #include "nmea/PortStatus.h"
 #include "settings/TrackMode.h"
 
@@ -32,6 +33,7 @@ struct HelmNow {
   float AutoPilot = 0.0F;              ///< its bearing [deg magnetic, [0, 360)]
   std::optional<float> Heading;        ///< at present, not averaged [deg magnetic, [0, 360)]
   std::optional<float> WindAngleTrue;  ///< averaged [deg relative, positive to starboard]
+  WatchNow Watch;                      ///< what the watch said last
 };
 
 }  // namespace veerwatch

@@ -9,6 +9,7 @@
 
 #include "control/Supervisor.h"
 #include "control/TrackModes.h"
+#include "control/WatchNow.h"
 #include "instruments/InstrumentData.h"
 #include "nmea/LineFault.h"
 #include "nmea/PortStatus.h"
@@ -77,6 +78,9 @@ class HelmObserver {
   virtual void OnWindLost(bool /*lost*/) {}
   /// The turn that runs is over: TurnFate::Taken, or what it lost.
   virtual void OnTurnEnds(TurnFate /*why*/) {}
+
+  /// What the watch says, at every second and when its conditions change.
+  virtual void OnWatch(const WatchNow& /*watch*/) {}
 
   /// A tick of the input's timer has been handled.
   virtual void OnTick() {}

@@ -68,6 +68,13 @@ class Readings {
   /// The unit noted; empty for none.
   std::string_view UnreadUnit() const { return m_unreadUnit; }
 
+  /// Notes that the instrument itself says that what it sends does not hold.
+  void NoteInvalid() { m_invalid = true; }
+  bool Invalid() const { return m_invalid; }
+
+  /// Where and when all of them came from.
+  const Origin& From() const { return m_from; }
+
   const Reading* begin() const { return m_readings.data(); }
   const Reading* end() const { return m_readings.data() + m_count; }
 
@@ -91,6 +98,7 @@ class Readings {
   std::array<Reading, kMost> m_readings{};
   std::size_t m_count = 0;
   std::string_view m_unreadUnit;
+  bool m_invalid = false;
 };
 
 }  // namespace veerwatch

@@ -14,10 +14,11 @@ Dispatcher::Outcome Dispatcher::Dispatch(std::string_view line, std::int16_t por
     m_sources.SawSwitchedOff(*kind);
     return outcome;
   }
-  Readings readings(OriginOf(line, port, now));
+  Readings& readings = m_readings.emplace(OriginOf(line, port, now));
   outcome.Incomplete = !kind->Decode(Fields(line), readings);
   outcome.Used = m_choice.Take(readings);
   outcome.WindSentence = kind->IsWind;
+  outcome.Brought = &readings;
   m_sources.Saw(*kind, readings, !outcome.Incomplete, m_record.Data().VariationValid);
   return outcome;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "instruments/InstrumentRecord.h"
@@ -18,6 +19,9 @@ class Dispatcher {
     bool Used = false;          ///< the line updated the record
     bool Incomplete = false;    ///< the decoder missed something that its sentence should hold
     bool WindSentence = false;  ///< an enabled "MWV", used or not
+    /// What the line brought, used or not; null for a type that is disabled or not known. Until the next
+    /// line.
+    const Readings* Brought = nullptr;
   };
 
   Dispatcher(const Settings& settings, InstrumentRecord& record)
@@ -36,6 +40,7 @@ class Dispatcher {
   const InstrumentRecord& m_record;
   SourceChoice m_choice;
   SourceWatch m_sources;
+  std::optional<Readings> m_readings;  ///< of the latest line that was decoded
 };
 
 }  // namespace veerwatch

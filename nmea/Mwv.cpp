@@ -6,6 +6,7 @@ namespace veerwatch {
 
 Mwv DecodeMwv(const Fields& fields) {
   Mwv mwv;
+  mwv.Invalid = fields[5] == "V";
   if (const auto text = fields.Text(1, 2)) {
     const auto angle = AngleField(*text);
     if (!angle) {
@@ -29,6 +30,9 @@ Mwv DecodeMwv(const Fields& fields) {
 }
 
 void Mwv::AddTo(Readings& readings) const {
+  if (Invalid) {
+    readings.NoteInvalid();
+  }
   if (SpeedUnit != "Kts") {
     readings.NoteUnreadUnit(SpeedUnit);
     return;

@@ -10,7 +10,7 @@ namespace veerwatch {
 
 ///     $IIMWV,045.0,R,10.5,N,A*hh
 ///            1     2 3    4 5
-///            |     | |    | status, not looked at
+///            |     | |    | status: V where the instrument itself says that the wind does not hold
 ///            |     | |    unit of the speed: N knots, others are kept as they stand
 ///            |     | wind speed
 ///            |     reference: R relative (apparent), T theoretical (true)
@@ -22,6 +22,7 @@ struct Mwv {
   char Reference = '\0';       ///< 'R', 'T', or 0 when the sentence has no such mark or no angle
   float WindSpeed = 0.0F;      ///< 0 where not read
   std::string_view SpeedUnit;  ///< "Kts" for knots, another unit's text, "" for none
+  bool Invalid = false;        ///< the status is V
 
   bool Complete() const { return Reference != '\0' && !SpeedUnit.empty(); }
   /// Adds a wind whose speed is in knots; notes any other unit.

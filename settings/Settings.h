@@ -62,6 +62,18 @@ struct Settings {
   /// Desired wind angles [deg relative, (-180, 180]]: index 1 apparent, 2 true; index 0 is not used.
   std::array<float, 3> DesiredAngle{0.0F, 45.0F, 92.0F};
 
+  // The watch over what steers.
+  bool m_bWatchAct = false;                ///< what is lost does not steer; else it is only told
+  bool m_bWatchKeepSending = false;        ///< with Act: sentences go on for 30 s when the wind is lost
+  bool m_bWatchHeadingUp = false;          ///< with Act: a lost wind from astern brings the boat up, once
+  bool m_bWatchLogFitted = true;           ///< a boat speed is on the wire; else nobody misses it
+  bool m_bWatchCompassFitted = true;       ///< the same for the heading
+  float m_fWatchStaleWindApparent = 4.0F;  ///< older values are stale [s], above 0
+  float m_fWatchStaleWindTrue = 4.0F;
+  float m_fWatchStaleBoatSpeed = 4.0F;
+  float m_fWatchStaleHeading = 4.0F;
+  float m_fWatchStaleWaypoint = 4.0F;
+
   bool m_bNightColours = false;  ///< red on black in every window
 
   bool m_bSaveWhileRunning = false;  ///< settings are also saved ten seconds after a change

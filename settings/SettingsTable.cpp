@@ -109,6 +109,28 @@ SettingTable<S> Track() {
   };
 }
 
+SettingTable<S> Watch() {
+  const char* section = "Watch";
+  const char* stale = "a value that is older is stale";
+  return {
+      {section, "Act", Truth(&S::m_bWatchAct), "", "what is stale, lost or wrong does not steer", kProfile},
+      {section, "Keep Sending", Truth(&S::m_bWatchKeepSending), "",
+       "with Act: the last bearing is sent on for 30 seconds when the wind is lost", kProfile},
+      {section, "Heading Up", Truth(&S::m_bWatchHeadingUp), "",
+       "with Act: a wind from astern that is lost brings the boat 20 degrees up, once", kProfile},
+      {section, "Log Fitted", Truth(&S::m_bWatchLogFitted), "",
+       "the boat speed is on the wire; otherwise it is not missed", kProfile},
+      {section, "Compass Fitted", Truth(&S::m_bWatchCompassFitted), "",
+       "the heading is on the wire; otherwise it is not missed", kProfile},
+      {section, "Stale Apparent Wind", Number(&S::m_fWatchStaleWindApparent, kAboveZero), "s", stale,
+       kProfile},
+      {section, "Stale True Wind", Number(&S::m_fWatchStaleWindTrue, kAboveZero), "s", stale, kProfile},
+      {section, "Stale Boat Speed", Number(&S::m_fWatchStaleBoatSpeed, kAboveZero), "s", stale, kProfile},
+      {section, "Stale Heading", Number(&S::m_fWatchStaleHeading, kAboveZero), "s", stale, kProfile},
+      {section, "Stale Waypoint", Number(&S::m_fWatchStaleWaypoint, kAboveZero), "s", stale, kProfile},
+  };
+}
+
 SettingTable<S> View() {
   return {
       {"View", "Night Colours", Truth(&S::m_bNightColours), "",
@@ -126,7 +148,7 @@ SettingTable<S> View() {
 
 SettingTable<S> All() {
   SettingTable<S> all;
-  for (const auto& section : {Nmea(), Pilot(), Simulate(), Track(), View()}) {
+  for (const auto& section : {Nmea(), Pilot(), Simulate(), Track(), Watch(), View()}) {
     all.insert(all.end(), section.begin(), section.end());
   }
   return all;

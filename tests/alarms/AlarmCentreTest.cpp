@@ -20,10 +20,10 @@ TEST(AlarmCentre, ShowTheMostImportantOneAndCountTheOthers) {
   EXPECT_EQ(notices.Line(), "source");
   notices.Set(AlarmKind::Save, "save");
   notices.Set(AlarmKind::Profile, "profile");
-  EXPECT_EQ(notices.Line(), "save (and 2 more)");
+  EXPECT_EQ(notices.Line(), "save +2 more");
   EXPECT_EQ(notices.Texts(), (std::vector<std::string>{"save", "profile", "source"}));
   notices.Set(AlarmKind::Save, "");
-  EXPECT_EQ(notices.Line(), "profile (and 1 more)");
+  EXPECT_EQ(notices.Line(), "profile +1 more");
 }
 
 TEST(AlarmCentre, ThatWereReadStayAwayUntilTheySayAnotherThing) {

@@ -64,7 +64,17 @@ constexpr Key kKeys[] = {{"Nmea", "Boat Speed", "1", "0"},
                          {"Track", "Damping", "4", "1.5"},
                          {"Track", "Desired 1", "45", "-35.5"},
                          {"Track", "Desired 2", "92", "-101.5"},
-                         {"Track", "Max SteerTo", "10", "15.5"}};
+                         {"Track", "Max SteerTo", "10", "15.5"},
+                         {"Watch", "Act", "False", "True"},
+                         {"Watch", "Keep Sending", "False", "True"},
+                         {"Watch", "Heading Up", "False", "True"},
+                         {"Watch", "Log Fitted", "True", "False"},
+                         {"Watch", "Compass Fitted", "True", "False"},
+                         {"Watch", "Stale Apparent Wind", "4", "6"},
+                         {"Watch", "Stale True Wind", "4", "7"},
+                         {"Watch", "Stale Boat Speed", "4", "8"},
+                         {"Watch", "Stale Heading", "4", "9"},
+                         {"Watch", "Stale Waypoint", "4", "12"}};
 
 /// The key as it would be written now.
 std::string Written(const Settings& settings, const Key& key) {
@@ -292,18 +302,21 @@ TEST(SettingsProfile, WhetherTheWindowsAreOpenIsWritten) {
 TEST(SettingsProfile, AFreshProfileHasEveryKeyInItsOrder) {
   Profile profile;
   ProfileWrite(profile, Settings{}, Windows{});
-  EXPECT_EQ(profile.Content(),
-            "[Nmea]\nBoat Speed=1\nHeading=1\nPort=5\nSentence HDG=True\nSentence HVM=True\n"
-            "Sentence MWV=True\nSentence RMB=True\nSentence RMC=True\nSentence VHW=True\n"
-            "Sentence VTG=True\nTrue Wind=1\nTrue Wind Average=2\nWind Indicator Average=60\n\n"
-            "[Pilot]\nPort=5\nBearing=40\n\n"
-            "[Simulate]\nNmea=False\nBoat Speed=8\nCompass Offset=10\nNoise Angle=4\nNoise Speed=2\n"
-            "True Wind Angle=0\nTrue Wind Speed=12\nVariation=11\nWaypoint Bearing=5\n"
-            "Waypoint Range=10\n\n"
-            "[Track]\nAlarm=True\nAlarm Limit=5\nBandwidth=20\nDamping=4\nDesired 1=45\n"
-            "Desired 2=92\nMax SteerTo=10\nMethod=Sentence\nMax Ahead=30\nMax Rate=3\nAlarm Average=0\n\n"
-            "[View]\nNight Colours=False\nSave While Running=False\nCareful Entry=False\n\n"
-            "[History Window]\nVisible=False\n\n[Polar Window]\nVisible=False\n");
+  EXPECT_EQ(
+      profile.Content(),
+      "[Nmea]\nBoat Speed=1\nHeading=1\nPort=5\nSentence HDG=True\nSentence HVM=True\n"
+      "Sentence MWV=True\nSentence RMB=True\nSentence RMC=True\nSentence VHW=True\n"
+      "Sentence VTG=True\nTrue Wind=1\nTrue Wind Average=2\nWind Indicator Average=60\n\n"
+      "[Pilot]\nPort=5\nBearing=40\n\n"
+      "[Simulate]\nNmea=False\nBoat Speed=8\nCompass Offset=10\nNoise Angle=4\nNoise Speed=2\n"
+      "True Wind Angle=0\nTrue Wind Speed=12\nVariation=11\nWaypoint Bearing=5\n"
+      "Waypoint Range=10\n\n"
+      "[Track]\nAlarm=True\nAlarm Limit=5\nBandwidth=20\nDamping=4\nDesired 1=45\n"
+      "Desired 2=92\nMax SteerTo=10\nMethod=Sentence\nMax Ahead=30\nMax Rate=3\nAlarm Average=0\n\n"
+      "[Watch]\nAct=False\nKeep Sending=False\nHeading Up=False\nLog Fitted=True\nCompass Fitted=True\n"
+      "Stale Apparent Wind=4\nStale True Wind=4\nStale Boat Speed=4\nStale Heading=4\nStale Waypoint=4\n\n"
+      "[View]\nNight Colours=False\nSave While Running=False\nCareful Entry=False\n\n"
+      "[History Window]\nVisible=False\n\n[Polar Window]\nVisible=False\n");
 }
 
 TEST(SettingsProfile, WritingKeepsWhatTheProgramDoesNotOwn) {

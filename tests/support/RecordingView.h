@@ -24,6 +24,8 @@ class RecordingView final : public HelmObserver,
  public:
   std::vector<std::string> Calls;  ///< such as "OnHeading 123.4", in their order
 
+  std::vector<WatchNow> Watches;  ///< what the watch said, in its order
+
   std::string InputStatus;   ///< the latest text of the input panel
   std::string InputState;    ///< the latest state of the input
   std::string OutputStatus;  ///< the latest text of the output panel
@@ -128,6 +130,8 @@ class RecordingView final : public HelmObserver,
     Keep("OnTurnEnds", kFates[static_cast<std::size_t>(why)]);
   }
 
+  /// Not among the calls, as it comes at every second.
+  void OnWatch(const WatchNow& watch) override { Watches.push_back(watch); }
   void OnTick() override { Keep("OnTick"); }
 
  private:

@@ -1,0 +1,60 @@
+#include "control/PilotChecks.h"
+
+#include <cmath>
+
+namespace veerwatch {
+
+void FollowCheck::Look(double off, std::int64_t moment) {
+  constexpr double kFar = 10.0;              // [deg]
+  constexpr double kCloser = 3.0;            // [deg]
+  constexpr std::int64_t kPatience = 15000;  // [ms]
+  constexpr double kNear = 8.0;              // [deg]
+  constexpr std::int64_t kStays = 5000;      // [ms]
+  const double far = std::fabs(off);
+  if (far > kNear) {
+    m_near.reset();
+  } else if (!m_near) {
+    m_near = moment;
+  }
+  if (m_stands && m_near && moment - *m_near >= kStays) {
+    m_stands = false;
+  }
+  if (far <= kFar) {
+    m_since.reset();
+  } else if (!m_since || far <= m_from - kCloser) {
+    m_since = moment;
+    m_from = far;
+  } else if (moment - *m_since >= kPatience) {
+    m_stands = true;
+  }
+}
+
+void OutputCheck::Built(std::size_t bytes, std::int64_t moment) {
+  m_bytes += bytes;
+  if (!m_waits) {
+    m_waits = moment;
+  }
+}
+
+void OutputCheck::Look(bool open, std::uint64_t left, std::int64_t moment) {
+  constexpr std::int64_t kPatience = 4000;        // [ms]
+  constexpr std::int64_t kWindow = 10000;         // [ms]
+  constexpr double kCharactersPerSecond = 480.0;  // at 4800 baud, 8N1
+  constexpr double kMillisecondsPerSecond = 1000.0;
+  if (left != m_left) {
+    m_left = left;
+    m_waits.reset();
+  }
+  m_lost = !open || (m_waits && moment - *m_waits > kPatience);
+  if (!m_window) {
+    m_window = moment;
+    m_bytes = 0;
+  } else if (const std::int64_t passed = moment - *m_window; passed >= kWindow) {
+    m_full = static_cast<double>(m_bytes) * kMillisecondsPerSecond >
+             kCharactersPerSecond * static_cast<double>(passed);
+    m_window = moment;
+    m_bytes = 0;
+  }
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,50 @@
+// Whether the pilot hears and follows. Looked at once a second, and told of each sentence that is built.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace veerwatch {
+
+/// A bearing that the boat does not come to.
+class FollowCheck {
+ public:
+  /// The bearing is `off` the heading [deg, (-180, 180]] at `moment` [ms of the steady clock].
+  void Look(double off, std::int64_t moment);
+  /// Nothing can be said, or nothing is sent.
+  void Forget() { *this = FollowCheck(); }
+  /// It was more than 10 degrees off for 15 s without coming 3 degrees closer, and has not been within 8
+  /// degrees for 5 s since.
+  bool Stands() const { return m_stands; }
+
+ private:
+  std::optional<std::int64_t> m_since;  ///< it is as far off as m_from, or farther
+  double m_from = 0.0;                  ///< [deg]
+  std::optional<std::int64_t> m_near;   ///< it is near since then
+  bool m_stands = false;
+};
+
+/// Sentences that do not leave.
+class OutputCheck {
+ public:
+  /// A sentence of `bytes` characters was built at `moment` [ms of the steady clock].
+  void Built(std::size_t bytes, std::int64_t moment);
+  /// The port at `moment`: whether it is open, and how many sentences have left in all.
+  void Look(bool open, std::uint64_t left, std::int64_t moment);
+  void Forget() { *this = OutputCheck(); }
+  /// The port is not open, or none has left for 4 s although some were built.
+  bool Lost() const { return m_lost; }
+  /// More was built in ten seconds than a line of 4800 baud carries.
+  bool Full() const { return m_full; }
+
+ private:
+  std::uint64_t m_left = 0;
+  std::optional<std::int64_t> m_waits;   ///< the first that was built since one has left
+  std::optional<std::int64_t> m_window;  ///< counts since then
+  std::size_t m_bytes = 0;
+  bool m_lost = false;
+  bool m_full = false;
+};
+
+}  // namespace veerwatch

@@ -1,0 +1,312 @@
+#include "control/Watch.h"
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+
+#include "platform/Angles.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr int kComputed = 1;                // of m_iNmeaTrueWind
+constexpr double kMilliseconds = 1000.0;    // [ms/s]
+constexpr std::int64_t kStoodStill = 3000;  // [ms]; ticks come each second
+constexpr float kMoves = 2.0F;              // [kn]
+
+double Fold(double angle) { return static_cast<double>(FoldRelative(angle)); }
+
+std::optional<float> ValueOf(const Readings& readings, Quantity what) {
+  const Reading* reading = readings.Find(what);
+  return reading != nullptr ? std::optional(reading->Value) : std::nullopt;
+}
+
+}  // namespace
+
+void Watch::Restart() {
+  m_ages.Restart();
+  m_unchanged = {};
+  m_jumps = {};
+  m_winds = {};
+  m_headings = {};
+  m_boatSpeeds = {};
+  m_follow.Forget();
+  m_output.Forget();
+  m_trueMean.Clear();
+  m_latest.reset();
+  m_crossed.reset();
+  m_gybe = false;
+  m_windWindow.reset();
+  m_windRate = 0.0;
+}
+
+void Watch::StandstillUntil(const Moment& now) {
+  const std::int64_t before = m_latest.value_or(now.Steady);
+  m_latest = now.Steady;
+  if (now.Steady - before > kStoodStill) {
+    m_ages.StoodStill(now.Steady - before);
+    m_follow.Forget();
+    m_output.Forget();
+  }
+}
+
+void Watch::Sentence(const Readings& readings) {
+  StandstillUntil(readings.From().At);
+  BoatCame(readings);
+  if (readings.Invalid()) {
+    return;
+  }
+  if (readings.Find(Quantity::ApparentWindAngle) != nullptr) {
+    WindCame(readings, true);
+  } else if (readings.Find(Quantity::TrueWindAngle) != nullptr) {
+    WindCame(readings, false);
+  }
+}
+
+void Watch::WindCame(const Readings& readings, bool apparent) {
+  const Origin& from = readings.From();
+  const InstrumentData& data = m_record.Data();
+  const bool computed = apparent && m_settings.m_iNmeaTrueWind == kComputed;
+  const bool bringsTrue = m_record.Changed(RecordValue::WindTrue);
+  if (m_record.Changed(RecordValue::WindApparent)) {
+    m_ages.Came(Watched::WindApparent, from);
+  }
+  if (bringsTrue) {
+    m_ages.Came(Watched::WindTrue, from);
+    m_trueMean.Add(static_cast<double>(m_record.WindTrueUnsmoothed().Angle), from.At.Steady);
+  }
+  // The checks of the vane itself go by what is tracked, or what that is computed from.
+  const bool tracked = m_now.Side == TrackSide::Apparent || computed ? apparent : bringsTrue;
+  if (!tracked) {
+    return;
+  }
+  ++m_windCount;
+  const auto angle = ValueOf(readings, apparent ? Quantity::ApparentWindAngle : Quantity::TrueWindAngle);
+  const auto speed = ValueOf(readings, apparent ? Quantity::ApparentWindSpeed : Quantity::TrueWindSpeed);
+  if (!angle || !speed) {
+    return;
+  }
+  m_winds.Add(from.Talker, {angle, speed}, from.At.Steady);
+  if (m_winds.IsFirst(from.Talker, from.At.Steady)) {
+    m_unchanged.Add(*angle, *speed, from.At.Steady);
+    const bool heading = m_ages.At(Watched::Heading, from.At).Fresh();
+    m_jumps.Add(static_cast<double>(*angle) + (heading ? static_cast<double>(data.Heading) : 0.0),
+                from.At.Steady);
+  }
+}
+
+void Watch::BoatCame(const Readings& readings) {
+  const Origin& from = readings.From();
+  const std::int64_t now = from.At.Steady;
+  if (m_record.Changed(RecordValue::Heading)) {
+    m_ages.Came(Watched::Heading, from);
+  }
+  if (m_record.Changed(RecordValue::BoatSpeed)) {
+    m_ages.Came(Watched::BoatSpeed, from);
+  }
+  if (m_record.Changed(RecordValue::Waypoint)) {
+    m_ages.Came(Watched::Waypoint, from);
+  }
+  if (const auto speed = ValueOf(readings, Quantity::SpeedOverGround)) {
+    m_ages.Came(Watched::SpeedOverGround, from);
+    m_groundSpeed = *speed;
+  }
+  if (const auto speed = ValueOf(readings, Quantity::SpeedThroughWater)) {
+    m_boatSpeeds.Add(from.Talker, {std::nullopt, speed}, now);
+  }
+  if (const auto heading = ValueOf(readings, Quantity::Heading)) {
+    m_ages.Came(Watched::Compass, from);
+    m_compass = *heading;
+    m_headings.Add(from.Talker, {heading, std::nullopt}, now);
+  }
+}
+
+void Watch::Step(const LoopStep& step, std::size_t bytes, const Moment& now) {
+  if (bytes > 0) {
+    m_output.Built(bytes, now.Steady);
+  }
+  if (step.Rings == LoopStep::Alarm::Raised) {
+    m_offCourse = step.Error;
+  } else if (step.Rings == LoopStep::Alarm::Over) {
+    m_offCourse.reset();
+  }
+}
+
+bool Watch::SpeedStuck(const Moment& now) const {
+  const InstrumentData& data = m_record.Data();
+  return data.BoatSpeedValid && data.BoatSpeed == 0.0F && m_groundSpeed > kMoves &&
+         m_ages.At(Watched::SpeedOverGround, now).Fresh();
+}
+
+bool Watch::Sends() const { return m_settings.m_eTrackMode == TrackMode::Manual || Tracks(); }
+
+bool Watch::Look(const Around& around, const Moment& now) {
+  StandstillUntil(now);
+  CountWinds(now);
+  LookAtPilot(around, now);
+  LookAtStern(around, now);
+  Findings found{};
+  if (around.InputStarted) {
+    LookAtValues(around, now, found);
+    LookAtSteering(around, found);
+    LookAtSources(now, found);
+  }
+  m_now.At = now;
+  m_now.Mode = m_settings.m_eTrackMode;
+  m_now.Side = around.Side;
+  m_now.Act = m_settings.m_bWatchAct;
+  for (std::size_t what = 0; what < kWatchedCount; ++what) {
+    m_now.Values[what] = m_ages.At(static_cast<Watched>(what), now);
+  }
+  return Keep(found, now);
+}
+
+void Watch::CountWinds(const Moment& now) {
+  constexpr std::int64_t kWindow = 10000;  // [ms]
+  const std::int64_t since = m_windWindow.value_or(now.Steady);
+  if (m_windWindow && now.Steady - since < kWindow) {
+    return;
+  }
+  if (m_windWindow) {
+    m_windRate = m_windCount * kMilliseconds / static_cast<double>(now.Steady - since);
+  }
+  m_windWindow = now.Steady;
+  m_windCount = 0;
+}
+
+void Watch::LookAtPilot(const Around& around, const Moment& now) {
+  if (!Sends() || m_settings.m_bSimulate) {
+    m_follow.Forget();
+    m_output.Forget();
+    return;
+  }
+  m_output.Look(around.OutputOpen, around.Sent, now.Steady);
+  const bool compass = m_ages.At(Watched::Compass, now).Fresh();
+  if (m_output.Lost() || (!compass && !m_ages.At(Watched::Heading, now).Fresh())) {
+    m_follow.Forget();
+    return;
+  }
+  const float heading = compass ? m_compass : m_record.Data().Heading;
+  m_follow.Look(Fold(static_cast<double>(m_settings.m_fAutoPilot) - static_cast<double>(heading)),
+                now.Steady);
+}
+
+void Watch::LookAtStern(const Around& around, const Moment& now) {
+  constexpr double kBeyond = 172.0;            // [deg]
+  constexpr double kOver = 168.0;              // [deg]
+  constexpr double kAft = 90.0;                // [deg]
+  constexpr std::int64_t kStaysAcross = 2000;  // [ms]
+  const auto mean = m_trueMean.Mean();
+  if (!Tracks() || !mean || !m_ages.At(Watched::WindTrue, now).Fresh()) {
+    m_gybe = false;
+    m_crossed.reset();
+    return;
+  }
+  const double wind = static_cast<double>(m_record.WindTrueUnsmoothed().Angle);
+  const double held = static_cast<double>(m_settings.DesiredAngle[static_cast<std::size_t>(around.Side)]);
+  const bool across = std::fabs(wind) > kAft && std::fabs(held) > kAft && (wind < 0.0) != (held < 0.0);
+  if (!across) {
+    m_crossed.reset();
+  } else if (!m_crossed) {
+    m_crossed = now.Steady;
+  }
+  const bool stays = m_crossed && now.Steady - *m_crossed >= kStaysAcross;
+  m_gybe = stays || std::fabs(*mean) > (m_gybe ? kOver : kBeyond);
+}
+
+void Watch::LookAtValues(const Around& around, const Moment& now, Findings& found) const {
+  const auto at = [&found](Condition what) -> Finding& { return found[static_cast<std::size_t>(what)]; };
+  const bool trueHeld = around.Side == TrackSide::True;
+  const Watched held = trueHeld ? Watched::WindTrue : Watched::WindApparent;
+  if (const ValueAge wind = m_ages.At(held, now); Sends() && wind.Gone()) {
+    at(Condition::NoWind) = {true, Tracks() ? Level::Red : Level::Amber, held,
+                             std::floor(static_cast<double>(wind.Age) / kMilliseconds)};
+  }
+  if (Tracks() && trueHeld && m_settings.m_iNmeaTrueWind == kComputed &&
+      (m_ages.At(Watched::BoatSpeed, now).Gone() || SpeedStuck(now))) {
+    at(Condition::NoBoatSpeed) = {true, Level::Red, Watched::BoatSpeed};
+  }
+  if (Tracks() && m_ages.At(Watched::Heading, now).Gone()) {
+    at(Condition::NoHeading) = {true, Level::Amber, Watched::Heading};
+  }
+}
+
+void Watch::LookAtSteering(const Around& around, Findings& found) const {
+  constexpr double kQuick = 1.5;          // winds a second
+  constexpr double kBandwidthFor = 40.0;  // [s] for each wind a second
+  const auto at = [&found](Condition what) -> Finding& { return found[static_cast<std::size_t>(what)]; };
+  if (m_output.Lost()) {
+    at(Condition::PilotLost) = {true, Level::Red, Watched::Heading,
+                                static_cast<double>(m_settings.m_iPilotPort)};
+  }
+  if (m_follow.Stands()) {
+    at(Condition::PilotNotFollowing) = {true, Level::Red, Watched::Heading};
+  }
+  if (m_gybe) {
+    at(Condition::GybeRisk) = {true, Level::Red, Watched::WindTrue};
+  }
+  if (Tracks() && m_offCourse) {
+    at(Condition::OffCourse) = {true, Level::Amber,
+                                around.Side == TrackSide::True ? Watched::WindTrue : Watched::WindApparent,
+                                static_cast<double>(std::fabs(*m_offCourse))};
+  }
+  if (Tracks() && around.Method == TrackMethod::Sentence && m_windRate > kQuick &&
+      static_cast<double>(around.Bandwidth) < kBandwidthFor * m_windRate) {
+    at(Condition::ManyWinds) = {true, Level::Note, Watched::WindApparent, m_windRate};
+  }
+  if (m_output.Full()) {
+    at(Condition::PilotLineFull) = {true, Level::Note};
+  }
+  if (m_settings.m_bSimulate) {
+    at(Condition::Simulation) = {true, Level::Note};
+  }
+}
+
+void Watch::LookAtSources(const Moment& now, Findings& found) const {
+  if (m_settings.m_bSimulate) {
+    return;
+  }
+  const auto at = [&found](Condition what) -> Finding& { return found[static_cast<std::size_t>(what)]; };
+  const Watched wind = m_now.Side == TrackSide::True && m_settings.m_iNmeaTrueWind != kComputed
+                           ? Watched::WindTrue
+                           : Watched::WindApparent;
+  if (m_unchanged.Stands() && m_ages.At(wind, now).Fresh()) {
+    at(Condition::WindNotChanging) = {true, Level::Amber, wind};
+  }
+  if (m_jumps.Stands(now.Steady)) {
+    at(Condition::WindJumps) = {true, Level::Amber, wind};
+  }
+  if (m_winds.Stands(now.Steady)) {
+    at(Condition::TwoWinds) = {true, Level::Amber, wind, 0.0, m_winds.Talkers()};
+  }
+  if (m_headings.Stands(now.Steady)) {
+    at(Condition::TwoHeadings) = {true, Level::Amber, Watched::Heading, 0.0, m_headings.Talkers()};
+  }
+  if (m_boatSpeeds.Stands(now.Steady)) {
+    at(Condition::TwoBoatSpeeds) = {true, Level::Amber, Watched::BoatSpeed, 0.0, m_boatSpeeds.Talkers()};
+  }
+}
+
+bool Watch::Keep(const Findings& found, const Moment& now) {
+  const WatchNow before = m_now;
+  m_now.Count = 0;
+  bool changed = false;
+  for (std::size_t i = 0; i < kConditionCount; ++i) {
+    const auto what = static_cast<Condition>(i);
+    const Standing* const stood = before.Find(what);
+    changed = changed || found[i].Stands != (stood != nullptr) || (stood && stood->Rank != found[i].Rank);
+    if (found[i].Stands) {
+      m_now.All[m_now.Count++] = {what,           found[i].Rank,   stood ? stood->Since : now,
+                                  found[i].Value, found[i].Figure, found[i].Talkers};
+    }
+  }
+  std::sort(m_now.All.begin(), m_now.All.begin() + static_cast<std::ptrdiff_t>(m_now.Count),
+            [](const Standing& a, const Standing& b) {
+              return std::tuple(a.Rank, -a.Since.Steady, a.What) <
+                     std::tuple(b.Rank, -b.Since.Steady, b.What);
+            });
+  return changed;
+}
+
+}  // namespace veerwatch

@@ -1,0 +1,108 @@
+// The watch: knows how old everything is and what is wrong with it, and says so. The helm tells it what
+// happens, once it has happened: each sentence, each pass of the loop, each second. It holds nothing up and
+// changes nothing; what follows from it is decided in control/WatchAct.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+#include "control/Freshness.h"
+#include "control/PilotChecks.h"
+#include "control/TrackLoop.h"
+#include "control/WatchNow.h"
+#include "control/WindChecks.h"
+#include "control/WindMean.h"
+#include "instruments/InstrumentRecord.h"
+#include "settings/Settings.h"
+
+namespace veerwatch {
+
+class Watch {
+ public:
+  /// What the watch has to know of the moment at which it looks.
+  struct Around {
+    TrackSide Side = TrackSide::Apparent;        ///< the tracked one
+    TrackMethod Method = TrackMethod::Sentence;  ///< in use
+    float Bandwidth = 0.0F;                      ///< in use [s]
+    bool InputStarted = false;
+    bool OutputOpen = true;
+    std::uint64_t Sent = 0;  ///< sentences that have left for the pilot
+  };
+
+  /// Both outlive this.
+  Watch(const Settings& settings, const InstrumentRecord& record)
+      : m_settings(settings), m_record(record), m_ages(settings) {}
+
+  /// The input starts anew: nothing has come yet.
+  void Restart();
+
+  /// A sentence has brought `readings`, and the record still says which of its values that changed.
+  void Sentence(const Readings& readings);
+  /// The loop has made a pass at `now`, and a sentence of `bytes` was built, 0 for none.
+  void Step(const LoopStep& step, std::size_t bytes, const Moment& now);
+
+  /// A second has passed, or the mode has changed: looks at everything. True when other conditions stand than
+  /// before.
+  bool Look(const Around& around, const Moment& now);
+
+  /// What the latest look has found.
+  const WatchNow& Now() const { return m_now; }
+  const Ages& Values() const { return m_ages; }
+
+  /// The boat speed shows 0 while the boat moves over ground.
+  bool SpeedStuck(const Moment& now) const;
+  /// The true wind comes from dead astern or across the stern, by the latest look.
+  bool GybeRisk() const { return m_gybe; }
+  bool Following() const { return !m_follow.Stands(); }
+  bool WindChanges() const { return !m_unchanged.Stands(); }
+
+ private:
+  /// A condition that has just been looked at.
+  struct Finding {
+    bool Stands = false;
+    Level Rank = Level::Note;
+    Watched Value = Watched::WindApparent;
+    double Figure = 0.0;
+    std::array<Talker, 2> Talkers{};
+  };
+  using Findings = std::array<Finding, kConditionCount>;
+
+  void StandstillUntil(const Moment& now);
+  void WindCame(const Readings& readings, bool apparent);
+  void BoatCame(const Readings& readings);
+  void CountWinds(const Moment& now);
+  void LookAtPilot(const Around& around, const Moment& now);
+  void LookAtStern(const Around& around, const Moment& now);
+  void LookAtValues(const Around& around, const Moment& now, Findings& found) const;
+  void LookAtSteering(const Around& around, Findings& found) const;
+  void LookAtSources(const Moment& now, Findings& found) const;
+  /// Keeps what stands, with the moment since when, in its order.
+  bool Keep(const Findings& found, const Moment& now);
+  bool Sends() const;
+  bool Tracks() const { return m_settings.m_eTrackMode == TrackMode::Track; }
+
+  const Settings& m_settings;
+  const InstrumentRecord& m_record;
+  Ages m_ages;
+  UnchangedCheck m_unchanged;
+  JumpCheck m_jumps;
+  TalkerCheck m_winds;
+  TalkerCheck m_headings;
+  TalkerCheck m_boatSpeeds;
+  FollowCheck m_follow;
+  OutputCheck m_output;
+  WindMean m_trueMean;
+  std::optional<std::int64_t> m_latest;   ///< the latest call with a moment [ms of the steady clock]
+  std::optional<std::int64_t> m_crossed;  ///< the wind is across the stern since then
+  bool m_gybe = false;
+  std::optional<float> m_offCourse;  ///< error of the alarm that is on [deg]
+  float m_groundSpeed = 0.0F;        ///< the latest [kn]
+  float m_compass = 0.0F;            ///< the latest [deg magnetic]
+  int m_windCount = 0;               ///< of the tracked side, in the present window
+  std::optional<std::int64_t> m_windWindow;
+  double m_windRate = 0.0;  ///< [a second]
+  WatchNow m_now;
+};
+
+}  // namespace veerwatch
