@@ -197,6 +197,18 @@ TEST(CourseTargets, StandsStillWithoutSpeeds) {
 
 // The search against the plain statement of its rule
 
+/// The part of the time on the first of two legs with which they lead to the target, by their speeds along
+/// the course and across it.
+double ShareOfFirst(double x1, double y1, double x2, double y2) {
+  if (y1 == 0.0 && y2 == 0.0) {
+    return x1 > x2 ? 1.0 : 0.0;
+  }
+  if (y1 == 0.0) {
+    return 1.0;
+  }
+  return y2 != 0.0 ? y2 / (y2 - y1) : 0.0;
+}
+
 /// Every pair looked up again, one after the other.
 CourseSolution Plainly(const PolarTable& table, const CourseQuery& query) {
   const auto at = [&](double relative, double offset) {
@@ -224,14 +236,7 @@ CourseSolution Plainly(const PolarTable& table, const CourseQuery& query) {
       const double x2 = std::cos(b * kPerDegree) * s2;
       const double y2 = std::sin(b * kPerDegree) * s2;
       if (y1 < 0.0 || y2 > 0.0) continue;
-      double t = 0.0;
-      if (y1 == 0.0 && y2 == 0.0) {
-        t = x1 > x2 ? 1.0 : 0.0;
-      } else if (y1 == 0.0) {
-        t = 1.0;
-      } else if (y2 != 0.0) {
-        t = y2 / (y2 - y1);
-      }
+      const double t = ShareOfFirst(x1, y1, x2, y2);
       const double madeGood = x2 * (1.0 - t) + x1 * t;
       if (madeGood > best) {
         best = madeGood;

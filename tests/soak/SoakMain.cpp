@@ -89,6 +89,49 @@ double Spread(const std::vector<Sample>& samples, std::size_t first, Figure figu
   return most - least;
 }
 
+/// What the program takes `passed` after the start [s], with a line about it.
+Sample TakeSample(Sailor& program, double passed, double sailed, const Sample& before) {
+  Sample sample = Measure(program.Id());
+  sample.Time = passed;
+  std::string word;
+  double count = 0.0;
+  double median = 0.0;
+  double most99 = 0.0;
+  std::istringstream delays(program.Ask("delays"));
+  delays >> word >> count >> median >> most99 >> sample.Delay999 >> sample.DelayMost;
+  std::printf("%12.2f  %9.0f  %5zu  %11.1f  %16.1f  %4.1f  %6.1f  %4.1f\n", sailed / 3600.0, sample.Memory,
+              sample.Files, 100.0 * (sample.Processor - before.Processor) / (sample.Time - before.Time),
+              median, most99, sample.Delay999, sample.DelayMost);
+  std::fflush(stdout);
+  return sample;
+}
+
+/// Says what the samples come to: true when it is as promised.
+bool Judge(const std::vector<Sample>& samples, std::size_t winds, std::size_t orders, int bad, double speed) {
+  const std::size_t half = samples.size() / 2;
+  const double growth = Spread(samples, half, [](const Sample& sample) { return sample.Memory; });
+  const double files =
+      Spread(samples, half, [](const Sample& sample) { return static_cast<double>(sample.Files); });
+  std::vector<double> delays;
+  for (const Sample& sample : samples) {
+    delays.push_back(sample.Delay999);
+  }
+  std::sort(delays.begin(), delays.end());
+  const double delay = delays[delays.size() / 2];
+  std::printf("memory in the second half: %.0f kB between least and most (%.0f allowed)\n", growth,
+              kMostGrowth);
+  std::printf("open files in the second half: %.0f between least and most (0 allowed)\n", files);
+  std::printf(
+      "event loop: 99.9 %% of its turns late by %.1f ms or less in half of the samples, %.1f in the worst\n",
+      delay, delays.back());
+  std::printf("wind sentences %zu, sentences for the pilot %zu, bad ones %d\n", winds, orders, bad);
+  // Faster than a line, several winds arrive in one piece, and only the newest heading is sent.
+  const bool inTime = speed > kLineSpeed || (winds == orders && delays.back() < kMostDelay);
+  const bool good = growth <= kMostGrowth && files == 0.0 && bad == 0 && inTime;
+  std::printf("%s\n", good ? "as promised" : "NOT as promised");
+  return good;
+}
+
 int Soak(double hours, double speed) {
   Wire wire;
   Sailor program(ProfileFor(wire));
@@ -118,20 +161,7 @@ int Soak(double hours, double speed) {
   const double end = hours * 3600.0 / speed;
   for (double until = passed() + kSamplePeriod; until < end && program.Runs(); until += kSamplePeriod) {
     sail(until);
-    Sample sample = Measure(program.Id());
-    sample.Time = passed();
-    std::string word;
-    double count = 0.0;
-    double median = 0.0;
-    double most99 = 0.0;
-    std::istringstream delays(program.Ask("delays"));
-    delays >> word >> count >> median >> most99 >> sample.Delay999 >> sample.DelayMost;
-    const Sample before = samples.empty() ? Sample{} : samples.back();
-    std::printf("%12.2f  %9.0f  %5zu  %11.1f  %16.1f  %4.1f  %6.1f  %4.1f\n", sailed / 3600.0, sample.Memory,
-                sample.Files, 100.0 * (sample.Processor - before.Processor) / (sample.Time - before.Time),
-                median, most99, sample.Delay999, sample.DelayMost);
-    std::fflush(stdout);
-    samples.push_back(sample);
+    samples.push_back(TakeSample(program, passed(), sailed, samples.empty() ? Sample{} : samples.back()));
   }
   // What is on its way arrives.
   sail(passed() + 1.0);
@@ -144,30 +174,7 @@ int Soak(double hours, double speed) {
     return 1;
   }
 
-  const std::size_t half = samples.size() / 2;
-  const double growth = Spread(samples, half, [](const Sample& sample) { return sample.Memory; });
-  const double files =
-      Spread(samples, half, [](const Sample& sample) { return static_cast<double>(sample.Files); });
-  std::vector<double> delays;
-  for (const Sample& sample : samples) {
-    delays.push_back(sample.Delay999);
-  }
-  std::sort(delays.begin(), delays.end());
-  const double delay = delays[delays.size() / 2];
-  std::printf("memory in the second half: %.0f kB between least and most (%.0f allowed)\n", growth,
-              kMostGrowth);
-  std::printf("open files in the second half: %.0f between least and most (0 allowed)\n", files);
-  std::printf(
-      "event loop: 99.9 %% of its turns late by %.1f ms or less in half of the samples, %.1f in the worst\n",
-      delay, delays.back());
-  std::printf("wind sentences %zu, sentences for the pilot %zu, bad ones %d\n", winds, orders,
-              wire.Boat().Pilot().BadSentences());
-  // Faster than a line, several winds arrive in one piece, and only the newest heading is sent.
-  const bool inTime = speed > kLineSpeed || (winds == orders && delays.back() < kMostDelay);
-  const bool good =
-      growth <= kMostGrowth && files == 0.0 && wire.Boat().Pilot().BadSentences() == 0 && inTime;
-  std::printf("%s\n", good ? "as promised" : "NOT as promised");
-  return good ? 0 : 1;
+  return Judge(samples, winds, orders, wire.Boat().Pilot().BadSentences(), speed) ? 0 : 1;
 }
 
 }  // namespace
