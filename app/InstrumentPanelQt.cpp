@@ -59,6 +59,8 @@ InstrumentPanelQt::InstrumentPanelQt(QWidget* parent) : QWidget(parent), m_theme
   lblAutoPilot = NewCaption("lblAutoPilot", "AutoPilot Bearing");
   txtAutoPilot = NewEntry("txtAutoPilot", kFineBearingPattern, "AutoPilot Bearing");
   lblAutoPilot->setBuddy(txtAutoPilot);
+  lblPilotHeading = NewCaption("lblPilotHeading", "");
+  lblPilotSent = NewCaption("lblPilotSent", "");
   optControl = {new SideOptionQt(Element("optControl", 1), QStringLiteral("Track Apparent Wind Angle"), this),
                 new SideOptionQt(Element("optControl", 2), QStringLiteral("Track True Wind Angle"), this)};
   optControl[0]->setChecked(true);
@@ -139,7 +141,17 @@ void InstrumentPanelQt::Enable(const TrackControls& controls, TrackMode mode, Tr
   if (m_mode != mode || m_side != side) {
     m_mode = mode;
     m_side = side;
+    ColourEntries();
     Repaint();
+  }
+}
+
+void InstrumentPanelQt::ShowSent(const QString& heading, const QString& sent, bool late) {
+  lblPilotHeading->setText(heading);
+  lblPilotSent->setText(sent);
+  if (m_late != late) {
+    m_late = late;
+    ColourSent();
   }
 }
 
@@ -188,6 +200,8 @@ void InstrumentPanelQt::Place() {
   PlaceEntry(txtDesired[0], lblDesired[0], app.Desired);
   PlaceEntry(txtDesired[1], lblDesired[1], trueWind.Desired);
   PlaceEntry(txtAutoPilot, lblAutoPilot, m_layout.AutoPilot.Bearing);
+  PlaceText(lblPilotHeading, m_layout.AutoPilot.Heading, CaptionFont());
+  PlaceText(lblPilotSent, m_layout.AutoPilot.Sent, CaptionFont());
   for (std::size_t i = 0; i < m_layout.Winds.size(); ++i) {
     PlaceText(optControl[i], m_layout.Winds[i].Option, ButtonFont());
   }
@@ -248,16 +262,35 @@ void InstrumentPanelQt::ApplyTheme() {
       nudge->Theme(m_theme);
     } else if (auto* option = dynamic_cast<SideOptionQt*>(child)) {
       option->Theme(m_theme);
-    } else if (auto* box = dynamic_cast<EntryBoxQt*>(child)) {
-      QPalette colours = palette();
-      colours.setColor(QPalette::Base, m_theme.Field);
-      colours.setColor(QPalette::Text, m_theme.Text);
-      colours.setColor(QPalette::Disabled, QPalette::Base, m_theme.Card);
-      colours.setColor(QPalette::Disabled, QPalette::Text, m_theme.Dimmed);
-      box->setPalette(colours);
     }
   }
+  ColourEntries();
+  ColourSent();
   Repaint();
+}
+
+void InstrumentPanelQt::ColourEntries() {
+  for (EntryBoxQt* box : {txtAutoPilot, txtDesired[0], txtDesired[1]}) {
+    const bool steers = box == txtAutoPilot && m_mode == TrackMode::Track;
+    QPalette colours = palette();
+    colours.setColor(QPalette::Base, m_theme.Field);
+    colours.setColor(QPalette::Text, m_theme.Text);
+    colours.setColor(QPalette::Disabled, QPalette::Base, m_theme.Card);
+    colours.setColor(QPalette::Disabled, QPalette::Text, steers ? m_theme.Text : m_theme.Dimmed);
+    box->setPalette(colours);
+  }
+}
+
+void InstrumentPanelQt::ColourSent() {
+  lblPilotHeading->Colours(m_theme.Text, m_theme.Dimmed);
+  lblPilotSent->Colours(m_late ? AmberText(m_theme.Window) : m_theme.Text, m_theme.Dimmed);
+}
+
+const Box* InstrumentPanelQt::SteeringCard() const {
+  if (m_mode == TrackMode::Manual) {
+    return &m_layout.AutoPilot.Card;
+  }
+  return m_mode == TrackMode::Track ? &m_layout.Winds[m_side == TrackSide::Apparent ? 0 : 1].Card : nullptr;
 }
 
 void InstrumentPanelQt::Repaint() {
@@ -281,19 +314,17 @@ void InstrumentPanelQt::PaintGround() {
   QPainter painter(&m_ground);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillRect(rect(), m_theme.Window);
-  const auto card = [&](const Box& box, bool chosen) {
+  const Box* steers = SteeringCard();
+  const qreal frame = std::max(2.5, m_layout.Margin / 3.0);
+  for (const Box* box : {&m_layout.Winds[0].Card, &m_layout.Winds[1].Card, &m_layout.Heading.Card,
+                         &m_layout.BoatSpeed.Card, &m_layout.Waypoint.Card, &m_layout.AutoPilot.Card}) {
     const QColor edge = m_mode == TrackMode::Track ? m_theme.Mode(m_mode).Fill : m_theme.Accent;
-    painter.setPen(chosen ? QPen(edge, 2.5) : QPen(m_theme.Edge, 1.0));
+    const qreal line = box == steers ? frame : 1.0;
+    const qreal inside = std::max(1.0, line / 2.0);
+    painter.setPen(QPen(box == steers ? edge : m_theme.Edge, line));
     painter.setBrush(m_theme.Card);
-    painter.drawRoundedRect(ToQt(box).adjusted(1.0, 1.0, -1.0, -1.0), kCardRadius, kCardRadius);
-  };
-  const bool answers = m_mode != TrackMode::Off && m_mode != TrackMode::Switching;
-  card(m_layout.Winds[0].Card, answers && m_side == TrackSide::Apparent);
-  card(m_layout.Winds[1].Card, answers && m_side == TrackSide::True);
-  card(m_layout.Heading.Card, false);
-  card(m_layout.BoatSpeed.Card, false);
-  card(m_layout.Waypoint.Card, false);
-  card(m_layout.AutoPilot.Card, false);
+    painter.drawRoundedRect(ToQt(*box).adjusted(inside, inside, -inside, -inside), kCardRadius, kCardRadius);
+  }
 }
 
 }  // namespace veerwatch

@@ -33,6 +33,8 @@ class InstrumentPanelQt final : public QWidget {
 
   CaptionQt* lblAutoPilot;
   EntryBoxQt* txtAutoPilot;
+  CaptionQt* lblPilotHeading;
+  CaptionQt* lblPilotSent;
   ControlArray<NudgeButtonQt> cmdAutoPilot;
 
   ControlArray<SideOptionQt> optControl;
@@ -46,6 +48,8 @@ class InstrumentPanelQt final : public QWidget {
   void BlankValues();
   /// Enables what answers, and marks the card of the chosen side.
   void Enable(const TrackControls& controls, TrackMode mode, TrackSide side);
+  /// Beside the bearing that is sent: the boat's heading, and how long ago it was sent, `late` or not.
+  void ShowSent(const QString& heading, const QString& sent, bool late);
   /// Colours the delta of `side` for an alarm.
   void ShowAlarm(TrackSide side);
   void HideAlarm();
@@ -74,6 +78,11 @@ class InstrumentPanelQt final : public QWidget {
   /// Both buttons of a pair have letters of one size.
   void PlaceNudges(const ControlArray<NudgeButtonQt>& pair, const Box& port, const Box& starboard);
   void ApplyTheme();
+  /// The colours of the boxes. A bearing that the loop steers by is as bright as one that can be typed.
+  void ColourEntries();
+  void ColourSent();
+  /// The card that says where the boat goes; null while nothing is sent.
+  const Box* SteeringCard() const;
   /// Draws the cards again.
   void Repaint();
   void PaintGround();
@@ -83,6 +92,7 @@ class InstrumentPanelQt final : public QWidget {
   QPixmap m_ground;  ///< the cards, drawn once; the values change over them
   TrackMode m_mode = TrackMode::Switching;
   TrackSide m_side = TrackSide::Apparent;
+  bool m_late = false;  ///< nothing has left for the pilot for a while
 };
 
 }  // namespace veerwatch

@@ -18,6 +18,13 @@ constexpr double kPadding = 14.0;
 constexpr double kCaptionText = 17.0;
 constexpr double kButtonText = 19.0;
 constexpr double kLeastText = 6.0;
+constexpr double kBanner = 44.0;
+/// A banner in a small panel is not lower than this [px], where it takes no more than a tenth of the height.
+constexpr double kLeastBanner = 20.0;
+constexpr double kMostBannerShare = 0.1;
+/// Height of the banner's text, and of the line under the bearing, as shares of theirs.
+constexpr double kBannerTextShare = 0.55;
+constexpr double kSentShare = 0.17;
 
 // Shares of a card's height.
 constexpr double kOptionShare = 40.0;
@@ -99,7 +106,13 @@ class Designer {
     Rows rows(Inset(card, Scaled(kPadding)), Scaled(kMargin), kPilotValueShare + kButtonShare, 2);
     PanelLayout::Pilot pilot;
     pilot.Card = card;
-    pilot.Bearing = ReadoutIn(rows.Next(kPilotValueShare), Text(kCaptionText));
+    Box upper = rows.Next(kPilotValueShare);
+    const double line = upper.Height * kSentShare;
+    upper.Height -= line;
+    pilot.Bearing = ReadoutIn(upper, Text(kCaptionText));
+    const Box sent{upper.X, upper.Y + upper.Height, upper.Width, line};
+    pilot.Heading = Left(sent);
+    pilot.Sent = Right(sent);
     const Box buttons = rows.Next(kButtonShare);
     pilot.Port = Left(buttons);
     pilot.Starboard = Right(buttons);
@@ -119,10 +132,14 @@ PanelLayout LayPanel(double width, double height) {
   const bool tall = height > width;
   const Designer design(width, height, tall);
   const double gap = design.Scaled(kMargin);
-  const Box whole = Inset({0.0, 0.0, width, height}, gap);
+  const double banner = std::max(design.Scaled(kBanner), std::min(kLeastBanner, height * kMostBannerShare));
 
   PanelLayout layout;
   layout.Margin = gap;
+  layout.Banner = {gap, gap / 2.0, width - 2.0 * gap, banner};
+  layout.BannerText = std::max(kLeastText, banner * kBannerTextShare);
+  const double top = layout.Banner.Y + banner + gap / 2.0;
+  const Box whole{gap, top, width - 2.0 * gap, height - top - gap};
   layout.CaptionText = design.Text(kCaptionText);
   layout.ButtonText = design.Text(kButtonText);
 

@@ -38,10 +38,13 @@ struct PanelLayout {
   struct Pilot {
     Box Card;
     Readout Bearing;
+    Box Heading;  ///< the boat's heading, under the bearing
+    Box Sent;     ///< how long ago the bearing was sent, beside it
     Box Port;
     Box Starboard;
   };
 
+  Box Banner;                 ///< above all cards; its room stays free while nothing is said
   std::array<Wind, 2> Winds;  ///< apparent, true
   Instrument Heading;
   Instrument BoatSpeed;
@@ -50,6 +53,7 @@ struct PanelLayout {
 
   double Margin = 0.0;       ///< between cards and to the panel's edge [px]
   double CaptionText = 0.0;  ///< height of caption texts [px], at least 6
+  double BannerText = 0.0;   ///< height of the banner's text [px], at least 6
   double ButtonText = 0.0;   ///< height of texts on buttons and options [px], at least 6
 };
 

@@ -333,7 +333,10 @@ void frmMain::NudgeKey(int index) {
 
 // What the helm tells
 
-void frmMain::OnHeading(float heading) { ShowText(*m_panel->lblHeading, Number(heading, "0")); }
+void frmMain::OnHeading(float heading) {
+  ShowText(*m_panel->lblHeading, Number(heading, "0"));
+  ShowSent();
+}
 
 void frmMain::OnBoatSpeed(float speed) { ShowText(*m_panel->lblBoatSpeed, Number(speed, "0.0")); }
 
@@ -436,6 +439,22 @@ void frmMain::OnTrackMode(TrackMode mode) {
   }
   ShowControls();
   ShowModeText();
+  ShowSent();
+}
+
+void frmMain::OnPilotData(std::string_view /*sentence*/) { ShowSent(); }
+
+void frmMain::OnTick() { ShowSent(); }
+
+void frmMain::ShowSent() {
+  m_sent.Look(m_helm.Pilot().Sent(), m_parts.Time.Now().Steady);
+  if (m_eTrackMode != TrackMode::Manual && m_eTrackMode != TrackMode::Track) {
+    m_panel->ShowSent(QString(), QString(), false);
+    return;
+  }
+  const QString heading = m_panel->lblHeading->text();
+  m_panel->ShowSent(heading.isEmpty() ? heading : QStringLiteral("Heading ") + heading, Text(m_sent.Text()),
+                    m_sent.Late());
 }
 
 void frmMain::OnTrackRefused(TrackRefusal why) {

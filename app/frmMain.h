@@ -17,6 +17,7 @@
 #include "app/NoticeLineQt.h"
 #include "app/OtherWindowsQt.h"
 #include "app/SaveWatch.h"
+#include "app/SentAge.h"
 #include "app/StatusPanelsQt.h"
 #include "app/frmMainCommands.h"
 #include "helm/Helm.h"
@@ -102,6 +103,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void ApplyTheme();
   void ShowControls();
   void ShowModeText();
+  /// Heading and age of the latest sentence beside the bearing, while the pilot is sent to.
+  void ShowSent();
   /// In Setup the line under the mode bar says what the sources do not bring.
   void ShowAdvice();
   /// The profile as far as a change of it is worth saving at once.
@@ -140,6 +143,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void OnTrackRefused(TrackRefusal why) override;
   void OnWindLost(bool lost) override;
   void OnTurnEnds(TurnFate why) override;
+  void OnPilotData(std::string_view sentence) override;
+  void OnTick() override;
 
   MainWindowParts m_parts;
   std::unique_ptr<WindowDialogs> m_asks;
@@ -158,6 +163,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   bool m_unloaded = false;      ///< the profile is written, everything is closed
   std::string m_saveFailure;
   SaveWatch m_save;
+  SentAge m_sent;
   std::vector<std::string> m_advice;  ///< what the sources do not bring
 };
 

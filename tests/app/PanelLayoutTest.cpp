@@ -8,7 +8,7 @@ namespace veerwatch {
 namespace {
 
 std::vector<Box> Cards(const PanelLayout& layout) {
-  return {layout.Winds[0].Card,  layout.Winds[1].Card, layout.Heading.Card,
+  return {layout.Banner,         layout.Winds[0].Card, layout.Winds[1].Card, layout.Heading.Card,
           layout.BoatSpeed.Card, layout.Waypoint.Card, layout.AutoPilot.Card};
 }
 
@@ -19,7 +19,7 @@ std::vector<Box> Of(const PanelLayout::Wind& wind) {
 }
 
 std::vector<Box> Of(const PanelLayout::Pilot& pilot) {
-  return {pilot.Bearing.Caption, pilot.Bearing.Value, pilot.Port, pilot.Starboard};
+  return {pilot.Bearing.Caption, pilot.Bearing.Value, pilot.Heading, pilot.Sent, pilot.Port, pilot.Starboard};
 }
 
 bool Overlap(const Box& a, const Box& b) {
@@ -59,6 +59,19 @@ TEST(PanelLayout, KeepsEverythingApartAndInsideAtAnySize) {
       ExpectApart({layout.Heading.Value.Caption, layout.Heading.Value.Value}, layout.Heading.Card);
     }
   }
+}
+
+TEST(PanelLayout, PutsTheBannerAcrossTheTopAndGrowsItWithThePanel) {
+  const PanelLayout layout = LayPanel(1160.0, 640.0);
+  EXPECT_GE(layout.Banner.Height, 40.0);
+  EXPECT_DOUBLE_EQ(layout.Banner.X, layout.Winds[0].Card.X);
+  EXPECT_DOUBLE_EQ(layout.Banner.X + layout.Banner.Width,
+                   layout.Winds[1].Card.X + layout.Winds[1].Card.Width);
+  EXPECT_LE(layout.Banner.Y + layout.Banner.Height, layout.Winds[0].Card.Y);
+  EXPECT_DOUBLE_EQ(LayPanel(2320.0, 1280.0).Banner.Height, 2.0 * layout.Banner.Height);
+  EXPECT_DOUBLE_EQ(LayPanel(2320.0, 1280.0).BannerText, 2.0 * layout.BannerText);
+  EXPECT_GE(layout.BannerText, 22.0);
+  EXPECT_GE(LayPanel(320.0, 200.0).Banner.Height, 20.0) << "still to be hit by a finger's tip";
 }
 
 TEST(PanelLayout, SurvivesAPanelOfOnePixel) {

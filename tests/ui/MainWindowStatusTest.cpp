@@ -80,6 +80,71 @@ TEST_F(MainWindowStatus, StartsInSetupAndInManualWhenSimulating) {
   EXPECT_EQ(Text("StatusBar(3)"), "Simulate");
 }
 
+TEST_F(MainWindowStatus, BesideTheBearingStandHeadingAndTheAgeOfTheSentence) {
+  Start(kOnPorts);
+  NmeaPort.Receive("$GPVTG,,T,271.0,M,6.0,N,11.0,K,A\r" + Winds("30", "40"));
+  EXPECT_EQ(Text("lblPilotSent"), "") << "in Setup nothing is sent";
+  EXPECT_EQ(Text("lblPilotHeading"), "");
+  for (const int mode : {5, 7}) {
+    Mode(mode);
+    Time.Pass(5000);
+    NmeaPort.Receive(Winds("30", "40"));
+    EXPECT_EQ(Text("lblPilotHeading"), "Heading 271");
+    EXPECT_EQ(Text("lblPilotSent"), "sent now");
+    Time.Pass(3000);
+    tmrNmea.Tick();
+    EXPECT_EQ(Text("lblPilotSent"), "sent 3 s ago");
+    NmeaPort.Receive("$GPVTG,,T,272.0,M,6.0,N,11.0,K,A\r");
+    EXPECT_EQ(Text("lblPilotHeading"), "Heading 272");
+    NmeaPort.Receive("$GPVTG,,T,271.0,M,6.0,N,11.0,K,A\r");
+  }
+  Mode(1);
+  EXPECT_EQ(Text("lblPilotSent"), "");
+}
+
+TEST_F(MainWindowStatus, TheBearingThatIsSentIsAsBrightInTrackAsInManual) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("30", "40"));
+  const auto colour = [&] {
+    const auto& box = Find<QLineEdit>("txtAutoPilot");
+    return box.palette().color(box.isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::Text);
+  };
+  Mode(5);
+  const QColor bright = colour();
+  Mode(7);
+  EXPECT_EQ(colour(), bright);
+  Mode(1);
+  EXPECT_NE(colour(), bright);
+}
+
+TEST_F(MainWindowStatus, TheFrameStandsAroundTheCardThatSteers) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("30", "40"));
+  Window->resize(1160, 760);
+  QTest::qWait(0);
+  Find<QRadioButton>("optControl(2)").click();
+  const auto framedCards = [&] {
+    auto& panel = Find<QWidget>("InstrumentPanel");
+    const PanelLayout layout = LayPanel(panel.width(), panel.height());
+    const QImage picture = panel.grab().toImage();
+    std::vector<bool> framed;
+    for (const Box& card : {layout.Winds[0].Card, layout.Winds[1].Card, layout.AutoPilot.Card}) {
+      const int middle = static_cast<int>(card.X + card.Width / 2.0);
+      const int top = static_cast<int>(card.Y);
+      framed.push_back(picture.pixel(middle, top + 3) != picture.pixel(middle, top + 8));
+    }
+    return framed;
+  };
+  Mode(3);
+  EXPECT_EQ(framedCards(), (std::vector<bool>{false, false, false}));
+  Mode(5);
+  EXPECT_EQ(framedCards(), (std::vector<bool>{false, false, true}));
+  Mode(7);
+  EXPECT_EQ(framedCards(), (std::vector<bool>{false, true, false}));
+  Find<QRadioButton>("optControl(1)").click();
+  EXPECT_EQ(framedCards(), (std::vector<bool>{true, false, false}));
+}
+
 TEST_F(MainWindowStatus, TheMakingOfTheWindowTouchesNoPort) {
   Make();
   EXPECT_TRUE(NmeaPort.OpenedNumbers.empty());
