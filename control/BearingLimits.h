@@ -13,6 +13,8 @@ struct BearingLimits {
 struct LimitedBearing {
   double Bearing = 0.0;  ///< [deg magnetic, any turn]
   bool Bites = false;    ///< it is not the one that was wanted
+  bool ByRate = false;   ///< because it would have been too fast
+  bool ByAhead = false;  ///< because it would have been too far from the heading
 };
 
 /// The way from `bearing` to `wanted` [deg magnetic, any turn] as far as it may be gone in `seconds`, and no

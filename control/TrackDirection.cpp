@@ -117,11 +117,14 @@ LimitedBearing TrackDirection::Move(double goal, double bearing, const BearingLi
   const double off = Fold(held - bearing);
   m_off += off * seconds;
   if (std::fabs(off) <= kWorthMoving && std::fabs(m_off) < kWorthInAll) {
-    return {bearing, false};
+    LimitedBearing waits;
+    waits.Bearing = bearing;
+    return waits;
   }
   m_off = 0.0;
   LimitedBearing steer = LimitBearing(bearing, held, m_heading, limits, seconds);
-  steer.Bites = steer.Bites || held != m_heading + ahead;
+  steer.ByAhead = steer.ByAhead || held != m_heading + ahead;
+  steer.Bites = steer.Bites || steer.ByAhead;
   return steer;
 }
 

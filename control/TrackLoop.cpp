@@ -109,7 +109,7 @@ LoopStep TrackLoop::ControlStep(const LoopInput& input) {
   if (mode == TrackMode::Track) {
     step.Tracked = true;
     const float error = m_side == TrackSide::Apparent ? step.DeltaApparent : step.DeltaTrue;
-    step.Error = Control(error, input);
+    Control(error, input, step);
     step.Rings = TestAlarm(error, seconds);
   }
   step.Sends = mode != TrackMode::Setup;
@@ -143,33 +143,39 @@ std::optional<double> TrackLoop::Heading(const LoopInput& input) const {
   return there ? std::optional(static_cast<double>(m_data.Heading)) : std::nullopt;
 }
 
-float TrackLoop::Control(float error, const LoopInput& input) {
+void TrackLoop::Control(float error, const LoopInput& input, LoopStep& step) {
   const auto before = static_cast<double>(m_settings.m_fAutoPilot);
   const bool tracked = m_side == TrackSide::Apparent ? input.BringsApparent : input.BringsTrue;
+  step.Error = error;
   switch (m_method) {
     case TrackMethod::Sentence:
-      Take(before + m_controller.Step(static_cast<double>(error), m_tracked.Next(input.Now)));
+      step.Seconds = m_tracked.Next(input.Now);
+      Take(before + m_controller.Step(static_cast<double>(error), step.Seconds));
       break;
     case TrackMethod::Clock:
       if (tracked) {
-        Take(
-            m_clock
-                .Step(static_cast<double>(error), m_tracked.Next(input.Now), before, Heading(input), m_limits)
-                .Bearing);
+        step.Seconds = m_tracked.Next(input.Now);
+        Take(m_clock.Step(static_cast<double>(error), step.Seconds, before, Heading(input), m_limits), step);
       }
       break;
-    case TrackMethod::Direction: {
-      const auto answer = m_direction.Step(
-          {m_side, static_cast<double>(Desired(m_side)), m_means[At(TrackSide::Apparent)].Mean()}, before,
-          m_limits, m_trueSeconds);
-      if (answer) {
-        Take(answer->Steer.Bearing);
+    case TrackMethod::Direction:
+      step.Seconds = m_trueSeconds;
+      if (const auto answer = m_direction.Step(
+              {m_side, static_cast<double>(Desired(m_side)), m_means[At(TrackSide::Apparent)].Mean()}, before,
+              m_limits, m_trueSeconds)) {
+        Take(answer->Steer, step);
         m_directionError = ToSingle(answer->Error);
       }
-      return m_directionError;
-    }
+      step.Error = m_directionError;
+      break;
   }
-  return error;
+  step.Correction = FoldRelative(static_cast<double>(m_settings.m_fAutoPilot) - before);
+}
+
+void TrackLoop::Take(const LimitedBearing& limited, LoopStep& step) {
+  Take(limited.Bearing);
+  step.ByRate = limited.ByRate;
+  step.ByAhead = limited.ByAhead;
 }
 
 void TrackLoop::Take(double bearing) {

@@ -49,6 +49,10 @@ struct LoopStep {
   float DeltaTrue = 0.0F;      ///< the same for the true wind
   bool Tracked = false;        ///< the controller corrected the bearing
   float Error = 0.0F;          ///< what it worked on [deg]
+  double Seconds = 0.0;        ///< since the pass before, as far as the law counts them [s]
+  float Correction = 0.0F;     ///< of the bearing [deg, (-180, 180]]
+  bool ByRate = false;         ///< the fastest change of the bearing bounded it
+  bool ByAhead = false;        ///< the largest distance from the heading bounded it
   bool Sends = false;          ///< the bearing is for the pilot
   enum class Alarm { AsBefore, Raised, Over };
   Alarm Rings = Alarm::AsBefore;  ///< Raised at every pass at which the error is beyond the limit
@@ -107,9 +111,10 @@ class TrackLoop {
   /// The angle of the last ten seconds is held from now on; false where none came.
   bool HoldMean(TrackSide side);
   std::optional<double> Heading(const LoopInput& input) const;
-  /// Corrects the bearing; the error that the method works on [deg].
-  float Control(float error, const LoopInput& input);
+  /// Corrects the bearing for `error` [deg], by the method; keeps in `step` what it did.
+  void Control(float error, const LoopInput& input, LoopStep& step);
   void Take(double bearing);
+  void Take(const LimitedBearing& limited, LoopStep& step);
   void TurnHeldWind(float change);
   LoopStep::Alarm TestAlarm(float error, double seconds);
 

@@ -43,6 +43,7 @@ HelmNow Helm::Now() const {
     now.WindAngleTrue = data.WindAngleTrue;
   }
   now.Watch = m_watch.Now();
+  now.Sentence = m_why;
   return now;
 }
 
@@ -88,6 +89,7 @@ void Helm::SimulatorTick() {
   const Pass pass = Steer(now);
 
   m_watch.Step(pass.Step, 0, now);
+  Explain(pass, now);
   TellChanges();
   // Deliberate: the polar window comes before the loop; after a wind sentence it comes after it.
   TellPolar();
@@ -134,6 +136,25 @@ void Helm::Feed(const Dispatcher::Outcome& outcome, const Pass& pass, const Mome
   }
   if (pass.Step.Ran) {
     m_watch.Step(pass.Step, pass.Sentence.size(), now);
+    Explain(pass, now);
+  }
+}
+
+void Helm::Explain(const Pass& pass, const Moment& now) {
+  if (pass.Sentence.empty()) {
+    return;
+  }
+  m_why.Sent = true;
+  m_why.At = now;
+  m_why.Bearing = m_settings.m_fAutoPilot;
+  m_why.Mode = m_settings.m_eTrackMode;
+  m_why.Side = m_loop.Side();
+  m_why.Method = m_loop.Tuning().Method;
+  m_why.Desired = m_settings.DesiredAngle[static_cast<std::size_t>(m_why.Side)];
+  m_why.Step = pass.Step;
+  m_why.Data = Data();
+  for (std::size_t i = 0; i < kWhyValues.size(); ++i) {
+    m_why.From[i] = m_record.Source(kWhyValues[i]);
   }
 }
 

@@ -14,6 +14,7 @@
 #include "control/Watch.h"
 #include "helm/HelmNow.h"
 #include "helm/HelmObserver.h"
+#include "helm/Why.h"
 #include "instruments/InstrumentRecord.h"
 #include "instruments/Simulator.h"
 #include "nmea/NmeaReceiver.h"
@@ -68,6 +69,8 @@ class Helm final : private NmeaReceiver::Observer,
 
   /// What the helm does at this moment.
   HelmNow Now() const;
+  /// Why the last sentence says what it says.
+  const Why& LastSentence() const { return m_why; }
 
  private:
   /// A pass of the loop with its sentence.
@@ -86,6 +89,8 @@ class Helm final : private NmeaReceiver::Observer,
   void Decide(TurnFate fate);
   /// Gives the watch what a sentence brought, once the pilot has its own.
   void Feed(const Dispatcher::Outcome& outcome, const Pass& pass, const Moment& now);
+  /// Keeps why the sentence that has just left says what it says.
+  void Explain(const Pass& pass, const Moment& now);
   /// The watch looks at everything, and its answer is told.
   void LookOut();
 
@@ -115,6 +120,7 @@ class Helm final : private NmeaReceiver::Observer,
   TrackModes m_modes;
   Simulator m_simulator;
   Watch m_watch;
+  Why m_why;
   std::int64_t m_simulated = 0;  ///< clock of the simulated boat [ms]
   InputState m_inputState = InputState::Stopped;
   OutputState m_outputState = OutputState::None;

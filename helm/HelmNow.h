@@ -9,6 +9,7 @@
 #include "control/Supervisor.h"
 #include "control/TrackLoop.h"
 #include "control/WatchNow.h"
+#include "helm/Why.h"
 #include "nmea/PortStatus.h"
 #include "settings/TrackMode.h"
 
@@ -34,6 +35,7 @@ struct HelmNow {
   std::optional<float> Heading;        ///< at present, not averaged [deg magnetic, [0, 360)]
   std::optional<float> WindAngleTrue;  ///< averaged [deg relative, positive to starboard]
   WatchNow Watch;                      ///< what the watch said last
+  Why Sentence;                        ///< why the last sentence says what it says
 };
 
 }  // namespace veerwatch

@@ -74,6 +74,8 @@ class HelmObserver {
   virtual void OnTrackMode(TrackMode /*mode*/) {}
   /// Track was refused. Comes after OnTrackMode.
   virtual void OnTrackRefused(TrackRefusal /*why*/) {}
+  /// The program, not the user, has chosen the side that is tracked.
+  virtual void OnTrackSide(TrackSide /*side*/) {}
   /// A wind has been lost, or both are there again.
   virtual void OnWindLost(bool /*lost*/) {}
   /// The turn that runs is over: TurnFate::Taken, or what it lost.
