@@ -14,7 +14,7 @@ constexpr double kDegree = std::numbers::pi / 180.0;
 }  // namespace
 
 void WindMean::Add(double angle, std::int64_t moment) {
-  m_samples[m_next] = {angle, moment};
+  m_samples[m_next] = {std::cos(angle * kDegree), std::sin(angle * kDegree), moment};
   m_next = (m_next + 1) % kMost;
   m_count = std::min(m_count + 1, kMost);
 }
@@ -31,8 +31,8 @@ std::optional<double> WindMean::Mean() const {
     if (newest - sample.Moment > kSpan) {
       break;
     }
-    x += std::cos(sample.Angle * kDegree);
-    y += std::sin(sample.Angle * kDegree);
+    x += sample.X;
+    y += sample.Y;
   }
   return std::atan2(y, x) / kDegree;
 }

@@ -23,7 +23,8 @@ class WindMean {
   static constexpr std::size_t kMost = 128;  // of ten a second there are a hundred
 
   struct Sample {
-    double Angle = 0.0;
+    double X = 0.0;  // the angle as a unit vector
+    double Y = 0.0;
     std::int64_t Moment = 0;
   };
 
