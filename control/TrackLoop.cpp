@@ -12,7 +12,7 @@ namespace veerwatch {
 namespace {
 
 constexpr double kFarOff = 15.0;         // [deg]
-constexpr float kLeastBandwidth = 1.0F;  // [s], before the first tracking
+constexpr float kLeastBandwidth = 1.0F;  // [s], of settings that give no time constant
 
 constexpr std::size_t At(TrackSide side) { return side == TrackSide::True ? 1 : 0; }
 
@@ -93,6 +93,7 @@ LoopStep TrackLoop::ControlStep(const LoopInput& input) {
     return step;
   }
   step.Ran = true;
+  m_windRate.Add(input.Now.Steady);
   Listen(input);
   float& apparent = Desired(TrackSide::Apparent);
   float& trueWind = Desired(TrackSide::True);
@@ -135,7 +136,14 @@ void TrackLoop::Listen(const LoopInput& input) {
   m_direction.Feed({static_cast<double>(wind.Angle), static_cast<double>(wind.Speed),
                     m_data.BoatSpeedValid ? static_cast<double>(m_data.BoatSpeed) : 0.0, Heading(input),
                     static_cast<double>(m_settings.m_fAutoPilot)},
-                   m_trueSeconds, static_cast<double>(std::max(m_tuning.Bandwidth, kLeastBandwidth)));
+                   m_trueSeconds, DirectionBandwidth());
+}
+
+double TrackLoop::DirectionBandwidth() const {
+  const bool tracks = m_settings.m_eTrackMode == TrackMode::Track;
+  const float bandwidth = tracks ? m_tuning.Bandwidth : m_settings.m_fTrackBandwidth;
+  return static_cast<double>(std::isfinite(bandwidth) ? std::max(bandwidth, kLeastBandwidth)
+                                                      : kLeastBandwidth);
 }
 
 std::optional<double> TrackLoop::Heading(const LoopInput& input) const {

@@ -10,6 +10,7 @@
 #include "control/TrackController.h"
 #include "control/TrackDirection.h"
 #include "control/WindMean.h"
+#include "control/WindRate.h"
 #include "instruments/InstrumentData.h"
 #include "platform/Clock.h"
 #include "settings/Settings.h"
@@ -104,6 +105,8 @@ class TrackLoop {
   double TrackGainProportional() const { return m_controller.Gains().Proportional; }
   /// The bearing after the latest pass in a mode other than Off [deg magnetic].
   float PreviousAutoPilot() const { return m_previousAutoPilot; }
+  /// How many passes there are a second, one for each wind sentence [1/s]; nothing while too few have come.
+  std::optional<double> WindsASecond() const { return m_windRate.Rate(); }
 
  private:
   float& Desired(TrackSide side) { return m_settings.DesiredAngle[static_cast<std::size_t>(side)]; }
@@ -111,6 +114,8 @@ class TrackLoop {
   /// The angle of the last ten seconds is held from now on; false where none came.
   bool HoldMean(TrackSide side);
   std::optional<double> Heading(const LoopInput& input) const;
+  /// That of the tracking, or until it begins that of the settings [s, above 0].
+  double DirectionBandwidth() const;
   /// Corrects the bearing for `error` [deg], by the method; keeps in `step` what it did.
   void Control(float error, const LoopInput& input, LoopStep& step);
   void Take(double bearing);
@@ -128,6 +133,7 @@ class TrackLoop {
   TrackClock m_clock;
   TrackDirection m_direction;
   WindMean m_means[2];            ///< apparent and true
+  WindRate m_windRate;            ///< of all passes
   PassTime m_tracked;             ///< between the winds of the tracked side
   PassTime m_winds;               ///< between the winds that feed the direction
   PassTime m_passes;              ///< between all passes

@@ -198,6 +198,40 @@ TEST_P(ClockMethod, WhatIsNotTrackedMovesNothingAndIsSentAllTheSame) {
   EXPECT_TRUE(step.Sends);
 }
 
+class DirectionMethod : public TrackMethods {};
+INSTANTIATE_TEST_SUITE_P(Methods, DirectionMethod, testing::Values(TrackMethod::Direction),
+                         [](const auto& /*method*/) { return "Direction"; });
+
+TEST_P(DirectionMethod, SmoothsByTheBandwidthOfTheSettingsBeforeTrackingBegins) {
+  // A shift of 20 degrees, six seconds before Track. A time constant of 50 s has taken up 2 of them; what is
+  // held is the mean of ten seconds, 71 degrees.
+  m_settings.m_fTrackBandwidth = 200.0F;
+  Passes(30);
+  m_data.WindAngleTrue = 80.0F;
+  Passes(6);
+  Track(TrackSide::True);
+  ASSERT_NEAR(Held(TrackSide::True), 71.0F, 0.5F);
+  EXPECT_NEAR(Pass(1000).Error, -8.4F, 1.0F);
+}
+
+TEST_P(DirectionMethod, KeepsTheBandwidthThatTrackingBeganWith) {
+  m_settings.m_fTrackBandwidth = 200.0F;
+  Passes(30);
+  Track(TrackSide::True);
+  m_settings.m_fTrackBandwidth = 4.0F;
+  m_data.WindAngleTrue = 80.0F;
+  Passes(5);
+  EXPECT_NEAR(Pass(1000).Error, 2.3F, 1.0F);
+}
+
+TEST_P(ByTheClock, TellsHowManyWindsComeASecond) {
+  EXPECT_FALSE(m_loop.WindsASecond().has_value());
+  for (int pass = 0; pass < 100; ++pass) {
+    Pass(200, pass % 2 == 0, pass % 2 == 1);
+  }
+  EXPECT_NEAR(m_loop.WindsASecond().value_or(0.0), 5.0, 0.01) << "those of both sides";
+}
+
 using AlarmAverage = TrackMethods;
 INSTANTIATE_TEST_SUITE_P(Methods, AlarmAverage,
                          testing::Values(TrackMethod::Sentence, TrackMethod::Clock, TrackMethod::Direction),

@@ -1,0 +1,37 @@
+// What the tracking is best set to for the sentences that come and the boat that answers, and what cannot
+// hold: for the options dialog and the main window.
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "settings/TrackMode.h"
+
+namespace veerwatch {
+
+/// What a suggestion goes by.
+struct TrackConditions {
+  double WindsASecond = 1.0;  ///< wind sentences [1/s, above 0]
+  double Lag = 4.0;           ///< until the boat has made two thirds of a small turn [s, at least 0]
+  bool Heading = true;        ///< one comes
+  bool BoatSpeed = true;      ///< one comes
+};
+
+struct TrackSuggestion {
+  TrackMethod Method = TrackMethod::Direction;
+  float Bandwidth = 20.0F;    ///< [s]
+  float WindAverage = 2.0F;   ///< of the true wind, as the settings have it
+  float AlarmAverage = 5.0F;  ///< [s]
+  std::string Reason;         ///< one sentence
+};
+
+TrackSuggestion TrackSuggestionFor(const TrackConditions& conditions);
+
+/// A rate as it is told, "5 wind sentences a second", to a tenth.
+std::string WindsASecondText(double rate);
+
+/// "5 wind sentences a second: this bandwidth swings; choose Clock", where Sentence cannot hold with
+/// `bandwidth` [s] at `rate` [1/s, nothing while it is not known]; else "".
+std::string TrackSwingsText(TrackMethod method, double bandwidth, const std::optional<double>& rate);
+
+}  // namespace veerwatch
