@@ -15,6 +15,7 @@
 
 #include "app/IconsQt.h"
 #include "app/TypedAngle.h"
+#include "control/TrackAdvice.h"
 #include "instruments/CompassPoint.h"
 #include "platform/AtomicFile.h"
 #include "platform/NumberText.h"
@@ -444,7 +445,10 @@ void frmMain::OnTrackMode(TrackMode mode) {
 
 void frmMain::OnPilotData(std::string_view /*sentence*/) { ShowSent(); }
 
-void frmMain::OnTick() { ShowSent(); }
+void frmMain::OnTick() {
+  ShowSent();
+  m_status->Explain(StatusPanelsQt::kPilot, Text(TrackSwingsText(m_helm.Loop(), *this)));
+}
 
 void frmMain::ShowSent() {
   m_sent.Look(m_helm.Pilot().Sent(), m_parts.Time.Now().Steady);

@@ -4,11 +4,14 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cmath>
 #include <vector>
 
 #include "bench/Allocations.h"
 #include "bench/Pass.h"
 #include "bench/SampleLines.h"
+#include "control/TrackDirection.h"
+#include "control/TrackLoop.h"
 
 namespace veerwatch {
 
@@ -76,6 +79,54 @@ void WindToPilot(benchmark::State& state) {
   state.counters["p99_us"] = times[times.size() * 99 / 100];
 }
 BENCHMARK(WindToPilot)->Iterations(1000000);
+
+/// One pass of the method Direction: a wind and, as it comes once a second, an answer.
+void DirectionPass(benchmark::State& state) {
+  TrackDirection law;
+  law.Start(45.0);
+  double bearing = 45.0;
+  double turn = 0.0;
+  for (auto _ : state) {
+    turn += 0.1;
+    const double swing = std::sin(turn);
+    law.Feed({45.0 + 8.0 * swing, 12.0 + swing, 6.0, 45.0 + 3.0 * swing, bearing}, 1.0, 20.0);
+    const auto answer = law.Step({TrackSide::Apparent, 30.0, 30.0 + swing}, bearing, BearingLimits(), 1.0);
+    bearing = answer ? answer->Steer.Bearing : bearing;
+    benchmark::DoNotOptimize(bearing);
+  }
+}
+BENCHMARK(DirectionPass);
+
+/// The whole loop at one pass of Direction, with the means of both winds, at `range` winds a second.
+void DirectionLoop(benchmark::State& state) {
+  Settings settings;
+  settings.m_eTrackMethod = TrackMethod::Direction;
+  InstrumentData data;
+  data.HeadingValid = data.BoatSpeedValid = data.WindApparentValid = data.WindTrueValid = true;
+  data.Heading = settings.m_fAutoPilot;
+  data.BoatSpeed = 6.0F;
+  data.WindSpeedTrue = 12.0F;
+  TrackLoop loop(settings, data);
+  Moment now;
+  const auto pass = [&] {
+    now.Steady += 1000 / state.range(0);
+    const float swing = std::sin(static_cast<float>(now.Steady) * 1e-3F);
+    data.WindAngleApparent = 30.0F + swing;
+    data.WindAngleTrue = 45.0F + 8.0F * swing;
+    benchmark::DoNotOptimize(loop.ControlStep(now));
+  };
+  settings.m_eTrackMode = TrackMode::Manual;
+  pass();
+  if (!loop.StartTracking()) {
+    state.SkipWithError("does not track");
+    return;
+  }
+  settings.m_eTrackMode = TrackMode::Track;
+  for (auto _ : state) {
+    pass();
+  }
+}
+BENCHMARK(DirectionLoop)->Arg(1)->Arg(10);
 
 }  // namespace
 

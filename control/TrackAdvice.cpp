@@ -75,4 +75,14 @@ std::string TrackSwingsText(TrackMethod method, double bandwidth, const std::opt
              : std::string();
 }
 
+std::string TrackSwingsText(const TrackLoop& loop, const Settings& settings) {
+  if (settings.m_eTrackMode == TrackMode::Off) {
+    return {};
+  }
+  const bool tracks = settings.m_eTrackMode == TrackMode::Track;
+  return TrackSwingsText(tracks ? loop.Tuning().Method : settings.m_eTrackMethod,
+                         static_cast<double>(tracks ? loop.Tuning().Bandwidth : settings.m_fTrackBandwidth),
+                         loop.WindsASecond());
+}
+
 }  // namespace veerwatch

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "control/TrackLoop.h"
+#include "settings/Settings.h"
 #include "settings/TrackMode.h"
 
 namespace veerwatch {
@@ -33,5 +35,7 @@ std::string WindsASecondText(double rate);
 /// "5 wind sentences a second: this bandwidth swings; choose Clock", where Sentence cannot hold with
 /// `bandwidth` [s] at `rate` [1/s, nothing while it is not known]; else "".
 std::string TrackSwingsText(TrackMethod method, double bandwidth, const std::optional<double>& rate);
+/// The same of what `loop` tracks with, or will track with by `settings`; "" in Off.
+std::string TrackSwingsText(const TrackLoop& loop, const Settings& settings);
 
 }  // namespace veerwatch

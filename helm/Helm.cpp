@@ -39,6 +39,8 @@ HelmNow Helm::Now() const {
   if (data.HeadingValid) {
     now.Heading = data.Heading;
   }
+  now.BoatSpeedKnown = data.BoatSpeedValid;
+  now.WindsASecond = m_loop.WindsASecond();
   if (data.WindTrueValid) {
     now.WindAngleTrue = data.WindAngleTrue;
   }

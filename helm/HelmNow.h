@@ -33,6 +33,8 @@ struct HelmNow {
   std::uint64_t Sent = 0;              ///< sentences that have left for the pilot
   float AutoPilot = 0.0F;              ///< its bearing [deg magnetic, [0, 360)]
   std::optional<float> Heading;        ///< at present, not averaged [deg magnetic, [0, 360)]
+  bool BoatSpeedKnown = false;         ///< one has come since the input started
+  std::optional<double> WindsASecond;  ///< wind sentences, as far as it was measured [1/s]
   std::optional<float> WindAngleTrue;  ///< averaged [deg relative, positive to starboard]
   WatchNow Watch;                      ///< what the watch said last
   Why Sentence;                        ///< why the last sentence says what it says

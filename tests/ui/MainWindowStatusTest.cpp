@@ -252,6 +252,36 @@ TEST_F(MainWindowStatus, AnAlarmForgetsWhatCameIntoABoxOfTheWindowBehind) {
   EXPECT_EQ(Window->DesiredAngle[1], 30.0F);
 }
 
+TEST_F(MainWindowStatus, TheModesToolTipTellsABandwidthThatSwings) {
+  const auto tip = [this] { return Find<QLabel>("StatusBar(1)").toolTip().toStdString(); };
+  const auto sail = [this](int milliseconds) {
+    for (int sentence = 0; sentence < 30000 / milliseconds; ++sentence) {
+      Time.Pass(milliseconds);
+      NmeaPort.Receive("$WIMWV,40.0,R,10.0,N,A\r");
+      if (Time.Time.Steady % 1000 == 0) {
+        tmrNmea.Tick();
+      }
+    }
+  };
+  Start(std::string(kOnPorts) + "[Track]\nMethod=Sentence\nBandwidth=50\n");
+  NmeaPort.Receive(Winds("40.0", "60.0"));
+  sail(1000);
+  EXPECT_EQ(tip(), "Pilot Status");
+  sail(200);
+  EXPECT_EQ(tip(), "Pilot Status\n5 wind sentences a second: this bandwidth swings; choose Clock");
+  Mode(5);
+  Window->m_fTrackBandwidth = 200.0F;
+  tmrNmea.Tick();
+  EXPECT_EQ(tip(), "Pilot Status");
+  Mode(7);
+  Window->m_fTrackBandwidth = 20.0F;
+  tmrNmea.Tick();
+  EXPECT_EQ(tip(), "Pilot Status") << "200 is what tracks";
+  Mode(1);
+  tmrNmea.Tick();
+  EXPECT_EQ(tip(), "Pilot Status") << "nothing is steered";
+}
+
 TEST_F(MainWindowStatus, ARefusedTrackStaysInItsModeWithAReason) {
   Start(kOnPorts);
   Mode(5);
