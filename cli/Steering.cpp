@@ -1,5 +1,7 @@
 #include "cli/Steering.h"
 
+#include <cmath>
+
 #include "helm/SettingsProfile.h"
 #include "nmea/Fields.h"
 #include "nmea/SentenceTable.h"
@@ -15,6 +17,7 @@ constexpr std::int64_t kSecond = 1000;  // [ms]
 
 Steering::Steering(const SteeringOptions& options, bool simulate, std::uint64_t seed)
     : m_mode(options.Mode),
+      m_windTime(static_cast<double>(kSecond) / options.WindsASecond),
       m_random(seed),
       m_helm(m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random),
       m_told(m_helm.Observers().Join(*this)) {
@@ -58,9 +61,11 @@ void Steering::EnterMode() {
 
 void Steering::Line(const std::string& line) {
   Forget();
-  // A log without times: a second for each wind of the tracked side.
+  // A log without times: a second, or what was asked for, for each wind of the tracked side.
   if (BringsTracked(line)) {
-    m_clock.Pass(kSecond);
+    const auto before = std::llround(m_logTime);
+    m_logTime += m_windTime;
+    m_clock.Pass(std::llround(m_logTime) - before);
   }
   m_bytes.assign(line).push_back('\r');
   m_nmeaPort.Arrive(m_bytes);

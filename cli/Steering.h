@@ -25,6 +25,7 @@ struct SteeringOptions {
   TrackMode Mode = TrackMode::Track;
   TrackSide Side = TrackSide::Apparent;
   bool Trace = false;
+  double WindsASecond = 1.0;  ///< of the tracked side in a log, which has no times [1/s, above 0]
 };
 
 /// A helm on memory ports. Collects what the latest line or tick made it say.
@@ -46,6 +47,8 @@ class Steering final : private HelmObserver {
   void Tick();
 
   const Settings& Set() const { return m_settings; }
+  HelmObservers& Observers() { return m_helm.Observers(); }
+  const InstrumentRecord& Record() const { return m_helm.Record(); }
   const InstrumentData& Data() const { return m_helm.Data(); }
   const WindCounts& Winds() { return m_helm.Receiver().Sources().Winds(); }
   double TrackIntegral() const { return m_helm.Loop().TrackIntegral(); }
@@ -76,6 +79,8 @@ class Steering final : private HelmObserver {
   void OnTrackRefused(TrackRefusal why) override { m_refused = why; }
 
   TrackMode m_mode;
+  double m_windTime;  ///< between two winds of the tracked side in a log [ms]
+  double m_logTime = 0.0;
   Settings m_settings;
   MemoryPort m_nmeaPort;
   MemoryPort m_pilotPort;

@@ -21,6 +21,7 @@
 
 namespace {
 
+using veerwatch::TrackMethod;
 using veerwatch::TrackMode;
 using veerwatch::TrackSide;
 
@@ -202,6 +203,20 @@ class PolarArguments {
   std::string m_out;
 };
 
+const std::map<std::string, TrackMethod> kMethods{{"sentence", TrackMethod::Sentence},
+                                                  {"clock", TrackMethod::Clock},
+                                                  {"direction", TrackMethod::Direction}};
+
+/// A log that can be read, or what stops the command.
+std::ifstream OpenLog(const std::string& file) {
+  std::ifstream log(file, std::ios::binary);
+  if (!log.is_open() || (log.peek(), log.bad())) {
+    throw veerwatch::CommandError("cannot read " + file);
+  }
+  log.clear();
+  return log;
+}
+
 /// "preview".
 class PreviewArguments {
  public:
@@ -210,22 +225,58 @@ class PreviewArguments {
     AddNumber(m_preview, "--bandwidth", m_options.Inputs.Bandwidth, "Tracking bandwidth [s]", "B")
         ->required();
     AddNumber(m_preview, "--damping", m_options.Inputs.Damping, "Tracking damping factor", "D")->required();
-    AddNumber(m_preview, "--offset", m_options.Inputs.Offset, "Bearing at the start [deg] (default 10)", "O");
-    AddNumber(m_preview, "--noise", m_options.Inputs.Noise, "Noise to either side [deg] (default 1)", "N");
-    m_preview->add_option("--seed", m_options.Seed, "Seed of the noise (default 1)")
-        ->check(kWholeNumber)
-        ->type_name("S");
-    AddNumber(m_preview, "--time", m_options.Inputs.Time, "Seconds to run (default 120)", "T");
-    m_preview->add_flag("--summary", m_options.Summary,
-                        "Overshoot, settling time and steady state instead of the seconds");
+    m_preview
+        ->add_option("--method", m_method, "sentence, clock or direction (default sentence; all with --log)")
+        ->check(CLI::IsMember({"sentence", "clock", "direction"}))
+        ->type_name("METHOD");
+    AddNumber(m_preview, "--rate", m_options.Inputs.Rate, "Wind sentences a second (default 1)", "R");
+    const std::array<CLI::Option*, 4> ofResponse{
+        AddNumber(m_preview, "--offset", m_options.Inputs.Offset, "Bearing at the start [deg] (default 10)",
+                  "O"),
+        AddNumber(m_preview, "--noise", m_options.Inputs.Noise, "Noise to either side [deg] (default 1)",
+                  "N"),
+        m_preview->add_option("--seed", m_options.Seed, "Seed of the noise (default 1)")
+            ->check(kWholeNumber)
+            ->type_name("S"),
+        AddNumber(m_preview, "--time", m_options.Inputs.Time, "Seconds to run (default 120)", "T")};
+    CLI::Option* log = m_preview->add_option("--log", m_file, "Run over the wind and heading of this log")
+                           ->type_name("FILE");
+    for (CLI::Option* option : ofResponse) {
+      log->excludes(option);
+    }
+    AddNumber(m_preview, "--lag", m_log.Lag, "Of the boat, with --log [s] (default 4)", "L")->needs(log);
+    m_preview
+        ->add_option("--profile", m_log.ProfileFile, "Profile with the settings that the log is read with")
+        ->needs(log)
+        ->type_name("FILE");
+    m_preview->add_flag("--summary", m_options.Summary, "Figures instead of the passes");
   }
 
   bool Given() const { return m_preview->parsed(); }
-  void Run() const { veerwatch::PreviewCommand(m_options, std::cout); }
+
+  void Run() {
+    if (!m_file) {
+      m_options.Inputs.Method = kMethods.at(m_method.value_or("sentence"));
+      veerwatch::PreviewCommand(m_options, std::cout);
+      return;
+    }
+    if (m_method) {
+      m_log.Method = kMethods.at(*m_method);
+    }
+    m_log.Bandwidth = m_options.Inputs.Bandwidth;
+    m_log.Damping = m_options.Inputs.Damping;
+    m_log.Rate = m_options.Inputs.Rate;
+    m_log.Summary = m_options.Summary;
+    std::ifstream log = OpenLog(*m_file);
+    veerwatch::LogPreviewCommand(m_log, log, std::cout);
+  }
 
  private:
   CLI::App* m_preview;
   veerwatch::PreviewOptions m_options;
+  veerwatch::LogPreviewOptions m_log;
+  std::optional<std::string> m_method;
+  std::optional<std::string> m_file;
 };
 
 /// "replay".
@@ -252,11 +303,7 @@ class ReplayArguments {
       veerwatch::Replay(m_options, std::cin, std::cout, std::cerr);
       return;
     }
-    std::ifstream log(*m_file, std::ios::binary);
-    if (!log.is_open() || (log.peek(), log.bad())) {
-      throw veerwatch::CommandError("cannot read " + *m_file);
-    }
-    log.clear();
+    std::ifstream log = OpenLog(*m_file);
     veerwatch::Replay(m_options, log, std::cout, std::cerr);
   }
 
@@ -304,7 +351,7 @@ int Run(int argc, char** argv) {
   ReplayArguments replay(app);
   SimulateArguments simulate(app);
   PolarArguments polar(app);
-  const PreviewArguments preview(app);
+  PreviewArguments preview(app);
 
   try {
     app.parse(argc, argv);

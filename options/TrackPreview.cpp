@@ -42,6 +42,10 @@ std::string Read(const TrackPreviewTexts& texts, Numbers& numbers) {
                                     {"Minimum", texts.Min, numbers.Min},
                                     {"Maximum", texts.Max, numbers.Max}}};
   for (const Entry& box : boxes) {
+    // Direction has no damping: whatever stands there does not matter.
+    if (&box.Value == &numbers.Inputs.Damping && texts.Method == TrackMethod::Direction) {
+      continue;
+    }
     const auto value = StrictDouble(box.Text);
     if (!value) {
       return std::string(box.Name).append(" is not a number");
@@ -196,12 +200,12 @@ std::vector<Stroke> TrackPreview::Strokes() const {
 }
 
 std::string TrackPreview::ReadOut(double x, double y) const {
-  if (Trace.empty()) {
+  if (Empty()) {
     return {};
   }
   const float time = ToSingle(x / Scale.TimeScale + Scale.TimeStart);
   const float bearing = ToSingle((y - Scale.BearingOrigin) / Scale.BearingScale + Scale.BearingMin);
-  return std::string("time=").append(ShortestText(time)).append(", bearing=").append(ShortestText(bearing));
+  return "time=" + ShortestText(time) + (Curves.empty() ? ", bearing=" : ", error=") + ShortestText(bearing);
 }
 
 std::string TrackPreview::FiguresText() const {
@@ -213,6 +217,16 @@ std::string TrackPreview::FiguresText() const {
   return "This run: " + texts[0] + ", " + texts[1] + ", " + texts[2];
 }
 
+std::vector<int> TrackGridColumns(const TrackScale& scale, double step) {
+  return GridLines(scale.TimeStart, scale.TimeEnd, step, step * scale.TimeScale,
+                   [&scale](double time) { return scale.TimeColumn(time); });
+}
+
+std::vector<int> TrackGridRows(const TrackScale& scale, double from, double step) {
+  return GridLines(from, scale.BearingMax, step, step * scale.BearingScale,
+                   [&scale](double bearing) { return scale.BearingRow(bearing); });
+}
+
 TrackPreview TrackPreviewDraw(const TrackPreviewTexts& texts, int width, int height, RandomSource& random) {
   TrackPreview preview;
   preview.Width = width;
@@ -221,6 +235,9 @@ TrackPreview TrackPreviewDraw(const TrackPreviewTexts& texts, int width, int hei
     return preview;
   }
   Numbers numbers;
+  numbers.Inputs.Method = texts.Method;
+  numbers.Inputs.Rate = texts.Rate;
+  numbers.Inputs.Limits = texts.Limits;
   preview.Trouble = Read(texts, numbers);
   if (preview.Trouble.empty()) {
     preview.Trouble = TroubleWith(numbers);
@@ -244,21 +261,18 @@ TrackPreview TrackPreviewDraw(const TrackPreviewTexts& texts, int width, int hei
   }
 
   preview.Scale = scale;
-  const auto column = [&scale](double time) { return scale.TimeColumn(time); };
-  const auto row = [&scale](double bearing) { return scale.BearingRow(bearing); };
-  preview.Columns = GridLines(scale.TimeStart, scale.TimeEnd, kGridTime, kGridTime * scale.TimeScale, column);
-  preview.Rows =
-      GridLines(scale.BearingMin, scale.BearingMax, kGridBearing, kGridBearing * scale.BearingScale, row);
+  preview.Columns = TrackGridColumns(scale, kGridTime);
+  preview.Rows = TrackGridRows(scale, scale.BearingMin, kGridBearing);
   for (TrackReference& reference : preview.References) {
     reference.Row = scale.BearingRow(reference.Bearing);
   }
   TraceGatherer trace(preview.Trace);
   trace.Add({0, scale.BearingRow(numbers.Inputs.Offset)});
-  for (std::size_t second = 0; second < series->size(); ++second) {
-    trace.Add({scale.TimeColumn(static_cast<double>(second)), scale.BearingRow((*series)[second])});
+  for (std::size_t pass = 0; pass < series->size(); ++pass) {
+    trace.Add({scale.TimeColumn(static_cast<double>(pass) / texts.Rate), scale.BearingRow((*series)[pass])});
   }
   trace.Finish();
-  preview.Figures = TrackFiguresOf(numbers.Inputs.Offset, *series);
+  preview.Figures = TrackFiguresOf(numbers.Inputs.Offset, *series, texts.Rate);
   return preview;
 }
 

@@ -14,7 +14,7 @@
 
 namespace veerwatch {
 
-/// The seven boxes as typed.
+/// The seven boxes as typed, and what else the response depends on.
 struct TrackPreviewTexts {
   std::string Bandwidth;  ///< [s]
   std::string Damping;
@@ -23,6 +23,9 @@ struct TrackPreviewTexts {
   std::string Time;    ///< length of the run [s]
   std::string Min;     ///< lowest bearing shown [deg]
   std::string Max;     ///< highest bearing shown [deg]
+  TrackMethod Method = TrackMethod::Sentence;
+  double Rate = 1.0;          ///< wind sentences a second [1/s]
+  BearingLimits Limits = {};  ///< but for Sentence
 };
 
 /// How seconds and degrees become columns and rows, counted from the upper left corner.
@@ -56,6 +59,13 @@ struct TrackReference {
   int Row = 0;
 };
 
+/// One of several lines with a text of its own.
+struct TrackCurve {
+  TrackMethod Method = TrackMethod::Sentence;
+  std::string Text;             ///< what stands beside it in the legend
+  std::vector<Stroke> Strokes;  ///< [plot units]
+};
+
 struct TrackPreview {
   int Width = 0;   ///< [plot units]
   int Height = 0;  ///< [plot units]
@@ -74,6 +84,12 @@ struct TrackPreview {
   /// nothing is drawn.
   std::vector<TrackPoint> Trace;
 
+  /// In place of the trace: the error of each method over the time, beneath a legend of that height.
+  std::vector<TrackCurve> Curves;
+  int LegendHeight = 0;  ///< [plot units]
+
+  bool Empty() const { return Trace.empty() && Curves.empty(); }
+
   /// The response in figures, that of all passes; nothing when nothing is drawn.
   std::optional<TrackFigures> Figures;
 
@@ -84,9 +100,14 @@ struct TrackPreview {
   /// cut off.
   std::vector<Stroke> Strokes() const;
 
-  /// What stands at a place of the plot [plot units]: "time=12.5, bearing=-0.25". "" when nothing is drawn.
+  /// What stands at a place of the plot [plot units]: "time=12.5, bearing=-0.25", of curves "error" in place
+  /// of "bearing". "" when nothing is drawn.
   std::string ReadOut(double x, double y) const;
 };
+
+/// The places of grid lines at `from`, `from` + `step`, ... to `to` by `scale`, as columns or as rows.
+std::vector<int> TrackGridColumns(const TrackScale& scale, double step);
+std::vector<int> TrackGridRows(const TrackScale& scale, double from, double step);
 
 /// Computes the plot for a size. Text that is not a number, and numbers that allow no plot or an absurd one,
 /// end in Trouble. A plot less than 2 units wide or high stays empty without one. Deliberate: with a minimum

@@ -2,57 +2,75 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdint>
+#include <string>
 #include <utility>
 #include <vector>
 
 #include "control/TrackLoop.h"
 #include "options/TrackResponse.h"
+#include "options/TrackWindRun.h"
 #include "tests/support/FixedRandom.h"
 
 namespace veerwatch {
 namespace {
 
-/// The bearings of a boat that follows at once, steered by the loop from `offset` with the true wind at 0.
-std::vector<double> Steered(float bandwidth, float damping, float offset, std::size_t passes) {
+/// The bearings of a boat that follows at once, steered by the loop with the true wind at 0.
+std::vector<double> Steered(const TrackResponseInputs& inputs, std::size_t passes) {
   Settings settings;
-  settings.m_fTrackBandwidth = bandwidth;
-  settings.m_fTrackDamping = damping;
+  settings.m_fTrackBandwidth = static_cast<float>(inputs.Bandwidth);
+  settings.m_fTrackDamping = static_cast<float>(inputs.Damping);
+  settings.m_eTrackMethod = inputs.Method;
   settings.m_bTrackAlarm = false;
-  settings.m_fAutoPilot = offset;
+  settings.m_fAutoPilot = static_cast<float>(inputs.Offset);
   settings.DesiredAngle[2] = 0.0F;
   InstrumentData data;
+  data.HeadingValid = true;
+  data.Heading = settings.m_fAutoPilot;
   TrackLoop loop(settings, data);
   loop.Side(TrackSide::True);
   EXPECT_TRUE(loop.StartTracking());
   settings.m_eTrackMode = TrackMode::Track;
   std::vector<double> bearings;
   for (std::size_t pass = 0; pass < passes; ++pass) {
+    data.Heading = settings.m_fAutoPilot;
     data.WindAngleTrue =
         static_cast<float>(-std::remainder(static_cast<double>(settings.m_fAutoPilot), 360.0));
-    loop.ControlStep(Moment{static_cast<std::int64_t>(pass) * 1000, 0});
+    const double moment = static_cast<double>(pass) * 1000.0 / inputs.Rate;
+    loop.ControlStep(Moment{std::llround(moment), 0});
     bearings.push_back(std::remainder(static_cast<double>(settings.m_fAutoPilot), 360.0));
   }
   return bearings;
 }
 
-TEST(TrackLaw, LoopAndPreviewGiveTheSameSeries) {
-  constexpr std::size_t kPasses = 61;
-  for (const auto& [bandwidth, damping] : std::vector<std::pair<float, float>>{{20, 4}, {8, 0.5}, {60, 2}}) {
-    TrackResponseInputs inputs;
-    inputs.Bandwidth = static_cast<double>(bandwidth);
-    inputs.Damping = static_cast<double>(damping);
-    inputs.Offset = 10.0;
-    inputs.Noise = 0.0;
-    inputs.Time = static_cast<double>(kPasses - 1);
-    FixedRandom random;
-    const auto preview = TrackResponseSeries(inputs, random);
-    ASSERT_TRUE(preview.has_value());
-    const std::vector<double> steered = Steered(bandwidth, damping, 10.0F, kPasses);
-    ASSERT_EQ(steered.size(), preview->size());
-    for (std::size_t pass = 0; pass < kPasses; ++pass) {
-      // The loop stores its bearing as a single.
-      EXPECT_NEAR(steered[pass], (*preview)[pass], 1e-3) << bandwidth << " s, pass " << pass;
+class TrackLaw : public testing::TestWithParam<TrackMethod> {};
+
+INSTANTIATE_TEST_SUITE_P(Methods, TrackLaw,
+                         testing::Values(TrackMethod::Sentence, TrackMethod::Clock, TrackMethod::Direction),
+                         [](const auto& method) { return std::string(TrackMethodName(method.param)); });
+
+TEST_P(TrackLaw, LoopAndPreviewGiveTheSameSeries) {
+  for (const double rate : {1.0, 2.0, 3.0, 10.0}) {
+    for (const auto& [bandwidth, damping] :
+         std::vector<std::pair<double, double>>{{20.0, 4.0}, {8.0, 0.5}, {60.0, 2.0}}) {
+      TrackResponseInputs inputs;
+      // Ten times the gain a second would leave every range.
+      inputs.Bandwidth = GetParam() == TrackMethod::Sentence ? bandwidth * rate : bandwidth;
+      inputs.Damping = damping;
+      inputs.Noise = 0.0;
+      inputs.Time = 60.0;
+      inputs.Method = GetParam();
+      inputs.Rate = rate;
+      FixedRandom random;
+      const auto preview = TrackResponseSeries(inputs, random);
+      ASSERT_TRUE(preview.has_value());
+      EXPECT_EQ(preview->size(), static_cast<std::size_t>(60.0 * rate) + 1);
+      const std::vector<double> steered = Steered(inputs, preview->size());
+      for (std::size_t pass = 0; pass < preview->size(); ++pass) {
+        // The loop stores its bearing as a single.
+        ASSERT_NEAR(steered[pass], (*preview)[pass], 2e-3)
+            << bandwidth << " s, " << rate << " a second, pass " << pass;
+      }
+      EXPECT_LT(std::fabs(preview->back()), 9.0) << "it steers";
     }
   }
 }

@@ -52,6 +52,61 @@ TEST(TrackResponse, LongestRunIsComputed) {
   EXPECT_EQ(bearings->size(), 1000001U);
 }
 
+TEST(TrackResponse, HasAPassForEachSentence) {
+  FixedRandom still;
+  TrackResponseInputs inputs{40.0, 1.0, 10.0, 0.0, 2.0};
+  inputs.Rate = 2.5;
+  const auto bearings = TrackResponseSeries(inputs, still);
+  ASSERT_TRUE(bearings);
+  // One correction a pass, whatever the time between them.
+  EXPECT_THAT(*bearings, Pointwise(testing::DoubleNear(1e-12),
+                                   {9.2, 8.448, 7.74144, 7.077888, 6.455033856, 5.87068342272}));
+}
+
+TEST(TrackResponse, ClockCorrectsAlikeASecondWhateverTheRate) {
+  for (const double rate : {1.0, 5.0, 10.0}) {
+    FixedRandom still;
+    TrackResponseInputs inputs{40.0, 4.0, 10.0, 0.0, 20.0};
+    inputs.Method = TrackMethod::Clock;
+    inputs.Rate = rate;
+    const auto bearings = TrackResponseSeries(inputs, still);
+    ASSERT_TRUE(bearings);
+    EXPECT_NEAR(bearings->back(), 10.0 * std::exp(-2.0), 0.3) << rate;
+  }
+}
+
+TEST(TrackResponse, DirectionNeedsNoDampingAndABandwidthAboveZero) {
+  FixedRandom still;
+  TrackResponseInputs inputs{1e-310, 4.0, 10.0, 0.0, 30.0};
+  EXPECT_FALSE(TrackResponseSeries(inputs, still));
+  inputs.Method = TrackMethod::Direction;
+  EXPECT_TRUE(TrackResponseSeries(inputs, still));
+  inputs.Bandwidth = -20.0;
+  EXPECT_EQ(TrackResponseTrouble(inputs), "Bandwidth must be above 0");
+  inputs.Bandwidth = 0.0;
+  EXPECT_EQ(TrackResponseTrouble(inputs), "Bandwidth must not be 0");
+}
+
+TEST(TrackResponse, TellsARateAndATimeThatItDoesNotTake) {
+  TrackResponseInputs inputs{20.0, 4.0, 10.0, 0.0, 120.0};
+  for (const double rate : {0.0, -1.0, 0.09, 101.0}) {
+    inputs.Rate = rate;
+    EXPECT_EQ(TrackResponseTrouble(inputs), "Rate must be from 0.1 to 100 wind sentences a second") << rate;
+  }
+  inputs.Rate = 5.0;
+  inputs.Time = 200001.0;
+  EXPECT_EQ(TrackResponseTrouble(inputs), "Time must be at most 200000 seconds");
+  inputs.Time = 200000.0;
+  EXPECT_EQ(TrackResponseTrouble(inputs), "");
+}
+
+TEST(TrackFigures, SettlingTimeIsInSecondsAtEveryRate) {
+  const std::vector<double> bearings{4.0, 0.5, -1.5, -1.0, 1.0, 0.0};
+  EXPECT_EQ(TrackFiguresOf(5.0, bearings, 2.0).SettlingTime, 1.5);
+  EXPECT_EQ(TrackFigureTexts(TrackFiguresOf(5.0, bearings, 2.0), ShortestText)[1], "settling time 1.5 s");
+  EXPECT_EQ(TrackFigureTexts(TrackFiguresOf(5.0, bearings, 7.0), ShortestText)[1], "settling time 0.4 s");
+}
+
 TEST(TrackFigures, OvershootLiesBeyondZeroFromTheOffset) {
   EXPECT_EQ(TrackFiguresOf(10.0, {5.0, -2.0, 1.0, 12.0}).Overshoot, 2.0);
   EXPECT_EQ(TrackFiguresOf(10.0, {5.0, 2.0, 0.5}).Overshoot, 0.0);
@@ -66,8 +121,8 @@ TEST(TrackFigures, OvershootWithoutAnOffsetIsTheLargestToEitherSide) {
 }
 
 TEST(TrackFigures, SettlesAtTheSecondFromWhichItStaysWithinOneDegree) {
-  EXPECT_EQ(TrackFiguresOf(5.0, {4.0, 0.5, -1.5, -1.0, 1.0, 0.0}).SettlingTime, 3U);
-  EXPECT_EQ(TrackFiguresOf(5.0, {0.5, 0.5}).SettlingTime, 0U);
+  EXPECT_EQ(TrackFiguresOf(5.0, {4.0, 0.5, -1.5, -1.0, 1.0, 0.0}).SettlingTime, 3.0);
+  EXPECT_EQ(TrackFiguresOf(5.0, {0.5, 0.5}).SettlingTime, 0.0);
   EXPECT_EQ(TrackFiguresOf(5.0, {0.5, 0.5, 1.01}).SettlingTime, std::nullopt);
 }
 

@@ -1,0 +1,109 @@
+#include "options/TrackWindPicture.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace veerwatch {
+
+namespace {
+
+constexpr std::int64_t kSlot = 10000;  // [ms]
+constexpr double kMillisecondsPerSecond = 1000.0;
+constexpr double kGridTime = 100.0;                                                 // [s]
+constexpr std::array<double, 7> kRanges{5.0, 10.0, 15.0, 30.0, 60.0, 90.0, 180.0};  // [deg]
+
+/// The mean error of a slot, at its middle.
+struct Slot {
+  double Time = 0.0;   // [s]
+  double Error = 0.0;  // [deg]
+};
+
+std::vector<Slot> SlotsOf(const TrackWindRun& run, const std::vector<WindSample>& winds) {
+  std::vector<Slot> slots;
+  const std::int64_t start = winds.front().Moment;
+  for (std::size_t i = 0; i < winds.size();) {
+    const std::int64_t slot = (winds[i].Moment - start) / kSlot;
+    double sum = 0.0;
+    int count = 0;
+    for (; i < winds.size() && (winds[i].Moment - start) / kSlot == slot; ++i, ++count) {
+      sum += run.Errors[i];
+    }
+    slots.push_back({static_cast<double>(slot * kSlot + kSlot / 2) / kMillisecondsPerSecond, sum / count});
+  }
+  return slots;
+}
+
+double RangeFor(const std::vector<std::vector<Slot>>& curves) {
+  double largest = 0.0;
+  for (const auto& curve : curves) {
+    for (const Slot& slot : curve) {
+      largest = std::max(largest, std::fabs(slot.Error));
+    }
+  }
+  for (const double range : kRanges) {
+    if (largest <= range) {
+      return range;
+    }
+  }
+  return kRanges.back();
+}
+
+std::vector<Stroke> StrokesOf(const std::vector<Slot>& slots, const TrackScale& scale) {
+  const auto place = [&scale](const Slot& slot) {
+    return Point{slot.Time * scale.TimeScale, slot.Error * scale.BearingScale + scale.BearingOrigin -
+                                                  scale.BearingMin * scale.BearingScale};
+  };
+  std::vector<Stroke> strokes;
+  for (std::size_t i = 1; i < slots.size(); ++i) {
+    strokes.push_back({place(slots[i - 1]), place(slots[i])});
+  }
+  return strokes;
+}
+
+}  // namespace
+
+TrackPreview TrackWindDraw(const TrackWindInputs& inputs, int width, int height, int legendHeight) {
+  TrackPreview preview;
+  preview.Width = width;
+  preview.Height = height;
+  if (width < 2 || height - legendHeight < 2) {
+    return preview;
+  }
+  preview.Trouble = TrackWindTrouble(inputs.Winds, inputs.Lag);
+  if (!preview.Trouble.empty()) {
+    return preview;
+  }
+  std::vector<std::vector<Slot>> curves;
+  for (const TrackMethod method : {TrackMethod::Sentence, TrackMethod::Clock, TrackMethod::Direction}) {
+    const auto run = TrackWindRunOf(inputs.Tuning, method, inputs.Lag, inputs.Winds);
+    if (!run) {
+      preview.Trouble = "Bandwidth or damping allow no tracking";
+      preview.Curves.clear();
+      return preview;
+    }
+    preview.Curves.push_back({method, run->Text(), {}});
+    curves.push_back(SlotsOf(*run, inputs.Winds));
+  }
+  TrackScale& scale = preview.Scale;
+  const double range = RangeFor(curves);
+  scale.TimeEnd =
+      static_cast<double>(inputs.Winds.back().Moment - inputs.Winds.front().Moment) / kMillisecondsPerSecond;
+  scale.TimeScale = (width - 1) / scale.TimeEnd;
+  scale.BearingMin = -range;
+  scale.BearingMax = range;
+  scale.BearingOrigin = height - 1;
+  scale.BearingScale = -(height - 1 - legendHeight) / (2.0 * range);
+  preview.LegendHeight = legendHeight;
+  for (std::size_t i = 0; i < curves.size(); ++i) {
+    preview.Curves[i].Strokes = StrokesOf(curves[i], scale);
+  }
+  preview.Columns = TrackGridColumns(scale, kGridTime);
+  preview.Rows = TrackGridRows(scale, -range, range > 30.0 ? 30.0 : range > 15.0 ? 10.0 : 5.0);
+  for (TrackReference& reference : preview.References) {
+    reference.Row = scale.BearingRow(reference.Bearing);
+  }
+  return preview;
+}
+
+}  // namespace veerwatch
