@@ -19,6 +19,8 @@ constexpr double kSpeedTime = 20.0;     // [s]
 constexpr double kElsewhere = 60.0;     // [deg]
 constexpr double kElsewhereTime = 4.0;  // [s]
 constexpr double kBandwidthTimes = 4.0;
+constexpr double kLeastLength = 0.1;
+constexpr double kMostLength = 2.0;
 
 constexpr double kAnswerTime = 0.95;  // [s]: a second, of winds that come a little early
 constexpr double kNear = 12.0;        // [deg]
@@ -63,8 +65,9 @@ void TrackDirection::Feed(const Sample& sample, double seconds, double bandwidth
   }
   const double weight = elsewhere ? 1.0 : Weight(seconds, bandwidth / kBandwidthTimes);
   m_apart = 0.0;
-  m_x += (std::cos(theta * kDegree) - m_x) * weight;
-  m_y += (std::sin(theta * kDegree) - m_y) * weight;
+  const double length = Length(sample.WindSpeed);
+  m_x += (length * std::cos(theta * kDegree) - m_x) * weight;
+  m_y += (length * std::sin(theta * kDegree) - m_y) * weight;
 }
 
 void TrackDirection::Start(double bearing) {
@@ -77,6 +80,10 @@ void TrackDirection::Start(double bearing) {
 void TrackDirection::Reset() {
   m_bias = 0.0;
   m_off = 0.0;
+}
+
+double TrackDirection::Length(double windSpeed) const {
+  return m_windSpeed > 0.0 ? std::clamp(windSpeed / m_windSpeed, kLeastLength, kMostLength) : 1.0;
 }
 
 double TrackDirection::Direction() const { return std::atan2(m_y, m_x) / kDegree; }

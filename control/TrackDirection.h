@@ -53,6 +53,10 @@ class TrackDirection {
   std::optional<Answer> Step(const Aim& aim, double bearing, const BearingLimits& limits, double seconds);
 
  private:
+  /// That of the vector of a wind [kn], as a part of the smoothed speed [0.1, 2]. A masthead that swings
+  /// shows the direction least true when it shows little wind, and a single gust does not outweigh all the
+  /// rest.
+  double Length(double windSpeed) const;
   /// The angle of the smoothed direction [deg magnetic].
   double Direction() const;
   double TrueTarget(const Aim& aim) const;

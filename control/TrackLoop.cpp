@@ -120,7 +120,8 @@ LoopStep TrackLoop::ControlStep(const LoopInput& input) {
 
 void TrackLoop::Listen(const LoopInput& input) {
   if (input.BringsApparent) {
-    m_means[At(TrackSide::Apparent)].Add(static_cast<double>(m_data.WindAngleApparent), input.Now.Steady);
+    m_means[At(TrackSide::Apparent)].Add(static_cast<double>(m_data.WindAngleApparent),
+                                         static_cast<double>(m_data.WindSpeedApparent), input.Now.Steady);
   }
   m_trueSeconds = 0.0;
   if (!input.BringsTrue) {
@@ -128,7 +129,8 @@ void TrackLoop::Listen(const LoopInput& input) {
   }
   const LoopInput::Wind wind =
       input.TrueWind.value_or(LoopInput::Wind{m_data.WindAngleTrue, m_data.WindSpeedTrue});
-  m_means[At(TrackSide::True)].Add(static_cast<double>(wind.Angle), input.Now.Steady);
+  m_means[At(TrackSide::True)].Add(static_cast<double>(wind.Angle), static_cast<double>(wind.Speed),
+                                   input.Now.Steady);
   if (m_settings.m_eTrackMethod != TrackMethod::Direction && m_method != TrackMethod::Direction) {
     return;
   }

@@ -74,7 +74,8 @@ void Watch::WindCame(const Readings& readings, bool apparent) {
   }
   if (bringsTrue) {
     m_ages.Came(Watched::WindTrue, from);
-    m_trueMean.Add(static_cast<double>(m_record.WindTrueUnsmoothed().Angle), from.At.Steady);
+    const InstrumentRecord::Wind wind = m_record.WindTrueUnsmoothed();
+    m_trueMean.Add(static_cast<double>(wind.Angle), static_cast<double>(wind.Speed), from.At.Steady);
   }
   // The checks of the vane itself go by what is tracked, or what that is computed from.
   const bool tracked = m_now.Side == TrackSide::Apparent || computed ? apparent : bringsTrue;

@@ -9,12 +9,14 @@ namespace veerwatch {
 namespace {
 
 constexpr std::int64_t kSpan = 10000;  // [ms]
+constexpr double kLeastSpeed = 0.1;    // [kn]
 constexpr double kDegree = std::numbers::pi / 180.0;
 
 }  // namespace
 
-void WindMean::Add(double angle, std::int64_t moment) {
-  m_samples[m_next] = {std::cos(angle * kDegree), std::sin(angle * kDegree), moment};
+void WindMean::Add(double angle, double speed, std::int64_t moment) {
+  const double length = std::max(speed, kLeastSpeed);
+  m_samples[m_next] = {length * std::cos(angle * kDegree), length * std::sin(angle * kDegree), moment};
   m_next = (m_next + 1) % kMost;
   m_count = std::min(m_count + 1, kMost);
 }

@@ -158,6 +158,49 @@ TEST_F(TrackDirectionTest, CalmsGiveFiniteBearings) {
   }
 }
 
+/// Feeds 15 knots of true wind at `angle` as a vane shows it on a masthead that goes to either side with 6.
+void FeedSwinging(TrackDirection& law, double angle, int seconds) {
+  const double ahead = 15.0 * std::cos(angle * std::numbers::pi / 180.0);
+  const double right = 15.0 * std::sin(angle * std::numbers::pi / 180.0);
+  for (int second = 0; second < seconds; ++second) {
+    const double swung = right + (second % 2 == 0 ? 6.0 : -6.0);
+    law.Feed(
+        {std::atan2(swung, ahead) * 180.0 / std::numbers::pi, std::hypot(swung, ahead), 6.0, 100.0, 100.0},
+        1.0, 400.0);
+  }
+}
+
+TEST_F(TrackDirectionTest, ASwingingMastheadDoesNotTurnTheDirection) {
+  for (const double angle : {-150.0, 150.0}) {
+    Law.Clear();
+    FeedSwinging(Law, angle, 2000);
+    Aim.Target = angle;
+    const auto answer = Law.Step(Aim, 100.0, kLimits, 1.0);
+    ASSERT_TRUE(answer.has_value());
+    EXPECT_NEAR(answer->Error, 0.0, 0.3) << angle;
+  }
+}
+
+TEST_F(TrackDirectionTest, OneGustDoesNotOutweighTheRest) {
+  Sail(60);
+  Follows = false;
+  Law.Feed({Wind - Heading + 40.0, 500.0, 6.0, Heading, Bearing}, 1.0, 20.0);
+  const auto answer = Law.Step(Aim, Bearing, kLimits, 1.0);
+  ASSERT_TRUE(answer.has_value());
+  EXPECT_LT(std::fabs(answer->Error), 14.0);
+}
+
+TEST_F(TrackDirectionTest, AnHourOfCalmKeepsTheDirection) {
+  Sail(60);
+  Follows = false;
+  for (int second = 0; second < 3600; ++second) {
+    Law.Feed({Wind - Heading, 0.0, 0.0, Heading, Bearing}, 1.0, 5.0);
+  }
+  const auto answer = Law.Step(Aim, Bearing, kLimits, 1.0);
+  ASSERT_TRUE(answer.has_value());
+  EXPECT_NEAR(answer->Error, 0.0, 0.6);
+}
+
 TEST_F(TrackDirectionTest, StandsStillInASteadyWind) {
   Sail(60);
   const double before = Bearing;
