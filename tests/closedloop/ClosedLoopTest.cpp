@@ -106,7 +106,7 @@ TEST(ClosedLoop, TheAdvisedBandwidthSettlesWithLessThanAThirdOfOvershoot) {
       ShiftCase what;
       what.Loop.Boat.WindPeriod = 1.0 / rate;
       what.Loop.Boat.TurnLag = lag;
-      what.Loop.Bandwidth = static_cast<float>(rate * (10.0 + 4.0 * lag));
+      what.Loop.Bandwidth = static_cast<float>(60.0 * rate);
       what.Seconds = 300.0;
       const ShiftResult result = AnswerToShift(what);
       EXPECT_TRUE(result.Settled) << "rate " << rate << " lag " << lag;

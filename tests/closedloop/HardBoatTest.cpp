@@ -39,6 +39,7 @@ BoatSettings Calm() {
   BoatSettings settings = HardBoat(Sea::Flat);
   settings.GustDeviation = 0.0;
   settings.ShiftDeviation = 0.0;
+  settings.SwingDeviation = 0.0;
   settings.VaneNoise = 0.0;
   settings.SpeedNoise = 0.0;
   settings.Deviation = 0.0;
@@ -367,6 +368,73 @@ TEST(HardBoat, ASeaFromAsternSlewsHerAndOneFromAheadPitchesHer) {
     EXPECT_GT(SeaOf(Sea::Head).Pitch, 2.0 * SeaOf(sea).Pitch);
   }
   EXPECT_EQ(SeaOf(Sea::Flat).Yaw + SeaOf(Sea::Flat).Roll + SeaOf(Sea::Flat).Pitch, 0.0);
+}
+
+// The wind
+
+/// Means of ten seconds, one for each second.
+std::vector<double> TenSecondMeans(const std::vector<double>& values) {
+  constexpr std::size_t kSpan = 10;
+  std::vector<double> means;
+  double sum = 0.0;
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    sum += values[i] - (i >= kSpan ? values[i - kSpan] : 0.0);
+    if (i + 1 >= kSpan) {
+      means.push_back(sum / kSpan);
+    }
+  }
+  return means;
+}
+
+/// By how much it changes within `seconds`: the root of the mean square.
+double ChangeOver(const std::vector<double>& values, std::size_t seconds) {
+  double squares = 0.0;
+  for (std::size_t i = seconds; i < values.size(); ++i) {
+    squares += std::pow(values[i] - values[i - seconds], 2.0);
+  }
+  return std::sqrt(squares / static_cast<double>(values.size() - seconds));
+}
+
+TEST(HardBoat, TheWindTurnsAndBlowsAboutAsMuchAsRecorded) {
+  BoatSettings settings = HardBoat(Sea::Flat);
+  settings.HeadingPeriod = settings.WindPeriod = settings.OtherPeriod = 1e6;
+  BoatModel boat(settings, 100.0, 8);
+  boat.Step(300.0);
+  std::vector<double> turned;
+  std::vector<double> parts;
+  Spread all;
+  for (int second = 0; second < 3 * 3600; ++second) {
+    boat.Step(1.0);
+    turned.push_back(Between(boat.State().WindFrom, settings.WindFrom));
+    parts.push_back(100.0 * boat.State().WindSpeed / settings.WindSpeed);
+    all.Add(turned.back());
+  }
+  EXPECT_NEAR(all.Deviation(), 7.3, 1.0);
+  // Source: the direction over the earth from compass, log and vane of a yacht on a reach, docs/control.md.
+  const std::vector<double> turns = TenSecondMeans(turned);
+  EXPECT_NEAR(ChangeOver(turns, 10), 2.0, 0.4);
+  EXPECT_NEAR(ChangeOver(turns, 20), 2.4, 0.6);
+  EXPECT_NEAR(ChangeOver(turns, 60), 5.0, 1.0);
+  // The speed changes somewhat more than there, as it does over open water.
+  const std::vector<double> speeds = TenSecondMeans(parts);
+  EXPECT_GT(ChangeOver(speeds, 10), 3.9);
+  EXPECT_LT(ChangeOver(speeds, 10), 2.0 * 3.9);
+}
+
+TEST(HardBoat, ASwingHasNoCorners) {
+  BoatSettings settings = Calm();
+  settings.SwingDeviation = 7.0;
+  settings.HeadingPeriod = settings.WindPeriod = settings.OtherPeriod = 1e6;
+  BoatModel boat(settings, 100.0, 3);
+  boat.Step(300.0);
+  std::vector<double> turned;
+  for (int second = 0; second < 3600; ++second) {
+    boat.Step(1.0);
+    turned.push_back(Between(boat.State().WindFrom, settings.WindFrom));
+  }
+  // What wanders without a swing changes by 1.4 times as much in twice the time.
+  EXPECT_GT(ChangeOver(turned, 8), 1.7 * ChangeOver(turned, 4));
+  EXPECT_GT(ChangeOver(turned, 60), 3.0);
 }
 
 // All of it

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <deque>
 #include <utility>
 
 #include "tests/closedloop/Passage.h"
@@ -31,6 +32,7 @@ double CourseOf(const BoatSettings& boat, TrackSide side, double angle) {
   BoatSettings calm = boat;
   calm.GustDeviation = 0.0;
   calm.ShiftDeviation = 0.0;
+  calm.SwingDeviation = 0.0;
   const double intoTheWind = boat.WindFrom - boat.Variation;
   // Both angles grow with that of the heading off the wind.
   double least = 0.0;
@@ -49,6 +51,25 @@ double Median(std::vector<double> values) {
   const std::size_t half = values.size() / 2;
   return values.size() % 2 == 1 ? values[half] : (values[half - 1] + values[half]) / 2.0;
 }
+
+/// The mean of the last ten seconds.
+class RecentMean {
+ public:
+  double Next(double value) {
+    m_values.push_back(value);
+    m_sum += value;
+    if (m_values.size() > kMost) {
+      m_sum -= m_values.front();
+      m_values.pop_front();
+    }
+    return m_sum / static_cast<double>(m_values.size());
+  }
+
+ private:
+  static constexpr std::size_t kMost = static_cast<std::size_t>(10.0 / BoatModel::kTick);
+  std::deque<double> m_values;
+  double m_sum = 0.0;
+};
 
 /// A boat on her course under a pilot, and the program that reads her compass, wind and log.
 class Held {
@@ -88,7 +109,48 @@ class Held {
             (m_passage.Boat.Pilot().BearingChanges() - changes) / minutes};
   }
 
+  UpsetResult Standby(double off) {
+    constexpr double kWatched = 2.0 * kMinute;
+    UpsetResult result;
+    const auto follow = [&] {
+      result.Ahead = std::max(result.Ahead, std::fabs(m_passage.BearingAhead() - m_boat.Pilot.CompassOffset));
+    };
+    m_passage.Boat.PilotStandby(m_passage.Boat.State().Compass + off);
+    m_passage.Sail(kMinute / 2.0, follow);
+    m_passage.Sail(kMinute / 2.0, [&] {
+      follow();
+      result.Before = std::max(result.Before, std::fabs(Error()));
+    });
+    m_passage.Boat.PilotEngage();
+    RecentMean recent;
+    double since = 0.0;
+    result.Back = kWatched;
+    m_passage.Sail(kWatched, [&] {
+      follow();
+      since += BoatModel::kTick;
+      result.Most = std::max(result.Most, std::fabs(Error()));
+      const bool away = std::fabs(recent.Next(Error())) > 5.0;
+      result.Stays = away ? since : result.Stays;
+      result.Back = away ? result.Back : std::min(result.Back, since);
+    });
+    return result;
+  }
+
+  BurstResult Burst() {
+    m_passage.Input.Set().Held = true;
+    m_passage.Sail(30.0);
+    const double before = Bearing();
+    BurstResult result;
+    m_passage.Input.Set().Held = false;
+    m_passage.Sail(2.0, [&] {
+      result.Moved = std::max(result.Moved, std::fabs(std::remainder(Bearing() - before, 360.0)));
+    });
+    m_passage.Sail(2.0 * kMinute, [&] { result.Most = std::max(result.Most, std::fabs(Error())); });
+    return result;
+  }
+
  private:
+  double Bearing() const { return static_cast<double>(m_passage.Set.m_fAutoPilot); }
   double Error() const {
     const BoatState& state = m_passage.Boat.State();
     const double has = m_case.Side == TrackSide::Apparent ? state.ApparentAngle : state.TrueAngle;
@@ -122,7 +184,11 @@ const std::vector<NamedMethod>& NamedMethods() {
 
 HoldResult Hold(const HoldCase& what) { return Held(what).Result(); }
 
-std::vector<HoldCase> Passages(const HoldCase& what) {
+UpsetResult StandbyUpset(const HoldCase& what, double off) { return Held(what).Standby(off); }
+
+BurstResult LateBurst(const HoldCase& what) { return Held(what).Burst(); }
+
+std::vector<HoldCase> Passages(const HoldCase& what, const std::vector<double>& lags) {
   constexpr std::array<std::pair<TrackSide, double>, 6> kHeld{{{TrackSide::True, 45.0},
                                                                {TrackSide::True, 100.0},
                                                                {TrackSide::True, 150.0},
@@ -130,7 +196,7 @@ std::vector<HoldCase> Passages(const HoldCase& what) {
                                                                {TrackSide::Apparent, 90.0},
                                                                {TrackSide::Apparent, 140.0}}};
   std::vector<HoldCase> cases;
-  for (const double lag : {1.0, 4.0, 8.0}) {
+  for (const double lag : lags) {
     for (const Sea sea : {Sea::Flat, Sea::Slight, Sea::Beam, Sea::Following, Sea::Head}) {
       for (const auto& [side, angle] : kHeld) {
         HoldCase one = what;

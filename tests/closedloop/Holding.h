@@ -51,8 +51,29 @@ struct HoldResult {
 /// Five minutes to come to rest, then twenty that count.
 HoldResult Hold(const HoldCase& what);
 
-/// The 90 passages of `what`: each lag of the pilot in each sea at each angle, with a seed of its own.
-std::vector<HoldCase> Passages(const HoldCase& what);
+struct UpsetResult {
+  double Back = 0.0;    ///< afterwards, until the mean error of ten seconds is within 5 degrees [s, [0, 120]]
+  double Stays = 0.0;   ///< the same, until it stays so [s, [0, 120]]
+  double Most = 0.0;    ///< greatest error afterwards, to either side [deg]
+  double Before = 0.0;  ///< the same of the last half minute in standby [deg]
+  double Ahead = 0.0;   ///< the most that the bearing stood off the heading meanwhile and afterwards [deg]
+};
+
+/// The pilot is in standby for 60 seconds, somebody at the wheel keeps `off` [deg] from the heading, and the
+/// pilot is engaged again; watched for two minutes from then on.
+UpsetResult StandbyUpset(const HoldCase& what, double off);
+
+struct BurstResult {
+  double Moved = 0.0;  ///< the bearing by the burst and the two seconds after it [deg, at least 0]
+  double Most = 0.0;   ///< greatest error from then on for two minutes [deg]
+};
+
+/// Nothing comes from the instruments for 30 seconds, then all of it at once.
+BurstResult LateBurst(const HoldCase& what);
+
+/// The passages of `what`, 30 for each lag of the pilot [s]: in each sea at each angle, with a seed of its
+/// own.
+std::vector<HoldCase> Passages(const HoldCase& what, const std::vector<double>& lags = {1.0, 4.0, 8.0});
 
 struct HoldSummary {
   int Lost = 0;

@@ -16,6 +16,7 @@ struct WireSettings {
   double Jitter = 0.0;  ///< and up to this much more; sentences never overtake each other [s]
   double Drop = 0.0;    ///< part of the sentences that get lost [0, 1]
   bool Cut = false;     ///< nothing gets through
+  bool Held = false;    ///< nothing gets through for now; all of it comes at once afterwards
 };
 
 class Wire {
@@ -41,7 +42,7 @@ class Wire {
   /// What comes out until the moment `now`.
   std::string Arrived(double now) {
     std::string arrived;
-    while (!m_underWay.empty() && m_underWay.front().Due <= now) {
+    while (!m_settings.Held && !m_underWay.empty() && m_underWay.front().Due <= now) {
       arrived.append(m_underWay.front().Line);
       m_underWay.pop_front();
     }

@@ -171,7 +171,7 @@ std::string DefaultsTwice() { return DefaultsTable(2.0); }
 std::string AdviceTable() {
   std::vector<std::string> headings{"Boat lag"};
   for (const double rate : kRates) {
-    headings.push_back(ShortestText(static_cast<float>(rate)) + "/s");
+    headings.push_back(Text(60.0 * rate) + " at " + ShortestText(static_cast<float>(rate)) + "/s");
   }
   Table table(headings);
   for (const double lag : kLags) {
@@ -180,8 +180,8 @@ std::string AdviceTable() {
       ShiftCase what;
       what.Loop.Boat.TurnLag = lag;
       what.Loop.Boat.WindPeriod = 1.0 / rate;
-      what.Loop.Bandwidth = static_cast<float>(rate * (10.0 + 4.0 * lag));
-      row.push_back(Text(rate * (10.0 + 4.0 * lag)) + ": " + ResultText(AnswerToShift(what)));
+      what.Loop.Bandwidth = static_cast<float>(60.0 * rate);
+      row.push_back(ResultText(AnswerToShift(what)));
     }
     table.Row(row);
   }

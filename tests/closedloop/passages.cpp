@@ -2,13 +2,17 @@
 // --help`. script/passages calls it.
 #include <algorithm>
 #include <cstdint>
+#include <fstream>
 #include <iostream>
+#include <iterator>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "platform/NumberText.h"
 #include "tests/closedloop/Holding.h"
+#include "tests/closedloop/PassageTables.h"
 
 namespace {
 
@@ -16,16 +20,13 @@ using namespace veerwatch;
 
 constexpr const char* kHelp =
     "Usage: veerwatch_passages [--method NAME] [--rate N] [--bandwidth S] [--damping D] [--seed N] [--each]\n"
-    "Sails 90 passages of twenty minutes (3 pilots, 5 seas, 6 wind angles) for each method of tracking at 1, "
-    "5 "
-    "and 10\n"
-    "wind sentences a second, and with the pilot left on the mean course, and prints how many lost the angle "
-    "and the\n"
-    "medians of all. Options narrow that down; --each prints every passage.\n";
-
-std::string Text(double value, const char* pattern) {
-  return FormatNumber(static_cast<float>(value), pattern);
-}
+    "                          [--upsets] [--without shifts|swing|gusts|wind|sea|noise] [--tables FOLDER]\n"
+    "Sails 90 passages of twenty minutes (3 pilots, 5 seas, 6 wind angles) for each method of tracking at\n"
+    "1, 5 and 10 wind sentences a second, and with the pilot left on the mean course, and prints how many\n"
+    "lost the angle and the medians of all. Options narrow that down; --each prints every passage.\n"
+    "--upsets puts the pilot to standby for a minute with the wheel 20 degrees off, and holds the sentences\n"
+    "back for half a minute, and prints the worst of the 90. --without leaves out what disturbs the boat.\n"
+    "--tables writes the tables of docs/control.md.\n";
 
 struct Tuning {
   float Bandwidth = 0.0F;
@@ -39,40 +40,33 @@ struct Asked {
   std::vector<Tuning> Tunings{{20.0F, 4.0F}, {60.0F, 4.0F}};
   std::uint64_t Seed = 1;
   bool Each = false;
+  bool Upsets = false;
+  std::string Tables;  ///< the folder to write them to, "" for none
+  void (*Without)(BoatSettings&) = nullptr;
 };
 
-constexpr const char* kSeas[] = {"flat", "slight", "beam", "following", "head"};
+struct NamedPart {
+  std::string_view Name;
+  void (*Remove)(BoatSettings&);
+};
 
-void PrintEach(const HoldCase& one, const HoldResult& result) {
-  std::cout << "  lag " << Text(one.Lag, "0") << " s, " << kSeas[static_cast<int>(one.TheSea)] << ", "
-            << (one.Side == TrackSide::True ? "true " : "apparent ") << Text(one.Angle, "0") << ": mean "
-            << Text(result.Mean, "0.0") << ", rms " << Text(result.Rms, "0.0") << ", most "
-            << Text(result.Most, "0") << ", rudder " << Text(result.Rudder, "0") << ", changes "
-            << Text(result.Changes, "0") << (result.Lost() ? ", lost\n" : "\n");
-}
+/// What disturbs the boat.
+constexpr NamedPart kParts[] = {
+    {"shifts", [](BoatSettings& boat) { boat.ShiftDeviation = 0.0; }},
+    {"swing", [](BoatSettings& boat) { boat.SwingDeviation = 0.0; }},
+    {"gusts", [](BoatSettings& boat) { boat.GustDeviation = 0.0; }},
+    {"sea", [](BoatSettings& boat) { boat.Sea = {}; }},
+    {"noise", [](BoatSettings& boat) { boat.VaneNoise = boat.SpeedNoise = 0.0; }},
+    {"wind",
+     [](BoatSettings& boat) { boat.ShiftDeviation = boat.SwingDeviation = boat.GustDeviation = 0.0; }},
+};
 
-void Sail(const std::string& name, const HoldCase& what, bool each) {
-  std::vector<HoldResult> results;
-  for (const HoldCase& one : Passages(what)) {
-    results.push_back(Hold(one));
-    if (each) {
-      PrintEach(one, results.back());
-    }
-  }
-  const HoldSummary sum = SummaryOf(results);
-  std::cout << "| " << name << " | " << (what.Constant ? "" : ShortestText(static_cast<float>(what.WindRate)))
-            << " | " << sum.Lost << " of " << sum.Count << " | " << Text(sum.Rms, "0.0") << " | "
-            << Text(sum.Rudder, "0") << " | " << Text(sum.Changes, "0") << " |" << std::endl;
-}
-
-void SailAll(const Asked& asked) {
-  std::cout << "| Method | wind/s | lost | rms [deg] | rudder [deg/min] | bearings/min |\n"
-               "| --- | --- | --- | --- | --- | --- |\n";
+/// Every method, tuning and rate that is asked for.
+std::vector<HoldCase> CasesOf(const Asked& asked) {
   HoldCase what;
   what.Seed = asked.Seed;
-  what.Constant = true;
-  Sail("constant heading", what, asked.Each);
-  what.Constant = false;
+  what.Alter = asked.Without;
+  std::vector<HoldCase> cases;
   for (const NamedMethod& method : NamedMethods()) {
     if (!asked.Method.empty() && asked.Method != method.Name) {
       continue;
@@ -83,12 +77,65 @@ void SailAll(const Asked& asked) {
       what.Damping = tuning.Damping;
       for (const double rate : asked.Rates) {
         what.WindRate = rate;
-        Sail(std::string(method.Name) + " " + ShortestText(tuning.Bandwidth) + "/" +
-                 ShortestText(tuning.Damping),
-             what, asked.Each);
+        cases.push_back(what);
       }
     }
   }
+  return cases;
+}
+
+HoldCase ConstantOf(const Asked& asked) {
+  HoldCase constant;
+  constant.Seed = asked.Seed;
+  constant.Alter = asked.Without;
+  constant.Constant = true;
+  return constant;
+}
+
+void PrintUpsets(const Asked& asked) {
+  std::cout << UpsetHeading();
+  for (const HoldCase& what : CasesOf(asked)) {
+    std::cout << UpsetRows(what, asked.Each) << std::flush;
+  }
+}
+
+void PrintPassages(const Asked& asked) {
+  std::vector<HoldCase> cases = CasesOf(asked);
+  cases.insert(cases.begin(), ConstantOf(asked));
+  std::cout << SummaryHeading();
+  for (const HoldCase& what : cases) {
+    const SailedPassages sailed = SailPassages(what);
+    std::cout << (asked.Each ? EachPassage(sailed) : "") << SummaryRow(sailed) << std::flush;
+  }
+}
+
+/// Summary, split and outages, of one run each.
+bool WriteTables(const Asked& asked) {
+  const auto write = [&asked](const char* name, const std::string& text) {
+    std::ofstream file(asked.Tables + "/" + name, std::ios::binary);
+    file << text;
+    file.close();
+    return static_cast<bool>(file);
+  };
+  std::string summary = SummaryHeading();
+  std::string upsets = UpsetHeading();
+  std::vector<SailedPassages> split;
+  split.push_back(SailPassages(ConstantOf(asked)));
+  summary += SummaryRow(split.front());
+  for (const HoldCase& what : CasesOf(asked)) {
+    const bool perSentence = what.Method.Name == NamedMethods().front().Name;
+    const bool advised = what.Bandwidth == (perSentence ? 20.0F : 60.0F);
+    const SailedPassages sailed = SailPassages(what);
+    summary += SummaryRow(sailed);
+    if (advised && what.WindRate == 1.0) {
+      split.push_back(sailed);
+    }
+    if (advised && (!perSentence || what.WindRate == 1.0)) {
+      upsets += UpsetRows(what, false);
+    }
+  }
+  return write("passages.md", summary) && write("split.md", SplitTable(split)) &&
+         write("upsets.md", upsets) && write("bandwidths.md", BandwidthTable());
 }
 
 bool IsMethod(const std::string& name) {
@@ -107,6 +154,10 @@ std::optional<Asked> Read(const std::vector<std::string>& words) {
       asked.Each = true;
       continue;
     }
+    if (words[i] == "--upsets") {
+      asked.Upsets = true;
+      continue;
+    }
     if (++i == words.size()) {
       return std::nullopt;
     }
@@ -115,6 +166,19 @@ std::optional<Asked> Read(const std::vector<std::string>& words) {
         return std::nullopt;
       }
       asked.Method = words[i];
+      continue;
+    }
+    if (words[i - 1] == "--tables") {
+      asked.Tables = words[i];
+      continue;
+    }
+    if (words[i - 1] == "--without") {
+      const auto* const part = std::find_if(std::begin(kParts), std::end(kParts),
+                                            [&](const NamedPart& one) { return one.Name == words[i]; });
+      if (part == std::end(kParts)) {
+        return std::nullopt;
+      }
+      asked.Without = part->Remove;
       continue;
     }
     const auto number = StrictDouble(words[i]);
@@ -155,6 +219,9 @@ int main(int count, char** arguments) {
     std::cerr << kHelp;
     return 2;
   }
-  SailAll(*asked);
+  if (!asked->Tables.empty()) {
+    return WriteTables(*asked) ? 0 : 1;
+  }
+  (asked->Upsets ? PrintUpsets : PrintPassages)(*asked);
   return 0;
 }

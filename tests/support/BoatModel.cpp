@@ -116,8 +116,10 @@ BoatSettings HardBoat(Sea sea) {
   settings.Rudder = RudderSettings{};
   settings.Pilot.CompassOffset = 4.0;
   settings.WindSpeed = 15.0;
-  settings.GustDeviation = 0.15;
-  settings.ShiftDeviation = 6.0;
+  settings.GustDeviation = 0.08;
+  settings.ShiftDeviation = 2.0;
+  settings.ShiftTime = 3.0;
+  settings.SwingDeviation = 7.0;
   settings.VaneLag = 0.0;
   settings.VaneDelay = 1.5;
   settings.LogLag = 3.0;
@@ -178,7 +180,19 @@ void BoatModel::MoveWind() {
   Wander(m_shift, m_settings.ShiftTime);
   Wander(m_yaw, m_settings.YawTime);
   m_state.WindSpeed = std::max(0.0, m_settings.WindSpeed * (1.0 + m_settings.GustDeviation * m_gust));
-  m_state.WindFrom = Turn360(m_settings.WindFrom + m_settings.ShiftDeviation * m_shift);
+  Swing();
+  m_state.WindFrom = Turn360(m_settings.WindFrom + m_settings.ShiftDeviation * m_shift +
+                             m_settings.SwingDeviation * m_swing);
+}
+
+void BoatModel::Swing() {
+  if (m_settings.SwingDeviation == 0.0) {
+    return;
+  }
+  Wander(m_swingAim, m_settings.SwingTime);
+  // A second lag like the first leaves half of the variance.
+  const double aim = std::numbers::sqrt2 * m_swingAim;
+  m_swing = aim + (m_swing - aim) * Remains(m_settings.SwingTime);
 }
 
 void BoatModel::MoveSea() {

@@ -7,9 +7,9 @@
 // rudder. With a rudder the pilot is a BoatPilot, the rudder moves at its own rate, and the hull answers to
 // it as a system of first order in the rate of turn (Source: Nomoto), slower and less the slower the boat
 // sails; the wind's pull on the heeled boat turns her to windward. Speed: comes to that of a smooth polar
-// with a lag. Wind: a mean with gusts and shifts, noise whose memory fades exponentially. Sea: a Seaway,
-// which yaws the boat and swings the masthead with the vane. All of it follows from the settings and the seed
-// alone.
+// with a lag. Wind: a mean with gusts and shifts, noise whose memory fades exponentially, and a slow swing
+// that has no corners. Sea: a Seaway, which yaws the boat and swings the masthead with the vane. All of it
+// follows from the settings and the seed alone.
 #pragma once
 
 #include <cstdint>
@@ -57,6 +57,8 @@ struct BoatSettings {
   double GustTime = 12.0;       ///< memory of the gusts [s]
   double ShiftDeviation = 0.0;  ///< standard deviation of the direction [deg]
   double ShiftTime = 40.0;      ///< memory of the shifts [s]
+  double SwingDeviation = 0.0;  ///< standard deviation of a slow swing of the direction besides [deg]
+  double SwingTime = 60.0;      ///< of the two lags that make the swing smooth [s], above 0
 
   // Water and earth.
   double CurrentTo = 90.0;    ///< direction that the current sets to [deg true]
@@ -132,6 +134,7 @@ class BoatModel {
  private:
   void Tick();
   void MoveWind();
+  void Swing();
   void MoveSea();
   void Turn();
   /// What is missing to the bearing, or to the heading that somebody at the wheel keeps [deg].
@@ -158,6 +161,8 @@ class BoatModel {
 
   double m_gust = 0.0;
   double m_shift = 0.0;
+  double m_swingAim = 0.0;  // what the swing follows
+  double m_swing = 0.0;
   double m_yaw = 0.0;
   double m_keel = 0.0;  ///< heading without the waves [deg true]
   Seaway m_seaway;
