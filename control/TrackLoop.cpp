@@ -54,6 +54,7 @@ bool TrackLoop::StartTracking() {
   m_clock.Start(gains);
   m_tracked.Restart();
   m_alarmError = 0.0F;
+  m_luff = 0.0;
   if (m_method != TrackMethod::Sentence && m_settings.m_eTrackMode != TrackMode::Track) {
     HoldMean(TrackSide::Apparent);
     HoldMean(TrackSide::True);
@@ -79,11 +80,39 @@ bool TrackLoop::Side(TrackSide side) {
   if (!other || m_method == TrackMethod::Sentence || m_settings.m_eTrackMode != TrackMode::Track) {
     return false;
   }
+  ForgetErrors();
+  m_tracked.Restart();
+  return HoldMean(side);
+}
+
+bool TrackLoop::HoldApparent() {
+  if (!HoldMean(TrackSide::Apparent)) {
+    return false;
+  }
+  m_side = TrackSide::Apparent;
+  ForgetErrors();
+  m_tracked.Restart();
+  return true;
+}
+
+void TrackLoop::BeginAt(double heading) {
+  ForgetErrors();
+  m_direction.Start(heading);
+  SetAutoPilot(heading);
+}
+
+void TrackLoop::Luff(double degrees) {
+  const bool begins = m_luff == 0.0;
+  m_luff = std::copysign(degrees, static_cast<double>(Desired(m_side)));
+  if (begins) {
+    SetAutoPilot(static_cast<double>(m_settings.m_fAutoPilot) + m_luff);
+  }
+}
+
+void TrackLoop::ForgetErrors() {
   m_controller.Reset();
   m_clock.Reset();
   m_direction.Reset();
-  m_tracked.Restart();
-  return HoldMean(side);
 }
 
 LoopStep TrackLoop::ControlStep(const LoopInput& input) {
@@ -110,7 +139,11 @@ LoopStep TrackLoop::ControlStep(const LoopInput& input) {
   if (mode == TrackMode::Track) {
     step.Tracked = true;
     const float error = m_side == TrackSide::Apparent ? step.DeltaApparent : step.DeltaTrue;
-    Control(error, input, step);
+    if (input.Stands) {
+      step.Error = error;
+    } else {
+      Control(m_luff == 0.0 ? error : FoldRelative(static_cast<double>(error) + m_luff), input, step);
+    }
     step.Rings = TestAlarm(error, seconds);
   }
   step.Sends = mode != TrackMode::Setup;
@@ -170,9 +203,9 @@ void TrackLoop::Control(float error, const LoopInput& input, LoopStep& step) {
       break;
     case TrackMethod::Direction:
       step.Seconds = m_trueSeconds;
-      if (const auto answer = m_direction.Step(
-              {m_side, static_cast<double>(Desired(m_side)), m_means[At(TrackSide::Apparent)].Mean()}, before,
-              m_limits, m_trueSeconds)) {
+      if (const auto answer = m_direction.Step({m_side, static_cast<double>(Desired(m_side)) - m_luff,
+                                                m_means[At(TrackSide::Apparent)].Mean()},
+                                               before, m_limits, m_trueSeconds)) {
         Take(answer->Steer, step);
         m_directionError = ToSingle(answer->Error);
       }
@@ -219,9 +252,7 @@ bool TrackLoop::TrackSteerTo(float change) {
     SetDesired(m_side, static_cast<double>(Desired(m_side)) - static_cast<double>(change));
   }
   SetAutoPilot(static_cast<double>(m_settings.m_fAutoPilot) + static_cast<double>(change));
-  m_controller.Reset();
-  m_clock.Reset();
-  m_direction.Reset();
+  ForgetErrors();
   return true;
 }
 

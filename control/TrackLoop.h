@@ -34,6 +34,7 @@ struct LoopInput {
   bool BringsApparent = true;  ///< this wind is an apparent one
   bool BringsTrue = true;      ///< a true one came with it, or follows from it
   bool HeadingFresh = true;    ///< the record's heading is of the last seconds
+  bool Stands = false;         ///< neither bearing nor accumulators move
   /// The true wind before it was smoothed, where the record's is [deg relative], [kn].
   struct Wind {
     float Angle = 0.0F;
@@ -98,6 +99,16 @@ class TrackLoop {
   /// when that changed what is held.
   bool Side(TrackSide side);
 
+  /// The apparent angle of the last ten seconds is held from now on, with any method. False where that cannot
+  /// be, as no apparent wind came.
+  bool HoldApparent();
+  /// The bearing begins anew at `heading` [deg magnetic, any turn], with nothing added up.
+  void BeginAt(double heading);
+  /// Holds the boat `degrees` [deg, at least 0] closer to the wind than the held angle, from now on; 0 for
+  /// that angle again. The bearing goes along at once when it begins.
+  void Luff(double degrees);
+  bool Luffs() const { return m_luff != 0.0; }
+
   /// What the latest StartTracking that succeeded took from the settings; later settings wait for the next.
   const TrackTuning& Tuning() const { return m_tuning; }
   double TrackIntegral() const { return m_controller.Integral(); }
@@ -120,6 +131,8 @@ class TrackLoop {
   void Control(float error, const LoopInput& input, LoopStep& step);
   void Take(double bearing);
   void Take(const LimitedBearing& limited, LoopStep& step);
+  /// Zeroes every accumulator.
+  void ForgetErrors();
   void TurnHeldWind(float change);
   LoopStep::Alarm TestAlarm(float error, double seconds);
 
@@ -138,6 +151,7 @@ class TrackLoop {
   PassTime m_winds;               ///< between the winds that feed the direction
   PassTime m_passes;              ///< between all passes
   double m_trueSeconds = 0.0;     ///< since the latest wind that fed the direction [s]
+  double m_luff = 0.0;            ///< taken off the held angle [deg relative, with its sign]
   float m_directionError = 0.0F;  ///< the latest error of the direction [deg]
   float m_alarmError = 0.0F;      ///< the error that the alarm tests [deg]
   float m_previousAutoPilot = 0.0F;

@@ -134,6 +134,19 @@ void Watch::Step(const LoopStep& step, std::size_t bytes, const Moment& now) {
   }
 }
 
+void Watch::Simulated(const Moment& now) {
+  StandstillUntil(now);
+  m_trueMean.Add(static_cast<double>(m_record.Data().WindAngleTrue), now.Steady);
+}
+
+std::optional<double> Watch::LatestAngle() const {
+  if (const auto mean = m_trueMean.Mean()) {
+    return mean;
+  }
+  const InstrumentData& data = m_record.Data();
+  return data.WindApparentValid ? std::optional(static_cast<double>(data.WindAngleApparent)) : std::nullopt;
+}
+
 bool Watch::SpeedStuck(const Moment& now) const {
   const InstrumentData& data = m_record.Data();
   return data.BoatSpeedValid && data.BoatSpeed == 0.0F && m_groundSpeed > kMoves &&
@@ -157,6 +170,7 @@ bool Watch::Look(const Around& around, const Moment& now) {
   m_now.Mode = m_settings.m_eTrackMode;
   m_now.Side = around.Side;
   m_now.Act = m_settings.m_bWatchAct;
+  m_now.Acts = around.Acts;
   for (std::size_t what = 0; what < kWatchedCount; ++what) {
     m_now.Values[what] = m_ages.At(static_cast<Watched>(what), now);
   }

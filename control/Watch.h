@@ -27,6 +27,7 @@ class Watch {
     float Bandwidth = 0.0F;                      ///< in use [s]
     bool InputStarted = false;
     bool OutputOpen = true;
+    bool Acts = false;       ///< the loop is held back
     std::uint64_t Sent = 0;  ///< sentences that have left for the pilot
   };
 
@@ -39,6 +40,8 @@ class Watch {
 
   /// A sentence has brought `readings`, and the record still says which of its values that changed.
   void Sentence(const Readings& readings);
+  /// The simulator has brought everything at `now`.
+  void Simulated(const Moment& now);
   /// The loop has made a pass at `now`, and a sentence of `bytes` was built, 0 for none.
   void Step(const LoopStep& step, std::size_t bytes, const Moment& now);
 
@@ -54,8 +57,16 @@ class Watch {
   bool SpeedStuck(const Moment& now) const;
   /// The true wind comes from dead astern or across the stern, by the latest look.
   bool GybeRisk() const { return m_gybe; }
+  /// By the latest look.
   bool Following() const { return !m_follow.Stands(); }
+  bool OutputLost() const { return m_output.Lost(); }
+  /// The vane is not stuck.
   bool WindChanges() const { return !m_unchanged.Stands(); }
+  /// The latest wind is another one than the one before.
+  bool WindJustChanged() const { return m_unchanged.JustChanged(); }
+  /// The true wind angle of the last ten seconds in which it came [deg relative], or where none did, the
+  /// apparent one's latest.
+  std::optional<double> LatestAngle() const;
 
  private:
   /// A condition that has just been looked at.

@@ -16,6 +16,8 @@ class UnchangedCheck {
  public:
   /// A wind [deg relative], [kn] that came at `moment` [ms of the steady clock].
   void Add(float angle, float speed, std::int64_t moment);
+  /// The latest is another one than the one before.
+  bool JustChanged() const { return m_count <= 1; }
   /// It came at least 20 times alike, over at least 10 s.
   bool Stands() const { return m_count >= kTimes && m_latest - m_since >= kLong; }
 

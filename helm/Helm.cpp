@@ -13,7 +13,8 @@ Helm::Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Time
       m_loop(settings, m_record.Data()),
       m_modes(settings, m_receiver, m_pilot, m_loop, *this),
       m_simulator(settings, m_record, random),
-      m_watch(settings, m_record) {}
+      m_watch(settings, m_record),
+      m_act(settings, m_record, m_watch, m_loop) {}
 
 HelmNow Helm::Now() const {
   HelmNow now;
@@ -61,9 +62,17 @@ void Helm::OnSentence(std::string_view line, const Dispatcher::Outcome& outcome,
   // Deliberate: an enabled wind sentence that brings no wind runs the steps, too.
   const InstrumentData& data = Data();
   const bool steers = outcome.WindSentence && data.WindApparentValid && data.WindTrueValid;
+  // What may hold the pass back has to know the sentence first; otherwise it waits for the watch.
+  const bool acts = m_settings.m_bWatchAct;
+  if (acts) {
+    Feed(outcome);
+  }
   const Pass pass = steers ? Steer(now) : Pass{};
 
-  Feed(outcome, pass, now);
+  if (!acts) {
+    Feed(outcome);
+  }
+  Keep(pass, now);
   TellChanges();
   m_observers.Tell([&](HelmObserver& observer) {
     observer.OnNmeaLine(line, outcome.Incomplete ? LineFault::Decode : LineFault::None, outcome.Used);
@@ -90,8 +99,8 @@ void Helm::SimulatorTick() {
   // Deliberate: no validity is tested.
   const Pass pass = Steer(now);
 
-  m_watch.Step(pass.Step, 0, now);
-  Explain(pass, now);
+  m_watch.Simulated(m_clock.Now());
+  Keep(pass, now);
   TellChanges();
   // Deliberate: the polar window comes before the loop; after a wind sentence it comes after it.
   TellPolar();
@@ -99,11 +108,17 @@ void Helm::SimulatorTick() {
 }
 
 Helm::Pass Helm::Steer(const Moment& now) {
+  const WatchAct::Pass may = m_act.Before(m_pilot.Open(), now);
+  if (may == WatchAct::Pass::None) {
+    return {};
+  }
   LoopInput input(now);
+  input.Stands = may == WatchAct::Pass::Stands;
   input.BringsApparent = m_record.Changed(RecordValue::WindApparent);
   input.BringsTrue = m_record.Changed(RecordValue::WindTrue);
   if (m_settings.m_eTrackMethod != TrackMethod::Sentence) {
-    input.HeadingFresh = m_record.Age(RecordValue::Heading, now).value_or(kStale) < kStale;
+    const std::int64_t oldest = m_settings.m_bWatchAct ? kStale / 2 : kStale;
+    input.HeadingFresh = m_record.Age(RecordValue::Heading, now).value_or(oldest) < oldest;
   }
   if (m_settings.m_eTrackMethod == TrackMethod::Direction) {
     const InstrumentRecord::Wind wind = m_record.WindTrueUnsmoothed();
@@ -132,12 +147,15 @@ void Helm::Tick() {
   m_observers.Tell([](HelmObserver& observer) { observer.OnTick(); });
 }
 
-void Helm::Feed(const Dispatcher::Outcome& outcome, const Pass& pass, const Moment& now) {
+void Helm::Feed(const Dispatcher::Outcome& outcome) {
   if (outcome.Brought != nullptr) {
     m_watch.Sentence(*outcome.Brought);
   }
+}
+
+void Helm::Keep(const Pass& pass, const Moment& now) {
   if (pass.Step.Ran) {
-    m_watch.Step(pass.Step, pass.Sentence.size(), now);
+    m_watch.Step(pass.Step, m_settings.m_bSimulate ? 0 : pass.Sentence.size(), now);
     Explain(pass, now);
   }
 }
@@ -160,6 +178,27 @@ void Helm::Explain(const Pass& pass, const Moment& now) {
   }
 }
 
+void Helm::Obey(const WatchAct::Order& order, const Moment& now) {
+  Pass pass;
+  if (order.Sends) {
+    pass.Sentence = m_pilot.PilotSend(m_settings.m_fAutoPilot);
+    Keep(pass, now);
+  }
+  if (order.Switched) {
+    m_observers.Tell([this](HelmObserver& observer) { observer.OnTrackSide(m_loop.Side()); });
+    TellDesired();
+  }
+  m_observers.Tell([&](HelmObserver& observer) {
+    if (order.Turned) {
+      observer.OnAutoPilot(m_settings.m_fAutoPilot);
+    }
+    if (order.Sends) {
+      observer.OnPilotData(pass.Sentence);
+      observer.OnPilotHeading(m_settings.m_fAutoPilot);
+    }
+  });
+}
+
 void Helm::LookOut() {
   Watch::Around around;
   around.Side = m_loop.Side();
@@ -168,7 +207,10 @@ void Helm::LookOut() {
   around.InputStarted = m_receiver.Started();
   around.OutputOpen = m_pilot.Open();
   around.Sent = m_pilot.Sent();
-  m_watch.Look(around, m_clock.Now());
+  around.Acts = m_act.Acts();
+  const Moment now = m_clock.Now();
+  m_watch.Look(around, now);
+  Obey(m_act.Second(now), now);
   m_observers.Tell([this](HelmObserver& observer) { observer.OnWatch(m_watch.Now()); });
 }
 

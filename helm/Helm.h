@@ -12,6 +12,7 @@
 #include "control/TrackLoop.h"
 #include "control/TrackModes.h"
 #include "control/Watch.h"
+#include "control/WatchAct.h"
 #include "helm/HelmNow.h"
 #include "helm/HelmObserver.h"
 #include "helm/Why.h"
@@ -87,12 +88,16 @@ class Helm final : private NmeaReceiver::Observer,
   void TellPolar();
   void SimulatorTick();
   void Decide(TurnFate fate);
-  /// Gives the watch what a sentence brought, once the pilot has its own.
-  void Feed(const Dispatcher::Outcome& outcome, const Pass& pass, const Moment& now);
+  /// Gives the watch what a sentence brought.
+  void Feed(const Dispatcher::Outcome& outcome);
+  /// Gives the watch what the loop did, and keeps why.
+  void Keep(const Pass& pass, const Moment& now);
   /// Keeps why the sentence that has just left says what it says.
   void Explain(const Pass& pass, const Moment& now);
   /// The watch looks at everything, and its answer is told.
   void LookOut();
+  /// Does what follows from a look of the watch.
+  void Obey(const WatchAct::Order& order, const Moment& now);
 
   void OnInputStarts() override;
   void OnSentence(std::string_view line, const Dispatcher::Outcome& outcome, const Moment& now) override;
@@ -120,6 +125,7 @@ class Helm final : private NmeaReceiver::Observer,
   TrackModes m_modes;
   Simulator m_simulator;
   Watch m_watch;
+  WatchAct m_act;
   Why m_why;
   std::int64_t m_simulated = 0;  ///< clock of the simulated boat [ms]
   InputState m_inputState = InputState::Stopped;

@@ -27,6 +27,17 @@ bool SourceChoice::Take(const Readings& readings) {
   return variation || heading || boatSpeed || wind || waypoint;
 }
 
+bool SourceChoice::Trusted(const Readings& readings, RecordValue value) const {
+  constexpr std::int64_t kGone = 2000;  // [ms]
+  if (!m_settings.m_bWatchAct) {
+    return true;
+  }
+  const Origin& now = readings.From();
+  const std::optional<Origin>& before = m_record.Source(value);
+  const bool other = before && before->Talker != now.Talker && now.At.Steady - before->At.Steady <= kGone;
+  return !readings.Invalid() && !other;
+}
+
 bool SourceChoice::TakeVariation(const Readings& readings) {
   const Reading* variation = readings.Find(Quantity::Variation);
   if (variation == nullptr) {
@@ -37,6 +48,9 @@ bool SourceChoice::TakeVariation(const Readings& readings) {
 }
 
 bool SourceChoice::TakeHeading(const Readings& readings) {
+  if (!Trusted(readings, RecordValue::Heading)) {
+    return false;
+  }
   const bool overGround = m_settings.m_iNmeaHeading == kOverGround;
   if (const Reading* heading = readings.Find(overGround ? Quantity::CourseMagnetic : Quantity::Heading)) {
     m_record.HeadingUpdate(heading->Value, *heading->From);
@@ -54,7 +68,7 @@ bool SourceChoice::TakeHeading(const Readings& readings) {
 bool SourceChoice::TakeBoatSpeed(const Readings& readings) {
   const Reading* speed = readings.Find(
       m_settings.m_iNmeaBoatSpeed == kOverGround ? Quantity::SpeedOverGround : Quantity::SpeedThroughWater);
-  if (speed == nullptr) {
+  if (speed == nullptr || !Trusted(readings, RecordValue::BoatSpeed)) {
     return false;
   }
   m_record.BoatSpeedUpdate(speed->Value, *speed->From);
@@ -64,13 +78,14 @@ bool SourceChoice::TakeBoatSpeed(const Readings& readings) {
 bool SourceChoice::TakeWind(const Readings& readings) {
   const Reading* apparent = readings.Find(Quantity::ApparentWindAngle);
   const Reading* apparentSpeed = readings.Find(Quantity::ApparentWindSpeed);
-  if (apparent != nullptr && apparentSpeed != nullptr) {
+  if (apparent != nullptr && apparentSpeed != nullptr && Trusted(readings, RecordValue::WindApparent)) {
     m_record.WindApparentUpdate(apparent->Value, apparentSpeed->Value, true, *apparent->From);
     return true;
   }
   const Reading* trueWind = readings.Find(Quantity::TrueWindAngle);
   const Reading* trueSpeed = readings.Find(Quantity::TrueWindSpeed);
-  if (m_settings.m_iNmeaTrueWind != kWindSensor || trueWind == nullptr || trueSpeed == nullptr) {
+  if (m_settings.m_iNmeaTrueWind != kWindSensor || trueWind == nullptr || trueSpeed == nullptr ||
+      !Trusted(readings, RecordValue::WindTrue)) {
     return false;
   }
   m_record.WindTrueUpdate(trueWind->Value, trueSpeed->Value, true, *trueWind->From);

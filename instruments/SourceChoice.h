@@ -9,7 +9,8 @@ namespace veerwatch {
 
 class SourceChoice {
  public:
-  /// Reads m_iNmeaHeading, m_iNmeaBoatSpeed and m_iNmeaTrueWind at every sentence. Both outlive this.
+  /// Reads m_iNmeaHeading, m_iNmeaBoatSpeed, m_iNmeaTrueWind and m_bWatchAct at every sentence. Both outlive
+  /// this.
   SourceChoice(const Settings& settings, InstrumentRecord& record) : m_settings(settings), m_record(record) {}
 
   /// Gives the record those readings of one sentence that the settings choose; true when there was one. A
@@ -18,6 +19,9 @@ class SourceChoice {
   bool Take(const Readings& readings);
 
  private:
+  /// While what is wrong is not to steer: not what its instrument calls invalid, and of two talkers of
+  /// `value` the one that came first, as long as it comes.
+  bool Trusted(const Readings& readings, RecordValue value) const;
   bool TakeVariation(const Readings& readings);
   bool TakeHeading(const Readings& readings);
   bool TakeBoatSpeed(const Readings& readings);
