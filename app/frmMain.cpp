@@ -461,6 +461,10 @@ void frmMain::ShowSent() {
                     m_sent.Late());
 }
 
+void frmMain::OnTrackSide(TrackSide side) {
+  m_panel->optControl[side == TrackSide::Apparent ? 0 : 1]->setChecked(true);
+}
+
 void frmMain::OnTrackRefused(TrackRefusal why) {
   m_insteadTimer.stop();
   m_instead = Text(TrackRefusalText(why));

@@ -141,6 +141,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void OnAlarmOver() override;
   void OnTrackMode(TrackMode mode) override;
   void OnTrackRefused(TrackRefusal why) override;
+  void OnTrackSide(TrackSide side) override;
   void OnWindLost(bool lost) override;
   void OnTurnEnds(TurnFate why) override;
   void OnPilotData(std::string_view sentence) override;

@@ -65,12 +65,13 @@ std::string WindsASecondText(double rate) {
   return Text(told) + (told == 1.0 ? " wind sentence a second" : " wind sentences a second");
 }
 
+bool TrackSwings(TrackMethod method, double bandwidth, const std::optional<double>& rate) {
+  const double told = method == TrackMethod::Sentence && rate ? Told(*rate) : 0.0;
+  return told > kLargestRate && bandwidth < kLeastBandwidth * told;
+}
+
 std::string TrackSwingsText(TrackMethod method, double bandwidth, const std::optional<double>& rate) {
-  if (method != TrackMethod::Sentence || !rate) {
-    return {};
-  }
-  const double told = Told(*rate);
-  return told > kLargestRate && bandwidth < kLeastBandwidth * told
+  return TrackSwings(method, bandwidth, rate)
              ? WindsASecondText(*rate) + ": this bandwidth swings; choose Clock"
              : std::string();
 }

@@ -32,6 +32,9 @@ TrackSuggestion TrackSuggestionFor(const TrackConditions& conditions);
 /// A rate as it is told, "5 wind sentences a second", to a tenth.
 std::string WindsASecondText(double rate);
 
+/// Whether Sentence cannot hold with `bandwidth` [s] at `rate` [1/s, nothing while it is not known].
+bool TrackSwings(TrackMethod method, double bandwidth, const std::optional<double>& rate);
+
 /// "5 wind sentences a second: this bandwidth swings; choose Clock", where Sentence cannot hold with
 /// `bandwidth` [s] at `rate` [1/s, nothing while it is not known]; else "".
 std::string TrackSwingsText(TrackMethod method, double bandwidth, const std::optional<double>& rate);

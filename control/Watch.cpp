@@ -4,6 +4,7 @@
 #include <cmath>
 #include <tuple>
 
+#include "control/TrackAdvice.h"
 #include "platform/Angles.h"
 
 namespace veerwatch {
@@ -37,8 +38,6 @@ void Watch::Restart() {
   m_latest.reset();
   m_crossed.reset();
   m_gybe = false;
-  m_windWindow.reset();
-  m_windRate = 0.0;
 }
 
 void Watch::StandstillUntil(const Moment& now) {
@@ -82,7 +81,6 @@ void Watch::WindCame(const Readings& readings, bool apparent) {
   if (!tracked) {
     return;
   }
-  ++m_windCount;
   const auto angle = ValueOf(readings, apparent ? Quantity::ApparentWindAngle : Quantity::TrueWindAngle);
   const auto speed = ValueOf(readings, apparent ? Quantity::ApparentWindSpeed : Quantity::TrueWindSpeed);
   if (!angle || !speed) {
@@ -157,7 +155,6 @@ bool Watch::Sends() const { return m_settings.m_eTrackMode == TrackMode::Manual 
 
 bool Watch::Look(const Around& around, const Moment& now) {
   StandstillUntil(now);
-  CountWinds(now);
   LookAtPilot(around, now);
   LookAtStern(around, now);
   Findings found{};
@@ -175,19 +172,6 @@ bool Watch::Look(const Around& around, const Moment& now) {
     m_now.Values[what] = m_ages.At(static_cast<Watched>(what), now);
   }
   return Keep(found, now);
-}
-
-void Watch::CountWinds(const Moment& now) {
-  constexpr std::int64_t kWindow = 10000;  // [ms]
-  const std::int64_t since = m_windWindow.value_or(now.Steady);
-  if (m_windWindow && now.Steady - since < kWindow) {
-    return;
-  }
-  if (m_windWindow) {
-    m_windRate = m_windCount * kMilliseconds / static_cast<double>(now.Steady - since);
-  }
-  m_windWindow = now.Steady;
-  m_windCount = 0;
 }
 
 void Watch::LookAtPilot(const Around& around, const Moment& now) {
@@ -248,8 +232,6 @@ void Watch::LookAtValues(const Around& around, const Moment& now, Findings& foun
 }
 
 void Watch::LookAtSteering(const Around& around, Findings& found) const {
-  constexpr double kQuick = 1.5;          // winds a second
-  constexpr double kBandwidthFor = 40.0;  // [s] for each wind a second
   const auto at = [&found](Condition what) -> Finding& { return found[static_cast<std::size_t>(what)]; };
   if (m_output.Lost()) {
     at(Condition::PilotLost) = {true, Level::Red, Watched::Heading,
@@ -266,9 +248,8 @@ void Watch::LookAtSteering(const Around& around, Findings& found) const {
                                 around.Side == TrackSide::True ? Watched::WindTrue : Watched::WindApparent,
                                 static_cast<double>(std::fabs(*m_offCourse))};
   }
-  if (Tracks() && around.Method == TrackMethod::Sentence && m_windRate > kQuick &&
-      static_cast<double>(around.Bandwidth) < kBandwidthFor * m_windRate) {
-    at(Condition::ManyWinds) = {true, Level::Note, Watched::WindApparent, m_windRate};
+  if (Tracks() && TrackSwings(around.Method, static_cast<double>(around.Bandwidth), around.Winds)) {
+    at(Condition::ManyWinds) = {true, Level::Note, Watched::WindApparent, *around.Winds};
   }
   if (m_output.Full()) {
     at(Condition::PilotLineFull) = {true, Level::Note};

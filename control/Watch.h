@@ -25,6 +25,7 @@ class Watch {
     TrackSide Side = TrackSide::Apparent;        ///< the tracked one
     TrackMethod Method = TrackMethod::Sentence;  ///< in use
     float Bandwidth = 0.0F;                      ///< in use [s]
+    std::optional<double> Winds;                 ///< wind sentences a second, where that is known
     bool InputStarted = false;
     bool OutputOpen = true;
     bool Acts = false;       ///< the loop is held back
@@ -82,7 +83,6 @@ class Watch {
   void StandstillUntil(const Moment& now);
   void WindCame(const Readings& readings, bool apparent);
   void BoatCame(const Readings& readings);
-  void CountWinds(const Moment& now);
   void LookAtPilot(const Around& around, const Moment& now);
   void LookAtStern(const Around& around, const Moment& now);
   void LookAtValues(const Around& around, const Moment& now, Findings& found) const;
@@ -110,9 +110,6 @@ class Watch {
   std::optional<float> m_offCourse;  ///< error of the alarm that is on [deg]
   float m_groundSpeed = 0.0F;        ///< the latest [kn]
   float m_compass = 0.0F;            ///< the latest [deg magnetic]
-  int m_windCount = 0;               ///< of the tracked side, in the present window
-  std::optional<std::int64_t> m_windWindow;
-  double m_windRate = 0.0;  ///< [a second]
   WatchNow m_now;
 };
 

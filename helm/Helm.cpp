@@ -204,6 +204,7 @@ void Helm::LookOut() {
   around.Side = m_loop.Side();
   around.Method = m_loop.Tuning().Method;
   around.Bandwidth = m_loop.Tuning().Bandwidth;
+  around.Winds = m_loop.WindsASecond();
   around.InputStarted = m_receiver.Started();
   around.OutputOpen = m_pilot.Open();
   around.Sent = m_pilot.Sent();
