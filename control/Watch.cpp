@@ -134,7 +134,12 @@ void Watch::Step(const LoopStep& step, std::size_t bytes, const Moment& now) {
 
 void Watch::Simulated(const Moment& now) {
   StandstillUntil(now);
-  m_trueMean.Add(static_cast<double>(m_record.Data().WindAngleTrue), now.Steady);
+  AddTrueWind(now);
+}
+
+void Watch::AddTrueWind(const Moment& now) {
+  const InstrumentRecord::Wind wind = m_record.WindTrueUnsmoothed();
+  m_trueMean.Add(static_cast<double>(wind.Angle), static_cast<double>(wind.Speed), now.Steady);
 }
 
 std::optional<double> Watch::LatestAngle() const {

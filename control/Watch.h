@@ -83,6 +83,7 @@ class Watch {
   void StandstillUntil(const Moment& now);
   void WindCame(const Readings& readings, bool apparent);
   void BoatCame(const Readings& readings);
+  void AddTrueWind(const Moment& now);
   void LookAtPilot(const Around& around, const Moment& now);
   void LookAtStern(const Around& around, const Moment& now);
   void LookAtValues(const Around& around, const Moment& now, Findings& found) const;

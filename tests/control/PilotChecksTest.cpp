@@ -1,0 +1,103 @@
+#include "control/PilotChecks.h"
+
+#include <gtest/gtest.h>
+
+namespace veerwatch {
+namespace {
+
+/// Looks each second, from `begin` to `end` [s].
+void Look(FollowCheck& check, double off, int begin, int end) {
+  for (int i = begin; i <= end; ++i) {
+    check.Look(off, 1000 * i);
+  }
+}
+
+TEST(FollowCheck, StandsWhenTheBoatStaysTenDegreesOffForFifteenSeconds) {
+  FollowCheck check;
+  Look(check, 10.1, 0, 14);
+  EXPECT_FALSE(check.Stands());
+  check.Look(-10.1, 15000);
+  EXPECT_TRUE(check.Stands());
+}
+
+TEST(FollowCheck, TenDegreesAreNotTooFar) {
+  FollowCheck check;
+  Look(check, 10.0, 0, 100);
+  EXPECT_FALSE(check.Stands());
+}
+
+TEST(FollowCheck, ABoatThatComesThreeDegreesCloserFollows) {
+  FollowCheck check;
+  for (int i = 0; i < 10; ++i) {
+    Look(check, 60.0 - 3.0 * i, 14 * i, 14 * i + 13);
+  }
+  EXPECT_FALSE(check.Stands());
+  FollowCheck slow;
+  Look(slow, 60.0, 0, 9);
+  Look(slow, 57.1, 10, 15);
+  EXPECT_TRUE(slow.Stands()) << "2.9 degrees closer";
+}
+
+TEST(FollowCheck, ABearingThatRunsAwayIsToldInTheSameTime) {
+  FollowCheck check;
+  for (int i = 0; i <= 15; ++i) {
+    check.Look(12.0 + 5.0 * i, 1000 * i);
+  }
+  EXPECT_TRUE(check.Stands());
+}
+
+TEST(FollowCheck, IsOverAfterFiveSecondsWithinEightDegrees) {
+  FollowCheck check;
+  Look(check, 30.0, 0, 15);
+  ASSERT_TRUE(check.Stands());
+  Look(check, 8.1, 16, 40);
+  EXPECT_TRUE(check.Stands());
+  Look(check, 8.0, 41, 45);
+  check.Look(9.0, 46000);
+  Look(check, -8.0, 47, 51);
+  EXPECT_TRUE(check.Stands()) << "4 s";
+  check.Look(8.0, 52000);
+  EXPECT_FALSE(check.Stands());
+}
+
+TEST(OutputCheck, APortThatIsNotOpenIsLostAtOnce) {
+  OutputCheck check;
+  check.Look(true, 0, 0);
+  EXPECT_FALSE(check.Lost());
+  check.Look(false, 0, 1000);
+  EXPECT_TRUE(check.Lost());
+  check.Look(true, 0, 2000);
+  EXPECT_FALSE(check.Lost());
+}
+
+TEST(OutputCheck, NothingThatLeavesForFourSecondsIsLost) {
+  OutputCheck check;
+  check.Look(true, 7, 0);
+  check.Built(54, 500);
+  check.Built(54, 1500);
+  check.Look(true, 7, 4500);
+  EXPECT_FALSE(check.Lost());
+  check.Look(true, 7, 4501);
+  EXPECT_TRUE(check.Lost());
+  check.Look(true, 8, 5000);
+  EXPECT_FALSE(check.Lost());
+  check.Look(true, 8, 60000);
+  EXPECT_FALSE(check.Lost()) << "nothing was built since";
+}
+
+TEST(OutputCheck, MoreThanALineCarriesIsTold) {
+  for (const int bytes : {480, 481}) {
+    OutputCheck check;
+    check.Look(true, 0, 0);
+    for (int i = 0; i < 10; ++i) {
+      check.Built(static_cast<std::size_t>(bytes), 1000 * i);
+      check.Look(true, static_cast<std::uint64_t>(i), 1000 * i + 999);
+    }
+    EXPECT_FALSE(check.Full()) << "not before ten seconds";
+    check.Look(true, 10, 10000);
+    EXPECT_EQ(check.Full(), bytes == 481);
+  }
+}
+
+}  // namespace
+}  // namespace veerwatch
