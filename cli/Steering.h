@@ -50,7 +50,7 @@ class Steering final : private HelmObserver {
   HelmObservers& Observers() { return m_helm.Observers(); }
   const InstrumentRecord& Record() const { return m_helm.Record(); }
   const InstrumentData& Data() const { return m_helm.Data(); }
-  const WindCounts& Winds() { return m_helm.Receiver().Sources().Winds(); }
+  WindCounts Winds() { return m_helm.Receiver().Sources().Winds(); }
   double TrackIntegral() const { return m_helm.Loop().TrackIntegral(); }
 
   // Of the latest line or tick.

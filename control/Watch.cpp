@@ -58,7 +58,7 @@ void Watch::Sentence(const Readings& readings) {
   }
   if (readings.Find(Quantity::ApparentWindAngle) != nullptr) {
     WindCame(readings, true);
-  } else if (readings.Find(Quantity::TrueWindAngle) != nullptr) {
+  } else if (readings.Find(Quantity::TrueWindSpeed) != nullptr) {
     WindCame(readings, false);
   }
 }
@@ -113,6 +113,10 @@ void Watch::BoatCame(const Readings& readings) {
   }
   if (const auto speed = ValueOf(readings, Quantity::SpeedThroughWater)) {
     m_boatSpeeds.Add(from.Talker, {std::nullopt, speed}, now);
+  }
+  if (ValueOf(readings, Quantity::HeadingTrue) && m_record.Changed(RecordValue::Heading)) {
+    m_ages.Came(Watched::Compass, from);
+    m_compass = m_record.Data().Heading;
   }
   if (const auto heading = ValueOf(readings, Quantity::Heading)) {
     m_ages.Came(Watched::Compass, from);

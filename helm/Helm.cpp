@@ -329,7 +329,7 @@ void Helm::OnInputStarts() {
   m_observers.Tell([](HelmObserver& observer) { observer.OnInputStarts(); });
 }
 
-void Helm::OnBadLine(std::string_view line, LineFault fault) {
+void Helm::OnOtherLine(std::string_view line, LineFault fault) {
   m_observers.Tell([&](HelmObserver& observer) { observer.OnNmeaLine(line, fault, false); });
 }
 

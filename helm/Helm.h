@@ -101,7 +101,7 @@ class Helm final : private NmeaReceiver::Observer,
 
   void OnInputStarts() override;
   void OnSentence(std::string_view line, const Dispatcher::Outcome& outcome, const Moment& now) override;
-  void OnBadLine(std::string_view line, LineFault fault) override;
+  void OnOtherLine(std::string_view line, LineFault fault) override;
   void OnInputStatus(const PortStatus& status) override;
   void OnInputState(InputState state) override;
   void OnInputFailure(const std::string& reason) override;

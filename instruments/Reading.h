@@ -24,18 +24,21 @@ Origin OriginOf(std::string_view line, std::int16_t port, const Moment& now);
 
 /// What a sentence can carry.
 enum class Quantity {
-  Heading,            ///< of the compass [deg magnetic, any turn]
-  CourseMagnetic,     ///< over ground [deg magnetic, any turn]
-  CourseTrue,         ///< over ground [deg true, any turn]
-  SpeedThroughWater,  ///< [kn]
-  SpeedOverGround,    ///< [kn]
-  Variation,          ///< [deg, east positive]
-  ApparentWindAngle,  ///< [deg relative, any turn]
-  ApparentWindSpeed,  ///< [kn]
-  TrueWindAngle,      ///< [deg relative, any turn]
-  TrueWindSpeed,      ///< [kn]
-  WaypointBearing,    ///< [deg true, any turn]
-  WaypointRange,      ///< [nm]
+  Heading,                ///< of the compass [deg magnetic, any turn]
+  CourseMagnetic,         ///< over ground [deg magnetic, any turn]
+  CourseTrue,             ///< over ground [deg true, any turn]
+  SpeedThroughWater,      ///< [kn]
+  SpeedOverGround,        ///< [kn]
+  Variation,              ///< [deg, east positive]
+  ApparentWindAngle,      ///< [deg relative, any turn]
+  ApparentWindSpeed,      ///< [kn]
+  TrueWindAngle,          ///< [deg relative, any turn]
+  TrueWindSpeed,          ///< [kn]
+  WaypointBearing,        ///< [deg true, any turn]
+  WaypointRange,          ///< [nm]
+  HeadingTrue,            ///< [deg true, any turn]
+  WindDirectionTrue,      ///< that the true wind blows from [deg true, any turn]
+  WindDirectionMagnetic,  ///< the same [deg magnetic, any turn]
 };
 
 struct Reading {
@@ -63,10 +66,18 @@ class Readings {
     }
   }
 
-  /// Notes that the sentence held a wind whose speed is in `unit`, which is not read. The text outlives this.
+  /// Notes that the wind is one whose speed came in `unit`, and not in knots. The text outlives this.
   void NoteUnreadUnit(std::string_view unit) { m_unreadUnit = unit; }
   /// The unit noted; empty for none.
   std::string_view UnreadUnit() const { return m_unreadUnit; }
+  /// The unit is read after all.
+  void ReadUnit() { m_unreadUnit = {}; }
+
+  /// Forgets every value, and keeps what was noted.
+  void Drop() {
+    m_brought = 0;
+    m_count = 0;
+  }
 
   /// Notes that the instrument itself says that what it sends does not hold.
   void NoteInvalid() { m_invalid = true; }

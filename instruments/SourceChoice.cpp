@@ -1,6 +1,9 @@
 #include "instruments/SourceChoice.h"
 
+#include <cstdint>
+
 #include "instruments/MathLib.h"
+#include "platform/Angles.h"
 
 namespace veerwatch {
 
@@ -9,6 +12,10 @@ namespace {
 // Values of m_iNmeaHeading, m_iNmeaBoatSpeed and m_iNmeaTrueWind.
 constexpr int kOverGround = 1;
 constexpr int kWindSensor = 0;
+
+// How old what a true direction needs may be [ms].
+constexpr std::int64_t kVariationLasts = 3600000;
+constexpr std::int64_t kHeadingLasts = 10000;
 
 /// A true direction as a magnetic one [deg, not folded].
 float Magnetic(float direction, float variation) {
@@ -56,6 +63,13 @@ bool SourceChoice::TakeHeading(const Readings& readings) {
     m_record.HeadingUpdate(heading->Value, *heading->From);
     return true;
   }
+  if (const Reading* heading = overGround ? nullptr : readings.Find(Quantity::HeadingTrue)) {
+    const std::optional<float> variation = VariationAt(heading->From->At);
+    if (variation) {
+      m_record.HeadingUpdate(Magnetic(heading->Value, *variation), *heading->From);
+    }
+    return variation.has_value();
+  }
   const Reading* course = overGround ? readings.Find(Quantity::CourseTrue) : nullptr;
   const InstrumentData& data = m_record.Data();
   if (course == nullptr || !data.VariationValid) {
@@ -82,14 +96,49 @@ bool SourceChoice::TakeWind(const Readings& readings) {
     m_record.WindApparentUpdate(apparent->Value, apparentSpeed->Value, true, *apparent->From);
     return true;
   }
-  const Reading* trueWind = readings.Find(Quantity::TrueWindAngle);
   const Reading* trueSpeed = readings.Find(Quantity::TrueWindSpeed);
-  if (m_settings.m_iNmeaTrueWind != kWindSensor || trueWind == nullptr || trueSpeed == nullptr ||
+  if (m_settings.m_iNmeaTrueWind != kWindSensor || trueSpeed == nullptr ||
       !Trusted(readings, RecordValue::WindTrue)) {
     return false;
   }
-  m_record.WindTrueUpdate(trueWind->Value, trueSpeed->Value, true, *trueWind->From);
-  return true;
+  const Reading* trueWind = readings.Find(Quantity::TrueWindAngle);
+  const std::optional<float> angle = trueWind != nullptr ? trueWind->Value : AngleOf(readings);
+  if (angle) {
+    m_record.WindTrueUpdate(*angle, trueSpeed->Value, true, *trueSpeed->From);
+  }
+  return angle.has_value();
+}
+
+std::optional<float> SourceChoice::AngleOf(const Readings& readings) const {
+  const Moment& now = readings.From().At;
+  const InstrumentData& data = m_record.Data();
+  if (!data.HeadingValid ||
+      m_record.Age(RecordValue::Heading, now).value_or(kHeadingLasts) >= kHeadingLasts) {
+    return std::nullopt;
+  }
+  const auto heading = static_cast<double>(data.Heading);
+  const Reading* direction = readings.Find(Quantity::WindDirectionTrue);
+  const std::optional<float> variation = VariationAt(now);
+  if (direction != nullptr && variation) {
+    return FoldRelative(static_cast<double>(direction->Value) - static_cast<double>(*variation) - heading);
+  }
+  direction = readings.Find(Quantity::WindDirectionMagnetic);
+  return direction == nullptr ? std::nullopt
+                              : std::optional(FoldRelative(static_cast<double>(direction->Value) - heading));
+}
+
+std::optional<float> SourceChoice::VariationAt(const Moment& now) const {
+  const InstrumentData& data = m_record.Data();
+  const bool known = data.VariationValid &&
+                     m_record.Age(RecordValue::Variation, now).value_or(kVariationLasts) < kVariationLasts;
+  return known ? std::optional(data.Variation) : std::nullopt;
+}
+
+bool SourceChoice::Lacks(const Readings& readings) const {
+  const bool heading = readings.Find(Quantity::HeadingTrue) != nullptr;
+  const bool direction = readings.Find(Quantity::WindDirectionTrue) != nullptr ||
+                         readings.Find(Quantity::WindDirectionMagnetic) != nullptr;
+  return (heading && !VariationAt(readings.From().At)) || (direction && !AngleOf(readings));
 }
 
 bool SourceChoice::TakeWaypoint(const Readings& readings) {

@@ -1,6 +1,8 @@
 // Which of several instruments feeds the record: the rules of the source settings.
 #pragma once
 
+#include <optional>
+
 #include "instruments/InstrumentRecord.h"
 #include "instruments/Reading.h"
 #include "settings/Settings.h"
@@ -15,8 +17,12 @@ class SourceChoice {
 
   /// Gives the record those readings of one sentence that the settings choose; true when there was one. A
   /// wind counts with angle and speed only, a waypoint with bearing and range; a true direction needs a
-  /// variation, which the same sentence may bring.
+  /// variation, which the same sentence may bring. A wind's direction counts as the one of a sensor.
   bool Take(const Readings& readings);
+
+  /// Whether a true heading, or a wind's direction, can not be made relative to the boat: it needs a
+  /// variation of the last hour, or a heading of the last ten seconds.
+  bool Lacks(const Readings& readings) const;
 
  private:
   /// While what is wrong is not to steer: not what its instrument calls invalid, and of two talkers of
@@ -26,6 +32,11 @@ class SourceChoice {
   bool TakeHeading(const Readings& readings);
   bool TakeBoatSpeed(const Readings& readings);
   bool TakeWind(const Readings& readings);
+  /// The angle of a wind's direction off the bow [deg relative, any turn]; nothing where it needs what there
+  /// is not.
+  std::optional<float> AngleOf(const Readings& readings) const;
+  /// The variation of the last hour [deg, east positive].
+  std::optional<float> VariationAt(const Moment& now) const;
   bool TakeWaypoint(const Readings& readings);
 
   const Settings& m_settings;

@@ -18,7 +18,7 @@ class Dispatcher {
   struct Outcome {
     bool Used = false;          ///< the line updated the record
     bool Incomplete = false;    ///< the decoder missed something that its sentence should hold
-    bool WindSentence = false;  ///< an enabled "MWV", used or not
+    bool WindSentence = false;  ///< an enabled wind sentence, used or not
     /// What the line brought, used or not; null for a type that is disabled or not known. Until the next
     /// line.
     const Readings* Brought = nullptr;
@@ -36,6 +36,9 @@ class Dispatcher {
   const SourceWatch& Sources() const { return m_sources; }
 
  private:
+  /// Drops what the settings do not let count; false when the sentence is one without a value then.
+  bool Counts(Readings& readings) const;
+
   const Settings& m_settings;
   const InstrumentRecord& m_record;
   SourceChoice m_choice;

@@ -1,6 +1,7 @@
 #include "nmea/Mwv.h"
 
 #include "nmea/FieldNumber.h"
+#include "nmea/SpeedUnit.h"
 
 namespace veerwatch {
 
@@ -33,16 +34,17 @@ void Mwv::AddTo(Readings& readings) const {
   if (Invalid) {
     readings.NoteInvalid();
   }
-  if (SpeedUnit != "Kts") {
+  const bool knots = SpeedUnit == "Kts";
+  if (!knots) {
     readings.NoteUnreadUnit(SpeedUnit);
-    return;
   }
-  if (Reference == '\0') {
+  if (Reference == '\0' || (!knots && KnotsIn(SpeedUnit) == 0.0)) {
     return;
   }
   const bool apparent = Reference == 'R';
   readings.Add(apparent ? Quantity::ApparentWindAngle : Quantity::TrueWindAngle, WindAngle);
-  readings.Add(apparent ? Quantity::ApparentWindSpeed : Quantity::TrueWindSpeed, WindSpeed);
+  readings.Add(apparent ? Quantity::ApparentWindSpeed : Quantity::TrueWindSpeed,
+               knots ? WindSpeed : Knots(WindSpeed, SpeedUnit));
 }
 
 }  // namespace veerwatch

@@ -25,7 +25,7 @@ struct Mwv {
   bool Invalid = false;        ///< the status is V
 
   bool Complete() const { return Reference != '\0' && !SpeedUnit.empty(); }
-  /// Adds a wind whose speed is in knots; notes any other unit.
+  /// Adds the wind, its speed in knots; notes any other unit that it came in.
   void AddTo(Readings& readings) const;
 };
 

@@ -141,8 +141,13 @@ void NmeaReceiver::Receive() {
 }
 
 void NmeaReceiver::SentenceLine(std::string_view line) {
-  switch (CheckFrame(line)) {
+  switch (CheckFrame(line, {m_settings.m_eNmeaChecksum, m_settings.m_bNmeaLowerCase})) {
     case Frame::NoDollar:
+      if (line.starts_with('!') && m_settings.m_eNmeaForeignLines == ForeignRule::List) {
+        m_observer.OnOtherLine(line, LineFault::None);
+        Heard();
+        return;
+      }
       BadLine(line, LineFault::Sentence);
       return;
     case Frame::WrongChecksum:
@@ -159,7 +164,7 @@ void NmeaReceiver::SentenceLine(std::string_view line) {
 void NmeaReceiver::BadLine(std::string_view line, LineFault fault) {
   m_heard = false;
   Status({fault == LineFault::Checksum ? PortStatus::What::ChecksumError : PortStatus::What::SentenceError});
-  m_observer.OnBadLine(line, fault);
+  m_observer.OnOtherLine(line, fault);
 }
 
 void NmeaReceiver::Heard() {

@@ -29,8 +29,9 @@ class NmeaReceiver final : public SerialPort::Events {
     virtual void OnInputStarts() = 0;
     /// The record has been given a line whose frame is good, which came at `now`.
     virtual void OnSentence(std::string_view line, const Dispatcher::Outcome& outcome, const Moment& now) = 0;
-    /// A line failed: LineFault::Sentence or LineFault::Checksum.
-    virtual void OnBadLine(std::string_view line, LineFault fault) = 0;
+    /// A line that is no sentence: LineFault::Sentence or LineFault::Checksum, or None for one of another
+    /// kind that is only listed.
+    virtual void OnOtherLine(std::string_view line, LineFault fault) = 0;
     virtual void OnInputStatus(const PortStatus& status) = 0;
     virtual void OnInputState(InputState state) = 0;
     /// Why the port is not open, as the system says; "" when it is, or while nothing is known.

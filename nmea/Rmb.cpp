@@ -7,6 +7,7 @@ namespace veerwatch {
 Rmb DecodeRmb(const Fields& fields) {
   Rmb rmb;
   const std::size_t shift = fields[1] != "A" && fields[2] == "A" ? 1 : 0;
+  rmb.Invalid = fields[1 + shift] == "V";
   if (const auto text = fields.Text(10 + shift, 10 + shift)) {
     const auto range = RangeField(*text);
     if (!range) {
@@ -27,6 +28,9 @@ Rmb DecodeRmb(const Fields& fields) {
 }
 
 void Rmb::AddTo(Readings& readings) const {
+  if (Invalid) {
+    readings.NoteInvalid();
+  }
   if (RangeMark) {
     readings.Add(Quantity::WaypointRange, Range);
   }

@@ -10,9 +10,8 @@ namespace veerwatch {
 ///            1 2    3 4   5   6       7 8        9 10    11    12    13
 ///            |                                     |     bearing to the waypoint [deg true, [-360, 360]]
 ///            |                                     range to the waypoint [nm, [0, 100000]]
-///            status
+///            status: A, or V for data that do not hold
 ///
-/// Deliberate: a status "V" is used like an "A".
 /// Deliberate: where field 1 is not "A" but field 2 is, every field stands one further on, as some senders
 /// put a field of their own before the status.
 ///
@@ -22,12 +21,13 @@ struct Rmb {
   bool RangeMark = false;
   float Bearing = 0.0F;  ///< 0 where not read
   bool BearingMark = false;
+  bool Invalid = false;  ///< the status is V
 
   bool Complete() const { return RangeMark && BearingMark; }
   void AddTo(Readings& readings) const;
 };
 
-/// Reads until a field cannot be converted; what was read before stays.
+/// Reads the status, and the rest until a field cannot be converted; what was read before stays.
 Rmb DecodeRmb(const Fields& fields);
 
 }  // namespace veerwatch

@@ -6,6 +6,7 @@ namespace veerwatch {
 
 Rmc DecodeRmc(const Fields& fields) {
   Rmc rmc;
+  rmc.Invalid = fields[2] == "V";
   if (const auto text = fields.Text(7, 7)) {
     const auto speed = SpeedField(*text);
     if (!speed) {
@@ -27,6 +28,9 @@ Rmc DecodeRmc(const Fields& fields) {
 }
 
 void Rmc::AddTo(Readings& readings) const {
+  if (Invalid) {
+    readings.NoteInvalid();
+  }
   Variation.AddTo(readings);
   if (CourseMark) {
     readings.Add(Quantity::CourseTrue, Course);

@@ -13,7 +13,7 @@ namespace veerwatch {
 ///            |      |                    |   |     date, not looked at
 ///            |      |                    |   course over ground [deg true, [-360, 360]]
 ///            |      |                    speed over ground [kn, [0, 1000]]
-///            time, status and position, not looked at
+///            time and position, not looked at; status: A, or V for data that do not hold
 ///
 /// Source: NMEA 0183, RMC.
 struct Rmc {
@@ -22,12 +22,13 @@ struct Rmc {
   float Course = 0.0F;  ///< 0 where not read
   bool CourseMark = false;
   VariationValue Variation;
+  bool Invalid = false;  ///< the status is V
 
   bool Complete() const { return CourseMark && SpeedMark && Variation.Direction != '\0'; }
   void AddTo(Readings& readings) const;
 };
 
-/// Reads until a field cannot be converted; what was read before stays.
+/// Reads the status, and the rest until a field cannot be converted; what was read before stays.
 Rmc DecodeRmc(const Fields& fields);
 
 }  // namespace veerwatch

@@ -3,11 +3,14 @@
 #include <algorithm>
 
 #include "nmea/Hdg.h"
+#include "nmea/Hdt.h"
 #include "nmea/Hvm.h"
+#include "nmea/Mwd.h"
 #include "nmea/Mwv.h"
 #include "nmea/Rmb.h"
 #include "nmea/Rmc.h"
 #include "nmea/Vhw.h"
+#include "nmea/Vwr.h"
 
 namespace veerwatch {
 
@@ -23,7 +26,7 @@ bool Decode(const Fields& fields, Readings& readings) {
 
 }  // namespace
 
-const std::array<SentenceKind, 7> kSentences{{
+const std::array<SentenceKind, 13> kSentences{{
     {"HDG", "HDG - Compass (Heading, Deviation, Variation)", &Settings::m_bNmeaSentenceHDG, false,
      Decode<DecodeHdg>},
     {"HVM", "HVM - Magnetic (Variation)", &Settings::m_bNmeaSentenceHVM, false, Decode<DecodeHvm>},
@@ -35,6 +38,12 @@ const std::array<SentenceKind, 7> kSentences{{
      Decode<DecodeRmc>},
     {"VHW", "VHW - Vessel (Heading, SOW)", &Settings::m_bNmeaSentenceVHW, false, Decode<DecodeVhw>},
     {"VTG", "VTG - Vessel (COG, SOG)", &Settings::m_bNmeaSentenceVTG, false, Decode<DecodeVtg>},
+    {"HDM", "HDM - Compass (Heading Magnetic)", &Settings::m_bNmeaSentenceHDM, false, Decode<DecodeHdm>},
+    {"HDT", "HDT - Gyro (Heading True)", &Settings::m_bNmeaSentenceHDT, false, Decode<DecodeHdt>},
+    {"MWD", "MWD - Wind (Direction, Speed)", &Settings::m_bNmeaSentenceMWD, true, Decode<DecodeMwd>},
+    {"THS", "THS - Gyro (Heading True, Status)", &Settings::m_bNmeaSentenceTHS, false, Decode<DecodeThs>},
+    {"VWR", "VWR - Wind (Angle, Apparent, Speed)", &Settings::m_bNmeaSentenceVWR, true, Decode<DecodeVwr>},
+    {"VWT", "VWT - Wind (Angle, True, Speed)", &Settings::m_bNmeaSentenceVWT, true, Decode<DecodeVwt>},
 }};
 
 const SentenceKind* FindSentence(std::string_view line) {

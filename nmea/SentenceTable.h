@@ -21,7 +21,7 @@ struct SentenceKind {
 };
 
 /// Every type, in the order of the options' list.
-extern const std::array<SentenceKind, 7> kSentences;
+extern const std::array<SentenceKind, 13> kSentences;
 
 /// The row of a line by its characters 4 to 6; the two characters of the talker may be any. Null for a type
 /// that is not read.

@@ -22,17 +22,26 @@ struct Bringer {
 };
 
 /// In the order of SourceWatch::Source.
-constexpr std::array<Bringer, 9> kBringers{{
+constexpr std::array<Bringer, 15> kBringers{{
     {"HDG", Quantity::Heading, "HDG"},
     {"VHW", Quantity::Heading, "VHW"},
+    {"HDM", Quantity::Heading, "HDM"},
+    {"HDT", Quantity::HeadingTrue, "HDT"},
+    {"THS", Quantity::HeadingTrue, "THS"},
     {"RMC", Quantity::CourseTrue, "RMC"},
     {"VTG", Quantity::CourseMagnetic, "VTG"},
     {"VHW", Quantity::SpeedThroughWater, "VHW"},
     {"RMC", Quantity::SpeedOverGround, "RMC"},
     {"VTG", Quantity::SpeedOverGround, "VTG"},
     {"MWV", Quantity::ApparentWindAngle, "MWV (R)"},
+    {"VWR", Quantity::ApparentWindAngle, "VWR"},
     {"MWV", Quantity::TrueWindAngle, "MWV (T)"},
+    {"VWT", Quantity::TrueWindAngle, "VWT"},
+    {"MWD", Quantity::TrueWindSpeed, "MWD"},
 }};
+
+/// Whether what a source brings means nothing without the variation.
+bool NeedsVariation(Quantity what) { return what == Quantity::CourseTrue || what == Quantity::HeadingTrue; }
 
 std::string UnitName(std::string_view unit) {
   if (unit == "M") {
@@ -61,6 +70,7 @@ void SourceWatch::Restart() {
   m_age.fill(kGone);
   m_running = 0;
   m_winds = {};
+  m_notUsed = {};
 }
 
 void SourceWatch::Tick() {
@@ -78,7 +88,7 @@ void SourceWatch::Saw(const SentenceKind& kind, const Readings& readings, bool c
   }
   for (std::size_t source = 0; source < kBringers.size(); ++source) {
     const Quantity what = kBringers[source].What;
-    const bool counts = what != Quantity::CourseTrue || variationKnown;
+    const bool counts = !NeedsVariation(what) || variationKnown;
     if (readings.Find(what) != nullptr && counts && kBringers[source].Sentence == kind.Name) {
       m_age[source] = 0;
     }
@@ -98,7 +108,19 @@ void SourceWatch::CountWind(const Readings& readings, bool complete) {
   }
 }
 
-void SourceWatch::SawSwitchedOff(const SentenceKind& kind) { m_winds.SwitchedOff += kind.IsWind ? 1 : 0; }
+WindCounts SourceWatch::Winds() const {
+  WindCounts winds = m_winds;
+  for (const SentenceKind& kind : kSentences) {
+    winds.SwitchedOff += kind.IsWind ? m_notUsed[PlaceOf(kind)] : 0;
+  }
+  return winds;
+}
+
+const SentenceKind& SourceWatch::KindOf(Source source) {
+  return *std::find_if(kSentences.begin(), kSentences.end(), [source](const SentenceKind& kind) {
+    return kind.Name == kBringers[source].Sentence;
+  });
+}
 
 bool SourceWatch::There(Source source) const { return m_age[source] < kGone; }
 
@@ -114,13 +136,29 @@ std::string SourceWatch::Missing(const char* value, const Group& chosen, const G
     if (There(source)) {
       return {};
     }
-    silent.emplace_back(kBringers[source].Name);
+    if (m_settings.*KindOf(source).Enabled || Settings().*KindOf(source).Enabled) {
+      silent.emplace_back(kBringers[source].Name);
+    }
   }
   if (there.empty()) {
     return {};
   }
   return std::string(value) + ": nothing from " + Joined(silent, " or ") + "; " + Joined(there, " and ") +
          (there.size() == 1 ? " is there" : " are there");
+}
+
+void SourceWatch::AddNotUsed(const Group& chosen, std::vector<std::string>& lines) const {
+  if (std::any_of(chosen.begin(), chosen.end(), [this](Source source) { return There(source); })) {
+    return;
+  }
+  for (const Source source : chosen) {
+    const SentenceKind& kind = KindOf(source);
+    const long seen = m_notUsed[PlaceOf(kind)];
+    const std::string line = std::string(kind.Name) + " seen " + std::to_string(seen) + " times, not used";
+    if (seen > 0 && std::find(lines.begin(), lines.end(), line) == lines.end()) {
+      lines.push_back(line);
+    }
+  }
 }
 
 std::vector<std::string> SourceWatch::Advice() const {
@@ -133,23 +171,27 @@ std::vector<std::string> SourceWatch::Advice() const {
       lines.push_back(line);
     }
   };
-  const Group apparent{kApparentWind};
-  const Group trueWind{kTrueWind};
-  if (There(kOtherUnit) && !There(kApparentWind)) {
+  const Group apparent{kApparentMwv, kApparentVwr};
+  const Group trueWind{kTrueMwv, kTrueVwt, kTrueMwd};
+  if (There(kOtherUnit) && !There(kApparentMwv)) {
     add("Wind: MWV brings " + m_unit + "; only knots are read");
   }
-  add(Missing("Apparent Wind", apparent, trueWind));
+  const auto look = [&](const char* value, const Group& chosen, const Group& others) {
+    add(Missing(value, chosen, others));
+    AddNotUsed(chosen, lines);
+  };
+  look("Apparent Wind", apparent, trueWind);
   if (m_settings.m_iNmeaTrueWind == kWindSensor) {
-    add(Missing("True Wind", trueWind, apparent));
+    look("True Wind", trueWind, apparent);
   }
-  const Group compass{kHeadingHdg, kHeadingVhw};
+  const Group compass{kHeadingHdg, kHeadingVhw, kHeadingHdm, kHeadingHdt, kHeadingThs};
   const Group course{kHeadingRmc, kHeadingVtg};
   const bool byCompass = m_settings.m_iNmeaHeading == kThroughWater;
-  add(Missing("Heading", byCompass ? compass : course, byCompass ? course : compass));
+  look("Heading", byCompass ? compass : course, byCompass ? course : compass);
   const Group log{kSpeedVhw};
   const Group ground{kSpeedRmc, kSpeedVtg};
   const bool byLog = m_settings.m_iNmeaBoatSpeed == kThroughWater;
-  add(Missing("Boat Speed", byLog ? log : ground, byLog ? ground : log));
+  look("Boat Speed", byLog ? log : ground, byLog ? ground : log);
   return lines;
 }
 

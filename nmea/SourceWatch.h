@@ -38,40 +38,56 @@ class SourceWatch {
   /// missing. `variationKnown`: a true course can be made magnetic.
   void Saw(const SentenceKind& kind, const Readings& readings, bool complete, bool variationKnown);
   /// A sentence of a type that is not ticked.
-  void SawSwitchedOff(const SentenceKind& kind);
+  void SawSwitchedOff(const SentenceKind& kind) { ++m_notUsed[PlaceOf(kind)]; }
 
   /// A line for each value that its chosen source does not bring, as "Heading: nothing from RMC or VTG; HDG
-  /// is there"; none in the first seconds.
+  /// is there", and for each sentence that is not ticked and could bring it, as "VWR seen 12 times, not
+  /// used"; none in the first seconds.
   std::vector<std::string> Advice() const;
 
-  const WindCounts& Winds() const { return m_winds; }
+  WindCounts Winds() const;
 
  private:
   enum Source {
     kHeadingHdg,
     kHeadingVhw,
+    kHeadingHdm,
+    kHeadingHdt,
+    kHeadingThs,
     kHeadingRmc,
     kHeadingVtg,
     kSpeedVhw,
     kSpeedRmc,
     kSpeedVtg,
-    kApparentWind,
-    kTrueWind,
+    kApparentMwv,
+    kApparentVwr,
+    kTrueMwv,
+    kTrueVwt,
+    kTrueMwd,
     kOtherUnit,  ///< a wind whose speed is in another unit than knots
     kSources
   };
   using Group = std::vector<Source>;
 
+  static std::size_t PlaceOf(const SentenceKind& kind) {
+    return static_cast<std::size_t>(&kind - kSentences.data());
+  }
+  static const SentenceKind& KindOf(Source source);
+
   void CountWind(const Readings& readings, bool complete);
   bool There(Source source) const;
-  /// What to say of a value, "" for nothing: none of `chosen` is there while some of `others` are.
+  /// What to say of a value, "" for nothing: none of `chosen` is there while some of `others` are. It names
+  /// those of `chosen` that are ticked, or are so by default.
   std::string Missing(const char* value, const Group& chosen, const Group& others) const;
+  /// Adds the sentences that are not ticked and would bring what none of `chosen` brings.
+  void AddNotUsed(const Group& chosen, std::vector<std::string>& lines) const;
 
   const Settings& m_settings;
   std::array<int, kSources> m_age{};  ///< since it came last [s], at most kGone
   int m_running = 0;                  ///< since the start [s]
   std::string m_unit;                 ///< the one that is not read
   WindCounts m_winds;
+  std::array<long, kSentences.size()> m_notUsed{};  ///< sentences of types that are not ticked
 };
 
 }  // namespace veerwatch

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 
+#include "settings/LineRules.h"
 #include "settings/TrackMode.h"
 
 namespace veerwatch {
@@ -26,6 +27,17 @@ struct Settings {
   bool m_bNmeaSentenceRMC = true;
   bool m_bNmeaSentenceVHW = true;
   bool m_bNmeaSentenceVTG = true;
+  bool m_bNmeaSentenceHDM = false;
+  bool m_bNmeaSentenceHDT = false;
+  bool m_bNmeaSentenceMWD = false;
+  bool m_bNmeaSentenceTHS = false;
+  bool m_bNmeaSentenceVWR = false;
+  bool m_bNmeaSentenceVWT = false;
+  bool m_bNmeaWindUnits = false;  ///< winds in other units than knots are read, too
+  ChecksumRule m_eNmeaChecksum = ChecksumRule::AcceptMissing;
+  InvalidRule m_eNmeaInvalidStatus = InvalidRule::Use;
+  bool m_bNmeaLowerCase = false;  ///< checksums in lower-case letters are read, too
+  ForeignRule m_eNmeaForeignLines = ForeignRule::Error;
   std::int16_t m_iNmeaTrueWind = 1;           ///< 0 true wind from a sensor, 1 computed from the boat speed
   float m_fNmeaTrueWindAverage = 2.0F;        ///< averaging count of the record [samples], by IsAverageCount
   float m_fNmeaWindIndicatorAverage = 60.0F;  ///< the same of the wind indicator

@@ -25,23 +25,23 @@ TEST(WindReport, IsSilentWhereTheWindIsUsed) {
 }
 
 TEST(WindReport, SaysThatThereIsNoWind) {
-  EXPECT_EQ(Notes("$IIVTG,,T,100.0,M,6.0,N,,K\n"), "veerwatch-cli: no usable wind in 1 line: no MWV\n");
-  EXPECT_EQ(Notes(""), "veerwatch-cli: no usable wind in 0 lines: no MWV\n");
+  EXPECT_EQ(Notes("$IIVTG,,T,100.0,M,6.0,N,,K\n"), "veerwatch-cli: no usable wind in 1 line: no wind sentence\n");
+  EXPECT_EQ(Notes(""), "veerwatch-cli: no usable wind in 0 lines: no wind sentence\n");
 }
 
 TEST(WindReport, CountsTheReasons) {
   EXPECT_EQ(
       Notes("$IIMWV,045.0,R,6.0,M,A\n$IIMWV,046.0,R,6.0,M,A\n$IIMWV,,R,,N,A\n$IIMWV,050.0,T,9.0,N,A\n"
             "$IIMWV,045.0,R,12.0,N,A*00\nIIMWV\n"),
-      "veerwatch-cli: no usable wind in 6 lines: 2 MWV in another unit than knots, 1 MWV without angle, "
-      "reference, speed or unit, 1 MWV with a true wind, which is computed instead, 1 with a wrong "
+      "veerwatch-cli: no usable wind in 6 lines: 2 winds in another unit than knots, 1 winds without angle, "
+      "reference, speed or unit, 1 winds with a true wind, which is computed instead, 1 with a wrong "
       "checksum, 1 that is no sentence\n");
 }
 
 TEST(WindReport, SaysThatTheTrueWindLacksABoatSpeed) {
   EXPECT_EQ(
       Notes("$IIMWV,045.0,R,12.0,N,A\n$IIMWV,046.0,R,12.0,N,A\n"),
-      "veerwatch-cli: no usable wind in 2 lines: 2 MWV but no boat speed to compute the true wind from\n");
+      "veerwatch-cli: no usable wind in 2 lines: 2 winds but no boat speed to compute the true wind from\n");
 }
 
 }  // namespace

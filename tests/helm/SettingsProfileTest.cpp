@@ -44,6 +44,17 @@ constexpr Key kKeys[] = {{"Nmea", "Boat Speed", "1", "0"},
                          {"Nmea", "Sentence RMC", "True", "False"},
                          {"Nmea", "Sentence VHW", "True", "False"},
                          {"Nmea", "Sentence VTG", "True", "False"},
+                         {"Nmea", "Sentence HDM", "False", "True"},
+                         {"Nmea", "Sentence HDT", "False", "True"},
+                         {"Nmea", "Sentence MWD", "False", "True"},
+                         {"Nmea", "Sentence THS", "False", "True"},
+                         {"Nmea", "Sentence VWR", "False", "True"},
+                         {"Nmea", "Sentence VWT", "False", "True"},
+                         {"Nmea", "Wind Units", "False", "True"},
+                         {"Nmea", "Checksum", "Accept missing", "Require"},
+                         {"Nmea", "Invalid Status", "Use", "Ignore"},
+                         {"Nmea", "Lower Case", "False", "True"},
+                         {"Nmea", "Foreign Lines", "Error", "List"},
                          {"Nmea", "True Wind", "1", "0"},
                          {"Nmea", "True Wind Average", "2", "3.5"},
                          {"Pilot", "Port", "5", "13"},
@@ -306,7 +317,10 @@ TEST(SettingsProfile, AFreshProfileHasEveryKeyInItsOrder) {
       profile.Content(),
       "[Nmea]\nBoat Speed=1\nHeading=1\nPort=5\nSentence HDG=True\nSentence HVM=True\n"
       "Sentence MWV=True\nSentence RMB=True\nSentence RMC=True\nSentence VHW=True\n"
-      "Sentence VTG=True\nTrue Wind=1\nTrue Wind Average=2\nWind Indicator Average=60\n\n"
+      "Sentence VTG=True\nSentence HDM=False\nSentence HDT=False\nSentence MWD=False\nSentence THS=False\n"
+      "Sentence VWR=False\nSentence VWT=False\nWind Units=False\nChecksum=Accept missing\n"
+      "Invalid Status=Use\nLower Case=False\nForeign Lines=Error\nTrue Wind=1\nTrue Wind Average=2\nWind "
+      "Indicator Average=60\n\n"
       "[Pilot]\nPort=5\nBearing=40\n\n"
       "[Simulate]\nNmea=False\nBoat Speed=8\nCompass Offset=10\nNoise Angle=4\nNoise Speed=2\n"
       "True Wind Angle=0\nTrue Wind Speed=12\nVariation=11\nWaypoint Bearing=5\n"

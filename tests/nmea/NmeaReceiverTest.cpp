@@ -353,5 +353,38 @@ TEST_F(NmeaReceiverTest, EveryTruncationAndEveryDamagedByteOfAGoodSentenceIsSurv
   }
 }
 
+// --- What is asked of a line
+// -------------------------------------------------------------------------------------
+
+TEST_F(NmeaReceiverTest, AForeignLineIsAnErrorOrOnlyListed) {
+  Start();
+  Receive("!AIVDM,1,1,,A,15MgK45P3@G?fl0E`JbR0OwT0@MS,0*4E\r\n");
+  EXPECT_EQ(m_view.InputStatus, "Sentence Error");
+  m_settings.m_eNmeaForeignLines = ForeignRule::List;
+  m_view.Take();
+  Receive("!AIVDM,1,1,,A,15MgK45P3@G?fl0E`JbR0OwT0@MS,0*4E\r\n");
+  EXPECT_EQ(m_view.InputStatus, "");
+  EXPECT_EQ(m_view.Count("OnNmeaLine"), 1U);
+  Receive("?AIVDM\r\n");
+  EXPECT_EQ(m_view.InputStatus, "Sentence Error");
+}
+
+TEST_F(NmeaReceiverTest, AChecksumIsRequiredOrReadInSmallLettersWhereTheSettingsSaySo) {
+  Start();
+  Receive("$IIMWV,045,R,10.5,N,A\r\n");
+  EXPECT_TRUE(Data().WindApparentValid);
+  m_settings.m_eNmeaChecksum = ChecksumRule::Require;
+  Receive("$IIMWV,046,R,10.5,N,A\r\n");
+  EXPECT_EQ(m_view.InputStatus, "Checksum Error");
+  EXPECT_EQ(Data().WindAngleApparent, 45.0F);
+  Receive("$APHDM,218.634,M*39\r\n");
+  EXPECT_EQ(m_view.InputStatus, "");
+  Receive("$GPAAM*5a\r\n");
+  EXPECT_EQ(m_view.InputStatus, "Checksum Error");
+  m_settings.m_bNmeaLowerCase = true;
+  Receive("$GPAAM*5a\r\n");
+  EXPECT_EQ(m_view.InputStatus, "");
+}
+
 }  // namespace
 }  // namespace veerwatch

@@ -19,10 +19,12 @@ std::string_view NameOf(std::string_view line) {
 
 TEST(FindSentence, GoesByCharactersFourToSix) {
   const std::vector<std::pair<std::string_view, std::string_view>> cases{
-      {"$IIHDG,1", "HDG"},  {"$IIHVM,1", "HVM"},  {"$IIMWV,1", "MWV"},  {"$IIRMB,1", "RMB"},
-      {"$IIRMC,1", "RMC"},  {"$IIVHW,1", "VHW"},  {"$IIVTG,1", "VTG"},  {"$IIHDG", "HDG"},
-      {"$IIHDT,1", "none"}, {"$PGRME,1", "none"}, {"$IIhdg,1", "none"}, {"$IIMW", "none"},
-      {"$", "none"},        {"", "none"},         {"$IHDG,1", "none"}};
+      {"$IIHDG,1", "HDG"},  {"$IIHVM,1", "HVM"}, {"$IIMWV,1", "MWV"},  {"$IIRMB,1", "RMB"},
+      {"$IIRMC,1", "RMC"},  {"$IIVHW,1", "VHW"}, {"$IIVTG,1", "VTG"},  {"$IIHDG", "HDG"},
+      {"$IIHDT,1", "HDT"},  {"$IIVWR,1", "VWR"}, {"$IIVWT,1", "VWT"},  {"$IIMWD,1", "MWD"},
+      {"$IIHDM,1", "HDM"},  {"$IITHS,1", "THS"}, {"$IIXDR,1", "none"}, {"$PGRME,1", "none"},
+      {"$IIhdg,1", "none"}, {"$IIMW", "none"},   {"$", "none"},        {"", "none"},
+      {"$IHDG,1", "none"}};
   for (const auto& [line, name] : cases) {
     EXPECT_EQ(NameOf(line), name) << line;
   }
@@ -42,7 +44,8 @@ TEST(SentenceTable, EachTypeHasANameATextAndASwitchOfItsOwn) {
     EXPECT_TRUE(std::string_view(kind.Text).starts_with(kind.Name)) << kind.Text;
     names.insert(kind.Name);
     switches.insert(&(settings.*kind.Enabled));
-    EXPECT_EQ(kind.IsWind, kind.Name == "MWV");
+    EXPECT_EQ(kind.IsWind,
+              kind.Name == "MWV" || kind.Name == "MWD" || kind.Name == "VWR" || kind.Name == "VWT");
   }
   EXPECT_EQ(names.size(), kSentences.size());
   EXPECT_EQ(switches.size(), kSentences.size());
@@ -92,7 +95,7 @@ TEST(SentenceTable, EachDecoderMakesTheReadingsOfItsSentence) {
 }
 
 TEST(SentenceTable, WhatIsNotThereOrInAnotherUnitMakesNoReading) {
-  EXPECT_EQ(Carries("$IIMWV,045,R,10.5,K,A*00"), std::pair(List(), true));
+  EXPECT_EQ(Carries("$IIMWV,045,R,10.5,X,A*00"), std::pair(List(), true));
   EXPECT_EQ(Carries("$IIMWV,045,,10.5,N,A*00"), std::pair(List(), false));
   EXPECT_EQ(Carries("$IIHDG,,,,,*00"), std::pair(List(), false));
   EXPECT_EQ(Carries("$IIHDG,123.5,,,5.0,*00"), std::pair(List({{Quantity::Heading, 123.5F}}), false));

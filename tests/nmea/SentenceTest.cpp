@@ -37,6 +37,21 @@ TEST(CheckFrame, RefusesAChecksumInLowerCase) {
   EXPECT_EQ(CheckFrame("$GPAAM*5a"), Frame::WrongChecksum);
 }
 
+TEST(CheckFrame, AcceptsLowerCaseWhereItMay) {
+  constexpr FrameRules kLower{ChecksumRule::AcceptMissing, true};
+  EXPECT_EQ(CheckFrame("$GPAAM*5a", kLower), Frame::Good);
+  EXPECT_EQ(CheckFrame("$GPAAM*5A", kLower), Frame::Good);
+  EXPECT_EQ(CheckFrame("$GPAAM*5b", kLower), Frame::WrongChecksum);
+}
+
+TEST(CheckFrame, RefusesALineWithoutAChecksumWhereOneIsRequired) {
+  constexpr FrameRules kRequired{ChecksumRule::Require, false};
+  EXPECT_EQ(CheckFrame("$IIMWV,045,R,10.5,N,A", kRequired), Frame::WrongChecksum);
+  EXPECT_EQ(CheckFrame("$IIMWV,045,R,10.5,N,A*5", kRequired), Frame::WrongChecksum);
+  EXPECT_EQ(CheckFrame("$", kRequired), Frame::WrongChecksum);
+  EXPECT_EQ(CheckFrame("$GPAAM*5A", kRequired), Frame::Good);
+}
+
 TEST(CheckFrame, AcceptsALineWithoutAChecksum) {
   EXPECT_EQ(CheckFrame("$IIMWV,045,R,10.5,N,A"), Frame::Good);
   EXPECT_EQ(CheckFrame("$IIMWV,045,R,10.5,N,A*"), Frame::Good);

@@ -24,7 +24,7 @@ class SourceWatchTest : public testing::Test {
     }
     return m_dispatcher.Sources().Advice();
   }
-  const WindCounts& Winds() { return m_dispatcher.Sources().Winds(); }
+  WindCounts Winds() { return m_dispatcher.Sources().Winds(); }
 
   Settings m_settings;
   InstrumentRecord m_record{m_settings};
@@ -32,6 +32,7 @@ class SourceWatchTest : public testing::Test {
 };
 
 const std::string kHdg = "$IIHDG,123.4,,,5.0,W";
+const std::string kHvm = "$IIHVM,7.5,E";
 const std::string kMwvR = "$IIMWV,045,R,10.5,N,A";
 const std::string kMwvT = "$IIMWV,060,T,9.5,N,A";
 const std::string kMetres = "$IIMWV,045,R,5.4,M,A";
@@ -107,6 +108,29 @@ TEST_F(SourceWatchTest, CountsWhatBecameOfTheWinds) {
   Advice({kMwvR}, 3);
   EXPECT_EQ(Winds().SwitchedOff, 3);
   EXPECT_EQ(Winds().All(), 11);
+}
+
+TEST_F(SourceWatchTest, NamesASentenceThatIsNotTickedWhereItWouldHelp) {
+  const std::string vwr = "$WIVWR,062,R,15.5,N,,,,";
+  EXPECT_THAT(Advice({vwr}, 12), ElementsAre("VWR seen 12 times, not used"));
+  EXPECT_THAT(Advice({vwr, kMwvR}), IsEmpty()) << "the wind is there";
+}
+
+TEST_F(SourceWatchTest, NamesASentenceOnceAndOnlyForWhatIsChosen) {
+  m_settings.m_bNmeaSentenceVHW = false;
+  EXPECT_THAT(Advice({kVhw}), IsEmpty()) << "course and speed over ground are chosen";
+  m_settings.m_iNmeaHeading = 0;
+  m_settings.m_iNmeaBoatSpeed = 0;
+  EXPECT_THAT(Advice({"$GPHDT,221.6,T"}),
+              ElementsAre("VHW seen 10 times, not used", "HDT seen 10 times, not used"));
+}
+
+TEST_F(SourceWatchTest, CountsATrueHeadingOnlyWithTheVariation) {
+  m_settings.m_iNmeaHeading = 0;
+  m_settings.m_bNmeaSentenceHDT = true;
+  EXPECT_THAT(Advice({kVtg, "$GPHDT,221.6,T"}),
+              ElementsAre("Heading: nothing from HDG, VHW or HDT; VTG is there"));
+  EXPECT_THAT(Advice({kVtg, kHvm, "$GPHDT,221.6,T"}), IsEmpty());
 }
 
 }  // namespace

@@ -83,7 +83,7 @@ class RecordingView final : public HelmObserver,
   void OnSentence(std::string_view line, const Dispatcher::Outcome& outcome, const Moment& /*now*/) override {
     OnNmeaLine(line, outcome.Incomplete ? LineFault::Decode : LineFault::None, outcome.Used);
   }
-  void OnBadLine(std::string_view line, LineFault fault) override { OnNmeaLine(line, fault, false); }
+  void OnOtherLine(std::string_view line, LineFault fault) override { OnNmeaLine(line, fault, false); }
   void OnInputStatus(const PortStatus& status) override {
     InputStatus = InputStatusText(status);
     Keep("OnInputStatus", InputStatus);
