@@ -25,7 +25,8 @@ TEST(WindReport, IsSilentWhereTheWindIsUsed) {
 }
 
 TEST(WindReport, SaysThatThereIsNoWind) {
-  EXPECT_EQ(Notes("$IIVTG,,T,100.0,M,6.0,N,,K\n"), "veerwatch-cli: no usable wind in 1 line: no wind sentence\n");
+  EXPECT_EQ(Notes("$IIVTG,,T,100.0,M,6.0,N,,K\n"),
+            "veerwatch-cli: no usable wind in 1 line: no wind sentence\n");
   EXPECT_EQ(Notes(""), "veerwatch-cli: no usable wind in 0 lines: no wind sentence\n");
 }
 
