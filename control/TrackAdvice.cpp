@@ -10,8 +10,8 @@ namespace veerwatch {
 
 namespace {
 
-constexpr double kQuick = 4.0;            // [s] of boat lag
-constexpr double kQuickBandwidth = 20.0;  // [s]
+constexpr double kSlow = 6.0;  // [s] of boat lag, from which a smaller bandwidth costs hardly any rudder
+constexpr double kSlowBandwidth = 40.0;   // [s]
 constexpr double kCalmBandwidth = 60.0;   // [s], for each wind sentence a second where they are counted
 constexpr double kLargestRate = 1.5;      // [1/s] at which Sentence holds with every usual bandwidth
 constexpr double kLeastBandwidth = 40.0;  // [s] for each wind sentence a second
@@ -46,15 +46,16 @@ TrackSuggestion TrackSuggestionFor(const TrackConditions& conditions) {
     const std::string seconds = bandwidth(TrackMethod::Clock, kCalmBandwidth);
     suggestion.Reason =
         "Without a boat speed Direction does not know the apparent wind: Clock with " + seconds + ".";
-  } else if (conditions.Lag <= kQuick) {
-    const std::string seconds = bandwidth(TrackMethod::Direction, kQuickBandwidth);
-    suggestion.Reason = "Direction holds at " + WindsASecondText(conditions.WindsASecond) +
-                        " without tuning; " + seconds + " are quick, for a boat that answers in " +
-                        Text(conditions.Lag) + " s.";
-  } else {
+  } else if (conditions.Lag <= kSlow) {
     const std::string seconds = bandwidth(TrackMethod::Direction, kCalmBandwidth);
     suggestion.Reason = "Direction holds at " + WindsASecondText(conditions.WindsASecond) +
-                        " without tuning; " + seconds + " keep the rudder calm, as the boat takes " +
+                        " without tuning; " + seconds + " keep the rudder calm on a boat that answers in " +
+                        Text(conditions.Lag) + " s.";
+  } else {
+    const std::string seconds = bandwidth(TrackMethod::Direction, kSlowBandwidth);
+    suggestion.Reason = "Direction holds at " + WindsASecondText(conditions.WindsASecond) +
+                        " without tuning; " + seconds +
+                        " follow closely and cost little rudder on a boat that takes " +
                         Text(conditions.Lag) + " s to answer.";
   }
   return suggestion;

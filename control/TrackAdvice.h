@@ -21,12 +21,13 @@ struct TrackConditions {
 
 struct TrackSuggestion {
   TrackMethod Method = TrackMethod::Direction;
-  float Bandwidth = 20.0F;    ///< [s]
+  float Bandwidth = 60.0F;    ///< [s]
   float WindAverage = 2.0F;   ///< of the true wind, as the settings have it
   float AlarmAverage = 5.0F;  ///< [s]
   std::string Reason;         ///< one sentence
 };
 
+/// What docs/control.md measured: a quick boat answers waves, so a small bandwidth is for slow ones.
 TrackSuggestion TrackSuggestionFor(const TrackConditions& conditions);
 
 /// A rate as it is told, "5 wind sentences a second", to a tenth.

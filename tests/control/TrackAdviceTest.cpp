@@ -5,30 +5,30 @@
 namespace veerwatch {
 namespace {
 
-TEST(TrackSuggestion, IsDirectionAtEveryRateQuickForABoatThatAnswersSoon) {
+TEST(TrackSuggestion, IsDirectionAtEveryRateCalmForABoatThatAnswersSoon) {
   for (const double rate : {0.5, 1.0, 5.0, 10.0}) {
-    for (const double lag : {0.0, 2.0, 4.0}) {
+    for (const double lag : {0.0, 2.0, 6.0}) {
       const TrackSuggestion suggestion = TrackSuggestionFor({rate, lag, true, true});
       EXPECT_EQ(suggestion.Method, TrackMethod::Direction);
-      EXPECT_EQ(suggestion.Bandwidth, 20.0F);
+      EXPECT_EQ(suggestion.Bandwidth, 60.0F);
       EXPECT_EQ(suggestion.WindAverage, 2.0F);
       EXPECT_EQ(suggestion.AlarmAverage, 5.0F);
     }
   }
   EXPECT_EQ(TrackSuggestionFor({5.0, 2.5, true, true}).Reason,
-            "Direction holds at 5 wind sentences a second without tuning; 20 s are quick, for a boat that "
-            "answers in 2.5 s.");
+            "Direction holds at 5 wind sentences a second without tuning; 60 s keep the rudder calm on a "
+            "boat that answers in 2.5 s.");
 }
 
-TEST(TrackSuggestion, IsCalmForASlowBoat) {
-  for (const double lag : {4.1, 8.0, 20.0}) {
+TEST(TrackSuggestion, IsCloserForASlowBoat) {
+  for (const double lag : {6.1, 8.0, 20.0}) {
     const TrackSuggestion suggestion = TrackSuggestionFor({1.0, lag, true, true});
     EXPECT_EQ(suggestion.Method, TrackMethod::Direction);
-    EXPECT_EQ(suggestion.Bandwidth, 60.0F);
+    EXPECT_EQ(suggestion.Bandwidth, 40.0F);
   }
   EXPECT_EQ(TrackSuggestionFor({1.0, 8.0, true, true}).Reason,
-            "Direction holds at 1 wind sentence a second without tuning; 60 s keep the rudder calm, as the "
-            "boat takes 8 s to answer.");
+            "Direction holds at 1 wind sentence a second without tuning; 40 s follow closely and cost little "
+            "rudder on a boat that takes 8 s to answer.");
 }
 
 TEST(TrackSuggestion, IsClockWithoutABoatSpeed) {
