@@ -37,7 +37,12 @@ void BringUp(QWidget& window) {
 
 OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& menu, MainWindowApi& main,
                                QWidget* window)
-    : m_parts(parts), m_menu(menu), m_main(main), m_window(window), m_told(main.Observers().Join(*this)) {
+    : m_parts(parts),
+      m_menu(menu),
+      m_main(main),
+      m_window(window),
+      m_recorded(main.Observers(), main.Record()),
+      m_told(main.Observers().Join(*this)) {
   QObject::connect(menu.mnuViewHistory, &QAction::triggered, [this] { HistoryShow(); });
   for (const QAction* command : {menu.mnuViewDiagram, menu.mnuHelpDiagram}) {
     QObject::connect(command, &QAction::triggered, [this] { DiagramShow(); });
@@ -196,7 +201,8 @@ void OtherWindowsQt::TimerTack_Timer() {
 
 frmOptions& OtherWindowsQt::Options() {
   if (!m_options) {
-    m_options = std::make_unique<frmOptions>(frmOptions::Parts{m_main, *this, m_parts.Asks, m_parts.Random});
+    m_options = std::make_unique<frmOptions>(
+        frmOptions::Parts{m_main, *this, m_parts.Asks, m_parts.Random, m_recorded});
     m_options->setWindowIcon(ProgramIcon());
     m_options->Closed([this] { m_options.release()->deleteLater(); });
   }

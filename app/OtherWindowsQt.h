@@ -18,6 +18,7 @@
 #include "helm/Helm.h"
 #include "helm/MainWindowApi.h"
 #include "helm/SettingsProfile.h"
+#include "helm/WindRecorder.h"
 #include "history/frmHistory.h"
 #include "options/frmOptions.h"
 #include "polar/PolarObserver.h"
@@ -104,6 +105,7 @@ class OtherWindowsQt final : private HelmObserver,
   const frmMainMenu& m_menu;
   MainWindowApi& m_main;
   QWidget* m_window;
+  WindRecorder m_recorded;
   HelmObservers::Membership m_told;
   std::unique_ptr<frmHistory> m_history;  ///< from the first value on
   std::unique_ptr<frmPolar> m_polar;      ///< null until it is shown for the first time

@@ -74,6 +74,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void AutoPilotSet(float bearing) override { m_helm.TurnSteersTo(bearing); }
   HelmObservers& Observers() override { return m_helm.Observers(); }
   HelmNow Now() const override { return m_helm.Now(); }
+  const InstrumentRecord& Record() const override { return m_helm.Record(); }
   void TrackSetOff() override { m_helm.Modes().TrackSetOff(); }
   void TrackSetSetup() override { m_helm.Modes().TrackSetSetup(); }
   void TrackSetManual() override { m_helm.Modes().TrackSetManual(); }

@@ -3,6 +3,7 @@
 
 #include "helm/HelmNow.h"
 #include "helm/HelmObserver.h"
+#include "instruments/InstrumentRecord.h"
 #include "settings/Settings.h"
 
 namespace veerwatch {
@@ -34,6 +35,8 @@ class MainWindowApi : public Settings {
   virtual HelmObservers& Observers() = 0;
   /// What the helm does at this moment.
   virtual HelmNow Now() const = 0;
+  /// What the instruments say.
+  virtual const InstrumentRecord& Record() const = 0;
   virtual void TrackSetOff() = 0;
   virtual void TrackSetSetup() = 0;
   virtual void TrackSetManual() = 0;

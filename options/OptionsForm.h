@@ -41,6 +41,7 @@ struct OptionsForm {
   std::string TrackBandwidth;
   std::string TrackDamping;
   std::string TrackMaxSteerTo;
+  std::string TrackAlarmAverage;
 };
 
 /// Boxes that are stored one after the other. The simulated time is stored between boat and scene.
@@ -55,7 +56,7 @@ struct OptionBox {
 };
 
 /// In the order in which they are stored.
-inline constexpr std::array<OptionBox, 15> kOptionBoxes{{
+inline constexpr std::array<OptionBox, 16> kOptionBoxes{{
     {OptionGroup::Data, "True Wind Average", &OptionsForm::NmeaTrueWindAverage,
      &Settings::m_fNmeaTrueWindAverage},
     {OptionGroup::Data, "Wind Indicator Average", &OptionsForm::NmeaWindIndicatorAverage,
@@ -81,6 +82,8 @@ inline constexpr std::array<OptionBox, 15> kOptionBoxes{{
     {OptionGroup::Tracking, "Bandwidth", &OptionsForm::TrackBandwidth, &Settings::m_fTrackBandwidth},
     {OptionGroup::Tracking, "Damping", &OptionsForm::TrackDamping, &Settings::m_fTrackDamping},
     {OptionGroup::Tracking, "Max Steer To", &OptionsForm::TrackMaxSteerTo, &Settings::m_fTrackMaxSteerTo},
+    {OptionGroup::Tracking, "Alarm Average", &OptionsForm::TrackAlarmAverage,
+     &Settings::m_fTrackAlarmAverage},
 }};
 
 /// The form that shows `settings`.

@@ -32,7 +32,7 @@ void TrackAxesQt::MakeRoom() {
 
 void TrackAxesQt::paintEvent(QPaintEvent* /*event*/) {
   const TrackPreview& picture = m_plot.Picture();
-  if (picture.Trace.empty()) {
+  if (picture.Empty()) {
     return;
   }
   QPainter painter(this);

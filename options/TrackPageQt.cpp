@@ -1,10 +1,14 @@
 #include "options/TrackPageQt.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <utility>
+
+#include "platform/ColoursQt.h"
+#include "platform/NumberText.h"
 
 namespace veerwatch {
 
@@ -21,7 +25,8 @@ OptionEntryQt* NewPreviewEntry(const char* name, const char* hint, const char* t
 
 }  // namespace
 
-TrackPageQt::TrackPageQt(RandomSource& random, QWidget* parent)
+TrackPageQt::TrackPageQt(RandomSource& random, const MainWindowApi& main, const WindRecorder& recorded,
+                         QWidget* parent)
     : QWidget(parent),
       chkTrackAlarm(new QCheckBox(QStringLiteral("Tracking A&larm"), this)),
       cmbTrackMethod(new QComboBox(this)),
@@ -30,20 +35,59 @@ TrackPageQt::TrackPageQt(RandomSource& random, QWidget* parent)
       txtTrackBandwidth(new OptionEntryQt("txtTrackBandwidth", "Tracking Bandwidth (sec)", this)),
       txtTrackDamping(new OptionEntryQt("txtTrackDamping", "Tracking Damping Factor (default=1)", this)),
       txtTrackMaxSteerTo(new OptionEntryQt("txtTrackMaxSteerTo", "Range (deg)", this)),
+      txtTrackAlarmAverage(
+          new OptionEntryQt("txtTrackAlarmAverage", "Seconds over which the alarm averages the error", this)),
+      cmdTrackSuggest(new QPushButton(QStringLiteral("S&uggest"), this)),
       txtTrackOffset(NewPreviewEntry("txtTrackOffset", "Initial Track Offset  (deg)", "10", this)),
       txtTrackNoise(NewPreviewEntry("txtTrackNoise", "Added Random Noise (+/- Deg)", "1", this)),
       txtTrackTime(NewPreviewEntry("txtTrackTime", kTimeHint, "120", this)),
       txtTrackMin(NewPreviewEntry("txtTrackMin", kTimeHint, "-5", this)),
       txtTrackMax(NewPreviewEntry("txtTrackMax", kTimeHint, "15", this)),
+      chkTrackOnMyWind(new QCheckBox(QStringLiteral("On m&y wind"), this)),
+      txtTrackLag(NewPreviewEntry("txtTrackLag", "Seconds until the boat has made two thirds of a small turn",
+                                  "4", this)),
       pctTrack(new TrackPreviewQt(random, this)),
       Axes(new TrackAxesQt(*pctTrack, this)),
       lblTrackFigures(NewText("", this)),
-      lblTrackInUse(NewText("", this)) {
-  lblTrackFigures->setObjectName(QStringLiteral("lblTrackFigures"));
-  // However long the figures are, the page stays as wide as its boxes.
-  lblTrackFigures->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  lblTrackInUse->setObjectName(QStringLiteral("lblTrackInUse"));
+      lblTrackInUse(NewText("", this)),
+      lblTrackReason(NewText("", this)),
+      lblTrackSwings(NewText("", this)),
+      lblTrackRate(NewText("", this)),
+      m_main(main),
+      m_recorded(recorded) {
+  for (const auto& [label, name] :
+       {std::pair{lblTrackFigures, "lblTrackFigures"}, std::pair{lblTrackInUse, "lblTrackInUse"},
+        std::pair{lblTrackReason, "lblTrackReason"}, std::pair{lblTrackSwings, "lblTrackSwings"},
+        std::pair{lblTrackRate, "lblTrackRate"}}) {
+    label->setObjectName(QLatin1String(name));
+    // However long the text is, the page stays as wide as its boxes.
+    label->setSizePolicy(QSizePolicy::Ignored, label->sizePolicy().verticalPolicy());
+  }
+  lblTrackReason->setWordWrap(true);
+  lblTrackReason->hide();
+  lblTrackSwings->setContentsMargins(6, 2, 6, 2);
+  lblTrackSwings->setAutoFillBackground(true);
+  lblTrackSwings->hide();
+  ColourSwings();
   NameControl(*chkTrackAlarm, "chkTrackAlarm", "Tracking Alarm");
+  NameControl(*cmdTrackSuggest, "cmdTrackSuggest",
+              "Puts what suits the measured sentences and the boat lag into the boxes; Apply stores it");
+  NameControl(*chkTrackOnMyWind, "chkTrackOnMyWind",
+              "All methods on the wind of the last half hour, steering a boat with the lag beside");
+  MakeMethods();
+  txtTrackAlarmLimit->setAccessibleName(QStringLiteral("Alarm Limit"));
+  txtTrackMin->setAccessibleName(QStringLiteral("Lowest Bearing"));
+  txtTrackMax->setAccessibleName(QStringLiteral("Highest Bearing"));
+  auto* page = new QVBoxLayout(this);
+  page->addWidget(NewOptions());
+  page->addWidget(NewResponse(), 1);
+  pctTrack->Resized([this] { TrackPreviewDraw(); });
+  connect(cmdTrackSuggest, &QPushButton::clicked, this, [this] { cmdTrackSuggest_Click(); });
+  connect(chkTrackOnMyWind, &QCheckBox::toggled, this, [this] { chkTrackOnMyWind_Click(); });
+  connect(txtTrackBandwidth, &QLineEdit::textChanged, this, [this] { ShowRate(); });
+}
+
+void TrackPageQt::MakeMethods() {
   NameControl(*cmbTrackMethod, "cmbTrackMethod", "By what the wind is held, from the next Track on");
   for (const auto& [method, tip] :
        {std::pair{"Sentence",
@@ -54,13 +98,7 @@ TrackPageQt::TrackPageQt(RandomSource& random, QWidget* parent)
     cmbTrackMethod->setItemData(cmbTrackMethod->count() - 1, QLatin1String(tip), Qt::ToolTipRole);
   }
   connect(cmbTrackMethod, &QComboBox::currentIndexChanged, this, [this] { ShowMethod(); });
-  txtTrackAlarmLimit->setAccessibleName(QStringLiteral("Alarm Limit"));
-  txtTrackMin->setAccessibleName(QStringLiteral("Lowest Bearing"));
-  txtTrackMax->setAccessibleName(QStringLiteral("Highest Bearing"));
-  auto* page = new QVBoxLayout(this);
-  page->addWidget(NewOptions());
-  page->addWidget(NewResponse(), 1);
-  pctTrack->Resized([this] { TrackPreviewDraw(); });
+  connect(cmbTrackMethod, &QComboBox::activated, this, [this] { TrackPreviewDraw(); });
 }
 
 QWidget* TrackPageQt::NewOptions() {
@@ -82,26 +120,47 @@ QWidget* TrackPageQt::NewOptions() {
   rows->addWidget(txtTrackDamping, 2, 1);
   rows->addWidget(NewCaption("Met&hod:", cmbTrackMethod, this), 2, 4, Qt::AlignRight);
   rows->addWidget(cmbTrackMethod, 2, 5, 1, 2);
-  rows->addWidget(lblTrackInUse, 3, 0, 1, 8);
+  rows->addWidget(cmdTrackSuggest, 3, 0, 1, 3, Qt::AlignLeft);
+  rows->addWidget(NewCaption("Alarm A&verage:", txtTrackAlarmAverage, this), 3, 4, Qt::AlignRight);
+  rows->addWidget(txtTrackAlarmAverage, 3, 5);
+  rows->addWidget(NewText("sec", this), 3, 6);
+  rows->addWidget(lblTrackReason, 4, 0, 1, 8);
+  rows->addWidget(lblTrackSwings, 5, 0, 1, 8);
+  rows->addWidget(lblTrackInUse, 6, 0, 1, 8);
   rows->setColumnMinimumWidth(3, kGroupGap);
   rows->setColumnStretch(7, 1);
   return frame;
 }
 
+QLayout* TrackPageQt::NewResponseInputs() {
+  auto* lines = new QVBoxLayout;
+  const auto line = [lines] {
+    auto* made = new QHBoxLayout;
+    lines->addLayout(made);
+    return made;
+  };
+  const auto input = [this](QHBoxLayout* row, const char* caption, OptionEntryQt* box, const char* unit) {
+    row->addWidget(NewCaption(caption, box, this));
+    row->addWidget(box);
+    row->addWidget(NewText(unit, this));
+    row->addSpacing(kGroupGap);
+  };
+  QHBoxLayout* response = line();
+  input(response, "O&ffset", txtTrackOffset, "deg");
+  input(response, "&Noise", txtTrackNoise, "deg");
+  input(response, "Tim&e", txtTrackTime, "sec");
+  response->addStretch();
+  QHBoxLayout* wind = line();
+  wind->addWidget(chkTrackOnMyWind);
+  wind->addSpacing(kGroupGap);
+  input(wind, "Boat lag", txtTrackLag, "sec");
+  wind->addWidget(lblTrackRate, 1);
+  return lines;
+}
+
 QWidget* TrackPageQt::NewResponse() {
   // Deliberate: "Responce".
   auto* frame = new QGroupBox(QStringLiteral("Tracking Responce"), this);
-  auto* inputs = new QHBoxLayout;
-  const auto input = [this, inputs](const char* caption, OptionEntryQt* box, const char* unit) {
-    inputs->addWidget(NewCaption(caption, box, this));
-    inputs->addWidget(box);
-    inputs->addWidget(NewText(unit, this));
-    inputs->addSpacing(kGroupGap);
-  };
-  input("O&ffset", txtTrackOffset, "deg");
-  input("&Noise", txtTrackNoise, "deg");
-  input("Tim&e", txtTrackTime, "sec");
-  inputs->addStretch();
   // The bounds of the plot stand at its ends.
   auto* bounds = new QVBoxLayout;
   bounds->addWidget(txtTrackMax);
@@ -113,7 +172,7 @@ QWidget* TrackPageQt::NewResponse() {
   plot->addLayout(bounds);
   plot->addWidget(Axes, 1);
   auto* rows = new QVBoxLayout(frame);
-  rows->addLayout(inputs);
+  rows->addLayout(NewResponseInputs());
   rows->addLayout(plot, 1);
   rows->addWidget(lblTrackFigures);
   return frame;
@@ -124,6 +183,65 @@ void TrackPageQt::ShowMethod() const {
   txtTrackDamping->setEnabled(!direction);
   txtTrackDamping->setToolTip(direction ? QStringLiteral("The method Direction has no damping")
                                         : txtTrackDamping->accessibleDescription());
+  ShowRate();
+}
+
+void TrackPageQt::ShowRate() const {
+  const auto rate = m_main.Now().WindsASecond;
+  lblTrackRate->setText(
+      QString::fromStdString(rate ? WindsASecondText(*rate) : WindsASecondText(1.0) + " (none measured)"));
+  const auto method = static_cast<TrackMethod>(cmbTrackMethod->currentIndex());
+  const auto bandwidth = StrictDouble(txtTrackBandwidth->text().toStdString());
+  const std::string swings = bandwidth ? TrackSwingsText(method, *bandwidth, rate) : std::string();
+  lblTrackSwings->setText(QString::fromStdString(swings));
+  lblTrackSwings->setVisible(!swings.empty());
+}
+
+void TrackPageQt::cmdTrackSuggest_Click() {
+  const auto lag = StrictDouble(txtTrackLag->text().toStdString());
+  lblTrackReason->show();
+  if (!lag || !(*lag >= 0.0)) {
+    lblTrackReason->setText(QStringLiteral("Boat lag must be a number from 0 on."));
+    return;
+  }
+  const HelmNow now = m_main.Now();
+  const TrackSuggestion suggestion =
+      TrackSuggestionFor({now.WindsASecond.value_or(1.0), *lag, now.Heading.has_value(), now.BoatSpeedKnown});
+  cmbTrackMethod->setCurrentIndex(static_cast<int>(suggestion.Method));
+  txtTrackBandwidth->setText(QString::fromStdString(ShortestText(suggestion.Bandwidth)));
+  txtTrackAlarmAverage->setText(QString::fromStdString(ShortestText(suggestion.AlarmAverage)));
+  lblTrackReason->setText(QString::fromStdString(suggestion.Reason));
+  TrackPreviewDraw();
+  if (m_suggested) {
+    m_suggested(suggestion);
+  }
+}
+
+void TrackPageQt::chkTrackOnMyWind_Click() const {
+  for (OptionEntryQt* box : {txtTrackOffset, txtTrackNoise, txtTrackTime, txtTrackMin, txtTrackMax}) {
+    box->setEnabled(!chkTrackOnMyWind->isChecked());
+  }
+  TrackPreviewDraw();
+}
+
+void TrackPageQt::ColourSwings() {
+  constexpr qreal kNightShare = 0.3;
+  const QColor yellow(255, 224, 102);
+  QPalette colours = palette();
+  const QColor window = colours.color(QPalette::Active, QPalette::Window);
+  const bool night = IsNight(window);
+  colours.setColor(QPalette::Window, night ? Mixed(window, NightShade(yellow), kNightShare) : yellow);
+  if (!night) {
+    colours.setColor(QPalette::WindowText, Qt::black);
+  }
+  lblTrackSwings->setPalette(colours);
+}
+
+void TrackPageQt::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) {
+    ColourSwings();
+  }
 }
 
 std::vector<BoundEntry> TrackPageQt::Entries() const {
@@ -132,14 +250,17 @@ std::vector<BoundEntry> TrackPageQt::Entries() const {
       {txtTrackBandwidth, &OptionsForm::TrackBandwidth},
       {txtTrackDamping, &OptionsForm::TrackDamping},
       {txtTrackMaxSteerTo, &OptionsForm::TrackMaxSteerTo},
+      {txtTrackAlarmAverage, &OptionsForm::TrackAlarmAverage},
   };
 }
 
 void TrackPageQt::Show(const OptionsForm& form) const {
   chkTrackAlarm->setChecked(form.TrackAlarm);
   cmbTrackMethod->setCurrentIndex(form.TrackMethod);
-  ShowMethod();
   ShowEntries(Entries(), form);
+  ShowMethod();
+  lblTrackReason->clear();
+  lblTrackReason->hide();
 }
 
 void TrackPageQt::Read(OptionsForm& form) const {
@@ -149,26 +270,34 @@ void TrackPageQt::Read(OptionsForm& form) const {
 }
 
 void TrackPageQt::TrackPreviewDraw() const {
-  TrackPreviewTexts texts;
-  texts.Bandwidth = txtTrackBandwidth->text().toStdString();
-  texts.Damping = txtTrackDamping->text().toStdString();
-  texts.Offset = txtTrackOffset->text().toStdString();
-  texts.Noise = txtTrackNoise->text().toStdString();
-  texts.Time = txtTrackTime->text().toStdString();
-  texts.Min = txtTrackMin->text().toStdString();
-  texts.Max = txtTrackMax->text().toStdString();
-  pctTrack->Draw(texts);
-  for (OptionEntryQt* box : {txtTrackOffset, txtTrackNoise, txtTrackTime, txtTrackMin, txtTrackMax}) {
-    box->Take();
+  ShowRate();
+  const auto text = [](const OptionEntryQt* box) { return box->text().toStdString(); };
+  if (chkTrackOnMyWind->isChecked()) {
+    pctTrack->Draw(TrackWindInputs{m_main, text(txtTrackBandwidth), text(txtTrackDamping), text(txtTrackLag),
+                                   m_recorded.Winds()});
+  } else {
+    TrackPreviewTexts texts;
+    texts.Bandwidth = text(txtTrackBandwidth);
+    texts.Damping = text(txtTrackDamping);
+    texts.Offset = text(txtTrackOffset);
+    texts.Noise = text(txtTrackNoise);
+    texts.Time = text(txtTrackTime);
+    texts.Min = text(txtTrackMin);
+    texts.Max = text(txtTrackMax);
+    texts.Method = static_cast<TrackMethod>(cmbTrackMethod->currentIndex());
+    texts.Rate = TrackRateFor(m_main.Now().WindsASecond);
+    texts.Limits = {static_cast<double>(m_main.m_fTrackMaxAhead),
+                    static_cast<double>(m_main.m_fTrackMaxRate)};
+    pctTrack->Draw(texts);
   }
   Axes->update();
   lblTrackFigures->setText(QString::fromStdString(pctTrack->Picture().FiguresText()));
 }
 
-std::array<OptionEntryQt*, 8> TrackPageQt::Marking() const {
+std::array<OptionEntryQt*, 10> TrackPageQt::Marking() const {
   // Deliberate: txtTrackMaxSteerTo is not one of them.
-  return {txtTrackAlarmLimit, txtTrackBandwidth, txtTrackDamping, txtTrackOffset,
-          txtTrackMin,        txtTrackMax,       txtTrackTime,    txtTrackNoise};
+  return {txtTrackAlarmLimit, txtTrackBandwidth, txtTrackDamping, txtTrackOffset,       txtTrackMin,
+          txtTrackMax,        txtTrackTime,      txtTrackNoise,   txtTrackAlarmAverage, txtTrackLag};
 }
 
 }  // namespace veerwatch

@@ -62,8 +62,8 @@ struct TrackReference {
 /// One of several lines with a text of its own.
 struct TrackCurve {
   TrackMethod Method = TrackMethod::Sentence;
-  std::string Text;             ///< what stands beside it in the legend
-  std::vector<Stroke> Strokes;  ///< [plot units]
+  std::string Text;  ///< what stands beside it in the legend
+  Polyline Line;     ///< [plot units]
 };
 
 struct TrackPreview {

@@ -1,12 +1,14 @@
-// The plot `pctTrack` of the loop's response on the Tracking tab. The options dialog says when it is drawn
-// and with what; under the mouse it tells time and bearing.
+// The plot `pctTrack` on the Tracking tab: the loop's response, or the methods on the recorded wind. The
+// options dialog says when it is drawn and with what; under the mouse it tells time and bearing.
 #pragma once
 
+#include <QPen>
 #include <QPixmap>
 #include <QWidget>
 #include <functional>
 
 #include "options/TrackPreview.h"
+#include "options/TrackWindPicture.h"
 
 namespace veerwatch {
 
@@ -18,6 +20,8 @@ class TrackPreviewQt final : public QWidget {
   /// Computes and draws the plot for its present size. A plot unit is a pixel of the screen. What is exposed
   /// later shows the same picture.
   void Draw(const TrackPreviewTexts& texts);
+  /// The same of the methods on the wind that was recorded.
+  void Draw(const TrackWindInputs& inputs);
   /// Called when the plot has another size or stands on a screen of another scale, so that it is drawn again.
   void Resized(std::function<void()> handler) { m_resized = std::move(handler); }
 
@@ -34,7 +38,16 @@ class TrackPreviewQt final : public QWidget {
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
+  QSize Pixels() const { return {qRound(width() * m_ratio), qRound(height() * m_ratio)}; }
+  int LegendHeight() const;
+  void Show(TrackPreview picture);
   void Render();
+  void RenderTrouble(QPainter& painter) const;
+  void RenderGrid(QPainter& painter) const;
+  void RenderTrace(QPainter& painter) const;
+  void RenderCurves(QPainter& painter) const;
+  void RenderLegend(QPainter& painter) const;
+  QPen CurvePen(TrackMethod method) const;
 
   RandomSource& m_random;
   std::function<void()> m_resized;

@@ -73,6 +73,10 @@ double MostTime(double rate) { return kMostTrackTime / std::max(rate, 1.0); }
 
 }  // namespace
 
+double TrackRateFor(const std::optional<double>& measured) {
+  return std::clamp(std::round(measured.value_or(1.0) * 10.0) / 10.0, kLeastTrackRate, kMostTrackRate);
+}
+
 std::string TrackResponseTrouble(const TrackResponseInputs& inputs) {
   std::string trouble = LawTrouble(inputs);
   if (!trouble.empty()) {

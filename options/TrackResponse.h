@@ -33,6 +33,10 @@ inline constexpr double kMostTrackBearing = 1e6;
 inline constexpr double kLeastTrackRate = 0.1;
 inline constexpr double kMostTrackRate = 100.0;
 
+/// The rate at which a preview steps for a measured one [1/s]: to a tenth, as it is told; 1 where none is
+/// known.
+double TrackRateFor(const std::optional<double>& measured);
+
 /// One line about the first input that allows no response, by its name in the dialog; "" when all allow it:
 /// the bandwidth is not 0 (for Direction above it), the time is above 0, none is absurdly large.
 std::string TrackResponseTrouble(const TrackResponseInputs& inputs);

@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
+
+#include "platform/NumberText.h"
 
 namespace veerwatch {
 
@@ -49,16 +52,35 @@ double RangeFor(const std::vector<std::vector<Slot>>& curves) {
   return kRanges.back();
 }
 
-std::vector<Stroke> StrokesOf(const std::vector<Slot>& slots, const TrackScale& scale) {
-  const auto place = [&scale](const Slot& slot) {
-    return Point{slot.Time * scale.TimeScale, slot.Error * scale.BearingScale + scale.BearingOrigin -
-                                                  scale.BearingMin * scale.BearingScale};
-  };
-  std::vector<Stroke> strokes;
-  for (std::size_t i = 1; i < slots.size(); ++i) {
-    strokes.push_back({place(slots[i - 1]), place(slots[i])});
+Polyline LineOf(const std::vector<Slot>& slots, const TrackScale& scale) {
+  Polyline line;
+  for (const Slot& slot : slots) {
+    line.push_back({slot.Time * scale.TimeScale,
+                    (slot.Error - scale.BearingMin) * scale.BearingScale + scale.BearingOrigin});
   }
-  return strokes;
+  return line;
+}
+
+/// The numbers in the boxes.
+struct Numbers {
+  Settings Tuning;
+  double Lag = 0.0;
+};
+
+/// Reads the boxes; gives the line about the first that is no number, or "".
+std::string Read(const TrackWindInputs& inputs, Numbers& numbers) {
+  numbers.Tuning = inputs.Tuning;
+  const std::array<std::pair<const char*, const std::string&>, 3> boxes{
+      {{"Bandwidth", inputs.Bandwidth}, {"Damping", inputs.Damping}, {"Boat lag", inputs.Lag}}};
+  for (const auto& [name, text] : boxes) {
+    if (!StrictNumber(text)) {
+      return std::string(name) + " is not a number";
+    }
+  }
+  numbers.Tuning.m_fTrackBandwidth = *StrictNumber(inputs.Bandwidth);
+  numbers.Tuning.m_fTrackDamping = *StrictNumber(inputs.Damping);
+  numbers.Lag = *StrictDouble(inputs.Lag);
+  return TrackWindTrouble(inputs.Winds, numbers.Lag);
 }
 
 }  // namespace
@@ -70,13 +92,14 @@ TrackPreview TrackWindDraw(const TrackWindInputs& inputs, int width, int height,
   if (width < 2 || height - legendHeight < 2) {
     return preview;
   }
-  preview.Trouble = TrackWindTrouble(inputs.Winds, inputs.Lag);
+  Numbers numbers;
+  preview.Trouble = Read(inputs, numbers);
   if (!preview.Trouble.empty()) {
     return preview;
   }
   std::vector<std::vector<Slot>> curves;
   for (const TrackMethod method : {TrackMethod::Sentence, TrackMethod::Clock, TrackMethod::Direction}) {
-    const auto run = TrackWindRunOf(inputs.Tuning, method, inputs.Lag, inputs.Winds);
+    const auto run = TrackWindRunOf(numbers.Tuning, method, numbers.Lag, inputs.Winds);
     if (!run) {
       preview.Trouble = "Bandwidth or damping allow no tracking";
       preview.Curves.clear();
@@ -96,7 +119,7 @@ TrackPreview TrackWindDraw(const TrackWindInputs& inputs, int width, int height,
   scale.BearingScale = -(height - 1 - legendHeight) / (2.0 * range);
   preview.LegendHeight = legendHeight;
   for (std::size_t i = 0; i < curves.size(); ++i) {
-    preview.Curves[i].Strokes = StrokesOf(curves[i], scale);
+    preview.Curves[i].Line = LineOf(curves[i], scale);
   }
   preview.Columns = TrackGridColumns(scale, kGridTime);
   preview.Rows = TrackGridRows(scale, -range, range > 30.0 ? 30.0 : range > 15.0 ? 10.0 : 5.0);

@@ -12,6 +12,7 @@
 #include "options/LoopDiagramQt.h"
 #include "options/SimulateTimeText.h"
 #include "options/TrackInUseText.h"
+#include "platform/NumberText.h"
 
 namespace veerwatch {
 
@@ -67,7 +68,8 @@ void frmOptions::MakeTabs() {
   m_input = new PortPageQt(InputPageTexts(), SSTab);
   m_data = new DataPageQt(SSTab);
   m_output = new PortPageQt(OutputPageTexts(), SSTab);
-  m_track = new TrackPageQt(m_parts.Random, SSTab);
+  m_track = new TrackPageQt(m_parts.Random, m_parts.Main, m_parts.Recorded, SSTab);
+  m_track->Suggested([this](const TrackSuggestion& suggestion) { Suggested(suggestion); });
   m_simulate = new SimulatePageQt(SSTab);
   SSTab->addTab(m_input, QStringLiteral("&Input"));
   SSTab->addTab(m_data, QStringLiteral("&Data"));
@@ -237,6 +239,12 @@ void frmOptions::OnTrackMode(TrackMode /*mode*/) {
   m_track->lblTrackInUse->setText(tuning ? Text(TrackInUseText(*tuning)) : QString());
 }
 
+void frmOptions::OnTick() {
+  if (isVisible() && SSTab->currentIndex() == Tracking) {
+    m_track->ShowRate();
+  }
+}
+
 void frmOptions::ShowHelm() {
   const HelmNow now = m_parts.Main.Now();
   OnInputState(now.Input);
@@ -320,6 +328,11 @@ void frmOptions::cmdApply_Click() {
   } else if (SSTab->currentIndex() == Tracking) {
     m_track->TrackPreviewDraw();
   }
+}
+
+void frmOptions::Suggested(const TrackSuggestion& suggestion) {
+  m_data->txtNmeaTrueWindAverage->setText(QString::fromStdString(ShortestText(suggestion.WindAverage)));
+  ApplyBold(true);
 }
 
 void frmOptions::SSTab_Click(int index) {

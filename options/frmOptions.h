@@ -34,6 +34,7 @@ class frmOptions final : public QDialog, private HelmObserver {
     const OptionsPorts& Ports;
     Dialogs& Asks;
     RandomSource& Random;
+    const WindRecorder& Recorded;
   };
 
   enum Tab { Input = 0, Data = 1, Output = 2, Tracking = 3, Simulate = 4, Diagram = 5 };
@@ -85,6 +86,7 @@ class frmOptions final : public QDialog, private HelmObserver {
   void OnOutputFailure(const std::string& reason) override { m_output->Explain(reason); }
   void OnSourceAdvice(const std::vector<std::string>& lines) override { m_data->Advise(lines); }
   void OnTrackMode(TrackMode mode) override;
+  void OnTick() override;
 
   /// Shows what was told before the dialog was there.
   void ShowHelm();
@@ -96,6 +98,7 @@ class frmOptions final : public QDialog, private HelmObserver {
   void cmdOk_Click();
   void cmdCancel_Click();
   void cmdApply_Click();
+  void Suggested(const TrackSuggestion& suggestion);
   void SSTab_Click(int index);
   void vscSimulate_Changed();
 

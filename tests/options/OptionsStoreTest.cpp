@@ -43,6 +43,7 @@ OptionsForm OtherForm() {
   form.TrackBandwidth = "25";
   form.TrackDamping = "2.5";
   form.TrackMaxSteerTo = "15";
+  form.TrackAlarmAverage = "5";
   return form;
 }
 
@@ -229,6 +230,8 @@ const std::vector<OrderedText>& OrderedTexts() {
        [](const Settings& main) { return main.m_fTrackDamping == 2.5F; }},
       {"Tracking", "Max Steer To", &OptionsForm::TrackMaxSteerTo,
        [](const Settings& main) { return main.m_fTrackMaxSteerTo == 15.0F; }},
+      {"Tracking", "Alarm Average", &OptionsForm::TrackAlarmAverage,
+       [](const Settings& main) { return main.m_fTrackAlarmAverage == 5.0F; }},
   };
   return kTexts;
 }

@@ -100,6 +100,14 @@ TEST(TrackResponse, TellsARateAndATimeThatItDoesNotTake) {
   EXPECT_EQ(TrackResponseTrouble(inputs), "");
 }
 
+TEST(TrackResponse, StepsAtTheRateThatIsTold) {
+  EXPECT_EQ(TrackRateFor(std::nullopt), 1.0);
+  EXPECT_EQ(TrackRateFor(1.02), 1.0);
+  EXPECT_EQ(TrackRateFor(4.97), 5.0);
+  EXPECT_EQ(TrackRateFor(0.01), 0.1);
+  EXPECT_EQ(TrackRateFor(400.0), 100.0);
+}
+
 TEST(TrackFigures, SettlingTimeIsInSecondsAtEveryRate) {
   const std::vector<double> bearings{4.0, 0.5, -1.5, -1.0, 1.0, 0.0};
   EXPECT_EQ(TrackFiguresOf(5.0, bearings, 2.0).SettlingTime, 1.5);

@@ -132,7 +132,8 @@ TEST(TrackWindRun, NeedsTwoMinutesAndALagThatABoatHas) {
 }
 
 TEST(TrackWindPicture, HasACurveForEachMethodBeneathTheLegend) {
-  const TrackPreview picture = TrackWindDraw({Settings(), 4.0, Blow(600.0, 1.0, Shifted)}, 601, 301, 60);
+  const TrackPreview picture =
+      TrackWindDraw({Settings(), "20", "4", "4", Blow(600.0, 1.0, Shifted)}, 601, 301, 60);
   EXPECT_EQ(picture.Trouble, "");
   EXPECT_FALSE(picture.Empty());
   ASSERT_EQ(picture.Curves.size(), 3U);
@@ -140,11 +141,11 @@ TEST(TrackWindPicture, HasACurveForEachMethodBeneathTheLegend) {
   for (const TrackCurve& curve : picture.Curves) {
     EXPECT_TRUE(curve.Text.starts_with(TrackMethodName(curve.Method)));
     // The means of 61 slots of ten seconds, the last with one sample.
-    ASSERT_EQ(curve.Strokes.size(), 60U);
-    EXPECT_NEAR(curve.Strokes.front().From.X, 5.0, 1e-9);
-    for (const Stroke& stroke : curve.Strokes) {
-      EXPECT_GE(stroke.To.Y, 60.0);
-      EXPECT_LE(stroke.To.Y, 300.0);
+    ASSERT_EQ(curve.Line.size(), 61U);
+    EXPECT_NEAR(curve.Line.front().X, 5.0, 1e-9);
+    for (const Point& point : curve.Line) {
+      EXPECT_GE(point.Y, 60.0);
+      EXPECT_LE(point.Y, 300.0);
     }
   }
 }
@@ -152,8 +153,8 @@ TEST(TrackWindPicture, HasACurveForEachMethodBeneathTheLegend) {
 TEST(TrackWindPicture, TheScaleTakesInTheLargestMean) {
   const auto shift = [](double by) {
     return TrackWindDraw(
-        {Settings(), 4.0, Blow(600.0, 1.0, [by](double time) { return time < 300.0 ? 0.0 : by; })}, 601, 241,
-        0);
+        {Settings(), "20", "4", "4", Blow(600.0, 1.0, [by](double time) { return time < 300.0 ? 0.0 : by; })},
+        601, 241, 0);
   };
   EXPECT_EQ(shift(2.0).Scale.BearingMax, 5.0);
   EXPECT_EQ(shift(40.0).Scale.BearingMin, -60.0);
@@ -165,15 +166,22 @@ TEST(TrackWindPicture, TheScaleTakesInTheLargestMean) {
 }
 
 TEST(TrackWindPicture, SaysWhyThereIsNone) {
-  const TrackPreview early = TrackWindDraw({Settings(), 4.0, Blow(30.0, 1.0, Steady)}, 601, 301, 60);
+  const TrackPreview early =
+      TrackWindDraw({Settings(), "20", "4", "4", Blow(30.0, 1.0, Steady)}, 601, 301, 60);
   EXPECT_EQ(early.Trouble, "Two minutes of wind and heading are needed; 30 seconds are recorded");
   EXPECT_TRUE(early.Empty());
-  Settings bad;
-  bad.m_fTrackBandwidth = 0.0F;
-  const TrackPreview none = TrackWindDraw({bad, 4.0, Blow(300.0, 1.0, Steady)}, 601, 301, 60);
+  const TrackPreview none =
+      TrackWindDraw({Settings(), "0", "4", "4", Blow(300.0, 1.0, Steady)}, 601, 301, 60);
+  for (const auto& [bandwidth, damping, lag, name] :
+       {std::array{"x", "4", "4", "Bandwidth"}, std::array{"20", "", "4", "Damping"},
+        std::array{"20", "4", "four", "Boat lag"}}) {
+    const TrackPreview wrong =
+        TrackWindDraw({Settings(), bandwidth, damping, lag, Blow(300.0, 1.0, Steady)}, 601, 301, 60);
+    EXPECT_EQ(wrong.Trouble, std::string(name) + " is not a number");
+  }
   EXPECT_EQ(none.Trouble, "Bandwidth or damping allow no tracking");
   EXPECT_TRUE(none.Empty());
-  EXPECT_TRUE(TrackWindDraw({Settings(), 4.0, Blow(300.0, 1.0, Steady)}, 601, 60, 60).Empty());
+  EXPECT_TRUE(TrackWindDraw({Settings(), "20", "4", "4", Blow(300.0, 1.0, Steady)}, 601, 60, 60).Empty());
 }
 
 }  // namespace

@@ -15,7 +15,8 @@ class FakeMainWindow final : public MainWindowApi {
   std::vector<float> SimulateTimes;  ///< times that SimulateTime was asked for [h]
   HelmObservers Tells;               ///< whom the helm tells
   HelmNow Answer;                    ///< what the helm does
-  float WaypointBearing = 77.0F;     ///< what SimulateTime answers
+  InstrumentRecord Instruments{*this};
+  float WaypointBearing = 77.0F;  ///< what SimulateTime answers
   float WaypointRange = 6.25F;
 
   bool NmeaStart() override { return true; }
@@ -35,6 +36,7 @@ class FakeMainWindow final : public MainWindowApi {
   void AutoPilotSet(float /*bearing*/) override {}
   HelmObservers& Observers() override { return Tells; }
   HelmNow Now() const override { return Answer; }
+  const InstrumentRecord& Record() const override { return Instruments; }
   void TrackSetOff() override { Note("Off"); }
   void TrackSetSetup() override { Note("Setup"); }
   void TrackSetManual() override { Note("Manual"); }

@@ -29,9 +29,12 @@ class OptionsTester : public testing::Test {
   SetPorts Ports;
   QueuedDialogs Dialogs;
   FixedRandom Random;
+  WindRecorder Recorded{Main.Tells, Main.Instruments};
   std::unique_ptr<frmOptions> Window;
 
-  void Make() { Window = std::make_unique<frmOptions>(frmOptions::Parts{Main, Ports, Dialogs, Random}); }
+  void Make() {
+    Window = std::make_unique<frmOptions>(frmOptions::Parts{Main, Ports, Dialogs, Random, Recorded});
+  }
 
   /// Makes the dialog and shows it on a tab.
   void Start(int tab) {
