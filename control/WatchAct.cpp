@@ -21,15 +21,19 @@ WatchAct::Pass WatchAct::Before(bool outputOpen, const Moment& now) {
   if (!May()) {
     return Pass::Steers;
   }
+  m_turnedEnough = TurnedEnough();
+  return Judge(outputOpen, now);
+}
+
+WatchAct::Pass WatchAct::Judge(bool outputOpen, const Moment& now) const {
   const Ages& values = m_watch.Values();
-  const bool turnedEnough = TurnedEnough();
   if (!values.Within(Held(), kOldest, now)) {
     return Pass::None;
   }
   const bool speed =
       !NeedsBoatSpeed() || (values.Within(Watched::BoatSpeed, kOldest, now) && !m_watch.SpeedStuck(now));
   const bool pilot = outputOpen && !m_watch.OutputLost() && m_watch.Following();
-  return speed && pilot && !turnedEnough ? Pass::Steers : Pass::Stands;
+  return speed && pilot && !m_turnedEnough ? Pass::Steers : Pass::Stands;
 }
 
 // A boat that has turned feels another wind: where it stays the same, the vane may be stuck.
@@ -64,7 +68,7 @@ WatchAct::Order WatchAct::Second(const Moment& now) {
   KeepOn(now, order);
   TakePortBack(now, order);
   Luff(order);
-  m_acts = Before(!m_portLost, now) != Pass::Steers || m_loop.Luffs() || order.Switched;
+  m_acts = Judge(!m_portLost, now) != Pass::Steers || m_loop.Luffs() || order.Switched;
   return order;
 }
 

@@ -45,6 +45,7 @@ class WatchAct {
     return m_loop.Side() == TrackSide::True ? Watched::WindTrue : Watched::WindApparent;
   }
   bool NeedsBoatSpeed() const;
+  Pass Judge(bool outputOpen, const Moment& now) const;
   /// The bearing may be turned no further by one and the same wind.
   bool TurnedEnough();
   void KeepOn(const Moment& now, Order& order);
@@ -57,6 +58,7 @@ class WatchAct {
   TrackLoop& m_loop;
   bool m_acts = false;
   double m_anchor = 0.0;  ///< bearing when the wind changed last [deg magnetic]
+  bool m_turnedEnough = false;
   bool m_tookBack = false;
   bool m_wentUp = false;
   bool m_portLost = false;
