@@ -86,6 +86,10 @@ std::string WatchText(const Standing& standing) {
   return {};
 }
 
+std::string_view LevelText(Level level) {
+  return level == Level::Red ? "red" : level == Level::Amber ? "amber" : "note";
+}
+
 std::string_view WatchedText(Watched what) {
   switch (what) {
     case Watched::WindApparent:

@@ -12,6 +12,9 @@ namespace veerwatch {
 /// The line of a condition: "No Wind 7 s", "2 Wind Sources (WI, II)", "Pilot Lost - Output Port 2", ...
 std::string WatchText(const Standing& standing);
 
+/// "red", "amber" or "note".
+std::string_view LevelText(Level level);
+
 /// The name of a quantity: "Apparent Wind", "Boat Speed", ...
 std::string_view WatchedText(Watched what);
 

@@ -8,6 +8,7 @@
 
 #include "cli/Steering.h"
 #include "instruments/MathLib.h"
+#include "log/LineTime.h"
 #include "log/LogReader.h"
 #include "options/TrackWindRun.h"
 #include "platform/NumberText.h"
@@ -60,7 +61,8 @@ std::vector<WindSample> WindsOf(const LogPreviewOptions& options, std::istream& 
   steering.Start();
   LogReader reader(log, LineEnds::Any);
   for (std::string line; reader.Next(line);) {
-    steering.Line(line);
+    const auto time = TakeLineTime(line);
+    steering.Line(line, time);
   }
   settings = steering.Set();
   return recorder.Winds();

@@ -2,6 +2,7 @@
 
 #include "cli/Trace.h"
 #include "cli/WindReport.h"
+#include "log/LineTime.h"
 
 namespace veerwatch {
 
@@ -11,6 +12,23 @@ void Count(LogCounts& counts, const std::optional<std::string>& error) {
   ++counts.Lines;
   counts.NoSentence += error && error->starts_with("Sentence Error") ? 1 : 0;
   counts.WrongChecksum += error && error->starts_with("Checksum Error") ? 1 : 0;
+}
+
+void Write(const ReplayOptions& options, const std::string& line, const Steering& steering,
+           std::ostream& out) {
+  if (options.Steer.Trace) {
+    out << TraceLine(line, steering) << '\n';
+  } else if (options.Steer.Watch) {
+    for (const std::string& condition : steering.WatchLines()) {
+      out << condition << '\n';
+    }
+  } else if (steering.PilotSentence().empty()) {
+    return;
+  } else if (options.Explain) {
+    out << WhyText(steering.LastSentence()) << '\n';
+  } else {
+    out << steering.PilotSentence() << "\r\n";
+  }
 }
 
 }  // namespace
@@ -29,17 +47,14 @@ void Replay(const ReplayOptions& options, std::istream& log, std::ostream& out, 
       steering.EnterMode();
       inMode = true;
     }
-    steering.Line(line);
+    const auto time = TakeLineTime(line);
+    steering.Line(line, time);
     Count(counts, steering.Error());
     steps = steps || steering.Delta();
     if (!inMode && setupSteps > 0 && steering.Delta()) {
       --setupSteps;
     }
-    if (options.Steer.Trace) {
-      out << TraceLine(line, steering) << '\n';
-    } else if (!steering.PilotSentence().empty()) {
-      out << steering.PilotSentence() << "\r\n";
-    }
+    Write(options, line, steering, out);
     // Whoever feeds line by line sees the answer at once.
     if (log.rdbuf()->in_avail() <= 0) {
       out.flush();

@@ -1,7 +1,9 @@
 #include "cli/Steering.h"
 
+#include <algorithm>
 #include <cmath>
 
+#include "alarms/WatchText.h"
 #include "helm/SettingsProfile.h"
 #include "nmea/Fields.h"
 #include "nmea/SentenceTable.h"
@@ -17,6 +19,7 @@ constexpr std::int64_t kSecond = 1000;  // [ms]
 
 Steering::Steering(const SteeringOptions& options, bool simulate, std::uint64_t seed)
     : m_mode(options.Mode),
+      m_watched(options.Watch),
       m_windTime(static_cast<double>(kSecond) / options.WindsASecond),
       m_random(seed),
       m_helm(m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random),
@@ -59,16 +62,51 @@ void Steering::EnterMode() {
   }
 }
 
-void Steering::Line(const std::string& line) {
+void Steering::Line(const std::string& line, const std::optional<std::int64_t>& time) {
   Forget();
-  // A log without times: a second, or what was asked for, for each wind of the tracked side.
-  if (BringsTracked(line)) {
+  if (time) {
+    Pass(std::max<std::int64_t>(0, *time - m_time.value_or(*time)));
+    m_time = time;
+  } else if (BringsTracked(line)) {
+    // A log without times: a second, or what was asked for, for each wind of the tracked side.
     const auto before = std::llround(m_logTime);
     m_logTime += m_windTime;
-    m_clock.Pass(std::llround(m_logTime) - before);
+    Pass(std::llround(m_logTime) - before);
   }
   m_bytes.assign(line).push_back('\r');
   m_nmeaPort.Arrive(m_bytes);
+}
+
+void Steering::Pass(std::int64_t milliseconds) {
+  // Without times the seconds are not the boat's, and tick only where the watch is asked for.
+  const bool ticks = m_watched || m_time;
+  while (ticks && m_sinceTick + milliseconds >= kSecond) {
+    const std::int64_t rest = kSecond - m_sinceTick;
+    m_clock.Pass(rest);
+    milliseconds -= rest;
+    m_sinceTick = 0;
+    m_helm.Tick();
+  }
+  m_clock.Pass(milliseconds);
+  m_sinceTick += ticks ? milliseconds : 0;
+}
+
+void Steering::OnWatch(const WatchNow& watch) {
+  if (!m_watched) {
+    return;
+  }
+  const std::string at = std::to_string(m_clock.Now().Steady / kSecond) + " s ";
+  for (const Standing& one : m_watch.Conditions()) {
+    if (watch.Find(one.What) == nullptr) {
+      m_watchLines.push_back(at + "over " + WatchText(one));
+    }
+  }
+  for (const Standing& one : watch.Conditions()) {
+    if (m_watch.Find(one.What) == nullptr) {
+      m_watchLines.push_back(at + std::string(LevelText(one.Rank)) + " " + WatchText(one));
+    }
+  }
+  m_watch = watch;
 }
 
 void Steering::Tick() {
@@ -89,6 +127,7 @@ void Steering::Forget() {
   m_error.reset();
   m_pilotSentence.clear();
   m_delta.reset();
+  m_watchLines.clear();
 }
 
 }  // namespace veerwatch

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "cli/MemoryPort.h"
 #include "helm/Helm.h"
@@ -25,6 +26,7 @@ struct SteeringOptions {
   TrackMode Mode = TrackMode::Track;
   TrackSide Side = TrackSide::Apparent;
   bool Trace = false;
+  bool Watch = false;         ///< the conditions of the watch are told as they come and go
   double WindsASecond = 1.0;  ///< of the tracked side in a log, which has no times [1/s, above 0]
 };
 
@@ -41,8 +43,10 @@ class Steering final : private HelmObserver {
   /// Goes on to the mode of the options, through Manual; throws CommandError when Track is refused.
   void EnterMode();
 
-  /// Feeds one line as one receive event; the carriage return is added.
-  void Line(const std::string& line);
+  /// Feeds one line as one receive event; the carriage return is added. `time` is when it was recorded [ms
+  /// since 1970 UTC]: seconds that have passed since the line before are ticks. A time that runs back counts
+  /// as none.
+  void Line(const std::string& line, const std::optional<std::int64_t>& time);
   /// One second of the simulator.
   void Tick();
 
@@ -64,11 +68,17 @@ class Steering final : private HelmObserver {
     float Apparent = 0.0F;
     float True = 0.0F;
   };
+  /// Why the last sentence that was sent says what it says.
+  const Why& LastSentence() const { return m_helm.LastSentence(); }
+  /// The conditions that came and went, a line each: "17 s red No Wind 5 s", "21 s over No Wind".
+  const std::vector<std::string>& WatchLines() const { return m_watchLines; }
   /// The errors of the control step, where one ran [deg].
   const std::optional<Deltas>& Delta() const { return m_delta; }
 
  private:
   void Forget();
+  /// The clock goes on, with a tick at every second.
+  void Pass(std::int64_t milliseconds);
   /// A wind of the side that is tracked, or that it follows from.
   bool BringsTracked(std::string_view line) const;
 
@@ -77,8 +87,10 @@ class Steering final : private HelmObserver {
   void OnPilotData(std::string_view sentence) override { m_pilotSentence = sentence; }
   void OnDelta(float apparent, float trueWind) override { m_delta = Deltas{apparent, trueWind}; }
   void OnTrackRefused(TrackRefusal why) override { m_refused = why; }
+  void OnWatch(const WatchNow& watch) override;
 
   TrackMode m_mode;
+  bool m_watched;
   double m_windTime;  ///< between two winds of the tracked side in a log [ms]
   double m_logTime = 0.0;
   Settings m_settings;
@@ -90,6 +102,10 @@ class Steering final : private HelmObserver {
   Helm m_helm;
   HelmObservers::Membership m_told;
   std::string m_bytes;
+  std::optional<std::int64_t> m_time;  ///< of the latest line [ms since 1970 UTC]
+  std::int64_t m_sinceTick = 0;        ///< [ms]
+  WatchNow m_watch;                    ///< what was told last
+  std::vector<std::string> m_watchLines;
 
   std::string m_status;
   bool m_used = false;

@@ -291,6 +291,10 @@ class ReplayArguments {
         ->check(kWholeNumber)
         ->type_name("N");
     m_replay->add_flag("--raw", m_raw, "Bytes as on the wire: only a carriage return ends a line");
+    CLI::Option* const watch =
+        m_replay->add_flag("--watch", m_watch, "What the watch finds, as it comes and goes, instead");
+    m_replay->add_flag("--explain", m_options.Explain, "Why each sentence says what it says, instead")
+        ->excludes(watch);
     m_replay->add_option("FILE", m_file, "The log; standard input without one");
   }
 
@@ -298,6 +302,7 @@ class ReplayArguments {
 
   void Run() {
     m_options.Steer = m_steering.Taken();
+    m_options.Steer.Watch = m_watch;
     m_options.Ends = m_raw ? veerwatch::LineEnds::CarriageReturn : veerwatch::LineEnds::Any;
     if (!m_file) {
       veerwatch::Replay(m_options, std::cin, std::cout, std::cerr);
@@ -312,6 +317,7 @@ class ReplayArguments {
   SteeringArguments m_steering;
   veerwatch::ReplayOptions m_options;
   std::optional<std::string> m_file;
+  bool m_watch = false;
   bool m_raw = false;
 };
 

@@ -1,0 +1,35 @@
+#include "log/LineTime.h"
+
+#include <gtest/gtest.h>
+
+namespace veerwatch {
+namespace {
+
+TEST(LineTime, IsTakenOffTheFrontOfTheLine) {
+  std::string line = "2026-11-21T09:15:02.123Z $IIMWV,045.0,R,10.5,N,A";
+  EXPECT_EQ(TakeLineTime(line), 1795252502123);
+  EXPECT_EQ(line, "$IIMWV,045.0,R,10.5,N,A");
+}
+
+TEST(LineTime, HasAnyFractionOrNone) {
+  std::string line = "1970-01-02T00:00:01Z x";
+  EXPECT_EQ(TakeLineTime(line), 86401000);
+  line = "1970-01-01T00:00:00.5Z x";
+  EXPECT_EQ(TakeLineTime(line), 500);
+  line = "1970-01-01T00:00:00.123456789Z x";
+  EXPECT_EQ(TakeLineTime(line), 123);
+}
+
+TEST(LineTime, ALineWithoutOneStaysAsItIs) {
+  for (const char* text : {"", "$IIMWV,045,R,10.5,N,A", "2026-11-21T09:15:02.123Z", "2026-11-21 09:15:02Z $",
+                           "2026-11-21T09:15:02 $", "2026-13-21T09:15:02Z $", "2026-02-29T09:15:02Z $",
+                           "2026-11-21T24:15:02Z $", "2026-11-21T09:60:02Z $", "2026-11-21T09:15:02.Z $",
+                           "2026-11-21T09:15:02.1234567890Z $", "2026-11-2xT09:15:02Z $"}) {
+    std::string line = text;
+    EXPECT_EQ(TakeLineTime(line), std::nullopt) << text;
+    EXPECT_EQ(line, text);
+  }
+}
+
+}  // namespace
+}  // namespace veerwatch
