@@ -86,27 +86,41 @@ TEST(Holding, TheDefaultLosesTheAngleAtTenWindsASecond) {
   EXPECT_GT(result.Changes, 500.0);
 }
 
-/// Every fifteenth of the ninety passages.
-HoldSummary SomePassages(std::size_t method, float bandwidth, double rate) {
-  HoldCase what;
-  what.Method = NamedMethods().at(method);
-  what.Bandwidth = bandwidth;
-  what.WindRate = rate;
+/// Seven of the ninety passages of `what`, with every lag, sea and angle among them.
+HoldSummary SomePassages(const HoldCase& what) {
   const std::vector<HoldCase> all = Passages(what);
   std::vector<HoldResult> results;
-  for (std::size_t i = 3; i < all.size(); i += 15) {
+  for (std::size_t i = 0; i < all.size(); i += 13) {
     results.push_back(Hold(all[i]));
   }
   return SummaryOf(results);
 }
 
-TEST(Holding, ByClockAndDirectionTheRateOfTheSentencesHardlyMatters) {
-  for (const auto& [method, bandwidth] : {std::pair{1U, 60.0F}, std::pair{2U, 20.0F}}) {
-    const HoldSummary slow = SomePassages(method, bandwidth, 1.0);
-    const HoldSummary quick = SomePassages(method, bandwidth, 10.0);
-    EXPECT_EQ(slow.Lost, 0) << method;
-    EXPECT_EQ(quick.Lost, 0) << method;
+HoldSummary SomePassages(std::size_t method, float bandwidth, double rate) {
+  HoldCase what;
+  what.Method = NamedMethods().at(method);
+  what.Bandwidth = bandwidth;
+  what.WindRate = rate;
+  return SomePassages(what);
+}
+
+TEST(Holding, ClockAndDirectionHoldTwiceAsCloselyAsAConstantHeadingAtEveryRate) {
+  HoldCase what;
+  what.Constant = true;
+  const HoldSummary constant = SomePassages(what);
+  const HoldSummary byDefault = SomePassages({});
+  for (const std::size_t method : {1U, 2U}) {
+    const HoldSummary slow = SomePassages(method, 60.0F, 1.0);
+    const HoldSummary quick = SomePassages(method, 60.0F, 10.0);
+    for (const HoldSummary& held : {slow, quick}) {
+      EXPECT_EQ(held.Lost, 0) << method;
+      EXPECT_LT(held.Rms, 0.6 * constant.Rms) << method;
+      EXPECT_LT(held.Rudder, 0.8 * byDefault.Rudder) << method;
+    }
     EXPECT_NEAR(quick.Rms, slow.Rms, 0.1 * slow.Rms) << method;
+    if (method == 2U) {
+      EXPECT_LT(quick.Changes, 35.0) << "the pilot has quiet";
+    }
   }
 }
 
