@@ -121,16 +121,18 @@ LimitedBearing TrackDirection::Move(double goal, double bearing, const BearingLi
   // The goal itself stays within Max Ahead of the heading.
   const double ahead = Fold(goal - m_heading);
   const double held = m_heading + std::clamp(ahead, -limits.MaxAhead, limits.MaxAhead);
+  const bool beyond = std::fabs(ahead) > limits.MaxAhead;
   const double off = Fold(held - bearing);
   m_off += off * seconds;
   if (std::fabs(off) <= kWorthMoving && std::fabs(m_off) < kWorthInAll) {
     LimitedBearing waits;
     waits.Bearing = bearing;
+    waits.ByAhead = waits.Bites = beyond;
     return waits;
   }
   m_off = 0.0;
   LimitedBearing steer = LimitBearing(bearing, held, m_heading, limits, seconds);
-  steer.ByAhead = steer.ByAhead || held != m_heading + ahead;
+  steer.ByAhead = steer.ByAhead || beyond;
   steer.Bites = steer.Bites || steer.ByAhead;
   return steer;
 }

@@ -79,6 +79,13 @@ TEST_P(ByTheClock, BeginsAtTheHeadingWhenTheBearingIsFarOff) {
   EXPECT_EQ(Bearing(), 95.0F);
 }
 
+TEST_P(ByTheClock, BeginsAtTheHeadingOnEitherSide) {
+  Passes(3);
+  m_settings.m_fAutoPilot = 79.0F;
+  Track(TrackSide::True);
+  EXPECT_EQ(Bearing(), 95.0F);
+}
+
 TEST_P(ByTheClock, KeepsABearingThatIsNear) {
   Passes(3);
   m_settings.m_fAutoPilot = 109.0F;
@@ -187,6 +194,49 @@ TEST_P(ClockMethod, CountsTheTimeOfTheTrackedWindAlone) {
   EXPECT_NEAR(Bearing(), bearing, 1e-3);
 }
 
+TEST_P(ClockMethod, TheFirstWindAfterEachStartHasNoTime) {
+  Passes(11);
+  Track(TrackSide::True);
+  m_data.WindAngleTrue = 64.0F;
+  Pass(1000);
+  EXPECT_EQ(Bearing(), 100.0F);
+  Pass(1000);
+  const float before = Bearing();
+  EXPECT_NE(before, 100.0F);
+  ASSERT_TRUE(m_loop.StartTracking());
+  Pass(1000);
+  EXPECT_EQ(Bearing(), before) << "Track again";
+  m_loop.Side(TrackSide::Apparent);
+  m_data.WindAngleApparent = 47.0F;
+  Pass(1000);
+  EXPECT_EQ(Bearing(), before) << "another side";
+}
+
+TEST_P(ClockMethod, AnotherSideAndANudgeBeginWithAnEmptyAccumulator) {
+  // What the accumulator holds is part of the first correction that has a time.
+  const auto corrected = [this] {
+    const float before = Bearing();
+    Pass(1000);
+    return Bearing() - before;
+  };
+  m_settings.m_fTrackBandwidth = 8.0F;
+  m_settings.m_fTrackDamping = 0.5F;
+  Passes(11);
+  Track(TrackSide::True);
+  m_data.WindAngleTrue = 62.0F;
+  Passes(4);
+  m_data.WindAngleTrue = 60.0F;
+  EXPECT_GT(corrected(), 0.2F) << "it has added up";
+  m_loop.Side(TrackSide::Apparent);
+  Pass(1000);
+  EXPECT_NEAR(corrected(), 0.0F, 1e-4F);
+  m_data.WindAngleApparent = 42.0F;
+  Passes(4);
+  m_loop.TrackSteerTo(0.0F);
+  m_data.WindAngleApparent = Held(TrackSide::Apparent);
+  EXPECT_NEAR(corrected(), 0.0F, 1e-4F);
+}
+
 TEST_P(ClockMethod, WhatIsNotTrackedMovesNothingAndIsSentAllTheSame) {
   Passes(11);
   Track(TrackSide::True);
@@ -230,6 +280,16 @@ TEST_P(ByTheClock, TellsHowManyWindsComeASecond) {
     Pass(200, pass % 2 == 0, pass % 2 == 1);
   }
   EXPECT_NEAR(m_loop.WindsASecond().value_or(0.0), 5.0, 0.01) << "those of both sides";
+}
+
+TEST_P(DirectionMethod, ABoatSpeedThatIsNotThereCountsAsNone) {
+  // The target of the apparent wind is then that of the true one.
+  m_data.BoatSpeedValid = false;
+  m_settings.m_eTrackMode = TrackMode::Manual;
+  m_data.WindAngleApparent = 60.0F;
+  Passes(11);
+  Track(TrackSide::Apparent);
+  EXPECT_NEAR(Pass(1000).Error, 0.0F, 0.01F);
 }
 
 using AlarmAverage = TrackMethods;

@@ -327,5 +327,35 @@ TEST_F(InstrumentRecordTest, AVerySmallCountNeverBringsAValueThatIsNotFiniteInto
   }
 }
 
+TEST(InstrumentRecordByTheClock, AveragesByTheTimeOfTwoSecondsAtMost) {
+  for (const auto& [milliseconds, weight] : {std::pair{1000, 0.25F}, std::pair{500, 0.1340F},
+                                             std::pair{2000, 0.4375F}, std::pair{60000, 0.4375F}}) {
+    Settings settings;
+    settings.m_fNmeaTrueWindAverage = 4.0F;
+    InstrumentRecord record(settings);
+    for (const TrackMethod method : {TrackMethod::Sentence, TrackMethod::Clock}) {
+      settings.m_eTrackMethod = method;
+      record.Restart();
+      Origin from;
+      from.At.Steady = 5000;
+      record.HeadingUpdate(100.0F, from);
+      record.BoatSpeedUpdate(4.0F, from);
+      record.WindApparentUpdate(40.0F, 10.0F, false, from);
+      record.WindTrueUpdate(60.0F, 8.0F, true, from);
+      from.At.Steady += milliseconds;
+      record.HeadingUpdate(110.0F, from);
+      record.BoatSpeedUpdate(5.0F, from);
+      record.WindApparentUpdate(50.0F, 11.0F, false, from);
+      record.WindTrueUpdate(70.0F, 9.0F, true, from);
+      const float share = method == TrackMethod::Sentence ? 0.25F : weight;
+      const InstrumentData& data = record.Data();
+      EXPECT_NEAR(data.HeadingAverage, 100.0F + 10.0F * share, 0.02F) << milliseconds;
+      EXPECT_NEAR(data.BoatSpeedAverage, 4.0F + share, 0.02F) << milliseconds;
+      EXPECT_NEAR(data.WindAngleApparentAverage, 40.0F + 10.0F * share, 0.02F) << milliseconds;
+      EXPECT_NEAR(data.WindAngleTrue, 60.0F + 10.0F * share, 0.02F) << milliseconds;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace veerwatch

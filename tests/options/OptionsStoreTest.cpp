@@ -89,7 +89,10 @@ TEST_F(OptionsStoring, EachSentenceGoesToItsOwnSetting) {
       {"HDG", &Settings::m_bNmeaSentenceHDG}, {"HVM", &Settings::m_bNmeaSentenceHVM},
       {"MWV", &Settings::m_bNmeaSentenceMWV}, {"RMB", &Settings::m_bNmeaSentenceRMB},
       {"RMC", &Settings::m_bNmeaSentenceRMC}, {"VHW", &Settings::m_bNmeaSentenceVHW},
-      {"VTG", &Settings::m_bNmeaSentenceVTG}};
+      {"VTG", &Settings::m_bNmeaSentenceVTG}, {"HDM", &Settings::m_bNmeaSentenceHDM},
+      {"HDT", &Settings::m_bNmeaSentenceHDT}, {"MWD", &Settings::m_bNmeaSentenceMWD},
+      {"THS", &Settings::m_bNmeaSentenceTHS}, {"VWR", &Settings::m_bNmeaSentenceVWR},
+      {"VWT", &Settings::m_bNmeaSentenceVWT}};
   ASSERT_EQ(settings.size(), kSentences.size());
   for (std::size_t i = 0; i < kSentences.size(); ++i) {
     OptionsForm form = OtherForm();
