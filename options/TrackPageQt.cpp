@@ -4,6 +4,7 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QRegularExpression>
 #include <QVBoxLayout>
 #include <utility>
 
@@ -16,6 +17,13 @@ namespace {
 
 // Deliberate: the bounds carry the hint of the time.
 constexpr const char* kTimeHint = "Track Time (sec)";
+
+/// A sentence broken after its first colon or semicolon. A label that wraps by itself would make the page
+/// scroll: it claims the height of its narrowest form.
+QString OnTwoLines(QString sentence) {
+  const qsizetype part = sentence.indexOf(QRegularExpression(QStringLiteral("[:;] ")));
+  return part < 0 ? sentence : sentence.replace(part + 1, 1, QLatin1Char('\n'));
+}
 
 OptionEntryQt* NewPreviewEntry(const char* name, const char* hint, const char* text, QWidget* parent) {
   auto* box = new OptionEntryQt(name, hint, parent);
@@ -63,7 +71,6 @@ TrackPageQt::TrackPageQt(RandomSource& random, const MainWindowApi& main, const 
     // However long the text is, the page stays as wide as its boxes.
     label->setSizePolicy(QSizePolicy::Ignored, label->sizePolicy().verticalPolicy());
   }
-  lblTrackReason->setWordWrap(true);
   lblTrackReason->hide();
   lblTrackSwings->setContentsMargins(6, 2, 6, 2);
   lblTrackSwings->setAutoFillBackground(true);
@@ -210,7 +217,7 @@ void TrackPageQt::cmdTrackSuggest_Click() {
   cmbTrackMethod->setCurrentIndex(static_cast<int>(suggestion.Method));
   txtTrackBandwidth->setText(QString::fromStdString(ShortestText(suggestion.Bandwidth)));
   txtTrackAlarmAverage->setText(QString::fromStdString(ShortestText(suggestion.AlarmAverage)));
-  lblTrackReason->setText(QString::fromStdString(suggestion.Reason));
+  lblTrackReason->setText(OnTwoLines(QString::fromStdString(suggestion.Reason)));
   TrackPreviewDraw();
   if (m_suggested) {
     m_suggested(suggestion);

@@ -153,6 +153,7 @@ QPen TrackPreviewQt::CurvePen(TrackMethod method) const {
 }
 
 void TrackPreviewQt::RenderCurves(QPainter& painter) const {
+  painter.setClipRect(QRect(QPoint(0, m_picture.LegendHeight), Pixels()));
   painter.setRenderHint(QPainter::Antialiasing);
   for (const TrackCurve& curve : m_picture.Curves) {
     QPen pen = CurvePen(curve.Method);
@@ -160,6 +161,7 @@ void TrackPreviewQt::RenderCurves(QPainter& painter) const {
     painter.setPen(pen);
     painter.drawPolyline(ToQt(curve.Line));
   }
+  painter.setClipping(false);
 }
 
 void TrackPreviewQt::RenderLegend(QPainter& painter) const {

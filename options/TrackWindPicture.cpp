@@ -14,6 +14,7 @@ namespace {
 constexpr std::int64_t kSlot = 10000;  // [ms]
 constexpr double kMillisecondsPerSecond = 1000.0;
 constexpr double kGridTime = 100.0;                                                 // [s]
+constexpr double kLost = 20.0;                                                      // [deg] root mean square
 constexpr std::array<double, 7> kRanges{5.0, 10.0, 15.0, 30.0, 60.0, 90.0, 180.0};  // [deg]
 
 /// The mean error of a slot, at its middle.
@@ -37,10 +38,22 @@ std::vector<Slot> SlotsOf(const TrackWindRun& run, const std::vector<WindSample>
   return slots;
 }
 
-double RangeFor(const std::vector<std::vector<Slot>>& curves) {
+/// One of the methods, as it is drawn.
+struct Run {
+  bool Lost = false;  // it does not hold the wind
+  std::vector<Slot> Slots;
+};
+
+/// The least range that takes in every run, or those that hold where any does: one that swings about would
+/// leave the others flat.
+double RangeFor(const std::vector<Run>& runs) {
+  const bool allLost = std::all_of(runs.begin(), runs.end(), [](const Run& run) { return run.Lost; });
   double largest = 0.0;
-  for (const auto& curve : curves) {
-    for (const Slot& slot : curve) {
+  for (const Run& run : runs) {
+    if (run.Lost && !allLost) {
+      continue;
+    }
+    for (const Slot& slot : run.Slots) {
       largest = std::max(largest, std::fabs(slot.Error));
     }
   }
@@ -97,7 +110,7 @@ TrackPreview TrackWindDraw(const TrackWindInputs& inputs, int width, int height,
   if (!preview.Trouble.empty()) {
     return preview;
   }
-  std::vector<std::vector<Slot>> curves;
+  std::vector<Run> runs;
   for (const TrackMethod method : {TrackMethod::Sentence, TrackMethod::Clock, TrackMethod::Direction}) {
     const auto run = TrackWindRunOf(numbers.Tuning, method, numbers.Lag, inputs.Winds);
     if (!run) {
@@ -106,10 +119,10 @@ TrackPreview TrackWindDraw(const TrackWindInputs& inputs, int width, int height,
       return preview;
     }
     preview.Curves.push_back({method, run->Text(), {}});
-    curves.push_back(SlotsOf(*run, inputs.Winds));
+    runs.push_back({run->RootMeanSquare > kLost, SlotsOf(*run, inputs.Winds)});
   }
   TrackScale& scale = preview.Scale;
-  const double range = RangeFor(curves);
+  const double range = RangeFor(runs);
   scale.TimeEnd =
       static_cast<double>(inputs.Winds.back().Moment - inputs.Winds.front().Moment) / kMillisecondsPerSecond;
   scale.TimeScale = (width - 1) / scale.TimeEnd;
@@ -118,8 +131,8 @@ TrackPreview TrackWindDraw(const TrackWindInputs& inputs, int width, int height,
   scale.BearingOrigin = height - 1;
   scale.BearingScale = -(height - 1 - legendHeight) / (2.0 * range);
   preview.LegendHeight = legendHeight;
-  for (std::size_t i = 0; i < curves.size(); ++i) {
-    preview.Curves[i].Line = LineOf(curves[i], scale);
+  for (std::size_t i = 0; i < runs.size(); ++i) {
+    preview.Curves[i].Line = LineOf(runs[i].Slots, scale);
   }
   preview.Columns = TrackGridColumns(scale, kGridTime);
   preview.Rows = TrackGridRows(scale, -range, range > 30.0 ? 30.0 : range > 15.0 ? 10.0 : 5.0);

@@ -20,7 +20,8 @@ struct TrackWindInputs {
 };
 
 /// Runs every method and draws the error of each as the mean of ten seconds, beneath a legend of
-/// `legendHeight`, for a size [plot units]. The largest error gives the scale; text that is not a number, and
+/// `legendHeight`, for a size [plot units]. The largest error of the methods that hold the wind within 20
+/// degrees gives the scale, and what lies beyond it is for the painter to cut; text that is not a number, and
 /// what allows no run, end in Trouble.
 TrackPreview TrackWindDraw(const TrackWindInputs& inputs, int width, int height, int legendHeight);
 

@@ -237,6 +237,7 @@ void frmOptions::OnOutputState(OutputState state) { m_output->Status->setText(Te
 void frmOptions::OnTrackMode(TrackMode /*mode*/) {
   const auto tuning = m_parts.Main.Now().InUse;
   m_track->lblTrackInUse->setText(tuning ? Text(TrackInUseText(*tuning)) : QString());
+  m_track->lblTrackInUse->setVisible(tuning.has_value());
 }
 
 void frmOptions::OnTick() {

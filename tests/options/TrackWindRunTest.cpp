@@ -165,6 +165,22 @@ TEST(TrackWindPicture, TheScaleTakesInTheLargestMean) {
   EXPECT_EQ(picture.ReadOut(0.0, 120.0), "time=0, error=0");
 }
 
+TEST(TrackWindPicture, AMethodThatIsLostLeavesTheOthersTheirScale) {
+  const auto winds = Blow(600.0, 10.0, Shifted);
+  const TrackPreview picture = TrackWindDraw({Settings(), "20", "4", "6", winds}, 601, 301, 60);
+  EXPECT_EQ(picture.Scale.BearingMax, 10.0);
+  const auto beyond = [&picture](const Point& point) {
+    return picture.Scale.BearingOrigin + 2.0 * 10.0 * picture.Scale.BearingScale > point.Y ||
+           point.Y > picture.Scale.BearingOrigin;
+  };
+  const auto leaves = [&beyond](const TrackCurve& curve) {
+    return std::any_of(curve.Line.begin(), curve.Line.end(), beyond);
+  };
+  EXPECT_TRUE(leaves(picture.Curves[0]));
+  EXPECT_FALSE(leaves(picture.Curves[1]));
+  EXPECT_FALSE(leaves(picture.Curves[2]));
+}
+
 TEST(TrackWindPicture, SaysWhyThereIsNone) {
   const TrackPreview early =
       TrackWindDraw({Settings(), "20", "4", "4", Blow(30.0, 1.0, Steady)}, 601, 301, 60);

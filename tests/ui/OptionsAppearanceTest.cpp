@@ -31,6 +31,9 @@ class OptionsAppearance : public OptionsTester {
     InputIs(InputState::Running);
     OutputIs(OutputState::Running);
     Main.Answer.InUse = TrackTuning{33.5F, 2.25F};
+    Main.Answer.WindsASecond = 5.0;
+    Find<QPushButton>("cmdTrackSuggest").click();
+    Find<QLineEdit>("txtTrackBandwidth").setText("20");
     Main.Tells.Tell([](HelmObserver& told) { told.OnTrackMode(TrackMode::Track); });
     Find<QRadioButton>("optNmeaListOn").setChecked(true);
     for (int i = 0; i < 30; ++i) {

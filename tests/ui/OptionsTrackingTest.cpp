@@ -49,12 +49,13 @@ TEST_F(OptionsTracking, SuggestFillsTheBoxesAndStoresNothingBeforeApply) {
   Type("txtTrackLag", "8");
   Click("cmdTrackSuggest");
   EXPECT_EQ(Find<QComboBox>("cmbTrackMethod").currentText(), "Direction");
-  EXPECT_EQ(Entry("txtTrackBandwidth"), "60");
+  EXPECT_EQ(Entry("txtTrackBandwidth"), "40");
   EXPECT_EQ(Entry("txtTrackAlarmAverage"), "5");
   EXPECT_EQ(Entry("txtNmeaTrueWindAverage"), "2");
-  EXPECT_EQ(Text("lblTrackReason"),
-            "Direction holds at 5 wind sentences a second without tuning; 60 s keep the rudder calm, as the "
-            "boat takes 8 s to answer.");
+  EXPECT_EQ(
+      Text("lblTrackReason"),
+      "Direction holds at 5 wind sentences a second without tuning;\n40 s follow closely and cost little "
+      "rudder on a boat that takes 8 s to answer.");
   EXPECT_TRUE(Find<QLabel>("lblTrackReason").isVisible());
   EXPECT_TRUE(Bold());
   EXPECT_EQ(Main.m_eTrackMethod, TrackMethod::Sentence);
@@ -62,7 +63,7 @@ TEST_F(OptionsTracking, SuggestFillsTheBoxesAndStoresNothingBeforeApply) {
   EXPECT_EQ(Main.m_fTrackAlarmAverage, 0.0F);
   Click("cmdApply");
   EXPECT_EQ(Main.m_eTrackMethod, TrackMethod::Direction);
-  EXPECT_EQ(Main.m_fTrackBandwidth, 60.0F);
+  EXPECT_EQ(Main.m_fTrackBandwidth, 40.0F);
   EXPECT_EQ(Main.m_fTrackAlarmAverage, 5.0F);
   EXPECT_FALSE(Find<QLabel>("lblTrackReason").isVisible());
 }

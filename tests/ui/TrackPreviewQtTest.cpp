@@ -54,6 +54,52 @@ TEST_F(TrackPreviewWidget, TellsWhenItGetsItsSizeAndEachNewOne) {
   EXPECT_EQ(Resizes, 2);
 }
 
+/// Half an hour with shifts and gusts, two winds a second.
+TrackWindInputs HalfHour() {
+  TrackWindInputs inputs{Settings(), "20", "4", "6", {}};
+  SeededRandom random(5);
+  double shift = 0.0;
+  for (int i = 0; i < 3600; ++i) {
+    shift += (random.Next() - 0.5) * 1.6 - shift * 0.01;
+    WindSample wind;
+    wind.Moment = i * 500;
+    wind.Direction = static_cast<float>(200.0 + shift + (random.Next() - 0.5) * 6.0);
+    wind.Speed = 12.0F;
+    inputs.Winds.push_back(wind);
+  }
+  return inputs;
+}
+
+TEST_F(TrackPreviewWidget, PaintsACurveForEachMethodBeneathItsLegend) {
+  Plot.resize(560, 260);
+  for (const bool dark : {false, true}) {
+    Plot.setPalette(Shade(dark));
+    Plot.Draw(HalfHour());
+    ASSERT_EQ(Plot.Picture().Curves.size(), 3U) << Plot.Picture().Trouble;
+    const QImage image = Grabbed(Plot, "track-wind", dark);
+    const QColor base = Plot.palette().color(QPalette::Base);
+    // Grid and reference lines end at the legend.
+    EXPECT_EQ(image.pixelColor(540, 2), base);
+    const int legend = Plot.Picture().LegendHeight;
+    std::vector<QColor> samples;
+    for (int line = 0; line < 3; ++line) {
+      QColor darkest = base;
+      const int middle = 4 + (2 * line + 1) * (legend - 8) / 6;
+      for (int x = 6; x < 36; ++x) {
+        for (int y = middle - 1; y <= middle + 1; ++y) {
+          if (Contrast(image.pixelColor(x, y), base) > Contrast(darkest, base)) {
+            darkest = image.pixelColor(x, y);
+          }
+        }
+      }
+      EXPECT_GE(Contrast(darkest, base), 3.0) << line;
+      samples.push_back(darkest);
+    }
+    EXPECT_NE(samples[0], samples[1]);
+    EXPECT_NE(samples[1], samples[2]);
+  }
+}
+
 TEST_F(TrackPreviewWidget, PaintsGridReferencesAndTrace) {
   for (const bool dark : {false, true}) {
     Plot.setPalette(Shade(dark));
