@@ -98,6 +98,8 @@ class Held {
     m_passage.Sail(kComesToRest);
   }
 
+  Passage& OnHerWay() { return m_passage; }
+
   HoldResult Result() {
     const double travel = m_passage.Boat.State().RudderTravel;
     const int changes = m_passage.Boat.Pilot().BearingChanges();
@@ -183,6 +185,11 @@ const std::vector<NamedMethod>& NamedMethods() {
 }
 
 HoldResult Hold(const HoldCase& what) { return Held(what).Result(); }
+
+void HoldAnd(const HoldCase& what, const std::function<void(Passage&)>& then) {
+  Held held(what);
+  then(held.OnHerWay());
+}
 
 UpsetResult StandbyUpset(const HoldCase& what, double off) { return Held(what).Standby(off); }
 

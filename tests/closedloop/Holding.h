@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -50,6 +51,10 @@ struct HoldResult {
 
 /// Five minutes to come to rest, then twenty that count.
 HoldResult Hold(const HoldCase& what);
+
+class Passage;
+/// Once she has come to rest, hands her on.
+void HoldAnd(const HoldCase& what, const std::function<void(Passage&)>& then);
 
 struct UpsetResult {
   double Back = 0.0;    ///< afterwards, until the mean error of ten seconds is within 5 degrees [s, [0, 120]]

@@ -1,0 +1,96 @@
+// Sails 24 hours through rough seas with nothing wrong and prints every condition that the watch finds all
+// the same: `veerwatch_watched [--method NAME]`. script/watch calls it.
+#include <array>
+#include <cstdint>
+#include <iostream>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "alarms/WatchText.h"
+#include "tests/closedloop/Holding.h"
+#include "tests/closedloop/Passage.h"
+
+namespace {
+
+using namespace veerwatch;
+
+constexpr double kHours = 4.0;  // for each held angle
+constexpr double kSecondsPerHour = 3600.0;
+
+constexpr std::array<std::pair<TrackSide, double>, 6> kHeld{{{TrackSide::True, 45.0},
+                                                             {TrackSide::True, 100.0},
+                                                             {TrackSide::True, 150.0},
+                                                             {TrackSide::Apparent, 35.0},
+                                                             {TrackSide::Apparent, 90.0},
+                                                             {TrackSide::Apparent, 140.0}}};
+constexpr std::array<Sea, 3> kRough{Sea::Beam, Sea::Following, Sea::Head};
+
+/// Counts the conditions as they come.
+class Counter final : private HelmObserver {
+ public:
+  explicit Counter(Helm& helm) : m_told(helm.Observers().Join(*this)) {}
+
+  int Red = 0;
+  int Amber = 0;
+
+ private:
+  void OnWatch(const WatchNow& watch) override {
+    for (const Standing& one : watch.Conditions()) {
+      if (m_before.Find(one.What) == nullptr && one.Rank != Level::Note) {
+        ++(one.Rank == Level::Red ? Red : Amber);
+        std::cout << "  " << watch.At.Steady / 1000 << " s " << LevelText(one.Rank) << ' ' << WatchText(one)
+                  << '\n';
+      }
+    }
+    m_before = watch;
+  }
+
+  WatchNow m_before;
+  HelmObservers::Membership m_told;
+};
+
+/// Sails one angle, a third of the time in each rough sea.
+std::pair<int, int> Sail(const NamedMethod& method, TrackSide side, double angle, std::uint64_t seed) {
+  std::pair<int, int> found;
+  for (const Sea sea : kRough) {
+    HoldCase what;
+    what.Method = method;
+    what.Bandwidth = 60.0F;
+    what.TheSea = sea;
+    what.Side = side;
+    what.Angle = angle;
+    what.Seed = seed++;
+    HoldAnd(what, [&found](Passage& passage) {
+      passage.Set.m_fTrackAlarmLimit = 30.0F;
+      passage.Set.m_fTrackAlarmAverage = 5.0F;
+      const Counter counter(passage.TheHelm());
+      passage.Sail(kHours * kSecondsPerHour / static_cast<double>(kRough.size()));
+      found.first += counter.Red;
+      found.second += counter.Amber;
+    });
+  }
+  return found;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const std::string_view asked = argc == 3 && std::string_view(argv[1]) == "--method" ? argv[2] : "";
+  for (const NamedMethod& method : NamedMethods()) {
+    if (!asked.empty() && asked != method.Name) {
+      continue;
+    }
+    int red = 0;
+    int amber = 0;
+    std::uint64_t seed = 1;
+    for (const auto& [side, angle] : kHeld) {
+      const auto [r, a] = Sail(method, side, angle, seed);
+      seed += kRough.size();
+      red += r;
+      amber += a;
+    }
+    std::cout << "| " << method.Name << " | " << red << " | " << amber << " |\n" << std::flush;
+  }
+  return 0;
+}
