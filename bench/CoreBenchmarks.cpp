@@ -12,6 +12,7 @@
 #include "bench/SampleLines.h"
 #include "control/TrackDirection.h"
 #include "control/TrackLoop.h"
+#include "control/Watch.h"
 
 namespace veerwatch {
 
@@ -127,6 +128,46 @@ void DirectionLoop(benchmark::State& state) {
   }
 }
 BENCHMARK(DirectionLoop)->Arg(1)->Arg(10);
+
+/// What the watch takes for a wind sentence and the pass that it led to, its readings included.
+void WatchSentence(benchmark::State& state) {
+  Settings settings;
+  InstrumentRecord record(settings);
+  Watch watch(settings, record);
+  Origin from{{'M', 'W', 'V'}, {'I', 'I'}, 1, {}};
+  const LoopStep step;
+  const std::uint64_t before = AllocationCount();
+  for (auto _ : state) {
+    from.At.Steady += 33;
+    const float angle = 30.0F + static_cast<float>(from.At.Steady % 20);
+    Readings readings(from);
+    readings.Add(Quantity::ApparentWindAngle, angle);
+    readings.Add(Quantity::ApparentWindSpeed, 12.0F);
+    record.WindApparentUpdate(angle, 12.0F, true, from);
+    watch.Sentence(readings);
+    watch.Step(step, 54, from.At);
+  }
+  state.counters["allocations"] = static_cast<double>(AllocationCount() - before);
+}
+BENCHMARK(WatchSentence);
+
+/// Its look at everything, once a second.
+void WatchLook(benchmark::State& state) {
+  Settings settings;
+  settings.m_eTrackMode = TrackMode::Track;
+  const InstrumentRecord record(settings);
+  Watch watch(settings, record);
+  Watch::Around around;
+  around.InputStarted = true;
+  Moment now;
+  const std::uint64_t before = AllocationCount();
+  for (auto _ : state) {
+    now.Steady += 1000;
+    benchmark::DoNotOptimize(watch.Look(around, now));
+  }
+  state.counters["allocations"] = static_cast<double>(AllocationCount() - before);
+}
+BENCHMARK(WatchLook);
 
 }  // namespace
 

@@ -145,6 +145,7 @@ LoopStep TrackLoop::ControlStep(const LoopInput& input) {
       Control(m_luff == 0.0 ? error : FoldRelative(static_cast<double>(error) + m_luff), input, step);
     }
     step.Rings = TestAlarm(error, seconds);
+    step.AlarmError = m_alarmError;
   }
   step.Sends = mode != TrackMode::Setup;
   m_previousAutoPilot = m_settings.m_fAutoPilot;

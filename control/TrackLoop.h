@@ -57,6 +57,7 @@ struct LoopStep {
   bool ByAhead = false;        ///< the largest distance from the heading bounded it
   bool Sends = false;          ///< the bearing is for the pilot
   enum class Alarm { AsBefore, Raised, Over };
+  float AlarmError = 0.0F;        ///< what the alarm tested [deg]
   Alarm Rings = Alarm::AsBefore;  ///< Raised at every pass at which the error is beyond the limit
 };
 

@@ -5,16 +5,18 @@
 #include <tuple>
 
 #include "control/TrackAdvice.h"
+#include "instruments/MathLib.h"
 #include "platform/Angles.h"
 
 namespace veerwatch {
 
 namespace {
 
-constexpr int kComputed = 1;                // of m_iNmeaTrueWind
-constexpr double kMilliseconds = 1000.0;    // [ms/s]
-constexpr std::int64_t kStoodStill = 3000;  // [ms]; ticks come each second
-constexpr float kMoves = 2.0F;              // [kn]
+constexpr int kComputed = 1;                  // of m_iNmeaTrueWind
+constexpr double kMilliseconds = 1000.0;      // [ms/s]
+constexpr std::int64_t kStoodStill = 3000;    // [ms]; ticks come each second
+constexpr std::int64_t kHeadingHolds = 4000;  // [ms]
+constexpr float kMoves = 2.0F;                // [kn]
 
 double Fold(double angle) { return static_cast<double>(FoldRelative(angle)); }
 
@@ -35,6 +37,7 @@ void Watch::Restart() {
   m_follow.Forget();
   m_output.Forget();
   m_trueMean.Clear();
+  m_meanAt.reset();
   m_latest.reset();
   m_crossed.reset();
   m_gybe = false;
@@ -65,7 +68,6 @@ void Watch::Sentence(const Readings& readings) {
 
 void Watch::WindCame(const Readings& readings, bool apparent) {
   const Origin& from = readings.From();
-  const InstrumentData& data = m_record.Data();
   const bool computed = apparent && m_settings.m_iNmeaTrueWind == kComputed;
   const bool bringsTrue = m_record.Changed(RecordValue::WindTrue);
   if (m_record.Changed(RecordValue::WindApparent)) {
@@ -89,10 +91,26 @@ void Watch::WindCame(const Readings& readings, bool apparent) {
   m_winds.Add(from.Talker, {angle, speed}, from.At.Steady);
   if (m_winds.IsFirst(from.Talker, from.At.Steady)) {
     m_unchanged.Add(*angle, *speed, from.At.Steady);
-    const bool heading = m_ages.At(Watched::Heading, from.At).Fresh();
-    m_jumps.Add(static_cast<double>(*angle) + (heading ? static_cast<double>(data.Heading) : 0.0),
-                from.At.Steady);
+    AddDirection(*angle, *speed, apparent, from.At);
   }
+}
+
+// The direction is that of the true wind: in a sea the apparent one swings by more, far aft by anything. It
+// is worked out only where the vane itself has turned far.
+void Watch::AddDirection(float angle, float speed, bool apparent, const Moment& now) {
+  constexpr float kFar = 20.0F;  // [deg]
+  const bool far = std::fabs(FoldRelative(static_cast<double>(angle - m_vane))) > kFar;
+  m_vane = angle;
+  if (!far && !m_jumps.Away() && m_jumps.Began()) {
+    return;
+  }
+  const InstrumentData& data = m_record.Data();
+  if (apparent && data.BoatSpeedValid) {
+    const float fromBow = angle;
+    WindTrueFromApparent(speed, fromBow, data.BoatSpeed, speed, angle);
+  }
+  const bool heading = m_ages.Within(Watched::Heading, kHeadingHolds, now);
+  m_jumps.Add(static_cast<double>(angle) + (heading ? static_cast<double>(data.Heading) : 0.0), now.Steady);
 }
 
 void Watch::BoatCame(const Readings& readings) {
@@ -130,7 +148,7 @@ void Watch::Step(const LoopStep& step, std::size_t bytes, const Moment& now) {
     m_output.Built(bytes, now.Steady);
   }
   if (step.Rings == LoopStep::Alarm::Raised) {
-    m_offCourse = step.Error;
+    m_offCourse = step.AlarmError;
   } else if (step.Rings == LoopStep::Alarm::Over) {
     m_offCourse.reset();
   }
@@ -142,8 +160,15 @@ void Watch::Simulated(const Moment& now) {
 }
 
 void Watch::AddTrueWind(const Moment& now) {
-  const InstrumentRecord::Wind wind = m_record.WindTrueUnsmoothed();
-  m_trueMean.Add(static_cast<double>(wind.Angle), static_cast<double>(wind.Speed), now.Steady);
+  // The mean needs no more, and its ring holds no more than ten seconds of these.
+  constexpr std::int64_t kSpacing = 200;  // [ms]
+  if (m_meanAt && now.Steady - *m_meanAt < kSpacing) {
+    return;
+  }
+  m_meanAt = now.Steady;
+  const InstrumentData& data = m_record.Data();
+  m_trueMean.Add(static_cast<double>(data.WindAngleTrue), static_cast<double>(data.WindSpeedTrue),
+                 now.Steady);
 }
 
 std::optional<double> Watch::LatestAngle() const {
@@ -211,7 +236,7 @@ void Watch::LookAtStern(const Around& around, const Moment& now) {
     m_crossed.reset();
     return;
   }
-  const double wind = static_cast<double>(m_record.WindTrueUnsmoothed().Angle);
+  const auto wind = static_cast<double>(m_record.Data().WindAngleTrue);
   const double held = static_cast<double>(m_settings.DesiredAngle[static_cast<std::size_t>(around.Side)]);
   const bool across = std::fabs(wind) > kAft && std::fabs(held) > kAft && (wind < 0.0) != (held < 0.0);
   if (!across) {

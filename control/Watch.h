@@ -84,6 +84,7 @@ class Watch {
   void WindCame(const Readings& readings, bool apparent);
   void BoatCame(const Readings& readings);
   void AddTrueWind(const Moment& now);
+  void AddDirection(float angle, float speed, bool apparent, const Moment& now);
   void LookAtPilot(const Around& around, const Moment& now);
   void LookAtStern(const Around& around, const Moment& now);
   void LookAtValues(const Around& around, const Moment& now, Findings& found) const;
@@ -99,12 +100,14 @@ class Watch {
   Ages m_ages;
   UnchangedCheck m_unchanged;
   JumpCheck m_jumps;
+  float m_vane = 0.0F;  ///< the latest angle [deg]
   TalkerCheck m_winds;
   TalkerCheck m_headings;
   TalkerCheck m_boatSpeeds;
   FollowCheck m_follow;
   OutputCheck m_output;
   WindMean m_trueMean;
+  std::optional<std::int64_t> m_meanAt;   ///< when it took a wind last [ms of the steady clock]
   std::optional<std::int64_t> m_latest;   ///< the latest call with a moment [ms of the steady clock]
   std::optional<std::int64_t> m_crossed;  ///< the wind is across the stern since then
   bool m_gybe = false;

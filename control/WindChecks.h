@@ -37,6 +37,10 @@ class JumpCheck {
  public:
   /// A direction [deg, any turn] at `moment` [ms of the steady clock].
   void Add(double direction, std::int64_t moment);
+  /// One has come already.
+  bool Began() const { return m_direction.has_value(); }
+  /// The latest was elsewhere.
+  bool Away() const { return m_away.has_value(); }
   /// It leapt three times in the minute before `moment`.
   bool Stands(std::int64_t moment) const;
 

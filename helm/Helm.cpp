@@ -108,7 +108,8 @@ void Helm::SimulatorTick() {
 }
 
 Helm::Pass Helm::Steer(const Moment& now) {
-  const WatchAct::Pass may = m_act.Before(m_pilot.Open(), now);
+  const WatchAct::Pass may =
+      m_settings.m_bWatchAct ? m_act.Before(m_pilot.Open(), now) : WatchAct::Pass::Steers;
   if (may == WatchAct::Pass::None) {
     return {};
   }
@@ -266,7 +267,7 @@ void Helm::TellPass(const Pass& pass) {
       observer.OnAutoPilot(m_settings.m_fAutoPilot);
     }
     if (step.Rings == LoopStep::Alarm::Raised) {
-      observer.OnAlarm(m_loop.Side(), step.Error);
+      observer.OnAlarm(m_loop.Side(), step.AlarmError);
     } else if (step.Rings == LoopStep::Alarm::Over) {
       observer.OnAlarmOver();
     }
