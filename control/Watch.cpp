@@ -31,6 +31,7 @@ void Watch::Restart() {
   m_ages.Restart();
   m_unchanged = {};
   m_jumps = {};
+  m_directionAt.reset();
   m_winds = {};
   m_headings = {};
   m_boatSpeeds = {};
@@ -96,14 +97,16 @@ void Watch::WindCame(const Readings& readings, bool apparent) {
 }
 
 // The direction is that of the true wind: in a sea the apparent one swings by more, far aft by anything. It
-// is worked out only where the vane itself has turned far.
+// is worked out once a second, and where the vane itself has turned far.
 void Watch::AddDirection(float angle, float speed, bool apparent, const Moment& now) {
-  constexpr float kFar = 20.0F;  // [deg]
+  constexpr float kFar = 20.0F;           // [deg]
+  constexpr std::int64_t kSecond = 1000;  // [ms]
   const bool far = std::fabs(FoldRelative(static_cast<double>(angle - m_vane))) > kFar;
   m_vane = angle;
-  if (!far && !m_jumps.Away() && m_jumps.Began()) {
+  if (!far && !m_jumps.Away() && m_directionAt && now.Steady - *m_directionAt < kSecond) {
     return;
   }
+  m_directionAt = now.Steady;
   const InstrumentData& data = m_record.Data();
   if (apparent && data.BoatSpeedValid) {
     const float fromBow = angle;

@@ -100,7 +100,8 @@ class Watch {
   Ages m_ages;
   UnchangedCheck m_unchanged;
   JumpCheck m_jumps;
-  float m_vane = 0.0F;  ///< the latest angle [deg]
+  float m_vane = 0.0F;                        ///< the latest angle [deg]
+  std::optional<std::int64_t> m_directionAt;  ///< the latest direction that was worked out [ms]
   TalkerCheck m_winds;
   TalkerCheck m_headings;
   TalkerCheck m_boatSpeeds;

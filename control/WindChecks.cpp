@@ -30,19 +30,24 @@ void UnchangedCheck::Add(float angle, float speed, std::int64_t moment) {
 void JumpCheck::Add(double direction, std::int64_t moment) {
   constexpr double kJump = 60.0;        // [deg]
   constexpr std::int64_t kBack = 4000;  // [ms]
-  if (m_direction && Apart(direction, *m_direction) > kJump) {
-    if (!m_away) {
-      m_away = moment;
-    }
+  constexpr double kMemory = 5000.0;    // [ms]
+  const double apart = m_direction ? static_cast<double>(FoldRelative(direction - *m_direction)) : 0.0;
+  if (std::fabs(apart) > kJump) {
+    m_away = m_away.value_or(moment);
     if (moment - *m_away < kBack) {
       return;
     }
-  } else if (m_away && moment - *m_away < kBack) {
-    m_jumps[m_next] = moment;
-    m_next = (m_next + 1) % kTimes;
+    m_direction = direction;
+  } else {
+    if (m_away && moment - *m_away < kBack) {
+      m_jumps[m_next] = moment;
+      m_next = (m_next + 1) % kTimes;
+    }
+    const auto passed = static_cast<double>(moment - m_latest);
+    m_direction = m_direction.value_or(direction) + apart * passed / (passed + kMemory);
   }
   m_away.reset();
-  m_direction = direction;
+  m_latest = moment;
 }
 
 bool JumpCheck::Stands(std::int64_t moment) const {

@@ -32,13 +32,12 @@ class UnchangedCheck {
   std::int64_t m_latest = 0;
 };
 
-/// A direction that leaps away by more than 60 degrees and is back before 4 s are over.
+/// A direction that leaps by more than 60 degrees away from its mean, as of some seconds, and is back before
+/// 4 s are over.
 class JumpCheck {
  public:
   /// A direction [deg, any turn] at `moment` [ms of the steady clock].
   void Add(double direction, std::int64_t moment);
-  /// One has come already.
-  bool Began() const { return m_direction.has_value(); }
   /// The latest was elsewhere.
   bool Away() const { return m_away.has_value(); }
   /// It leapt three times in the minute before `moment`.
@@ -47,7 +46,8 @@ class JumpCheck {
  private:
   static constexpr std::size_t kTimes = 3;
 
-  std::optional<double> m_direction;                          ///< of the wind that counts
+  std::optional<double> m_direction;                          ///< the mean of the latest ones [deg, any turn]
+  std::int64_t m_latest = 0;                                  ///< when it took the latest [ms]
   std::optional<std::int64_t> m_away;                         ///< since when it is elsewhere
   std::array<std::optional<std::int64_t>, kTimes> m_jumps{};  ///< the latest ones, a ring
   std::size_t m_next = 0;

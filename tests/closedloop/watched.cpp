@@ -17,6 +17,7 @@ using namespace veerwatch;
 
 constexpr double kHours = 4.0;  // for each held angle
 constexpr double kSecondsPerHour = 3600.0;
+constexpr double kSettles = 60.0;  // [s] with the alarm that is set
 
 constexpr std::array<std::pair<TrackSide, double>, 6> kHeld{{{TrackSide::True, 45.0},
                                                              {TrackSide::True, 100.0},
@@ -29,7 +30,8 @@ constexpr std::array<Sea, 3> kRough{Sea::Beam, Sea::Following, Sea::Head};
 /// Counts the conditions as they come.
 class Counter final : private HelmObserver {
  public:
-  explicit Counter(Helm& helm) : m_told(helm.Observers().Join(*this)) {}
+  /// What stands already does not count.
+  explicit Counter(Helm& helm) : m_before(helm.Now().Watch), m_told(helm.Observers().Join(*this)) {}
 
   int Red = 0;
   int Amber = 0;
@@ -61,9 +63,12 @@ std::pair<int, int> Sail(const NamedMethod& method, TrackSide side, double angle
     what.Side = side;
     what.Angle = angle;
     what.Seed = seed++;
+    std::cout << (side == TrackSide::True ? "true " : "apparent ") << angle << ", sea "
+              << static_cast<int>(sea) << '\n';
     HoldAnd(what, [&found](Passage& passage) {
       passage.Set.m_fTrackAlarmLimit = 30.0F;
       passage.Set.m_fTrackAlarmAverage = 5.0F;
+      passage.Sail(kSettles);
       const Counter counter(passage.TheHelm());
       passage.Sail(kHours * kSecondsPerHour / static_cast<double>(kRough.size()));
       found.first += counter.Red;
