@@ -13,8 +13,8 @@
 #include "platform/ApplicationQt.h"
 #include "platform/AtomicFile.h"
 #include "platform/DialogsQt.h"
+#include "platform/PortMakerQt.h"
 #include "platform/ProfileLock.h"
-#include "platform/SerialPortQt.h"
 #include "platform/SignalsQt.h"
 #include "platform/SystemClock.h"
 #include "platform/TimerQt.h"
@@ -132,8 +132,8 @@ int Sail(ApplicationQt& application, const std::filesystem::path& profileFile, D
          const std::function<void(QWidget&)>& started) {
   Profile profile;
   const SystemClock clock;
-  SerialPortQt MSCommNmea(profile, clock);
-  SerialPortQt MSCommPilot(profile, clock);
+  NamedPort MSCommNmea(profile, PortMaker(clock), DeviceIsThere);
+  NamedPort MSCommPilot(profile, PortMaker(clock), DeviceIsThere);
   TimerQt tmrNmea(QStringLiteral("tmrNmea"));
   TimerQt tmrUnload(QStringLiteral("tmrUnload"));
   TimerQt TimerTack(QStringLiteral("TimerTack"));

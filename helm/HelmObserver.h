@@ -41,7 +41,7 @@ class HelmObserver {
   virtual void OnNmeaLine(std::string_view /*line*/, LineFault /*fault*/, bool /*used*/) {}
   virtual void OnInputStatus(const PortStatus& /*status*/) {}
   virtual void OnInputState(InputState /*state*/) {}
-  /// Why the port is not open, as the system says; "" when it is, or while nothing is known.
+  /// Why the port is not open, or what an open one has to complain of, as the system says; "" for nothing.
   virtual void OnInputFailure(const std::string& /*reason*/) {}
   /// What the chosen sources do not bring while others would, a line each; none when all is well.
   virtual void OnSourceAdvice(const std::vector<std::string>& /*lines*/) {}
@@ -50,7 +50,7 @@ class HelmObserver {
 
   virtual void OnOutputStatus(const PortStatus& /*status*/) {}
   virtual void OnOutputState(OutputState /*state*/) {}
-  /// Why the pilot's own port is not open, as the system says; "" when it is, or is not wanted.
+  /// The same of the pilot's own port, where it is wanted.
   virtual void OnOutputFailure(const std::string& /*reason*/) {}
   /// Each sentence that is built, without its line end, whether or not a port is open to take it.
   virtual void OnPilotData(std::string_view /*sentence*/) {}

@@ -94,6 +94,9 @@ void NmeaReceiver::Tick() {
   m_dispatcher.Sources().Tick();
   Advise(m_dispatcher.Sources().Advice());
   m_port.PollLineErrors();
+  if (m_port.PortOpen()) {
+    Failure(m_port.Trouble());
+  }
   ++m_noDataCount;
   if (m_noDataCount >= kSilentTicks) {
     Status({PortStatus::What::NoInputData});

@@ -34,7 +34,7 @@ class NmeaReceiver final : public SerialPort::Events {
     virtual void OnOtherLine(std::string_view line, LineFault fault) = 0;
     virtual void OnInputStatus(const PortStatus& status) = 0;
     virtual void OnInputState(InputState state) = 0;
-    /// Why the port is not open, as the system says; "" when it is, or while nothing is known.
+    /// Why the port is not open, or what an open one has to complain of, as the system says; "" for nothing.
     virtual void OnInputFailure(const std::string& reason) = 0;
     /// What the chosen sources do not bring while others would, a line each; none when all is well.
     virtual void OnSourceAdvice(const std::vector<std::string>& lines) = 0;

@@ -90,6 +90,9 @@ void PilotOutput::Tick() {
     return;
   }
   m_pilotPort.PollLineErrors();
+  if (m_pilotPort.PortOpen()) {
+    Failure(m_pilotPort.Trouble());
+  }
   if (m_reopenPause.Tick(m_pilotPort.PortOpen())) {
     OpenPort();
   }

@@ -75,6 +75,10 @@ class SerialPort {
   /// known.
   virtual std::string OpenFailure() const { return {}; }
 
+  /// What an open port has to complain of, in words for the user, as "connection refused, next try in 4 s";
+  /// "" for nothing.
+  virtual std::string Trouble() const { return {}; }
+
   /// Replaces `text` by every character that waits; "" when none does. Keeps the capacity of `text`.
   virtual void Input(std::string& text) = 0;
 

@@ -10,7 +10,6 @@
 
 #include "platform/LineErrorCountersLinux.h"
 #include "platform/PortFailure.h"
-#include "platform/PortNames.h"
 
 #ifdef Q_OS_UNIX
 #include <poll.h>
@@ -72,9 +71,9 @@ std::unique_ptr<LineErrorCounters> SerialPortQt::DriverCounters(const QSerialPor
 #endif
 }
 
-SerialPortQt::SerialPortQt(const Profile& profile, const Clock& clock, CountersMaker makeCounters)
-    : EndpointPort(clock), m_profile(profile), m_makeCounters(std::move(makeCounters)) {
-  m_port.setBaudRate(QSerialPort::Baud4800);
+SerialPortQt::SerialPortQt(const Endpoint& device, const Clock& clock, CountersMaker makeCounters)
+    : EndpointPort(clock), m_device(device), m_makeCounters(std::move(makeCounters)) {
+  m_port.setBaudRate(m_device.Baud);
   m_port.setDataBits(QSerialPort::Data8);
   m_port.setParity(QSerialPort::NoParity);
   m_port.setStopBits(QSerialPort::OneStop);
@@ -97,12 +96,11 @@ SerialPortQt::SerialPortQt(const Profile& profile, const Clock& clock, CountersM
 SerialPortQt::~SerialPortQt() { PortOpen(false); }
 
 bool SerialPortQt::OpenEndpoint(std::string& failure) {
-  const std::string device = PortDevice(m_profile, CommPort());
-  const QString file = DeviceFile(device);
+  const QString file = DeviceFile(m_device.Path);
   m_port.clearError();
   m_port.setPortName(file);
   if (file.isEmpty() || !m_port.open(QIODevice::ReadWrite)) {
-    failure = WhyNotOpen(device);
+    failure = WhyNotOpen();
     return false;
   }
   m_counters = m_makeCounters(m_port);
@@ -111,14 +109,10 @@ bool SerialPortQt::OpenEndpoint(std::string& failure) {
   return true;
 }
 
-std::string SerialPortQt::WhyNotOpen(const std::string& device) const {
+std::string SerialPortQt::WhyNotOpen() const {
   // Locked and busy devices come as no permission, too.
   const bool denied = m_port.error() == QSerialPort::PermissionError;
-  std::string text = PortFailure(device, denied ? "" : m_port.errorString().toStdString());
-  if (m_profile.Text("Ports", std::to_string(CommPort())).empty()) {
-    text += "; [Ports] in the profile names the device of port " + std::to_string(CommPort());
-  }
-  return text;
+  return PortFailure(m_device.Path, denied ? "" : m_port.errorString().toStdString());
 }
 
 void SerialPortQt::CloseEndpoint() {

@@ -1,7 +1,7 @@
 // The serial port on a real device. It needs a running event loop, from which it raises its events.
 //
-// Opening takes the device that the profile names at that moment, through any links to it, and takes only
-// character devices; one that is missing, busy, locked or no serial device at all just does not open. A
+// Opening takes the device that its name leads to at that moment, through any links, and takes only character
+// devices; one that is missing, busy, locked or no serial device at all just does not open. A
 // device that goes away closes the port. Everything else is as for every EndpointPort; on a stuck line the
 // rest of a sentence is dropped at the close, also in the driver.
 #pragma once
@@ -14,9 +14,9 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Endpoint.h"
 #include "platform/EndpointPort.h"
 #include "platform/LineErrors.h"
-#include "platform/Profile.h"
 
 namespace veerwatch {
 
@@ -28,8 +28,8 @@ class SerialPortQt final : public EndpointPort {
   /// The counters of the device's driver, where the system has them.
   static std::unique_ptr<LineErrorCounters> DriverCounters(const QSerialPort& device);
 
-  /// `profile` and `clock` outlive the port.
-  SerialPortQt(const Profile& profile, const Clock& clock, CountersMaker makeCounters = DriverCounters);
+  /// `device` is one of Endpoint::Kind::Device; `clock` outlives the port.
+  SerialPortQt(const Endpoint& device, const Clock& clock, CountersMaker makeCounters = DriverCounters);
   ~SerialPortQt() override;
 
   void PollLineErrors() override;
@@ -43,10 +43,10 @@ class SerialPortQt final : public EndpointPort {
   void SendFor(int milliseconds) override;
   void WakeAfter(int milliseconds) override;
 
-  std::string WhyNotOpen(const std::string& device) const;
+  std::string WhyNotOpen() const;
   void ErrorOccurred(QSerialPort::SerialPortError error);
 
-  const Profile& m_profile;
+  const Endpoint m_device;
   CountersMaker m_makeCounters;
   QSerialPort m_port;
   QTimer m_wakeTimer;

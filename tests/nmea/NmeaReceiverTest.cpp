@@ -386,5 +386,18 @@ TEST_F(NmeaReceiverTest, AChecksumIsRequiredOrReadInSmallLettersWhereTheSettings
   EXPECT_EQ(m_view.InputStatus, "");
 }
 
+TEST_F(NmeaReceiverTest, TellsEachSecondWhatAnOpenPortComplainsOf) {
+  Start();
+  m_port.Complaint = "tcp://boat:10110: connection refused, next try in 4 s";
+  m_timer.Tick();
+  EXPECT_THAT(m_view.Only({"OnInputFailure"}), ElementsAre("OnInputFailure " + m_port.Complaint));
+  EXPECT_EQ(m_view.InputStatus, "") << "it is open";
+  m_port.Complaint = "";
+  m_view.Take();
+  m_timer.Tick();
+  m_timer.Tick();
+  EXPECT_THAT(m_view.Only({"OnInputFailure"}), ElementsAre("OnInputFailure ")) << "once";
+}
+
 }  // namespace
 }  // namespace veerwatch

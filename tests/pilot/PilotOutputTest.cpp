@@ -317,5 +317,14 @@ TEST_F(PilotOutputTest, CountsWhatIsBuiltForTheSimulatedBoat) {
   EXPECT_TRUE(m_pilot.Open());
 }
 
+TEST_F(PilotOutputTest, TellsEachSecondWhatAnOpenPortComplainsOf) {
+  m_pilot.PilotStart();
+  m_view.Take();
+  m_pilotPort.Complaint = "tcp://boat:10110: connection refused, next try in 4 s";
+  m_pilot.Tick();
+  m_pilot.Tick();
+  EXPECT_THAT(m_view.Only({"OnOutputFailure"}), ElementsAre("OnOutputFailure " + m_pilotPort.Complaint));
+}
+
 }  // namespace
 }  // namespace veerwatch

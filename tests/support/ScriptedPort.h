@@ -32,6 +32,7 @@ class ScriptedPort final : public SerialPort {
   bool Stuck = false;                   ///< nothing leaves: each sentence waits
   bool OpensOtherwise = true;           ///< result of a try to open after the scripted ones
   std::string Failure;                  ///< why the port does not open
+  std::string Complaint;                ///< its trouble while it is open
   const ScriptedPort* Other = nullptr;  ///< a port that, while open, holds its device against this one
   std::vector<int> LineErrorsWaiting;   ///< events that the next PollLineErrors raises
 
@@ -84,6 +85,7 @@ class ScriptedPort final : public SerialPort {
     m_open = open;
     return true;
   }
+  std::string Trouble() const override { return m_open ? Complaint : ""; }
   std::string OpenFailure() const override { return m_open ? "" : Failure; }
   void Input(std::string& text) override {
     ++Inputs;

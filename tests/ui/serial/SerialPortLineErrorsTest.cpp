@@ -21,10 +21,16 @@ class HandCounters : public LineErrorCounters {
   LineErrorCounts& m_counts;
 };
 
+Endpoint Device(const Pty& pty) {
+  Endpoint device;
+  device.Path = pty.Device();
+  return device;
+}
+
 class SerialPortLineErrors : public SerialPortQtTest {
  protected:
   SerialPortLineErrors()
-      : m_counting(m_profile, m_clock,
+      : m_counting(Device(m_pty), m_clock,
                    [this](const QSerialPort&) { return std::make_unique<HandCounters>(m_counts); }),
         m_listener(m_counting) {
     m_counting.CommPort(1);

@@ -90,7 +90,7 @@ class PtyRig final : public PortRig {
   Pty m_pty;
   Profile m_profile;
   ShiftedClock m_clock;
-  SerialPortQt m_port{m_profile, m_clock};
+  NamedPort m_port{m_profile, PortMaker(m_clock), DeviceIsThere};
   int m_filler;
   bool m_stuck = false;
   std::string m_heard;

@@ -1,4 +1,5 @@
-// A serial port on a pty, with an owner that keeps a record, for all tests of SerialPortQt.
+// A port whose number the profile leads to a pty, with an owner that keeps a record, for all tests of
+// SerialPortQt.
 #pragma once
 
 #include "platform/SerialPortQt.h"
@@ -13,6 +14,7 @@
 #include <functional>
 #include <string>
 
+#include "platform/PortMakerQt.h"
 #include "platform/SystemClock.h"
 #include "tests/support/PortOwner.h"
 #include "tests/support/Pty.h"
@@ -34,7 +36,7 @@ inline int BusyTurns() {
 
 class SerialPortQtTest : public testing::Test {
  protected:
-  SerialPortQtTest() : m_port(m_profile, m_clock), m_owner(m_port) {
+  SerialPortQtTest() : m_port(m_profile, PortMaker(m_clock), DeviceIsThere), m_owner(m_port) {
     Name(1, m_pty.Device());
     m_port.CommPort(1);
   }
@@ -58,7 +60,7 @@ class SerialPortQtTest : public testing::Test {
   Pty m_pty;
   Profile m_profile;
   SystemClock m_clock;
-  SerialPortQt m_port;
+  NamedPort m_port;
   PortOwner m_owner;
 };
 

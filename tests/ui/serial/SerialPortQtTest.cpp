@@ -256,7 +256,7 @@ TEST_F(SerialPortQtTest, SaysWhyItDoesNotOpenUntilItDoes) {
 }
 
 TEST_F(SerialPortQtTest, DoesNotOpenADeviceThatAnotherPortHolds) {
-  SerialPortQt second(m_profile, m_clock);
+  NamedPort second(m_profile, PortMaker(m_clock), DeviceIsThere);
   second.CommPort(1);
   ASSERT_TRUE(m_port.PortOpen(true));
   EXPECT_FALSE(second.PortOpen(true));
@@ -277,7 +277,7 @@ TEST_F(SerialPortQtTest, DoesNotOpenADeviceThatAnotherPortHolds) {
 TEST_F(SerialPortQtTest, KeepsTwoPortsApart) {
   Pty otherPty;
   Name(2, otherPty.Device());
-  SerialPortQt second(m_profile, m_clock);
+  NamedPort second(m_profile, PortMaker(m_clock), DeviceIsThere);
   PortOwner secondOwner(second);
   second.CommPort(2);
   ASSERT_TRUE(m_port.PortOpen(true));

@@ -1,0 +1,36 @@
+#include "platform/PortMakerQt.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "platform/SerialPortQt.h"
+#include "platform/TcpClientQt.h"
+#include "platform/TcpServerQt.h"
+#include "platform/UdpPortQt.h"
+
+namespace veerwatch {
+
+NamedPort::Maker PortMaker(const Clock& clock) {
+  return [&clock](const Endpoint& endpoint) -> std::unique_ptr<SerialPort> {
+    switch (endpoint.What) {
+      case Endpoint::Kind::TcpClient:
+        return std::make_unique<TcpClientQt>(endpoint, clock);
+      case Endpoint::Kind::TcpServer:
+        return std::make_unique<TcpServerQt>(endpoint, clock);
+      case Endpoint::Kind::UdpInput:
+      case Endpoint::Kind::UdpOutput:
+        return std::make_unique<UdpPortQt>(endpoint, clock);
+      case Endpoint::Kind::File:
+      case Endpoint::Kind::Device:
+        break;
+    }
+    return std::make_unique<SerialPortQt>(endpoint, clock);
+  };
+}
+
+bool DeviceIsThere(const std::string& path) {
+  std::error_code error;
+  return std::filesystem::exists(path, error);
+}
+
+}  // namespace veerwatch

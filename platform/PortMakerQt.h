@@ -1,0 +1,15 @@
+// The one place that knows which port belongs to which kind of endpoint.
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/NamedPort.h"
+
+namespace veerwatch {
+
+/// Makes the real ports; `clock` outlives them.
+NamedPort::Maker PortMaker(const Clock& clock);
+
+/// Whether the system has a device of that name.
+bool DeviceIsThere(const std::string& path);
+
+}  // namespace veerwatch

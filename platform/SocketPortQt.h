@@ -1,0 +1,70 @@
+// What is alike for the ports on sockets and files: the wake of the event loop, lines with the ends of a
+// serial line, and the pauses in which a link that is down is tried again.
+#pragma once
+
+#include <QTimer>
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "platform/EndpointPort.h"
+#include "platform/WireEnds.h"
+
+namespace veerwatch {
+
+/// The pauses between tries to come back: they double from a second to half a minute.
+class RetryPause {
+ public:
+  void Restart() { m_pause = kFirst; }
+  /// The pause before the next try [ms].
+  int Next() {
+    const int pause = m_pause;
+    m_pause = std::min(2 * m_pause, kLongest);
+    return pause;
+  }
+
+ private:
+  static constexpr int kFirst = 1000;
+  static constexpr int kLongest = 30000;
+  int m_pause = kFirst;
+};
+
+class SocketPortQt : public EndpointPort {
+ protected:
+  /// `clock` outlives the port.
+  explicit SocketPortQt(const Clock& clock);
+
+  /// For connections to slots of a port that is going: whatever is tied to it hears nothing any more.
+  QObject& Context() { return m_context; }
+
+  // For whoever derives.
+
+  /// So many characters may still be taken from the endpoint; the rest is to stay in it.
+  std::size_t Room() const {
+    return m_received.size() < kLargestUnread ? kLargestUnread - m_received.size() : 0;
+  }
+  /// Takes bytes of a stream into what Read() returns.
+  void Take(std::string_view bytes) { m_ends.Add(bytes, m_received); }
+  /// The same, of a message of its own: its last line ends with it.
+  void TakeMessage(std::string_view bytes);
+  /// Forgets what was taken and not read.
+  void Forget();
+
+  /// Takes up to Room() characters from the endpoint by Take().
+  virtual void Fetch() = 0;
+
+ private:
+  void Read(std::string& text, std::size_t most) final;
+  void WakeAfter(int milliseconds) final { m_wakeTimer.start(milliseconds); }
+
+  QObject m_context;
+  QTimer m_wakeTimer;
+  WireEnds m_ends;
+  std::string m_received;
+};
+
+/// `text` as the part of a sentence: without a capital in front.
+std::string Uncapitalised(std::string text);
+
+}  // namespace veerwatch
