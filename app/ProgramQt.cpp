@@ -13,7 +13,7 @@
 #include "platform/ApplicationQt.h"
 #include "platform/AtomicFile.h"
 #include "platform/DialogsQt.h"
-#include "platform/PortMakerQt.h"
+#include "app/PortMakerQt.h"
 #include "platform/ProfileLock.h"
 #include "platform/SignalsQt.h"
 #include "platform/SystemClock.h"

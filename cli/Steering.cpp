@@ -42,7 +42,10 @@ bool Steering::BringsTracked(std::string_view line) const {
     return false;
   }
   const bool fromSensor = m_helm.Loop().Side() == TrackSide::True && m_settings.m_iNmeaTrueWind == 0;
-  return Fields(line)[2] == (fromSensor ? "T" : "R");
+  if (kind->Name == "MWV") {
+    return Fields(line)[2] == (fromSensor ? "T" : "R");
+  }
+  return (kind->Name == "VWR") != fromSensor;
 }
 
 void Steering::Start() { m_helm.Modes().TrackSetSetup(); }

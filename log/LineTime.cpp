@@ -1,5 +1,6 @@
 #include "log/LineTime.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cstddef>
 #include <string_view>
@@ -57,9 +58,80 @@ class Taker {
 
 }  // namespace
 
+namespace {
+
+constexpr std::int64_t kSecond = 1000;  // [ms]
+
+std::size_t DigitsOf(std::string_view text) {
+  return std::min(text.find_first_not_of("0123456789"), text.size());
+}
+
+/// Digits, at most eighteen, as a number.
+std::int64_t NumberOf(std::string_view digits) {
+  std::int64_t number = 0;
+  for (const char digit : digits) {
+    number = number * 10 + (digit - '0');
+  }
+  return number;
+}
+
+/// "1795252502.123 " in front of the line.
+std::optional<std::int64_t> TakeSeconds(std::string& line) {
+  constexpr std::size_t kLeast = 9;
+  constexpr std::size_t kMost = 11;
+  const std::string_view text = line;
+  const std::size_t seconds = DigitsOf(text);
+  if (seconds < kLeast || seconds > kMost) {
+    return std::nullopt;
+  }
+  std::int64_t time = NumberOf(text.substr(0, seconds)) * kSecond;
+  std::size_t end = seconds;
+  if (end < text.size() && text[end] == '.') {
+    const std::string_view fraction = text.substr(end + 1, DigitsOf(text.substr(end + 1)));
+    const std::string thousandths = (std::string(fraction) + "000").substr(0, 3);
+    time += NumberOf(thousandths);
+    end += 1 + fraction.size();
+  }
+  if (end >= text.size() || text[end] != ' ') {
+    return std::nullopt;
+  }
+  line.erase(0, end + 1);
+  return time;
+}
+
+/// A tag block "\\...\\" in front of the line; the line loses it, with or without a time.
+std::optional<std::int64_t> TakeTagBlock(std::string& line) {
+  const std::size_t end = line.find('\\', 1);
+  if (end == std::string::npos) {
+    return std::nullopt;
+  }
+  const std::string block = line.substr(1, line.find('*', 1) < end ? line.find('*', 1) - 1 : end - 1);
+  line.erase(0, end + 1);
+  for (std::string_view rest = block; !rest.empty();) {
+    const std::string_view field = rest.substr(0, rest.find(','));
+    rest.remove_prefix(std::min(field.size() + 1, rest.size()));
+    const std::string_view digits = field.substr(std::min<std::size_t>(2, field.size()));
+    constexpr std::size_t kMost = 15;
+    constexpr std::size_t kOfMilliseconds = 12;
+    if (field.starts_with("c:") && !digits.empty() && digits.size() <= kMost &&
+        DigitsOf(digits) == digits.size()) {
+      return NumberOf(digits) * (digits.size() >= kOfMilliseconds ? 1 : kSecond);
+    }
+  }
+  return std::nullopt;
+}
+
+}  // namespace
+
 std::optional<std::int64_t> TakeLineTime(std::string& line) {
   if (line.empty() || line.front() == '$') {
     return std::nullopt;
+  }
+  if (line.front() == '\\') {
+    return TakeTagBlock(line);
+  }
+  if (const auto seconds = TakeSeconds(line)) {
+    return seconds;
   }
   Taker taker(line);
   const int year = taker.Number(4, '-');

@@ -8,11 +8,17 @@
 namespace veerwatch {
 
 /// Takes the time off the front of `line`, with the blank after it, and returns it [ms since 1970 UTC].
-/// Nothing, with the line as it was, where none stands there.
+/// Nothing, with the line as it was, where none stands there. Three forms are known:
 ///
 ///     2026-11-21T09:15:02.123Z $IIMWV,045.0,R,10.5,N,A*hh
 ///                         |
 ///                         fraction of a second, one to nine digits, or none with its point
+///     1795252502.123 $IIMWV,045.0,R,10.5,N,A*hh
+///     |          fraction, or none with its point
+///     seconds since 1970, nine to eleven digits
+///     \\s:vane,c:1795252502*hh\\$IIMWV,045.0,R,10.5,N,A*hh
+///              |
+///              seconds since 1970, or milliseconds where there are twelve digits and more
 std::optional<std::int64_t> TakeLineTime(std::string& line);
 
 }  // namespace veerwatch

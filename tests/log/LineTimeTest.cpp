@@ -31,5 +31,36 @@ TEST(LineTime, ALineWithoutOneStaysAsItIs) {
   }
 }
 
+TEST(LineTime, MayBeSecondsSince1970) {
+  std::string line = "1795252502.123456 $IIMWV,045.0,R,10.5,N,A";
+  EXPECT_EQ(TakeLineTime(line), 1795252502123);
+  EXPECT_EQ(line, "$IIMWV,045.0,R,10.5,N,A");
+  line = "1795252502.5 x";
+  EXPECT_EQ(TakeLineTime(line), 1795252502500);
+  line = "1795252502 x";
+  EXPECT_EQ(TakeLineTime(line), 1795252502000);
+  for (const char* text : {"12345678 x", "123456789012 x", "1795252502.1", "1795252502x", "1795252502"}) {
+    line = text;
+    EXPECT_EQ(TakeLineTime(line), std::nullopt) << text;
+    EXPECT_EQ(line, text);
+  }
+}
+
+TEST(LineTime, MayStandInATagBlock) {
+  std::string line = "\\s:vane,c:1795252502*5B\\$IIMWV,045.0,R,10.5,N,A";
+  EXPECT_EQ(TakeLineTime(line), 1795252502000);
+  EXPECT_EQ(line, "$IIMWV,045.0,R,10.5,N,A");
+  line = "\\c:1795252502123*5B\\$II";
+  EXPECT_EQ(TakeLineTime(line), 1795252502123);
+  line = "\\s:vane*5B\\$II";
+  EXPECT_EQ(TakeLineTime(line), std::nullopt);
+  EXPECT_EQ(line, "$II") << "the block is no part of the sentence";
+  line = "\\s:vane,c:12x*5B\\$II";
+  EXPECT_EQ(TakeLineTime(line), std::nullopt);
+  line = "\\s:vane";
+  EXPECT_EQ(TakeLineTime(line), std::nullopt);
+  EXPECT_EQ(line, "\\s:vane");
+}
+
 }  // namespace
 }  // namespace veerwatch

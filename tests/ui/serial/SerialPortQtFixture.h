@@ -14,7 +14,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/PortMakerQt.h"
+#include "app/PortMakerQt.h"
 #include "platform/SystemClock.h"
 #include "tests/support/PortOwner.h"
 #include "tests/support/Pty.h"

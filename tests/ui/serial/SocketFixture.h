@@ -12,7 +12,7 @@
 #include <variant>
 #include <vector>
 
-#include "platform/PortMakerQt.h"
+#include "app/PortMakerQt.h"
 #include "platform/SystemClock.h"
 #include "tests/support/PortOwner.h"
 

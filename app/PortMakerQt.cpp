@@ -1,8 +1,9 @@
-#include "platform/PortMakerQt.h"
+#include "app/PortMakerQt.h"
 
 #include <filesystem>
 #include <system_error>
 
+#include "log/LogPortQt.h"
 #include "platform/SerialPortQt.h"
 #include "platform/TcpClientQt.h"
 #include "platform/TcpServerQt.h"
@@ -21,6 +22,7 @@ NamedPort::Maker PortMaker(const Clock& clock) {
       case Endpoint::Kind::UdpOutput:
         return std::make_unique<UdpPortQt>(endpoint, clock);
       case Endpoint::Kind::File:
+        return std::make_unique<LogPortQt>(endpoint, clock);
       case Endpoint::Kind::Device:
         break;
     }
