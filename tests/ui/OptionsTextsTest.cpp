@@ -160,7 +160,13 @@ TEST_F(OptionsTexts, ListTheSourcesAndTheSentences) {
                         testing::Pair("RMB", "RMB - Waypoint (Xte, To Id, From Id, Lat, Lon, Rng, Brg, Vmg)"),
                         testing::Pair("RMC", "RMC - Gps (Time, Lat, Lon, SOG, COG, Variation)"),
                         testing::Pair("VHW", "VHW - Vessel (Heading, SOW)"),
-                        testing::Pair("VTG", "VTG - Vessel (COG, SOG)")));
+                        testing::Pair("VTG", "VTG - Vessel (COG, SOG)"),
+                        testing::Pair("HDM", "HDM - Compass (Heading Magnetic)"),
+                        testing::Pair("HDT", "HDT - Gyro (Heading True)"),
+                        testing::Pair("MWD", "MWD - Wind (Direction, Speed)"),
+                        testing::Pair("THS", "THS - Gyro (Heading True, Status)"),
+                        testing::Pair("VWR", "VWR - Wind (Angle, Apparent, Speed)"),
+                        testing::Pair("VWT", "VWT - Wind (Angle, True, Speed)")));
 }
 
 TEST_F(OptionsTexts, StartWithTheSettingsAndWithTheListsOffAndRaw) {
