@@ -7,13 +7,13 @@
 #include <random>
 
 #include "app/CommandLine.h"
+#include "app/PortMakerQt.h"
 #include "app/ProfileLocation.h"
 #include "app/SessionQt.h"
 #include "app/frmMain.h"
 #include "platform/ApplicationQt.h"
 #include "platform/AtomicFile.h"
 #include "platform/DialogsQt.h"
-#include "app/PortMakerQt.h"
 #include "platform/ProfileLock.h"
 #include "platform/SignalsQt.h"
 #include "platform/SystemClock.h"
