@@ -48,7 +48,7 @@ const Fault kFaults[] = {
     {"WindLost", false, TrackSide::True,
      [](const std::string& line, const std::string&) { return IsWind(line) ? std::string() : line; }, nullptr,
      nullptr},
-    {"EmptyWinds", false, TrackSide::True,
+    {"EmptyWinds", true, TrackSide::True,
      [](const std::string& line, const std::string&) {
        return IsWind(line) ? WithChecksum("$IIMWV,,R,,N,A") : line;
      },
