@@ -208,7 +208,18 @@ bool Watch::Look(const Around& around, const Moment& now) {
   for (std::size_t what = 0; what < kWatchedCount; ++what) {
     m_now.Values[what] = m_ages.At(static_cast<Watched>(what), now);
   }
+  AgeComputedWind();
   return Keep(found, now);
+}
+
+// A true wind that follows from the boat speed is as old as the older of both.
+void Watch::AgeComputedWind() {
+  ValueAge& wind = m_now.Values[static_cast<std::size_t>(Watched::WindTrue)];
+  const ValueAge& speed = m_now.Of(Watched::BoatSpeed);
+  if (m_settings.m_iNmeaTrueWind == kComputed && wind.Fresh() && speed.Gone()) {
+    wind.State = speed.State;
+    wind.Age = speed.Age;
+  }
 }
 
 void Watch::LookAtPilot(const Around& around, const Moment& now) {

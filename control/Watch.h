@@ -85,6 +85,7 @@ class Watch {
   void BoatCame(const Readings& readings);
   void AddTrueWind(const Moment& now);
   void AddDirection(float angle, float speed, bool apparent, const Moment& now);
+  void AgeComputedWind();
   void LookAtPilot(const Around& around, const Moment& now);
   void LookAtStern(const Around& around, const Moment& now);
   void LookAtValues(const Around& around, const Moment& now, Findings& found) const;

@@ -161,6 +161,19 @@ TEST_F(WatchedTrack, TheBoatSpeedIsMissedOnlyWhereTheHeldTrueWindFollowsFromIt) 
   EXPECT_EQ(Latest().Count, 0U);
 }
 
+TEST_F(WatchedTrack, ATrueWindIsAsOldAsTheBoatSpeedThatItFollowsFrom) {
+  m_settings.m_iNmeaTrueWind = 1;
+  Track(TrackSide::Apparent);
+  Log.clear();
+  Sail(5);
+  EXPECT_EQ(Latest().Of(Watched::WindTrue).State, Freshness::Stale);
+  EXPECT_EQ(Latest().Of(Watched::WindTrue).Age, 6000);
+  EXPECT_TRUE(Latest().Of(Watched::WindApparent).Fresh());
+  m_settings.m_iNmeaTrueWind = 0;
+  Sail(1);
+  EXPECT_TRUE(Latest().Of(Watched::WindTrue).Fresh()) << "from a sensor";
+}
+
 TEST_F(WatchedTrack, ABoatSpeedOfZeroIsAFaultWhereTheBoatMoves) {
   m_settings.m_iNmeaTrueWind = 1;
   Track(TrackSide::True);

@@ -31,6 +31,8 @@ Settings RandomSettings(Dice& dice) {
   settings.m_fTrackBandwidth = dice.OneOf({8.0F, 20.0F, 60.0F});
   settings.m_fTrackDamping = dice.OneOf({0.5F, 1.0F, 4.0F});
   settings.m_fTrackAlarmLimit = dice.OneOf({2.03F, 5.03F});
+  settings.m_bWatchAct = dice.Within(0, 1) == 1;
+  settings.m_bWatchHeadingUp = dice.Within(0, 1) == 1;
   return settings;
 }
 
