@@ -45,6 +45,8 @@ class Watch {
   void Simulated(const Moment& now);
   /// The loop has made a pass at `now`, and a sentence of `bytes` was built, 0 for none.
   void Step(const LoopStep& step, std::size_t bytes, const Moment& now);
+  /// The alarm of the loop was withdrawn.
+  void AlarmOver() { m_offCourse.reset(); }
 
   /// A second has passed, or the mode has changed: looks at everything. True when other conditions stand than
   /// before.

@@ -379,6 +379,7 @@ void Helm::OnTrackRefused(TrackRefusal why) {
 }
 
 void Helm::OnAlarmOver() {
+  m_watch.AlarmOver();
   m_observers.Tell([](HelmObserver& observer) { observer.OnAlarmOver(); });
 }
 

@@ -57,6 +57,22 @@ TEST_F(AgesTest, EachQuantityHasItsOwnAgeAndLimit) {
   EXPECT_EQ(State(Watched::BoatSpeed, 12001), Freshness::Lost) << "not lost before it is stale";
 }
 
+TEST_F(AgesTest, WhatGoesOnComingCountsAtOnce) {
+  Came(kWind, 50000);
+  Came(kWind, 54000);
+  EXPECT_EQ(Age(kWind, 54500), 500);
+}
+
+TEST_F(AgesTest, TheSpeedOverGroundIsFreshForFourSecondsAndTheCompassAsLongAsTheHeading) {
+  m_settings.m_fWatchStaleHeading = 1.5F;
+  Came(Watched::SpeedOverGround, 0);
+  Came(Watched::Compass, 0);
+  EXPECT_EQ(State(Watched::Compass, 1500), Freshness::Fresh);
+  EXPECT_EQ(State(Watched::Compass, 1501), Freshness::Stale);
+  EXPECT_EQ(State(Watched::SpeedOverGround, 4000), Freshness::Fresh);
+  EXPECT_EQ(State(Watched::SpeedOverGround, 4001), Freshness::Stale);
+}
+
 TEST_F(AgesTest, WhatCameBackCountsFromItsSecondSentence) {
   Came(kWind, 0);
   Came(kWind, 20000);

@@ -46,6 +46,14 @@ TEST(FollowCheck, ABearingThatRunsAwayIsToldInTheSameTime) {
   EXPECT_TRUE(check.Stands());
 }
 
+TEST(FollowCheck, ABoatThatHasComeToTheBearingBeginsAnew) {
+  FollowCheck check;
+  Look(check, 12.0, 0, 10);
+  Look(check, 9.0, 11, 11);
+  Look(check, 12.0, 12, 26);
+  EXPECT_FALSE(check.Stands());
+}
+
 TEST(FollowCheck, IsOverAfterFiveSecondsWithinEightDegrees) {
   FollowCheck check;
   Look(check, 30.0, 0, 15);
@@ -88,14 +96,17 @@ TEST(OutputCheck, NothingThatLeavesForFourSecondsIsLost) {
 TEST(OutputCheck, MoreThanALineCarriesIsTold) {
   for (const int bytes : {480, 481}) {
     OutputCheck check;
-    check.Look(true, 0, 0);
-    for (int i = 0; i < 10; ++i) {
-      check.Built(static_cast<std::size_t>(bytes), 1000 * i);
-      check.Look(true, static_cast<std::uint64_t>(i), 1000 * i + 999);
+    for (const int begin : {50000, 60000}) {
+      check.Look(true, 0, begin);
+      const bool before = check.Full();
+      for (int i = 0; i < 10; ++i) {
+        check.Built(static_cast<std::size_t>(bytes), begin + 1000 * i);
+        check.Look(true, static_cast<std::uint64_t>(i), begin + 1000 * i + 999);
+      }
+      EXPECT_EQ(check.Full(), before) << "not before ten seconds";
+      check.Look(true, 10, begin + 10000);
+      EXPECT_EQ(check.Full(), bytes == 481) << begin;
     }
-    EXPECT_FALSE(check.Full()) << "not before ten seconds";
-    check.Look(true, 10, 10000);
-    EXPECT_EQ(check.Full(), bytes == 481);
   }
 }
 

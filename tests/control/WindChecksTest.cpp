@@ -30,6 +30,15 @@ TEST(UnchangedCheck, ManyInAShortTimeAreNotEnough) {
   EXPECT_TRUE(check.Stands());
 }
 
+TEST(UnchangedCheck, CountsFromTheLatestChange) {
+  UnchangedCheck check;
+  check.Add(44.0F, 10.0F, 0);
+  for (int i = 0; i < 30; ++i) {
+    check.Add(45.0F, 10.0F, 100000 + 100 * i);
+  }
+  EXPECT_FALSE(check.Stands()) << "3 s";
+}
+
 TEST(UnchangedCheck, SaysWhetherTheLatestIsAnother) {
   UnchangedCheck check;
   EXPECT_TRUE(check.JustChanged());
@@ -50,8 +59,8 @@ void Leap(JumpCheck& check, double angle, std::int64_t milliseconds, std::int64_
 
 TEST(JumpCheck, StandsAfterThreeLeapsInAMinute) {
   JumpCheck check;
-  Leap(check, 61.0, 1000, 10000);
-  Leap(check, -61.0, 3999, 20000);
+  Leap(check, 60.1, 1000, 10000);
+  Leap(check, -60.1, 3999, 20000);
   EXPECT_FALSE(check.Stands(20000));
   Leap(check, 180.0, 100, 70000);
   EXPECT_TRUE(check.Stands(70000));
@@ -78,6 +87,23 @@ TEST(JumpCheck, ATackIsNoLeap) {
     }
   }
   EXPECT_FALSE(check.Stands(40000));
+}
+
+TEST(JumpCheck, AWindThatTurnsSlowlyIsFollowed) {
+  JumpCheck check;
+  for (int i = 0; i < 100; ++i) {
+    check.Add(2.0 * i, 1000 * i);
+    EXPECT_FALSE(check.Away()) << i;
+  }
+}
+
+TEST(JumpCheck, ASwingToBothSidesOfTheMeanIsNoLeap) {
+  JumpCheck check;
+  check.Add(45.0, 999000);
+  for (int i = 0; i < 100; ++i) {
+    check.Add(i % 2 == 0 ? 13.0 : 77.0, 1000000 + 1000 * i);
+    EXPECT_FALSE(check.Away()) << i;
+  }
 }
 
 TEST(JumpCheck, LeapsAcrossTheSeamOfTheCircleAreMeasuredTheShortWay) {
@@ -114,6 +140,10 @@ TEST(TalkerCheck, IsOverWhenOneFallsSilentOrTheyAgree) {
   EXPECT_TRUE(check.Stands(14000));
   check.Add(kFirst, {40.0F, 10.0F}, 14001);
   EXPECT_FALSE(check.Stands(14001)) << "the second was last heard at 10 s";
+  check = Both(30.0F, 0.0F, 10);
+  check.Add(kSecond, {70.0F, 10.0F}, 14000);
+  EXPECT_TRUE(check.Stands(14000));
+  EXPECT_FALSE(check.Stands(14001)) << "the first was last heard at 10 s";
   check = Both(30.0F, 0.0F, 10);
   check.Add(kSecond, {41.0F, 10.0F}, 11000);
   EXPECT_FALSE(check.Stands(11000));

@@ -301,6 +301,17 @@ TEST_F(WatchedTrack, TheAlarmOfTheLoopIsAmongTheConditions) {
   EXPECT_EQ(Latest().Find(Condition::OffCourse), nullptr);
 }
 
+TEST_F(WatchedTrack, AnAlarmOfBeforeIsOverWithItsMode) {
+  Track(TrackSide::Apparent);
+  m_settings.m_fTrackAlarmLimit = 20.0F;
+  Angle = 75.0;
+  ASSERT_LT(Until(Condition::OffCourse), 30);
+  m_settings.m_fTrackAlarmLimit = 90.0F;
+  m_helm.Modes().TrackSetTrack();
+  Sail(1);
+  EXPECT_EQ(Latest().Find(Condition::OffCourse), nullptr);
+}
+
 TEST_F(WatchedTrack, MoreWindsThanTheBandwidthTakesAreANote) {
   m_settings.m_eTrackMethod = TrackMethod::Sentence;
   Track(TrackSide::Apparent);

@@ -375,6 +375,26 @@ TEST_F(MainWindowStatus, LeavingTrackWithdrawsTheAlarm) {
   EXPECT_EQ(Text("StatusBar(3)"), "");
 }
 
+TEST_F(MainWindowStatus, TheSideThatTheProgramChoosesShowsInItsOption) {
+  Start("[Nmea]\nTrue Wind=1\nBoat Speed=0\n[Pilot]\nPort=6\n[Watch]\nAct=True\n");
+  const auto second = [this](const std::string& lines) {
+    NmeaPort.Receive("$WIMWV,45,R,10,N,A\r" + lines);
+    Time.Pass(1000);
+    tmrNmea.Tick();
+  };
+  for (int i = 0; i < 3; ++i) {
+    second("$IIVHW,,T,,M,6.0,N,,K\r");
+  }
+  Click("optControl(2)");
+  Mode(7);
+  EXPECT_TRUE(Find<QRadioButton>("optControl(2)").isChecked());
+  for (int i = 0; i < 6; ++i) {
+    second("");
+  }
+  EXPECT_TRUE(Find<QRadioButton>("optControl(1)").isChecked());
+  EXPECT_EQ(Text("StatusBar(1)"), "Tracking Apparent Wind");
+}
+
 TEST_F(MainWindowStatus, ALongTextNeverWidensTheWindow) {
   Start(kOnPorts);
   Window->resize(640, 400);
