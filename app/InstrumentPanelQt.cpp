@@ -48,6 +48,7 @@ void PlaceText(QWidget* control, const Box& box, const QFont& letters) {
 
 InstrumentPanelQt::InstrumentPanelQt(QWidget* parent) : QWidget(parent), m_theme(palette()) {
   setObjectName(QStringLiteral("InstrumentPanel"));
+  Banner = new BannerQt(this);
   lblHeading = NewValue("lblHeading", kBearingPattern, "Heading (M)");
   lblBoatSpeed = NewValue("lblBoatSpeed", kSpeedPattern, "Boat Speed (Kts)");
   lblWaypointBearing = NewValue("lblWaypointBearing", kBearingPattern, "Waypoint Bearing (M)");
@@ -205,6 +206,7 @@ void InstrumentPanelQt::Place() {
   for (std::size_t i = 0; i < m_layout.Winds.size(); ++i) {
     PlaceText(optControl[i], m_layout.Winds[i].Option, ButtonFont());
   }
+  PlaceText(Banner, m_layout.Banner, Sized(font(), m_layout.BannerText, QFont::Bold));
   PlaceNudges(cmdDesiredApp, app.Port, app.Starboard);
   PlaceNudges(cmdDesiredTrue, trueWind.Port, trueWind.Starboard);
   PlaceNudges(cmdAutoPilot, m_layout.AutoPilot.Port, m_layout.AutoPilot.Starboard);

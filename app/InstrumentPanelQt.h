@@ -8,6 +8,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "app/BannerQt.h"
 #include "app/PanelControlsQt.h"
 #include "app/PanelLayout.h"
 #include "control/TrackModes.h"
@@ -23,6 +24,7 @@ class InstrumentPanelQt final : public QWidget {
 
   explicit InstrumentPanelQt(QWidget* parent);
 
+  BannerQt* Banner;
   ValueLabelQt* lblHeading;
   ValueLabelQt* lblBoatSpeed;
   ValueLabelQt* lblWaypointBearing;

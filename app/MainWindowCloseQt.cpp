@@ -62,6 +62,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
   KeepSettings();
   m_unloaded = true;
   m_others.Hide();
+  m_alarms.Hide();
   event->accept();
 }
 

@@ -6,7 +6,6 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QStatusBar>
-#include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -75,15 +74,15 @@ frmMain::frmMain(const MainWindowParts& parts)
       m_menu(*this),
       m_tbrTrack(new frmMainModeBar(*this)),
       m_panel(new InstrumentPanelQt(this)),
-      m_notice(new NoticeLineQt(this)),
       m_status(new StatusPanelsQt(this)),
       m_helm(*this, parts.MSCommNmea, parts.MSCommPilot, parts.tmrNmea, parts.Time, parts.Random),
       m_told(m_helm.Observers().Join(*this)),
-      m_others(m_parts, m_menu, *this, this) {
+      m_others(m_parts, m_menu, *this, this),
+      m_alarms(m_parts, *this, *m_panel->Banner, *this) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(QString::fromLatin1(kApplicationTitle));
   setWindowIcon(ProgramIcon());
-  MakeMiddle();
+  setCentralWidget(m_panel);
   setMinimumSize(kSmallestSize);
   QSize size = kDesignSize;
   if (const QScreen* display = screen()) {
@@ -105,16 +104,6 @@ frmMain::frmMain(const MainWindowParts& parts)
     m_instead.clear();
     ShowModeText();
   });
-}
-
-void frmMain::MakeMiddle() {
-  auto* middle = new QWidget(this);
-  auto* rows = new QVBoxLayout(middle);
-  rows->setContentsMargins(0, 0, 0, 0);
-  rows->setSpacing(0);
-  rows->addWidget(m_notice);
-  rows->addWidget(m_panel, 1);
-  setCentralWidget(middle);
 }
 
 void frmMain::MakeStatusBar() {
@@ -172,7 +161,6 @@ void frmMain::ConnectKeys() {
 void frmMain::ApplyTheme() {
   const ThemeQt theme(palette());
   m_tbrTrack->Theme(theme);
-  m_notice->Theme(theme);
   m_status->Theme(theme);
 }
 
@@ -222,7 +210,6 @@ void frmMain::resizeEvent(QResizeEvent* event) {
   m_tbrTrack->Fit(size());
   const int status = std::max(kLeastStatusTextHeight,
                               static_cast<int>(std::lround(kStatusTextHeight * WindowScale(size()))));
-  m_notice->TextHeight(status);
   m_status->TextHeight(status);
 }
 

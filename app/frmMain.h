@@ -12,9 +12,9 @@
 #include <string_view>
 #include <vector>
 
+#include "app/AlarmDeskQt.h"
 #include "app/InstrumentPanelQt.h"
 #include "app/MainWindowParts.h"
-#include "app/NoticeLineQt.h"
 #include "app/OtherWindowsQt.h"
 #include "app/SaveWatch.h"
 #include "app/SentAge.h"
@@ -41,7 +41,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void CloseUnasked();
 
   /// Writes the profile as a close does and goes on. What goes wrong is said on standard error and in the
-  /// line under the mode bar.
+  /// banner.
   void KeepSettings();
 
   /// What the latest writing of the profile could not do; "" for nothing.
@@ -49,8 +49,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   /// Whether the close was not the user's.
   bool ClosedUnasked() const { return m_unasked; }
 
-  /// Says `text` in the line under the mode bar, as long as `kind` has nothing else to say; "" withdraws it.
-  void NoticeSet(AlarmKind kind, const std::string& text) { m_notice->Set(kind, text); }
+  /// Says `text` in the banner and its list, as long as `kind` has nothing else to say; "" withdraws it.
+  void NoticeSet(AlarmKind kind, const std::string& text) { m_alarms.NoticeSet(kind, text); }
 
   /// A second has passed. Saves settings that were changed, with "Save While Running". Deliberate: what
   /// follows the boat by itself, bearing and wanted angles, is saved along and sets nothing off.
@@ -97,7 +97,6 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
  private:
   /// Asks whether to stop tracking, and closes at a Yes.
   void AskToStop();
-  void MakeMiddle();
   void MakeStatusBar();
   void ConnectControls();
   void ConnectKeys();
@@ -106,7 +105,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void ShowModeText();
   /// Heading and age of the latest sentence beside the bearing, while the pilot is sent to.
   void ShowSent();
-  /// In Setup the line under the mode bar says what the sources do not bring.
+  /// In Setup the banner says what the sources do not bring.
   void ShowAdvice();
   /// The profile as far as a change of it is worth saving at once.
   std::string Keepable();
@@ -153,11 +152,11 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   frmMainMenu m_menu;
   frmMainModeBar* m_tbrTrack;
   InstrumentPanelQt* m_panel;
-  NoticeLineQt* m_notice;
   StatusPanelsQt* m_status;
   Helm m_helm;
   HelmObservers::Membership m_told;
   OtherWindowsQt m_others;
+  AlarmDeskQt m_alarms;
   bool m_ask = true;            ///< a close still has to ask
   QString m_instead;            ///< shown in place of the mode: why Track was refused, or a turn has ended
   QTimer m_insteadTimer{this};  ///< ends what is said about a turn

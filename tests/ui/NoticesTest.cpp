@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <filesystem>
 
@@ -12,8 +13,8 @@ namespace {
 
 class MainWindowNotices : public MainWindowTester {
  public:
-  bool LineShown() const { return Find<QWidget>("NoticeLine").isVisible(); }
-  std::string Line() const { return LineShown() ? Text("lblNotice") : ""; }
+  bool LineShown() const { return Find<QWidget>("Banner").isVisible(); }
+  std::string Line() const { return LineShown() ? Find<QAbstractButton>("Banner").text().toStdString() : ""; }
 
   static frmOptions* Options() {
     for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -101,6 +102,8 @@ TEST_F(MainWindowNotices, SayThatTheProfileCouldNotBeRead) {
   Start("\xFF\xFE[\x01N\x01");
   EXPECT_EQ(Line(), ProfileFile() +
                         " cannot be read: defaults are used; at the close it is put aside, not overwritten");
+  Click("Banner");
+  EXPECT_TRUE(LineShown());
   Click("cmdNoticeHide");
   EXPECT_FALSE(LineShown());
   Window->KeepSettings();
@@ -126,7 +129,7 @@ TEST_F(MainWindowNotices, ALineThatIsTooLongLeavesTheWindowAsItIs) {
   Window->NoticeSet(AlarmKind::Save, std::string(2000, 'W'));
   QTest::qWait(0);
   EXPECT_EQ(Window->width(), 600);
-  EXPECT_TRUE(Find<QWidget>("cmdNoticeHide").isVisible());
+  EXPECT_LE(Find<QWidget>("Banner").width(), 600);
   EXPECT_LE(Window->minimumSizeHint().width(), 600);
 }
 
