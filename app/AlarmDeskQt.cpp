@@ -6,6 +6,7 @@
 #include "alarms/AlarmLines.h"
 #include "app/IconsQt.h"
 #include "draw/DrawQt.h"
+#include "helm/Why.h"
 
 namespace veerwatch {
 
@@ -91,7 +92,8 @@ void AlarmDeskQt::ShowList() {
     }
     blocks.push_back({entry.Rank, ToQt(entry.Text), lines.join(QLatin1Char('\n'))});
   }
-  m_list->Show(blocks, QString());
+  const Why why = m_main.Now().Sentence;
+  m_list->Show(blocks, why.Sent ? ToQt(WhyText(why)) : QString());
   m_list->ShowButtons(
       std::any_of(entries.begin(), entries.end(),
                   [](const AlarmEntry& entry) { return entry.What && !entry.Acknowledged; }),

@@ -7,6 +7,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "app/FigureLook.h"
 #include "draw/DrawQt.h"
 
 namespace veerwatch {
@@ -144,6 +145,30 @@ void InstrumentPanelQt::Enable(const TrackControls& controls, TrackMode mode, Tr
     m_side = side;
     ColourEntries();
     Repaint();
+  }
+}
+
+void InstrumentPanelQt::ShowAges(const WatchNow& watch, bool blankLost) {
+  struct Figure {
+    ValueLabelQt* Label;
+    Watched What;
+    bool Aged;  ///< says how old it is; the difference to it does not
+  };
+  const auto letters = static_cast<int>(m_layout.CaptionText);
+  for (const Figure& figure : std::initializer_list<Figure>{{lblHeading, Watched::Heading, true},
+                                                            {lblBoatSpeed, Watched::BoatSpeed, true},
+                                                            {lblWaypointBearing, Watched::Waypoint, true},
+                                                            {lblAppWindAngle, Watched::WindApparent, true},
+                                                            {lblAppWindSpeed, Watched::WindApparent, true},
+                                                            {lblDelta[0], Watched::WindApparent, false},
+                                                            {lblTrueWindAngle, Watched::WindTrue, true},
+                                                            {lblTrueWindSpeed, Watched::WindTrue, true},
+                                                            {lblDelta[1], Watched::WindTrue, false}}) {
+    const FigureLook look = LookOf(watch.Of(figure.What), watch.Mode, blankLost);
+    figure.Label->Fade(look.Half, figure.Aged ? ToQt(look.Age) : QString(), letters);
+    if (look.Blank && !figure.Label->text().isEmpty()) {
+      figure.Label->setText(QStringLiteral("--"));
+    }
   }
 }
 

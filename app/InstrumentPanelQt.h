@@ -12,6 +12,7 @@
 #include "app/PanelControlsQt.h"
 #include "app/PanelLayout.h"
 #include "control/TrackModes.h"
+#include "control/WatchNow.h"
 #include "settings/TrackMode.h"
 
 namespace veerwatch {
@@ -50,6 +51,8 @@ class InstrumentPanelQt final : public QWidget {
   void BlankValues();
   /// Enables what answers, and marks the card of the chosen side.
   void Enable(const TrackControls& controls, TrackMode mode, TrackSide side);
+  /// Shows how old every figure is; with `blankLost` one that is lost becomes "--".
+  void ShowAges(const WatchNow& watch, bool blankLost);
   /// Beside the bearing that is sent: the boat's heading, and how long ago it was sent, `late` or not.
   void ShowSent(const QString& heading, const QString& sent, bool late);
   /// Colours the delta of `side` for an alarm.

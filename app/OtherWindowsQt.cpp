@@ -25,6 +25,12 @@ WindCrossing SaidBy(TurnButton button) {
   return WindCrossing::None;
 }
 
+/// A value that plot and course are made of is no more of now.
+bool AnyGone(const WatchNow& watch) {
+  return watch.Of(Watched::WindApparent).Gone() || watch.Of(Watched::WindTrue).Gone() ||
+         watch.Of(Watched::BoatSpeed).Gone() || watch.Of(Watched::Heading).Gone();
+}
+
 /// Shows the window in front of all others.
 void BringUp(QWidget& window) {
   window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
@@ -141,6 +147,7 @@ void OtherWindowsQt::PolarShow() {
     m_polar = std::make_unique<frmPolar>(PolarParts{m_parts.Store, m_parts.Asks, *this, m_parts.Polars});
     m_polar->setWindowIcon(ProgramIcon());
   }
+  FadePolar();
   BringUp(*m_polar);
   m_menu.mnuViewPolar->setChecked(true);
 }
@@ -151,6 +158,31 @@ void OtherWindowsQt::OnPolarUpdate(TrackMode mode, const InstrumentData& record)
                          record.WindAngleApparent, record.WindSpeedApparent, record.WindAngleTrue,
                          record.WindSpeedTrue, record.WaypointValid, record.WaypointBearing,
                          record.WaypointRange);
+  }
+}
+
+// How old the values are
+
+void OtherWindowsQt::OnWatch(const WatchNow& watch) {
+  m_watch = watch;
+  FadePolar();
+  DiagramLights();
+  if (!m_history) {
+    return;
+  }
+  const bool off = watch.Mode == TrackMode::Off;
+  for (const auto& [trace, what] :
+       {std::pair{"Heading", Watched::Heading}, std::pair{"Boat Speed", Watched::BoatSpeed},
+        std::pair{"App Wind Angle", Watched::WindApparent},
+        std::pair{"App Wind Speed", Watched::WindApparent}, std::pair{"True Wind Angle", Watched::WindTrue},
+        std::pair{"True Wind Speed", Watched::WindTrue}, std::pair{"Pilot Delta", Watched::WindApparent}}) {
+    m_history->Chart().TraceFade(trace, off || watch.Of(what).Gone());
+  }
+}
+
+void OtherWindowsQt::FadePolar() {
+  if (m_polar) {
+    m_polar->PolarFade(m_watch.Mode == TrackMode::Off || AnyGone(m_watch));
   }
 }
 
@@ -236,8 +268,8 @@ void OtherWindowsQt::DiagramLights() {
   if (!m_diagram) {
     return;
   }
-  m_diagram->ShowState(DiagramStateOf(
-      {m_main.Now().Input, NmeaPortOpen(), m_main.m_eTrackMode, m_main.m_bSimulate, PilotPortOpen()}));
+  m_diagram->ShowState(DiagramStateOf({m_main.Now().Input, NmeaPortOpen(), m_main.m_eTrackMode,
+                                       m_main.m_bSimulate, PilotPortOpen(), AnyGone(m_watch)}));
 }
 
 void OtherWindowsQt::OnDiagramOptions(int tab, const DiagramAnchor& anchor) {

@@ -97,6 +97,8 @@ class OtherWindowsQt final : private HelmObserver,
   void OnInputState(InputState /*state*/) override { DiagramLights(); }
   void OnOutputState(OutputState /*state*/) override { DiagramLights(); }
   void OnTick() override { DiagramLights(); }
+  void OnWatch(const WatchNow& watch) override;
+  void FadePolar();
 
   bool NmeaPortOpen() const override { return m_parts.MSCommNmea.PortOpen(); }
   bool PilotPortOpen() const override;
@@ -107,6 +109,7 @@ class OtherWindowsQt final : private HelmObserver,
   QWidget* m_window;
   WindRecorder m_recorded;
   HelmObservers::Membership m_told;
+  WatchNow m_watch;                       ///< what the watch said last
   std::unique_ptr<frmHistory> m_history;  ///< from the first value on
   std::unique_ptr<frmPolar> m_polar;      ///< null until it is shown for the first time
   std::unique_ptr<frmTack> m_tack;        ///< the same

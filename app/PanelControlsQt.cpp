@@ -77,6 +77,16 @@ void ValueLabelQt::Colours(const QColor& text, const QColor& dimmed) {
   update();
 }
 
+void ValueLabelQt::Fade(bool half, const QString& age, int pixels) {
+  if (m_half != half || m_age != age || m_agePixels != pixels) {
+    m_half = half;
+    m_age = age;
+    m_agePixels = std::max(1, pixels);
+    setAccessibleDescription(age.isEmpty() ? age : age + QStringLiteral(" old"));
+    update();
+  }
+}
+
 void ValueLabelQt::BackColour(const QColor& colour) {
   m_alarm = colour.isValid();
   if (m_alarm) {
@@ -97,6 +107,8 @@ void ValueLabelQt::paintEvent(QPaintEvent* /*event*/) {
     painter.drawRoundedRect(QRectF(rect()), kRadius, kRadius);
   }
   const QString shown = text();
+  const bool aged = !m_age.isEmpty() && !shown.isEmpty();
+  const int beneath = aged ? m_agePixels * 5 / 4 : 0;
   QFont figures = font();
   QFontMetricsF metrics(figures);
   qreal textWidth = TabularWidth(metrics, shown);
@@ -105,11 +117,26 @@ void ValueLabelQt::paintEvent(QPaintEvent* /*event*/) {
     metrics = QFontMetricsF(figures);
     textWidth = TabularWidth(metrics, shown);
   }
+  // With an age beneath them the figures stand higher, and give way where there is no room.
+  const qreal room = height() - beneath;
+  if (aged && metrics.capHeight() > room) {
+    figures.setPixelSize(std::max(1, static_cast<int>(figures.pixelSize() * room / metrics.capHeight())));
+    metrics = QFontMetricsF(figures);
+    textWidth = TabularWidth(metrics, shown);
+  }
   const qreal right = std::max(textWidth, width() - metrics.capHeight() * kEdgeRoom);
-  const QColor colour = m_alarm ? QColor(Qt::black) : isEnabled() ? m_text : m_dimmed;
+  const QColor colour = m_alarm ? QColor(Qt::black) : isEnabled() && !m_half ? m_text : m_dimmed;
   const qreal digit = metrics.horizontalAdvance(QLatin1Char('0'));
   QPointF place(std::min<qreal>(right, width()) - textWidth,
-                std::round((height() + metrics.capHeight()) / 2.0 - metrics.ascent()));
+                std::round((room + metrics.capHeight()) / 2.0 - metrics.ascent()));
+  if (aged) {
+    QFont small = font();
+    small.setPixelSize(m_agePixels);
+    painter.setFont(small);
+    painter.setPen(colour);
+    painter.drawText(QRectF(0.0, room, std::min<qreal>(right, width()), beneath),
+                     Qt::AlignRight | Qt::AlignVCenter, m_age);
+  }
   for (const QChar character : shown) {
     const qreal cell = character.isDigit() ? digit : metrics.horizontalAdvance(character);
     painter.drawPixmap(place, Glyph(character, figures, colour, cell));

@@ -29,6 +29,8 @@ class ValueLabelQt final : public QLabel {
   void TextHeight(int pixels);
   /// Text colour, and text colour while disabled.
   void Colours(const QColor& text, const QColor& dimmed);
+  /// In half tone where `half`, with `age` beneath the figures, in letters of `pixels`; "" for none.
+  void Fade(bool half, const QString& age, int pixels);
   /// A back colour for an alarm, with a text that is legible on it; an invalid colour takes it back.
   void BackColour(const QColor& colour);
 
@@ -47,6 +49,9 @@ class ValueLabelQt final : public QLabel {
   QColor m_text;
   QColor m_dimmed;
   bool m_alarm = false;
+  bool m_half = false;
+  QString m_age;
+  int m_agePixels = 1;
   QHash<QChar, QPixmap> m_glyphs;
   QFont m_glyphFont;
   QColor m_glyphColour;

@@ -12,6 +12,7 @@
 #include <optional>
 #include <utility>
 
+#include "app/FigureLook.h"
 #include "app/IconsQt.h"
 #include "app/TypedAngle.h"
 #include "control/TrackAdvice.h"
@@ -343,8 +344,27 @@ void frmMain::OnWindTrue(float angle, float speed) {
 }
 
 void frmMain::OnWindIndicator(float direction, float speed) {
-  QString caption =
+  m_wind =
       QStringLiteral("Wind ") + Text(CompassPointName(direction)) + QLatin1Char('@') + Number(speed, ".0");
+  ShowTitle();
+}
+
+void frmMain::OnWatch(const WatchNow& watch) {
+  m_watch = watch;
+  m_panel->ShowAges(watch, m_bWatchBlankLost);
+  ShowTitle();
+  ShowSent();
+}
+
+void frmMain::ShowTitle() {
+  if (m_wind.isEmpty()) {
+    return;
+  }
+  const FigureLook look = LookOf(m_watch.Of(Watched::WindTrue), m_watch.Mode, m_bWatchBlankLost);
+  QString caption = look.Blank ? QStringLiteral("Wind --") : m_wind;
+  if (look.Half) {
+    caption += look.Age.empty() ? QStringLiteral(" (Off)") : QStringLiteral(" (%1 old)").arg(Text(look.Age));
+  }
   if (m_parts.Asks.IsForeground()) {
     caption.prepend(QString::fromLatin1(kApplicationTitle) + QStringLiteral(" - "));
   }
@@ -443,9 +463,13 @@ void frmMain::ShowSent() {
     m_panel->ShowSent(QString(), QString(), false);
     return;
   }
-  const QString heading = m_panel->lblHeading->text();
-  m_panel->ShowSent(heading.isEmpty() ? heading : QStringLiteral("Heading ") + heading, Text(m_sent.Text()),
-                    m_sent.Late());
+  QString heading = m_panel->lblHeading->text();
+  if (!heading.isEmpty()) {
+    const ValueAge& age = m_watch.Of(Watched::Heading);
+    heading.prepend(QStringLiteral("Heading "));
+    heading += age.Gone() ? QStringLiteral(" (%1)").arg(Text(AgeText(age))) : QString();
+  }
+  m_panel->ShowSent(heading, Text(m_sent.Text()), m_sent.Late());
 }
 
 void frmMain::OnTrackSide(TrackSide side) {

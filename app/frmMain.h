@@ -146,6 +146,9 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void OnTurnEnds(TurnFate why) override;
   void OnPilotData(std::string_view sentence) override;
   void OnTick() override;
+  void OnWatch(const WatchNow& watch) override;
+  /// The caption, with the age of its wind.
+  void ShowTitle();
 
   MainWindowParts m_parts;
   std::unique_ptr<WindowDialogs> m_asks;
@@ -165,6 +168,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   std::string m_saveFailure;
   SaveWatch m_save;
   SentAge m_sent;
+  WatchNow m_watch;                   ///< what the watch said last
+  QString m_wind;                     ///< what the caption says of the wind; empty while nothing is known
   std::vector<std::string> m_advice;  ///< what the sources do not bring
 };
 

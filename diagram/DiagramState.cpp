@@ -18,8 +18,10 @@ DiagramBoxState InputOf(const DiagramSystem& system) {
     case InputState::Running:
       break;
   }
-  return system.InputOpen ? DiagramBoxState{DiagramLight::Good, InputStateText(InputState::Running)}
-                          : kNotOpen;
+  if (!system.InputOpen) {
+    return kNotOpen;
+  }
+  return {system.Stale ? DiagramLight::Off : DiagramLight::Good, InputStateText(InputState::Running)};
 }
 
 DiagramBoxState ControlOf(TrackMode mode) {

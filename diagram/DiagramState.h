@@ -38,6 +38,7 @@ struct DiagramSystem {
   TrackMode Mode = TrackMode::Off;
   bool Simulate = false;
   bool OutputOpen = false;  ///< the port to the pilot
+  bool Stale = false;       ///< something comes in, but no wind, no heading or no boat speed any more
 };
 
 /// The state of the three boxes. A port that is closed in mode Off is not in trouble.

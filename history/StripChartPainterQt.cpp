@@ -117,7 +117,7 @@ void StripChartPainterQt::PaintStill() {
   }
 }
 
-void StripChartPainterQt::PaintLive() {
+void StripChartPainterQt::PaintLive(const std::set<int>& faded) {
   for (const ChartPanel& panel : m_picture.Panels) {
     m_painter.save();
     m_painter.setClipRect(Clip(panel));
@@ -134,7 +134,7 @@ void StripChartPainterQt::PaintLive() {
     const double round = entry.Swatch.Width / 2.0;
     m_painter.drawRoundedRect(ToQt(entry.Swatch), round, round);
     PaintText(entry.Name, m_colours.Caption);
-    PaintText(entry.Value, entry.Old ? m_colours.Dimmed : colour, true);
+    PaintText(entry.Value, entry.Old || faded.contains(entry.Trace) ? m_colours.Dimmed : colour, true);
     PaintText(entry.Units, m_colours.Dimmed);
   }
 }

@@ -4,6 +4,7 @@
 #include <QLineF>
 #include <QList>
 #include <QPainter>
+#include <set>
 #include <vector>
 
 #include "draw/TextMeasureQt.h"
@@ -28,8 +29,8 @@ class StripChartPainterQt {
 
   /// What stays while samples arrive: panels, axes and all of the traces but their newest bucket.
   void PaintStill();
-  /// The newest bucket of every trace, and the legend.
-  void PaintLive();
+  /// The newest bucket of every trace, and the legend; the values of `faded` traces are in half tone.
+  void PaintLive(const std::set<int>& faded);
   /// What stands under the mouse.
   void PaintReading(const ChartReading& reading);
 

@@ -138,6 +138,16 @@ void StripChart::SampleAdd(std::string_view name, std::string_view text) {
   }
 }
 
+void StripChart::TraceFade(std::string_view name, bool fade) {
+  const auto& traces = m_data.Traces();
+  const auto found = std::find_if(traces.begin(), traces.end(),
+                                  [name](const StripChartData::Trace& trace) { return trace.Name == name; });
+  const auto trace = static_cast<int>(found - traces.begin());
+  if (found != traces.end() && (fade ? m_faded.insert(trace).second : m_faded.erase(trace) > 0)) {
+    update();
+  }
+}
+
 void StripChart::Due(int milliseconds) {
   if (m_redraw && isVisible()) {
     m_tmrRedraw.start(milliseconds);
@@ -281,7 +291,7 @@ void StripChart::paintEvent(QPaintEvent* /*event*/) {
   painter.drawPixmap(0, 0, m_still);
   const std::vector<QColor> colours = TraceColours();
   StripChartPainterQt chart(painter, m_picture, m_measure, m_colours, colours, m_groupColours);
-  chart.PaintLive();
+  chart.PaintLive(m_faded);
   if (m_hover && !m_drag) {
     if (const auto reading = m_picture.ReadAt(Subject(), m_hover->x(), m_hover->y())) {
       chart.PaintReading(*reading);
@@ -302,7 +312,7 @@ QImage StripChart::Image(double scale) {
   DrawStill(image);
   QPainter painter(&image);
   const std::vector<QColor> colours = TraceColours();
-  StripChartPainterQt(painter, m_picture, m_measure, m_colours, colours, m_groupColours).PaintLive();
+  StripChartPainterQt(painter, m_picture, m_measure, m_colours, colours, m_groupColours).PaintLive(m_faded);
   return image;
 }
 

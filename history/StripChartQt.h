@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -46,6 +47,10 @@ class StripChart final : public QWidget, public StripChartOperations {
                        std::int16_t c) override;
   void TraceSettingsLoad(const std::string& name, const Profile& profile) override;
   void TraceSettingsSave(const std::string& name, Profile& profile) const override;
+
+  /// Whether the newest value of a trace is no more of now, though its slot is: then it is in half tone in
+  /// the legend. An unknown name is ignored.
+  void TraceFade(std::string_view name, bool fade);
 
   const StripChartData& Data() const { return m_data; }
   const TraceSettings& Settings() const { return m_settings; }
@@ -148,6 +153,7 @@ class StripChart final : public QWidget, public StripChartOperations {
   QPixmap m_still;
   StillKey m_stillKey;
   int m_fullRedraws = 0;
+  std::set<int> m_faded;  ///< traces whose newest value is no more of now
   QTimer m_tmrRedraw;
   bool m_soon = false;  ///< a redraw for a sample is on its way
   QPushButton* m_cmdNow;

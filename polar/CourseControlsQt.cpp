@@ -26,6 +26,11 @@ void CourseControlsQt::Show(const LedgerContent& content) {
   Follow();
 }
 
+void CourseControlsQt::Fade(bool fade) {
+  frmLedger->Fade(fade);
+  lblSteer->Fade(fade);
+}
+
 void CourseControlsQt::Hide() {
   m_course = false;
   Follow();

@@ -16,6 +16,8 @@ class CourseControlsQt {
 
   /// There is a course, with this ledger.
   void Show(const LedgerContent& content);
+  /// What shows is in half tone: it is no more of now.
+  void Fade(bool fade);
   /// There is none.
   void Hide();
   /// The user wants to see the ledger, or not.

@@ -193,10 +193,27 @@ void LedgerPanelQt::mouseReleaseEvent(QMouseEvent* event) {
 
 void LedgerPanelQt::contextMenuEvent(QContextMenuEvent* event) { MenuWanted(event->globalPos()); }
 
+void LedgerPanelQt::Fade(bool fade) {
+  if (m_faded != fade) {
+    m_faded = fade;
+    cmdSteer->Fade(fade);
+    cmdTack->Fade(fade);
+    Dress();
+    update();
+  }
+}
+
+void LedgerPanelQt::Dress() {
+  m_colours = PolarPaletteQt(palette());
+  if (m_faded) {
+    m_colours = m_colours.Faded();
+  }
+}
+
 void LedgerPanelQt::changeEvent(QEvent* event) {
   QFrame::changeEvent(event);
   if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
-    m_colours = PolarPaletteQt(palette());
+    Dress();
     update();
   }
 }

@@ -19,6 +19,8 @@ class LedgerPanelQt final : public QFrame {
 
   /// What to show, the next time that the parent is painted; somebody else makes the panel visible.
   void Show(const LedgerContent& content);
+  /// In half tone: the course is no more of now.
+  void Fade(bool fade);
   /// Fits the size to the parent's and to what is shown.
   void Fit();
   /// Puts it where it has been dragged to, or where nobody minds it. `legendInCorners` is where the plot's
@@ -53,11 +55,13 @@ class LedgerPanelQt final : public QFrame {
   LedgerTexts Measure(double height, bool rows) const;
   /// Moves the upper left corner as near to `at` as the parent allows.
   void MoveTo(const Point& at);
+  void Dress();
   QColor ColourOf(LedgerSubject subject) const;
   void PaintFigures(QPainter& painter) const;
   void PaintRows(QPainter& painter) const;
 
   PolarPaletteQt m_colours;
+  bool m_faded = false;
   LedgerContent m_content;
   Shape m_shape;
   LedgerLayout m_layout;

@@ -59,7 +59,7 @@ void HaloText(QPainter& painter, const QPointF& centre, const QString& text, con
 
 }  // namespace
 
-PolarCanvasQt::PolarCanvasQt(QWidget* parent) : QWidget(parent), m_colours(palette()) {
+PolarCanvasQt::PolarCanvasQt(QWidget* parent) : QWidget(parent), m_colours(palette()), m_moves(m_colours) {
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
 }
@@ -180,17 +180,17 @@ void PolarCanvasQt::PaintMoving(QPainter& painter) const {
   painter.setRenderHint(QPainter::Antialiasing);
   const qreal size = std::clamp(m_still.Geometry.CentreX * 2.0 / kDesignSize, 0.5, 1.6);
   painter.setBrush(Qt::NoBrush);
-  StrokeLines(painter, m_moving.Wind, RoundPen(m_colours.Disc, (kWindWidth + kHalo) * size));
-  StrokeLines(painter, m_moving.Wind, RoundPen(m_colours.Wind, kWindWidth * size));
-  StrokeLines(painter, m_moving.ReferenceWind, DashedPen(m_colours.Reference, kWindWidth * size, 1.3 * size));
+  StrokeLines(painter, m_moving.Wind, RoundPen(m_moves.Disc, (kWindWidth + kHalo) * size));
+  StrokeLines(painter, m_moving.Wind, RoundPen(m_moves.Wind, kWindWidth * size));
+  StrokeLines(painter, m_moving.ReferenceWind, DashedPen(m_moves.Reference, kWindWidth * size, 1.3 * size));
   if (m_moving.Target) {
-    painter.setPen(DashedPen(m_colours.Target, kTargetWidth * size, size, kTargetDash));
+    painter.setPen(DashedPen(m_moves.Target, kTargetWidth * size, size, kTargetDash));
     painter.drawLine(ToQt(m_moving.Target->Line));
   }
   PaintLabels(painter);
   if (m_moving.Target) {
     painter.setPen(Qt::NoPen);
-    painter.setBrush(m_colours.Target);
+    painter.setBrush(m_moves.Target);
     painter.drawPolygon(ToQt(Polyline{m_moving.Target->Diamond.begin(), m_moving.Target->Diamond.end()}));
   }
   if (m_moving.Arrow) {
@@ -207,26 +207,26 @@ void PolarCanvasQt::PaintArrow(QPainter& painter, qreal size) const {
   const WindArrow& arrow = *m_moving.Arrow;
   const QPointF neck = (ToQt(arrow.HeadLeft) + ToQt(arrow.HeadRight)) / 2.0;
   const QPolygonF head{ToQt(arrow.Shaft.To), ToQt(arrow.HeadLeft), ToQt(arrow.HeadRight)};
-  painter.setPen(QPen(m_colours.Wind, 1.2 * size));
+  painter.setPen(QPen(m_moves.Wind, 1.2 * size));
   painter.drawLine(ToQt(arrow.Line));
-  painter.setPen(RoundPen(m_colours.Disc, (6.0 + kHalo) * size));
+  painter.setPen(RoundPen(m_moves.Disc, (6.0 + kHalo) * size));
   painter.setBrush(Qt::NoBrush);
   painter.drawLine(ToQt(arrow.Shaft.From), neck);
   painter.drawPolygon(head);
-  painter.setPen(QPen(m_colours.Wind, 6.0 * size, Qt::SolidLine, Qt::FlatCap));
+  painter.setPen(QPen(m_moves.Wind, 6.0 * size, Qt::SolidLine, Qt::FlatCap));
   painter.drawLine(ToQt(arrow.Shaft.From), neck);
   painter.setPen(Qt::NoPen);
-  painter.setBrush(m_colours.Wind);
+  painter.setBrush(m_moves.Wind);
   painter.drawPolygon(head);
 }
 
 void PolarCanvasQt::PaintBoat(QPainter& painter, qreal size) const {
   const BoatPoint& boat = *m_moving.Boat;
   painter.setFont(Letters(font(), 30.0 * size, QFont::Black));
-  HaloText(painter, ToQt(boat.At), QStringLiteral("X"), m_colours.Boat, m_colours.Disc);
+  HaloText(painter, ToQt(boat.At), QStringLiteral("X"), m_moves.Boat, m_moves.Disc);
   if (boat.Beyond) {
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(QPen(m_colours.Boat, 3.0 * size));
+    painter.setPen(QPen(m_moves.Boat, 3.0 * size));
     painter.drawEllipse(ToQt(boat.At), 22.0 * size, 22.0 * size);
   }
 }
@@ -235,10 +235,10 @@ void PolarCanvasQt::PaintLegs(QPainter& painter, qreal size) const {
   painter.setBrush(Qt::NoBrush);
   for (const PolarLeg& leg : m_moving.Legs) {
     const qreal width = (leg.Now ? kLegNowWidth : kLegWidth) * size;
-    const QColor colour = leg.PortTack ? m_colours.PortTack : m_colours.StarboardTack;
-    const QPen halo = RoundPen(m_colours.Disc, width + kHalo * size);
+    const QColor colour = leg.PortTack ? m_moves.PortTack : m_moves.StarboardTack;
+    const QPen halo = RoundPen(m_moves.Disc, width + kHalo * size);
     const QPen head = RoundPen(colour, width);
-    const QPen line = m_colours.Dashed(leg.PortTack) ? DashedPen(colour, width, size) : head;
+    const QPen line = m_moves.Dashed(leg.PortTack) ? DashedPen(colour, width, size) : head;
     for (const auto& [linePen, headPen] : {std::pair{halo, halo}, std::pair{line, head}}) {
       painter.setPen(linePen);
       painter.drawLine(ToQt(leg.Arrow.Line));
@@ -259,7 +259,7 @@ void PolarCanvasQt::PaintLegend(QPainter& painter) const {
                         const std::string& percent, const QColor& colour) {
     const Qt::Alignment side = place.Right ? Qt::AlignRight : Qt::AlignLeft;
     painter.setFont(captionFont);
-    painter.setPen(m_colours.Caption);
+    painter.setPen(m_moves.Caption);
     painter.drawText(ToQt(place.Caption), static_cast<int>(side | Qt::AlignVCenter) | Qt::TextDontClip,
                      ToQt(caption));
     painter.setFont(valueFont);
@@ -279,10 +279,18 @@ void PolarCanvasQt::PaintLegend(QPainter& painter) const {
       painter.drawText(QPointF(x + metrics.horizontalAdvance(number) + gap, baseline), share);
     }
   };
-  cell(legend.Boat, readout.BoatCaption, readout.BoatValue, readout.BoatPercent, m_colours.Boat);
-  cell(legend.Reference, readout.ReferenceCaption, readout.ReferenceValue, {}, m_colours.Foreground);
-  cell(legend.WindSpeed, readout.WindSpeedCaption, readout.WindSpeedValue, {}, m_colours.Wind);
-  cell(legend.WindAngle, readout.WindAngleCaption, readout.WindAngleValue, {}, m_colours.Wind);
+  cell(legend.Boat, readout.BoatCaption, readout.BoatValue, readout.BoatPercent, m_moves.Boat);
+  cell(legend.Reference, readout.ReferenceCaption, readout.ReferenceValue, {}, m_moves.Foreground);
+  cell(legend.WindSpeed, readout.WindSpeedCaption, readout.WindSpeedValue, {}, m_moves.Wind);
+  cell(legend.WindAngle, readout.WindAngleCaption, readout.WindAngleValue, {}, m_moves.Wind);
+}
+
+void PolarCanvasQt::Fade(bool fade) {
+  if (m_faded != fade) {
+    m_faded = fade;
+    m_moves = fade ? m_colours.Faded() : m_colours;
+    update();
+  }
 }
 
 void PolarCanvasQt::resizeEvent(QResizeEvent* event) {
@@ -315,6 +323,7 @@ void PolarCanvasQt::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::PaletteChange || event->type() == QEvent::FontChange) {
     m_colours = PolarPaletteQt(palette());
+    m_moves = m_faded ? m_colours.Faded() : m_colours;
     m_pictured = 0;
     update();
   }

@@ -17,6 +17,8 @@ class PolarCanvasQt final : public QWidget {
 
   /// What to show; copies both and repaints.
   void Show(const PolarStill& still, PolarMoving moving);
+  /// What moves is in half tone, or again as ever.
+  void Fade(bool fade);
 
   /// Called with every press of the left button and every move of the mouse [px].
   std::function<void(QPointF)> Pressed;
@@ -47,7 +49,9 @@ class PolarCanvasQt final : public QWidget {
   void PaintLegs(QPainter& painter, qreal size) const;
   void PaintLegend(QPainter& painter) const;
 
-  PolarPaletteQt m_colours;
+  PolarPaletteQt m_colours;  ///< of what stands still
+  PolarPaletteQt m_moves;    ///< of what moves
+  bool m_faded = false;
   PolarStill m_still;
   PolarMoving m_moving;
   QPixmap m_picture;             ///< the still part

@@ -43,6 +43,13 @@ PolarPaletteQt::PolarPaletteQt(const QPalette& palette)
   }
 }
 
+PolarPaletteQt PolarPaletteQt::Faded() const {
+  PolarPaletteQt faded(*this);
+  const QColor dim = Legible(Surface, faded.Foreground, 0.5, kDimmedContrast);
+  faded.Wind = faded.Boat = faded.Target = faded.StarboardTack = faded.PortTack = faded.Foreground = dim;
+  return faded;
+}
+
 QColor PolarPaletteQt::Curve(std::uint32_t speedColor) const {
   if (speedColor == 0) {
     return Night ? kNightCurve : Foreground;

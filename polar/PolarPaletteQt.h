@@ -32,6 +32,9 @@ struct PolarPaletteQt {
   /// Whether the line of a leg is dashed.
   bool Dashed(bool portTack) const { return Night && portTack; }
 
+  /// The same with everything that moves in half tone: what it shows is no more of now.
+  PolarPaletteQt Faded() const;
+
   /// The colour of the curves for a setting of 0xBBGGRR.
   QColor Curve(std::uint32_t speedColor) const;
 };

@@ -1,6 +1,8 @@
 #include "polar/TurnButtonQt.h"
 
 #include <QPainter>
+#include <tuple>
+#include <utility>
 
 #include "platform/ColoursQt.h"
 
@@ -32,6 +34,17 @@ QColor Faded(QColor colour, float share) {
 }
 
 constexpr float kEdge = 0.35F;
+
+constexpr qreal kFadedText = 0.45;
+
+/// What is no more of now: its side still to be told, its text still legible.
+std::pair<QColor, QColor> FadedPlate(const QWidget& control, const QColor& back) {
+  const QPalette colours = control.window()->palette();
+  const QColor window = colours.color(QPalette::Active, QPalette::Window);
+  const QColor plate = Mixed(window, back, 0.25);
+  return {plate,
+          Legible(plate, colours.color(QPalette::Active, QPalette::WindowText), kFadedText, kDimmedContrast)};
+}
 
 /// Gives `control` the back colour of `face` and a text colour for it.
 void WearTurn(QWidget& control, const TurnFace& face) {
@@ -74,8 +87,22 @@ void TurnLabelQt::Show(const TurnFace& face) {
 
 void TurnLabelQt::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  const QColor text = palette().color(QPalette::WindowText);
-  PaintPlate(painter, rect(), this->text(), palette().color(QPalette::Window), text, Faded(text, kEdge));
+  QColor text = palette().color(QPalette::WindowText);
+  QColor back = palette().color(QPalette::Window);
+  if (m_faded) {
+    std::tie(back, text) = FadedPlate(*this, back);
+  }
+  PaintPlate(painter, rect(), this->text(), back, text, Faded(text, kEdge));
+}
+
+void TurnLabelQt::Fade(bool fade) {
+  m_faded = fade;
+  update();
+}
+
+void TurnButtonQt::Fade(bool fade) {
+  m_faded = fade;
+  update();
 }
 
 TurnButtonQt::TurnButtonQt(const QString& name, const QString& caption, QWidget* parent)
@@ -96,7 +123,10 @@ void TurnButtonQt::paintEvent(QPaintEvent* /*event*/) {
   constexpr int kMiddleLightness = 128;
   QPainter painter(this);
   QColor back = palette().color(QPalette::Button);
-  const QColor text = palette().color(QPalette::ButtonText);
+  QColor text = palette().color(QPalette::ButtonText);
+  if (m_faded) {
+    std::tie(back, text) = FadedPlate(*this, back);
+  }
   if (!isEnabled()) {
     PaintPlate(
         painter, rect(), this->text(), back,

@@ -15,9 +15,14 @@ class TurnLabelQt final : public QLabel {
   TurnLabelQt(const QString& name, const QString& caption, QWidget* parent);
 
   void Show(const TurnFace& face);
+  /// In half tone: the course is no more of now.
+  void Fade(bool fade);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  bool m_faded = false;
 };
 
 class TurnButtonQt final : public QPushButton {
@@ -25,9 +30,14 @@ class TurnButtonQt final : public QPushButton {
   TurnButtonQt(const QString& name, const QString& caption, QWidget* parent);
 
   void Show(const TurnFace& face);
+  /// In half tone: the course is no more of now.
+  void Fade(bool fade);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+
+ private:
+  bool m_faded = false;
 };
 
 }  // namespace veerwatch

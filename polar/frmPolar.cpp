@@ -134,6 +134,11 @@ void frmPolar::PolarStore() {
   }
 }
 
+void frmPolar::PolarFade(bool fade) {
+  m_canvas->Fade(fade);
+  m_course.Fade(fade);
+}
+
 void frmPolar::PolarUpdate(TrackMode mode, bool headingValid, float heading, float boatSpeed,
                            float windAngleApparent, float windSpeedApparent, float windAngleTrue,
                            float windSpeedTrue, bool waypointValid, float waypointBearing,

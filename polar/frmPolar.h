@@ -46,6 +46,9 @@ class frmPolar final : public QMainWindow {
                    float windSpeedApparent, float windAngleTrue, float windSpeedTrue, bool waypointValid,
                    float waypointBearing, float waypointRange);
 
+  /// The values have grown stale, or come again: what is made of them is in half tone.
+  void PolarFade(bool fade);
+
   void PolarRecall();
   /// Sets the keys of "Polar Window" and "Polar Data" in the profile, which somebody else commits.
   void PolarStore();

@@ -80,6 +80,7 @@ struct Settings {
   bool m_bWatchHeadingUp = false;          ///< with Act: a lost wind from astern brings the boat up, once
   bool m_bWatchLogFitted = true;           ///< a boat speed is on the wire; else nobody misses it
   bool m_bWatchCompassFitted = true;       ///< the same for the heading
+  bool m_bWatchBlankLost = false;          ///< a lost figure becomes "--"
   float m_fWatchStaleWindApparent = 4.0F;  ///< older values are stale [s], above 0
   float m_fWatchStaleWindTrue = 4.0F;
   float m_fWatchStaleBoatSpeed = 4.0F;

@@ -134,6 +134,8 @@ SettingTable<S> Watch() {
        "with Act: the last bearing is sent on for 30 seconds when the wind is lost", kProfile},
       {section, "Heading Up", Truth(&S::m_bWatchHeadingUp), "",
        "with Act: a wind from astern that is lost brings the boat 20 degrees up, once", kProfile},
+      {section, "Blank Lost", Truth(&S::m_bWatchBlankLost), "",
+       "a figure that is lost becomes \"--\"; otherwise it stays, in half tone", kWatch},
       {section, "Log Fitted", Truth(&S::m_bWatchLogFitted), "",
        "the boat speed is on the wire; otherwise it is not missed", kProfile},
       {section, "Compass Fitted", Truth(&S::m_bWatchCompassFitted), "",

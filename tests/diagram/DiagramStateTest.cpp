@@ -16,6 +16,15 @@ TEST(DiagramState, TheInputIsAliveSilentSimulatedOrStopped) {
   EXPECT_EQ(input(InputState::Stopped, false), (DiagramBoxState{DiagramLight::Off, "Stopped"}));
 }
 
+TEST(DiagramState, AnInputWithoutAWindIsNotLit) {
+  DiagramSystem system{InputState::Running, true};
+  EXPECT_EQ(DiagramStateOf(system).Input, (DiagramBoxState{DiagramLight::Good, "Running"}));
+  system.Stale = true;
+  EXPECT_EQ(DiagramStateOf(system).Input, (DiagramBoxState{DiagramLight::Off, "Running"}));
+  system.Input = InputState::NoData;
+  EXPECT_EQ(DiagramStateOf(system).Input.Light, DiagramLight::Trouble);
+}
+
 TEST(DiagramState, TheControlLoopShowsTheMode) {
   const auto control = [](TrackMode mode) {
     return DiagramStateOf({InputState::Running, true, mode, false, true}).Control;

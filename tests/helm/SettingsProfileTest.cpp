@@ -327,7 +327,8 @@ TEST(SettingsProfile, AFreshProfileHasEveryKeyInItsOrder) {
       "Waypoint Range=10\n\n"
       "[Track]\nAlarm=True\nAlarm Limit=5\nBandwidth=20\nDamping=4\nDesired 1=45\n"
       "Desired 2=92\nMax SteerTo=10\nMethod=Sentence\nMax Ahead=30\nMax Rate=3\nAlarm Average=0\n\n"
-      "[Watch]\nAct=False\nKeep Sending=False\nHeading Up=False\nLog Fitted=True\nCompass Fitted=True\n"
+      "[Watch]\nAct=False\nKeep Sending=False\nHeading Up=False\nBlank Lost=False\nLog Fitted=True\nCompass "
+      "Fitted=True\n"
       "Stale Apparent Wind=4\nStale True Wind=4\nStale Boat Speed=4\nStale Heading=4\nStale Waypoint=4\n\n"
       "[View]\nNight Colours=False\nSave While Running=False\nCareful Entry=False\n\n"
       "[History Window]\nVisible=False\n\n[Polar Window]\nVisible=False\n");
