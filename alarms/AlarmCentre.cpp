@@ -1,5 +1,7 @@
 #include "alarms/AlarmCentre.h"
 
+#include <algorithm>
+
 #include "alarms/WatchText.h"
 #include "platform/VisibleText.h"
 
@@ -70,6 +72,13 @@ void AlarmCentre::Acknowledge() {
 bool AlarmCentre::Acknowledged(const Standing& standing) const {
   const auto& at = m_acknowledged[static_cast<std::size_t>(standing.What)];
   return at && *at <= standing.Rank;
+}
+
+bool AlarmCentre::Unanswered() const {
+  const auto conditions = m_watch.Conditions();
+  return std::any_of(conditions.begin(), conditions.end(), [this](const Standing& standing) {
+    return standing.What != Condition::Simulation && !Acknowledged(standing);
+  });
 }
 
 bool AlarmCentre::Muted(const Moment& now) const {

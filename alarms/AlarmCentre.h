@@ -56,6 +56,9 @@ class AlarmCentre {
   /// worse, is heard again.
   void Acknowledge();
 
+  /// Something stands that could be heard and is not acknowledged, muted or not.
+  bool Unanswered() const;
+
   /// Nothing is heard for ten minutes from `now`.
   void Mute(const Moment& now) { m_mutedAt = now.Steady; }
   /// It is heard again.

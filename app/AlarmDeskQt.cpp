@@ -10,8 +10,21 @@
 
 namespace veerwatch {
 
-AlarmDeskQt::AlarmDeskQt(const MainWindowParts& parts, MainWindowApi& main, BannerQt& banner, QWidget& window)
-    : m_parts(parts), m_main(main), m_banner(banner), m_window(window), m_told(main.Observers().Join(*this)) {
+AlarmDeskQt::AlarmDeskQt(const MainWindowParts& parts, const frmMainMenu& menu, MainWindowApi& main,
+                         BannerQt& banner, QWidget& window)
+    : m_parts(parts),
+      m_menu(menu),
+      m_main(main),
+      m_banner(banner),
+      m_window(window),
+      m_space(QKeySequence(Qt::Key_Space), &window),
+      m_told(main.Observers().Join(*this)) {
+  m_space.setContext(Qt::ApplicationShortcut);
+  m_space.setAutoRepeat(false);
+  m_space.setEnabled(false);
+  QObject::connect(&m_space, &QShortcut::activated, &banner, [this] { Acknowledge(); });
+  QObject::connect(menu.mnuViewAlarms, &QAction::triggered, &banner, [this] { ListShow(); });
+  QObject::connect(menu.mnuViewMute, &QAction::triggered, &banner, [this](bool checked) { Mute(checked); });
   QObject::connect(&banner, &QAbstractButton::clicked, &banner, [this] {
     Acknowledge();
     ListShow();
@@ -26,6 +39,7 @@ void AlarmDeskQt::NoticeSet(AlarmKind kind, const std::string& text) {
 
 void AlarmDeskQt::Acknowledge() {
   m_centre.Acknowledge();
+  Sound();
   ShowList();
 }
 
@@ -35,6 +49,7 @@ void AlarmDeskQt::Mute(bool mute) {
   } else {
     m_centre.Unmute();
   }
+  Sound();
   ShowList();
 }
 
@@ -64,8 +79,54 @@ void AlarmDeskQt::Hide() {
 
 void AlarmDeskQt::OnWatch(const WatchNow& watch) {
   m_centre.Watch(watch);
+  Sound();
   ShowBanner();
   ShowList();
+}
+
+void AlarmDeskQt::Play(const TonePattern& pattern) {
+  if (m_parts.Tone == nullptr || !m_parts.Tone->Play(ToneSamples(pattern, Sounder::kRate))) {
+    m_parts.Asks.Beep();
+  }
+}
+
+void AlarmDeskQt::StepSounds() {
+  if (m_main.m_eWatchSound == AlarmSound::Beep && !Muted()) {
+    m_parts.Asks.Beep();
+  }
+}
+
+void AlarmDeskQt::TurnSounds() {
+  if (!Muted()) {
+    Test(m_main.m_eWatchSound);
+  }
+}
+
+void AlarmDeskQt::Test(AlarmSound sound) {
+  if (sound == AlarmSound::Tone) {
+    Play(PatternOf(Level::Red, false));
+  } else {
+    m_parts.Asks.Beep();
+  }
+}
+
+void AlarmDeskQt::Sound() {
+  const Moment now = m_parts.Time.Now();
+  const bool tones = m_main.m_eWatchSound == AlarmSound::Tone;
+  const bool heard = tones || !m_main.m_sWatchCommand.empty();
+  const AlarmTone tone = heard ? m_centre.Tone(now) : AlarmTone{};
+  m_menu.mnuViewMute->setChecked(Muted());
+  m_space.setEnabled(heard && m_centre.Unanswered());
+  const auto pattern = m_schedule.Next(tone, now.Steady);
+  if (!pattern) {
+    return;
+  }
+  if (tones) {
+    Play(*pattern);
+  }
+  if (m_parts.Buzzer != nullptr && !m_main.m_sWatchCommand.empty()) {
+    m_parts.Buzzer->Run(m_main.m_sWatchCommand, m_centre.Line());
+  }
 }
 
 void AlarmDeskQt::ShowBanner() {
@@ -95,9 +156,7 @@ void AlarmDeskQt::ShowList() {
   const Why why = m_main.Now().Sentence;
   m_list->Show(blocks, why.Sent ? ToQt(WhyText(why)) : QString());
   m_list->ShowButtons(
-      std::any_of(entries.begin(), entries.end(),
-                  [](const AlarmEntry& entry) { return entry.What && !entry.Acknowledged; }),
-      m_centre.Muted(now),
+      m_centre.Unanswered(), m_centre.Muted(now),
       std::any_of(entries.begin(), entries.end(), [](const AlarmEntry& entry) { return !entry.What; }));
 }
 

@@ -16,6 +16,8 @@ namespace {
 
 constexpr QSize kDesignSize(1160, 640);
 constexpr qreal kCardRadius = 12.0;
+/// Height of an age beneath a figure, as a part of the captions'.
+constexpr double kAgeShare = 1.25;
 const QColor kAlarmColour(255, 128, 128);
 
 // The widest usual texts.
@@ -154,7 +156,7 @@ void InstrumentPanelQt::ShowAges(const WatchNow& watch, bool blankLost) {
     Watched What;
     bool Aged;  ///< says how old it is; the difference to it does not
   };
-  const auto letters = static_cast<int>(m_layout.CaptionText);
+  const auto letters = static_cast<int>(m_layout.CaptionText * kAgeShare);
   for (const Figure& figure : std::initializer_list<Figure>{{lblHeading, Watched::Heading, true},
                                                             {lblBoatSpeed, Watched::BoatSpeed, true},
                                                             {lblWaypointBearing, Watched::Waypoint, true},

@@ -4,10 +4,12 @@
 #include <string>
 
 #include "platform/Clock.h"
+#include "platform/CommandRunner.h"
 #include "platform/Dialogs.h"
 #include "platform/Profile.h"
 #include "platform/Random.h"
 #include "platform/SerialPort.h"
+#include "platform/Sounder.h"
 #include "platform/Timer.h"
 #include "polar/PolarModel.h"
 
@@ -24,9 +26,11 @@ struct MainWindowParts {
   RandomSource& Random;
   Dialogs& Asks;
   Profile& Store;
-  std::string ProfileFile;   ///< path of the profile
-  PolarFolders Polars{};     ///< where polar files lie
-  std::string ManualPage{};  ///< the first page of the manual, for a browser
+  std::string ProfileFile;          ///< path of the profile
+  PolarFolders Polars{};            ///< where polar files lie
+  std::string ManualPage{};         ///< the first page of the manual, for a browser
+  Sounder* Tone = nullptr;          ///< plays the tones of alarms; without it the beep sounds
+  CommandRunner* Buzzer = nullptr;  ///< runs the command of an alarm
 };
 
 }  // namespace veerwatch

@@ -60,7 +60,8 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
        {std::pair{menu.mnuOptionsInput, frmOptions::Input}, std::pair{menu.mnuOptionsData, frmOptions::Data},
         std::pair{menu.mnuOptionsOutput, frmOptions::Output},
         std::pair{menu.mnuOptionsTrack, frmOptions::Tracking},
-        std::pair{menu.mnuOptionsSimulate, frmOptions::Simulate}}) {
+        std::pair{menu.mnuOptionsSimulate, frmOptions::Simulate},
+        std::pair{menu.mnuOptionsWatch, frmOptions::Watch}}) {
     QObject::connect(command, &QAction::triggered, [this, selected = tab] {
       Options().TabSelect(selected);
       Options().ShowCenter();

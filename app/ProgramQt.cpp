@@ -13,9 +13,11 @@
 #include "app/frmMain.h"
 #include "platform/ApplicationQt.h"
 #include "platform/AtomicFile.h"
+#include "platform/CommandRunnerQt.h"
 #include "platform/DialogsQt.h"
 #include "platform/ProfileLock.h"
 #include "platform/SignalsQt.h"
+#include "platform/SounderQt.h"
 #include "platform/SystemClock.h"
 #include "platform/TimerQt.h"
 #include "platform/VisibleText.h"
@@ -138,9 +140,11 @@ int Sail(ApplicationQt& application, const std::filesystem::path& profileFile, D
   TimerQt tmrUnload(QStringLiteral("tmrUnload"));
   TimerQt TimerTack(QStringLiteral("TimerTack"));
   SeededRandom random(std::random_device{}());
+  SounderQt tone;
+  CommandRunnerQt buzzer;
 
   frmMain window({MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, TimerTack, clock, random, dialogs, profile,
-                  profileFile.string(), PolarFiles(), ManualPage()});
+                  profileFile.string(), PolarFiles(), ManualPage(), &tone, &buzzer});
   dialogs.Window(&window);
   tmrNmea.Ticks([&window] { window.tmrNmea_Timer(); });
   tmrUnload.Ticks([&window] { window.tmrUnload_Timer(); });

@@ -79,7 +79,7 @@ frmMain::frmMain(const MainWindowParts& parts)
       m_helm(*this, parts.MSCommNmea, parts.MSCommPilot, parts.tmrNmea, parts.Time, parts.Random),
       m_told(m_helm.Observers().Join(*this)),
       m_others(m_parts, m_menu, *this, this),
-      m_alarms(m_parts, *this, *m_panel->Banner, *this) {
+      m_alarms(m_parts, m_menu, *this, *m_panel->Banner, *this) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(QString::fromLatin1(kApplicationTitle));
   setWindowIcon(ProgramIcon());
@@ -430,7 +430,7 @@ void frmMain::OnAlarm(TrackSide side, float error) {
     m_parts.Asks.ToForeground();
   }
   m_panel->ShowAlarm(side);
-  m_parts.Asks.Beep();
+  m_alarms.StepSounds();
   m_status->Show(StatusPanelsQt::kOutput, QStringLiteral("Alarm Limit Exceeded ") + Number(error, "0"));
 }
 
@@ -490,7 +490,7 @@ void frmMain::OnTurnEnds(TurnFate why) {
   }
   m_instead = QStringLiteral("Turn ended: ") + Text(TurnFateText(why));
   m_insteadTimer.start();
-  m_parts.Asks.Beep();
+  m_alarms.TurnSounds();
   ShowModeText();
 }
 

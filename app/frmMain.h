@@ -75,6 +75,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   HelmObservers& Observers() override { return m_helm.Observers(); }
   HelmNow Now() const override { return m_helm.Now(); }
   const InstrumentRecord& Record() const override { return m_helm.Record(); }
+  void AlarmTest(AlarmSound sound) override { m_alarms.Test(sound); }
   void TrackSetOff() override { m_helm.Modes().TrackSetOff(); }
   void TrackSetSetup() override { m_helm.Modes().TrackSetSetup(); }
   void TrackSetManual() override { m_helm.Modes().TrackSetManual(); }

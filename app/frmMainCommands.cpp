@@ -59,6 +59,10 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   mnuViewPolar = Command(window, view, "mnuViewPolar", "&Polar Plot...");
   mnuViewPolar->setCheckable(true);
   view->addSeparator();
+  mnuViewAlarms = Command(window, view, "mnuViewAlarms", "&Alarms...");
+  mnuViewMute = Command(window, view, "mnuViewMute", "&Mute Alarms for Ten Minutes");
+  mnuViewMute->setCheckable(true);
+  view->addSeparator();
   mnuViewNight = Command(window, view, "mnuViewNight", "&Night Colours");
   mnuViewNight->setCheckable(true);
   mnuViewNight->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
@@ -71,6 +75,7 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   mnuOptionsOutput = Command(window, options, "mnuOptionsOutput", "&Output...");
   mnuOptionsTrack = Command(window, options, "mnuOptionsTrack", "&Tracking...");
   mnuOptionsSimulate = Command(window, options, "mnuOptionsSimulate", "&Simulate...");
+  mnuOptionsWatch = Command(window, options, "mnuOptionsWatch", "&Watch...");
   QMenu* help = window.menuBar()->addMenu(QStringLiteral("&Help"));
   mnuHelpManual = Command(window, help, "mnuHelpManual", "&Manual");
   mnuHelpManual->setShortcut(QKeySequence(Qt::Key_F1));

@@ -18,6 +18,8 @@ struct frmMainMenu {
   QAction* mnuViewDiagram;
   QAction* mnuViewHistory;
   QAction* mnuViewPolar;
+  QAction* mnuViewAlarms;
+  QAction* mnuViewMute;
   QAction* mnuViewNight;
   QAction* mnuViewSave;
   QAction* mnuOptionsInput;
@@ -25,6 +27,7 @@ struct frmMainMenu {
   QAction* mnuOptionsOutput;
   QAction* mnuOptionsTrack;
   QAction* mnuOptionsSimulate;
+  QAction* mnuOptionsWatch;
   QAction* mnuHelpManual;
   QAction* mnuHelpDiagram;
   QAction* mnuHelpAbout;

@@ -37,6 +37,8 @@ class MainWindowApi : public Settings {
   virtual HelmNow Now() const = 0;
   /// What the instruments say.
   virtual const InstrumentRecord& Record() const = 0;
+  /// Lets a red alarm be heard once, as `sound` has it.
+  virtual void AlarmTest(AlarmSound sound) = 0;
   virtual void TrackSetOff() = 0;
   virtual void TrackSetSetup() = 0;
   virtual void TrackSetManual() = 0;

@@ -22,6 +22,11 @@ OptionsForm OptionsFormOf(const Settings& settings) {
   form.SimulateTime = SimulateTimeFormat(settings.m_fSimulateTime);
   form.TrackAlarm = settings.m_bTrackAlarm;
   form.TrackMethod = static_cast<int>(settings.m_eTrackMethod);
+  for (const OptionSwitch& each : kWatchSwitches) {
+    form.*each.Checked = settings.*each.Setting;
+  }
+  form.WatchSound = static_cast<int>(settings.m_eWatchSound);
+  form.WatchCommand = settings.m_sWatchCommand;
   return form;
 }
 

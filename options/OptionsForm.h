@@ -42,10 +42,26 @@ struct OptionsForm {
   std::string TrackDamping;
   std::string TrackMaxSteerTo;
   std::string TrackAlarmAverage;
+
+  // Watch.
+  bool WatchAct = false;
+  bool WatchKeepSending = false;
+  bool WatchHeadingUp = false;
+  bool WatchLogFitted = true;
+  bool WatchCompassFitted = true;
+  bool WatchBlankLost = false;
+  bool CarefulEntry = false;
+  int WatchSound = 0;  ///< index in its list, as the enumeration
+  std::string WatchCommand;
+  std::string WatchStaleWindApparent;
+  std::string WatchStaleWindTrue;
+  std::string WatchStaleBoatSpeed;
+  std::string WatchStaleHeading;
+  std::string WatchStaleWaypoint;
 };
 
 /// Boxes that are stored one after the other. The simulated time is stored between boat and scene.
-enum class OptionGroup { Data, SimulateBoat, SimulateScene, Tracking };
+enum class OptionGroup { Data, SimulateBoat, SimulateScene, Tracking, Watch };
 
 /// A box for a number and the setting that it shows. SettingsTable says what numbers it takes.
 struct OptionBox {
@@ -56,7 +72,7 @@ struct OptionBox {
 };
 
 /// In the order in which they are stored.
-inline constexpr std::array<OptionBox, 16> kOptionBoxes{{
+inline constexpr std::array<OptionBox, 21> kOptionBoxes{{
     {OptionGroup::Data, "True Wind Average", &OptionsForm::NmeaTrueWindAverage,
      &Settings::m_fNmeaTrueWindAverage},
     {OptionGroup::Data, "Wind Indicator Average", &OptionsForm::NmeaWindIndicatorAverage,
@@ -84,6 +100,27 @@ inline constexpr std::array<OptionBox, 16> kOptionBoxes{{
     {OptionGroup::Tracking, "Max Steer To", &OptionsForm::TrackMaxSteerTo, &Settings::m_fTrackMaxSteerTo},
     {OptionGroup::Tracking, "Alarm Average", &OptionsForm::TrackAlarmAverage,
      &Settings::m_fTrackAlarmAverage},
+    {OptionGroup::Watch, "Apparent Wind", &OptionsForm::WatchStaleWindApparent,
+     &Settings::m_fWatchStaleWindApparent},
+    {OptionGroup::Watch, "True Wind", &OptionsForm::WatchStaleWindTrue, &Settings::m_fWatchStaleWindTrue},
+    {OptionGroup::Watch, "Boat Speed", &OptionsForm::WatchStaleBoatSpeed, &Settings::m_fWatchStaleBoatSpeed},
+    {OptionGroup::Watch, "Heading", &OptionsForm::WatchStaleHeading, &Settings::m_fWatchStaleHeading},
+    {OptionGroup::Watch, "Waypoint", &OptionsForm::WatchStaleWaypoint, &Settings::m_fWatchStaleWaypoint},
+}};
+
+/// A box to be ticked on the page of the watch and the setting that it shows.
+struct OptionSwitch {
+  bool OptionsForm::*Checked;
+  bool Settings::*Setting;
+};
+inline constexpr std::array<OptionSwitch, 7> kWatchSwitches{{
+    {&OptionsForm::WatchAct, &Settings::m_bWatchAct},
+    {&OptionsForm::WatchKeepSending, &Settings::m_bWatchKeepSending},
+    {&OptionsForm::WatchHeadingUp, &Settings::m_bWatchHeadingUp},
+    {&OptionsForm::WatchLogFitted, &Settings::m_bWatchLogFitted},
+    {&OptionsForm::WatchCompassFitted, &Settings::m_bWatchCompassFitted},
+    {&OptionsForm::WatchBlankLost, &Settings::m_bWatchBlankLost},
+    {&OptionsForm::CarefulEntry, &Settings::m_bCarefulEntry},
 }};
 
 /// The form that shows `settings`.

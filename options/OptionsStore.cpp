@@ -27,11 +27,12 @@ std::optional<std::string> OptionsStore::Store(const OptionsForm& form) {
     const char* Name;
     Fault (OptionsStore::*Store)(const OptionsForm&);
   };
-  constexpr std::array<Group, 5> kGroups{{{"Data", &OptionsStore::StoreData},
+  constexpr std::array<Group, 6> kGroups{{{"Data", &OptionsStore::StoreData},
                                           {"Input", &OptionsStore::StoreInput},
                                           {"Output", &OptionsStore::StoreOutput},
                                           {"Simulate", &OptionsStore::StoreSimulate},
-                                          {"Tracking", &OptionsStore::StoreTracking}}};
+                                          {"Tracking", &OptionsStore::StoreTracking},
+                                          {"Watch", &OptionsStore::StoreWatch}}};
   for (const Group& group : kGroups) {
     if (const Fault fault = (this->*group.Store)(form)) {
       std::string message(group.Name);
@@ -142,6 +143,15 @@ OptionsStore::Fault OptionsStore::StoreTracking(const OptionsForm& form) {
   m_main.m_bTrackAlarm = form.TrackAlarm;
   m_main.m_eTrackMethod = static_cast<TrackMethod>(form.TrackMethod);
   return StoreBoxes(OptionGroup::Tracking, form);
+}
+
+OptionsStore::Fault OptionsStore::StoreWatch(const OptionsForm& form) {
+  for (const OptionSwitch& each : kWatchSwitches) {
+    m_main.*each.Setting = form.*each.Checked;
+  }
+  m_main.m_eWatchSound = static_cast<AlarmSound>(form.WatchSound);
+  m_main.m_sWatchCommand = form.WatchCommand;
+  return StoreBoxes(OptionGroup::Watch, form);
 }
 
 }  // namespace veerwatch

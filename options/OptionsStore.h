@@ -27,12 +27,12 @@ class OptionsStore {
   /// Both outlive this.
   OptionsStore(MainWindowApi& main, const OptionsPorts& ports) : m_main(main), m_ports(ports) {}
 
-  /// Stores the groups "Data", "Input", "Output", "Simulate" and "Tracking" in this order. Stops at the first
-  /// text that cannot be stored and returns the message for it, with the name of its box, as "Input Options
-  /// Problem Type mismatch: Comm"; what was stored before stays stored. Nothing when everything is stored.
-  /// Refused are a port below 1, a bandwidth that is not above 0, a damping or an alarm limit below 0, and an
-  /// average that is neither 0 nor above 0.5. A port is compared as a number, so "1.0" is port 1 and restarts
-  /// nothing; a text that is no port restarts nothing either.
+  /// Stores the groups "Data", "Input", "Output", "Simulate", "Tracking" and "Watch" in this order. Stops at
+  /// the first text that cannot be stored and returns the message for it, with the name of its box, as "Input
+  /// Options Problem Type mismatch: Comm"; what was stored before stays stored. Nothing when everything is
+  /// stored. Refused are a port below 1, a bandwidth that is not above 0, a damping or an alarm limit below
+  /// 0, and an average that is neither 0 nor above 0.5. A port is compared as a number, so "1.0" is port 1
+  /// and restarts nothing; a text that is no port restarts nothing either.
   std::optional<std::string> Store(const OptionsForm& form);
 
  private:
@@ -49,6 +49,7 @@ class OptionsStore {
   Fault StoreOutput(const OptionsForm& form);
   Fault StoreSimulate(const OptionsForm& form);
   Fault StoreTracking(const OptionsForm& form);
+  Fault StoreWatch(const OptionsForm& form);
   static Fault In(const char* box, std::optional<OptionFault> fault);
   Fault StoreBoxes(OptionGroup group, const OptionsForm& form);
   std::optional<OptionFault> StorePort(const std::string& text, bool open, std::int16_t& port);

@@ -71,12 +71,15 @@ void frmOptions::MakeTabs() {
   m_track = new TrackPageQt(m_parts.Random, m_parts.Main, m_parts.Recorded, SSTab);
   m_track->Suggested([this](const TrackSuggestion& suggestion) { Suggested(suggestion); });
   m_simulate = new SimulatePageQt(SSTab);
+  m_watch = new WatchPageQt(SSTab);
+  m_watch->Tested([this](AlarmSound sound) { m_parts.Main.AlarmTest(sound); });
   SSTab->addTab(m_input, QStringLiteral("&Input"));
   SSTab->addTab(m_data, QStringLiteral("&Data"));
   SSTab->addTab(m_output, QStringLiteral("&Output"));
   SSTab->addTab(new OptionPageQt(m_track, SSTab), QStringLiteral("&Tracking"));
   SSTab->addTab(new OptionPageQt(m_simulate, SSTab), QStringLiteral("&Simulate"));
   SSTab->addTab(new LoopDiagramQt(SSTab), QStringLiteral("Dia&gram"));
+  SSTab->addTab(new OptionPageQt(m_watch, SSTab), QStringLiteral("&Watch"));
   for (QRadioButton* option : m_input->Format) {
     connect(option, &QRadioButton::clicked, this, [this] { m_input->List->Clear(); });
     connect(option, &QRadioButton::toggled, this, [this] { m_input->List->Clear(); });
@@ -120,6 +123,7 @@ void frmOptions::ConnectMarks() {
   connect(m_track->cmbTrackMethod, &QComboBox::currentIndexChanged, this,
           [this] { Mark(m_track->cmbTrackMethod); });
   connect(m_simulate->chkSimulate, &QCheckBox::toggled, this, [this] { Mark(m_simulate->chkSimulate); });
+  m_watch->Changed([this](QWidget* control) { Mark(control); });
   lstNmeaSentence->Changed([this] { Mark(lstNmeaSentence); });
 }
 
@@ -266,6 +270,7 @@ OptionsForm frmOptions::Form() const {
   form.PilotPort = m_output->Port->text().toStdString();
   m_simulate->Read(form);
   m_track->Read(form);
+  m_watch->Read(form);
   return form;
 }
 
@@ -279,6 +284,7 @@ void frmOptions::OptionsReload() {
   m_output->List->Clear();
   m_simulate->Show(form);
   m_track->Show(form);
+  m_watch->Show(form);
   SimulateWaypointShow();
   ApplyBold(false);
   if (SSTab->currentIndex() == Tracking) {

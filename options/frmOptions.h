@@ -1,7 +1,7 @@
-// The options dialog: every setting of the main window on six tabs, with live lists of what comes in and goes
-// out. It copies the settings into its controls when it is loaded and after each Apply, and back on Apply and
-// OK. It is hidden by OK and Cancel, with what was typed still in it, and destroyed when it is closed by its
-// frame. It is an observer of the helm; nothing is listed while it is not visible.
+// The options dialog: every setting of the main window on seven tabs, with live lists of what comes in and
+// goes out. It copies the settings into its controls when it is loaded and after each Apply, and back on
+// Apply and OK. It is hidden by OK and Cancel, with what was typed still in it, and destroyed when it is
+// closed by its frame. It is an observer of the helm; nothing is listed while it is not visible.
 #pragma once
 
 #include <QDialog>
@@ -21,6 +21,7 @@
 #include "options/SentenceListQt.h"
 #include "options/SimulatePageQt.h"
 #include "options/TrackPageQt.h"
+#include "options/WatchPageQt.h"
 #include "platform/Dialogs.h"
 #include "platform/Random.h"
 
@@ -37,12 +38,12 @@ class frmOptions final : public QDialog, private HelmObserver {
     const WindRecorder& Recorded;
   };
 
-  enum Tab { Input = 0, Data = 1, Output = 2, Tracking = 3, Simulate = 4, Diagram = 5 };
+  enum Tab { Input = 0, Data = 1, Output = 2, Tracking = 3, Simulate = 4, Diagram = 5, Watch = 6 };
 
   /// Loads the settings. The dialog is not shown.
   explicit frmOptions(const Parts& parts);
 
-  /// Selects a tab [0, 5].
+  /// Selects a tab [0, 6].
   void TabSelect(int index) { SSTab->setCurrentIndex(index); }
   /// Shows the settings as they are in place of whatever was typed, as after each Apply.
   void OptionsReload();
@@ -115,6 +116,7 @@ class frmOptions final : public QDialog, private HelmObserver {
   PortPageQt* m_output;
   TrackPageQt* m_track;
   SimulatePageQt* m_simulate;
+  WatchPageQt* m_watch;
   SentenceListQt* lstNmeaSentence;
   QPushButton* cmdOk;
   QPushButton* cmdCancel;

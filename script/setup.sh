@@ -19,6 +19,7 @@ kLibraries=(
   qt6-base-dev                                 # Core, Gui, Widgets, Network, Test; the xcb and offscreen platforms
   "qt6-serialport-dev|libqt6serialport6-dev"
   "qt6-svg-dev|libqt6svg6-dev"
+  qt6-multimedia-dev                           # the tones of an alarm
   libcli11-dev
   nlohmann-json3-dev
   libbenchmark-dev

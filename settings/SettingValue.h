@@ -187,6 +187,18 @@ SettingValue<StructOf<Where>> Text(Where where, const std::string& what) {
   return value;
 }
 
+/// Any text; empty is one, too, and what a profile without the key has. `what` says what it is.
+template <class Where>
+SettingValue<StructOf<Where>> OptionalText(Where where, const std::string& what) {
+  using Struct = StructOf<Where>;
+  SettingValue<Struct> value = Text(where, what);
+  value.Read = [where](const Profile& profile, std::string_view section, std::string_view key, Struct& all) {
+    At(all, where).clear();
+    profile.ProfileGet(section, key, At(all, where));
+  };
+  return value;
+}
+
 }  // namespace setting
 
 }  // namespace veerwatch

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 
+#include "settings/AlarmSound.h"
 #include "settings/LineRules.h"
 #include "settings/TrackMode.h"
 
@@ -75,11 +76,13 @@ struct Settings {
   std::array<float, 3> DesiredAngle{0.0F, 45.0F, 92.0F};
 
   // The watch over what steers.
-  bool m_bWatchAct = false;                ///< what is lost does not steer; else it is only told
-  bool m_bWatchKeepSending = false;        ///< with Act: sentences go on for 30 s when the wind is lost
-  bool m_bWatchHeadingUp = false;          ///< with Act: a lost wind from astern brings the boat up, once
-  bool m_bWatchLogFitted = true;           ///< a boat speed is on the wire; else nobody misses it
-  bool m_bWatchCompassFitted = true;       ///< the same for the heading
+  bool m_bWatchAct = false;           ///< what is lost does not steer; else it is only told
+  bool m_bWatchKeepSending = false;   ///< with Act: sentences go on for 30 s when the wind is lost
+  bool m_bWatchHeadingUp = false;     ///< with Act: a lost wind from astern brings the boat up, once
+  bool m_bWatchLogFitted = true;      ///< a boat speed is on the wire; else nobody misses it
+  bool m_bWatchCompassFitted = true;  ///< the same for the heading
+  AlarmSound m_eWatchSound = AlarmSound::Beep;
+  std::string m_sWatchCommand;             ///< program that is run while an alarm is heard; "" for none
   bool m_bWatchBlankLost = false;          ///< a lost figure becomes "--"
   float m_fWatchStaleWindApparent = 4.0F;  ///< older values are stale [s], above 0
   float m_fWatchStaleWindTrue = 4.0F;

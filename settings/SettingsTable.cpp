@@ -129,23 +129,30 @@ SettingTable<S> Watch() {
   const char* section = "Watch";
   const char* stale = "a value that is older is stale";
   return {
-      {section, "Act", Truth(&S::m_bWatchAct), "", "what is stale, lost or wrong does not steer", kProfile},
+      {section, "Act", Truth(&S::m_bWatchAct), "", "what is stale, lost or wrong does not steer", kWatch},
       {section, "Keep Sending", Truth(&S::m_bWatchKeepSending), "",
-       "with Act: the last bearing is sent on for 30 seconds when the wind is lost", kProfile},
+       "with Act: the last bearing is sent on for 30 seconds when the wind is lost", kWatch},
       {section, "Heading Up", Truth(&S::m_bWatchHeadingUp), "",
-       "with Act: a wind from astern that is lost brings the boat 20 degrees up, once", kProfile},
+       "with Act: a wind from astern that is lost brings the boat 20 degrees up, once", kWatch},
+      {section, "Sound", Named(&S::m_eWatchSound, {"Beep", "Tone"}), "",
+       "how an alarm is heard: the desktop's beep at each step, or tones by level until somebody answers",
+       kWatch},
+      {section, "Alarm Command", OptionalText(&S::m_sWatchCommand, "a program with its arguments"), "",
+       "started with the alarm's text as one more argument each time that an alarm is heard, one at a time "
+       "and without "
+       "a shell; empty for none",
+       kWatch},
       {section, "Blank Lost", Truth(&S::m_bWatchBlankLost), "",
        "a figure that is lost becomes \"--\"; otherwise it stays, in half tone", kWatch},
       {section, "Log Fitted", Truth(&S::m_bWatchLogFitted), "",
-       "the boat speed is on the wire; otherwise it is not missed", kProfile},
+       "the boat speed is on the wire; otherwise it is not missed", kWatch},
       {section, "Compass Fitted", Truth(&S::m_bWatchCompassFitted), "",
-       "the heading is on the wire; otherwise it is not missed", kProfile},
-      {section, "Stale Apparent Wind", Number(&S::m_fWatchStaleWindApparent, kAboveZero), "s", stale,
-       kProfile},
-      {section, "Stale True Wind", Number(&S::m_fWatchStaleWindTrue, kAboveZero), "s", stale, kProfile},
-      {section, "Stale Boat Speed", Number(&S::m_fWatchStaleBoatSpeed, kAboveZero), "s", stale, kProfile},
-      {section, "Stale Heading", Number(&S::m_fWatchStaleHeading, kAboveZero), "s", stale, kProfile},
-      {section, "Stale Waypoint", Number(&S::m_fWatchStaleWaypoint, kAboveZero), "s", stale, kProfile},
+       "the heading is on the wire; otherwise it is not missed", kWatch},
+      {section, "Stale Apparent Wind", Number(&S::m_fWatchStaleWindApparent, kAboveZero), "s", stale, kWatch},
+      {section, "Stale True Wind", Number(&S::m_fWatchStaleWindTrue, kAboveZero), "s", stale, kWatch},
+      {section, "Stale Boat Speed", Number(&S::m_fWatchStaleBoatSpeed, kAboveZero), "s", stale, kWatch},
+      {section, "Stale Heading", Number(&S::m_fWatchStaleHeading, kAboveZero), "s", stale, kWatch},
+      {section, "Stale Waypoint", Number(&S::m_fWatchStaleWaypoint, kAboveZero), "s", stale, kWatch},
   };
 }
 

@@ -44,6 +44,16 @@ OptionsForm OtherForm() {
   form.TrackDamping = "2.5";
   form.TrackMaxSteerTo = "15";
   form.TrackAlarmAverage = "5";
+  form.WatchAct = form.WatchKeepSending = form.WatchHeadingUp = true;
+  form.WatchLogFitted = form.WatchCompassFitted = false;
+  form.WatchBlankLost = form.CarefulEntry = true;
+  form.WatchSound = 1;
+  form.WatchCommand = "/usr/bin/buzz --loud";
+  form.WatchStaleWindApparent = "3";
+  form.WatchStaleWindTrue = "5";
+  form.WatchStaleBoatSpeed = "6";
+  form.WatchStaleHeading = "7";
+  form.WatchStaleWaypoint = "8";
   return form;
 }
 
@@ -74,6 +84,21 @@ class OptionsStoring : public testing::Test {
            Main.m_fTrackDamping == 2.5F && Main.m_fTrackMaxSteerTo == 15.0F;
   }
 };
+
+TEST_F(OptionsStoring, StoresTheWatchAndShowsItAgain) {
+  ASSERT_EQ(Store.Store(OtherForm()), std::nullopt);
+  EXPECT_TRUE(Main.m_bWatchAct && Main.m_bWatchKeepSending && Main.m_bWatchHeadingUp);
+  EXPECT_FALSE(Main.m_bWatchLogFitted || Main.m_bWatchCompassFitted);
+  EXPECT_TRUE(Main.m_bWatchBlankLost && Main.m_bCarefulEntry);
+  EXPECT_EQ(Main.m_eWatchSound, AlarmSound::Tone);
+  EXPECT_EQ(Main.m_sWatchCommand, "/usr/bin/buzz --loud");
+  const OptionsForm form = OptionsFormOf(Main);
+  EXPECT_TRUE(form.WatchAct && form.WatchKeepSending && form.WatchHeadingUp && form.CarefulEntry);
+  EXPECT_FALSE(form.WatchLogFitted || form.WatchCompassFitted);
+  EXPECT_EQ(form.WatchSound, 1);
+  EXPECT_EQ(form.WatchCommand, "/usr/bin/buzz --loud");
+  EXPECT_EQ(form.WatchStaleWaypoint, "8");
+}
 
 TEST_F(OptionsStoring, StoresEverySetting) {
   EXPECT_EQ(Store.Store(OtherForm()), std::nullopt);
@@ -235,6 +260,16 @@ const std::vector<OrderedText>& OrderedTexts() {
        [](const Settings& main) { return main.m_fTrackMaxSteerTo == 15.0F; }},
       {"Tracking", "Alarm Average", &OptionsForm::TrackAlarmAverage,
        [](const Settings& main) { return main.m_fTrackAlarmAverage == 5.0F; }},
+      {"Watch", "Apparent Wind", &OptionsForm::WatchStaleWindApparent,
+       [](const Settings& main) { return main.m_fWatchStaleWindApparent == 3.0F; }},
+      {"Watch", "True Wind", &OptionsForm::WatchStaleWindTrue,
+       [](const Settings& main) { return main.m_fWatchStaleWindTrue == 5.0F; }},
+      {"Watch", "Boat Speed", &OptionsForm::WatchStaleBoatSpeed,
+       [](const Settings& main) { return main.m_fWatchStaleBoatSpeed == 6.0F; }},
+      {"Watch", "Heading", &OptionsForm::WatchStaleHeading,
+       [](const Settings& main) { return main.m_fWatchStaleHeading == 7.0F; }},
+      {"Watch", "Waypoint", &OptionsForm::WatchStaleWaypoint,
+       [](const Settings& main) { return main.m_fWatchStaleWaypoint == 8.0F; }},
   };
   return kTexts;
 }

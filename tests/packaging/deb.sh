@@ -10,7 +10,7 @@ package=$(echo "$work"/package/veerwatch_*.deb)
 [[ -s $package ]] || wrong "no package: $(ls "$work/package")"
 
 depends=$(dpkg-deb --field "$package" Depends)
-for library in libc6 libqt6serialport6 libqt6widgets6 libqt6svg6; do
+for library in libc6 libqt6serialport6 libqt6widgets6 libqt6svg6 libqt6multimedia6; do
   [[ $depends == *$library* ]] || wrong "it does not depend on $library: $depends"
 done
 [[ -n $(dpkg-deb --field "$package" Maintainer) && -n $(dpkg-deb --field "$package" Description) ]] ||

@@ -136,7 +136,7 @@ TEST(SettingTables, TakeEachDefaultAgainAfterAnotherValue) {
 
 TEST(SettingTables, LeaveTheDefaultForADamagedValue) {
   ForEachRow([](const auto& table, const auto& row, const auto& defaults) {
-    if (row.Value.Range == "a path") {
+    if (row.Value.Range == "a path" || row.Value.Range == "a program with its arguments") {
       return;  // any text is one
     }
     for (const char* text : {"", "nan", "inf", "-inf", "0x10", "1e999", "12.3x", "rubbish", "#12345G"}) {

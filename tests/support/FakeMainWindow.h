@@ -13,6 +13,7 @@ class FakeMainWindow final : public MainWindowApi {
  public:
   std::vector<std::string> Calls;    ///< with the ports and the simulator at the moment of the call
   std::vector<float> SimulateTimes;  ///< times that SimulateTime was asked for [h]
+  std::vector<AlarmSound> Heard;     ///< sounds that were tried
   HelmObservers Tells;               ///< whom the helm tells
   HelmNow Answer;                    ///< what the helm does
   InstrumentRecord Instruments{*this};
@@ -37,6 +38,7 @@ class FakeMainWindow final : public MainWindowApi {
   HelmObservers& Observers() override { return Tells; }
   HelmNow Now() const override { return Answer; }
   const InstrumentRecord& Record() const override { return Instruments; }
+  void AlarmTest(AlarmSound sound) override { Heard.push_back(sound); }
   void TrackSetOff() override { Note("Off"); }
   void TrackSetSetup() override { Note("Setup"); }
   void TrackSetManual() override { Note("Manual"); }

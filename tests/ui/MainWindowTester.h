@@ -16,6 +16,7 @@
 #include <string>
 
 #include "app/frmMain.h"
+#include "tests/support/FakeSounder.h"
 #include "tests/support/FixedRandom.h"
 #include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"
@@ -33,6 +34,8 @@ class MainWindowTester : public testing::Test {
   HandTimer TimerTack;
   HandClock Time;
   FixedRandom Random;
+  FakeSounder Tone;
+  FakeRunner Buzzer;
   QueuedDialogs Dialogs;
   Profile Store;
   std::unique_ptr<frmMain> Window;
@@ -52,8 +55,20 @@ class MainWindowTester : public testing::Test {
 
   /// Makes the window without loading it.
   void Make() {
-    Window = std::make_unique<frmMain>(MainWindowParts{NmeaPort, PilotPort, tmrNmea, tmrUnload, TimerTack,
-                                                       Time, Random, Asks(), Store, ProfileFile()});
+    Window = std::make_unique<frmMain>(MainWindowParts{NmeaPort,
+                                                       PilotPort,
+                                                       tmrNmea,
+                                                       tmrUnload,
+                                                       TimerTack,
+                                                       Time,
+                                                       Random,
+                                                       Asks(),
+                                                       Store,
+                                                       ProfileFile(),
+                                                       {},
+                                                       {},
+                                                       &Tone,
+                                                       &Buzzer});
     tmrNmea.OnTick = [this] { Window->tmrNmea_Timer(); };
     tmrUnload.OnTick = [this] { Window->tmrUnload_Timer(); };
     TimerTack.OnTick = [this] {

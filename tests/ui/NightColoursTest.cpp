@@ -93,7 +93,7 @@ TEST_F(NightColours, EveryPageOfTheOptionsIsRedOnBlack) {
     Window->Observers().Tell(
         [i](HelmObserver& told) { told.OnNmeaLine("$WIMWV,040,R,10.0,N,A", LineFault::None, i % 2 == 0); });
   }
-  for (int tab = 0; tab < 6; ++tab) {
+  for (int tab = 0; tab < 7; ++tab) {
     options->TabSelect(tab);
     const QImage image = Grab(*options, qPrintable(QStringLiteral("frmOptions-%1").arg(tab)));
     EXPECT_EQ(Hurting(image), 0) << tab;

@@ -89,7 +89,7 @@ class OptionsRoom : public OptionsAppearance {
 
   void ExpectAllRoom() const {
     std::size_t seen = 0;
-    for (int tab = 0; tab < 6; ++tab) {
+    for (int tab = 0; tab < 7; ++tab) {
       Window->TabSelect(tab);
       QApplication::processEvents();
       for (const QWidget* control : TextControls()) {
@@ -122,7 +122,7 @@ TEST_P(OptionsInPalette, EveryTextIsWholeAndStandsOutFromItsGround) {
   const QPalette palette = QApplication::palette();
   int read = 0;
   int boxes = 0;
-  for (int tab = 0; tab < 6; ++tab) {
+  for (int tab = 0; tab < 7; ++tab) {
     Window->TabSelect(tab);
     QApplication::processEvents();
     const QImage image = Window->grab().toImage();

@@ -482,7 +482,7 @@ TEST_F(OptionsDialog, TheSentencesAreSeenOnTheDataTabOnly) {
   Start(frmOptions::Input);
   const auto& list = Find<QWidget>("lstNmeaSentence");
   EXPECT_EQ(list.parentWidget(), Window.get());
-  for (int tab = 0; tab < 6; ++tab) {
+  for (int tab = 0; tab < 7; ++tab) {
     Tab(tab);
     EXPECT_EQ(list.isVisible(), tab == frmOptions::Data) << tab;
   }

@@ -99,7 +99,7 @@ TEST_F(OptionsHostile, TextsOfAnyLengthAreRefusedAndChangeNothing) {
     for (auto* box : Window->findChildren<OptionEntryQt*>()) {
       box->setText(QString(100000, QLatin1Char(fill)));
     }
-    for (int tab = 0; tab < 6; ++tab) {
+    for (int tab = 0; tab < 7; ++tab) {
       Tab(tab);
       QApplication::processEvents();
     }

@@ -25,7 +25,7 @@ TEST_F(OptionsTexts, NameTheWindowTheTabsAndTheButtons) {
   for (int tab = 0; tab < tabs.count(); ++tab) {
     captions.push_back(Plain(tabs.tabText(tab)));
   }
-  EXPECT_THAT(captions, ElementsAre("Input", "Data", "Output", "Tracking", "Simulate", "Diagram"));
+  EXPECT_THAT(captions, ElementsAre("Input", "Data", "Output", "Tracking", "Simulate", "Diagram", "Watch"));
   EXPECT_EQ(Plain(Find<QPushButton>("cmdOk").text()), "OK");
   EXPECT_EQ(Plain(Find<QPushButton>("cmdCancel").text()), "Cancel");
   EXPECT_EQ(Plain(Find<QPushButton>("cmdApply").text()), "Apply");
@@ -206,7 +206,7 @@ TEST_F(OptionsTexts, StartWithTheSettingsAndWithTheListsOffAndRaw) {
 TEST_F(OptionsTexts, NoTwoMnemonicsOfAPageAreTheSame) {
   Main.m_bSimulate = true;
   Start(0);
-  for (int tab = 0; tab < 6; ++tab) {
+  for (int tab = 0; tab < 7; ++tab) {
     Window->TabSelect(tab);
     QSet<QChar> seen;
     const auto take = [&seen, tab](const QString& text) {
