@@ -106,7 +106,7 @@ TEST_F(MainWindowBanner, AClickAcknowledgesAndOpensTheList) {
   EXPECT_THAT(lines, testing::HasSubstr("Apparent Wind from MWV (WI), 6 s old"));
   EXPECT_THAT(lines, testing::HasSubstr("The program: Tells it, and steers on."));
   EXPECT_THAT(lines, testing::HasSubstr("You: Take the helm"));
-  EXPECT_THAT(Text("lblWhy"), testing::MatchesRegex("Why\\? [0-9.]+ by Sentence: apparent .*"));
+  EXPECT_THAT(Text("lblWhy"), testing::MatchesRegex("Why\\? [0-9.]+ by Clock: apparent .*"));
   EXPECT_THAT(Line(), testing::StartsWith("No Wind 6 s")) << "acknowledged, and still there";
   Sail(1);
   EXPECT_EQ(Listed("lblAlarm")[0], "No Wind 7 s");
