@@ -156,7 +156,6 @@ void InstrumentPanelQt::ShowAges(const WatchNow& watch, bool blankLost) {
     Watched What;
     bool Aged;  ///< says how old it is; the difference to it does not
   };
-  const auto letters = static_cast<int>(m_layout.CaptionText * kAgeShare);
   for (const Figure& figure : std::initializer_list<Figure>{{lblHeading, Watched::Heading, true},
                                                             {lblBoatSpeed, Watched::BoatSpeed, true},
                                                             {lblWaypointBearing, Watched::Waypoint, true},
@@ -167,15 +166,16 @@ void InstrumentPanelQt::ShowAges(const WatchNow& watch, bool blankLost) {
                                                             {lblTrueWindSpeed, Watched::WindTrue, true},
                                                             {lblDelta[1], Watched::WindTrue, false}}) {
     const FigureLook look = LookOf(watch.Of(figure.What), watch.Mode, blankLost);
-    figure.Label->Fade(look.Half, figure.Aged ? ToQt(look.Age) : QString(), letters);
+    figure.Label->Fade(look.Half, figure.Aged ? ToQt(look.Age) : QString());
     if (look.Blank && !figure.Label->text().isEmpty()) {
       figure.Label->setText(QStringLiteral("--"));
     }
   }
 }
 
-void InstrumentPanelQt::ShowSent(const QString& heading, const QString& sent, bool late) {
+void InstrumentPanelQt::ShowSent(const QString& heading, bool stale, const QString& sent, bool late) {
   lblPilotHeading->setText(heading);
+  lblPilotHeading->setEnabled(!stale);
   lblPilotSent->setText(sent);
   if (m_late != late) {
     m_late = late;
@@ -254,6 +254,7 @@ int InstrumentPanelQt::PlaceValues(const ValueGroup& group, int most) {
   for (const auto& [label, readout] : group) {
     label->setGeometry(Rounded(readout->Value));
     label->TextHeight(height);
+    label->AgeHeight(std::max(1, static_cast<int>(m_layout.CaptionText * kAgeShare)));
     auto* caption = findChild<QLabel*>(label->objectName() + QStringLiteral(".Caption"));
     PlaceText(caption, readout->Caption, captions);
   }

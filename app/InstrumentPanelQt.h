@@ -53,8 +53,9 @@ class InstrumentPanelQt final : public QWidget {
   void Enable(const TrackControls& controls, TrackMode mode, TrackSide side);
   /// Shows how old every figure is; with `blankLost` one that is lost becomes "--".
   void ShowAges(const WatchNow& watch, bool blankLost);
-  /// Beside the bearing that is sent: the boat's heading, and how long ago it was sent, `late` or not.
-  void ShowSent(const QString& heading, const QString& sent, bool late);
+  /// Beside the bearing that is sent: the boat's heading, `stale` or not, and how long ago it was sent,
+  /// `late` or not.
+  void ShowSent(const QString& heading, bool stale, const QString& sent, bool late);
   /// Colours the delta of `side` for an alarm.
   void ShowAlarm(TrackSide side);
   void HideAlarm();

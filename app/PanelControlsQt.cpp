@@ -77,11 +77,10 @@ void ValueLabelQt::Colours(const QColor& text, const QColor& dimmed) {
   update();
 }
 
-void ValueLabelQt::Fade(bool half, const QString& age, int pixels) {
-  if (m_half != half || m_age != age || m_agePixels != pixels) {
+void ValueLabelQt::Fade(bool half, const QString& age) {
+  if (m_half != half || m_age != age) {
     m_half = half;
     m_age = age;
-    m_agePixels = std::max(1, pixels);
     setAccessibleDescription(age.isEmpty() ? age : age + QStringLiteral(" old"));
     update();
   }

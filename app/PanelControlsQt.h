@@ -29,8 +29,10 @@ class ValueLabelQt final : public QLabel {
   void TextHeight(int pixels);
   /// Text colour, and text colour while disabled.
   void Colours(const QColor& text, const QColor& dimmed);
-  /// In half tone where `half`, with `age` beneath the figures, in letters of `pixels`; "" for none.
-  void Fade(bool half, const QString& age, int pixels);
+  /// In half tone where `half`, with `age` beneath the figures; "" for none.
+  void Fade(bool half, const QString& age);
+  /// Height of an age's letters [px].
+  void AgeHeight(int pixels) { m_agePixels = pixels; }
   /// A back colour for an alarm, with a text that is legible on it; an invalid colour takes it back.
   void BackColour(const QColor& colour);
 

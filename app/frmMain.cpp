@@ -391,16 +391,12 @@ void frmMain::OnTick() {
 void frmMain::ShowSent() {
   m_sent.Look(m_helm.Pilot().Sent(), m_parts.Time.Now().Steady);
   if (m_eTrackMode != TrackMode::Manual && m_eTrackMode != TrackMode::Track) {
-    m_panel->ShowSent(QString(), QString(), false);
+    m_panel->ShowSent(QString(), false, QString(), false);
     return;
   }
-  QString heading = m_panel->lblHeading->text();
-  if (!heading.isEmpty()) {
-    const ValueAge& age = m_watch.Of(Watched::Heading);
-    heading.prepend(QStringLiteral("Heading "));
-    heading += age.Gone() ? QStringLiteral(" (%1)").arg(Text(AgeText(age))) : QString();
-  }
-  m_panel->ShowSent(heading, Text(m_sent.Text()), m_sent.Late());
+  const QString heading = m_panel->lblHeading->text();
+  m_panel->ShowSent(heading.isEmpty() ? heading : QStringLiteral("Heading ") + heading,
+                    m_watch.Of(Watched::Heading).Gone(), Text(m_sent.Text()), m_sent.Late());
 }
 
 void frmMain::OnTrackSide(TrackSide side) {

@@ -146,6 +146,24 @@ TEST_F(MainWindowBanner, LevelsDifferByColourAndAtNightByBrightness) {
   EXPECT_GE(Contrast(AlarmColoursQt(night, Level::Amber).Fill, night.color(QPalette::Window)), 1.2);
 }
 
+TEST_F(MainWindowBanner, StandsOutInADarkWindowAndInASmallOne) {
+  QApplication::setPalette(DarkPalette());
+  StartWell();
+  Sail(6);
+  QTest::qWait(0);
+  const QImage dark = Window->grab().toImage();
+  KeepPicture(dark, QStringLiteral("banner-dark"));
+  const AlarmColoursQt colours(Window->palette(), Level::Red);
+  const QPoint inside = Banner().mapTo(Window.get(), Banner().rect().center());
+  EXPECT_EQ(dark.pixelColor(inside), colours.Fill);
+  EXPECT_GE(Contrast(colours.Frame, Window->palette().color(QPalette::Window)), 3.0);
+  Window->resize(Window->minimumSize());
+  QTest::qWait(0);
+  KeepPicture(Window->grab().toImage(), QStringLiteral("banner-small"));
+  EXPECT_GE(Banner().height(), 12);
+  EXPECT_GE(Banner().font().pixelSize(), 6);
+}
+
 TEST_F(MainWindowBanner, ATextThatIsTooLongKeepsTheCount) {
   StartWell();
   Window->NoticeSet(AlarmKind::Save, std::string(500, 'W'));

@@ -123,10 +123,32 @@ TEST_F(Dimming, TheTitleTellsTheAgeOfItsWind) {
   EXPECT_THAT(Caption(), testing::MatchesRegex("Wind [NESW]+@[0-9.]+"));
 }
 
-TEST_F(Dimming, TheHeadingBesideTheBearingTellsItsAge) {
+TEST_F(Dimming, AFigureStandsAboveItsAgeAtTheSmallestSize) {
   StartSailing();
+  Seconds(6);
+  Window->resize(Window->minimumSize());
+  QTest::qWait(0);
+  const auto& label = Find<QLabel>("lblHeading");
   Seconds(6, "$WIMWV,30,R,10.0,N,A\r");
-  EXPECT_EQ(Text("lblPilotHeading"), "Heading 100 (6 s)");
+  const QImage with = Find<QWidget>("lblHeading").grab().toImage();
+  Find<QLabel>("lblHeading").setText(QStringLiteral("888"));
+  const QImage other = Find<QWidget>("lblHeading").grab().toImage();
+  EXPECT_FALSE(label.accessibleDescription().isEmpty());
+  int differing = 0;
+  for (int y = 0; y < with.height() / 2; ++y) {
+    for (int x = 0; x < with.width(); ++x) {
+      differing += with.pixel(x, y) != other.pixel(x, y) ? 1 : 0;
+    }
+  }
+  EXPECT_GT(differing, 5) << "the upper half shows the figures";
+}
+
+TEST_F(Dimming, TheHeadingBesideTheBearingFollows) {
+  StartSailing();
+  EXPECT_TRUE(Enabled("lblPilotHeading"));
+  Seconds(6, "$WIMWV,30,R,10.0,N,A\r");
+  EXPECT_EQ(Text("lblPilotHeading"), "Heading 100");
+  EXPECT_FALSE(Enabled("lblPilotHeading"));
 }
 
 /// Pixels that differ between two pictures.
