@@ -140,9 +140,11 @@ void Watch::BoatCame(const Readings& readings) {
     m_compass = m_record.Data().Heading;
   }
   if (const auto heading = ValueOf(readings, Quantity::Heading)) {
-    m_ages.Came(Watched::Compass, from);
-    m_compass = *heading;
     m_headings.Add(from.Talker, {heading, std::nullopt}, now);
+    if (m_headings.IsFirst(from.Talker, now)) {
+      m_ages.Came(Watched::Compass, from);
+      m_compass = *heading;
+    }
   }
 }
 

@@ -216,6 +216,17 @@ TEST_F(WatchedTrack, TwoCompassesThatDifferAreTold) {
   EXPECT_LE(Until(Condition::TwoHeadings, [this] { Receive("$IIHDG,60.0,,,5.0,W"); }), 12);
 }
 
+TEST_F(WatchedTrack, OfTwoCompassesTheFirstShowsWhetherThePilotFollows) {
+  Track(TrackSide::Apparent);
+  m_helm.Modes().TrackSetManual();
+  m_helm.UserSteersTo(40.0);
+  True = "$HEHDG,60.0,,,5.0,W";  // the latest of each second
+  for (int second = 0; second < 30; ++second) {
+    Sail(1);
+    EXPECT_EQ(Latest().Find(Condition::PilotNotFollowing), nullptr) << second;
+  }
+}
+
 TEST_F(WatchedTrack, LeapingWindsAreTold) {
   Track(TrackSide::Apparent);
   for (int i = 0; i < 3; ++i) {
