@@ -2,7 +2,7 @@
 // for the pictures of the manual. A NAME is looked for in all windows, WINDOW/NAME in that one. Ports, timers
 // and profile are the program's own. One command a line, one answer a line:
 //   click NAME      triggers an action or clicks a button          "clicked NAME"
-//   text NAME       asks for the text of a label or an entry box   "text NAME=TEXT"
+//   text NAME       asks for the text of a label, an entry box or a button   "text NAME=TEXT"
 //   watch NAME      asks for every text that a label shows, the present one first  "shows NAME=TEXT"
 //   type NAME TEXT  puts a text into an entry box and takes it     "typed NAME"
 //   size NAME W H   gives a window that size [px]                  "sized NAME"
@@ -235,11 +235,14 @@ class Remote final : public QObject {
     }
     auto* label = Find<QLabel>(name);
     const auto* box = Find<QLineEdit>(name);
+    const auto* button = Find<QAbstractButton>(name);
     if (verb == QLatin1String("watch") && label != nullptr) {
       label->installEventFilter(this);
       SayWhenNew(*label);
     } else if (verb == QLatin1String("text") && (label != nullptr || box != nullptr)) {
       Say(QStringLiteral("text %1=%2").arg(name, label != nullptr ? label->text() : box->text()));
+    } else if (verb == QLatin1String("text") && button != nullptr) {
+      Say(QStringLiteral("text %1=%2").arg(name, button->text()));
     } else {
       Say(QStringLiteral("no ") + name);
     }
