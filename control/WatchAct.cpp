@@ -21,9 +21,13 @@ WatchAct::Pass WatchAct::Before(bool outputOpen, const Moment& now) {
   if (!May()) {
     return Pass::Steers;
   }
-  m_turnedEnough = TurnedEnough();
+  if (m_watch.WindJustChanged()) {
+    m_turned = 0.0;
+  }
   return Judge(outputOpen, now);
 }
+
+void WatchAct::After(const LoopStep& step) { m_turned += static_cast<double>(step.Correction); }
 
 WatchAct::Pass WatchAct::Judge(bool outputOpen, const Moment& now) const {
   const Ages& values = m_watch.Values();
@@ -33,19 +37,22 @@ WatchAct::Pass WatchAct::Judge(bool outputOpen, const Moment& now) const {
   const bool speed =
       !NeedsBoatSpeed() || (values.Within(Watched::BoatSpeed, kOldest, now) && !m_watch.SpeedStuck(now));
   const bool pilot = outputOpen && !m_watch.OutputLost() && m_watch.Following();
-  return speed && pilot && !m_turnedEnough ? Pass::Steers : Pass::Stands;
+  return speed && pilot && !TurnedEnough() ? Pass::Steers : Pass::Stands;
 }
 
 // A boat that has turned feels another wind: where it stays the same, the vane may be stuck.
-bool WatchAct::TurnedEnough() {
-  constexpr float kEnough = 5.0F;  // [deg]
-  const auto bearing = static_cast<double>(m_settings.m_fAutoPilot);
-  if (m_watch.WindJustChanged()) {
-    m_anchor = bearing;
-    m_tookBack = false;
-    return false;
+bool WatchAct::TurnedEnough() const {
+  constexpr double kEnough = 5.0;  // [deg]
+  return !m_watch.WindChanges() || std::fabs(m_turned) >= kEnough;
+}
+
+void WatchAct::TakeBack(Order& order) {
+  if (m_watch.WindChanges() || m_turned == 0.0) {
+    return;
   }
-  return !m_watch.WindChanges() || std::fabs(FoldRelative(bearing - m_anchor)) >= kEnough;
+  m_loop.SetAutoPilot(static_cast<double>(m_settings.m_fAutoPilot) - m_turned);
+  m_turned = 0.0;
+  order.Turned = true;
 }
 
 WatchAct::Order WatchAct::Second(const Moment& now) {
@@ -54,17 +61,14 @@ WatchAct::Order WatchAct::Second(const Moment& now) {
     m_acts = false;
     m_wentUp = false;
     m_portLost = false;
+    m_turned = 0.0;
     m_loop.Luff(0.0);
     return order;
   }
   if (NeedsBoatSpeed() && m_watch.Now().Find(Condition::NoBoatSpeed) != nullptr) {
     order.Switched = m_loop.HoldApparent();
   }
-  if (!m_watch.WindChanges() && !m_tookBack) {
-    m_tookBack = true;
-    m_loop.SetAutoPilot(m_anchor);
-    order.Turned = true;
-  }
+  TakeBack(order);
   KeepOn(now, order);
   TakePortBack(now, order);
   Luff(order);

@@ -26,6 +26,8 @@ class WatchAct {
   };
   /// Before a pass at `now`, of which the watch has been told. `outputOpen`: the pilot can be reached.
   Pass Before(bool outputOpen, const Moment& now);
+  /// That pass has been made.
+  void After(const LoopStep& step);
 
   /// What the helm has to send and tell.
   struct Order {
@@ -47,7 +49,8 @@ class WatchAct {
   bool NeedsBoatSpeed() const;
   Pass Judge(bool outputOpen, const Moment& now) const;
   /// The bearing may be turned no further by one and the same wind.
-  bool TurnedEnough();
+  bool TurnedEnough() const;
+  void TakeBack(Order& order);
   void KeepOn(const Moment& now, Order& order);
   void TakePortBack(const Moment& now, Order& order);
   void Luff(Order& order);
@@ -57,9 +60,7 @@ class WatchAct {
   const Watch& m_watch;
   TrackLoop& m_loop;
   bool m_acts = false;
-  double m_anchor = 0.0;  ///< bearing when the wind changed last [deg magnetic]
-  bool m_turnedEnough = false;
-  bool m_tookBack = false;
+  double m_turned = 0.0;  ///< by the loop since the wind changed last [deg]
   bool m_wentUp = false;
   bool m_portLost = false;
 };

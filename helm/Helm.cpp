@@ -127,6 +127,7 @@ Helm::Pass Helm::Steer(const Moment& now) {
   }
   Pass pass;
   pass.Step = m_loop.ControlStep(input);
+  m_act.After(pass.Step);
   if (pass.Step.Sends) {
     pass.Sentence = m_pilot.PilotSend(m_settings.m_fAutoPilot);
   }

@@ -271,6 +271,29 @@ TEST_F(HelmAct, OneAndTheSameWindTurnsTheBoatByFiveDegreesAtMostAndIsTakenBack) 
   EXPECT_NEAR(Bearing(), bearing, 0.2);
 }
 
+TEST_F(HelmAct, AVaneThatIsStuckWhenTrackBeginsLeavesTheBearing) {
+  m_settings.m_fAutoPilot = 45.0F;
+  Wind = false;
+  Other = "$IIMWV,045,R,10.5,N,A";
+  Sail(25);
+  m_helm.Modes().TrackSetTrack();
+  Sail(25);
+  EXPECT_TRUE(Stands(Condition::WindNotChanging));
+  EXPECT_EQ(Bearing(), 45.0F);
+}
+
+TEST_F(HelmAct, WhatTheUserTurnsIsNotTakenBack) {
+  Track(TrackSide::Apparent);
+  const float bearing = Bearing();
+  Wind = false;
+  Other = "$IIMWV,055,R,10.5,N,A";
+  Sail(5);
+  m_helm.TrackSteerTo(-10.0F);
+  Sail(20);
+  EXPECT_TRUE(Stands(Condition::WindNotChanging));
+  EXPECT_NEAR(Bearing(), bearing - 10.0F, 0.2);
+}
+
 TEST_F(HelmAct, OfTwoTalkersTheFirstSteers) {
   Track(TrackSide::Apparent);
   const float bearing = Bearing();
