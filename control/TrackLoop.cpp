@@ -36,7 +36,7 @@ bool TrackLoop::CanTrack() const {
 }
 
 bool TrackLoop::LacksHeading() const {
-  return m_settings.m_eTrackMethod != TrackMethod::Sentence && !m_data.HeadingValid;
+  return m_settings.m_eTrackMethod != TrackMethod::Sentence && (!m_data.HeadingValid || !m_headingFresh);
 }
 
 bool TrackLoop::StartTracking() {
@@ -54,8 +54,11 @@ bool TrackLoop::StartTracking() {
   m_clock.Start(gains);
   m_tracked.Restart();
   m_alarmError = 0.0F;
-  m_luff = 0.0;
-  if (m_method != TrackMethod::Sentence && m_settings.m_eTrackMode != TrackMode::Track) {
+  const bool begins = m_settings.m_eTrackMode != TrackMode::Track;
+  if (begins) {
+    m_luff = 0.0;
+  }
+  if (begins && m_method != TrackMethod::Sentence) {
     HoldMean(TrackSide::Apparent);
     HoldMean(TrackSide::True);
     const double off = static_cast<double>(m_settings.m_fAutoPilot) - static_cast<double>(m_data.Heading);
@@ -122,6 +125,7 @@ LoopStep TrackLoop::ControlStep(const LoopInput& input) {
     return step;
   }
   step.Ran = true;
+  m_headingFresh = input.HeadingFresh;
   m_windRate.Add(input.Now.Steady);
   Listen(input);
   float& apparent = Desired(TrackSide::Apparent);
@@ -173,6 +177,10 @@ void TrackLoop::Listen(const LoopInput& input) {
                     m_data.BoatSpeedValid ? static_cast<double>(m_data.BoatSpeed) : 0.0, Heading(input),
                     static_cast<double>(m_settings.m_fAutoPilot)},
                    m_trueSeconds, DirectionBandwidth());
+}
+
+TrackMethod TrackLoop::Method() const {
+  return m_settings.m_eTrackMode == TrackMode::Track ? m_method : m_settings.m_eTrackMethod;
 }
 
 double TrackLoop::DirectionBandwidth() const {

@@ -68,7 +68,7 @@ class TrackLoop {
 
   /// Whether the settings give gains, or where they need none, a time constant and limits.
   bool CanTrack() const;
-  /// Whether the method of the settings needs a heading and there is none.
+  /// Whether the method of the settings needs a heading and there is none of the last seconds.
   bool LacksHeading() const;
 
   /// Takes method, gains and limits from the settings and begins anew with them: empty accumulators. False,
@@ -112,6 +112,8 @@ class TrackLoop {
 
   /// What the latest StartTracking that succeeded took from the settings; later settings wait for the next.
   const TrackTuning& Tuning() const { return m_tuning; }
+  /// That of the tracking, or until it begins that of the settings.
+  TrackMethod Method() const;
   double TrackIntegral() const { return m_controller.Integral(); }
   double TrackGainIntegral() const { return m_controller.Gains().Integral; }
   double TrackGainProportional() const { return m_controller.Gains().Proportional; }
@@ -152,6 +154,7 @@ class TrackLoop {
   PassTime m_winds;               ///< between the winds that feed the direction
   PassTime m_passes;              ///< between all passes
   double m_trueSeconds = 0.0;     ///< since the latest wind that fed the direction [s]
+  bool m_headingFresh = true;     ///< at the latest pass
   double m_luff = 0.0;            ///< taken off the held angle [deg relative, with its sign]
   float m_directionError = 0.0F;  ///< the latest error of the direction [deg]
   float m_alarmError = 0.0F;      ///< the error that the alarm tests [deg]

@@ -128,7 +128,7 @@ void Watch::BoatCame(const Readings& readings) {
   if (m_record.Changed(RecordValue::Waypoint)) {
     m_ages.Came(Watched::Waypoint, from);
   }
-  if (const auto speed = ValueOf(readings, Quantity::SpeedOverGround)) {
+  if (const auto speed = ValueOf(readings, Quantity::SpeedOverGround); speed && !readings.Invalid()) {
     m_ages.Came(Watched::SpeedOverGround, from);
     m_groundSpeed = *speed;
   }

@@ -117,11 +117,12 @@ Helm::Pass Helm::Steer(const Moment& now) {
   input.Stands = may == WatchAct::Pass::Stands;
   input.BringsApparent = m_record.Changed(RecordValue::WindApparent);
   input.BringsTrue = m_record.Changed(RecordValue::WindTrue);
-  if (m_settings.m_eTrackMethod != TrackMethod::Sentence) {
+  const TrackMethod method = m_loop.Method();
+  if (method != TrackMethod::Sentence) {
     const std::int64_t oldest = m_settings.m_bWatchAct ? kStale / 2 : kStale;
     input.HeadingFresh = m_record.Age(RecordValue::Heading, now).value_or(oldest) < oldest;
   }
-  if (m_settings.m_eTrackMethod == TrackMethod::Direction) {
+  if (method == TrackMethod::Direction) {
     const InstrumentRecord::Wind wind = m_record.WindTrueUnsmoothed();
     input.TrueWind = LoopInput::Wind{wind.Angle, wind.Speed};
   }
@@ -372,6 +373,11 @@ void Helm::OnOutputFailure(const std::string& reason) {
 void Helm::OnTrackMode(TrackMode mode) {
   Decide(m_supervisor.Entered(mode));
   m_observers.Tell([mode](HelmObserver& observer) { observer.OnTrackMode(mode); });
+  if (mode == TrackMode::Track && m_loop.Method() != TrackMethod::Sentence) {
+    // Track begins with the mean of the wind, and perhaps at the heading.
+    m_observers.Tell([this](HelmObserver& observer) { observer.OnAutoPilot(m_settings.m_fAutoPilot); });
+    TellDesired();
+  }
   LookOut();
 }
 

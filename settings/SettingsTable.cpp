@@ -121,7 +121,7 @@ SettingTable<S> Track() {
       {section, "Max Rate", Number(&S::m_fTrackMaxRate, kAboveZero), "deg/s",
        "how fast the bearing may change, but for the method Sentence", kProfile},
       {section, "Alarm Average", Number(&S::m_fTrackAlarmAverage, kFromZero), "s",
-       "what the alarm averages the error over, 0 for nothing", kProfile},
+       "what the alarm averages the error over, 0 for nothing", kTracking},
   };
 }
 

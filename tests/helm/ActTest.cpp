@@ -249,6 +249,8 @@ TEST_F(HelmAct, AGybeRiskLuffsByEightDegreesUntilItIsOver) {
     }
     EXPECT_NEAR(Bearing(), bearing + side * 8.0F, 0.2);
     EXPECT_TRUE(m_helm.Loop().Luffs());
+    m_helm.Modes().TrackSetTrack();
+    EXPECT_NEAR(Bearing(), bearing + side * 8.0F, 0.2) << "Track again luffs no further";
     Angle = static_cast<double>(side) * 158.0;
     Sail(1);
     EXPECT_NEAR(Bearing(), bearing + side * 8.0F, 0.2) << "she is where she should be";

@@ -44,6 +44,50 @@ TEST_F(MethodInput, DirectionWorksOnTheWindBeforeItIsSmoothed) {
   EXPECT_LT(m_settings.m_fAutoPilot, 11.0F);
 }
 
+TEST_F(MethodInput, AnotherMethodOfTheSettingsWaitsForTrack) {
+  m_settings.m_fNmeaTrueWindAverage = 100.0F;
+  m_helm.Modes().TrackSetSetup();
+  for (int i = 0; i < 12; ++i) {
+    Wind("060");
+  }
+  m_helm.Track(TrackSide::True);
+  m_settings.m_fAutoPilot = 0.0F;
+  m_helm.Modes().TrackSetTrack();
+  m_settings.m_eTrackMethod = TrackMethod::Sentence;
+  Wind("070");
+  Wind("070");
+  EXPECT_GT(m_settings.m_fAutoPilot, 2.0F) << "still by the wind before it is smoothed";
+  EXPECT_LT(m_settings.m_fAutoPilot, 11.0F);
+}
+
+TEST_F(MethodInput, WhatTrackBeginsWithIsTold) {
+  m_helm.Modes().TrackSetSetup();
+  for (const char* angle : {"060", "070", "060", "070"}) {
+    Wind(angle);
+  }
+  m_settings.m_fAutoPilot = 90.0F;
+  m_view.Take();
+  m_helm.Modes().TrackSetTrack();
+  EXPECT_THAT(m_view.Only({"OnDesired", "OnAutoPilot"}),
+              testing::ElementsAre("OnAutoPilot 0", "OnDesired 45 65"));
+}
+
+TEST_F(MethodInput, AHeadingThatHasStoppedIsNone) {
+  m_helm.Modes().TrackSetSetup();
+  Wind("060");
+  m_heading = false;
+  for (int i = 0; i < 5; ++i) {
+    Wind("060");
+  }
+  m_helm.Modes().TrackSetTrack();
+  EXPECT_EQ(m_settings.m_eTrackMode, TrackMode::Setup);
+  EXPECT_TRUE(m_helm.Loop().LacksHeading());
+  m_heading = true;
+  Wind("060");
+  m_helm.Modes().TrackSetTrack();
+  EXPECT_EQ(m_settings.m_eTrackMode, TrackMode::Track);
+}
+
 TEST_F(MethodInput, TheSimulatorsPassesAreASecondApartWhateverTheClock) {
   m_settings.m_bSimulate = true;
   m_settings.m_fSimulateNoiseAngle = m_settings.m_fSimulateNoiseSpeed = 0.0F;

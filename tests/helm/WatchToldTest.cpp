@@ -185,6 +185,15 @@ TEST_F(WatchedTrack, ABoatSpeedOfZeroIsAFaultWhereTheBoatMoves) {
   EXPECT_EQ(Until(Condition::NoBoatSpeed), 1);
 }
 
+TEST_F(WatchedTrack, ASpeedOverGroundThatDoesNotHoldSaysNothingOfTheLog) {
+  m_settings.m_iNmeaTrueWind = 1;
+  Track(TrackSide::True);
+  Log = "$IIVHW,,T,,M,0.0,N,,K";
+  Ground = "$GPRMC,120000,V,5000.0,N,00500.0,W,6.0,40.0,221126,5.0,W";
+  Sail(10);
+  EXPECT_EQ(Latest().Find(Condition::NoBoatSpeed), nullptr);
+}
+
 TEST_F(WatchedTrack, ALogOrCompassThatIsNotFittedIsNotMissed) {
   m_settings.m_iNmeaTrueWind = 1;
   Track(TrackSide::True);
