@@ -108,6 +108,7 @@ void frmAlarms::MakeButtons(QVBoxLayout& all) {
     made->setMinimumHeight(kButtonHeight);
     made->setAutoDefault(false);
     made->setFont(Letters(made->font(), kTextHeight));
+    made->setMinimumWidth(made->sizeHint().width() + kMargin);
     row->addWidget(made);
     return made;
   };
