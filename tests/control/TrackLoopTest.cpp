@@ -1,15 +1,11 @@
-#include "control/TrackLoop.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
 #include <utility>
 #include <vector>
 
-#include "instruments/MathLib.h"
-#include "tests/support/Origins.h"
+#include "tests/control/TrackLoopTester.h"
 
 namespace veerwatch {
 namespace {
@@ -17,38 +13,9 @@ namespace {
 using testing::ElementsAre;
 using Alarm = LoopStep::Alarm;
 
-class TrackLoopTest : public testing::Test {
- protected:
-  TrackLoopTest() {
-    m_data.WindApparentValid = true;
-    m_data.WindTrueValid = true;
-    m_data.BoatSpeedValid = true;
-    m_data.BoatSpeed = 6.0F;
-    m_data.WindAngleApparent = 45.0F;
-    m_data.WindSpeedApparent = 14.0F;
-    m_data.WindAngleTrue = 92.0F;
-    m_data.WindSpeedTrue = 10.0F;
-  }
+class TrackLoopTest : public TrackLoopTester {};
 
-  void Track() {
-    ASSERT_TRUE(m_loop.StartTracking());
-    m_settings.m_eTrackMode = TrackMode::Track;
-  }
-  float Apparent() const { return m_settings.DesiredAngle[1]; }
-  float True() const { return m_settings.DesiredAngle[2]; }
-  /// One pass with an error of `error` on the apparent side.
-  LoopStep Step(float error) {
-    m_data.WindAngleApparent = m_settings.DesiredAngle[1] + error;
-    return m_loop.ControlStep(kOrigin.At);
-  }
-
-  Settings m_settings;
-  InstrumentData m_data;
-  TrackLoop m_loop{m_settings, m_data};
-};
-
-// --- Gains
-// -------------------------------------------------------------------------------------------------------
+// Gains
 
 TEST_F(TrackLoopTest, TheDefaultsGiveGainsOfOneAndOf64In65PartsOfAFifth) {
   ASSERT_TRUE(m_loop.StartTracking());
@@ -118,8 +85,7 @@ TEST_F(TrackLoopTest, AnErrorThatIsNoNumberEmptiesTheAccumulator) {
   EXPECT_EQ(m_loop.TrackIntegral(), 0.0);
 }
 
-// --- Off, Setup, Manual
-// ------------------------------------------------------------------------------------------
+// Off, Setup, Manual
 
 TEST_F(TrackLoopTest, NothingHappensInOffOrWhileSwitching) {
   for (const TrackMode mode : {TrackMode::Off, TrackMode::Switching}) {
@@ -168,8 +134,7 @@ TEST_F(TrackLoopTest, InManualTheDesiredAnglesFollowAndTheTypedBearingIsSentUnch
   }
 }
 
-// --- The controller
-// ----------------------------------------------------------------------------------------------
+// The controller
 
 TEST_F(TrackLoopTest, APassInTrackCorrectsTheBearingForThePilot) {
   Track();
@@ -256,8 +221,7 @@ TEST_F(TrackLoopTest, InTrackTheDesiredAnglesStay) {
   EXPECT_EQ(True(), 92.0F);
 }
 
-// --- The alarm
-// ---------------------------------------------------------------------------------------------------
+// The alarm
 
 TEST_F(TrackLoopTest, AnErrorEqualToTheLimitRaisesNoAlarmAndAnyLargerOneDoes) {
   Track();
@@ -322,8 +286,7 @@ TEST_F(TrackLoopTest, WithdrawingEndsAnAlarmThatRingsOnce) {
   EXPECT_EQ(Step(1.0F).Rings, Alarm::AsBefore);
 }
 
-// --- Steering
-// ----------------------------------------------------------------------------------------------------
+// Steering
 
 TEST_F(TrackLoopTest, SteeringOnTheTrueSideMovesTheAngleOneWayAndTheBearingTheOther) {
   m_loop.Side(TrackSide::True);
@@ -421,8 +384,7 @@ TEST_F(TrackLoopTest, SteeringByAnyAmountKeepsEveryAngleInRange) {
   }
 }
 
-// --- Typed values
-// ------------------------------------------------------------------------------------------------
+// Typed values
 
 TEST_F(TrackLoopTest, ATypedBearingIsFoldedFully) {
   for (const auto& [typed, bearing] : std::vector<std::pair<double, float>>{
@@ -450,93 +412,6 @@ TEST_F(TrackLoopTest, AValueThatIsNotFiniteIsNotTaken) {
   EXPECT_EQ(Apparent(), 45.0F);
   EXPECT_EQ(True(), 92.0F);
 }
-
-// --- Closed loop
-// -------------------------------------------------------------------------------------------------
-
-/// A boat that turns a part of the way to the autopilot's bearing at every step, in a steady wind.
-struct ToyBoat {
-  double Heading = 0.0;
-  double Response = 1.0;
-  double WindFrom = 90.0;
-  double WindSpeed = 12.0;
-  double Speed = 6.0;
-
-  void Sail(float bearing, InstrumentData& data) {
-    Heading += Response * std::remainder(static_cast<double>(bearing) - Heading, 360.0);
-    Heading = std::remainder(Heading, 360.0);
-    data.BoatSpeed = static_cast<float>(Speed);
-    data.WindSpeedTrue = static_cast<float>(WindSpeed);
-    data.WindAngleTrue = static_cast<float>(std::remainder(WindFrom - Heading, 360.0));
-    WindApparentFromTrue(data.WindSpeedTrue, data.WindAngleTrue, data.BoatSpeed, data.WindSpeedApparent,
-                         data.WindAngleApparent);
-  }
-};
-
-struct LoopCase {
-  TrackSide Side;
-  float Desired;
-  double Response;
-};
-
-void PrintTo(const LoopCase& loop, std::ostream* out) {
-  *out << (loop.Side == TrackSide::Apparent ? "apparent " : "true ") << loop.Desired << ", response "
-       << loop.Response;
-}
-
-class ClosedLoop : public TrackLoopTest, public testing::WithParamInterface<LoopCase> {};
-
-TEST_P(ClosedLoop, TheBoatComesToTheDesiredAngleAndStaysThereThroughAWindShift) {
-  const LoopCase& loop = GetParam();
-  ToyBoat boat;
-  boat.Response = loop.Response;
-  m_loop.Side(loop.Side);
-  m_settings.DesiredAngle[static_cast<std::size_t>(loop.Side)] = loop.Desired;
-  Track();
-  const auto error = [&] {
-    const float measured = loop.Side == TrackSide::Apparent ? m_data.WindAngleApparent : m_data.WindAngleTrue;
-    return std::abs(std::remainder(static_cast<double>(measured - loop.Desired), 360.0));
-  };
-  // Long after the wind has shifted by 25 degrees, and again by 330, the angle is held.
-  for (const double windFrom : {90.0, 115.0, 85.0}) {
-    boat.WindFrom = windFrom;
-    for (int second = 0; second < 3000; ++second) {
-      boat.Sail(m_settings.m_fAutoPilot, m_data);
-      m_loop.ControlStep(kOrigin.At);
-      ASSERT_GE(m_settings.m_fAutoPilot, 0.0F);
-      ASSERT_LT(m_settings.m_fAutoPilot, 360.0F);
-      if (second > 2500) {
-        ASSERT_LT(error(), 0.2) << "second " << second << " with the wind from " << windFrom;
-      }
-    }
-  }
-}
-
-TEST_P(ClosedLoop, TheBoatFollowsASteeringChange) {
-  const LoopCase& loop = GetParam();
-  ToyBoat boat;
-  boat.Response = loop.Response;
-  m_loop.Side(loop.Side);
-  m_settings.DesiredAngle[static_cast<std::size_t>(loop.Side)] = loop.Desired;
-  Track();
-  const auto sail = [&] {
-    for (int second = 0; second < 3000; ++second) {
-      boat.Sail(m_settings.m_fAutoPilot, m_data);
-      m_loop.ControlStep(kOrigin.At);
-    }
-  };
-  sail();
-  const double before = boat.Heading;
-  m_loop.TrackSteerTo(7.0F);
-  sail();
-  EXPECT_NEAR(std::remainder(boat.Heading - before, 360.0), 7.0, 0.3);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    All, ClosedLoop,
-    testing::Values(LoopCase{TrackSide::Apparent, 45.0F, 1.0}, LoopCase{TrackSide::Apparent, -40.0F, 0.5},
-                    LoopCase{TrackSide::Apparent, 100.0F, 0.3}, LoopCase{TrackSide::True, 92.0F, 1.0},
-                    LoopCase{TrackSide::True, -120.0F, 0.5}, LoopCase{TrackSide::True, 175.0F, 0.3}));
 
 }  // namespace
 }  // namespace veerwatch
