@@ -24,20 +24,7 @@ Mwd DecodeMwd(const Fields& fields) {
       mwd.DirectionMagnetic = direction;
     }
   }
-  for (const std::size_t n : {5U, 7U}) {
-    const auto text = fields.Text(n, n + 1);
-    if (!text) {
-      continue;
-    }
-    const auto speed = SpeedField(*text);
-    if (!speed) {
-      return mwd;
-    }
-    if (KnotsIn(fields[n + 1]) > 0.0) {
-      mwd.WindSpeed = Knots(*speed, fields[n + 1]);
-      break;
-    }
-  }
+  mwd.WindSpeed = FirstSpeed(fields, {5, 7});
   return mwd;
 }
 

@@ -1,7 +1,12 @@
 // The units in which a wind's speed can come.
 #pragma once
 
+#include <cstddef>
+#include <initializer_list>
+#include <optional>
 #include <string_view>
+
+#include "nmea/Fields.h"
 
 namespace veerwatch {
 
@@ -27,5 +32,10 @@ constexpr double KnotsIn(std::string_view unit) {
 constexpr float Knots(float speed, std::string_view unit) {
   return unit == "N" ? speed : static_cast<float>(static_cast<double>(speed) * KnotsIn(unit));
 }
+
+/// The first speed that is there in a known unit [kn]. Each place of `places` is the number of a field with a
+/// speed, and its unit is in the field after it. Nothing where none is there, or where one that comes before
+/// is no speed.
+std::optional<float> FirstSpeed(const Fields& fields, std::initializer_list<std::size_t> places);
 
 }  // namespace veerwatch

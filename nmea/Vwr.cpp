@@ -1,7 +1,5 @@
 #include "nmea/Vwr.h"
 
-#include <cstddef>
-
 #include "nmea/FieldNumber.h"
 #include "nmea/SpeedUnit.h"
 
@@ -22,20 +20,9 @@ SidedWind DecodeWind(const Fields& fields) {
     wind.AngleMark = (port || fields[2] == "R") && *angle >= 0.0F && *angle <= kHalfTurn;
     wind.WindAngle = port && *angle < kHalfTurn ? -*angle : *angle;
   }
-  for (const std::size_t n : {3U, 5U, 7U}) {
-    const auto text = fields.Text(n, n + 1);
-    if (!text) {
-      continue;
-    }
-    const auto speed = SpeedField(*text);
-    if (!speed) {
-      return wind;
-    }
-    if (KnotsIn(fields[n + 1]) > 0.0) {
-      wind.WindSpeed = Knots(*speed, fields[n + 1]);
-      wind.SpeedMark = true;
-      break;
-    }
+  if (const auto speed = FirstSpeed(fields, {3, 5, 7})) {
+    wind.WindSpeed = *speed;
+    wind.SpeedMark = true;
   }
   return wind;
 }
