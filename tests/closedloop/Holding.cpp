@@ -1,7 +1,6 @@
 #include "tests/closedloop/Holding.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <deque>
 #include <utility>
@@ -196,16 +195,10 @@ UpsetResult StandbyUpset(const HoldCase& what, double off) { return Held(what).S
 BurstResult LateBurst(const HoldCase& what) { return Held(what).Burst(); }
 
 std::vector<HoldCase> Passages(const HoldCase& what, const std::vector<double>& lags) {
-  constexpr std::array<std::pair<TrackSide, double>, 6> kHeld{{{TrackSide::True, 45.0},
-                                                               {TrackSide::True, 100.0},
-                                                               {TrackSide::True, 150.0},
-                                                               {TrackSide::Apparent, 35.0},
-                                                               {TrackSide::Apparent, 90.0},
-                                                               {TrackSide::Apparent, 140.0}}};
   std::vector<HoldCase> cases;
   for (const double lag : lags) {
     for (const Sea sea : {Sea::Flat, Sea::Slight, Sea::Beam, Sea::Following, Sea::Head}) {
-      for (const auto& [side, angle] : kHeld) {
+      for (const auto& [side, angle] : kHeldAngles) {
         HoldCase one = what;
         one.Lag = lag;
         one.TheSea = sea;

@@ -2,9 +2,11 @@
 // and the set of such passages over which methods of tracking are compared.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "settings/Settings.h"
@@ -75,6 +77,14 @@ struct BurstResult {
 
 /// Nothing comes from the instruments for 30 seconds, then all of it at once.
 BurstResult LateBurst(const HoldCase& what);
+
+/// What is held on a passage: a wind angle [deg relative] of a side.
+constexpr std::array<std::pair<TrackSide, double>, 6> kHeldAngles{{{TrackSide::True, 45.0},
+                                                                   {TrackSide::True, 100.0},
+                                                                   {TrackSide::True, 150.0},
+                                                                   {TrackSide::Apparent, 35.0},
+                                                                   {TrackSide::Apparent, 90.0},
+                                                                   {TrackSide::Apparent, 140.0}}};
 
 /// The passages of `what`, 30 for each lag of the pilot [s]: in each sea at each angle, with a seed of its
 /// own.

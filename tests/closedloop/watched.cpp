@@ -19,12 +19,6 @@ constexpr double kHours = 4.0;  // for each held angle
 constexpr double kSecondsPerHour = 3600.0;
 constexpr double kSettles = 60.0;  // [s] with the alarm that is set
 
-constexpr std::array<std::pair<TrackSide, double>, 6> kHeld{{{TrackSide::True, 45.0},
-                                                             {TrackSide::True, 100.0},
-                                                             {TrackSide::True, 150.0},
-                                                             {TrackSide::Apparent, 35.0},
-                                                             {TrackSide::Apparent, 90.0},
-                                                             {TrackSide::Apparent, 140.0}}};
 constexpr std::array<Sea, 3> kRough{Sea::Beam, Sea::Following, Sea::Head};
 
 /// Counts the conditions as they come.
@@ -89,7 +83,7 @@ int main(int argc, char** argv) {
     int red = 0;
     int amber = 0;
     std::uint64_t seed = 1;
-    for (const auto& [side, angle] : kHeld) {
+    for (const auto& [side, angle] : kHeldAngles) {
       const auto [r, a] = Sail(method, side, angle, seed);
       seed += kRough.size();
       red += r;
