@@ -311,7 +311,7 @@ void InstrumentPanelQt::ColourEntries() {
   }
 }
 
-void InstrumentPanelQt::ColourSent() {
+void InstrumentPanelQt::ColourSent() const {
   lblPilotHeading->Colours(m_theme.Text, m_theme.Dimmed);
   lblPilotSent->Colours(m_late ? AmberText(m_theme.Window) : m_theme.Text, m_theme.Dimmed);
 }

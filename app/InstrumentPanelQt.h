@@ -86,7 +86,7 @@ class InstrumentPanelQt final : public QWidget {
   void ApplyTheme();
   /// The colours of the boxes. A bearing that the loop steers by is as bright as one that can be typed.
   void ColourEntries();
-  void ColourSent();
+  void ColourSent() const;
   /// The card that says where the boat goes; null while nothing is sent.
   const Box* SteeringCard() const;
   /// Draws the cards again.

@@ -21,8 +21,8 @@ struct WindSample {
 
 class WindRecorder final : private HelmObserver {
  public:
-  static constexpr std::int64_t kHalfHour = 1800000;      // [ms]
-  static constexpr std::size_t kTenASecond = 1800U * 10;  // samples of half an hour
+  static constexpr std::int64_t kHalfHour = 1800000;  // [ms]
+  static constexpr std::size_t kTenASecond = 18000;   // samples of half an hour
 
   /// Keeps the newest `most` samples [above 0] of the last `span` [ms]. `record` is that of the helm whose
   /// observers are given; both outlive this.
