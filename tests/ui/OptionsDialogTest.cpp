@@ -1,10 +1,6 @@
-// What the user does in the options dialog: edits, Apply, OK, Cancel, the spinners, the close.
+// What the user does in the options dialog: edits, Apply, OK, Cancel, the close.
 
 #include <QComboBox>
-#include <QGroupBox>
-#include <QScrollBar>
-#include <QStyle>
-#include <QStyleOptionSlider>
 
 #include "tests/ui/OptionsTester.h"
 
@@ -14,26 +10,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class OptionsDialog : public OptionsTester {
- public:
-  /// Presses an arrow of a spinner.
-  void Spin(const std::string& name, bool up) const {
-    auto& bar = Find<QScrollBar>(name);
-    QStyleOptionSlider option;
-    option.initFrom(&bar);
-    option.orientation = bar.orientation();
-    option.minimum = bar.minimum();
-    option.maximum = bar.maximum();
-    option.sliderPosition = bar.sliderPosition();
-    option.subControls = QStyle::SC_All;
-    const QRect arrow = bar.style()->subControlRect(
-        QStyle::CC_ScrollBar, &option, up ? QStyle::SC_ScrollBarSubLine : QStyle::SC_ScrollBarAddLine, &bar);
-    ASSERT_TRUE(bar.rect().contains(arrow)) << name;
-    QTest::mouseClick(&bar, Qt::LeftButton, {}, arrow.center());
-    EXPECT_EQ(bar.value(), 0);
-    EXPECT_TRUE(bar.isEnabled());
-  }
-};
+class OptionsDialog : public OptionsTester {};
 
 // Bold Apply
 
@@ -307,145 +284,6 @@ TEST_F(OptionsDialog, ACountWithWhichAnAverageRunsAwayIsToldAndNotStored) {
   EXPECT_EQ(Dialogs.Messages[0].Text, "Data Options Problem Must be 0 or above 0.5: True Wind Average");
   EXPECT_EQ(Main.m_fNmeaTrueWindAverage, 2.0F);
   EXPECT_TRUE(Bold());
-}
-
-// The Tracking page
-
-TEST_F(OptionsDialog, TheResponseStandsInFiguresBeneathItsPlot) {
-  Start(frmOptions::Tracking);
-  Type("txtTrackBandwidth", "40");
-  Type("txtTrackDamping", "1");
-  Type("txtTrackNoise", "0");
-  Type("txtTrackTime", "2");
-  Click("cmdApply");
-  EXPECT_EQ(Text("lblTrackFigures"), "This run: overshoot 0.00 deg, not settled, steady state 8.10 deg rms");
-  const auto& figures = Find<QLabel>("lblTrackFigures");
-  const auto& plot = Find<QWidget>("pctTrack");
-  EXPECT_GT(figures.mapTo(Window.get(), QPoint()).y(),
-            plot.mapTo(Window.get(), QPoint(0, plot.height())).y());
-  Type("txtTrackTime", "x");
-  Click("cmdApply");
-  EXPECT_EQ(Text("lblTrackFigures"), "");
-}
-
-TEST_F(OptionsDialog, NumbersStandBesideAndBeneathThePlot) {
-  Start(frmOptions::Tracking);
-  auto& plot = Find<QWidget>("pctTrack");
-  auto& around = *plot.parentWidget();
-  const auto inked = [&around](const QRect& place) {
-    const QImage image = around.grab(place).toImage();
-    const QRgb ground = image.pixel(0, 0);
-    for (int y = 0; y < image.height(); ++y) {
-      for (int x = 0; x < image.width(); ++x) {
-        if (image.pixel(x, y) != ground) {
-          return true;
-        }
-      }
-    }
-    return false;
-  };
-  const QRect left(0, 0, plot.x(), around.height());
-  const QRect beneath(0, plot.y() + plot.height(), around.width(),
-                      around.height() - plot.y() - plot.height());
-  EXPECT_TRUE(inked(left));
-  EXPECT_TRUE(inked(beneath));
-  Type("txtTrackMin", "x");
-  Click("cmdApply");
-  EXPECT_FALSE(inked(left));
-  EXPECT_FALSE(inked(beneath));
-}
-
-// The Simulate page
-
-TEST_F(OptionsDialog, TheDataFrameFollowsTheLastReload) {
-  Start(frmOptions::Simulate);
-  EXPECT_FALSE(Find<QGroupBox>("frmSimulate").isVisible());
-  Click("chkSimulate");
-  EXPECT_FALSE(Find<QGroupBox>("frmSimulate").isVisible());
-  Click("cmdApply");
-  EXPECT_TRUE(Main.m_bSimulate);
-  EXPECT_TRUE(Find<QGroupBox>("frmSimulate").isVisible());
-  Click("chkSimulate");
-  EXPECT_TRUE(Find<QGroupBox>("frmSimulate").isVisible());
-}
-
-TEST_F(OptionsDialog, APlainDecimalAsTimeIsStoredAs0) {
-  Main.m_bSimulate = true;
-  Main.m_fSimulateTime = 2.0F;
-  Start(frmOptions::Simulate);
-  Type("txtSimulateTime", "1.5");
-  Click("cmdApply");
-  EXPECT_EQ(Main.m_fSimulateTime, 0.0F);
-  EXPECT_EQ(Entry("txtSimulateTime"), "0:00");
-}
-
-TEST_F(OptionsDialog, SpinnersStepTimeAndAngle) {
-  Main.m_bSimulate = true;
-  Main.m_fSimulateTrueWindAngle = 355.0F;
-  Start(frmOptions::Simulate);
-  Spin("vscSimulateTime(0)", true);
-  EXPECT_EQ(Entry("txtSimulateTime"), "0:10");
-  Spin("vscSimulateTime(1)", true);
-  EXPECT_EQ(Entry("txtSimulateTime"), "0:11");
-  Spin("vscSimulateTime(0)", false);
-  EXPECT_EQ(Entry("txtSimulateTime"), "0:01");
-  Spin("vscSimulateTrueWindAngle(0)", true);
-  EXPECT_EQ(Entry("txtSimulateTrueWindAngle"), "365");
-  Spin("vscSimulateTrueWindAngle(1)", false);
-  EXPECT_EQ(Entry("txtSimulateTrueWindAngle"), "364");
-  EXPECT_TRUE(Bold());
-  EXPECT_EQ(Main.m_fSimulateTrueWindAngle, 355.0F);
-}
-
-TEST_F(OptionsDialog, TheTimeSpinnerShowsTheWaypointOfThatTime) {
-  Main.m_bSimulate = true;
-  Start(frmOptions::Simulate);
-  Main.SimulateTimes.clear();
-  Main.WaypointBearing = -12.4F;
-  Main.WaypointRange = 3.04F;
-  Spin("vscSimulateTime(0)", true);
-  EXPECT_THAT(Main.SimulateTimes, ElementsAre(static_cast<float>(1.0 / 6.0)));
-  EXPECT_EQ(Text("lblSimulateWaypointBrg"), "-12");
-  EXPECT_EQ(Text("lblSimulateWaypointRng"), "3.0");
-  Spin("vscSimulateTrueWindAngle(0)", true);
-  EXPECT_EQ(Main.SimulateTimes.size(), 1U);
-}
-
-TEST_F(OptionsDialog, AutoApplyAppliesEveryStep) {
-  Main.m_bSimulate = true;
-  Start(frmOptions::Simulate);
-  Click("chkSimulateAutoApply");
-  Spin("vscSimulateTrueWindAngle(0)", true);
-  EXPECT_EQ(Main.m_fSimulateTrueWindAngle, 10.0F);
-  EXPECT_FALSE(Bold());
-  EXPECT_TRUE(Window->isVisible());
-}
-
-// The Tracking page
-
-TEST_F(OptionsDialog, ThePreviewIsDrawnByTheTabAndByApply) {
-  Start(frmOptions::Input);
-  auto& plot = Find<TrackPreviewQt>("pctTrack");
-  Tab(frmOptions::Tracking);
-  EXPECT_FALSE(plot.Picture().Trace.empty());
-  EXPECT_EQ(plot.Picture().Scale.TimeEnd, 120.0);
-  Type("txtTrackTime", "60");
-  EXPECT_EQ(plot.Picture().Scale.TimeEnd, 120.0);
-  Click("cmdApply");
-  EXPECT_EQ(plot.Picture().Scale.TimeEnd, 60.0);
-  Type("txtTrackMax", "20");
-  Tab(frmOptions::Input);
-  Tab(frmOptions::Tracking);
-  EXPECT_EQ(plot.Picture().Scale.BearingMax, 20.0);
-}
-
-TEST_F(OptionsDialog, ThePreviewFollowsItsSize) {
-  Start(frmOptions::Tracking);
-  auto& plot = Find<TrackPreviewQt>("pctTrack");
-  const int before = plot.Picture().Width;
-  Window->resize(Window->size() + QSize(100, 50));
-  ASSERT_TRUE(QTest::qWaitFor([&] { return plot.Picture().Width != before; }));
-  EXPECT_NEAR(plot.Picture().Width, before + 100, 1);
 }
 
 // Coming and going

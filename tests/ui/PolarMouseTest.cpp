@@ -8,15 +8,20 @@
 namespace veerwatch {
 namespace {
 
-class PolarMouse : public PolarWindowTester {};
+class PolarMouse : public PolarWindowTester {
+ public:
+  /// Where the cell of that angle and speed is drawn, on a plot of `size` pixels and 16 knots.
+  static QPoint At(double angle, double speed, double size = 480.0) {
+    const Point cell = PointAt(PlotGeometry(size, size, 16.0), angle, speed);
+    return {static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y))};
+  }
+};
 
 TEST_F(PolarMouse, ReadsTheCellUnderTheMouseOut) {
   Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
   Start();
   Square(480);
-  const auto geometry = PlotGeometry(480.0, 480.0, 16.0);
-  const Point cell = PointAt(geometry, 120.0, 14.0);
-  const QPoint at(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y)));
+  const QPoint at = At(120.0, 14.0);
   auto& label = Find<QLabel>("lblMouse");
   EXPECT_FALSE(label.isVisible());
   QTest::mousePress(&Plot(), Qt::LeftButton, {}, at);
@@ -44,9 +49,7 @@ TEST_F(PolarMouse, ReadsTheReferenceOutInAnotherColour) {
   Square(480);
   Dialogs.Files = {(Program / "r.pol").string()};
   Choose("mnuOverlayFile2");
-  const Point cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), -150.0, 13.0);
-  QTest::mousePress(&Plot(), Qt::LeftButton, {},
-                    QPoint(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y))));
+  QTest::mousePress(&Plot(), Qt::LeftButton, {}, At(-150.0, 13.0));
   auto& label = Find<QLabel>("lblMouse");
   EXPECT_EQ(label.text(), QStringLiteral("-150.0\n10\n13.0"));
   EXPECT_NE(label.palette().color(QPalette::WindowText), QColor(0, 0, 255));
@@ -56,9 +59,7 @@ TEST_F(PolarMouse, KeepsTheMouseReadoutWhileTheMouseRests) {
   Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
   Start();
   Square(480);
-  const Point cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), 120.0, 14.0);
-  const QPoint at(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y)));
-  QTest::mousePress(&Plot(), Qt::LeftButton, {}, at);
+  QTest::mousePress(&Plot(), Qt::LeftButton, {}, At(120.0, 14.0));
   ASSERT_TRUE(Find<QLabel>("lblMouse").isVisible());
   Sail(80.0F, 20.0F, 9.0F);
   Window->PolarDraw();
@@ -72,9 +73,7 @@ TEST_F(PolarMouse, TakesTheMouseReadoutBackWhenTheCellHasMoved) {
   Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
   Start();
   Square(480);
-  const Point cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), 120.0, 14.0);
-  const QPoint at(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y)));
-  QTest::mousePress(&Plot(), Qt::LeftButton, {}, at);
+  QTest::mousePress(&Plot(), Qt::LeftButton, {}, At(120.0, 14.0));
   ASSERT_TRUE(Find<QLabel>("lblMouse").isVisible());
   Find<QAction>("mnuRange6").trigger();
   EXPECT_FALSE(Find<QLabel>("lblMouse").isVisible()) << "now far outside";
@@ -84,16 +83,12 @@ TEST_F(PolarMouse, ReadsOutWhereTheMouseRests) {
   Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
   Start();
   Square(480);
-  const auto at = [](double angle, double speed) {
-    const Point cell = PointAt(PlotGeometry(480.0, 480.0, 16.0), angle, speed);
-    return QPoint(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y)));
-  };
   auto& label = Find<QLabel>("lblMouse");
-  QTest::mouseMove(&Plot(), at(120.0, 14.0));
+  QTest::mouseMove(&Plot(), At(120.0, 14.0));
   EXPECT_FALSE(label.isVisible()) << "still on its way, perhaps";
   EXPECT_TRUE(QTest::qWaitFor([&] { return label.isVisible(); }));
   EXPECT_EQ(label.text(), QStringLiteral("120.0\n20\n14.0"));
-  QTest::mouseMove(&Plot(), at(80.0, 11.0));
+  QTest::mouseMove(&Plot(), At(80.0, 11.0));
   EXPECT_FALSE(label.isVisible());
   EXPECT_TRUE(QTest::qWaitFor([&] { return label.isVisible(); }));
   EXPECT_EQ(label.text(), QStringLiteral("80.0\n20\n11.0"));
@@ -106,9 +101,7 @@ TEST_F(PolarMouse, WritesTheMouseReadoutLargeWithItsCaptions) {
   Store.ProfileSet("Polar Data", "Speed Range", 16.0F);
   Start();
   Square(700);
-  const Point cell = PointAt(PlotGeometry(700.0, 700.0, 16.0), 120.0, 14.0);
-  QTest::mousePress(&Plot(), Qt::LeftButton, {},
-                    QPoint(static_cast<int>(std::lround(cell.X)), static_cast<int>(std::lround(cell.Y))));
+  QTest::mousePress(&Plot(), Qt::LeftButton, {}, At(120.0, 14.0, 700.0));
   auto& label = Find<QLabel>("lblMouse");
   ASSERT_TRUE(label.isVisible());
   const QFontMetrics metrics(label.font());
