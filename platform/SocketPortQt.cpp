@@ -28,6 +28,17 @@ void SocketPortQt::Read(std::string& text, std::size_t most) {
   m_received.erase(0, read);
 }
 
+QHostAddress OwnAddress(const Endpoint& endpoint, std::string& failure) {
+  if (endpoint.Host.empty()) {
+    return QHostAddress(QHostAddress::LocalHost);
+  }
+  const QHostAddress address(QString::fromStdString(endpoint.Host));
+  if (address.isNull()) {
+    failure = endpoint.Text + ": \"" + endpoint.Host + "\" is no address of this computer";
+  }
+  return address;
+}
+
 std::string Uncapitalised(std::string text) {
   if (text.size() > 1 && text[0] >= 'A' && text[0] <= 'Z' && text[1] >= 'a' && text[1] <= 'z') {
     text[0] = static_cast<char>(text[0] - 'A' + 'a');

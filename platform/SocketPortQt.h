@@ -2,12 +2,14 @@
 // serial line, and the pauses in which a link that is down is tried again.
 #pragma once
 
+#include <QHostAddress>
 #include <QTimer>
 #include <algorithm>
 #include <cstdint>
 #include <string>
 #include <string_view>
 
+#include "platform/Endpoint.h"
 #include "platform/EndpointPort.h"
 #include "platform/WireEnds.h"
 
@@ -63,6 +65,10 @@ class SocketPortQt : public EndpointPort {
   WireEnds m_ends;
   std::string m_received;
 };
+
+/// The address of this computer, or the group, at which `endpoint` listens: without a host the computer
+/// itself. A host that is no address gives a null address, and `failure` says so.
+QHostAddress OwnAddress(const Endpoint& endpoint, std::string& failure);
 
 /// `text` as the part of a sentence: without a capital in front.
 std::string Uncapitalised(std::string text);

@@ -15,11 +15,8 @@ TcpServerQt::TcpServerQt(const Endpoint& endpoint, const Clock& clock)
 TcpServerQt::~TcpServerQt() { PortOpen(false); }
 
 bool TcpServerQt::OpenEndpoint(std::string& failure) {
-  const QHostAddress address = m_endpoint.Host.empty()
-                                   ? QHostAddress(QHostAddress::LocalHost)
-                                   : QHostAddress(QString::fromStdString(m_endpoint.Host));
+  const QHostAddress address = OwnAddress(m_endpoint, failure);
   if (address.isNull()) {
-    failure = m_endpoint.Text + ": \"" + m_endpoint.Host + "\" is no address of this computer";
     return false;
   }
   if (!m_server.listen(address, m_endpoint.Port)) {

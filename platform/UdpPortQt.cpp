@@ -35,11 +35,8 @@ bool UdpPortQt::OpenEndpoint(std::string& failure) {
 }
 
 bool UdpPortQt::Listen(std::string& failure) {
-  const QHostAddress address = m_endpoint.Host.empty()
-                                   ? QHostAddress(QHostAddress::LocalHost)
-                                   : QHostAddress(QString::fromStdString(m_endpoint.Host));
+  const QHostAddress address = OwnAddress(m_endpoint, failure);
   if (address.isNull()) {
-    failure = m_endpoint.Text + ": \"" + m_endpoint.Host + "\" is no address of this computer";
     return false;
   }
   const bool group = address.isMulticast();
