@@ -92,10 +92,9 @@ Fault NoWind(const char* name, OnWire onWire) {
   return fault;
 }
 
-}  // namespace
-
-std::vector<Fault> WindFaults() {
-  std::vector<Fault> faults{
+/// Winds that are missing or no use.
+std::vector<Fault> NoWinds() {
+  return {
       NoWind("no wind sentences", Without("MWV")),
       NoWind("wind with status V", Change("MWV", [](Fields& fields) { fields[5] = "V"; })),
       NoWind("wind with status V, 40 degrees wrong",
@@ -123,6 +122,12 @@ std::vector<Fault> WindFaults() {
                return Is(line, "MWV") && std::fmod(seconds, 7.0) < 6.5 ? std::string() : Sent(line);
              }),
   };
+}
+
+}  // namespace
+
+std::vector<Fault> WindFaults() {
+  std::vector<Fault> faults = NoWinds();
 
   Fault stuck{"the vane is stuck", "Wind Not Changing", 15.0, PilotGets::Sentences};
   stuck.OnWire = [held = std::string()](const std::string& line, double) mutable {
@@ -244,6 +249,12 @@ std::vector<Fault> PilotFaults() {
   reversed.MostOff = 180.0;
   reversed.Goes = false;
   add(reversed);
+  return faults;
+}
+
+std::vector<Fault> PilotLineFaults() {
+  std::vector<Fault> faults;
+  const auto add = [&faults](Fault fault) { faults.push_back(std::move(fault)); };
 
   Fault pulled{"the pilot's plug is pulled", "Pilot Lost - Output Port 2", 5.5, PilotGets::Nothing};
   pulled.Begins = [](FaultRun& run) { run.PullOutput(); };

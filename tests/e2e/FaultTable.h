@@ -12,8 +12,10 @@ namespace veerwatch {
 std::vector<Fault> WindFaults();
 /// Faults of what else the instruments send.
 std::vector<Fault> BoatFaults();
-/// Faults of the pilot and of its line.
+/// A pilot that does not do what it is told.
 std::vector<Fault> PilotFaults();
+/// Faults of the line to the pilot.
+std::vector<Fault> PilotLineFaults();
 /// What happens on the water, in the computer, and at once.
 std::vector<Fault> OtherFaults();
 

@@ -76,6 +76,7 @@ void Try(const std::vector<Fault>& faults) {
 TEST(FaultTable, OfTheWind) { Try(WindFaults()); }
 TEST(FaultTable, OfTheBoat) { Try(BoatFaults()); }
 TEST(FaultTable, OfThePilot) { Try(PilotFaults()); }
+TEST(FaultTable, OfThePilotsLine) { Try(PilotLineFaults()); }
 TEST(FaultTable, OfTheRest) { Try(OtherFaults()); }
 
 }  // namespace
