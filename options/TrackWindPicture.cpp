@@ -33,7 +33,8 @@ std::vector<Slot> SlotsOf(const TrackWindRun& run, const std::vector<WindSample>
     for (; i < winds.size() && (winds[i].Moment - start) / kSlot == slot; ++i, ++count) {
       sum += run.Errors[i];
     }
-    slots.push_back({static_cast<double>(slot * kSlot + kSlot / 2) / kMillisecondsPerSecond, sum / count});
+    const std::int64_t middle = slot * kSlot + kSlot / 2;  // [ms]
+    slots.push_back({static_cast<double>(middle) / kMillisecondsPerSecond, sum / count});
   }
   return slots;
 }
