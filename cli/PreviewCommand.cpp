@@ -96,12 +96,13 @@ void PreviewCommand(const PreviewOptions& options, std::ostream& out) {
 }
 
 void LogPreviewCommand(const LogPreviewOptions& options, std::istream& log, std::ostream& out) {
+  const Settings usual;
   TrackResponseInputs law;
-  law.Bandwidth = options.Bandwidth;
-  law.Damping = options.Damping;
+  law.Bandwidth = options.Bandwidth.value_or(static_cast<double>(usual.m_fTrackBandwidth));
+  law.Damping = options.Damping.value_or(static_cast<double>(usual.m_fTrackDamping));
   law.Rate = options.Rate;
   for (const std::string& trouble :
-       {TrackResponseTrouble(law), SettingsTrouble(options.Bandwidth, options.Damping)}) {
+       {TrackResponseTrouble(law), SettingsTrouble(law.Bandwidth, law.Damping)}) {
     if (!trouble.empty()) {
       throw CommandError(trouble);
     }
@@ -111,8 +112,12 @@ void LogPreviewCommand(const LogPreviewOptions& options, std::istream& log, std:
   if (const std::string trouble = TrackWindTrouble(winds, options.Lag); !trouble.empty()) {
     throw CommandError(trouble);
   }
-  settings.m_fTrackBandwidth = ToSingle(options.Bandwidth);
-  settings.m_fTrackDamping = ToSingle(options.Damping);
+  if (options.Bandwidth) {
+    settings.m_fTrackBandwidth = ToSingle(*options.Bandwidth);
+  }
+  if (options.Damping) {
+    settings.m_fTrackDamping = ToSingle(*options.Damping);
+  }
   std::vector<TrackWindRun> runs;
   for (const TrackMethod method : {TrackMethod::Sentence, TrackMethod::Clock, TrackMethod::Direction}) {
     if (options.Method.value_or(method) != method) {

@@ -24,9 +24,9 @@ struct PreviewOptions {
 void PreviewCommand(const PreviewOptions& options, std::ostream& out);
 
 struct LogPreviewOptions {
-  std::optional<TrackMethod> Method;  ///< all three without one
-  double Bandwidth = 0.0;             ///< [s]
-  double Damping = 0.0;
+  std::optional<TrackMethod> Method;       ///< all three without one
+  std::optional<double> Bandwidth;         ///< [s]; that of the profile without one
+  std::optional<double> Damping;           ///< the same
   double Rate = 1.0;                       ///< winds a second in the log [1/s]
   double Lag = 4.0;                        ///< of the boat [s]
   std::optional<std::string> ProfileFile;  ///< settings that the log is read with; defaults without one

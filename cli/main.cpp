@@ -222,12 +222,12 @@ class PreviewArguments {
  public:
   explicit PreviewArguments(CLI::App& app)
       : m_preview(app.add_subcommand("preview", "Print how the loop would pull an offset back to zero")) {
-    AddNumber(m_preview, "--bandwidth", m_options.Inputs.Bandwidth, "Tracking bandwidth [s]", "B")
-        ->required();
-    AddNumber(m_preview, "--damping", m_options.Inputs.Damping, "Tracking damping factor", "D")->required();
+    AddNumber(m_preview, "--bandwidth", m_bandwidth,
+              "Tracking bandwidth [s] (with --log that of the profile)", "B");
+    AddNumber(m_preview, "--damping", m_damping, "Tracking damping factor (the same)", "D");
     m_preview
         ->add_option("--method", m_method, "sentence, clock or direction (default sentence; all with --log)")
-        ->check(CLI::IsMember({"sentence", "clock", "direction"}))
+        ->transform(CLI::IsMember({"sentence", "clock", "direction"}, CLI::ignore_case))
         ->type_name("METHOD");
     AddNumber(m_preview, "--rate", m_options.Inputs.Rate, "Wind sentences a second (default 1)", "R");
     const std::array<CLI::Option*, 4> ofResponse{
@@ -256,6 +256,11 @@ class PreviewArguments {
 
   void Run() {
     if (!m_file) {
+      if (!m_bandwidth || !m_damping) {
+        throw veerwatch::CommandError(m_bandwidth ? "--damping is required" : "--bandwidth is required");
+      }
+      m_options.Inputs.Bandwidth = *m_bandwidth;
+      m_options.Inputs.Damping = *m_damping;
       m_options.Inputs.Method = kMethods.at(m_method.value_or("sentence"));
       veerwatch::PreviewCommand(m_options, std::cout);
       return;
@@ -263,8 +268,8 @@ class PreviewArguments {
     if (m_method) {
       m_log.Method = kMethods.at(*m_method);
     }
-    m_log.Bandwidth = m_options.Inputs.Bandwidth;
-    m_log.Damping = m_options.Inputs.Damping;
+    m_log.Bandwidth = m_bandwidth;
+    m_log.Damping = m_damping;
     m_log.Rate = m_options.Inputs.Rate;
     m_log.Summary = m_options.Summary;
     std::ifstream log = OpenLog(*m_file);
@@ -275,6 +280,8 @@ class PreviewArguments {
   CLI::App* m_preview;
   veerwatch::PreviewOptions m_options;
   veerwatch::LogPreviewOptions m_log;
+  std::optional<double> m_bandwidth;
+  std::optional<double> m_damping;
   std::optional<std::string> m_method;
   std::optional<std::string> m_file;
 };

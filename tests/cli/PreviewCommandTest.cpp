@@ -161,6 +161,22 @@ TEST_F(LogPreview, PrintsTheFiguresOfEachOrOneMethod) {
   EXPECT_NE(all.find(one), std::string::npos);
 }
 
+TEST_F(LogPreview, TakesBandwidthAndDampingOfTheProfileUnlessTheyAreNamed) {
+  Options.Summary = true;
+  Options.Bandwidth.reset();
+  Options.Damping.reset();
+  const std::string usual = Print(WindLog(200));
+  std::ofstream(*Options.ProfileFile, std::ios::app) << "[Track]\nBandwidth=80\nDamping=1\n";
+  const std::string ofProfile = Print(WindLog(200));
+  Options.Bandwidth = 80.0;
+  Options.Damping = 1.0;
+  EXPECT_EQ(Print(WindLog(200)), ofProfile);
+  Options.Bandwidth = 20.0;
+  Options.Damping = 4.0;
+  EXPECT_EQ(Print(WindLog(200)), usual);
+  EXPECT_NE(usual, ofProfile);
+}
+
 TEST_F(LogPreview, TheRateSaysHowManyWindsOfTheLogAreASecond) {
   Options.Rate = 3.0;
   EXPECT_EQ(Print(WindLog(200)), "Two minutes of wind and heading are needed; 66 seconds are recorded");
