@@ -6,6 +6,7 @@
 #include "platform/Clock.h"
 #include "platform/CommandRunner.h"
 #include "platform/Dialogs.h"
+#include "platform/PortFinder.h"
 #include "platform/Profile.h"
 #include "platform/Random.h"
 #include "platform/SerialPort.h"
@@ -26,11 +27,12 @@ struct MainWindowParts {
   RandomSource& Random;
   Dialogs& Asks;
   Profile& Store;
-  std::string ProfileFile;          ///< path of the profile
-  PolarFolders Polars{};            ///< where polar files lie
-  std::string ManualPage{};         ///< the first page of the manual, for a browser
-  Sounder* Tone = nullptr;          ///< plays the tones of alarms; without it the beep sounds
-  CommandRunner* Buzzer = nullptr;  ///< runs the command of an alarm
+  std::string ProfileFile;             ///< path of the profile
+  PolarFolders Polars{};               ///< where polar files lie
+  std::string ManualPage{};            ///< the first page of the manual, for a browser
+  Sounder* Tone = nullptr;             ///< plays the tones of alarms; without it the beep sounds
+  CommandRunner* Buzzer = nullptr;     ///< runs the command of an alarm
+  const PortFinder* Finder = nullptr;  ///< knows the serial ports that are plugged in
 };
 
 }  // namespace veerwatch

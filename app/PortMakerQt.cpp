@@ -1,15 +1,27 @@
 #include "app/PortMakerQt.h"
 
-#include <filesystem>
-#include <system_error>
-
 #include "log/LogPortQt.h"
+#include "nmea/Sentence.h"
 #include "platform/SerialPortQt.h"
 #include "platform/TcpClientQt.h"
 #include "platform/TcpServerQt.h"
 #include "platform/UdpPortQt.h"
 
 namespace veerwatch {
+
+namespace {
+
+/// Noise has none.
+bool HasGoodChecksum(std::string_view line) {
+  // Lines of AIS begin with "!" instead.
+  std::string sentence(line);
+  if (sentence.starts_with('!')) {
+    sentence.front() = '$';
+  }
+  return CheckFrame(sentence, {ChecksumRule::Require, true}) == Frame::Good;
+}
+
+}  // namespace
 
 NamedPort::Maker PortMaker(const Clock& clock) {
   return [&clock](const Endpoint& endpoint) -> std::unique_ptr<SerialPort> {
@@ -26,13 +38,8 @@ NamedPort::Maker PortMaker(const Clock& clock) {
       case Endpoint::Kind::Device:
         break;
     }
-    return std::make_unique<SerialPortQt>(endpoint, clock);
+    return std::make_unique<SerialPortQt>(endpoint, clock, HasGoodChecksum);
   };
-}
-
-bool DeviceIsThere(const std::string& path) {
-  std::error_code error;
-  return std::filesystem::exists(path, error);
 }
 
 }  // namespace veerwatch

@@ -9,7 +9,4 @@ namespace veerwatch {
 /// Makes the real ports; `clock` outlives them.
 NamedPort::Maker PortMaker(const Clock& clock);
 
-/// Whether the system has a device of that name.
-bool DeviceIsThere(const std::string& path);
-
 }  // namespace veerwatch

@@ -15,6 +15,8 @@
 #include "platform/AtomicFile.h"
 #include "platform/CommandRunnerQt.h"
 #include "platform/DialogsQt.h"
+#include "platform/PortFinderQt.h"
+#include "platform/PortNames.h"
 #include "platform/ProfileLock.h"
 #include "platform/SignalsQt.h"
 #include "platform/SounderQt.h"
@@ -142,9 +144,10 @@ int Sail(ApplicationQt& application, const std::filesystem::path& profileFile, D
   SeededRandom random(std::random_device{}());
   SounderQt tone;
   CommandRunnerQt buzzer;
+  const PortFinderQt finder;
 
   frmMain window({MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, TimerTack, clock, random, dialogs, profile,
-                  profileFile.string(), PolarFiles(), ManualPage(), &tone, &buzzer});
+                  profileFile.string(), PolarFiles(), ManualPage(), &tone, &buzzer, &finder});
   dialogs.Window(&window);
   tmrNmea.Ticks([&window] { window.tmrNmea_Timer(); });
   tmrUnload.Ticks([&window] { window.tmrUnload_Timer(); });

@@ -151,6 +151,9 @@ Endpoint DeviceOf(std::string_view text, const DeviceExists& exists) {
     return endpoint;
   }
   endpoint.Path = text.substr(0, mark);
+  if (endpoint.Path.empty()) {
+    throw Wrong("it names no device");
+  }
   for (const Option& option : OptionsOf(text.substr(mark + 1))) {
     TakeOption(option, endpoint);
   }

@@ -157,6 +157,20 @@ std::string Profile::Text(std::string_view section, std::string_view key) const 
   return std::string(Unquoted(Trim(text.substr(text.find('=') + 1))));
 }
 
+std::vector<std::string> Profile::Keys(std::string_view section) const {
+  std::vector<std::string> keys;
+  const auto sectionLine = FindSection(section);
+  const std::size_t end = sectionLine ? SectionEnd(*sectionLine) : 0;
+  for (std::size_t line = sectionLine ? *sectionLine + 1 : 0; line < end; ++line) {
+    const std::string_view text = m_lines[line].Text;
+    const std::size_t equals = text.find('=');
+    if (equals != std::string_view::npos && !IsComment(text)) {
+      keys.emplace_back(Trim(text.substr(0, equals)));
+    }
+  }
+  return keys;
+}
+
 std::string Profile::Counted(std::string_view section, std::string_view key) const {
   return Text(section, key).substr(0, kValueLength);
 }

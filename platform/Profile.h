@@ -34,6 +34,9 @@ class Profile {
   /// quotes around the value are dropped.
   std::string Text(std::string_view section, std::string_view key) const;
 
+  /// The keys of a section in the order of their lines, as they are written.
+  std::vector<std::string> Keys(std::string_view section) const;
+
   // Each reads a key into `value` and leaves it as it is when the key is missing, empty, or its text is
   // nothing of that type. Only the first kValueLength characters count.
 

@@ -21,6 +21,7 @@ namespace veerwatch {
 
 namespace {
 
+constexpr int kSearchBeat = 250;      // [ms]
 constexpr qint64 kDriverRead = 4096;  // [bytes], as many as a driver hands over at a time
 
 /// The device to open, free of links, so that two names of one device meet at the same lock; "" for anything
@@ -71,9 +72,13 @@ std::unique_ptr<LineErrorCounters> SerialPortQt::DriverCounters(const QSerialPor
 #endif
 }
 
-SerialPortQt::SerialPortQt(const Endpoint& device, const Clock& clock, CountersMaker makeCounters)
-    : EndpointPort(clock), m_device(device), m_makeCounters(std::move(makeCounters)) {
-  m_port.setBaudRate(m_device.Baud);
+SerialPortQt::SerialPortQt(const Endpoint& device, const Clock& clock, BaudSearch::Good good,
+                           CountersMaker makeCounters)
+    : EndpointPort(clock),
+      m_device(device),
+      m_clock(clock),
+      m_makeCounters(std::move(makeCounters)),
+      m_search(std::move(good)) {
   m_port.setDataBits(QSerialPort::Data8);
   m_port.setParity(QSerialPort::NoParity);
   m_port.setStopBits(QSerialPort::OneStop);
@@ -91,6 +96,8 @@ SerialPortQt::SerialPortQt(const Endpoint& device, const Clock& clock, CountersM
   QObject::connect(&m_port, &QSerialPort::errorOccurred, &m_port,
                    [this](QSerialPort::SerialPortError error) { ErrorOccurred(error); });
   QObject::connect(&m_wakeTimer, &QTimer::timeout, &m_port, [this] { Wake(); });
+  m_searchTimer.setInterval(kSearchBeat);
+  QObject::connect(&m_searchTimer, &QTimer::timeout, &m_port, [this] { TryNextRate(); });
 }
 
 SerialPortQt::~SerialPortQt() { PortOpen(false); }
@@ -99,6 +106,8 @@ bool SerialPortQt::OpenEndpoint(std::string& failure) {
   const QString file = DeviceFile(m_device.Path);
   m_port.clearError();
   m_port.setPortName(file);
+  m_search.Restart(m_clock.Now().Steady);
+  m_port.setBaudRate(Searching() ? m_search.Rate() : m_device.Baud);
   if (file.isEmpty() || !m_port.open(QIODevice::ReadWrite)) {
     failure = WhyNotOpen();
     return false;
@@ -106,6 +115,9 @@ bool SerialPortQt::OpenEndpoint(std::string& failure) {
   m_counters = m_makeCounters(m_port);
   m_lineErrors.Restart();
   PollLineErrors();
+  if (Searching()) {
+    m_searchTimer.start();
+  }
   return true;
 }
 
@@ -124,9 +136,35 @@ void SerialPortQt::CloseEndpoint() {
   m_handed = false;
   m_counters.reset();
   m_wakeTimer.stop();
+  m_searchTimer.stop();
+}
+
+void SerialPortQt::TryNextRate() {
+  if (m_search.Tick(m_clock.Now().Steady)) {
+    m_port.setBaudRate(m_search.Rate());
+    m_port.clear(QSerialPort::Input);
+  }
+}
+
+std::string SerialPortQt::Trouble() const {
+  if (m_device.Baud != 0) {
+    return {};
+  }
+  const std::string rate = std::to_string(m_search.Rate()) + " baud";
+  return m_device.Path + (Searching() ? ": searching the rate, now " : ": found ") + rate;
 }
 
 void SerialPortQt::Read(std::string& text, std::size_t most) {
+  if (Searching()) {
+    std::string arrived = m_port.read(kDriverRead).toStdString();
+    m_search.Take(arrived, m_clock.Now().Steady);
+    if (Searching()) {
+      return;
+    }
+    m_searchTimer.stop();
+    text.append(arrived, 0, most);
+    return;
+  }
   const std::size_t held = text.size();
   const qint64 waiting = std::min(m_port.bytesAvailable(), static_cast<qint64>(most));
   if (waiting > 0) {
@@ -139,7 +177,7 @@ void SerialPortQt::Read(std::string& text, std::size_t most) {
 bool SerialPortQt::Leaving() { return m_port.bytesToWrite() > 0 || DriverBusy(m_port); }
 
 std::size_t SerialPortQt::Write(std::string_view text) {
-  if (m_handed) {
+  if (m_handed || Searching()) {
     return 0;
   }
   const qint64 taken = m_port.write(text.data(), static_cast<qint64>(text.size()));

@@ -14,6 +14,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/BaudSearch.h"
 #include "platform/Endpoint.h"
 #include "platform/EndpointPort.h"
 #include "platform/LineErrors.h"
@@ -28,11 +29,15 @@ class SerialPortQt final : public EndpointPort {
   /// The counters of the device's driver, where the system has them.
   static std::unique_ptr<LineErrorCounters> DriverCounters(const QSerialPort& device);
 
-  /// `device` is one of Endpoint::Kind::Device; `clock` outlives the port.
-  SerialPortQt(const Endpoint& device, const Clock& clock, CountersMaker makeCounters = DriverCounters);
+  /// `device` is one of Endpoint::Kind::Device; `clock` outlives the port. `good` judges lines where the rate
+  /// is to be found out; nothing is passed on, either way, until it is.
+  SerialPortQt(const Endpoint& device, const Clock& clock, BaudSearch::Good good,
+               CountersMaker makeCounters = DriverCounters);
   ~SerialPortQt() override;
 
   void PollLineErrors() override;
+  /// The rate that is searched, or was found.
+  std::string Trouble() const override;
 
  private:
   bool OpenEndpoint(std::string& failure) override;
@@ -44,12 +49,17 @@ class SerialPortQt final : public EndpointPort {
   void WakeAfter(int milliseconds) override;
 
   std::string WhyNotOpen() const;
+  bool Searching() const { return m_device.Baud == 0 && !m_search.Found(); }
+  void TryNextRate();
   void ErrorOccurred(QSerialPort::SerialPortError error);
 
   const Endpoint m_device;
+  const Clock& m_clock;
   CountersMaker m_makeCounters;
   QSerialPort m_port;
   QTimer m_wakeTimer;
+  BaudSearch m_search;
+  QTimer m_searchTimer;
   bool m_handed = false;  ///< to the driver, and the event loop has not come round since
   std::unique_ptr<LineErrorCounters> m_counters;
   LineErrorWatch m_lineErrors;

@@ -30,8 +30,9 @@ Endpoint Device(const Pty& pty) {
 class SerialPortLineErrors : public SerialPortQtTest {
  protected:
   SerialPortLineErrors()
-      : m_counting(Device(m_pty), m_clock,
-                   [this](const QSerialPort&) { return std::make_unique<HandCounters>(m_counts); }),
+      : m_counting(
+            Device(m_pty), m_clock, [](std::string_view /*line*/) { return true; },
+            [this](const QSerialPort&) { return std::make_unique<HandCounters>(m_counts); }),
         m_listener(m_counting) {
     m_counting.CommPort(1);
   }

@@ -15,6 +15,7 @@
 #include <string>
 
 #include "app/PortMakerQt.h"
+#include "platform/PortNames.h"
 #include "platform/SystemClock.h"
 #include "tests/support/PortOwner.h"
 #include "tests/support/Pty.h"
