@@ -15,6 +15,20 @@ QComboBox* NewSources(const char* name, const char* first, const char* second, Q
   return box;
 }
 
+/// A choice among the names of a rule.
+QComboBox* NewRule(const char* name, const char* hint, const QStringList& names, QWidget* parent) {
+  auto* box = new QComboBox(parent);
+  NameControl(*box, name, hint);
+  box->addItems(names);
+  return box;
+}
+
+QCheckBox* NewSwitch(const char* name, const char* caption, const char* hint, QWidget* parent) {
+  auto* box = new QCheckBox(QLatin1String(caption), parent);
+  NameControl(*box, name, hint);
+  return box;
+}
+
 }  // namespace
 
 DataPageQt::DataPageQt(QWidget* parent)
@@ -26,6 +40,18 @@ DataPageQt::DataPageQt(QWidget* parent)
                                                     "Wind Indicator Average Time (sec, 0=none)", this)),
       txtNmeaTrueWindAverage(
           new OptionEntryQt("txtNmeaTrueWindAverage", "True Wind Average Time (sec, 0=none)", this)),
+      cmbNmeaChecksum(NewRule("cmbNmeaChecksum", "What becomes of a sentence without a checksum",
+                              {QStringLiteral("Accept missing"), QStringLiteral("Require")}, this)),
+      cmbNmeaInvalidStatus(NewRule("cmbNmeaInvalidStatus",
+                                   "What becomes of the values of an MWV, RMC or RMB with the status V",
+                                   {QStringLiteral("Use"), QStringLiteral("Ignore")}, this)),
+      cmbNmeaForeignLines(NewRule("cmbNmeaForeignLines",
+                                  "What a line is that begins with \"!\", as those of an AIS receiver",
+                                  {QStringLiteral("Error"), QStringLiteral("List")}, this)),
+      chkNmeaWindUnits(NewSwitch("chkNmeaWindUnits", "Wind U&nits: m/s, km/h and mph, too",
+                                 "Reads an MWV whose speed is not in knots", this)),
+      chkNmeaLowerCase(NewSwitch("chkNmeaLowerCase", "&Lower Case checksums, too",
+                                 "Reads a checksum in small letters", this)),
       lblSourceAdvice(new QLabel(this)),
       SentencePlace(new QWidget(this)) {
   NameControl(*lblSourceAdvice, "lblSourceAdvice", "What the chosen sources do not bring");
@@ -40,6 +66,11 @@ DataPageQt::DataPageQt(QWidget* parent)
   source(0, "True &Wind:", cmbNmeaTrueWind);
   source(1, "Boat &Heading:", cmbNmeaHeading);
   source(2, "&Boat Speed:", cmbNmeaBoatSpeed);
+  source(3, "Chec&ksum:", cmbNmeaChecksum);
+  source(4, "In&valid Status:", cmbNmeaInvalidStatus);
+  source(5, "&Foreign Lines:", cmbNmeaForeignLines);
+  rows->addWidget(chkNmeaWindUnits, 4, 3, 1, 4);
+  rows->addWidget(chkNmeaLowerCase, 5, 3, 1, 4);
   rows->setColumnMinimumWidth(2, kGroupGap);
   const auto average = [this, rows](int row, const char* group, const char* caption, OptionEntryQt* box) {
     rows->addWidget(NewText(group, this), row, 3, 1, 3);
@@ -68,6 +99,11 @@ void DataPageQt::Show(const OptionsForm& form) const {
   cmbNmeaTrueWind->setCurrentIndex(form.NmeaTrueWind);
   cmbNmeaHeading->setCurrentIndex(form.NmeaHeading);
   cmbNmeaBoatSpeed->setCurrentIndex(form.NmeaBoatSpeed);
+  cmbNmeaChecksum->setCurrentIndex(form.NmeaChecksum);
+  cmbNmeaInvalidStatus->setCurrentIndex(form.NmeaInvalidStatus);
+  cmbNmeaForeignLines->setCurrentIndex(form.NmeaForeignLines);
+  chkNmeaWindUnits->setChecked(form.NmeaWindUnits);
+  chkNmeaLowerCase->setChecked(form.NmeaLowerCase);
   ShowEntries(Entries(), form);
 }
 
@@ -84,7 +120,21 @@ void DataPageQt::Read(OptionsForm& form) const {
   form.NmeaTrueWind = std::max(0, cmbNmeaTrueWind->currentIndex());
   form.NmeaHeading = std::max(0, cmbNmeaHeading->currentIndex());
   form.NmeaBoatSpeed = std::max(0, cmbNmeaBoatSpeed->currentIndex());
+  form.NmeaChecksum = std::max(0, cmbNmeaChecksum->currentIndex());
+  form.NmeaInvalidStatus = std::max(0, cmbNmeaInvalidStatus->currentIndex());
+  form.NmeaForeignLines = std::max(0, cmbNmeaForeignLines->currentIndex());
+  form.NmeaWindUnits = chkNmeaWindUnits->isChecked();
+  form.NmeaLowerCase = chkNmeaLowerCase->isChecked();
   ReadEntries(Entries(), form);
+}
+
+void DataPageQt::Changed(const std::function<void(QWidget*)>& handler) const {
+  for (QComboBox* each : {cmbNmeaChecksum, cmbNmeaInvalidStatus, cmbNmeaForeignLines}) {
+    connect(each, &QComboBox::currentIndexChanged, each, [handler, each] { handler(each); });
+  }
+  for (QCheckBox* each : {chkNmeaWindUnits, chkNmeaLowerCase}) {
+    connect(each, &QCheckBox::toggled, each, [handler, each] { handler(each); });
+  }
 }
 
 }  // namespace veerwatch

@@ -1,9 +1,11 @@
-// The Data page of the options dialog: which source feeds what, and the averages. The list of the sentences
-// stands over the place that is left for it.
+// The Data page of the options dialog: which source feeds what, the averages, and what is asked of a line.
+// The list of the sentences stands over the place that is left for it.
 #pragma once
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,11 +23,19 @@ class DataPageQt final : public QWidget {
   /// Says what the chosen sources do not bring, a line each; nothing for none.
   void Advise(const std::vector<std::string>& lines) const;
 
+  /// Whom to tell when what is asked of a line changes, and by which control.
+  void Changed(const std::function<void(QWidget*)>& handler) const;
+
   QComboBox* cmbNmeaTrueWind;
   QComboBox* cmbNmeaHeading;
   QComboBox* cmbNmeaBoatSpeed;
   OptionEntryQt* txtNmeaWindIndicatorAverage;
   OptionEntryQt* txtNmeaTrueWindAverage;
+  QComboBox* cmbNmeaChecksum;
+  QComboBox* cmbNmeaInvalidStatus;
+  QComboBox* cmbNmeaForeignLines;
+  QCheckBox* chkNmeaWindUnits;
+  QCheckBox* chkNmeaLowerCase;
   QLabel* lblSourceAdvice;  ///< hidden while empty
   QWidget* SentencePlace;   ///< where the list of the sentences goes
 

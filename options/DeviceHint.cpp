@@ -18,10 +18,7 @@ bool IsDevice(std::string_view text) {
 std::string DeviceHint(const OptionsForm& form) {
   for (const std::string* text : {&form.NmeaPort, &form.PilotPort}) {
     if (IsDevice(*text)) {
-      return "Comm takes the number of a port. Close the program and name the device of port 1 in the "
-             "profile:\r"
-             "[Ports]\r1=" +
-             *text;
+      return "Comm takes the number of a port. Choose its device with \"Device...\" beside it.";
     }
   }
   return {};

@@ -16,6 +16,11 @@ OptionsForm OptionsFormOf(const Settings& settings) {
   for (std::size_t i = 0; i < kSentences.size(); ++i) {
     form.NmeaSentence[i] = settings.*kSentences[i].Enabled;
   }
+  form.NmeaChecksum = static_cast<int>(settings.m_eNmeaChecksum);
+  form.NmeaInvalidStatus = static_cast<int>(settings.m_eNmeaInvalidStatus);
+  form.NmeaForeignLines = static_cast<int>(settings.m_eNmeaForeignLines);
+  form.NmeaWindUnits = settings.m_bNmeaWindUnits;
+  form.NmeaLowerCase = settings.m_bNmeaLowerCase;
   form.NmeaPort = std::to_string(settings.m_iNmeaPort);
   form.PilotPort = std::to_string(settings.m_iPilotPort);
   form.Simulate = settings.m_bSimulate;

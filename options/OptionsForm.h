@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <string>
 
 #include "nmea/SentenceTable.h"
@@ -17,9 +18,16 @@ struct OptionsForm {
   std::array<bool, kSentences.size()> NmeaSentence{};  ///< in the order of kSentences
   std::string NmeaTrueWindAverage;
   std::string NmeaWindIndicatorAverage;
+  // What is asked of a line; the rules are indexes in their lists, as the enumerations.
+  int NmeaChecksum = 0;
+  int NmeaInvalidStatus = 0;
+  int NmeaForeignLines = 0;
+  bool NmeaWindUnits = false;
+  bool NmeaLowerCase = false;
 
   std::string NmeaPort;
   std::string PilotPort;
+  std::map<int, std::string> PortDevices;  ///< what was chosen for a port's number, and not stored yet
 
   // Simulate.
   bool Simulate = false;

@@ -4,6 +4,7 @@
 #include <cassert>
 
 #include "options/SimulateTimeText.h"
+#include "platform/PortNames.h"
 #include "settings/SettingsTable.h"
 
 namespace veerwatch {
@@ -70,6 +71,11 @@ OptionsStore::Fault OptionsStore::StoreData(const OptionsForm& form) {
     m_main.*kSentences[i].Enabled = form.NmeaSentence[i];
   }
   m_main.m_iNmeaTrueWind = Source(form.NmeaTrueWind);
+  m_main.m_eNmeaChecksum = static_cast<ChecksumRule>(form.NmeaChecksum);
+  m_main.m_eNmeaInvalidStatus = static_cast<InvalidRule>(form.NmeaInvalidStatus);
+  m_main.m_eNmeaForeignLines = static_cast<ForeignRule>(form.NmeaForeignLines);
+  m_main.m_bNmeaWindUnits = form.NmeaWindUnits;
+  m_main.m_bNmeaLowerCase = form.NmeaLowerCase;
   return StoreBoxes(OptionGroup::Data, form);
 }
 
@@ -79,14 +85,15 @@ OptionsStore::Fault OptionsStore::In(const char* box, std::optional<OptionFault>
 }
 
 OptionsStore::Fault OptionsStore::StoreInput(const OptionsForm& form) {
-  return In("Comm", StorePort(form.NmeaPort, m_ports.NmeaPortOpen(), m_main.m_iNmeaPort));
+  return In("Comm", StorePort(form, form.NmeaPort, m_ports.NmeaPortOpen(), m_main.m_iNmeaPort));
 }
 
 OptionsStore::Fault OptionsStore::StoreOutput(const OptionsForm& form) {
-  return In("Comm", StorePort(form.PilotPort, m_ports.PilotPortOpen(), m_main.m_iPilotPort));
+  return In("Comm", StorePort(form, form.PilotPort, m_ports.PilotPortOpen(), m_main.m_iPilotPort));
 }
 
-std::optional<OptionFault> OptionsStore::StorePort(const std::string& text, bool open, std::int16_t& port) {
+std::optional<OptionFault> OptionsStore::StorePort(const OptionsForm& form, const std::string& text,
+                                                   bool open, std::int16_t& port) {
   const Converted<float> number = ToOptionSingle(text);
   if (const auto* fault = std::get_if<OptionFault>(&number)) {
     return *fault;
@@ -99,12 +106,19 @@ std::optional<OptionFault> OptionsStore::StorePort(const std::string& text, bool
   if (wanted < 1) {
     return OptionFault::InvalidValue;
   }
-  if (std::get<float>(number) != static_cast<float>(port) && open) {
+  const auto device = form.PortDevices.find(wanted);
+  const bool renamed = device != form.PortDevices.end() && device->second != PortDevice(m_profile, wanted);
+  const bool restarts = open && (renamed || std::get<float>(number) != static_cast<float>(port));
+  if (restarts) {
     m_main.TrackSetOff();
-    port = wanted;
-    m_main.TrackSetSetup();
   }
   port = wanted;
+  if (renamed) {
+    NamePort(m_profile, wanted, device->second);
+  }
+  if (restarts) {
+    m_main.TrackSetSetup();
+  }
   return std::nullopt;
 }
 

@@ -9,6 +9,7 @@
 #include "helm/MainWindowApi.h"
 #include "options/OptionNumber.h"
 #include "options/OptionsForm.h"
+#include "platform/Profile.h"
 
 namespace veerwatch {
 
@@ -24,15 +25,17 @@ class OptionsPorts {
 
 class OptionsStore {
  public:
-  /// Both outlive this.
-  OptionsStore(MainWindowApi& main, const OptionsPorts& ports) : m_main(main), m_ports(ports) {}
+  /// All outlive this.
+  OptionsStore(MainWindowApi& main, const OptionsPorts& ports, Profile& profile)
+      : m_main(main), m_ports(ports), m_profile(profile) {}
 
   /// Stores the groups "Data", "Input", "Output", "Simulate", "Tracking" and "Watch" in this order. Stops at
   /// the first text that cannot be stored and returns the message for it, with the name of its box, as "Input
   /// Options Problem Type mismatch: Comm"; what was stored before stays stored. Nothing when everything is
   /// stored. Refused are a port below 1, a bandwidth that is not above 0, a damping or an alarm limit below
   /// 0, and an average that is neither 0 nor above 0.5. A port is compared as a number, so "1.0" is port 1
-  /// and restarts nothing; a text that is no port restarts nothing either.
+  /// and restarts nothing; a text that is no port restarts nothing either. A device that was chosen for the
+  /// number of a port is named in the profile with it, and restarts the port when it is another than before.
   std::optional<std::string> Store(const OptionsForm& form);
 
  private:
@@ -52,11 +55,13 @@ class OptionsStore {
   Fault StoreWatch(const OptionsForm& form);
   static Fault In(const char* box, std::optional<OptionFault> fault);
   Fault StoreBoxes(OptionGroup group, const OptionsForm& form);
-  std::optional<OptionFault> StorePort(const std::string& text, bool open, std::int16_t& port);
+  std::optional<OptionFault> StorePort(const OptionsForm& form, const std::string& text, bool open,
+                                       std::int16_t& port);
   std::optional<OptionFault> StoreTime(const std::string& text);
 
   MainWindowApi& m_main;
   const OptionsPorts& m_ports;
+  Profile& m_profile;
 };
 
 }  // namespace veerwatch

@@ -40,6 +40,8 @@ QHBoxLayout* OptionRow(const std::array<QRadioButton*, 2>& options, QWidget* par
 const PortPageTexts& InputPageTexts() {
   static constexpr PortPageTexts kTexts{
       {"txtNmeaPort", "Input Comm Port"},
+      {"cmdNmeaDevice", "Choose the device or the endpoint that the Input Comm Port leads to"},
+      {"lblNmeaDevice", "Where the Input Comm Port leads"},
       {"lblNmeaStatus", "Input Comm Status"},
       {"lblNmeaReason", "Why the Input Comm Port is not open"},
       {"optNmeaListOff", "Input Display Comm Data - Off"},
@@ -59,6 +61,8 @@ const PortPageTexts& OutputPageTexts() {
   // Deliberate: "OptPilotListOff" begins with a capital letter.
   static constexpr PortPageTexts kTexts{
       {"txtPilotPort", "Output Comm Port"},
+      {"cmdPilotDevice", "Choose the device or the endpoint that the Output Comm Port leads to"},
+      {"lblPilotDevice", "Where the Output Comm Port leads"},
       {"lblPilotStatus", "Output Comm Status"},
       {"lblPilotReason", "Why the Output Comm Port is not open"},
       {"OptPilotListOff", "Output Display Comm Data - Off"},
@@ -72,6 +76,8 @@ const PortPageTexts& OutputPageTexts() {
 PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
     : QWidget(parent),
       Port(new OptionEntryQt(texts.Port.Name, texts.Port.Hint, this)),
+      Choose(new QPushButton(QStringLiteral("De&vice..."), this)),
+      Device(new QLabel(this)),
       Status(new QLabel(this)),
       Reason(new QLabel(this)),
       ListOff(NewOption("Of&f", texts.ListOff, this)),
@@ -79,6 +85,11 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
       Pause(new QCheckBox(QStringLiteral("Pa&use"), this)),
       Copy(new QPushButton(QStringLiteral("Cop&y All"), this)),
       List(new LiveListQt(texts.List.Name, texts.List.Hint, this)) {
+  NameControl(*Choose, texts.Choose.Name, texts.Choose.Hint);
+  Choose->setAutoDefault(false);
+  NameText(*Device, texts.Device);
+  // A long name ends at the edge of the page; the tool tip has all of it.
+  Device->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   NameText(*Status, texts.Status);
   NameText(*Reason, texts.Reason);
   Reason->setWordWrap(true);
@@ -86,6 +97,7 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
 
   auto* port = new QHBoxLayout;
   port->addWidget(Port);
+  port->addWidget(Choose);
   port->addSpacing(kGroupGap / 2);
   port->addWidget(Status);
   port->addSpacing(kGroupGap / 2);
@@ -95,16 +107,18 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
   rows->setColumnStretch(1, 1);
   rows->addWidget(NewCaption("&Comm:", Port, this), 0, 0);
   rows->addLayout(port, 0, 1);
-  rows->addWidget(NewText("Display:", this), 1, 0);
+  rows->addWidget(NewText("Leads to:", this), 1, 0);
+  rows->addWidget(Device, 1, 1);
+  rows->addWidget(NewText("Display:", this), 2, 0);
   auto* display = OptionRow({ListOff, ListOn}, this);
   // In front of the room at the end of the row.
   display->insertSpacing(display->count() - 1, kGroupGap);
   display->insertWidget(display->count() - 1, Pause);
   display->addWidget(Copy);
-  rows->addLayout(display, 1, 1);
+  rows->addLayout(display, 2, 1);
   if (texts.Format[0].Name != nullptr) {
-    rows->addWidget(NewText("Format:", this), 2, 0);
-    rows->addLayout(FormatRow(texts), 2, 1);
+    rows->addWidget(NewText("Format:", this), 3, 0);
+    rows->addLayout(FormatRow(texts), 3, 1);
   }
   NameControl(*Pause, texts.Pause.Name, texts.Pause.Hint);
   NameControl(*Copy, texts.Copy.Name, texts.Copy.Hint);
@@ -130,6 +144,13 @@ QLayout* PortPageQt::FormatRow(const PortPageTexts& texts) {
   connect(Type, &QComboBox::activated, this,
           [this](int index) { List->Type(index > 0 ? Type->itemText(index).toStdString() : std::string()); });
   return row;
+}
+
+void PortPageQt::Leads(const std::string& endpoints) const {
+  const QString text = QString::fromStdString(endpoints);
+  Device->setText(text);
+  Device->setToolTip(text);
+  Choose->setEnabled(!text.isEmpty());
 }
 
 void PortPageQt::Explain(const std::string& reason) const {

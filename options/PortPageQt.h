@@ -22,6 +22,8 @@ struct PortPageTexts {
     const char* Hint;
   };
   Control Port;
+  Control Choose;
+  Control Device;
   Control Status;
   Control Reason;
   Control ListOff;
@@ -46,7 +48,12 @@ class PortPageQt final : public QWidget {
   /// Says beside the status why the port is not open; "" for nothing.
   void Explain(const std::string& reason) const;
 
+  /// Says where the port leads; "" for nowhere, which cannot be chosen for either.
+  void Leads(const std::string& endpoints) const;
+
   OptionEntryQt* Port;
+  QPushButton* Choose;  ///< asks for the device of the port
+  QLabel* Device;       ///< where the port leads
   QLabel* Status;
   QLabel* Reason;  ///< hidden while empty
   QRadioButton* ListOff;

@@ -8,11 +8,13 @@
 #include <initializer_list>
 
 #include "draw/WindowPlaceQt.h"
+#include "options/DeviceDialogQt.h"
 #include "options/DeviceHint.h"
 #include "options/LoopDiagramQt.h"
 #include "options/SimulateTimeText.h"
 #include "options/TrackInUseText.h"
 #include "platform/NumberText.h"
+#include "platform/PortNames.h"
 
 namespace veerwatch {
 
@@ -36,7 +38,7 @@ QString Text(std::string_view text) {
 frmOptions::frmOptions(const Parts& parts)
     : m_parts(parts),
       m_asks(parts.Asks.Of(*this)),
-      m_store(parts.Main, parts.Ports),
+      m_store(parts.Main, parts.Ports, parts.Store),
       SSTab(new QTabWidget(this)) {
   setObjectName(QStringLiteral("frmOptions"));
   setWindowTitle(QStringLiteral("Veerwatch - Options"));
@@ -80,6 +82,10 @@ void frmOptions::MakeTabs() {
   SSTab->addTab(new OptionPageQt(m_simulate, SSTab), QStringLiteral("&Simulate"));
   SSTab->addTab(new LoopDiagramQt(SSTab), QStringLiteral("Dia&gram"));
   SSTab->addTab(new OptionPageQt(m_watch, SSTab), QStringLiteral("&Watch"));
+  for (PortPageQt* page : {m_input, m_output}) {
+    connect(page->Port, &QLineEdit::textChanged, this, [this] { ShowDevices(); });
+    connect(page->Choose, &QPushButton::clicked, this, [this, page] { ChooseDevice(*page); });
+  }
   for (QRadioButton* option : m_input->Format) {
     connect(option, &QRadioButton::clicked, this, [this] { m_input->List->Clear(); });
     connect(option, &QRadioButton::toggled, this, [this] { m_input->List->Clear(); });
@@ -88,7 +94,7 @@ void frmOptions::MakeTabs() {
   lstNmeaSentence->hide();
   m_data->SentencePlace->setMinimumSize(lstNmeaSentence->minimumSizeHint());
   m_data->SentencePlace->installEventFilter(this);
-  setTabOrder(m_data->txtNmeaTrueWindAverage, lstNmeaSentence);
+  setTabOrder(m_data->chkNmeaLowerCase, lstNmeaSentence);
 }
 
 void frmOptions::MakeButtons() {
@@ -123,6 +129,7 @@ void frmOptions::ConnectMarks() {
   connect(m_track->cmbTrackMethod, &QComboBox::currentIndexChanged, this,
           [this] { Mark(m_track->cmbTrackMethod); });
   connect(m_simulate->chkSimulate, &QCheckBox::toggled, this, [this] { Mark(m_simulate->chkSimulate); });
+  m_data->Changed([this](QWidget* control) { Mark(control); });
   m_watch->Changed([this](QWidget* control) { Mark(control); });
   lstNmeaSentence->Changed([this] { Mark(lstNmeaSentence); });
 }
@@ -260,6 +267,55 @@ void frmOptions::ShowHelm() {
   OnTrackMode(now.Mode);
 }
 
+// Where the ports lead
+
+int frmOptions::NumberIn(const PortPageQt& page) {
+  const Converted<float> number = ToOptionSingle(page.Port->text().toStdString());
+  const auto* single = std::get_if<float>(&number);
+  const Converted<std::int16_t> whole =
+      single != nullptr ? ToOptionInteger(*single) : Converted<std::int16_t>(OptionFault::TypeMismatch);
+  const auto* port = std::get_if<std::int16_t>(&whole);
+  return port != nullptr && *port > 0 ? *port : 0;
+}
+
+void frmOptions::ShowDevices() const {
+  for (const PortPageQt* page : {m_input, m_output}) {
+    const int number = NumberIn(*page);
+    const auto chosen = m_devices.find(number);
+    page->Leads(chosen != m_devices.end() ? chosen->second
+                : number > 0              ? PortDevice(m_parts.Store, number)
+                                          : std::string());
+  }
+}
+
+void frmOptions::ChooseDevice(PortPageQt& page) {
+  const int number = NumberIn(page);
+  // What was chosen and not applied counts as named.
+  std::map<int, std::string> named = m_devices;
+  for (const PortEntry& entry : PortEntries(m_parts.Store)) {
+    named.emplace(entry.Number, entry.Endpoints);
+  }
+  std::vector<PortEntry> entries;
+  for (const auto& [port, endpoints] : named) {
+    entries.push_back({port, endpoints});
+  }
+  const bool both = NumberIn(*m_input) == NumberIn(*m_output);
+  const char* way = both ? "input and output" : (&page == m_input ? "input" : "output");
+  const DeviceChoices choices(std::move(entries), DeviceIsThere);
+  const auto taken = [this, &page, number, choices](const std::string& text) {
+    const DevicePick pick = choices.PickFor(text, number);
+    if (!pick.IsNamed) {
+      m_devices[pick.Number] = pick.Endpoints;
+    }
+    page.Port->setText(QString::number(pick.Number));
+    ShowDevices();
+    ApplyBold(true);
+  };
+  DeviceDialogQt::Open({"Port " + std::to_string(number) + ", " + way + ":",
+                        page.Device->text().toStdString(), choices, m_parts.Finder},
+                       this, taken);
+}
+
 // Settings to controls and back
 
 OptionsForm frmOptions::Form() const {
@@ -268,6 +324,7 @@ OptionsForm frmOptions::Form() const {
   lstNmeaSentence->Read(form);
   form.NmeaPort = m_input->Port->text().toStdString();
   form.PilotPort = m_output->Port->text().toStdString();
+  form.PortDevices = m_devices;
   m_simulate->Read(form);
   m_track->Read(form);
   m_watch->Read(form);
@@ -280,6 +337,8 @@ void frmOptions::OptionsReload() {
   lstNmeaSentence->Show(form);
   m_input->Port->Show(QString::fromStdString(form.NmeaPort));
   m_output->Port->Show(QString::fromStdString(form.PilotPort));
+  m_devices.clear();
+  ShowDevices();
   m_input->List->Clear();
   m_output->List->Clear();
   m_simulate->Show(form);
@@ -303,6 +362,8 @@ bool frmOptions::OptionsApply() {
       box->Take();
     }
   }
+  m_devices.clear();
+  ShowDevices();
   ApplyBold(false);
   return true;
 }

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string_view>
@@ -23,6 +24,8 @@
 #include "options/TrackPageQt.h"
 #include "options/WatchPageQt.h"
 #include "platform/Dialogs.h"
+#include "platform/PortFinder.h"
+#include "platform/Profile.h"
 #include "platform/Random.h"
 
 namespace veerwatch {
@@ -36,6 +39,8 @@ class frmOptions final : public QDialog, private HelmObserver {
     Dialogs& Asks;
     RandomSource& Random;
     const WindRecorder& Recorded;
+    Profile& Store;
+    const PortFinder* Finder;  ///< null for none
   };
 
   enum Tab { Input = 0, Data = 1, Output = 2, Tracking = 3, Simulate = 4, Diagram = 5, Watch = 6 };
@@ -92,6 +97,13 @@ class frmOptions final : public QDialog, private HelmObserver {
   /// Shows what was told before the dialog was there.
   void ShowHelm();
 
+  /// The number of a port as it is typed; 0 for none.
+  static int NumberIn(const PortPageQt& page);
+  /// Says on both pages where the ports lead, with what was chosen and not applied.
+  void ShowDevices() const;
+  /// Asks for the device of the port of a page.
+  void ChooseDevice(PortPageQt& page);
+
   OptionsForm Form() const;
   bool OptionsApply();
   void SimulateWaypointShow();
@@ -121,6 +133,7 @@ class frmOptions final : public QDialog, private HelmObserver {
   QPushButton* cmdOk;
   QPushButton* cmdCancel;
   QPushButton* cmdApply;
+  std::map<int, std::string> m_devices;  ///< chosen for a port's number, and not applied
   std::function<void()> m_closed;
   std::string m_line;  ///< as it is listed
   HelmObservers::Membership m_told;

@@ -13,12 +13,10 @@ std::string HintFor(const std::string& nmea, const std::string& pilot) {
 }
 
 TEST(DeviceHint, SaysHowToNameADevice) {
-  const std::string hint =
-      "Comm takes the number of a port. Close the program and name the device of port 1 in the profile:\r"
-      "[Ports]\r1=";
-  EXPECT_EQ(HintFor("/dev/ttyUSB0", "5"), hint + "/dev/ttyUSB0");
-  EXPECT_EQ(HintFor("5", "ttyS3"), hint + "ttyS3");
-  EXPECT_EQ(HintFor("COM3", "5"), hint + "COM3");
+  const std::string hint = "Comm takes the number of a port. Choose its device with \"Device...\" beside it.";
+  EXPECT_EQ(HintFor("/dev/ttyUSB0", "5"), hint);
+  EXPECT_EQ(HintFor("5", "ttyS3"), hint);
+  EXPECT_EQ(HintFor("COM3", "5"), hint);
 }
 
 TEST(DeviceHint, IsSilentForAnythingElse) {

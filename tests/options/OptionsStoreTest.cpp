@@ -25,6 +25,8 @@ OptionsForm OtherForm() {
   form.NmeaBoatSpeed = 0;
   form.NmeaTrueWindAverage = "3.5";
   form.NmeaWindIndicatorAverage = "30";
+  form.NmeaChecksum = form.NmeaInvalidStatus = form.NmeaForeignLines = 1;
+  form.NmeaWindUnits = form.NmeaLowerCase = true;
   form.NmeaPort = "7";
   form.PilotPort = "8";
   form.Simulate = true;
@@ -61,7 +63,8 @@ class OptionsStoring : public testing::Test {
  public:
   FakeMainWindow Main;
   SetPorts Ports;
-  OptionsStore Store{Main, Ports};
+  Profile Ini;
+  OptionsStore Store{Main, Ports, Ini};
 
   bool DataStored() const {
     return Main.m_iNmeaTrueWind == 0 && Main.m_iNmeaHeading == 0 && Main.m_iNmeaBoatSpeed == 0 &&
@@ -98,6 +101,31 @@ TEST_F(OptionsStoring, StoresTheWatchAndShowsItAgain) {
   EXPECT_EQ(form.WatchSound, 1);
   EXPECT_EQ(form.WatchCommand, "/usr/bin/buzz --loud");
   EXPECT_EQ(form.WatchStaleWaypoint, "8");
+}
+
+TEST_F(OptionsStoring, StoresWhatIsAskedOfALineAndShowsItAgain) {
+  ASSERT_EQ(Store.Store(OtherForm()), std::nullopt);
+  EXPECT_EQ(Main.m_eNmeaChecksum, ChecksumRule::Require);
+  EXPECT_EQ(Main.m_eNmeaInvalidStatus, InvalidRule::Ignore);
+  EXPECT_EQ(Main.m_eNmeaForeignLines, ForeignRule::List);
+  EXPECT_TRUE(Main.m_bNmeaWindUnits && Main.m_bNmeaLowerCase);
+  const OptionsForm form = OptionsFormOf(Main);
+  EXPECT_EQ(form.NmeaChecksum, 1);
+  EXPECT_EQ(form.NmeaInvalidStatus, 1);
+  EXPECT_EQ(form.NmeaForeignLines, 1);
+  EXPECT_TRUE(form.NmeaWindUnits && form.NmeaLowerCase);
+}
+
+TEST_F(OptionsStoring, EachRuleOfALineGoesToItsOwnSetting) {
+  OptionsForm form = OptionsFormOf(Main);
+  form.NmeaWindUnits = true;
+  form.NmeaInvalidStatus = 1;
+  ASSERT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_TRUE(Main.m_bNmeaWindUnits);
+  EXPECT_FALSE(Main.m_bNmeaLowerCase);
+  EXPECT_EQ(Main.m_eNmeaChecksum, ChecksumRule::AcceptMissing);
+  EXPECT_EQ(Main.m_eNmeaInvalidStatus, InvalidRule::Ignore);
+  EXPECT_EQ(Main.m_eNmeaForeignLines, ForeignRule::Error);
 }
 
 TEST_F(OptionsStoring, StoresEverySetting) {
@@ -281,7 +309,7 @@ TEST_F(OptionsStoring, StoresTheTextsInTheirOrderUpToTheOneThatFails) {
     OptionsForm form = OtherForm();
     // As long as a box takes it, and no number.
     form.*spoilt.Text = std::string(100000, '9').append(":x");
-    EXPECT_EQ(OptionsStore(main, Ports).Store(form),
+    EXPECT_EQ(OptionsStore(main, Ports, Ini).Store(form),
               std::string(spoilt.Group) + " Options Problem " +
                   (spoilt.Text == &OptionsForm::SimulateTime ? "Overflow: " : "Type mismatch: ") +
                   spoilt.Box);

@@ -360,13 +360,14 @@ TEST_F(OptionsDialog, TheTabKeyReachesEverythingInOrder) {
   Start(frmOptions::Data);
   Find<QWidget>("cmbNmeaTrueWind").setFocus();
   std::vector<std::string> reached;
-  for (int i = 0; i < 9; ++i) {
+  for (int i = 0; i < 14; ++i) {
     reached.push_back(QApplication::focusWidget()->objectName().toStdString());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
   }
   EXPECT_THAT(reached, ElementsAre("cmbNmeaTrueWind", "cmbNmeaHeading", "cmbNmeaBoatSpeed",
-                                   "txtNmeaWindIndicatorAverage", "txtNmeaTrueWindAverage", "lstNmeaSentence",
-                                   "cmdOk", "cmdCancel", "cmdApply"));
+                                   "txtNmeaWindIndicatorAverage", "txtNmeaTrueWindAverage", "cmbNmeaChecksum",
+                                   "cmbNmeaInvalidStatus", "cmbNmeaForeignLines", "chkNmeaWindUnits",
+                                   "chkNmeaLowerCase", "lstNmeaSentence", "cmdOk", "cmdCancel", "cmdApply"));
 }
 
 }  // namespace

@@ -132,7 +132,8 @@ TEST_F(OptionsHostile, AFailedAutoApplyTellsAndKeepsTheTexts) {
 class OptionsMessages : public OptionsHostile {
  public:
   OptionsMessages() {
-    Window = std::make_unique<frmOptions>(frmOptions::Parts{Main, Ports, m_real, Random, Recorded});
+    Window = std::make_unique<frmOptions>(
+        frmOptions::Parts{Main, Ports, m_real, Random, Recorded, Store, &Finder});
     Show(frmOptions::Tracking);
     Type("txtTrackBandwidth", "x");
     Click("cmdApply");
