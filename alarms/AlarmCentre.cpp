@@ -31,6 +31,10 @@ AlarmEntry NoticeEntry(AlarmKind kind, const std::string& text) {
       entry.Does = "Tells it";
       entry.Remedy = "Options > Data: choose the source that is there";
       break;
+    case AlarmKind::Record:
+      entry.Does = "Records no more, and goes on with everything else";
+      entry.Remedy = "Make room on the disk, then File > Record Input...";
+      break;
   }
   return entry;
 }

@@ -21,6 +21,7 @@ enum class AlarmKind {
   Save,     ///< the settings could not be saved
   Profile,  ///< the profile could not be read
   Source,   ///< a source of data that brings nothing
+  Record,   ///< a recording that has ended by itself
 };
 
 /// One line of the list.

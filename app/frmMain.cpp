@@ -72,7 +72,9 @@ frmMain::frmMain(const MainWindowParts& parts)
       m_helm(*this, parts.MSCommNmea, parts.MSCommPilot, parts.tmrNmea, parts.Time, parts.Random),
       m_told(m_helm.Observers().Join(*this)),
       m_others(m_parts, m_menu, *this, this),
-      m_alarms(m_parts, m_menu, *this, *m_panel->Banner, *this) {
+      m_alarms(m_parts, m_menu, *this, *m_panel->Banner, *this),
+      m_recording(m_parts, m_menu, m_helm.Observers(), *m_asks, *statusBar(),
+                  [this](const std::string& text) { NoticeSet(AlarmKind::Record, text); }) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(QString::fromLatin1(kApplicationTitle));
   setWindowIcon(ProgramIcon());
@@ -101,12 +103,11 @@ frmMain::frmMain(const MainWindowParts& parts)
 }
 
 void frmMain::MakeStatusBar() {
-  auto* bar = new QStatusBar(this);
+  QStatusBar* bar = statusBar();
   bar->setObjectName(QStringLiteral("StatusBar"));
   // The frame is grip enough; the bar's own keeps its colours at night.
   bar->setSizeGripEnabled(false);
-  bar->addWidget(m_status, 1);
-  setStatusBar(bar);
+  bar->insertWidget(0, m_status, 1);
 }
 
 void frmMain::ConnectControls() {
@@ -205,6 +206,7 @@ void frmMain::resizeEvent(QResizeEvent* event) {
   const int status = std::max(kLeastStatusTextHeight,
                               static_cast<int>(std::lround(kStatusTextHeight * WindowScale(size()))));
   m_status->TextHeight(status);
+  m_recording.TextHeight(status);
 }
 
 void frmMain::changeEvent(QEvent* event) {

@@ -16,6 +16,7 @@
 #include "app/InstrumentPanelQt.h"
 #include "app/MainWindowParts.h"
 #include "app/OtherWindowsQt.h"
+#include "app/RecordingQt.h"
 #include "app/SaveWatch.h"
 #include "app/SentAge.h"
 #include "app/StatusPanelsQt.h"
@@ -161,6 +162,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   HelmObservers::Membership m_told;
   OtherWindowsQt m_others;
   AlarmDeskQt m_alarms;
+  RecordingQt m_recording;
   bool m_ask = true;            ///< a close still has to ask
   QString m_instead;            ///< shown in place of the mode: why Track was refused, or a turn has ended
   QTimer m_insteadTimer{this};  ///< ends what is said about a turn

@@ -47,6 +47,8 @@ QAction* Command(QMainWindow& window, QMenu* menu, const char* name, const char*
 frmMainMenu::frmMainMenu(QMainWindow& window) {
   QMenu* file = window.menuBar()->addMenu(QStringLiteral("&File"));
   mnuFileDefault = Command(window, file, "mnuFileDefault", "&Default");
+  mnuFileRecord = Command(window, file, "mnuFileRecord", "&Record Input...");
+  mnuFileRecord->setCheckable(true);
   file->addSeparator();
   mnuFileExit = Command(window, file, "mnuFileExit", "E&xit");
   mnuFileExit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));

@@ -14,6 +14,7 @@ namespace veerwatch {
 /// The menu's commands.
 struct frmMainMenu {
   QAction* mnuFileDefault;
+  QAction* mnuFileRecord;
   QAction* mnuFileExit;
   QAction* mnuViewDiagram;
   QAction* mnuViewHistory;

@@ -160,4 +160,26 @@ std::optional<std::int64_t> TakeLineTime(std::string& line) {
   return time.count();
 }
 
+void AppendLineTime(std::int64_t wall, std::string& text) {
+  const std::chrono::sys_time<std::chrono::milliseconds> time{std::chrono::milliseconds(wall)};
+  const auto day = std::chrono::floor<std::chrono::days>(time);
+  const std::chrono::year_month_day date(day);
+  const std::chrono::hh_mm_ss clock(time - day);
+  const auto append = [&text](std::int64_t number, int digits, char after) {
+    const std::size_t at = text.size();
+    text.append(static_cast<std::size_t>(digits), '0');
+    for (int i = digits; i > 0; --i, number /= 10) {
+      text[at + static_cast<std::size_t>(i) - 1] = static_cast<char>('0' + number % 10);
+    }
+    text.append(1, after);
+  };
+  append(static_cast<int>(date.year()), 4, '-');
+  append(static_cast<unsigned>(date.month()), 2, '-');
+  append(static_cast<unsigned>(date.day()), 2, 'T');
+  append(clock.hours().count(), 2, ':');
+  append(clock.minutes().count(), 2, ':');
+  append(clock.seconds().count(), 2, '.');
+  append(clock.subseconds().count(), 3, 'Z');
+}
+
 }  // namespace veerwatch

@@ -21,4 +21,8 @@ namespace veerwatch {
 ///              seconds since 1970, or milliseconds where there are twelve digits and more
 std::optional<std::int64_t> TakeLineTime(std::string& line);
 
+/// Appends the first of these forms, with three digits of a second, to `text`. `wall` [ms since 1970 UTC]
+/// lies in the years 0 to 9999.
+void AppendLineTime(std::int64_t wall, std::string& text);
+
 }  // namespace veerwatch

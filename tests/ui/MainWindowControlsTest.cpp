@@ -42,12 +42,19 @@ TEST_F(MainWindowControls, CarryTheirNamesAndCaptions) {
 TEST_F(MainWindowControls, OfferEveryCommand) {
   Start(kOnPorts);
   const std::vector<std::pair<const char*, const char*>> commands{
-      {"mnuFileDefault", "Default"},          {"mnuFileExit", "Exit"},
-      {"mnuViewDiagram", "Block Diagram..."}, {"mnuViewHistory", "History Plot..."},
-      {"mnuViewPolar", "Polar Plot..."},      {"mnuOptionsInput", "Input..."},
-      {"mnuOptionsData", "Data..."},          {"mnuOptionsOutput", "Output..."},
-      {"mnuOptionsTrack", "Tracking..."},     {"mnuOptionsSimulate", "Simulate..."},
-      {"mnuHelpDiagram", "Block Diagram..."}, {"mnuHelpAbout", "About..."},
+      {"mnuFileDefault", "Default"},
+      {"mnuFileRecord", "Record Input..."},
+      {"mnuFileExit", "Exit"},
+      {"mnuViewDiagram", "Block Diagram..."},
+      {"mnuViewHistory", "History Plot..."},
+      {"mnuViewPolar", "Polar Plot..."},
+      {"mnuOptionsInput", "Input..."},
+      {"mnuOptionsData", "Data..."},
+      {"mnuOptionsOutput", "Output..."},
+      {"mnuOptionsTrack", "Tracking..."},
+      {"mnuOptionsSimulate", "Simulate..."},
+      {"mnuHelpDiagram", "Block Diagram..."},
+      {"mnuHelpAbout", "About..."},
   };
   for (const auto& [name, text] : commands) {
     QAction& action = Find<QAction>(name);
