@@ -102,6 +102,11 @@ frmMain::frmMain(const MainWindowParts& parts)
   });
 }
 
+frmMain::~frmMain() {
+  // A box that loses the keyboard hands in what was typed: while there is somebody to take it.
+  hide();
+}
+
 void frmMain::MakeStatusBar() {
   QStatusBar* bar = statusBar();
   bar->setObjectName(QStringLiteral("StatusBar"));

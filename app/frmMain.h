@@ -30,6 +30,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
  public:
   /// Makes the window and touches no port.
   explicit frmMain(const MainWindowParts& parts);
+  ~frmMain() override;
 
   /// Reads the profile and goes to Setup, or to Manual when simulating. Once, before the window is shown.
   void Form_Load();
