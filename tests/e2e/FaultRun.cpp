@@ -86,8 +86,7 @@ void FaultRun::PlugOutput() {
   Link("out", *m_out);
 }
 
-void FaultRun::PilotStopsReading() {
-  m_pilotReads = false;
+void FaultRun::FillTheLine() const {
   const int line = ::open(m_out->Device().c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
   for (std::string part(64, 'x'); !part.empty();) {
     const ssize_t written = ::write(line, part.data(), part.size());
@@ -130,6 +129,10 @@ void FaultRun::Turn() {
     m_asked = Seconds();
   }
   Sail();
+  if (!m_pilotReads) {
+    // The kernel moves what it holds in steps, so that room shows up again.
+    FillTheLine();
+  }
   HearPilot();
   Look();
   const double passed = Seconds() - m_phaseAt;

@@ -70,7 +70,7 @@ class FaultRun {
   void PlugInput();
   void PlugOutput();
   /// Nobody reads what the pilot is sent, and its line is full; somebody reads again, what is new.
-  void PilotStopsReading();
+  void PilotStopsReading() { m_pilotReads = false; }
   void PilotReadsAgain();
   /// Whatever else arrives, beside the instruments.
   void Arrives(std::string_view bytes) const { m_in->Write(bytes); }
@@ -106,6 +106,7 @@ class FaultRun {
 
   double Seconds() const;
   void Next(Phase phase);
+  void FillTheLine() const;
   void Sail();
   void Hear();
   void HearPilot();

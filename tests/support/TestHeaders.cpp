@@ -1,0 +1,1 @@
+// Nothing of its own: the target that reads the tests' common headers needs a source.
