@@ -67,7 +67,7 @@ std::string InputRecorder::Open(const std::filesystem::path& file, std::int64_t 
   errno = 0;
   m_stream.open(file, std::ios::binary | std::ios::trunc);
   if (!m_stream) {
-    const std::string why = CannotWrite(file, SystemText());
+    std::string why = CannotWrite(file, SystemText());
     m_stream = std::ofstream();
     return why;
   }
@@ -85,7 +85,7 @@ std::string InputRecorder::Stop() {
   }
   errno = 0;
   m_stream.close();
-  const std::string why = m_stream ? std::string() : CannotWrite(m_file, SystemText());
+  std::string why = m_stream ? std::string() : CannotWrite(m_file, SystemText());
   m_stream = std::ofstream();
   return why;
 }

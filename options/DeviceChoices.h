@@ -52,7 +52,7 @@ class DeviceChoices {
   DevicePick PickFor(std::string_view text, int number) const;
 
  private:
-  std::string NumbersOf(std::string_view endpoints) const;
+  std::string NumbersOf(std::string_view device) const;
 
   std::vector<PortEntry> m_named;
   DeviceExists m_exists;
