@@ -296,6 +296,7 @@ void frmOptions::ChooseDevice(PortPageQt& page) {
     named.emplace(entry.Number, entry.Endpoints);
   }
   std::vector<PortEntry> entries;
+  entries.reserve(named.size());
   for (const auto& [port, endpoints] : named) {
     entries.push_back({port, endpoints});
   }
