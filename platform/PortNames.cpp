@@ -43,6 +43,7 @@ std::vector<PortEntry> PortEntries(const Profile& profile) {
     }
   }
   std::vector<PortEntry> entries;
+  entries.reserve(named.size());
   for (const auto& [number, endpoints] : named) {
     entries.push_back({number, endpoints});
   }
