@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,6 +27,7 @@ class MemoryPort final : public SerialPort {
   }
   void Output(std::string_view /*bundle*/) override { ++m_sent; }
   std::uint64_t Sent() const override { return m_sent; }
+  std::optional<int> BaudRate() const override { return 4800; }
   void Withdraw() override {}
   void PollLineErrors() override {}
 

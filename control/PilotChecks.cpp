@@ -36,11 +36,11 @@ void OutputCheck::Built(std::size_t bytes, std::int64_t moment) {
   }
 }
 
-void OutputCheck::Look(bool open, std::uint64_t left, std::int64_t moment) {
-  constexpr std::int64_t kPatience = 4000;        // [ms]
-  constexpr std::int64_t kWindow = 10000;         // [ms]
-  constexpr double kCharactersPerSecond = 480.0;  // at 4800 baud, 8N1
-  constexpr double kMillisecondsPerSecond = 1000.0;
+void OutputCheck::Look(bool open, std::uint64_t left, std::optional<int> baudRate, std::int64_t moment) {
+  constexpr std::int64_t kPatience = 4000;      // [ms]
+  constexpr std::int64_t kWindow = 10000;       // [ms]
+  constexpr std::int64_t kBits = 10;            // of a character, 8N1
+  constexpr std::int64_t kMilliseconds = 1000;  // of a second
   if (left != m_left) {
     m_left = left;
     m_waits.reset();
@@ -50,8 +50,7 @@ void OutputCheck::Look(bool open, std::uint64_t left, std::int64_t moment) {
     m_window = moment;
     m_bytes = 0;
   } else if (const std::int64_t passed = moment - *m_window; passed >= kWindow) {
-    m_full = static_cast<double>(m_bytes) * kMillisecondsPerSecond >
-             kCharactersPerSecond * static_cast<double>(passed);
+    m_full = baudRate && static_cast<std::int64_t>(m_bytes) * kBits * kMilliseconds > *baudRate * passed;
     m_window = moment;
     m_bytes = 0;
   }

@@ -30,12 +30,13 @@ class OutputCheck {
  public:
   /// A sentence of `bytes` characters was built at `moment` [ms of the steady clock].
   void Built(std::size_t bytes, std::int64_t moment);
-  /// The port at `moment`: whether it is open, and how many sentences have left in all.
-  void Look(bool open, std::uint64_t left, std::int64_t moment);
+  /// The port at `moment`: whether it is open, how many sentences have left in all, and what its line
+  /// carries [baud], nullopt where nothing bounds it.
+  void Look(bool open, std::uint64_t left, std::optional<int> baudRate, std::int64_t moment);
   void Forget() { *this = OutputCheck(); }
   /// The port is not open, or none has left for 4 s although some were built.
   bool Lost() const { return m_lost; }
-  /// More was built in ten seconds than a line of 4800 baud carries.
+  /// More was built in ten seconds than the line carries.
   bool Full() const { return m_full; }
 
  private:

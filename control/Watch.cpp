@@ -230,7 +230,7 @@ void Watch::LookAtPilot(const Around& around, const Moment& now) {
     m_output.Forget();
     return;
   }
-  m_output.Look(around.OutputOpen, around.Sent, now.Steady);
+  m_output.Look(around.OutputOpen, around.Sent, around.BaudRate, now.Steady);
   const bool compass = m_ages.At(Watched::Compass, now).Fresh();
   if (m_output.Lost() || (!compass && !m_ages.At(Watched::Heading, now).Fresh())) {
     m_follow.Forget();

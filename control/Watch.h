@@ -28,8 +28,9 @@ class Watch {
     std::optional<double> Winds;                 ///< wind sentences a second, where that is known
     bool InputStarted = false;
     bool OutputOpen = true;
-    bool Acts = false;       ///< the loop is held back
-    std::uint64_t Sent = 0;  ///< sentences that have left for the pilot
+    std::optional<int> BaudRate;  ///< of the pilot's line; nullopt where nothing bounds it
+    bool Acts = false;            ///< the loop is held back
+    std::uint64_t Sent = 0;       ///< sentences that have left for the pilot
   };
 
   /// Both outlive this.

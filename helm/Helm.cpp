@@ -210,6 +210,7 @@ void Helm::LookOut() {
   around.Winds = m_loop.WindsASecond();
   around.InputStarted = m_receiver.Started();
   around.OutputOpen = m_pilot.Open();
+  around.BaudRate = m_pilot.BaudRate();
   around.Sent = m_pilot.Sent();
   around.Acts = m_act.Acts();
   const Moment now = m_clock.Now();

@@ -103,7 +103,7 @@ std::string_view PilotOutput::PilotSend(float bearing) {
     return {};
   }
   BuildPilotSentence(bearing, m_sentence);
-  SerialPort& port = OwnPort() ? m_pilotPort : m_nmeaPort;
+  SerialPort& port = Carrier();
   m_sentence.append("\r\n");
   if (port.PortOpen()) {
     port.Output(m_sentence);
@@ -114,9 +114,7 @@ std::string_view PilotOutput::PilotSend(float bearing) {
   return std::string_view(m_sentence).substr(0, m_sentence.size() - 2);
 }
 
-bool PilotOutput::Open() const {
-  return m_settings.m_bSimulate || (OwnPort() ? m_pilotPort : m_nmeaPort).PortOpen();
-}
+bool PilotOutput::Open() const { return m_settings.m_bSimulate || Carrier().PortOpen(); }
 
 void PilotOutput::OnComm(int commEvent) {
   if (commEvent == CommEvent::kReceive) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -51,6 +52,9 @@ class PilotOutput final : public SerialPort::Events {
   /// The port that carries the sentences is open, or none is needed.
   bool Open() const;
 
+  /// What the line of that port carries; see SerialPort::BaudRate.
+  std::optional<int> BaudRate() const { return Carrier().BaudRate(); }
+
   /// Every event of the pilot port is shown on the output panel. Deliberate: characters that arrive are read
   /// off and dropped, and shown as "Receive Error".
   void OnComm(int commEvent) override;
@@ -58,6 +62,8 @@ class PilotOutput final : public SerialPort::Events {
 
  private:
   bool OwnPort() const { return m_settings.m_iNmeaPort != m_settings.m_iPilotPort; }
+  /// The port that carries the sentences.
+  SerialPort& Carrier() const { return OwnPort() ? m_pilotPort : m_nmeaPort; }
   void CloseUnneeded();
   void OpenPort();
   void Failure(std::string reason);

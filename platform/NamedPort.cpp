@@ -163,6 +163,17 @@ std::uint64_t NamedPort::Sent() const {
   return m_sentBefore + most;
 }
 
+std::optional<int> NamedPort::BaudRate() const {
+  std::optional<int> slowest;
+  for (const auto& branch : m_branches) {
+    const std::optional<int> rate = branch->Port().BaudRate();
+    if (rate && (!slowest || *rate < *slowest)) {
+      slowest = rate;
+    }
+  }
+  return slowest;
+}
+
 void NamedPort::Withdraw() {
   for (const auto& branch : m_branches) {
     branch->Port().Withdraw();

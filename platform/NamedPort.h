@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,6 +37,8 @@ class NamedPort final : public SerialPort {
   void Input(std::string& text) override;
   void Output(std::string_view bundle) override;
   std::uint64_t Sent() const override;
+  /// That of the slowest.
+  std::optional<int> BaudRate() const override;
   void Withdraw() override;
   void PollLineErrors() override;
 

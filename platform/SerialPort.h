@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -67,8 +68,8 @@ class SerialPort {
   virtual int CommPort() const = 0;
 
   virtual bool PortOpen() const = 0;
-  /// Opens (4800 baud, 8N1) or closes; true when the port then is as asked. Opening an open port, or closing
-  /// a closed one, changes nothing.
+  /// Opens (8N1 on a serial line) or closes; true when the port then is as asked. Opening an open port, or
+  /// closing a closed one, changes nothing.
   virtual bool PortOpen(bool open) = 0;
 
   /// Why the latest try to open has failed, in words for the user; "" where it has not, or where that is not
@@ -91,6 +92,10 @@ class SerialPort {
 
   /// How many bundles have gone to the device; one that waits, or was forgotten, is not among them.
   virtual std::uint64_t Sent() const = 0;
+
+  /// What the line carries, 10 bits a character [baud]; nullopt where nothing is known to bound it, as on a
+  /// socket. May change while the port is open, and is asked for whenever it is needed.
+  virtual std::optional<int> BaudRate() const { return std::nullopt; }
 
   /// Forgets a bundle that waits after one that has not left.
   virtual void Withdraw() = 0;

@@ -154,6 +154,10 @@ std::string SerialPortQt::Trouble() const {
   return m_device.Path + (Searching() ? ": searching the rate, now " : ": found ") + rate;
 }
 
+std::optional<int> SerialPortQt::BaudRate() const {
+  return m_device.Baud == 0 ? m_search.Rate() : m_device.Baud;
+}
+
 void SerialPortQt::Read(std::string& text, std::size_t most) {
   if (Searching()) {
     std::string arrived = m_port.read(kDriverRead).toStdString();

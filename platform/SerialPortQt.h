@@ -11,6 +11,7 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -38,6 +39,8 @@ class SerialPortQt final : public EndpointPort {
   void PollLineErrors() override;
   /// The rate that is searched, or was found.
   std::string Trouble() const override;
+  /// What the endpoint says, or the rate that is searched or was found.
+  std::optional<int> BaudRate() const override;
 
  private:
   bool OpenEndpoint(std::string& failure) override;

@@ -345,6 +345,21 @@ TEST_F(WatchedTrack, MoreWindsThanTheBandwidthTakesAreANote) {
   EXPECT_EQ(Latest().Find(Condition::ManyWinds)->Rank, Level::Note);
 }
 
+TEST_F(WatchedTrack, MoreThanThePilotsLineCarriesIsANote) {
+  Track(TrackSide::Apparent);
+  const auto quick = [this] {
+    for (int i = 0; i < 20; ++i) {
+      m_clock.Pass(50);
+      Receive(kApparent);
+    }
+  };
+  ASSERT_LT(Until(Condition::PilotLineFull, quick), 30);
+  EXPECT_EQ(Latest().Find(Condition::PilotLineFull)->Rank, Level::Note);
+  m_pilotPort.Rate = 38400;
+  Sail(11, quick);
+  EXPECT_EQ(Latest().Find(Condition::PilotLineFull), nullptr);
+}
+
 TEST_F(WatchedTrack, OfOneLevelTheNewerComesFirst) {
   m_settings.m_iNmeaTrueWind = 1;
   Track(TrackSide::True);

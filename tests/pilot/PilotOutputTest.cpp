@@ -317,6 +317,15 @@ TEST_F(PilotOutputTest, CountsWhatIsBuiltForTheSimulatedBoat) {
   EXPECT_TRUE(m_pilot.Open());
 }
 
+TEST_F(PilotOutputTest, SaysWhatTheLineOfItsSentencesCarries) {
+  m_nmeaPort.Rate = 38400;
+  EXPECT_EQ(m_pilot.BaudRate(), 4800);
+  m_pilotPort.Rate.reset();
+  EXPECT_EQ(m_pilot.BaudRate(), std::nullopt);
+  m_settings.m_iPilotPort = 5;
+  EXPECT_EQ(m_pilot.BaudRate(), 38400) << "one port for both ways";
+}
+
 TEST_F(PilotOutputTest, TellsEachSecondWhatAnOpenPortComplainsOf) {
   m_pilot.PilotStart();
   m_view.Take();

@@ -80,6 +80,17 @@ TEST_F(NamedPortTest, SendsToEach) {
   EXPECT_EQ(m_port.Sent(), 1U) << "one bundle, however many hear it";
 }
 
+TEST_F(NamedPortTest, CarriesWhatItsSlowestLineDoes) {
+  Name(1, "/dev/a, /dev/b, /dev/c");
+  EXPECT_EQ(m_port.BaudRate(), std::nullopt);
+  ASSERT_TRUE(m_port.PortOpen(true));
+  EXPECT_EQ(m_port.BaudRate(), std::nullopt);
+  At("/dev/b").Rate = 38400;
+  EXPECT_EQ(m_port.BaudRate(), 38400);
+  At("/dev/c").Rate = 4800;
+  EXPECT_EQ(m_port.BaudRate(), 4800);
+}
+
 TEST_F(NamedPortTest, IsOpenWhileOneOfSeveralIs) {
   Name(1, "/dev/a, /dev/b");
   m_failures["/dev/b"] = "/dev/b: no such device";

@@ -30,6 +30,7 @@ class MemoryEndpoint final : public EndpointPort {
   bool Holds = false;               ///< what it takes stays in it until it is drained
   std::size_t DrainsWhileSent = 0;  ///< characters that leave each time that the program waits for them
   int SendsLonger = 0;              ///< than it was asked to [ms]
+  std::optional<int> Rate;          ///< what its line carries [baud]
   std::string Failure;              ///< why it does not open; "" when it does
   std::vector<int> LineErrors;      ///< raised at the next PollLineErrors
   bool TellsInside = false;         ///< tells of everything from inside each call
@@ -80,6 +81,7 @@ class MemoryEndpoint final : public EndpointPort {
     Wake();
   }
 
+  std::optional<int> BaudRate() const override { return Rate; }
   void PollLineErrors() override {
     ++Polls;
     for (const int code : std::exchange(LineErrors, {})) {

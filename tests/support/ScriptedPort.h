@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <deque>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -32,6 +33,7 @@ class ScriptedPort final : public SerialPort {
   bool Stuck = false;                   ///< nothing leaves: each sentence waits
   bool OpensOtherwise = true;           ///< result of a try to open after the scripted ones
   std::string Failure;                  ///< why the port does not open
+  std::optional<int> Rate = 4800;       ///< what its line carries [baud]
   std::string Complaint;                ///< its trouble while it is open
   const ScriptedPort* Other = nullptr;  ///< a port that, while open, holds its device against this one
   std::vector<int> LineErrorsWaiting;   ///< events that the next PollLineErrors raises
@@ -101,6 +103,7 @@ class ScriptedPort final : public SerialPort {
     }
   }
   std::uint64_t Sent() const override { return Left; }
+  std::optional<int> BaudRate() const override { return Rate; }
   void Withdraw() override { ++Withdrawals; }
   void PollLineErrors() override {
     ++Polls;

@@ -2,6 +2,7 @@
 
 #include <termios.h>
 
+#include <string>
 #include <utility>
 
 #include "tests/ui/serial/SerialPortQtFixture.h"
@@ -15,6 +16,7 @@ TEST_F(SerialPortBaud, IsWhatTheEndpointSays) {
   EXPECT_TRUE(m_port.PortOpen(true));
   const termios usual = m_pty.Settings();
   EXPECT_EQ(cfgetispeed(&usual), B4800);
+  EXPECT_EQ(m_port.BaudRate(), 4800);
   for (const auto& [text, speed] : std::initializer_list<std::pair<const char*, speed_t>>{
            {"?baud=9600", B9600}, {"?baud=38400", B38400}, {"?baud=115200", B115200}}) {
     m_port.PortOpen(false);
@@ -23,6 +25,7 @@ TEST_F(SerialPortBaud, IsWhatTheEndpointSays) {
     const termios settings = m_pty.Settings();
     EXPECT_EQ(cfgetispeed(&settings), speed) << text;
     EXPECT_EQ(cfgetospeed(&settings), speed) << text;
+    EXPECT_EQ("?baud=" + std::to_string(m_port.BaudRate().value_or(0)), text);
   }
 }
 
@@ -43,6 +46,7 @@ TEST_F(SerialPortBaud, IsFoundOutByTwoGoodLines) {
   EXPECT_EQ(m_owner.Text, "\n$IIHDM,200.0,M*20\r\n") << "nothing of what settled the rate is passed on";
   EXPECT_EQ(speed(), B9600);
   EXPECT_EQ(m_port.Trouble(), m_pty.Device() + ": found 9600 baud");
+  EXPECT_EQ(m_port.BaudRate(), 9600);
   EXPECT_EQ(m_port.Sent(), 0U) << "a bundle of the search is too old by now";
 }
 
