@@ -132,8 +132,9 @@ int TellUnsaved(const frmMain& window, DialogsQt& dialogs) {
 }
 
 /// The program with its ports, timers and windows, until the last window is closed; its exit status.
-int Sail(ApplicationQt& application, const std::filesystem::path& profileFile, DialogsQt& dialogs,
+int Sail(ApplicationQt& application, const std::filesystem::path& profileFile,
          const std::function<void(QWidget&)>& started) {
+  DialogsQt dialogs;
   Profile profile;
   const SystemClock clock;
   NamedPort MSCommNmea(profile, PortMaker(clock), DeviceIsThere);
@@ -196,17 +197,16 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   const std::filesystem::path profileFile =
       line.Profile ? std::filesystem::absolute(*line.Profile, error) : ProfileFile();
 
-  DialogsQt dialogs;
   std::filesystem::create_directories(profileFile.parent_path(), error);
   const ProfileLock lock(LinkTarget(profileFile, error));
-  if (!Taken(lock, profileFile, dialogs)) {
+  if (DialogsQt dialogs; !Taken(lock, profileFile, dialogs)) {
     // Until the message is closed.
     QApplication::exec();
     constexpr int kRunsAlready = 3;
     return kRunsAlready;
   }
 
-  return Sail(application, profileFile, dialogs, started);
+  return Sail(application, profileFile, started);
 }
 
 }  // namespace veerwatch
