@@ -1,59 +1,16 @@
 // The real program process on sockets of this computer.
 
-#include <arpa/inet.h>
-#include <fcntl.h>
-#include <netinet/in.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <string>
+#include <utility>
 
 #include "tests/e2e/RealPorts.h"
+#include "tests/e2e/Sockets.h"
 
 namespace veerwatch {
 namespace {
-
-sockaddr_in Loopback(std::uint16_t port) {
-  sockaddr_in address{};
-  address.sin_family = AF_INET;
-  address.sin_port = htons(port);
-  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-  return address;
-}
-
-/// A socket on the loopback address, with a number that the system chooses.
-class Loop {
- public:
-  explicit Loop(int type) : m_socket(::socket(AF_INET, type | SOCK_CLOEXEC, 0)) {
-    sockaddr_in address = Loopback(0);
-    socklen_t size = sizeof address;
-    EXPECT_EQ(::bind(m_socket, reinterpret_cast<sockaddr*>(&address), size), 0);
-    EXPECT_EQ(::getsockname(m_socket, reinterpret_cast<sockaddr*>(&address), &size), 0);
-    m_port = ntohs(address.sin_port);
-    ::fcntl(m_socket, F_SETFL, O_NONBLOCK);
-  }
-  ~Loop() { ::close(m_socket); }
-  Loop(const Loop&) = delete;
-  Loop& operator=(const Loop&) = delete;
-
-  int Socket() const { return m_socket; }
-  std::string Port() const { return std::to_string(m_port); }
-
-  /// Everything that has come, each datagram or piece after the other.
-  std::string Heard() {
-    std::array<char, 4096> part{};
-    for (ssize_t read = 0; (read = ::recv(m_socket, part.data(), part.size(), 0)) > 0;) {
-      m_heard.append(part.data(), static_cast<std::size_t>(read));
-    }
-    return m_heard;
-  }
-
- private:
-  int m_socket;
-  std::uint16_t m_port = 0;
-  std::string m_heard;
-};
 
 class RealSockets : public RealPorts {
  protected:
