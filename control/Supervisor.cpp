@@ -10,6 +10,12 @@ std::string_view TurnFateText(TurnFate fate) {
       return "No Input Data";
     case TurnFate::NoWind:
       return "No Wind";
+    case TurnFate::NoHeading:
+      return "No Heading";
+    case TurnFate::NoOutput:
+      return "No Output";
+    case TurnFate::Stuck:
+      return "Boat does not turn";
     case TurnFate::GoesOn:
     case TurnFate::Taken:
       break;

@@ -28,9 +28,13 @@ enum class TurnFate {
   InputStopped,
   NoInputData,
   NoWind,
+  NoHeading,
+  NoOutput,  ///< the port is not open, or nothing leaves although winds come
+  Stuck,     ///< the boat does not turn
 };
 
-/// Why a turn ends by itself: "Input Stopped", "No Input Data" or "No Wind"; "" for the other two.
+/// Why a turn ends by itself: "Input Stopped", "No Input Data", "No Wind", "No Heading", "No Output" or "Boat
+/// does not turn"; "" for the other two.
 std::string_view TurnFateText(TurnFate fate);
 
 class Supervisor {
@@ -46,11 +50,14 @@ class Supervisor {
 
   PilotHand Hand(TrackMode mode) const;
 
-  void TurnBegins() { m_turning = true; }
+  /// A turn takes the pilot. What becomes of the one that had it before.
+  TurnFate TurnBegins() { return std::exchange(m_turning, true) ? TurnFate::Taken : TurnFate::GoesOn; }
   void TurnOver() { m_turning = false; }
 
   // Each says what becomes of a turn, which is over unless it goes on.
 
+  /// The turn itself cannot go on, for `why`.
+  TurnFate TurnEnds(TurnFate why) { return End(why); }
   /// The user sets a bearing, or the program ends.
   TurnFate UserTakes() { return End(TurnFate::Taken); }
   /// The mode is now `mode`: every one but Manual takes the pilot.

@@ -26,6 +26,9 @@ constexpr double kAnswerTime = 0.95;  // [s]: a second, of winds that come a lit
 constexpr double kNear = 12.0;        // [deg]
 constexpr double kTrimTime = 60.0;    // [s]
 constexpr double kMostTrim = 15.0;    // [deg]
+constexpr double kOffsetTime = 8.0;   // [s]
+constexpr double kFreshTime = 90.0;   // [s]
+constexpr double kFreshTrim = 15.0;   // [s]
 constexpr double kBiasTime = 200.0;   // [s]
 constexpr double kMostBias = 10.0;    // [deg]
 constexpr double kWorthMoving = 0.3;  // [deg]
@@ -33,6 +36,9 @@ constexpr double kWorthInAll = 1.8;   // [deg s]
 constexpr double kStraight = 2.0;     // [deg] between the heading and that of the vane
 
 double Fold(double angle) { return static_cast<double>(FoldRelative(angle)); }
+
+/// 1 with the wind to be held from starboard, -1 from port.
+double SideOf(const TrackDirection::Aim& aim) { return aim.Target < 0.0 ? -1.0 : 1.0; }
 
 /// The weight of a sample `seconds` after the one before, for a time constant [s].
 double Weight(double seconds, double time) { return 1.0 - std::exp(-seconds / time); }
@@ -46,6 +52,7 @@ void TrackDirection::Feed(const Sample& sample, double seconds, double bandwidth
     m_vaneHeading = m_heading;
     m_windSpeed = sample.WindSpeed;
     m_boatSpeed = sample.BoatSpeed;
+    m_offset = Fold(sample.Bearing - m_heading);
     const double direction = (m_heading + sample.WindAngle) * kDegree;
     m_x = std::cos(direction);
     m_y = std::sin(direction);
@@ -54,6 +61,7 @@ void TrackDirection::Feed(const Sample& sample, double seconds, double bandwidth
   m_heading =
       sample.Heading.value_or(m_heading + Fold(sample.Bearing - m_heading) * Weight(seconds, kPilotLag));
   m_vaneHeading += Fold(m_heading - m_vaneHeading) * Weight(seconds, kVaneLag);
+  m_offset += Fold(sample.Bearing - m_heading - m_offset) * Weight(seconds, kOffsetTime);
   m_windSpeed += (sample.WindSpeed - m_windSpeed) * Weight(seconds, kSpeedTime);
   m_boatSpeed += (sample.BoatSpeed - m_boatSpeed) * Weight(seconds, kSpeedTime);
 
@@ -75,6 +83,15 @@ void TrackDirection::Start(double bearing) {
   const bool straight = m_fed && std::fabs(Fold(m_heading - m_vaneHeading)) < kStraight;
   m_trim = straight ? std::clamp(Fold(bearing - m_heading), -kMostTrim, kMostTrim) : 0.0;
   m_sinceAnswer = 0.0;
+  m_fresh = 0.0;
+}
+
+void TrackDirection::Resume(double bearing) {
+  const double bias = m_bias;
+  Start(bearing);
+  m_bias = bias;
+  m_trim = std::clamp(m_offset, -kMostTrim, kMostTrim);
+  m_fresh = kFreshTime;
 }
 
 void TrackDirection::Reset() {
@@ -93,7 +110,7 @@ double TrackDirection::TrueTarget(const Aim& aim) const {
     return aim.Target;
   }
   const double share = m_windSpeed > 0.0 ? m_boatSpeed / m_windSpeed * std::sin(aim.Target * kDegree) : 0.0;
-  return aim.Target + std::asin(std::clamp(share, -1.0, 1.0)) / kDegree + m_bias;
+  return aim.Target + std::asin(std::clamp(share, -1.0, 1.0)) / kDegree + SideOf(aim) * m_bias;
 }
 
 std::optional<TrackDirection::Answer> TrackDirection::Step(const Aim& aim, double bearing,
@@ -103,14 +120,16 @@ std::optional<TrackDirection::Answer> TrackDirection::Step(const Aim& aim, doubl
     return std::nullopt;
   }
   const double passed = std::min(std::exchange(m_sinceAnswer, 0.0), 2.0);
+  m_fresh = std::max(0.0, m_fresh - passed);
   const double wanted = Direction() - TrueTarget(aim);
   const double error = Fold(wanted - m_heading);
   const LimitedBearing steer = Move(wanted + m_trim, bearing, limits, passed);
   if (std::fabs(error) < kNear && !steer.Bites) {
-    m_trim = std::clamp(m_trim + error * passed / kTrimTime, -kMostTrim, kMostTrim);
+    const double time = m_fresh > 0.0 ? kFreshTrim : kTrimTime;
+    m_trim = std::clamp(m_trim + error * passed / time, -kMostTrim, kMostTrim);
     if (aim.Side == TrackSide::Apparent && aim.ApparentMean) {
-      m_bias = std::clamp(m_bias - Fold(*aim.ApparentMean - aim.Target) * passed / kBiasTime, -kMostBias,
-                          kMostBias);
+      m_bias = std::clamp(m_bias - SideOf(aim) * Fold(*aim.ApparentMean - aim.Target) * passed / kBiasTime,
+                          -kMostBias, kMostBias);
     }
   }
   return Answer{steer, error};

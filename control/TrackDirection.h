@@ -45,6 +45,9 @@ class TrackDirection {
   /// Tracking begins, from `bearing` [deg magnetic]. What a boat that goes straight shows between bearing and
   /// heading is the pilot's own offset, and stays.
   void Start(double bearing);
+  /// The same from where a turn has led. The pilot's own offset is that of the last seconds, and for a minute
+  /// and a half it is learned faster: on the other tack the pilot has to trim anew.
+  void Resume(double bearing);
   /// What is held, or its side, was changed: the bearing has followed already.
   void Reset();
 
@@ -72,7 +75,9 @@ class TrackDirection {
   double m_windSpeed = 0.0;
   double m_boatSpeed = 0.0;
   double m_trim = 0.0;         // the pilot's own offset [deg]
-  double m_bias = 0.0;         // of the apparent wind's target [deg]
+  double m_offset = 0.0;       // of the bearing from the heading, in the last seconds [deg]
+  double m_fresh = 0.0;        // for so long the pilot trims anew [s]
+  double m_bias = 0.0;         // of the apparent wind's target, positive away from the bow [deg]
   double m_off = 0.0;          // distance to the goal, added up [deg s]
   double m_sinceAnswer = 0.0;  // [s]
 };

@@ -39,7 +39,7 @@ bool TrackLoop::LacksHeading() const {
   return m_settings.m_eTrackMethod != TrackMethod::Sentence && (!m_data.HeadingValid || !m_headingFresh);
 }
 
-bool TrackLoop::StartTracking() {
+bool TrackLoop::StartTracking(const std::optional<float>& angle) {
   if (!CanTrack()) {
     return false;
   }
@@ -58,6 +58,11 @@ bool TrackLoop::StartTracking() {
   if (begins) {
     m_luff = 0.0;
   }
+  if (angle) {
+    SetDesired(m_side, static_cast<double>(*angle));
+    m_direction.Resume(static_cast<double>(m_settings.m_fAutoPilot));
+    return true;
+  }
   if (begins && m_method != TrackMethod::Sentence) {
     HoldMean(TrackSide::Apparent);
     HoldMean(TrackSide::True);
@@ -68,6 +73,11 @@ bool TrackLoop::StartTracking() {
   }
   m_direction.Start(static_cast<double>(m_settings.m_fAutoPilot));
   return true;
+}
+
+std::optional<float> TrackLoop::MeanWind(TrackSide side) const {
+  const auto mean = m_means[At(side)].Mean();
+  return mean ? std::optional(FoldRelative(*mean)) : std::nullopt;
 }
 
 bool TrackLoop::HoldMean(TrackSide side) {

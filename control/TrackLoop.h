@@ -74,7 +74,9 @@ class TrackLoop {
   /// Takes method, gains and limits from the settings and begins anew with them: empty accumulators. False,
   /// with nothing changed, where it cannot track. But for Sentence, and from another mode than Track, what is
   /// held is the wind of the last ten seconds, and a bearing far off the heading begins at the heading.
-  bool StartTracking();
+  /// With any method `angle` [deg relative, any turn], where given, is held on the tracked side instead, and
+  /// the bearing stays as it is: so a turn hands over.
+  bool StartTracking(const std::optional<float>& angle = std::nullopt);
 
   /// One pass over the record by the present mode.
   /// Deliberate: Sentence limits no correction, and an error equal to the alarm limit raises no alarm.
@@ -94,6 +96,9 @@ class TrackLoop {
 
   /// Withdraws the alarm; true when there was one.
   bool WithdrawAlarm() { return std::exchange(m_alarmActive, false); }
+
+  /// The wind angle of the last ten seconds [deg relative, (-180, 180]]; nothing where none came.
+  std::optional<float> MeanWind(TrackSide side) const;
 
   TrackSide Side() const { return m_side; }
   /// While another method than Sentence tracks, the angle of the last ten seconds is held from now on: true

@@ -45,9 +45,9 @@ void TrackModes::TrackSetManual() {
   Enter(TrackMode::Manual);
 }
 
-void TrackModes::TrackSetTrack() {
+void TrackModes::TrackSetTrack(const std::optional<float>& angle) {
   const bool lacksHeading = m_loop.LacksHeading();
-  if (lacksHeading || !m_loop.StartTracking()) {
+  if (lacksHeading || !m_loop.StartTracking(angle)) {
     m_observer.OnTrackMode(m_settings.m_eTrackMode);
     m_observer.OnTrackRefused(lacksHeading ? TrackRefusal::NoHeading : TrackRefusal::NoGains);
     return;

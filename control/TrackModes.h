@@ -1,6 +1,7 @@
 // The switch between the tracking modes: drives the ports and prepares the loop.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "control/TrackLoop.h"
@@ -45,7 +46,9 @@ class TrackModes {
   void TrackSetManual();
   /// Computes the gains and sees to the pilot port. Refused, with everything as it was, while the settings
   /// give no usable gains.
-  void TrackSetTrack();
+  void TrackSetTrack() { TrackSetTrack(std::nullopt); }
+  /// The same, to hold `angle` [deg relative, any turn] on the tracked side from the bearing as it is.
+  void TrackSetTrack(const std::optional<float>& angle);
 
  private:
   void Leave();

@@ -45,6 +45,12 @@ HelmNow Helm::Now() const {
   if (data.WindTrueValid) {
     now.WindAngleTrue = data.WindAngleTrue;
   }
+  now.Side = m_loop.Side();
+  now.CanTrack = m_loop.CanTrack();
+  now.Desired = m_settings.DesiredAngle;
+  for (const TrackSide side : {TrackSide::Apparent, TrackSide::True}) {
+    now.WindMean[static_cast<std::size_t>(side)] = m_loop.MeanWind(side);
+  }
   now.Watch = m_watch.Now();
   now.Sentence = m_why;
   return now;
@@ -317,6 +323,12 @@ void Helm::UserSteersTo(double bearing) {
 void Helm::TurnSteersTo(float bearing) {
   m_loop.SetAutoPilot(static_cast<double>(bearing));
   m_observers.Tell([this](HelmObserver& observer) { observer.OnAutoPilot(m_settings.m_fAutoPilot); });
+}
+
+void Helm::TrackTakesOver(float angle) {
+  m_supervisor.TurnOver();
+  m_modes.TrackSetTrack(angle);
+  TellDesired();
 }
 
 void Helm::Decide(TurnFate fate) {

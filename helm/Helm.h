@@ -53,11 +53,16 @@ class Helm final : private NmeaReceiver::Observer,
   void UserSteersTo(double bearing);
   /// The user takes the pilot with the bearing as it is, as at the close. Ends a turn.
   void UserTakesPilot() { Decide(m_supervisor.UserTakes()); }
-  /// A turn has the pilot from now on, until TurnOver() or OnTurnEnds().
-  void TurnBegins() { m_supervisor.TurnBegins(); }
+  /// A turn has the pilot from now on, until TurnOver() or OnTurnEnds(). Ends one that had it before.
+  void TurnBegins() { Decide(m_supervisor.TurnBegins()); }
   void TurnOver() { m_supervisor.TurnOver(); }
+  /// The turn that has the pilot cannot go on: it ends, told with `why`.
+  void TurnEnds(TurnFate why) { Decide(m_supervisor.TurnEnds(why)); }
   /// Takes the bearing of the turn that has the pilot, and tells it.
   void TurnSteersTo(float bearing);
+  /// The turn is made: Track takes over from the bearing as it is and holds `angle` [deg relative, any turn]
+  /// on the tracked side. A refused Track is told, and Manual stays.
+  void TrackTakesOver(float angle);
 
   NmeaReceiver& Receiver() { return m_receiver; }
   PilotOutput& Pilot() { return m_pilot; }

@@ -1,6 +1,7 @@
 // What the helm does at one moment, for whoever comes later than it was told.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -28,16 +29,21 @@ struct HelmNow {
   int OutputPort = 0;               ///< number of the pilot port
   bool OutputOpen = false;          ///< it is open, or not needed
   OutputState Output = OutputState::None;
-  std::string OutputFailure;           ///< the same of the pilot port
-  bool WindLost = false;               ///< an apparent or a true wind has not come for too long
-  std::uint64_t Sent = 0;              ///< sentences that have left for the pilot
-  float AutoPilot = 0.0F;              ///< its bearing [deg magnetic, [0, 360)]
-  std::optional<float> Heading;        ///< at present, not averaged [deg magnetic, [0, 360)]
-  bool BoatSpeedKnown = false;         ///< one has come since the input started
-  std::optional<double> WindsASecond;  ///< wind sentences, as far as it was measured [1/s]
-  std::optional<float> WindAngleTrue;  ///< averaged [deg relative, positive to starboard]
-  WatchNow Watch;                      ///< what the watch said last
-  Why Sentence;                        ///< why the last sentence says what it says
+  std::string OutputFailure;             ///< the same of the pilot port
+  bool WindLost = false;                 ///< an apparent or a true wind has not come for too long
+  std::uint64_t Sent = 0;                ///< sentences that have left for the pilot
+  float AutoPilot = 0.0F;                ///< its bearing [deg magnetic, [0, 360)]
+  std::optional<float> Heading;          ///< at present, not averaged [deg magnetic, [0, 360)]
+  bool BoatSpeedKnown = false;           ///< one has come since the input started
+  std::optional<double> WindsASecond;    ///< wind sentences, as far as it was measured [1/s]
+  std::optional<float> WindAngleTrue;    ///< averaged [deg relative, positive to starboard]
+  TrackSide Side = TrackSide::Apparent;  ///< that is tracked, or would be
+  bool CanTrack = false;                 ///< the settings give usable gains
+  std::array<float, 3> Desired{};        ///< the wanted angles by side [deg relative]
+  std::array<std::optional<float>, 3>
+      WindMean;    ///< the angles of the last ten seconds by side [deg relative]
+  WatchNow Watch;  ///< what the watch said last
+  Why Sentence;    ///< why the last sentence says what it says
 };
 
 }  // namespace veerwatch

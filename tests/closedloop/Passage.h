@@ -34,6 +34,7 @@ class Passage {
   double BearingAhead() const;
 
   Helm& TheHelm() { return m_helm; }
+  const Clock& Time() const { return m_clock; }
 
   Settings Set;
   BoatModel Boat;

@@ -181,10 +181,29 @@ TEST(TurnFate, ItGoesOnWhileTheWindsCome) {
   EXPECT_EQ(supervisor.Look(), TurnFate::NoWind);
 }
 
+TEST(TurnFate, AnotherTurnTakesThePilotFromTheOneBefore) {
+  Supervisor supervisor;
+  EXPECT_EQ(supervisor.TurnBegins(), TurnFate::GoesOn);
+  EXPECT_EQ(supervisor.TurnBegins(), TurnFate::Taken);
+  EXPECT_EQ(supervisor.Hand(TrackMode::Manual), PilotHand::Turn);
+}
+
+TEST(TurnFate, ATurnThatCannotGoOnEndsOnceForItsReason) {
+  Supervisor supervisor;
+  EXPECT_EQ(supervisor.TurnEnds(TurnFate::Stuck), TurnFate::GoesOn) << "none runs";
+  supervisor.TurnBegins();
+  EXPECT_EQ(supervisor.TurnEnds(TurnFate::Stuck), TurnFate::Stuck);
+  EXPECT_EQ(supervisor.TurnEnds(TurnFate::Stuck), TurnFate::GoesOn);
+  EXPECT_EQ(supervisor.Hand(TrackMode::Manual), PilotHand::User);
+}
+
 TEST(TurnFateText, NamesWhatIsGone) {
   EXPECT_EQ(TurnFateText(TurnFate::InputStopped), "Input Stopped");
   EXPECT_EQ(TurnFateText(TurnFate::NoInputData), "No Input Data");
   EXPECT_EQ(TurnFateText(TurnFate::NoWind), "No Wind");
+  EXPECT_EQ(TurnFateText(TurnFate::NoHeading), "No Heading");
+  EXPECT_EQ(TurnFateText(TurnFate::NoOutput), "No Output");
+  EXPECT_EQ(TurnFateText(TurnFate::Stuck), "Boat does not turn");
   EXPECT_EQ(TurnFateText(TurnFate::GoesOn), "");
   EXPECT_EQ(TurnFateText(TurnFate::Taken), "");
 }

@@ -217,5 +217,54 @@ TEST_F(DirectionRules, TheOffsetOfTheStartStaysOnlyWhereTheBoatGoesStraight) {
   EXPECT_NEAR(Bearing, 91.0, 0.5) << "she turns: what the bearing is ahead is no offset";
 }
 
+TEST_F(DirectionRules, AfterATurnThePilotsOffsetIsThatOfTheLastSeconds) {
+  Bearing = 104.0;
+  Seconds(100);
+  // A turn has brought her here, with the pilot 10 degrees ahead of her.
+  Heading = 190.0;
+  Bearing = 200.0;
+  Aim.Target = -45.0;
+  for (int second = 0; second < 60; ++second) {
+    Law.Feed({Wind - Heading, WindSpeed, BoatSpeed, Heading, Bearing}, 1.0, Bandwidth);
+  }
+  Law.Resume(Bearing);
+  EXPECT_NEAR(Second().Steer.Bearing, 200.0, 0.5);
+}
+
+TEST_F(DirectionRules, AfterATurnItLearnsThePilotsOffsetFasterForAMinuteAndAHalf) {
+  const auto learned = [this](bool turned) {
+    Law.Clear();
+    Heading = Bearing = 100.0;
+    Second();
+    if (turned) {
+      Law.Resume(Bearing);
+    } else {
+      Law.Start(Bearing);
+    }
+    Wind = 145.0 + 4.0;  // and the boat, which is held, does not come to it
+    const double bearing = Seconds(20).Steer.Bearing;
+    Wind = 145.0;
+    return bearing - 104.0;
+  };
+  const double slowly = learned(false);
+  const double quickly = learned(true);
+  EXPECT_GT(slowly, 0.5);
+  EXPECT_GT(quickly, 3.0 * slowly);
+}
+
+TEST_F(DirectionRules, WhatTheApparentWindHasTaughtHoldsMirroredOnTheOtherTack) {
+  const double there = 40.0;
+  Aim = {TrackSide::Apparent, there, there - 6.0};  // it shows 6 degrees less than it should
+  BoatSpeed = 0.0;
+  Wind = Heading + there;
+  Seconds(100);
+  const double right = Second().Error;
+  EXPECT_NE(right, 0.0);
+  Law.Resume(Bearing);
+  Wind = Heading - there;
+  Aim = {TrackSide::Apparent, -there, std::nullopt};
+  EXPECT_NEAR(Seconds(30).Error, -right, 0.3);
+}
+
 }  // namespace
 }  // namespace veerwatch

@@ -127,7 +127,8 @@ class RecordingView final : public HelmObserver,
   void OnTrackSide(TrackSide side) override { Keep("OnTrackSide", static_cast<float>(side)); }
   void OnWindLost(bool lost) override { Keep("OnWindLost", lost ? "yes" : "no"); }
   void OnTurnEnds(TurnFate why) override {
-    constexpr const char* kFates[] = {"GoesOn", "Taken", "InputStopped", "NoInputData", "NoWind"};
+    constexpr const char* kFates[] = {"GoesOn", "Taken",     "InputStopped", "NoInputData",
+                                      "NoWind", "NoHeading", "NoOutput",     "Stuck"};
     Keep("OnTurnEnds", kFates[static_cast<std::size_t>(why)]);
   }
 

@@ -1,0 +1,122 @@
+#include "tack/TurnPlan.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+#include "control/TrackModes.h"
+#include "instruments/MathLib.h"
+#include "platform/NumberText.h"
+#include "tack/TurnGuard.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr double kHalfCircle = 180.0;
+constexpr double kDead = 0.5;         // [deg]
+constexpr double kAskedFrom = 150.0;  // [deg]
+
+constexpr std::size_t At(TrackSide side) { return static_cast<std::size_t>(side); }
+
+double Fold(double angle) { return static_cast<double>(FoldRelative(angle)); }
+
+std::string Hindrance(const HelmNow& now) {
+  std::string why = TurnHindrance(now);
+  if (why.empty() && (!now.Heading || now.Watch.Of(Watched::Heading).Gone())) {
+    why = "No turn: No Heading";
+  } else if (why.empty() && !now.CanTrack) {
+    why = "No turn: " + std::string(TrackRefusalText(TrackRefusal::NoGains));
+  } else if (why.empty() && !(now.WindMean[At(TrackSide::Apparent)] && now.WindMean[At(TrackSide::True)])) {
+    why = "No turn: No Wind";
+  }
+  return why;
+}
+
+/// What the turn starts from on a side: the held angle, or the mean of the wind.
+double Present(const HelmNow& now, TrackSide side) {
+  const bool held = now.Mode == TrackMode::Track && now.Side == side;
+  return static_cast<double>(held ? now.Desired[At(side)] : now.WindMean[At(side)].value_or(0.0F));
+}
+
+/// `size` on the other side than `present`.
+double Across(double present, double size) { return present < 0.0 ? size : -size; }
+
+void PlanAcross(const TurnAsk& ask, const HelmNow& now, TurnPlan& plan) {
+  const double from = plan.Wind < 0.0 ? -1.0 : 1.0;
+  const double size = ask.Aim ? static_cast<double>(ask.Aim->True) : std::fabs(plan.Wind);
+  const double around = ask.Kind == ManoeuvreKind::Jibe ? 2.0 * kHalfCircle : 0.0;
+  plan.Change = from * (std::fabs(plan.Wind) + size - around);
+  const double side = Present(now, now.Side);
+  const double held = !ask.Aim                      ? std::fabs(side)
+                      : now.Side == TrackSide::True ? static_cast<double>(ask.Aim->True)
+                                                    : static_cast<double>(ask.Aim->Apparent);
+  plan.Held = FoldRelative(Across(plan.Wind, held));
+  const double past = std::isfinite(ask.Overshoot) ? static_cast<double>(ask.Overshoot) : 0.0;
+  const double most = std::max(0.0, kHalfCircle - std::fabs(plan.Change));
+  plan.Overshoot = std::copysign(1.0, plan.Change) * std::clamp(past, -std::fabs(plan.Change), most);
+}
+
+void PlanSteer(const TurnAsk& ask, const HelmNow& now, TurnPlan& plan) {
+  plan.Change = Fold(static_cast<double>(ask.NewHeading) - static_cast<double>(now.Heading.value_or(0.0F)));
+  plan.Held = FoldRelative(Present(now, now.Side) - plan.Change);
+}
+
+std::string RefusalOf(const TurnPlan& plan) {
+  const double off = std::fabs(plan.Wind);
+  if (plan.Kind == ManoeuvreKind::Tack && off < kDead) {
+    return "No turn: the wind is dead ahead";
+  }
+  if (plan.Kind == ManoeuvreKind::Jibe && off > kHalfCircle - kDead) {
+    return "No turn: the wind is dead astern";
+  }
+  if (!std::isfinite(plan.Change)) {
+    return "No turn: that is no heading";
+  }
+  return std::fabs(plan.Change) >= kHalfCircle ? "No turn: it would be half a circle or more" : "";
+}
+
+}  // namespace
+
+TurnPlan PlanTurn(const TurnAsk& ask, const HelmNow& now) {
+  TurnPlan plan;
+  plan.Kind = ask.Kind;
+  plan.Refusal = Hindrance(now);
+  if (!plan.Refusal.empty()) {
+    return plan;
+  }
+  plan.Wind = Fold(Present(now, TrackSide::True));
+  plan.Bearing = static_cast<double>(now.AutoPilot);
+  const bool turns = std::isfinite(ask.Rate) && ask.Rate > 0.0F;
+  plan.Rate = turns ? static_cast<double>(ask.Rate) : Manoeuvre::kUsualRate;
+  if (ask.Kind == ManoeuvreKind::Steer) {
+    PlanSteer(ask, now, plan);
+  } else {
+    PlanAcross(ask, now, plan);
+  }
+  plan.Refusal = RefusalOf(plan);
+  plan.Crossing = CrossingOf(plan.Wind, plan.Change);
+  return plan;
+}
+
+std::string PlanWords(const TurnPlan& plan) {
+  const std::string degrees = FormatNumber(ToSingle(std::fabs(plan.Change)), "0");
+  const std::string way = degrees + (degrees == "1" ? " degree" : " degrees") +
+                          (plan.Change < 0.0 ? " to port" : " to starboard");
+  switch (plan.Crossing) {
+    case WindCrossing::Bow:
+      return "Tack, " + way + " through the wind";
+    case WindCrossing::Stern:
+      return "GYBE, " + way + ", by the stern";
+    case WindCrossing::None:
+      break;
+  }
+  return "Steer, " + way;
+}
+
+bool PlanAsksOnceMore(const TurnPlan& plan, WindCrossing said) {
+  return std::fabs(plan.Change + plan.Overshoot) >= kAskedFrom ||
+         (plan.Crossing != WindCrossing::None && plan.Crossing != said);
+}
+
+}  // namespace veerwatch
