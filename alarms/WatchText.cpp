@@ -38,6 +38,8 @@ std::string_view ActDoes(Condition what) {
     case Condition::PilotLost:
       return "adds nothing up; begins at the heading when the port is back";
     case Condition::OffCourse:
+    case Condition::Pinching:
+    case Condition::WindShift:
     case Condition::NoHeading:
     case Condition::WindJumps:
     case Condition::ManyWinds:
@@ -66,6 +68,11 @@ std::string WatchText(const Standing& standing) {
       return "Wind Not Changing";
     case Condition::OffCourse:
       return "Off Course " + Whole(standing.Figure);
+    case Condition::Pinching:
+      return "Pinching";
+    case Condition::WindShift:
+      return "Wind Shift " + Whole(std::fabs(standing.Figure)) + " deg to " +
+             (standing.Figure < 0.0 ? "port" : "starboard") + (standing.Lift ? ": lift" : ": header");
     case Condition::NoHeading:
       return "No Heading";
     case Condition::TwoWinds:
@@ -154,6 +161,10 @@ std::string_view WatchRemedy(Condition what) {
       return "Look at the masthead: the vane may be stuck; steer by hand until it moves";
     case Condition::OffCourse:
       return "Look why: a wind shift, a stalled pilot, too much sail, a limit that is too narrow";
+    case Condition::Pinching:
+      return "Bear away, or hold an angle further from the wind";
+    case Condition::WindShift:
+      return "Look whether the other tack, or another angle, leads better to where you go";
     case Condition::NoHeading:
       return "Look at the compass and its wire";
     case Condition::TwoWinds:

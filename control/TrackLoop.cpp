@@ -98,6 +98,22 @@ bool TrackLoop::Side(TrackSide side) {
   return HoldMean(side);
 }
 
+std::optional<double> TrackLoop::MeanAngle(TrackSide side) const { return m_means[At(side)].Mean(); }
+
+bool TrackLoop::FollowSide(TrackSide side) {
+  const auto from = MeanAngle(m_side);
+  const auto to = MeanAngle(side);
+  if (!from || !to) {
+    return false;
+  }
+  const float off = FoldRelative(static_cast<double>(Desired(m_side)) - *from);
+  SetDesired(side, *to + static_cast<double>(off));
+  m_side = side;
+  m_direction.Reset();
+  m_tracked.Restart();
+  return true;
+}
+
 bool TrackLoop::HoldApparent() {
   if (!HoldMean(TrackSide::Apparent)) {
     return false;

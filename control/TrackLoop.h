@@ -55,6 +55,7 @@ struct LoopStep {
   float Correction = 0.0F;     ///< of the bearing [deg, (-180, 180]]
   bool ByRate = false;         ///< the fastest change of the bearing bounded it
   bool ByAhead = false;        ///< the largest distance from the heading bounded it
+  bool ByGuard = false;        ///< the angle guard bounded it
   bool Sends = false;          ///< the bearing is for the pilot
   enum class Alarm { AsBefore, Raised, Over };
   float AlarmError = 0.0F;        ///< what the alarm tested [deg]
@@ -104,6 +105,13 @@ class TrackLoop {
   /// While another method than Sentence tracks, the angle of the last ten seconds is held from now on: true
   /// when that changed what is held.
   bool Side(TrackSide side);
+
+  /// Tracks the other side from now on, as far off its angle of the last ten seconds as it was off this
+  /// side's: the bearing does not jump. False, with nothing changed, while one of the winds has not come.
+  bool FollowSide(TrackSide side);
+
+  /// The angle of the last ten seconds in which that wind came [deg relative].
+  std::optional<double> MeanAngle(TrackSide side) const;
 
   /// The apparent angle of the last ten seconds is held from now on, with any method. False where that cannot
   /// be, as no apparent wind came.

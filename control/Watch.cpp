@@ -290,13 +290,21 @@ void Watch::LookAtSteering(const Around& around, Findings& found) const {
   if (m_follow.Stands()) {
     at(Condition::PilotNotFollowing) = {true, Level::Red, Watched::Heading};
   }
-  if (m_gybe) {
+  if (m_gybe || around.Gybing) {
     at(Condition::GybeRisk) = {true, Level::Red, Watched::WindTrue};
   }
   if (Tracks() && m_offCourse) {
     at(Condition::OffCourse) = {true, Level::Amber,
                                 around.Side == TrackSide::True ? Watched::WindTrue : Watched::WindApparent,
                                 static_cast<double>(std::fabs(*m_offCourse))};
+  }
+  if (around.Pinching) {
+    at(Condition::Pinching) = {true, Level::Amber, Watched::WindApparent};
+  }
+  if (around.Shift) {
+    const bool starboard = m_record.Data().WindAngleTrue >= 0.0F;
+    at(Condition::WindShift) = {true,          Level::Amber, Watched::WindTrue,
+                                *around.Shift, {},           (*around.Shift > 0.0) == starboard};
   }
   if (Tracks() && TrackSwings(around.Method, static_cast<double>(around.Bandwidth), around.Winds)) {
     at(Condition::ManyWinds) = {true, Level::Note, Watched::WindApparent, *around.Winds};
@@ -344,7 +352,8 @@ bool Watch::Keep(const Findings& found, const Moment& now) {
     changed = changed || found[i].Stands != (stood != nullptr) || (stood && stood->Rank != found[i].Rank);
     if (found[i].Stands) {
       m_now.All[m_now.Count++] = {what,           found[i].Rank,   stood ? stood->Since : now,
-                                  found[i].Value, found[i].Figure, found[i].Talkers};
+                                  found[i].Value, found[i].Figure, found[i].Talkers,
+                                  found[i].Lift};
     }
   }
   std::sort(m_now.All.begin(), m_now.All.begin() + static_cast<std::ptrdiff_t>(m_now.Count),

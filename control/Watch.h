@@ -31,6 +31,9 @@ class Watch {
     std::optional<int> BaudRate;  ///< of the pilot's line; nullopt where nothing bounds it
     bool Acts = false;            ///< the loop is held back
     std::uint64_t Sent = 0;       ///< sentences that have left for the pilot
+    bool Pinching = false;        ///< the angle guard has kept the boat from that
+    bool Gybing = false;          ///< and from that
+    std::optional<double> Shift;  ///< of the true wind, where one is told [deg, positive to starboard]
   };
 
   /// Both outlive this.
@@ -80,6 +83,7 @@ class Watch {
     Watched Value = Watched::WindApparent;
     double Figure = 0.0;
     std::array<Talker, 2> Talkers{};
+    bool Lift = false;
   };
   using Findings = std::array<Finding, kConditionCount>;
 

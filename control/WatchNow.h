@@ -29,6 +29,8 @@ enum class Condition {
   NoBoatSpeed,        ///< the boat speed of the held true wind is gone, or 0 while the boat moves
   WindNotChanging,    ///< the vane may be stuck
   OffCourse,          ///< the error is beyond the alarm limit
+  Pinching,           ///< the boat is too close to the apparent wind
+  WindShift,          ///< the true wind has shifted since the held angle was set
   NoHeading,
   TwoWinds,  ///< two talkers send winds that differ
   TwoHeadings,
@@ -38,7 +40,7 @@ enum class Condition {
   PilotLineFull,  ///< more sentences than the pilot's line carries
   Simulation,
 };
-inline constexpr std::size_t kConditionCount = 15;
+inline constexpr std::size_t kConditionCount = 17;
 
 /// The two characters of a talker.
 using Talker = std::array<char, 2>;
@@ -50,9 +52,10 @@ struct Standing {
   Moment Since;                           ///< when it was found
   Watched Value = Watched::WindApparent;  ///< the quantity that it is about, where it is about one
   /// What its text tells: NoWind [s], OffCourse the size of the error [deg], ManyWinds [a second],
-  /// PilotLost the number of the port; else 0.
+  /// PilotLost the number of the port, WindShift how far [deg, positive to starboard]; else 0.
   double Figure = 0.0;
   std::array<Talker, 2> Talkers{};  ///< of TwoWinds, TwoHeadings, TwoBoatSpeeds
+  bool Lift = false;                ///< of WindShift: the wind comes from further aft; else further ahead
 };
 
 struct WatchNow {

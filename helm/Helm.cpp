@@ -14,7 +14,8 @@ Helm::Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Time
       m_modes(settings, m_receiver, m_pilot, m_loop, *this),
       m_simulator(settings, m_record, random),
       m_watch(settings, m_record),
-      m_act(settings, m_record, m_watch, m_loop) {}
+      m_act(settings, m_record, m_watch, m_loop),
+      m_functions(settings, m_record, m_watch, m_loop) {}
 
 HelmNow Helm::Now() const {
   HelmNow now;
@@ -133,7 +134,9 @@ Helm::Pass Helm::Steer(const Moment& now) {
     input.TrueWind = LoopInput::Wind{wind.Angle, wind.Speed};
   }
   Pass pass;
+  pass.Did = m_functions.Before(input);
   pass.Step = m_loop.ControlStep(input);
+  m_functions.After(input, pass.Step);
   m_act.After(pass.Step);
   if (pass.Step.Sends) {
     pass.Sentence = m_pilot.PilotSend(m_settings.m_fAutoPilot);
@@ -220,6 +223,10 @@ void Helm::LookOut() {
   around.Sent = m_pilot.Sent();
   around.Acts = m_act.Acts();
   const Moment now = m_clock.Now();
+  const AngleGuard::Risk risk = m_functions.Risk(now);
+  around.Pinching = risk == AngleGuard::Risk::Pinching;
+  around.Gybing = risk == AngleGuard::Risk::Gybe;
+  around.Shift = m_functions.Shift();
   m_watch.Look(around, now);
   Obey(m_act.Second(now), now);
   m_observers.Tell([this](HelmObserver& observer) { observer.OnWatch(m_watch.Now()); });
@@ -266,8 +273,14 @@ void Helm::TellPass(const Pass& pass) {
   if (!step.Ran) {
     return;
   }
-  if (step.Followed) {
+  if (pass.Did.Side) {
+    m_observers.Tell([this](HelmObserver& observer) { observer.OnTrackSide(m_loop.Side()); });
+  }
+  if (step.Followed || pass.Did.Desired) {
     TellDesired();
+  }
+  if (pass.Did.Says) {
+    m_observers.Tell([&](HelmObserver& observer) { observer.OnWindSays(*pass.Did.Says); });
   }
   m_observers.Tell([&](HelmObserver& observer) {
     observer.OnDelta(step.DeltaApparent, step.DeltaTrue);
@@ -302,12 +315,15 @@ void Helm::TellPolar() {
 
 // What the user, or a turn, does
 
-void Helm::TrackSteerTo(float change) {
-  if (m_loop.TrackSteerTo(change)) {
+bool Helm::TellTurned(bool turned) {
+  if (turned) {
     m_observers.Tell([this](HelmObserver& observer) { observer.OnAutoPilot(m_settings.m_fAutoPilot); });
     TellDesired();
   }
+  return turned;
 }
+
+void Helm::TrackSteerTo(float change) { TellTurned(m_loop.TrackSteerTo(change)); }
 
 void Helm::Track(TrackSide side) {
   if (m_loop.Side(side)) {

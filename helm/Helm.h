@@ -25,6 +25,7 @@
 #include "platform/SerialPort.h"
 #include "platform/Timer.h"
 #include "settings/Settings.h"
+#include "wind/WindFunctions.h"
 
 namespace veerwatch {
 
@@ -64,6 +65,16 @@ class Helm final : private NmeaReceiver::Observer,
   /// on the tracked side. A refused Track is told, and Manual stays.
   void TrackTakesOver(float angle);
 
+  // What the wind functions do when they are asked, told; true when they did.
+
+  /// WindFunctions::Dodge.
+  bool Dodge(double degrees) { return TellTurned(m_functions.Dodge(degrees)); }
+  /// WindFunctions::DodgeBack.
+  bool DodgeBack() { return TellTurned(m_functions.DodgeBack()); }
+  /// WindFunctions::LastAngle.
+  bool LastAngle() { return TellTurned(m_functions.LastAngle()); }
+  WindFunctions& Functions() { return m_functions; }
+
   NmeaReceiver& Receiver() { return m_receiver; }
   PilotOutput& Pilot() { return m_pilot; }
   TrackLoop& Loop() { return m_loop; }
@@ -83,6 +94,7 @@ class Helm final : private NmeaReceiver::Observer,
   struct Pass {
     LoopStep Step;
     std::string_view Sentence;  ///< "" for none
+    WindFunctions::Did Did;
   };
 
   /// One pass of the loop over the record, for a wind that came at `now`, and its sentence to the pilot.
@@ -90,6 +102,7 @@ class Helm final : private NmeaReceiver::Observer,
   void TellChanges();
   void TellPass(const Pass& pass);
   void TellDesired();
+  bool TellTurned(bool turned);
   void TellPolar();
   void SimulatorTick();
   void Decide(TurnFate fate);
@@ -131,6 +144,7 @@ class Helm final : private NmeaReceiver::Observer,
   Simulator m_simulator;
   Watch m_watch;
   WatchAct m_act;
+  WindFunctions m_functions;
   Why m_why;
   std::int64_t m_simulated = 0;  ///< clock of the simulated boat [ms]
   InputState m_inputState = InputState::Stopped;

@@ -15,6 +15,7 @@
 #include "nmea/PortStatus.h"
 #include "platform/ObserverList.h"
 #include "settings/TrackMode.h"
+#include "wind/WindFunctions.h"
 
 namespace veerwatch {
 
@@ -76,6 +77,8 @@ class HelmObserver {
   virtual void OnTrackRefused(TrackRefusal /*why*/) {}
   /// The program, not the user, has chosen the side that is tracked.
   virtual void OnTrackSide(TrackSide /*side*/) {}
+  /// A wind function has something to say, once.
+  virtual void OnWindSays(WindSays /*what*/) {}
   /// A wind has been lost, or both are there again.
   virtual void OnWindLost(bool /*lost*/) {}
   /// The turn that runs is over: TurnFate::Taken, or what it lost.

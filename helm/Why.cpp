@@ -59,6 +59,9 @@ std::string LoopText(const Why& why) {
   if (why.Step.ByAhead) {
     text += ", limited by Max Ahead";
   }
+  if (why.Step.ByGuard) {
+    text += ", limited by the angle guard";
+  }
   return text;
 }
 

@@ -90,6 +90,17 @@ struct Settings {
   float m_fWatchStaleHeading = 4.0F;
   float m_fWatchStaleWaypoint = 4.0F;
 
+  // What Track does besides holding an angle.
+  bool m_bWindGuard = false;           ///< the boat is kept from pinching and from gybing
+  float m_fWindLeastApparent = 25.0F;  ///< no closer to the apparent wind [deg, [10, 60]]
+  float m_fWindLargestTrue = 165.0F;   ///< no further from the true wind [deg, [120, 179]]
+  bool m_bWindShift = false;           ///< a shift of the true wind is told
+  float m_fWindShiftLimit = 15.0F;     ///< a smaller one is not [deg, [5, 90]]
+  float m_fWindShiftTime = 30.0F;      ///< nor a shorter one [s, [5, 600]]
+  bool m_bWindSide = false;            ///< the apparent wind upwind, the true one downwind
+  bool m_bWindPolar = false;           ///< the polar's best angle is held
+  bool m_bWindDodge = false;           ///< the keys that dodge
+
   bool m_bNightColours = false;  ///< red on black in every window
 
   bool m_bSaveWhileRunning = false;  ///< settings are also saved ten seconds after a change

@@ -12,6 +12,7 @@ constexpr const char* kOutput = "Options > Output";
 constexpr const char* kSimulate = "Options > Simulate";
 constexpr const char* kTracking = "Options > Tracking";
 constexpr const char* kWatch = "Options > Watch";
+constexpr const char* kWindMenu = "Options > Wind";
 constexpr const char* kMainWindow = "main window";
 constexpr const char* kViewMenu = "View menu";
 constexpr const char* kProfile = "the profile alone";
@@ -156,6 +157,31 @@ SettingTable<S> Watch() {
   };
 }
 
+SettingTable<S> Wind() {
+  const char* section = "Wind";
+  return {
+      {section, "Angle Guard", Truth(&S::m_bWindGuard), "",
+       "Track keeps the boat from pinching and from an accidental gybe", kWindMenu},
+      {section, "Least Apparent", Number(&S::m_fWindLeastApparent, kLeastApparent), "deg",
+       "the guard brings the boat no closer to the apparent wind", kWindMenu},
+      {section, "Largest True", Number(&S::m_fWindLargestTrue, kLargestTrue), "deg",
+       "the guard brings the boat no further from the true wind", kWindMenu},
+      {section, "Shift Alarm", Truth(&S::m_bWindShift), "",
+       "a lasting shift of the true wind since the angle was set is told", kWindMenu},
+      {section, "Shift Limit", Number(&S::m_fWindShiftLimit, kShiftLimit), "deg",
+       "a smaller shift is not told", kWindMenu},
+      {section, "Shift Lasts", Number(&S::m_fWindShiftTime, kShiftTime), "s", "a shorter shift is not told",
+       kWindMenu},
+      {section, "Side By Itself", Truth(&S::m_bWindSide), "",
+       "Track holds the apparent wind below 70 degrees of true wind angle and the true one beyond 80",
+       kWindMenu},
+      {section, "Polar Angle", Truth(&S::m_bWindPolar), "",
+       "Track holds the best angle of the opened polar, to windward or to leeward", kWindMenu},
+      {section, "Dodge Keys", Truth(&S::m_bWindDodge), "",
+       "Ctrl+Left and Ctrl+Right steer off by 10 degrees in Track, Ctrl+Up back", kWindMenu},
+  };
+}
+
 SettingTable<S> View() {
   return {
       {"View", "Night Colours", Truth(&S::m_bNightColours), "",
@@ -173,7 +199,7 @@ SettingTable<S> View() {
 
 SettingTable<S> All() {
   SettingTable<S> all;
-  for (const auto& section : {Nmea(), Pilot(), Simulate(), Track(), Watch(), View()}) {
+  for (const auto& section : {Nmea(), Pilot(), Simulate(), Track(), Watch(), Wind(), View()}) {
     all.insert(all.end(), section.begin(), section.end());
   }
   return all;

@@ -331,6 +331,8 @@ TEST(SettingsProfile, AFreshProfileHasEveryKeyInItsOrder) {
       "Lost=False\nLog Fitted=True\nCompass "
       "Fitted=True\n"
       "Stale Apparent Wind=4\nStale True Wind=4\nStale Boat Speed=4\nStale Heading=4\nStale Waypoint=4\n\n"
+      "[Wind]\nAngle Guard=False\nLeast Apparent=25\nLargest True=165\nShift Alarm=False\nShift "
+      "Limit=15\nShift Lasts=30\nSide By Itself=False\nPolar Angle=False\nDodge Keys=False\n\n"
       "[View]\nNight Colours=False\nSave While Running=False\nCareful Entry=False\n\n"
       "[History Window]\nVisible=False\n\n[Polar Window]\nVisible=False\n");
 }

@@ -125,6 +125,7 @@ class RecordingView final : public HelmObserver,
   void OnTrackMode(TrackMode mode) override { Keep("OnTrackMode", static_cast<float>(mode)); }
   void OnTrackRefused(TrackRefusal why) override { Keep("OnTrackRefused", static_cast<float>(why)); }
   void OnTrackSide(TrackSide side) override { Keep("OnTrackSide", static_cast<float>(side)); }
+  void OnWindSays(WindSays what) override { Keep("OnWindSays", static_cast<float>(what)); }
   void OnWindLost(bool lost) override { Keep("OnWindLost", lost ? "yes" : "no"); }
   void OnTurnEnds(TurnFate why) override {
     constexpr const char* kFates[] = {"GoesOn", "Taken",     "InputStopped", "NoInputData",
