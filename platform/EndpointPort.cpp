@@ -106,6 +106,9 @@ void EndpointPort::Wake() {
   const bool stoodStill = m_standstill.Beat(now);
   // Before anything is told: whoever hears of it may turn the event loop.
   Later(m_beatTime, now, kBeat);
+  if (stoodStill) {
+    StoodStill();
+  }
   if (Events* const events = Connected(); events != nullptr && stoodStill) {
     events->OnPortStandstill();
   }

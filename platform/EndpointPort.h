@@ -72,6 +72,8 @@ class EndpointPort : public SerialPort, private OutputSlot::Line {
   virtual bool OpenEndpoint(std::string& failure) = 0;
   /// Closes it at once. What has arrived and what has not left is dropped.
   virtual void CloseEndpoint() = 0;
+  /// The program stood still: what the far end kept for it meanwhile is old.
+  virtual void StoodStill() {}
   /// Appends what has arrived, at most `most` characters.
   virtual void Read(std::string& text, std::size_t most) = 0;
   bool Leaving() override = 0;

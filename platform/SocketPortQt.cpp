@@ -1,5 +1,11 @@
 #include "platform/SocketPortQt.h"
 
+#ifdef Q_OS_LINUX
+#include <netinet/in.h>
+#include <netinet/tcp.h>
+#include <sys/socket.h>
+#endif
+
 namespace veerwatch {
 
 SocketPortQt::SocketPortQt(const Clock& clock) : EndpointPort(clock) {
@@ -37,6 +43,26 @@ QHostAddress OwnAddress(const Endpoint& endpoint, std::string& failure) {
     failure = endpoint.Text + ": \"" + endpoint.Host + "\" is no address of this computer";
   }
   return address;
+}
+
+void KeepLink(QTcpSocket& connected) {
+  connected.setSocketOption(QAbstractSocket::LowDelayOption, 1);
+  connected.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+#ifdef Q_OS_LINUX
+  // The system's own times are hours while nothing is sent, and a quarter of an hour while something is.
+  constexpr int kSecond = 1000;     // [ms]
+  constexpr int kIdle = 10;         // [s]
+  constexpr int kInterval = 5;      // [s]
+  constexpr int kDead = kLinkDead;  // [ms]
+  constexpr int kProbes = (kDead / kSecond - kIdle) / kInterval;
+  const auto set = [&connected](int option, const int& value) {
+    ::setsockopt(static_cast<int>(connected.socketDescriptor()), IPPROTO_TCP, option, &value, sizeof value);
+  };
+  set(TCP_KEEPIDLE, kIdle);
+  set(TCP_KEEPINTVL, kInterval);
+  set(TCP_KEEPCNT, kProbes);
+  set(TCP_USER_TIMEOUT, kDead);
+#endif
 }
 
 std::string Uncapitalised(std::string text) {

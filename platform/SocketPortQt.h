@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QHostAddress>
+#include <QTcpSocket>
 #include <QTimer>
 #include <algorithm>
 #include <cstdint>
@@ -12,8 +13,12 @@
 #include "platform/Endpoint.h"
 #include "platform/EndpointPort.h"
 #include "platform/WireEnds.h"
+#include "platform/WireLines.h"
 
 namespace veerwatch {
+
+/// A connection on which nothing comes back for so long is dead [ms].
+inline constexpr int kLinkDead = 20000;
 
 /// The pauses between tries to come back: they double from a second to half a minute.
 class RetryPause {
@@ -46,10 +51,12 @@ class SocketPortQt : public EndpointPort {
   std::size_t Room() const {
     return m_received.size() < kLargestUnread ? kLargestUnread - m_received.size() : 0;
   }
-  /// Takes bytes of a stream into what Read() returns.
+  /// Takes bytes of a file into what Read() returns.
   void Take(std::string_view bytes) { m_ends.Add(bytes, m_received); }
   /// The same, of a message of its own: its last line ends with it.
   void TakeMessage(std::string_view bytes);
+  /// The same, of a stream that others share or that may break off: the lines that it makes whole.
+  void TakeLines(std::string_view bytes, WireLines& stream) { stream.Add(bytes, m_received); }
   /// Forgets what was taken and not read.
   void Forget();
 
@@ -69,6 +76,9 @@ class SocketPortQt : public EndpointPort {
 /// The address of this computer, or the group, at which `endpoint` listens: without a host the computer
 /// itself. A host that is no address gives a null address, and `failure` says so.
 QHostAddress OwnAddress(const Endpoint& endpoint, std::string& failure);
+
+/// Lets `connected` send at once, and notice after kLinkDead that the other side has gone without a word.
+void KeepLink(QTcpSocket& connected);
 
 /// `text` as the part of a sentence: without a capital in front.
 std::string Uncapitalised(std::string text);

@@ -19,8 +19,7 @@ TcpClientQt::TcpClientQt(const Endpoint& endpoint, const Clock& clock)
   QObject::connect(&m_socket, &QTcpSocket::bytesWritten, &Context(), [this] { Left(); });
   QObject::connect(&m_socket, &QTcpSocket::connected, &Context(), [this] {
     m_why.clear();
-    m_socket.setSocketOption(QAbstractSocket::LowDelayOption, 1);
-    m_socket.setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+    KeepLink(m_socket);
     Heard();
     Left();
   });
@@ -45,7 +44,17 @@ void TcpClientQt::CloseEndpoint() {
   m_silence.stop();
   m_socket.abort();
   m_why.clear();
+  m_lines.Clear();
   Forget();
+}
+
+void TcpClientQt::StoodStill() {
+  // The other side may hold much more that is old.
+  m_retry.stop();
+  m_socket.abort();
+  m_lines.Clear();
+  Forget();
+  Connect();
 }
 
 void TcpClientQt::Connect() {
@@ -76,6 +85,7 @@ void TcpClientQt::Gone(const std::string& why) {
   m_retry.start(m_pause.Next());
   // What has arrived whole is still worth reading.
   Fetch();
+  m_lines.Clear();
   m_socket.abort();
 }
 
@@ -97,7 +107,7 @@ void TcpClientQt::Fetch() {
     if (read <= 0) {
       return;
     }
-    Take({part.data(), static_cast<std::size_t>(read)});
+    TakeLines({part.data(), static_cast<std::size_t>(read)}, m_lines);
   }
 }
 

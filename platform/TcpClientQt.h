@@ -24,6 +24,7 @@ class TcpClientQt final : public SocketPortQt {
  private:
   bool OpenEndpoint(std::string& failure) override;
   void CloseEndpoint() override;
+  void StoodStill() override;
   void Fetch() override;
   bool Leaving() override { return Connected() && m_socket.bytesToWrite() > 0; }
   std::size_t Write(std::string_view text) override;
@@ -39,6 +40,7 @@ class TcpClientQt final : public SocketPortQt {
   QTimer m_retry;
   QTimer m_silence;
   RetryPause m_pause;
+  WireLines m_lines;
   std::string m_why;  ///< it is not connected
   bool m_wanted = false;
 };

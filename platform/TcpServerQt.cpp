@@ -35,6 +35,12 @@ void TcpServerQt::CloseEndpoint() {
   Forget();
 }
 
+void TcpServerQt::StoodStill() {
+  for (Client& client : m_clients) {
+    client.Lines.Clear();
+  }
+}
+
 void TcpServerQt::Accept() {
   RemoveGone();
   while (QTcpSocket* socket = m_server.nextPendingConnection()) {
@@ -48,8 +54,7 @@ void TcpServerQt::Accept() {
     Client& client = m_clients.emplace_back();
     client.Socket.reset(socket);
     socket->setReadBufferSize(static_cast<qint64>(kLargestUnread));
-    socket->setSocketOption(QAbstractSocket::LowDelayOption, 1);
-    socket->setSocketOption(QAbstractSocket::KeepAliveOption, 1);
+    KeepLink(*socket);
     QObject::connect(socket, &QTcpSocket::readyRead, &Context(), [this] { Arrived(); });
     QObject::connect(socket, &QTcpSocket::disconnected, &Context(), [this, &client] {
       // What came before it went is read with the next look.
@@ -86,11 +91,7 @@ void TcpServerQt::Fetch(Client& client) {
     if (read <= 0) {
       return;
     }
-    m_bytes.clear();
-    m_lines.clear();
-    client.Ends.Add({part.data(), static_cast<std::size_t>(read)}, m_bytes);
-    client.Lines.Add(m_bytes, m_lines);
-    Take(m_lines);
+    TakeLines({part.data(), static_cast<std::size_t>(read)}, client.Lines);
   }
 }
 

@@ -12,7 +12,7 @@
 
 #include "platform/Endpoint.h"
 #include "platform/SocketPortQt.h"
-#include "platform/WholeLines.h"
+#include "platform/WireLines.h"
 
 namespace veerwatch {
 
@@ -34,14 +34,14 @@ class TcpServerQt final : public SocketPortQt {
  private:
   struct Client {
     std::unique_ptr<QTcpSocket> Socket;
-    WireEnds Ends;
-    WholeLines Lines;
+    WireLines Lines;
     std::size_t Missed = 0;  ///< bytes that it had no room for, one after the other
     bool Gone = false;
   };
 
   bool OpenEndpoint(std::string& failure) override;
   void CloseEndpoint() override;
+  void StoodStill() override;
   void Fetch() override;
   bool Leaving() override { return false; }
   std::size_t Write(std::string_view text) override;
@@ -55,8 +55,6 @@ class TcpServerQt final : public SocketPortQt {
   const Endpoint m_endpoint;
   QTcpServer m_server;
   std::list<Client> m_clients;
-  std::string m_bytes;
-  std::string m_lines;
 };
 
 }  // namespace veerwatch

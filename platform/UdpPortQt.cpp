@@ -1,8 +1,8 @@
 #include "platform/UdpPortQt.h"
 
-#include <QNetworkDatagram>
 #include <QNetworkInterface>
 #include <QNetworkProxy>
+#include <algorithm>
 
 namespace veerwatch {
 
@@ -108,9 +108,11 @@ bool UdpPortQt::Allowed(const QHostAddress& address) const {
 }
 
 void UdpPortQt::Fetch() {
-  while (Room() > 0 && m_socket.hasPendingDatagrams()) {
-    const QByteArray datagram = m_socket.receiveDatagram(static_cast<qint64>(Room())).data();
-    TakeMessage({datagram.constData(), static_cast<std::size_t>(datagram.size())});
+  // One that is larger than the room stays until there is more.
+  while (m_socket.hasPendingDatagrams() &&
+         m_socket.pendingDatagramSize() <= static_cast<qint64>(std::min(Room(), m_datagram.size()))) {
+    const qint64 read = m_socket.readDatagram(m_datagram.data(), static_cast<qint64>(m_datagram.size()));
+    TakeMessage({m_datagram.data(), static_cast<std::size_t>(std::max<qint64>(read, 0))});
   }
 }
 

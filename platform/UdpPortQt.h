@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Endpoint.h"
 #include "platform/SocketPortQt.h"
@@ -43,6 +44,7 @@ class UdpPortQt final : public SocketPortQt {
   int m_lookup = -1;
   QHostAddress m_to;  ///< null while it is not known
   std::string m_trouble;
+  std::vector<char> m_datagram = std::vector<char>(kLargestUnread);  ///< room for one
 };
 
 }  // namespace veerwatch

@@ -3,14 +3,24 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <chrono>
+#include <csignal>
+#include <cstdint>
+#include <memory>
 #include <string>
+#include <thread>
 #include <utility>
+#include <vector>
 
 #include "tests/e2e/RealPorts.h"
 #include "tests/e2e/Sockets.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace veerwatch {
 namespace {
+
+using testing::HasSubstr;
+using testing::Not;
 
 class RealSockets : public RealPorts {
  protected:
@@ -60,6 +70,68 @@ TEST_F(RealSockets, SteersFromAGatewayToDatagrams) {
   EXPECT_TRUE(AwaitText("lblAppWindAngle", "41"));
   EXPECT_TRUE(AwaitText("StatusBar(2)", ""));
   EXPECT_TRUE(Await([this] { return m_pilot.Heard() == Pilot("100.0") + Pilot("100.0"); }));
+  ExpectOrderlyEnd();
+}
+
+TEST_F(RealSockets, NothingThatWaitedThroughAStandstillIsHeard) {
+  LaunchRemote(ProfileText(1, 2, "1=tcp://127.0.0.1:" + m_gateway.Port() + "\r\n2=" + Out.Device() + "\r\n"));
+  ASSERT_TRUE(Accept());
+  Send(ApparentWind("040") + TrueWind("060"));
+  ASSERT_TRUE(AwaitText("lblTrueWindAngle", "60"));
+  Click("tbrTrack(5)");
+  m_program->Tell("watch lblAppWindAngle");
+  ASSERT_TRUE(Says("shows lblAppWindAngle=40"));
+  ASSERT_EQ(::kill(m_program->Id(), SIGSTOP), 0);
+  for (int i = 0; i < 2000; ++i) {
+    Send(ApparentWind("077"));
+  }
+  std::this_thread::sleep_for(std::chrono::milliseconds(2500));
+  ASSERT_EQ(::kill(m_program->Id(), SIGCONT), 0);
+  // It comes back by itself, so that nothing of that is left on the way.
+  ASSERT_TRUE(Accept());
+  ASSERT_TRUE(Await([this] {
+    Send(ApparentWind("041"));
+    return Text("lblAppWindAngle") == "41";
+  }));
+  EXPECT_THAT(m_program->Said(), Not(HasSubstr("shows lblAppWindAngle=77")));
+  EXPECT_EQ(Text("txtAutoPilot"), "100.0");
+  ExpectOrderlyEnd();
+}
+
+TEST_F(RealSockets, ALogThatEndsIsNoInputData) {
+  const TemporaryFolder folder;
+  WriteFile(folder / "a.log", ApparentWind("040") + TrueWind("060"));
+  LaunchRemote(ProfileText(
+      1, 2, "1=file://" + (folder / "a.log").string() + "?interval=0.1\r\n2=" + Out.Device() + "\r\n"));
+  ASSERT_TRUE(AwaitText("lblTrueWindAngle", "60"));
+  EXPECT_TRUE(AwaitText("StatusBar(2)", "No Input Data"));
+  ExpectOrderlyEnd();
+}
+
+TEST_F(RealSockets, ServesTenWhoListenAndOneWhoNeverReads) {
+  const std::string number = Loop(SOCK_STREAM).Port();
+  LaunchRemote(ProfileText(1, 2, "1=" + In.Device() + "\r\n2=tcp-listen://:" + number + "\r\n"));
+  WriteAll(In, ApparentWind("040") + TrueWind("060"));
+  ASSERT_TRUE(AwaitText("lblTrueWindAngle", "60"));
+  Click("tbrTrack(5)");
+  std::vector<std::unique_ptr<Caller>> clients;
+  for (int i = 0; i < 11; ++i) {
+    clients.push_back(std::make_unique<Caller>(static_cast<std::uint16_t>(std::stoi(number))));
+    ASSERT_TRUE(clients.back()->Connected());
+  }
+  clients.pop_back();
+  const Caller deaf(static_cast<std::uint16_t>(std::stoi(number)), 1);
+  ASSERT_TRUE(deaf.Connected());
+  WriteAll(In, ApparentWind("041"));
+  for (const auto& client : clients) {
+    EXPECT_TRUE(Await([&] { return client->Heard() == Pilot("100.0"); })) << client->Heard();
+  }
+  for (int i = 0; i < 200; ++i) {
+    WriteAll(In, ApparentWind("041"));
+  }
+  for (const auto& client : clients) {
+    EXPECT_TRUE(Await([&] { return client->Heard().size() == 201 * Pilot("100.0").size(); }));
+  }
   ExpectOrderlyEnd();
 }
 

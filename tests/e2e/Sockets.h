@@ -57,6 +57,40 @@ class Loop {
   std::string m_heard;
 };
 
+/// A connection to a number of the loopback address.
+class Caller {
+ public:
+  /// `buffer` bounds what the system takes in for it [bytes]; 0 leaves that to the system.
+  explicit Caller(std::uint16_t port, int buffer = 0)
+      : m_socket(::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+    if (buffer > 0) {
+      ::setsockopt(m_socket, SOL_SOCKET, SO_RCVBUF, &buffer, sizeof buffer);
+    }
+    const sockaddr_in address = Loopback(port);
+    m_connected = ::connect(m_socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    ::fcntl(m_socket, F_SETFL, O_NONBLOCK);
+  }
+  ~Caller() { ::close(m_socket); }
+  Caller(const Caller&) = delete;
+  Caller& operator=(const Caller&) = delete;
+
+  bool Connected() const { return m_connected; }
+
+  /// Everything that has come.
+  const std::string& Heard() {
+    std::array<char, 4096> part{};
+    for (ssize_t read = 0; (read = ::recv(m_socket, part.data(), part.size(), 0)) > 0;) {
+      m_heard.append(part.data(), static_cast<std::size_t>(read));
+    }
+    return m_heard;
+  }
+
+ private:
+  int m_socket;
+  bool m_connected = false;
+  std::string m_heard;
+};
+
 /// Sends a datagram to a number of the loopback address.
 inline void SendDatagram(std::uint16_t port, std::string_view text) {
   const int socket = ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);

@@ -23,7 +23,7 @@ class LogPort : public testing::Test {
   }
 
   TemporaryFolder m_folder;
-  SystemClock m_clock;
+  ShiftedClock m_clock;
   std::unique_ptr<LogPortQt> m_port;
   std::unique_ptr<PortOwner> m_owner;
 };

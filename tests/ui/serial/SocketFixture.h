@@ -13,8 +13,9 @@
 #include <vector>
 
 #include "app/PortMakerQt.h"
-#include "platform/SystemClock.h"
+#include "platform/StandstillWatch.h"
 #include "tests/support/PortOwner.h"
+#include "tests/support/ShiftedClock.h"
 
 namespace veerwatch {
 
@@ -30,10 +31,15 @@ inline Endpoint EndpointOf(const std::string& text) {
       .front();
 }
 
+/// So long after a standstill what arrives had waited [ms].
+inline constexpr int kOldTime = static_cast<int>(StandstillWatch::kOldTime);
+
 /// What the other side sends and hears on a connection.
 class Peer {
  public:
-  explicit Peer(std::uint16_t port) { m_socket->connectToHost(QStringLiteral("127.0.0.1"), port); }
+  explicit Peer(std::uint16_t port, const char* address = "127.0.0.1") {
+    m_socket->connectToHost(QLatin1String(address), port);
+  }
   explicit Peer(QTcpSocket* socket) : m_socket(socket) { socket->setParent(nullptr); }
 
   bool Connected() const { return m_socket->state() == QAbstractSocket::ConnectedState; }

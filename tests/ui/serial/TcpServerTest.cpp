@@ -26,7 +26,7 @@ class TcpServer : public testing::Test {
     return peer;
   }
 
-  SystemClock m_clock;
+  ShiftedClock m_clock;
   std::uint16_t m_number = FreePort();
   TcpServerQt m_port{EndpointOf("tcp-listen://:" + std::to_string(m_number)), m_clock};
   PortOwner m_owner{m_port};
@@ -49,6 +49,70 @@ TEST_F(TcpServer, SendsToAllOfThem) {
   m_port.Output("$ECAPB,1\r\n");
   EXPECT_EQ(m_port.Sent(), 1U);
   EXPECT_TRUE(TurnUntil([&] { return one->Heard() == "$ECAPB,1\r\n" && two->Heard() == "$ECAPB,1\r\n"; }));
+}
+
+TEST_F(TcpServer, ServesTenAtATime) {
+  std::vector<std::unique_ptr<Peer>> clients;
+  std::string lines;
+  for (int i = 0; i < 10; ++i) {
+    clients.push_back(Client());
+    clients.back()->Send("$line of " + std::to_string(i) + "\r\n");
+  }
+  ASSERT_TRUE(TurnUntil([&] { return m_owner.Text.size() == 110; })) << m_owner.Text;
+  for (int i = 0; i < 10; ++i) {
+    EXPECT_THAT(m_owner.Text, testing::HasSubstr("$line of " + std::to_string(i) + "\r"));
+  }
+  for (int i = 0; i < 10; ++i) {
+    m_port.Output("$ECAPB," + std::to_string(i) + "\r\n");
+  }
+  const std::string last = "$ECAPB,9\r\n";
+  for (const auto& client : clients) {
+    EXPECT_TRUE(TurnUntil([&] { return client->Heard().ends_with(last); }));
+    EXPECT_EQ(client->Heard().size(), 10 * last.size()) << client->Heard();
+  }
+}
+
+TEST_F(TcpServer, HearsTheOthersWhileOneSendsAllTheTime) {
+  const auto loud = Client();
+  const auto quiet = Client();
+  const std::string much = std::string(70, 'x') + "\r\n";
+  std::string flood;
+  while (flood.size() < 3'000'000) {
+    flood += much;
+  }
+  loud->Send(flood);
+  quiet->Send("$quiet\r\n");
+  ASSERT_TRUE(TurnUntil([&] { return m_owner.Text.find("$quiet\r") != std::string::npos; }));
+  EXPECT_LT(m_owner.Text.size(), 1'000'000U);
+}
+
+TEST_F(TcpServer, DropsWhatCameDuringAStandstill) {
+  const auto peer = Client();
+  peer->Send("$before\r\n");
+  ASSERT_TRUE(TurnUntil([&] { return m_owner.Text == "$before\r"; }));
+  m_owner.Handle = [] {};
+  peer->Send("$old\r\n$half");
+  ASSERT_TRUE(TurnUntil([&] { return m_owner.Codes.size() > 1; }));
+  m_owner.Handle = nullptr;
+  m_clock.Shift += 3000;
+  ASSERT_TRUE(TurnUntil([&] { return m_owner.Standstills == 1; }));
+  QTest::qWait(kOldTime + 100);
+  peer->Send(" a line\r\n$new\r\n");
+  ASSERT_TRUE(TurnUntil([&] { return m_owner.Text.ends_with("$new\r"); }));
+  EXPECT_EQ(m_owner.Text, "$before\r a line\r$new\r") << "nothing of before is in front of it";
+  EXPECT_EQ(m_port.Clients(), 1U);
+}
+
+TEST_F(TcpServer, ListensAtAnAddressWithColons) {
+  TcpServerQt six(EndpointOf("tcp-listen://[::1]:" + std::to_string(FreePort())), m_clock);
+  if (!six.PortOpen(true)) {
+    GTEST_SKIP() << six.OpenFailure();
+  }
+  PortOwner owner(six);
+  Peer peer(six.ListensOn(), "::1");
+  ASSERT_TRUE(TurnUntil([&] { return peer.Connected(); }));
+  peer.Send("$six\r\n");
+  EXPECT_TRUE(TurnUntil([&] { return owner.Text == "$six\r"; }));
 }
 
 TEST_F(TcpServer, HasSentNothingWhileNobodyListens) {

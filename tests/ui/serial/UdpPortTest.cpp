@@ -36,7 +36,7 @@ class UdpPort : public testing::Test {
     return m_heard;
   }
 
-  SystemClock m_clock;
+  ShiftedClock m_clock;
   QUdpSocket m_far;
   std::vector<std::string> m_heard;
   std::unique_ptr<UdpPortQt> m_port;
@@ -66,6 +66,76 @@ TEST_F(UdpPort, LooksAHostUp) {
   ASSERT_TRUE(TurnUntil([&] { return m_port->Trouble().empty(); })) << m_port->Trouble();
   m_port->Output("$ECAPB,1\r\n");
   EXPECT_EQ(m_port->Sent(), 1U);
+}
+
+TEST_F(UdpPort, CutsNoDatagramForWantOfRoom) {
+  const std::uint16_t port = FreePort();
+  Open("udp://:" + std::to_string(port));
+  m_owner->Handle = [] {};
+  std::string all;
+  for (const char letter : {'a', 'b', 'c', 'd', 'e'}) {
+    const std::string datagram = std::string(29'998, letter) + "\r\n";
+    Send(datagram, port);
+    all += datagram;
+  }
+  ASSERT_TRUE(TurnUntil([&] { return !m_owner->Codes.empty(); }));
+  m_owner->Handle = nullptr;
+  ASSERT_TRUE(TurnUntil([&] { return m_owner->Text.ends_with("e\r\n"); }));
+  EXPECT_EQ(m_owner->Text, all);
+}
+
+TEST_F(UdpPort, DropsWhatCameDuringAStandstill) {
+  const std::uint16_t port = FreePort();
+  Open("udp://:" + std::to_string(port));
+  Send("$before\r\n", port);
+  ASSERT_TRUE(TurnUntil([&] { return !m_owner->Text.empty(); }));
+  m_owner->Handle = [] {};
+  Send("$old\r\n", port);
+  ASSERT_TRUE(TurnUntil([&] { return m_owner->Codes.size() > 1; }));
+  m_owner->Handle = nullptr;
+  m_clock.Shift += 3000;
+  ASSERT_TRUE(TurnUntil([&] { return m_owner->Standstills == 1; }));
+  QTest::qWait(kOldTime + 100);
+  Send("$new\r\n", port);
+  ASSERT_TRUE(TurnUntil([&] { return m_owner->Text.ends_with("$new\r\n"); }));
+  EXPECT_EQ(m_owner->Text, "$before\r\n$new\r\n");
+}
+
+TEST_F(UdpPort, HearsAGroup) {
+  const std::uint16_t port = FreePort();
+  const std::string group = "239.2.1.1";
+  UdpPortQt first(EndpointOf("udp://" + group + ":" + std::to_string(port)), m_clock);
+  if (!first.PortOpen(true)) {
+    GTEST_SKIP() << first.OpenFailure();
+  }
+  // Another program of this computer hears it, too.
+  UdpPortQt second(EndpointOf("udp://" + group + ":" + std::to_string(port)), m_clock);
+  ASSERT_TRUE(second.PortOpen(true)) << second.OpenFailure();
+  PortOwner firstOwner(first);
+  PortOwner secondOwner(second);
+  QUdpSocket far;
+  far.bind(QHostAddress(QHostAddress::AnyIPv4));
+  const std::string datagram = "$group\r\n";
+  ASSERT_TRUE(TurnUntil([&] {
+    far.writeDatagram(datagram.data(), static_cast<qint64>(datagram.size()),
+                      QHostAddress(QString::fromStdString(group)), port);
+    QTest::qWait(20);
+    return !firstOwner.Text.empty() && !secondOwner.Text.empty();
+  }));
+  EXPECT_TRUE(firstOwner.Text.starts_with(datagram));
+}
+
+TEST_F(UdpPort, SendsToAndHearsAtAddressesWithColons) {
+  const std::uint16_t port = FreePort();
+  UdpPortQt hears(EndpointOf("udp://[::1]:" + std::to_string(port) + "?listen"), m_clock);
+  if (!hears.PortOpen(true)) {
+    GTEST_SKIP() << hears.OpenFailure();
+  }
+  PortOwner owner(hears);
+  Open("udp://[::1]:" + std::to_string(port));
+  m_port->Output("$ECAPB,1\r\n");
+  EXPECT_EQ(m_port->Sent(), 1U) << m_port->Trouble();
+  EXPECT_TRUE(TurnUntil([&] { return owner.Text == "$ECAPB,1\r\n"; }));
 }
 
 TEST_F(UdpPort, ABroadcastHasToBeAskedFor) {
