@@ -15,17 +15,19 @@ std::string EndedText(const std::string& why) { return "The recording has ended:
 
 }  // namespace
 
-RecordingQt::RecordingQt(const MainWindowParts& parts, const frmMainMenu& menu, HelmObservers& observers,
+RecordingQt::RecordingQt(const MainWindowParts& parts, const frmMainMenu& menu, Helm& helm,
                          WindowDialogs& asks, QStatusBar& bar, Notice notice)
     : m_parts(parts),
       m_command(menu.mnuFileRecord),
       m_asks(asks),
       m_notice(std::move(notice)),
       lblRecording(new QLabel(QStringLiteral("\u25CF Recording"), &bar)),
-      m_recorder(observers, parts.Time, [this](const std::string& why) {
-        ShowState();
-        m_notice(EndedText(why));
-      }) {
+      m_recorder(
+          helm.Observers(), parts.Time, [&helm] { return helm.Receiver().LineFrom(); },
+          [this](const std::string& why) {
+            ShowState();
+            m_notice(EndedText(why));
+          }) {
   lblRecording->setObjectName(QStringLiteral("lblRecording"));
   lblRecording->setContentsMargins(kMargin, 0, kMargin, 0);
   bar.addPermanentWidget(lblRecording);

@@ -7,7 +7,7 @@
 
 #include "app/MainWindowParts.h"
 #include "app/frmMainCommands.h"
-#include "helm/HelmObserver.h"
+#include "helm/Helm.h"
 #include "log/InputRecorder.h"
 
 namespace veerwatch {
@@ -18,8 +18,8 @@ class RecordingQt final {
   using Notice = std::function<void(const std::string& text)>;
 
   /// `asks` are the dialogs of the main window. All of them outlive this, `bar` owns the mark.
-  RecordingQt(const MainWindowParts& parts, const frmMainMenu& menu, HelmObservers& observers,
-              WindowDialogs& asks, QStatusBar& bar, Notice notice);
+  RecordingQt(const MainWindowParts& parts, const frmMainMenu& menu, Helm& helm, WindowDialogs& asks,
+              QStatusBar& bar, Notice notice);
 
   /// Height of the mark's text [px].
   void TextHeight(int pixels) const;

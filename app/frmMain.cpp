@@ -73,7 +73,7 @@ frmMain::frmMain(const MainWindowParts& parts)
       m_told(m_helm.Observers().Join(*this)),
       m_others(m_parts, m_menu, *this, this),
       m_alarms(m_parts, m_menu, *this, *m_panel->Banner, *this),
-      m_recording(m_parts, m_menu, m_helm.Observers(), *m_asks, *statusBar(),
+      m_recording(m_parts, m_menu, m_helm, *m_asks, *statusBar(),
                   [this](const std::string& text) { NoticeSet(AlarmKind::Record, text); }) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(QString::fromLatin1(kApplicationTitle));

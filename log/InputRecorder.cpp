@@ -27,8 +27,13 @@ std::string CannotWrite(const std::filesystem::path& file, const std::string& wh
 
 }  // namespace
 
-InputRecorder::InputRecorder(HelmObservers& observers, const Clock& clock, Ended ended, std::size_t largest)
-    : m_clock(clock), m_ended(std::move(ended)), m_largest(largest), m_told(observers.Join(*this)) {}
+InputRecorder::InputRecorder(HelmObservers& observers, const Clock& clock, From from, Ended ended,
+                             std::size_t largest)
+    : m_clock(clock),
+      m_from(std::move(from)),
+      m_ended(std::move(ended)),
+      m_largest(largest),
+      m_told(observers.Join(*this)) {}
 
 InputRecorder::~InputRecorder() { Stop(); }
 
@@ -102,6 +107,9 @@ void InputRecorder::OnNmeaLine(std::string_view line, LineFault /*fault*/, bool 
     }
   }
   m_text.clear();
+  if (const int from = m_from(); from > 0) {
+    m_text.append(std::to_string(from)).append(1, ' ');
+  }
   AppendLineTime(now.Wall, m_text);
   m_text.append(1, ' ').append(line).append(1, '\n');
   errno = 0;

@@ -1,6 +1,9 @@
 // Writes each received line, with its time in front, to a file that the replay and "file://" read:
 //
 //     2026-11-21T09:15:02.123Z $IIMWV,045.0,R,10.5,N,A*hh
+//     2 2026-11-21T09:15:02.123Z $IIMWV,045.0,R,10.5,N,A*hh
+//     |
+//     which of the port's endpoints it came from, where there are several
 //
 // Looks on at a helm. A new file begins at each midnight UTC and when one has become large: with its day, and
 // a number where that is taken, in front of the ending, so that no file but the first one replaces another.
@@ -28,8 +31,11 @@ class InputRecorder final : private HelmObserver {
   /// Whom to tell when the recording has ended by itself, and why, for the user.
   using Ended = std::function<void(const std::string& why)>;
 
+  /// Which of several endpoints the line came from that is being told, from 1 on; 0 for the only one.
+  using From = std::function<int()>;
+
   /// `observers` and `clock` outlive this. `largest` is the size at which a new file begins [bytes].
-  InputRecorder(HelmObservers& observers, const Clock& clock, Ended ended,
+  InputRecorder(HelmObservers& observers, const Clock& clock, From from, Ended ended,
                 std::size_t largest = kLargestFile);
   /// Ends the recording.
   ~InputRecorder() override;
@@ -60,6 +66,7 @@ class InputRecorder final : private HelmObserver {
   void End(const std::string& why);
 
   const Clock& m_clock;
+  From m_from;
   Ended m_ended;
   std::size_t m_largest;
   std::filesystem::path m_first;  ///< as it was asked for

@@ -75,6 +75,12 @@ std::int64_t NumberOf(std::string_view digits) {
   return number;
 }
 
+/// How long "12 " in front of a line is; 0 where no number of one or two digits stands there.
+std::size_t EndpointNumber(std::string_view line) {
+  const std::size_t digits = DigitsOf(line);
+  return digits >= 1 && digits <= 2 && digits < line.size() && line[digits] == ' ' ? digits + 1 : 0;
+}
+
 /// "1795252502.123 " in front of the line.
 std::optional<std::int64_t> TakeSeconds(std::string& line) {
   constexpr std::size_t kLeast = 9;
@@ -133,13 +139,15 @@ std::optional<std::int64_t> TakeLineTime(std::string& line) {
   if (const auto seconds = TakeSeconds(line)) {
     return seconds;
   }
-  Taker taker(line);
+  const std::size_t number = EndpointNumber(line);
+  const std::string_view text = std::string_view(line).substr(number);
+  Taker taker(text);
   const int year = taker.Number(4, '-');
   const int month = taker.Number(2, '-');
   const int day = taker.Number(2, 'T');
   const int hour = taker.Number(2, ':');
   const int minute = taker.Number(2, ':');
-  const bool fraction = line.size() > 19 && line[19] == '.';
+  const bool fraction = text.size() > 19 && text[19] == '.';
   const int second = taker.Number(2, fraction ? '.' : 'Z');
   int milliseconds = 0;
   if (fraction) {
@@ -156,7 +164,7 @@ std::optional<std::int64_t> TakeLineTime(std::string& line) {
   const std::chrono::milliseconds time =
       std::chrono::sys_days(date).time_since_epoch() + std::chrono::hours(hour) +
       std::chrono::minutes(minute) + std::chrono::seconds(second) + std::chrono::milliseconds(milliseconds);
-  line.erase(0, taker.At());
+  line.erase(0, number + taker.At());
   return time.count();
 }
 

@@ -62,6 +62,9 @@ class NmeaReceiver final : public SerialPort::Events {
   /// What has come, and what is missing.
   const SourceWatch& Sources() const { return m_dispatcher.Sources(); }
 
+  /// Which of several endpoints of the port the present line came from, from 1 on; 0 where there is only one.
+  int LineFrom() const { return m_port.InputFrom(); }
+
   /// Characters of the line that is not whole yet.
   std::string_view LineBuffer() const { return m_framer.LineBuffer(); }
 

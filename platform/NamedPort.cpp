@@ -39,7 +39,7 @@ class NamedPort::Branch final : private SerialPort::Events {
   std::string Complaint() const { return m_port->PortOpen() ? m_port->Trouble() : m_port->OpenFailure(); }
 
  private:
-  void OnComm(int commEvent) override { m_owner.OnEvent(commEvent); }
+  void OnComm(int commEvent) override { m_owner.OnEvent(*this, commEvent); }
   void OnPortLost() override {
     m_lines.Clear();
     m_owner.OnLost();
@@ -140,8 +140,11 @@ void NamedPort::Input(std::string& text) {
     m_branches.front()->Port().Input(text);
     return;
   }
-  for (const auto& branch : m_branches) {
-    branch->Lines(text, m_part);
+  for (std::size_t i = 0; i < m_branches.size() && text.empty(); ++i) {
+    if (m_telling == nullptr || m_telling == m_branches[i].get()) {
+      m_branches[i]->Lines(text, m_part);
+      m_from = static_cast<int>(i) + 1;
+    }
   }
 }
 
@@ -189,11 +192,13 @@ void NamedPort::PollLineErrors() {
   }
 }
 
-void NamedPort::OnEvent(int commEvent) {
+void NamedPort::OnEvent(const Branch& from, int commEvent) {
   if (Events* const events = Connected(); events != nullptr && m_open) {
+    const Branch* const before = std::exchange(m_telling, &from);
     ++m_events;
     events->OnComm(commEvent);
     --m_events;
+    m_telling = before;
   }
 }
 

@@ -34,7 +34,9 @@ class NamedPort final : public SerialPort {
   bool PortOpen(bool open) override;
   std::string OpenFailure() const override { return m_failure; }
   std::string Trouble() const override;
+  /// The whole lines of one of several: of the one whose event is being told.
   void Input(std::string& text) override;
+  int InputFrom() const override { return Single() ? 0 : m_from; }
   void Output(std::string_view bundle) override;
   std::uint64_t Sent() const override;
   /// That of the slowest.
@@ -50,7 +52,7 @@ class NamedPort final : public SerialPort {
   bool OpenAll();
   /// Makes the branches anew where the profile says something else than before; false when that is wrong.
   bool Make();
-  void OnEvent(int commEvent);
+  void OnEvent(const Branch& from, int commEvent);
   void OnLost();
   void OnStandstill();
 
@@ -65,6 +67,8 @@ class NamedPort final : public SerialPort {
   Branches m_old;    ///< those of before, until nothing can be inside one of them
   int m_events = 0;  ///< events that are being told, one inside the other
   std::uint64_t m_sentBefore = 0;
+  const Branch* m_telling = nullptr;  ///< whose event is being told
+  int m_from = 0;                     ///< of the latest input
   std::string m_part;
 };
 

@@ -83,6 +83,10 @@ class SerialPort {
   /// Replaces `text` by every character that waits; "" when none does. Keeps the capacity of `text`.
   virtual void Input(std::string& text) = 0;
 
+  /// Which one of several endpoints the characters of the latest Input came from, from 1 on; 0 where the port
+  /// has only one.
+  virtual int InputFrom() const { return 0; }
+
   /// Hands a bundle to the port: one or more whole sentences that belong together, each with its line end.
   /// They leave in their order, with nothing between them. Never blocks; a device that has room has the
   /// bundle on return. While an earlier bundle has not left wholly, the newest takes the place of any that

@@ -28,7 +28,9 @@ class Recording : public testing::Test {
   HelmObservers Observers;
   HandClock Clock;
   std::vector<std::string> Ends;
-  InputRecorder Recorder{Observers, Clock, [this](const std::string& why) { Ends.push_back(why); }, 200};
+  int From = 0;
+  InputRecorder Recorder{Observers, Clock, [this] { return From; },
+                         [this](const std::string& why) { Ends.push_back(why); }, 200};
 
   void Receive(std::string_view line) {
     Observers.Tell([line](HelmObserver& told) { told.OnNmeaLine(line, LineFault::None, true); });
@@ -52,6 +54,23 @@ TEST_F(Recording, WritesEachLineWithItsTime) {
   EXPECT_EQ(Held("log.nmea"),
             std::string("2026-03-31T09:00:00.000Z ") + kWind + "\n2026-03-31T09:00:01.123Z noise\n");
   EXPECT_THAT(Ends, IsEmpty());
+}
+
+TEST_F(Recording, SaysWhichOfSeveralEndpointsALineCameFrom) {
+  ASSERT_EQ(Recorder.Start(Folder / "log.nmea"), "");
+  From = 2;
+  Receive(kWind);
+  From = 1;
+  Receive("$ONE");
+  EXPECT_EQ(Recorder.Stop(), "");
+  EXPECT_EQ(Held("log.nmea"),
+            std::string("2 2026-03-31T09:00:00.000Z ") + kWind + "\n1 2026-03-31T09:00:00.000Z $ONE\n");
+  std::istringstream written(Held("log.nmea"));
+  LogReader reader(written, LineEnds::Any);
+  std::string line;
+  ASSERT_TRUE(reader.Next(line));
+  EXPECT_NE(TakeLineTime(line), std::nullopt);
+  EXPECT_EQ(line, kWind);
 }
 
 TEST_F(Recording, ReachesTheDiskEachSecondAndWhenTheInputStops) {

@@ -11,6 +11,19 @@ TEST(LineTime, IsTakenOffTheFrontOfTheLine) {
   EXPECT_EQ(line, "$IIMWV,045.0,R,10.5,N,A");
 }
 
+TEST(LineTime, MayHaveTheNumberOfAnEndpointInFront) {
+  std::string line = "12 2026-11-21T09:15:02.123Z $IIMWV,045.0,R,10.5,N,A";
+  EXPECT_EQ(TakeLineTime(line), 1795252502123);
+  EXPECT_EQ(line, "$IIMWV,045.0,R,10.5,N,A");
+  for (const char* text :
+       {"2 $IIMWV,045.0,R,10.5,N,A", "123 2026-11-21T09:15:02.123Z $", "2  2026-11-21T09:15:02.123Z $",
+        "-2 2026-11-21T09:15:02.123Z $", "2", "2 ", " 2026-11-21T09:15:02.123Z $"}) {
+    line = text;
+    EXPECT_EQ(TakeLineTime(line), std::nullopt) << text;
+    EXPECT_EQ(line, text);
+  }
+}
+
 TEST(LineTime, HasAnyFractionOrNone) {
   std::string line = "1970-01-02T00:00:01Z x";
   EXPECT_EQ(TakeLineTime(line), 86401000);

@@ -5,6 +5,8 @@
 
 #include <map>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "tests/support/MemoryEndpoint.h"
 #include "tests/support/PortOwner.h"
@@ -62,6 +64,36 @@ TEST_F(NamedPortTest, MergesTheLinesOfSeveralWhole) {
   EXPECT_EQ(m_owner.Text, "$B\r");
   Arrive("/dev/a", "gun\r\n$A2\r");
   EXPECT_EQ(m_owner.Text, "$B\r$A,begun\r$A2\r");
+}
+
+TEST_F(NamedPortTest, SaysWhichEndpointItsInputCameFrom) {
+  std::vector<std::pair<int, std::string>> heard;
+  m_owner.Handle = [&] {
+    std::string text;
+    m_port.Input(text);
+    heard.emplace_back(m_port.InputFrom(), text);
+  };
+  ASSERT_TRUE(m_port.PortOpen(true));
+  Arrive("/dev/a", "$A\r");
+  m_port.PortOpen(false);
+  Name(1, "/dev/a, /dev/b");
+  ASSERT_TRUE(m_port.PortOpen(true));
+  At("/dev/b").Arrive("$B\r");
+  At("/dev/a").Arrive("$A\r");
+  At("/dev/b").Turn();
+  At("/dev/a").Turn();
+  using From = std::pair<int, std::string>;
+  EXPECT_THAT(heard, testing::ElementsAre(From(0, "$A\r"), From(2, "$B\r"), From(1, "$A\r")));
+}
+
+TEST_F(NamedPortTest, GivesWhatWaitsOutsideAnEventToo) {
+  Name(1, "/dev/a, /dev/b");
+  ASSERT_TRUE(m_port.PortOpen(true));
+  At("/dev/b").Arrive("$B\r");
+  std::string text;
+  m_port.Input(text);
+  EXPECT_EQ(text, "$B\r");
+  EXPECT_EQ(m_port.InputFrom(), 2);
 }
 
 TEST_F(NamedPortTest, CutsALineWithoutAnEnd) {
