@@ -32,7 +32,7 @@ std::string_view ActDoes(Condition what) {
     case Condition::TwoBoatSpeeds:
       return "goes by the source that came first";
     case Condition::PilotNotFollowing:
-      return "bearing and accumulator stand still until the boat comes within 8 degrees of it";
+      return "bearing and accumulator stand still until the boat comes within 10 degrees of it";
     case Condition::GybeRisk:
       return "holds the boat 8 degrees higher until the wind is forward of 168 degrees";
     case Condition::PilotLost:
@@ -59,7 +59,7 @@ std::string WatchText(const Standing& standing) {
     case Condition::PilotLost:
       return "Pilot Lost - Output Port " + Whole(standing.Figure);
     case Condition::PilotNotFollowing:
-      return "Pilot Not Following";
+      return "Pilot: " + std::string(FollowText(standing.Follow));
     case Condition::GybeRisk:
       return "Gybe Risk";
     case Condition::NoBoatSpeed:
@@ -91,6 +91,22 @@ std::string WatchText(const Standing& standing) {
       return "Simulation";
   }
   return {};
+}
+
+std::string_view FollowText(FollowVerdict verdict) {
+  switch (verdict) {
+    case FollowVerdict::Unknown:
+      break;
+    case FollowVerdict::Follows:
+      return "Follows";
+    case FollowVerdict::Slow:
+      return "Slow";
+    case FollowVerdict::DoesNotFollow:
+      return "Does not follow";
+    case FollowVerdict::TurnsAway:
+      return "Turns the wrong way";
+  }
+  return "Unknown";
 }
 
 std::string_view LevelText(Level level) {

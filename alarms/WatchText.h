@@ -12,6 +12,9 @@ namespace veerwatch {
 /// The line of a condition: "No Wind 7 s", "2 Wind Sources (WI, II)", "Pilot Lost - Output Port 2", ...
 std::string WatchText(const Standing& standing);
 
+/// "Follows", "Slow", "Does not follow", "Turns the wrong way" or "Unknown".
+std::string_view FollowText(FollowVerdict verdict);
+
 /// "red", "amber" or "note".
 std::string_view LevelText(Level level);
 

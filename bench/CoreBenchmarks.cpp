@@ -145,7 +145,8 @@ void WatchSentence(benchmark::State& state) {
     readings.Add(Quantity::ApparentWindSpeed, 12.0F);
     record.WindApparentUpdate(angle, 12.0F, true, from);
     watch.Sentence(readings);
-    watch.Step(step, 54, from.At);
+    watch.Step(step);
+    watch.Built(54, from.At);
   }
   state.counters["allocations"] = static_cast<double>(AllocationCount() - before);
 }

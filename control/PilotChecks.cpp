@@ -1,33 +1,6 @@
 #include "control/PilotChecks.h"
 
-#include <cmath>
-
 namespace veerwatch {
-
-void FollowCheck::Look(double off, std::int64_t moment) {
-  constexpr double kFar = 10.0;              // [deg]
-  constexpr double kCloser = 3.0;            // [deg]
-  constexpr std::int64_t kPatience = 15000;  // [ms]
-  constexpr double kNear = 8.0;              // [deg]
-  constexpr std::int64_t kStays = 5000;      // [ms]
-  const double far = std::fabs(off);
-  if (far > kNear) {
-    m_near.reset();
-  } else if (!m_near) {
-    m_near = moment;
-  }
-  if (m_stands && m_near && moment - *m_near >= kStays) {
-    m_stands = false;
-  }
-  if (far <= kFar) {
-    m_since.reset();
-  } else if (!m_since || far <= m_from - kCloser) {
-    m_since = moment;
-    m_from = far;
-  } else if (moment - *m_since >= kPatience) {
-    m_stands = true;
-  }
-}
 
 void OutputCheck::Built(std::size_t bytes, std::int64_t moment) {
   m_bytes += bytes;

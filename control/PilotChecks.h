@@ -1,4 +1,4 @@
-// Whether the pilot hears and follows. Looked at once a second, and told of each sentence that is built.
+// Whether the pilot can hear. Looked at once a second, and told of each sentence that is built.
 #pragma once
 
 #include <cstddef>
@@ -6,24 +6,6 @@
 #include <optional>
 
 namespace veerwatch {
-
-/// A bearing that the boat does not come to.
-class FollowCheck {
- public:
-  /// The bearing is `off` the heading [deg, (-180, 180]] at `moment` [ms of the steady clock].
-  void Look(double off, std::int64_t moment);
-  /// Nothing can be said, or nothing is sent.
-  void Forget() { *this = FollowCheck(); }
-  /// It was more than 10 degrees off for 15 s without coming 3 degrees closer, and has not been within 8
-  /// degrees for 5 s since.
-  bool Stands() const { return m_stands; }
-
- private:
-  std::optional<std::int64_t> m_since;  ///< it is as far off as m_from, or farther
-  double m_from = 0.0;                  ///< [deg]
-  std::optional<std::int64_t> m_near;   ///< it is near since then
-  bool m_stands = false;
-};
 
 /// Sentences that do not leave.
 class OutputCheck {

@@ -18,8 +18,6 @@ constexpr std::int64_t kStoodStill = 3000;    // [ms]; ticks come each second
 constexpr std::int64_t kHeadingHolds = 4000;  // [ms]
 constexpr float kMoves = 2.0F;                // [kn]
 
-double Fold(double angle) { return static_cast<double>(FoldRelative(angle)); }
-
 std::optional<float> ValueOf(const Readings& readings, Quantity what) {
   const Reading* reading = readings.Find(what);
   return reading != nullptr ? std::optional(reading->Value) : std::nullopt;
@@ -35,7 +33,7 @@ void Watch::Restart() {
   m_winds = {};
   m_headings = {};
   m_boatSpeeds = {};
-  m_follow.Forget();
+  m_follow = {};
   m_output.Forget();
   m_trueMean.Clear();
   m_meanAt.reset();
@@ -49,7 +47,7 @@ void Watch::StandstillUntil(const Moment& now) {
   m_latest = now.Steady;
   if (now.Steady - before > kStoodStill) {
     m_ages.StoodStill(now.Steady - before);
-    m_follow.Forget();
+    m_follow.Pause();
     m_output.Forget();
   }
 }
@@ -116,6 +114,15 @@ void Watch::AddDirection(float angle, float speed, bool apparent, const Moment& 
   m_jumps.Add(static_cast<double>(angle) + (heading ? static_cast<double>(data.Heading) : 0.0), now.Steady);
 }
 
+// The compass, where one comes: it shows what the pilot makes of a bearing in any current.
+void Watch::HeadingCame(bool compass, const Moment& now) {
+  if (compass) {
+    m_follow.Heading(m_compass);
+  } else if (m_record.Changed(RecordValue::Heading) && !m_ages.At(Watched::Compass, now).Fresh()) {
+    m_follow.Heading(m_record.Data().Heading);
+  }
+}
+
 void Watch::BoatCame(const Readings& readings) {
   const Origin& from = readings.From();
   const std::int64_t now = from.At.Steady;
@@ -135,23 +142,29 @@ void Watch::BoatCame(const Readings& readings) {
   if (const auto speed = ValueOf(readings, Quantity::SpeedThroughWater)) {
     m_boatSpeeds.Add(from.Talker, {std::nullopt, speed}, now);
   }
+  bool compass = false;
   if (ValueOf(readings, Quantity::HeadingTrue) && m_record.Changed(RecordValue::Heading)) {
     m_ages.Came(Watched::Compass, from);
     m_compass = m_record.Data().Heading;
+    compass = true;
   }
   if (const auto heading = ValueOf(readings, Quantity::Heading)) {
     m_headings.Add(from.Talker, {heading, std::nullopt}, now);
     if (m_headings.IsFirst(from.Talker, now)) {
       m_ages.Came(Watched::Compass, from);
       m_compass = *heading;
+      compass = true;
     }
   }
+  HeadingCame(compass, from.At);
 }
 
-void Watch::Step(const LoopStep& step, std::size_t bytes, const Moment& now) {
-  if (bytes > 0) {
-    m_output.Built(bytes, now.Steady);
-  }
+void Watch::Built(std::size_t bytes, const Moment& now) {
+  m_output.Built(bytes, now.Steady);
+  m_follow.Sent(m_settings.m_fAutoPilot);
+}
+
+void Watch::Step(const LoopStep& step) {
   if (step.Rings == LoopStep::Alarm::Raised) {
     m_offCourse = step.AlarmError;
   } else if (step.Rings == LoopStep::Alarm::Over) {
@@ -207,6 +220,8 @@ bool Watch::Look(const Around& around, const Moment& now) {
   m_now.Side = around.Side;
   m_now.Act = m_settings.m_bWatchAct;
   m_now.Acts = around.Acts;
+  m_now.Follow = m_follow.Verdict();
+  m_now.PilotOffset = m_follow.Offset();
   for (std::size_t what = 0; what < kWatchedCount; ++what) {
     m_now.Values[what] = m_ages.At(static_cast<Watched>(what), now);
   }
@@ -226,19 +241,17 @@ void Watch::AgeComputedWind() {
 
 void Watch::LookAtPilot(const Around& around, const Moment& now) {
   if (!Sends() || m_settings.m_bSimulate) {
-    m_follow.Forget();
+    m_follow.Pause();
     m_output.Forget();
     return;
   }
   m_output.Look(around.OutputOpen, around.Sent, around.BaudRate, now.Steady);
   const bool compass = m_ages.At(Watched::Compass, now).Fresh();
   if (m_output.Lost() || (!compass && !m_ages.At(Watched::Heading, now).Fresh())) {
-    m_follow.Forget();
+    m_follow.Pause();
     return;
   }
-  const float heading = compass ? m_compass : m_record.Data().Heading;
-  m_follow.Look(Fold(static_cast<double>(m_settings.m_fAutoPilot) - static_cast<double>(heading)),
-                now.Steady);
+  m_follow.Look(now.Steady);
 }
 
 void Watch::LookAtStern(const Around& around, const Moment& now) {
@@ -287,8 +300,10 @@ void Watch::LookAtSteering(const Around& around, Findings& found) const {
     at(Condition::PilotLost) = {true, Level::Red, Watched::Heading,
                                 static_cast<double>(m_settings.m_iPilotPort)};
   }
-  if (m_follow.Stands()) {
-    at(Condition::PilotNotFollowing) = {true, Level::Red, Watched::Heading};
+  if (m_follow.Fails()) {
+    Finding& pilot = at(Condition::PilotNotFollowing);
+    pilot = {true, Level::Red, Watched::Heading};
+    pilot.Follow = m_follow.Verdict();
   }
   if (m_gybe || around.Gybing) {
     at(Condition::GybeRisk) = {true, Level::Red, Watched::WindTrue};
@@ -353,7 +368,7 @@ bool Watch::Keep(const Findings& found, const Moment& now) {
     if (found[i].Stands) {
       m_now.All[m_now.Count++] = {what,           found[i].Rank,   stood ? stood->Since : now,
                                   found[i].Value, found[i].Figure, found[i].Talkers,
-                                  found[i].Lift};
+                                  found[i].Lift,  found[i].Follow};
     }
   }
   std::sort(m_now.All.begin(), m_now.All.begin() + static_cast<std::ptrdiff_t>(m_now.Count),

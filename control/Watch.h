@@ -9,6 +9,7 @@
 
 #include "control/Freshness.h"
 #include "control/PilotChecks.h"
+#include "control/PilotFollow.h"
 #include "control/TrackLoop.h"
 #include "control/WatchNow.h"
 #include "control/WindChecks.h"
@@ -47,8 +48,10 @@ class Watch {
   void Sentence(const Readings& readings);
   /// The simulator has brought everything at `now`.
   void Simulated(const Moment& now);
-  /// The loop has made a pass at `now`, and a sentence of `bytes` was built, 0 for none.
-  void Step(const LoopStep& step, std::size_t bytes, const Moment& now);
+  /// The loop has made a pass.
+  void Step(const LoopStep& step);
+  /// A sentence of `bytes` characters with the bearing of the settings was built at `now`.
+  void Built(std::size_t bytes, const Moment& now);
   /// The alarm of the loop was withdrawn.
   void AlarmOver() { m_offCourse.reset(); }
 
@@ -65,7 +68,7 @@ class Watch {
   /// The true wind comes from dead astern or across the stern, by the latest look.
   bool GybeRisk() const { return m_gybe; }
   /// By the latest look.
-  bool Following() const { return !m_follow.Stands(); }
+  bool Following() const { return !m_follow.Fails(); }
   bool OutputLost() const { return m_output.Lost(); }
   /// The vane is not stuck.
   bool WindChanges() const { return !m_unchanged.Stands(); }
@@ -84,12 +87,14 @@ class Watch {
     double Figure = 0.0;
     std::array<Talker, 2> Talkers{};
     bool Lift = false;
+    FollowVerdict Follow = FollowVerdict::Unknown;
   };
   using Findings = std::array<Finding, kConditionCount>;
 
   void StandstillUntil(const Moment& now);
   void WindCame(const Readings& readings, bool apparent);
   void BoatCame(const Readings& readings);
+  void HeadingCame(bool compass, const Moment& now);
   void AddTrueWind(const Moment& now);
   void AddDirection(float angle, float speed, bool apparent, const Moment& now);
   void AgeComputedWind();
@@ -113,7 +118,7 @@ class Watch {
   TalkerCheck m_winds;
   TalkerCheck m_headings;
   TalkerCheck m_boatSpeeds;
-  FollowCheck m_follow;
+  PilotFollow m_follow;
   OutputCheck m_output;
   WindMean m_trueMean;
   std::optional<std::int64_t> m_meanAt;   ///< when it took a wind last [ms of the steady clock]

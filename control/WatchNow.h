@@ -5,9 +5,11 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 
 #include "control/Freshness.h"
+#include "control/PilotFollow.h"
 #include "platform/Clock.h"
 #include "settings/TrackMode.h"
 
@@ -56,6 +58,7 @@ struct Standing {
   double Figure = 0.0;
   std::array<Talker, 2> Talkers{};  ///< of TwoWinds, TwoHeadings, TwoBoatSpeeds
   bool Lift = false;                ///< of WindShift: the wind comes from further aft; else further ahead
+  FollowVerdict Follow = FollowVerdict::Unknown;  ///< of PilotNotFollowing
 };
 
 struct WatchNow {
@@ -64,6 +67,8 @@ struct WatchNow {
   TrackSide Side = TrackSide::Apparent;  ///< the tracked side
   bool Act = false;                      ///< the watch holds back what is lost, and does not only tell
   bool Acts = false;                     ///< it does so at this moment
+  FollowVerdict Follow = FollowVerdict::Unknown;  ///< what the pilot makes of the bearings
+  std::optional<double> PilotOffset;              ///< PilotFollow::Offset
   std::array<ValueAge, kWatchedCount> Values{};
   std::array<Standing, kConditionCount> All{};
   std::size_t Count = 0;

@@ -166,8 +166,11 @@ void Helm::Feed(const Dispatcher::Outcome& outcome) {
 }
 
 void Helm::Keep(const Pass& pass, const Moment& now) {
+  if (!pass.Sentence.empty() && !m_settings.m_bSimulate) {
+    m_watch.Built(pass.Sentence.size(), now);
+  }
   if (pass.Step.Ran) {
-    m_watch.Step(pass.Step, m_settings.m_bSimulate ? 0 : pass.Sentence.size(), now);
+    m_watch.Step(pass.Step);
     Explain(pass, now);
   }
 }

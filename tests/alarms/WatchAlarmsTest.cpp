@@ -43,7 +43,11 @@ TEST(WatchText, IsReadAcrossTheCabin) {
   two.Talkers = {Talker{'W', 'I'}, Talker{'I', 'I'}};
   EXPECT_EQ(WatchText(two), "2 Wind Sources (WI, II)");
   EXPECT_EQ(WatchText(Of(Condition::WindJumps, Level::Amber)), "Wind Jumps");
-  EXPECT_EQ(WatchText(Of(Condition::PilotNotFollowing, Level::Red)), "Pilot Not Following");
+  Standing pilot = Of(Condition::PilotNotFollowing, Level::Red);
+  pilot.Follow = FollowVerdict::DoesNotFollow;
+  EXPECT_EQ(WatchText(pilot), "Pilot: Does not follow");
+  pilot.Follow = FollowVerdict::TurnsAway;
+  EXPECT_EQ(WatchText(pilot), "Pilot: Turns the wrong way");
   EXPECT_EQ(WatchText(Of(Condition::PilotLost, Level::Red, 0, 2.0)), "Pilot Lost - Output Port 2");
   EXPECT_EQ(WatchText(Of(Condition::GybeRisk, Level::Red)), "Gybe Risk");
   EXPECT_EQ(WatchText(Of(Condition::OffCourse, Level::Amber, 0, 30.2)), "Off Course 30");

@@ -46,7 +46,8 @@ struct Fault {
   double WindRate = 2.0;        ///< winds a second
   bool TrueWindSensor = false;  ///< the instruments send a true wind, too
   double Lasts = 14.0;          ///< [s]
-  bool Goes = true;             ///< the text goes when the fault is over
+  /// The text goes when the fault is over; nothing where a newer one may stand in its place.
+  std::optional<bool> Goes = true;
   double MostOff = 25.0;        ///< of the held angle, on the boat [deg]
   bool OutputFromStart = true;  ///< the pilot's port is there
 };

@@ -220,7 +220,7 @@ std::vector<Fault> PilotFaults() {
   std::vector<Fault> faults;
   const auto add = [&faults](Fault fault) { faults.push_back(std::move(fault)); };
 
-  Fault standby{"the pilot is in standby, the wheel 20 degrees off", "Pilot Not Following", 21.0};
+  Fault standby{"the pilot is in standby, the wheel 20 degrees off", "Pilot: Does not follow", 21.0};
   standby.Begins = [](FaultRun& run) {
     run.Boat().PilotStandby(std::fmod(run.Boat().State().Compass + 20.0, 360.0));
   };
@@ -229,7 +229,7 @@ std::vector<Fault> PilotFaults() {
   standby.MostOff = 40.0;
   add(standby);
 
-  Fault refuses{"the pilot takes no bearing, the wind shifts", "Pilot Not Following", 24.0};
+  Fault refuses{"the pilot takes no bearing, the wind shifts", "Pilot: Does not follow", 24.0};
   refuses.Begins = [](FaultRun& run) {
     run.Boat().Set().Pilot.Refuses = true;
     run.Boat().Set().WindFrom += 30.0;
@@ -239,7 +239,7 @@ std::vector<Fault> PilotFaults() {
   refuses.MostOff = 60.0;
   add(refuses);
 
-  Fault reversed{"the pilot turns the wrong way", "Pilot Not Following", 30.0};
+  Fault reversed{"the pilot turns the wrong way", "Pilot: Turns the wrong way", 30.0};
   reversed.Begins = [](FaultRun& run) {
     run.Boat().Set().Pilot.Reversed = true;
     run.Boat().Set().WindFrom += 20.0;
@@ -247,7 +247,7 @@ std::vector<Fault> PilotFaults() {
   reversed.Ends = [](FaultRun& run) { run.Boat().Set().Pilot.Reversed = false; };
   reversed.Lasts = 36.0;
   reversed.MostOff = 180.0;
-  reversed.Goes = false;
+  reversed.Goes.reset();
   add(reversed);
   return faults;
 }

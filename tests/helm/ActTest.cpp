@@ -207,7 +207,7 @@ TEST_F(HelmAct, APilotThatDoesNotFollowLetsNothingAddUp) {
   EXPECT_EQ(m_helm.Loop().TrackIntegral(), integral);
   EXPECT_EQ(Sent(), 30U) << "the pilot goes on to be told";
   Heading = "$HCHDG," + ShortestText(bearing) + ",,,5.0,W";
-  Sail(8);
+  Sail(12);
   EXPECT_FALSE(Stands(Condition::PilotNotFollowing));
   EXPECT_NE(Bearing(), bearing);
 }

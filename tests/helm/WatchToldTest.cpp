@@ -248,17 +248,38 @@ TEST_F(WatchedTrack, LeapingWindsAreTold) {
   EXPECT_NE(Latest().Find(Condition::WindJumps), nullptr);
 }
 
-TEST_F(WatchedTrack, APilotThatDoesNotFollowIsToldWithinSixteenSeconds) {
+TEST_F(WatchedTrack, APilotThatDoesNotFollowIsToldWithinTwelveSeconds) {
   Track(TrackSide::Apparent);
   m_helm.Modes().TrackSetManual();
-  m_helm.UserSteersTo(51.0);
-  EXPECT_LE(Until(Condition::PilotNotFollowing), 16);
+  Sail(1);
+  EXPECT_EQ(Latest().Follow, FollowVerdict::Follows);
+  m_helm.UserSteersTo(56.0);
+  EXPECT_LE(Until(Condition::PilotNotFollowing), 12);
   EXPECT_EQ(Latest().Find(Condition::PilotNotFollowing)->Rank, Level::Red);
-  m_helm.UserSteersTo(41.0);
-  Sail(5);
+  EXPECT_EQ(Latest().Find(Condition::PilotNotFollowing)->Follow, FollowVerdict::DoesNotFollow);
+  EXPECT_EQ(Latest().Follow, FollowVerdict::DoesNotFollow);
+  m_helm.UserSteersTo(49.0);
+  Sail(3);
   EXPECT_NE(Latest().Find(Condition::PilotNotFollowing), nullptr);
   Sail(1);
   EXPECT_EQ(Latest().Find(Condition::PilotNotFollowing), nullptr);
+  m_helm.Modes().TrackSetSetup();
+  EXPECT_EQ(Latest().Follow, FollowVerdict::Unknown) << "nothing is sent";
+}
+
+TEST_F(WatchedTrack, WithoutAHeadingNothingIsSaidOfThePilot) {
+  Track(TrackSide::Apparent);
+  m_helm.Modes().TrackSetManual();
+  m_helm.UserSteersTo(90.0);
+  Until(Condition::PilotNotFollowing);
+  ASSERT_EQ(Latest().Follow, FollowVerdict::DoesNotFollow);
+  Heading.clear();
+  Sail(6);
+  for (int second = 0; second < 60; ++second) {
+    EXPECT_EQ(Latest().Follow, FollowVerdict::Unknown) << second;
+    EXPECT_EQ(Latest().Find(Condition::PilotNotFollowing), nullptr) << second;
+    Sail(1);
+  }
 }
 
 TEST_F(WatchedTrack, TheCompassShowsWhetherThePilotFollowsAlsoWhereTheCourseIsTheHeading) {
