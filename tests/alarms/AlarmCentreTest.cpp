@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace veerwatch {
 namespace {
 
@@ -24,6 +28,23 @@ TEST(AlarmCentre, ShowTheMostImportantOneAndCountTheOthers) {
   EXPECT_EQ(notices.Texts(), (std::vector<std::string>{"save", "profile", "source"}));
   notices.Set(AlarmKind::Save, "");
   EXPECT_EQ(notices.Line(), "profile +1 more");
+}
+
+TEST(AlarmCentre, ARecordingThatHasEndedComesAfterWhatSteers) {
+  AlarmCentre notices;
+  notices.Set(AlarmKind::Record, "record");
+  EXPECT_EQ(notices.Line(), "record");
+  for (const auto& [kind, text] :
+       {std::pair(AlarmKind::Source, "source"), std::pair(AlarmKind::Profile, "profile"),
+        std::pair(AlarmKind::Save, "save")}) {
+    notices.Set(kind, text);
+    EXPECT_EQ(notices.Texts().front(), text);
+    EXPECT_EQ(notices.Texts().back(), "record");
+  }
+  EXPECT_EQ(notices.Entries().back().Does, "Records no more, and goes on with everything else");
+  EXPECT_EQ(notices.Entries().back().Remedy, "Make room on the disk, then File > Record Input...");
+  notices.Set(AlarmKind::Record, "");
+  EXPECT_EQ(notices.Texts().back(), "source");
 }
 
 TEST(AlarmCentre, ThatWereReadStayAwayUntilTheySayAnotherThing) {
