@@ -15,6 +15,17 @@ std::uint64_t AllocationCount() { return g_count; }
 
 }  // namespace veerwatch
 
+#if defined(__GLIBC__) && !defined(VEERWATCH_SANITIZED)
+
+// operator new comes here, too.
+extern "C" void* __libc_malloc(std::size_t size);
+extern "C" void* malloc(std::size_t size) {
+  ++g_count;
+  return __libc_malloc(size);
+}
+
+#else
+
 void* operator new(std::size_t size) {
   ++g_count;
   if (void* memory = std::malloc(size == 0 ? 1 : size)) {
@@ -25,3 +36,5 @@ void* operator new(std::size_t size) {
 
 void operator delete(void* memory) noexcept { std::free(memory); }
 void operator delete(void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
+
+#endif

@@ -5,7 +5,8 @@
 
 namespace veerwatch {
 
-/// Calls of operator new since the program began.
+/// Allocations since the program began: what every library takes where the C library is GNU's and no
+/// sanitizer looks on, else the calls of operator new.
 std::uint64_t AllocationCount();
 
 }  // namespace veerwatch

@@ -75,6 +75,7 @@ class Caller {
   Caller& operator=(const Caller&) = delete;
 
   bool Connected() const { return m_connected; }
+  int Socket() const { return m_socket; }
 
   /// Everything that has come.
   const std::string& Heard() {

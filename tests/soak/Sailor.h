@@ -60,7 +60,7 @@ class Sailor {
       const std::size_t end = m_program.Said().find('\n', m_read);
       const std::string line = m_program.Said().substr(m_read, end - m_read);
       m_read = end + 1;
-      for (const std::string_view word : {"ready", "clicked ", "delays ", "no "}) {
+      for (const std::string_view word : {"ready", "clicked ", "typed ", "delays ", "no "}) {
         if (line.starts_with(word)) {
           return line;
         }
