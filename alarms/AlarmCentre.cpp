@@ -35,6 +35,10 @@ AlarmEntry NoticeEntry(AlarmKind kind, const std::string& text) {
       entry.Does = "Records no more, and goes on with everything else";
       entry.Remedy = "Make room on the disk, then File > Record Input...";
       break;
+    case AlarmKind::Wind:
+      entry.Does = "Holds the angle that stands in the desired box";
+      entry.Remedy = "Options > Wind";
+      break;
   }
   return entry;
 }

@@ -22,6 +22,7 @@ enum class AlarmKind {
   Profile,  ///< the profile could not be read
   Source,   ///< a source of data that brings nothing
   Record,   ///< a recording that has ended by itself
+  Wind,     ///< what a wind function did by itself
 };
 
 /// One line of the list.

@@ -143,11 +143,26 @@ void OtherWindowsQt::OnPilotHeading(float bearing) {
 
 // The polar window
 
-void OtherWindowsQt::PolarShow() {
+frmPolar& OtherWindowsQt::Polar() {
   if (!m_polar) {
     m_polar = std::make_unique<frmPolar>(PolarParts{m_parts.Store, m_parts.Asks, *this, m_parts.Polars});
     m_polar->setWindowIcon(ProgramIcon());
   }
+  return *m_polar;
+}
+
+std::optional<BestCourse> OtherWindowsQt::BestAngleOf(double windSpeed, bool upwind) {
+  const PolarModel& polar = Polar().Model();
+  const BestAngles& best = m_best.Of(polar.Table(), polar.Version(), static_cast<float>(windSpeed));
+  const std::optional<BestAngle>& found = upwind ? best.Upwind : best.Downwind;
+  if (!found) {
+    return std::nullopt;
+  }
+  return BestCourse{static_cast<double>(found->Angle), IsLastAngle(polar.Table(), found->Angle)};
+}
+
+void OtherWindowsQt::PolarShow() {
+  Polar();
   FadePolar();
   BringUp(*m_polar);
   m_menu.mnuViewPolar->setChecked(true);

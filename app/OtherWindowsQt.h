@@ -21,9 +21,11 @@
 #include "helm/WindRecorder.h"
 #include "history/frmHistory.h"
 #include "options/frmOptions.h"
+#include "polar/BestAngles.h"
 #include "polar/PolarObserver.h"
 #include "polar/frmPolar.h"
 #include "tack/frmTack.h"
+#include "wind/PolarAngle.h"
 
 namespace veerwatch {
 
@@ -57,6 +59,9 @@ class OtherWindowsQt final : private HelmObserver,
   bool HistoryVisible() const override { return m_history && m_history->isVisible(); }
   void PolarShow() override;
   void OnManoeuvre(TurnButton button, float newHeading, float heading, float windAngleTrue) override;
+  /// The best angle of the opened polar in a true wind of `windSpeed` [kn]; opens the polar of the profile
+  /// where the window was not shown yet.
+  std::optional<BestCourse> BestAngleOf(double windSpeed, bool upwind);
   bool PolarVisible() const override { return m_polar && m_polar->isVisible(); }
 
   /// Shows the settings in the options dialog, where it is loaded.
@@ -67,6 +72,7 @@ class OtherWindowsQt final : private HelmObserver,
  private:
   frmHistory& History();
 
+  frmPolar& Polar();
   frmTack& Tack();
   TurnNow ManoeuvreNow() const;
 
@@ -112,6 +118,7 @@ class OtherWindowsQt final : private HelmObserver,
   WatchNow m_watch;                       ///< what the watch said last
   std::unique_ptr<frmHistory> m_history;  ///< from the first value on
   std::unique_ptr<frmPolar> m_polar;      ///< null until it is shown for the first time
+  BestAnglesMemory m_best;
   std::unique_ptr<frmTack> m_tack;        ///< the same
   std::optional<TurnButton> m_asked;      ///< the button that the manoeuvre was asked for with
   std::unique_ptr<frmOptions> m_options;  ///< from its first use on, until its frame is closed

@@ -74,7 +74,9 @@ frmMain::frmMain(const MainWindowParts& parts)
       m_others(m_parts, m_menu, *this, this),
       m_alarms(m_parts, m_menu, *this, *m_panel->Banner, *this),
       m_recording(m_parts, m_menu, m_helm, *m_asks, *statusBar(),
-                  [this](const std::string& text) { NoticeSet(AlarmKind::Record, text); }) {
+                  [this](const std::string& text) { NoticeSet(AlarmKind::Record, text); }),
+      m_windMenu(*this, m_menu, *this, m_helm,
+                 [this](const std::string& text) { NoticeSet(AlarmKind::Wind, text); }) {
   setObjectName(QStringLiteral("frmMain"));
   setWindowTitle(QString::fromLatin1(kApplicationTitle));
   setWindowIcon(ProgramIcon());
@@ -85,6 +87,8 @@ frmMain::frmMain(const MainWindowParts& parts)
     size = size.boundedTo(display->availableSize() * kScreenShare);
   }
   resize(size);
+  m_helm.Functions().Polar(
+      [this](double windSpeed, bool upwind) { return m_others.BestAngleOf(windSpeed, upwind); });
   MakeStatusBar();
   ConnectControls();
   ConnectKeys();
@@ -189,6 +193,7 @@ void frmMain::ProfileRecall(bool recall) {
   }
   m_menu.mnuViewNight->setChecked(m_bNightColours);
   m_menu.mnuViewSave->setChecked(m_bSaveWhileRunning);
+  m_windMenu.Reload();
   m_panel->txtAutoPilot->Show(Number(m_fAutoPilot, "0.0"));
   for (int index = 1; index <= 2; ++index) {
     m_panel->txtDesired[At(index)]->Show(Number(DesiredAngle[static_cast<std::size_t>(index)], "0"));

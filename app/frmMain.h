@@ -20,6 +20,7 @@
 #include "app/SaveWatch.h"
 #include "app/SentAge.h"
 #include "app/StatusPanelsQt.h"
+#include "app/WindMenuQt.h"
 #include "app/frmMainCommands.h"
 #include "helm/Helm.h"
 #include "helm/MainWindowApi.h"
@@ -164,6 +165,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   OtherWindowsQt m_others;
   AlarmDeskQt m_alarms;
   RecordingQt m_recording;
+  WindMenuQt m_windMenu;
   bool m_ask = true;            ///< a close still has to ask
   QString m_instead;            ///< shown in place of the mode: why Track was refused, or a turn has ended
   QTimer m_insteadTimer{this};  ///< ends what is said about a turn

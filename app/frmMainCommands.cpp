@@ -42,6 +42,14 @@ QAction* Command(QMainWindow& window, QMenu* menu, const char* name, const char*
   return action;
 }
 
+/// A new command that is on or off.
+QAction* Tick(QMainWindow& window, QMenu* menu, const char* name, const char* text, const char* toolTip) {
+  QAction* action = Command(window, menu, name, text);
+  action->setCheckable(true);
+  action->setToolTip(QLatin1String(toolTip));
+  return action;
+}
+
 }  // namespace
 
 frmMainMenu::frmMainMenu(QMainWindow& window) {
@@ -78,6 +86,8 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   mnuOptionsTrack = Command(window, options, "mnuOptionsTrack", "&Tracking...");
   mnuOptionsSimulate = Command(window, options, "mnuOptionsSimulate", "&Simulate...");
   mnuOptionsWatch = Command(window, options, "mnuOptionsWatch", "&Watch...");
+  options->addSeparator();
+  AddWind(window, options);
   QMenu* help = window.menuBar()->addMenu(QStringLiteral("&Help"));
   mnuHelpManual = Command(window, help, "mnuHelpManual", "&Manual");
   mnuHelpManual->setShortcut(QKeySequence(Qt::Key_F1));
@@ -86,6 +96,26 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   help->addSeparator();
   mnuHelpDiagram = Command(window, help, "mnuHelpDiagram", "&Block Diagram...");
   mnuHelpAbout = Command(window, help, "mnuHelpAbout", "&About...");
+}
+
+void frmMainMenu::AddWind(QMainWindow& window, QMenu* options) {
+  QMenu* wind = options->addMenu(QStringLiteral("Wi&nd"));
+  wind->setToolTipsVisible(true);
+  mnuWindGuard = Tick(window, wind, "mnuWindGuard", "Angle &Guard",
+                      "Track keeps the boat from pinching and from an accidental gybe");
+  mnuWindShift = Tick(window, wind, "mnuWindShift", "&Shift Alarm",
+                      "A lasting shift of the true wind since the angle was set is told");
+  mnuWindSide =
+      Tick(window, wind, "mnuWindSide", "Apparent &Upwind, True Downwind",
+           "Track holds the apparent wind below 70 degrees of true wind angle and the true one beyond 80");
+  mnuWindPolar = Tick(window, wind, "mnuWindPolar", "&Polar Angle",
+                      "Track holds the best angle of the opened polar, to windward or to leeward");
+  mnuWindDodge = Tick(window, wind, "mnuWindDodge", "&Dodge Keys",
+                      "Ctrl+Left and Ctrl+Right steer off by 10 degrees in Track, Ctrl+Up back");
+  wind->addSeparator();
+  mnuWindLast = Command(window, wind, "mnuWindLast", "&Last Angle");
+  mnuWindLast->setToolTip(QStringLiteral("The angle before the latest change of more than 10 degrees"));
+  mnuWindLimits = Command(window, wind, "mnuWindLimits", "Li&mits...");
 }
 
 frmMainModeBar::frmMainModeBar(QMainWindow& window) : QToolBar(&window), m_theme(window.palette()) {

@@ -29,12 +29,22 @@ struct frmMainMenu {
   QAction* mnuOptionsTrack;
   QAction* mnuOptionsSimulate;
   QAction* mnuOptionsWatch;
+  QAction* mnuWindGuard;
+  QAction* mnuWindShift;
+  QAction* mnuWindSide;
+  QAction* mnuWindPolar;
+  QAction* mnuWindDodge;
+  QAction* mnuWindLast;
+  QAction* mnuWindLimits;
   QAction* mnuHelpManual;
   QAction* mnuHelpDiagram;
   QAction* mnuHelpAbout;
 
   /// Adds the menu to the menu bar of `window`.
   explicit frmMainMenu(QMainWindow& window);
+
+ private:
+  void AddWind(QMainWindow& window, QMenu* options);
 };
 
 /// Size at which the window starts where the screen allows [px].

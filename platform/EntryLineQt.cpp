@@ -1,6 +1,7 @@
 #include "platform/EntryLineQt.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <algorithm>
@@ -29,6 +30,18 @@ void EntryLineQt::Show(const QString& text) {
   }
   setModified(false);
   update();
+}
+
+bool EntryLineQt::event(QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) {
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const bool arrow = key->key() == Qt::Key_Left || key->key() == Qt::Key_Right || key->key() == Qt::Key_Up;
+    if (arrow && (key->modifiers() & Qt::KeyboardModifierMask & ~Qt::KeypadModifier) == Qt::ControlModifier) {
+      event->ignore();
+      return true;
+    }
+  }
+  return QLineEdit::event(event);
 }
 
 void EntryLineQt::focusInEvent(QFocusEvent* event) {

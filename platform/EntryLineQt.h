@@ -24,6 +24,8 @@ class EntryLineQt : public QLineEdit {
   bool Edited() const { return isModified() || text() != m_shown; }
 
  protected:
+  /// Ctrl with an arrow belongs to the window, where it has a use for it.
+  bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;

@@ -1,5 +1,6 @@
 #include "polar/BestAngles.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "instruments/MathLib.h"
@@ -24,6 +25,30 @@ BestAngles FindBestAngles(const PolarTable& table, float windSpeed) {
     take(best.Downwind, angle, -along);
   }
   return best;
+}
+
+bool IsLastAngle(const PolarTable& table, float angle) {
+  constexpr float kStern = 180.0F;
+  constexpr float kHalfATenth = 0.051F;
+  const int rows = table.PolarRows(0);
+  if (rows < 1) {
+    return false;
+  }
+  const float first = table.Value(0, 1, 0);
+  const float last = table.Value(0, rows, 0);
+  const auto isAt = [angle](float end) { return std::fabs(angle - end) < kHalfATenth; };
+  return (first > 0.0F && isAt(first)) || (last < kStern && isAt(last));
+}
+
+const BestAngles& BestAnglesMemory::Of(const PolarTable& table, std::uint64_t version, float windSpeed) {
+  constexpr double kTenths = 10.0;
+  const long wind = std::lround(std::clamp(static_cast<double>(windSpeed), 0.0, 1000.0) * kTenths);
+  if (m_wind != wind || m_version != version) {
+    m_best = FindBestAngles(table, ToSingle(static_cast<double>(wind) / kTenths));
+    m_wind = wind;
+    m_version = version;
+  }
+  return m_best;
 }
 
 }  // namespace veerwatch

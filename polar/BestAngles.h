@@ -1,6 +1,7 @@
 // The wind angles at which a polar makes the most way to windward and to leeward.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include "polar/PolarTable.h"
@@ -19,5 +20,21 @@ struct BestAngles {
 
 /// For slot 0 in a wind of `windSpeed` [kn]; of equal angles the one nearest to the bow.
 BestAngles FindBestAngles(const PolarTable& table, float windSpeed);
+
+/// Whether the table of slot 0 ends at `angle` [deg, [0, 180]]: a best angle there may only be the best of
+/// the table. The bow and the stern are no end.
+bool IsLastAngle(const PolarTable& table, float angle);
+
+/// Keeps the best angles while table and wind are the same to a tenth of a knot.
+class BestAnglesMemory {
+ public:
+  /// `version` grows with every change of the table.
+  const BestAngles& Of(const PolarTable& table, std::uint64_t version, float windSpeed);
+
+ private:
+  std::uint64_t m_version = 0;
+  std::optional<long> m_wind;  ///< [tenths of a knot]
+  BestAngles m_best;
+};
 
 }  // namespace veerwatch

@@ -22,8 +22,8 @@ void PolarAngle::Begin(double angle) {
   m_first = true;
 }
 
-std::optional<PolarAngle::Answer> PolarAngle::Step(const BestCourseSource& polar, const Sample& sample,
-                                                   double seconds) {
+std::optional<PolarAngle::Answer> PolarAngle::Step(const BestCourseSource& polar, double largest,
+                                                   const Sample& sample, double seconds) {
   const double weight = std::exchange(m_first, false) ? 1.0 : 1.0 - std::exp(-seconds / kSpeedTime);
   m_windSpeed += (sample.WindSpeed - m_windSpeed) * weight;
   m_boatSpeed += (sample.BoatSpeed - m_boatSpeed) * weight;
@@ -31,7 +31,7 @@ std::optional<PolarAngle::Answer> PolarAngle::Step(const BestCourseSource& polar
   if (!best || !std::isfinite(best->Angle)) {
     return std::nullopt;
   }
-  double goal = best->Angle;
+  double goal = std::min(best->Angle, largest);
   if (sample.Side == TrackSide::Apparent) {
     float speed = 0.0F;
     float angle = 0.0F;

@@ -35,8 +35,10 @@ class PolarAngle {
     double Held = 0.0;    ///< angle of the tracked side to hold now [deg relative]
     bool AtEdge = false;  ///< the polar's table ends at the best angle
   };
-  /// `seconds` [s, [0, 2]] after the call before. Nothing where the polar has no best angle.
-  std::optional<Answer> Step(const BestCourseSource& polar, const Sample& sample, double seconds);
+  /// `seconds` [s, [0, 2]] after the call before; the best angle goes no further from the true wind than
+  /// `largest` [deg]. Nothing where the polar has no best angle.
+  std::optional<Answer> Step(const BestCourseSource& polar, double largest, const Sample& sample,
+                             double seconds);
 
   bool Upwind() const { return m_upwind; }
   /// The true wind that the polar is asked for [kn].

@@ -123,7 +123,7 @@ void WindFunctions::StepPolar(double seconds, Did& did) {
   }
   const InstrumentData& data = m_record.Data();
   const auto answer =
-      m_polar.Step(m_polarSource,
+      m_polar.Step(m_polarSource, static_cast<double>(m_settings.m_fWindLargestTrue),
                    {static_cast<double>(data.WindSpeedTrue), static_cast<double>(data.BoatSpeed),
                     m_loop.Side(), static_cast<double>(Held(m_loop.Side()))},
                    seconds);

@@ -56,6 +56,8 @@ class WindFunctions {
   bool CanDodgeBack() const { return Tracks() && m_angles.Away().has_value(); }
   bool CanLastAngle() const { return Tracks() && m_angles.Last().has_value(); }
 
+  /// The polar's angle, as of the latest pass.
+  const PolarAngle& PolarNow() const { return m_polar; }
   /// What the guard kept the boat from, in the last ten seconds.
   AngleGuard::Risk Risk(const Moment& now) const;
   /// The shift that stands [deg, positive to starboard].

@@ -37,6 +37,31 @@ TEST(FindBestAngles, LooksHeadToWindToo) {
   EXPECT_EQ(best.Upwind->MadeGood, 9.0F);
 }
 
+TEST(IsLastAngle, KnowsBothEndsOfTheTable) {
+  const PolarTable table = TableOf("TWA\t5\t20\n40\t6\t6\n90\t6\t6\n150\t8\t8\n");
+  EXPECT_TRUE(IsLastAngle(table, 40.0F));
+  EXPECT_TRUE(IsLastAngle(table, 150.0F));
+  EXPECT_FALSE(IsLastAngle(table, 40.2F));
+  EXPECT_FALSE(IsLastAngle(table, 90.0F));
+  EXPECT_FALSE(IsLastAngle(PolarTable(), 0.0F));
+}
+
+TEST(IsLastAngle, TakesBowAndSternForNoEnd) {
+  const PolarTable table = TableOf("TWA\t5\t20\n0\t1\t1\n90\t6\t6\n180\t8\t8\n");
+  EXPECT_FALSE(IsLastAngle(table, 0.0F));
+  EXPECT_FALSE(IsLastAngle(table, 180.0F));
+}
+
+TEST(BestAnglesMemory, AsksAnewForAnotherWindOrTable) {
+  PolarTable table = TableOf("TWA\t5\t20\n40\t6\t6\n90\t6\t9\n180\t6\t6\n");
+  BestAnglesMemory memory;
+  const float light = memory.Of(table, 1, 5.0F).Upwind->MadeGood;
+  table.Value(0, 1, 1) = 3.0F;
+  EXPECT_EQ(memory.Of(table, 1, 5.04F).Upwind->MadeGood, light);
+  EXPECT_LT(memory.Of(table, 2, 5.0F).Upwind->MadeGood, light);
+  EXPECT_GT(memory.Of(table, 2, 20.0F).Upwind->MadeGood, memory.Of(table, 2, 5.0F).Upwind->MadeGood + 0.1F);
+}
+
 TEST(FindBestAngles, FollowsSmoothLookups) {
   PolarTable table = TableOf(kSmallPolar);
   const BestAngles stepped = FindBestAngles(table, 8.0F);
