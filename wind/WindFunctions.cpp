@@ -196,6 +196,9 @@ bool WindFunctions::Dodge(double degrees) {
   }
   const HeldAngles::Angle before = Held();
   m_angles.Holds(before);
+  if (std::signbit(Fold(before.Degrees - degrees)) != std::signbit(before.Degrees)) {
+    return false;
+  }
   if (!m_loop.TrackSteerTo(ToSingle(degrees))) {
     return false;
   }

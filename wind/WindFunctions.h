@@ -47,7 +47,7 @@ class WindFunctions {
 
   // Each is true when it changed what is held and the bearing; only in Track.
 
-  /// Steers off by `degrees` [deg, positive to starboard] until DodgeBack().
+  /// Steers off by `degrees` [deg, positive to starboard] until DodgeBack(), but not through bow or stern.
   bool Dodge(double degrees);
   /// Back to the angle before the dodges.
   bool DodgeBack();

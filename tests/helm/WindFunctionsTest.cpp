@@ -238,6 +238,23 @@ TEST_F(WindFunctionsTest, ADodgeTurnsTheBoatAtOnceAndComesBackExactly) {
   EXPECT_FALSE(m_helm.DodgeBack());
 }
 
+TEST_F(WindFunctionsTest, ADodgeGoesNeitherThroughBowNorStern) {
+  Sail(15.0, 22.0, 20);
+  Track(TrackSide::Apparent);
+  int dodges = 0;
+  while (dodges < 10 && m_helm.Dodge(10.0)) {
+    ++dodges;
+  }
+  EXPECT_EQ(dodges, 2);
+  EXPECT_EQ(m_settings.m_fAutoPilot, 20.0F);
+  EXPECT_GT(Held(TrackSide::Apparent), 0.0F);
+  EXPECT_GT(Held(TrackSide::True), 0.0F);
+  Sail(175.0, 176.0, 20);
+  m_helm.Loop().SetDesired(TrackSide::Apparent, 175.0);
+  EXPECT_FALSE(m_helm.Dodge(-10.0));
+  EXPECT_TRUE(m_helm.Dodge(10.0));
+}
+
 TEST_F(WindFunctionsTest, ADodgeIsForTrackAlone) {
   Sail(40.0, 55.0, 20);
   m_helm.Modes().TrackSetManual();
