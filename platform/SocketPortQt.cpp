@@ -1,8 +1,10 @@
 #include "platform/SocketPortQt.h"
 
 #ifdef Q_OS_LINUX
+#include <linux/sockios.h>
 #include <netinet/in.h>
 #include <netinet/tcp.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 #endif
 
@@ -43,6 +45,21 @@ QHostAddress OwnAddress(const Endpoint& endpoint, std::string& failure) {
     failure = endpoint.Text + ": \"" + endpoint.Host + "\" is no address of this computer";
   }
   return address;
+}
+
+bool TakesMore(const QTcpSocket& connected) {
+  if (connected.bytesToWrite() > 0) {
+    return false;
+  }
+#ifdef Q_OS_LINUX
+  // The system itself would keep megabytes.
+  constexpr int kMostOnItsWay = 512;  // [bytes]
+  int onItsWay = 0;
+  return ::ioctl(static_cast<int>(connected.socketDescriptor()), SIOCOUTQ, &onItsWay) != 0 ||
+         onItsWay <= kMostOnItsWay;
+#else
+  return true;
+#endif
 }
 
 void KeepLink(QTcpSocket& connected) {

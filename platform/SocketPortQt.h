@@ -77,6 +77,10 @@ class SocketPortQt : public EndpointPort {
 /// itself. A host that is no address gives a null address, and `failure` says so.
 QHostAddress OwnAddress(const Endpoint& endpoint, std::string& failure);
 
+/// Whether `connected` takes a bundle at this moment: nothing that the other side has not taken is more than
+/// a few sentences, so that a link that comes through again after a while brings nothing old.
+bool TakesMore(const QTcpSocket& connected);
+
 /// Lets `connected` send at once, and notice after kLinkDead that the other side has gone without a word.
 void KeepLink(QTcpSocket& connected);
 

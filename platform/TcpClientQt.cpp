@@ -113,7 +113,7 @@ void TcpClientQt::Fetch() {
 
 std::size_t TcpClientQt::Write(std::string_view text) {
   // One bundle at a time, so that nothing old waits behind another.
-  if (!Connected() || m_socket.bytesToWrite() > 0) {
+  if (!Connected() || !TakesMore(m_socket)) {
     return 0;
   }
   const qint64 taken = m_socket.write(text.data(), static_cast<qint64>(text.size()));

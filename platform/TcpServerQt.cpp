@@ -102,7 +102,7 @@ std::size_t TcpServerQt::Write(std::string_view text) {
       continue;
     }
     // Nothing old waits in front of something new: who has no room misses it.
-    if (client.Socket->bytesToWrite() > 0) {
+    if (!TakesMore(*client.Socket)) {
       client.Missed += text.size();
       if (client.Missed > kMostMissed) {
         Drop(client);
