@@ -38,12 +38,26 @@ void StatusPanelsQt::Show(int index, const QString& text) {
 }
 
 void StatusPanelsQt::Explain(int index, const QString& reason) {
-  QString toolTip = QLatin1String(kToolTips[At(index)]);
-  if (!reason.isEmpty()) {
-    toolTip += QLatin1Char('\n') + reason;
+  m_reasons[At(index)] = reason;
+  ShowToolTip(At(index));
+}
+
+void StatusPanelsQt::LeadsTo(int index, const QString& endpoints) {
+  if (m_endpoints[At(index)] != endpoints) {
+    m_endpoints[At(index)] = endpoints;
+    ShowToolTip(At(index));
   }
-  m_panels[At(index)]->setToolTip(toolTip);
-  m_panels[At(index)]->setAccessibleDescription(reason);
+}
+
+void StatusPanelsQt::ShowToolTip(std::size_t panel) {
+  QString toolTip = QLatin1String(kToolTips[panel]);
+  for (const QString& line : {m_endpoints[panel], m_reasons[panel]}) {
+    if (!line.isEmpty()) {
+      toolTip += QLatin1Char('\n') + line;
+    }
+  }
+  m_panels[panel]->setToolTip(toolTip);
+  m_panels[panel]->setAccessibleDescription(m_reasons[panel]);
 }
 
 void StatusPanelsQt::Theme(const ThemeQt& theme) {

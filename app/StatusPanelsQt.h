@@ -5,6 +5,7 @@
 #include <QString>
 #include <QWidget>
 #include <array>
+#include <cstddef>
 
 #include "app/PanelControlsQt.h"
 
@@ -19,8 +20,10 @@ class StatusPanelsQt final : public QWidget {
   explicit StatusPanelsQt(QWidget* parent);
 
   void Show(int index, const QString& text);
-  /// A second line of the panel's tool tip; "" for none.
+  /// The last line of the panel's tool tip; "" for none.
   void Explain(int index, const QString& reason);
+  /// Where the panel's port leads, for its tool tip; "" for nowhere.
+  void LeadsTo(int index, const QString& endpoints);
   void Theme(const ThemeQt& theme);
   /// Height of the texts [px].
   void TextHeight(int pixels);
@@ -33,8 +36,11 @@ class StatusPanelsQt final : public QWidget {
 
  private:
   void Place();
+  void ShowToolTip(std::size_t panel);
 
   std::array<CaptionQt*, 3> m_panels{};
+  std::array<QString, 3> m_reasons;
+  std::array<QString, 3> m_endpoints;
 };
 
 }  // namespace veerwatch

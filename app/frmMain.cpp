@@ -18,6 +18,7 @@
 #include "instruments/CompassPoint.h"
 #include "platform/AtomicFile.h"
 #include "platform/NumberText.h"
+#include "platform/PortNames.h"
 #include "platform/VisibleText.h"
 
 namespace veerwatch {
@@ -398,6 +399,11 @@ void frmMain::OnPilotData(std::string_view /*sentence*/) { ShowSent(); }
 void frmMain::OnTick() {
   ShowSent();
   m_status->Explain(StatusPanelsQt::kPilot, Text(TrackSwingsText(m_helm.Loop(), *this)));
+  const auto leads = [this](int port) {
+    return m_bSimulate ? QString() : Text(VisibleText(PortDevice(m_parts.Store, port)));
+  };
+  m_status->LeadsTo(StatusPanelsQt::kInput, leads(m_iNmeaPort));
+  m_status->LeadsTo(StatusPanelsQt::kOutput, leads(m_iPilotPort));
 }
 
 void frmMain::ShowSent() {

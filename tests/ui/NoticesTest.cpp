@@ -80,21 +80,23 @@ TEST_F(MainWindowNotices, KeepTheSystemsReasonWhileThePortIsNotOpen) {
   EXPECT_EQ(Find<QLabel>("StatusBar(2)").toolTip().toStdString(), "Input Data Status\n" + NmeaPort.Failure);
   tmrNmea.Tick(6);
   EXPECT_EQ(Text("StatusBar(2)"), "No Input Data");
-  EXPECT_EQ(Find<QLabel>("StatusBar(2)").toolTip().toStdString(), "Input Data Status\n" + NmeaPort.Failure);
+  EXPECT_EQ(Find<QLabel>("StatusBar(2)").toolTip().toStdString(),
+            "Input Data Status\n/dev/ttyS2\n" + NmeaPort.Failure);
   Find<QAction>("mnuOptionsInput").trigger();
   const auto* reason = Options()->findChild<QLabel*>(QStringLiteral("lblNmeaReason"));
   ASSERT_NE(reason, nullptr);
   EXPECT_TRUE(reason->isVisible());
   EXPECT_EQ(reason->text().toStdString(), NmeaPort.Failure);
   Mode(5);
-  EXPECT_EQ(Find<QLabel>("StatusBar(3)").toolTip().toStdString(), "Output Data Status\n" + PilotPort.Failure);
+  EXPECT_EQ(Find<QLabel>("StatusBar(3)").toolTip().toStdString(),
+            "Output Data Status\n/dev/ttyS3\n" + PilotPort.Failure);
   EXPECT_EQ(Options()->findChild<QLabel*>(QStringLiteral("lblPilotReason"))->text().toStdString(),
             PilotPort.Failure);
   NmeaPort.OpensOtherwise = true;
   PilotPort.OpensOtherwise = true;
   tmrNmea.Tick(4);
-  EXPECT_EQ(Find<QLabel>("StatusBar(2)").toolTip(), "Input Data Status");
-  EXPECT_EQ(Find<QLabel>("StatusBar(3)").toolTip(), "Output Data Status");
+  EXPECT_EQ(Find<QLabel>("StatusBar(2)").toolTip(), "Input Data Status\n/dev/ttyS2");
+  EXPECT_EQ(Find<QLabel>("StatusBar(3)").toolTip(), "Output Data Status\n/dev/ttyS3");
   EXPECT_FALSE(reason->isVisible());
 }
 
