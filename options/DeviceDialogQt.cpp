@@ -13,9 +13,9 @@ namespace veerwatch {
 namespace {
 
 constexpr int kLookInterval = 1000;  // [ms]
-/// What the dialog is wide and high for [characters and lines].
+/// What the list is wide for, and high at least [characters and lines].
 constexpr int kWidth = 84;
-constexpr int kRows = 9;
+constexpr int kRows = 4;
 
 constexpr const char* kForms =
     "As /dev/ttyUSB0?baud=38400, tcp://host:10110, udp://:10110, tcp-listen://:10110 or "
@@ -45,6 +45,9 @@ DeviceDialogQt::DeviceDialogQt(Question question, QWidget* window)
   NameControl(*lstDevices, "lstDevices", "Serial ports that are plugged in, and what the profile names");
   NameControl(*txtDevice, "txtDevice", "The device or endpoint of the port");
   NameControl(*lblDeviceRemark, "lblDeviceRemark", "What is wrong with the device or endpoint");
+  // Names of devices are long, and what follows them tells them apart.
+  lstDevices->setWordWrap(true);
+  lstDevices->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   lblDeviceRemark->setTextFormat(Qt::PlainText);
   lblDeviceRemark->setWordWrap(true);
   auto* forms = NewText(kForms, this);
