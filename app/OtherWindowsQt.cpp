@@ -168,8 +168,26 @@ void OtherWindowsQt::PolarShow() {
   m_menu.mnuViewPolar->setChecked(true);
 }
 
+PlotHold OtherWindowsQt::HoldNow(TrackMode mode) const {
+  PlotHold hold;
+  if (mode != TrackMode::Track) {
+    return hold;
+  }
+  if (m_watch.Side == TrackSide::Apparent) {
+    hold.Apparent = m_main.DesiredAngle[1];
+  } else {
+    hold.True = m_main.DesiredAngle[2];
+  }
+  if (m_main.m_bWindGuard) {
+    hold.LeastApparent = m_main.m_fWindLeastApparent;
+    hold.LargestTrue = m_main.m_fWindLargestTrue;
+  }
+  return hold;
+}
+
 void OtherWindowsQt::OnPolarUpdate(TrackMode mode, const InstrumentData& record) {
   if (m_polar) {
+    m_polar->PolarHold(HoldNow(mode));
     m_polar->PolarUpdate(mode, record.HeadingValid, record.Heading, record.BoatSpeed,
                          record.WindAngleApparent, record.WindSpeedApparent, record.WindAngleTrue,
                          record.WindSpeedTrue, record.WaypointValid, record.WaypointBearing,

@@ -105,6 +105,7 @@ class OtherWindowsQt final : private HelmObserver,
   void OnTick() override { DiagramLights(); }
   void OnWatch(const WatchNow& watch) override;
   void FadePolar();
+  PlotHold HoldNow(TrackMode mode) const;
 
   bool NmeaPortOpen() const override { return m_parts.MSCommNmea.PortOpen(); }
   bool PilotPortOpen() const override;

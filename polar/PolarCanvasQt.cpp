@@ -193,6 +193,7 @@ void PolarCanvasQt::PaintMoving(QPainter& painter) const {
     painter.setBrush(m_moves.Target);
     painter.drawPolygon(ToQt(Polyline{m_moving.Target->Diamond.begin(), m_moving.Target->Diamond.end()}));
   }
+  PaintHold(painter, size);
   if (m_moving.Arrow) {
     PaintArrow(painter, size);
   }
@@ -201,6 +202,21 @@ void PolarCanvasQt::PaintMoving(QPainter& painter) const {
     PaintBoat(painter, size);
   }
   PaintLegend(painter);
+}
+
+void PolarCanvasQt::PaintHold(QPainter& painter, qreal size) const {
+  painter.setPen(Qt::NoPen);
+  if (!m_moving.Guard.empty()) {
+    QColor band = m_moves.Caption;
+    band.setAlphaF(0.45F);
+    painter.setBrush(band);
+    painter.drawPolygon(ToQt(m_moving.Guard));
+  }
+  if (m_moving.Held) {
+    painter.setPen(RoundPen(m_moves.Disc, kHalo * size));
+    painter.setBrush(m_moves.Foreground);
+    painter.drawPolygon(ToQt(Polyline{m_moving.Held->begin(), m_moving.Held->end()}));
+  }
 }
 
 void PolarCanvasQt::PaintArrow(QPainter& painter, qreal size) const {

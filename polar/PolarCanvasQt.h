@@ -44,6 +44,7 @@ class PolarCanvasQt final : public QWidget {
   void PaintLabels(QPainter& painter) const;
   void PaintKeys(QPainter& painter) const;
   void PaintMoving(QPainter& painter) const;
+  void PaintHold(QPainter& painter, qreal size) const;
   void PaintArrow(QPainter& painter, qreal size) const;
   void PaintBoat(QPainter& painter, qreal size) const;
   void PaintLegs(QPainter& painter, qreal size) const;

@@ -72,4 +72,32 @@ TargetMark MakeTargetMark(const PolarGeometry& geometry, double angle, double te
           {rim, {waist.X - acrossX, waist.Y - acrossY}, inner, {waist.X + acrossX, waist.Y + acrossY}}};
 }
 
+HeldMark MakeHeldMark(const PolarGeometry& geometry, double angle, double textHeight) {
+  // In heights of the text.
+  constexpr double kLength = 1.3;
+  constexpr double kHalfWidth = 0.55;
+  const double radius = OuterRadius(geometry);
+  const Point rim = AtRadius(geometry, angle, radius);
+  const double radians = angle * kRadiansPerDegree;
+  const double acrossX = std::cos(radians) * kHalfWidth * textHeight;
+  const double acrossY = std::sin(radians) * kHalfWidth * textHeight;
+  return {AtRadius(geometry, angle, radius - kLength * textHeight), Point{rim.X - acrossX, rim.Y - acrossY},
+          Point{rim.X + acrossX, rim.Y + acrossY}};
+}
+
+Polyline MakeGuardBand(const PolarGeometry& geometry, double from, double to, double textHeight) {
+  constexpr double kWidth = 0.6;  // heights of the text
+  constexpr double kStep = 3.0;   // [deg]
+  const double radius = OuterRadius(geometry);
+  const int steps = std::max(1, static_cast<int>(std::ceil((to - from) / kStep)));
+  Polyline band;
+  for (int i = 0; i <= steps; ++i) {
+    band.push_back(AtRadius(geometry, from + (to - from) * i / steps, radius));
+  }
+  for (int i = steps; i >= 0; --i) {
+    band.push_back(AtRadius(geometry, from + (to - from) * i / steps, radius - kWidth * textHeight));
+  }
+  return band;
+}
+
 }  // namespace veerwatch

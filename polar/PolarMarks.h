@@ -40,4 +40,12 @@ struct TargetMark {
 /// For a target at the wind angle `angle` [deg].
 TargetMark MakeTargetMark(const PolarGeometry& geometry, double angle, double textHeight);
 
+/// What Track holds: a triangle on the outer ring that points to the centre, at the wind angle `angle` [deg].
+using HeldMark = std::array<Point, 3>;
+HeldMark MakeHeldMark(const PolarGeometry& geometry, double angle, double textHeight);
+
+/// A band along the inside of the outer ring, round to starboard from the wind angle `from` to `to` [deg, to
+/// at least from]: where the angle guard lets no wind come.
+Polyline MakeGuardBand(const PolarGeometry& geometry, double from, double to, double textHeight);
+
 }  // namespace veerwatch

@@ -43,6 +43,14 @@ struct PolarHeld {
   bool Whole = true;    ///< false for the beginning of a file that went wrong further on
 };
 
+/// What the loop holds, for the plot in that wind; nothing where it holds nothing.
+struct PlotHold {
+  std::optional<float> Apparent;       ///< held apparent angle [deg relative]
+  std::optional<float> True;           ///< held true angle [deg relative]
+  std::optional<float> LeastApparent;  ///< of the angle guard [deg]
+  std::optional<float> LargestTrue;    ///< of the angle guard [deg]
+};
+
 /// The cell under the mouse.
 struct PolarMouse {
   std::string Text;        ///< angle, wind speed and boat speed, a line each
@@ -130,6 +138,8 @@ class PolarModel {
   bool Update(TrackMode mode, const PolarValues& values, bool visible);
   bool Received() const { return m_averages.Fed(); }
   const PolarValues& Values() const { return m_averages.Values(); }
+  void Hold(const PlotHold& hold) { m_hold = hold; }
+  const PlotHold& Hold() const { return m_hold; }
   /// The set that came last, as it came.
   const PolarValues& Present() const { return m_present; }
   TrackMode Mode() const { return m_mode; }
@@ -166,6 +176,7 @@ class PolarModel {
   PolarTable m_table;
   std::array<std::optional<PolarHeld>, 2> m_held;
   PolarAverages m_averages;
+  PlotHold m_hold;
   PolarValues m_present;
   int m_shown = 1;
   std::uint64_t m_version = 0;

@@ -60,6 +60,24 @@ const PolarStill& PolarScene::Still(int width, int height, const PlotRoom& taken
   return m_still;
 }
 
+void PolarScene::HoldMarks(PolarMoving& moving) const {
+  const PolarGeometry& geometry = m_still.Geometry;
+  const PlotHold& hold = m_model.Hold();
+  const bool apparent = m_model.Settings().Type == PlotType::ApparentWind;
+  const auto held = apparent ? hold.Apparent : hold.True;
+  if (held) {
+    moving.Held = MakeHeldMark(geometry, static_cast<double>(*held), m_still.TextHeight);
+  }
+  constexpr double kRound = 360.0;
+  if (apparent && hold.LeastApparent) {
+    const auto least = static_cast<double>(*hold.LeastApparent);
+    moving.Guard = MakeGuardBand(geometry, -least, least, m_still.TextHeight);
+  } else if (!apparent && hold.LargestTrue) {
+    const auto largest = static_cast<double>(*hold.LargestTrue);
+    moving.Guard = MakeGuardBand(geometry, largest, kRound - largest, m_still.TextHeight);
+  }
+}
+
 PolarMoving PolarScene::Moving(const LedgerContent* course) const {
   PolarMoving moving;
   moving.Readout = m_model.Readout();
@@ -75,6 +93,7 @@ PolarMoving PolarScene::Moving(const LedgerContent* course) const {
   const auto angle = static_cast<double>(m_model.WindAngle());
   moving.Arrow = MakeWindArrow(geometry, angle, m_still.TextHeight);
   moving.Boat = MakeBoatPoint(geometry, angle, static_cast<double>(m_model.Values().BoatSpeed));
+  HoldMarks(moving);
   if (course != nullptr) {
     moving.Target = MakeTargetMark(geometry, course->TargetWindAngle, m_still.TextHeight);
     for (const LedgerLeg& leg : course->Legs) {

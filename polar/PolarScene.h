@@ -42,6 +42,8 @@ struct PolarMoving {
   std::optional<BoatPoint> Boat;
   std::optional<TargetMark> Target;  ///< the bearing to sail to, while there is a course
   std::vector<PolarLeg> Legs;
+  std::optional<HeldMark> Held;  ///< what Track holds, in the wind that is plotted
+  Polyline Guard;                ///< where the angle guard lets no wind come; empty without it
   PolarReadout Readout;
 };
 
@@ -56,6 +58,7 @@ class PolarScene {
   PolarMoving Moving(const LedgerContent* course = nullptr) const;
 
  private:
+  void HoldMarks(PolarMoving& moving) const;
   /// All that the still part depends on.
   struct Key {
     int Width = -1;

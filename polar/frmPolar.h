@@ -46,6 +46,9 @@ class frmPolar final : public QMainWindow {
                    float windSpeedApparent, float windAngleTrue, float windSpeedTrue, bool waypointValid,
                    float waypointBearing, float waypointRange);
 
+  /// What the loop holds now, shown with the next values.
+  void PolarHold(const PlotHold& hold) { m_model.Hold(hold); }
+
   /// The values have grown stale, or come again: what is made of them is in half tone.
   void PolarFade(bool fade);
 

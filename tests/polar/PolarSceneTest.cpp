@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -105,6 +106,42 @@ TEST_F(PolarModelTest, NamesThePolarsWithTheirScaling) {
   ASSERT_TRUE(Model.Load(PolarModel::kMain).Loaded);
   EXPECT_EQ(scene.Still(900, 500).Keys, (std::vector<std::string>{"Fast Sled 60ft", "Fast Sled 60ft 90%"}))
       << "each as it was read";
+}
+
+TEST_F(PolarModelTest, MarksWhatIsHeldInTheWindThatIsPlotted) {
+  PolarScene scene(Model);
+  scene.Still(400, 400);
+  Model.Update(TrackMode::Track, Sailing(-90.0F, 12.0F, 5.0F), true);
+  EXPECT_FALSE(scene.Moving().Held.has_value());
+  Model.Hold({std::nullopt, 90.0F, std::nullopt, std::nullopt});
+  const PolarMoving moving = scene.Moving();
+  ASSERT_TRUE(moving.Held.has_value());
+  // The tip inside of the ring, to starboard.
+  EXPECT_LT((*moving.Held)[0].X, 400.0);
+  EXPECT_GT((*moving.Held)[0].X, 370.0);
+  EXPECT_NEAR((*moving.Held)[0].Y, 200.0, 1e-9);
+  EXPECT_NEAR((*moving.Held)[1].X, 400.0, 1e-9);
+  EXPECT_TRUE(moving.Guard.empty());
+  Model.ShowWind(PlotType::ApparentWind);
+  EXPECT_FALSE(scene.Moving().Held.has_value());
+}
+
+TEST_F(PolarModelTest, DrawsTheGuardRoundSternOrBow) {
+  PolarScene scene(Model);
+  scene.Still(400, 400);
+  Model.Update(TrackMode::Track, Sailing(-90.0F, 12.0F, 5.0F), true);
+  Model.Hold({std::nullopt, 90.0F, 25.0F, 165.0F});
+  const Polyline astern = scene.Moving().Guard;
+  ASSERT_GE(astern.size(), 10U);
+  for (const Point& point : astern) {
+    EXPECT_GT(point.Y, 370.0);
+    EXPECT_NEAR(point.X, 200.0, 53.0);
+  }
+  EXPECT_GT(astern.front().X, 250.0) << "it begins at 165 to starboard";
+  Model.ShowWind(PlotType::ApparentWind);
+  for (const Point& point : scene.Moving().Guard) {
+    EXPECT_LT(point.Y, 50.0);
+  }
 }
 
 TEST_F(PolarModelTest, DrawsTheTargetOfACourse) {
