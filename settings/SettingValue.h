@@ -18,6 +18,7 @@
 
 #include "platform/Profile.h"
 #include "settings/SettingRule.h"
+#include "settings/TextRule.h"
 
 namespace veerwatch {
 
@@ -183,6 +184,22 @@ SettingValue<StructOf<Where>> Text(Where where, const std::string& what) {
   };
   value.Write = [where](Profile& profile, std::string_view section, std::string_view key, const Struct& all) {
     profile.ProfileSet(section, key, std::string_view(At(all, where)));
+  };
+  return value;
+}
+
+/// A text that `rule` takes.
+template <class Where>
+SettingValue<StructOf<Where>> Text(Where where, const TextRule& rule) {
+  using Struct = StructOf<Where>;
+  SettingValue<Struct> value = Text(where, std::string(rule.Range));
+  value.Read = [where, rule](const Profile& profile, std::string_view section, std::string_view key,
+                             Struct& all) {
+    std::string text;
+    profile.ProfileGet(section, key, text);
+    if (rule.Takes(text)) {
+      At(all, where) = text;
+    }
   };
   return value;
 }

@@ -9,6 +9,7 @@
 
 #include "settings/AlarmSound.h"
 #include "settings/LineRules.h"
+#include "settings/PilotProfile.h"
 #include "settings/TrackMode.h"
 
 namespace veerwatch {
@@ -46,6 +47,21 @@ struct Settings {
   // The autopilot.
   std::int16_t m_iPilotPort = 5;  ///< number of the pilot port; equal to m_iNmeaPort: one port for both ways
   float m_fAutoPilot = 40.0F;     ///< autopilot bearing [deg magnetic, [0, 360)]
+  PilotProfile m_ePilotProfile = PilotProfile::MagneticApb;
+  std::int16_t m_iPilotCadence = 0;      ///< how often a bearing leaves [1/s, 1 to 5]; 0 with each wind
+  bool m_bPilotInvalidWhenLost = false;  ///< sentences with the status "V" come before the silence
+  float m_fPilotInvalidSeconds = 5.0F;   ///< for so long [s], above 0
+  // What PilotProfile::Own sends.
+  std::string m_sPilotOwnTalker = "EC";  ///< by kTalker
+  BearingKind m_ePilotOwnBearing = BearingKind::Magnetic;
+  std::int16_t m_iPilotOwnFields = 14;   ///< of APB: 14, or with the mode 15, and the others accordingly
+  std::int16_t m_iPilotOwnDecimals = 1;  ///< of the bearings, 0 or 1
+  std::string m_sPilotOwnPoint = "1";    ///< name of the point steered to, by kPointName
+  bool m_bPilotOwnAPB = true;            ///< the sentences
+  bool m_bPilotOwnRMB = false;
+  bool m_bPilotOwnHSC = false;
+  bool m_bPilotOwnXTE = false;
+  bool m_bPilotOwnBWC = false;
 
   // The simulator.
   bool m_bSimulate = false;                 ///< simulator on instead of the instrument port

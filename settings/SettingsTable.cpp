@@ -65,11 +65,35 @@ SettingTable<S> Nmea() {
 }
 
 SettingTable<S> Pilot() {
+  constexpr std::int16_t kMostASecond = 5;
+  const std::vector<std::string> profiles(kPilotProfiles.begin(), kPilotProfiles.end());
   return {
       {"Pilot", "Port", Whole(&S::m_iPilotPort, kFirstPort, INT16_MAX), "",
        "number of the pilot port; the same as the instruments': one port both ways", kOutput},
       {"Pilot", "Bearing", Number(&S::m_fAutoPilot, kBearing), "deg magnetic", "autopilot bearing",
        kMainWindow},
+      {"Pilot", "Profile", Named(&S::m_ePilotProfile, profiles), "", "what the pilot is sent", kOutput},
+      {"Pilot", "Cadence", Whole(&S::m_iPilotCadence, 0, kMostASecond), "a second",
+       "how often the bearing is sent, also between two winds; 0: with each wind", kOutput},
+      {"Pilot", "Invalid When Lost", Truth(&S::m_bPilotInvalidWhenLost), "",
+       "when no bearing is good the pilot is sent the status V for a while; otherwise nothing", kOutput},
+      {"Pilot", "Invalid Seconds", Number(&S::m_fPilotInvalidSeconds, kAboveZero), "s",
+       "with Invalid When Lost: for how long, before nothing is sent", kOutput},
+      {"Pilot", "Own Talker", Text(&S::m_sPilotOwnTalker, kTalker), "",
+       "with the profile Own: what its sentences begin with", kOutput},
+      {"Pilot", "Own Bearing", Named(&S::m_ePilotOwnBearing, {"M", "T"}), "",
+       "with the profile Own: the bearings of APB are magnetic or true", kOutput},
+      {"Pilot", "Own Fields", Whole(&S::m_iPilotOwnFields, 14, 15), "",
+       "with the profile Own: fields of APB; with 15 the sentences that can end with the mode do", kOutput},
+      {"Pilot", "Own Decimals", Whole(&S::m_iPilotOwnDecimals, 0, 1), "",
+       "with the profile Own: decimals of the bearings", kOutput},
+      {"Pilot", "Own Point", Text(&S::m_sPilotOwnPoint, kPointName), "",
+       "with the profile Own: name of the point that is steered to", kOutput},
+      {"Pilot", "Own APB", Truth(&S::m_bPilotOwnAPB), "", "with the profile Own: APB is sent", kOutput},
+      {"Pilot", "Own RMB", Truth(&S::m_bPilotOwnRMB), "", "with the profile Own: RMB is sent", kOutput},
+      {"Pilot", "Own HSC", Truth(&S::m_bPilotOwnHSC), "", "with the profile Own: HSC is sent", kOutput},
+      {"Pilot", "Own XTE", Truth(&S::m_bPilotOwnXTE), "", "with the profile Own: XTE is sent", kOutput},
+      {"Pilot", "Own BWC", Truth(&S::m_bPilotOwnBWC), "", "with the profile Own: BWC is sent", kOutput},
   };
 }
 

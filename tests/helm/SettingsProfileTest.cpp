@@ -59,6 +59,20 @@ constexpr Key kKeys[] = {{"Nmea", "Boat Speed", "1", "0"},
                          {"Nmea", "True Wind Average", "2", "3.5"},
                          {"Pilot", "Port", "5", "13"},
                          {"Pilot", "Bearing", "40", "123.5"},
+                         {"Pilot", "Profile", "Magnetic APB", "True APB"},
+                         {"Pilot", "Cadence", "0", "2"},
+                         {"Pilot", "Invalid When Lost", "False", "True"},
+                         {"Pilot", "Invalid Seconds", "5", "7.5"},
+                         {"Pilot", "Own Talker", "EC", "GP"},
+                         {"Pilot", "Own Bearing", "M", "T"},
+                         {"Pilot", "Own Fields", "14", "15"},
+                         {"Pilot", "Own Decimals", "1", "0"},
+                         {"Pilot", "Own Point", "1", "WP01"},
+                         {"Pilot", "Own APB", "True", "False"},
+                         {"Pilot", "Own RMB", "False", "True"},
+                         {"Pilot", "Own HSC", "False", "True"},
+                         {"Pilot", "Own XTE", "False", "True"},
+                         {"Pilot", "Own BWC", "False", "True"},
                          {"Simulate", "Nmea", "False", "True"},
                          {"Simulate", "Boat Speed", "8", "6.5"},
                          {"Simulate", "Compass Offset", "10", "-3.5"},
@@ -321,7 +335,9 @@ TEST(SettingsProfile, AFreshProfileHasEveryKeyInItsOrder) {
       "Sentence VWR=False\nSentence VWT=False\nWind Units=False\nChecksum=Accept missing\n"
       "Invalid Status=Use\nLower Case=False\nForeign Lines=Error\nTrue Wind=1\nTrue Wind Average=2\nWind "
       "Indicator Average=60\n\n"
-      "[Pilot]\nPort=5\nBearing=40\n\n"
+      "[Pilot]\nPort=5\nBearing=40\nProfile=Magnetic APB\nCadence=0\nInvalid When Lost=False\n"
+      "Invalid Seconds=5\nOwn Talker=EC\nOwn Bearing=M\nOwn Fields=14\nOwn Decimals=1\nOwn Point=1\n"
+      "Own APB=True\nOwn RMB=False\nOwn HSC=False\nOwn XTE=False\nOwn BWC=False\n\n"
       "[Simulate]\nNmea=False\nBoat Speed=8\nCompass Offset=10\nNoise Angle=4\nNoise Speed=2\n"
       "True Wind Angle=0\nTrue Wind Speed=12\nVariation=11\nWaypoint Bearing=5\n"
       "Waypoint Range=10\n\n"

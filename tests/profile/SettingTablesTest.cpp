@@ -12,11 +12,11 @@ namespace {
 
 /// Texts that some rows take and others refuse: the extremes of every range and random numbers.
 std::vector<std::string> Candidates() {
-  std::vector<std::string> texts{"True",   "False",    "0",       "1",      "2",           "3",     "5",
-                                 "-1",     "0.5",      "0.51",    "1e-30",  "1e6",         "-1e6",  "9999",
-                                 "-9999",  "3.4e38",   "-3.4e38", "32767",  "-32767",      "180",   "-180",
-                                 "359.99", "16777215", "86400",   "600",    "#00ABFF",     "a.pol", "#FFFFFF",
-                                 "360",    "540",      "Default", "-0.001", "/boat/b.pol", "1.5"};
+  std::vector<std::string> texts{
+      "True",    "False",  "0",           "1",     "2",     "3",       "5",       "-1",      "0.5",    "0.51",
+      "1e-30",   "1e6",    "-1e6",        "9999",  "-9999", "3.4e38",  "-3.4e38", "32767",   "-32767", "180",
+      "-180",    "359.99", "16777215",    "86400", "600",   "#00ABFF", "a.pol",   "#FFFFFF", "360",    "540",
+      "Default", "-0.001", "/boat/b.pol", "1.5",   "14",    "15",      "GP"};
   std::mt19937 dice(20);
   for (const float width : {1.0F, 400.0F, 40000.0F, 1e20F}) {
     std::uniform_real_distribution<float> number(-width, width);
