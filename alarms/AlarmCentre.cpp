@@ -27,6 +27,11 @@ AlarmEntry NoticeEntry(AlarmKind kind, const std::string& text) {
       entry.Does = "Works with the defaults";
       entry.Remedy = "Close the program and look at the file";
       break;
+    case AlarmKind::Pilot:
+      entry.Does = "Sends the pilot no sentence that would be wrong without it";
+      entry.Remedy =
+          "Options > Data: a sentence that brings it; Options > Output: a profile that does without";
+      break;
     case AlarmKind::Source:
       entry.Does = "Tells it";
       entry.Remedy = "Options > Data: choose the source that is there";

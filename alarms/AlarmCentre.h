@@ -20,6 +20,7 @@ namespace veerwatch {
 enum class AlarmKind {
   Save,     ///< the settings could not be saved
   Profile,  ///< the profile could not be read
+  Pilot,    ///< sentences that were chosen for the pilot do not leave
   Source,   ///< a source of data that brings nothing
   Record,   ///< a recording that has ended by itself
   Wind,     ///< what a wind function did by itself

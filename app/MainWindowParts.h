@@ -33,6 +33,7 @@ struct MainWindowParts {
   Sounder* Tone = nullptr;             ///< plays the tones of alarms; without it the beep sounds
   CommandRunner* Buzzer = nullptr;     ///< runs the command of an alarm
   const PortFinder* Finder = nullptr;  ///< knows the serial ports that are plugged in
+  Timer* tmrPilot = nullptr;           ///< ticks into frmMain::tmrPilot_Timer()
 };
 
 }  // namespace veerwatch

@@ -142,17 +142,19 @@ int Sail(ApplicationQt& application, const std::filesystem::path& profileFile,
   TimerQt tmrNmea(QStringLiteral("tmrNmea"));
   TimerQt tmrUnload(QStringLiteral("tmrUnload"));
   TimerQt TimerTack(QStringLiteral("TimerTack"));
+  TimerQt tmrPilot(QStringLiteral("tmrPilot"), Qt::PreciseTimer);
   SeededRandom random(std::random_device{}());
   SounderQt tone;
   CommandRunnerQt buzzer;
   const PortFinderQt finder;
 
   frmMain window({MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, TimerTack, clock, random, dialogs, profile,
-                  profileFile.string(), PolarFiles(), ManualPage(), &tone, &buzzer, &finder});
+                  profileFile.string(), PolarFiles(), ManualPage(), &tone, &buzzer, &finder, &tmrPilot});
   dialogs.Window(&window);
   tmrNmea.Ticks([&window] { window.tmrNmea_Timer(); });
   tmrUnload.Ticks([&window] { window.tmrUnload_Timer(); });
   TimerTack.Ticks([&window] { window.TimerTack_Timer(); });
+  tmrPilot.Ticks([&window] { window.tmrPilot_Timer(); });
   OnTerminationRequest(&window, [&window] {
     window.CloseUnasked();
     // Only the message about the settings may be left.

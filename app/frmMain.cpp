@@ -16,6 +16,7 @@
 #include "app/IconsQt.h"
 #include "control/TrackAdvice.h"
 #include "instruments/CompassPoint.h"
+#include "pilot/LineLoad.h"
 #include "platform/AtomicFile.h"
 #include "platform/NumberText.h"
 #include "platform/PortNames.h"
@@ -97,6 +98,9 @@ frmMain::frmMain(const MainWindowParts& parts)
   // The keyboard starts in front of the first control instead of on a mode.
   m_panel->setFocus();
   m_parts.tmrNmea.Interval(kTimerInterval);
+  if (m_parts.tmrPilot != nullptr) {
+    m_helm.PilotTimer(*m_parts.tmrPilot);
+  }
   m_parts.tmrUnload.Interval(kTimerInterval);
   m_insteadTimer.setObjectName(QStringLiteral("tmrInstead"));
   m_insteadTimer.setSingleShot(true);
@@ -328,7 +332,21 @@ void frmMain::OnInputFailure(const std::string& reason) {
 }
 
 void frmMain::OnOutputFailure(const std::string& reason) {
-  m_status->Explain(StatusPanelsQt::kOutput, Text(reason));
+  m_outputFailure = reason;
+  ExplainOutput();
+}
+
+void frmMain::ExplainOutput() {
+  const HelmNow now = m_helm.Now();
+  const auto load = LineLoadOf(now.PilotBytes, m_iPilotCadence, now.WindsASecond, now.PilotBaud);
+  const bool full = m_outputFailure.empty() && load && load->Full();
+  m_status->Explain(StatusPanelsQt::kOutput, Text(full ? LineLoadText(*load) : m_outputFailure));
+}
+
+void frmMain::OnOutputRefused(const PilotRefusal& refusal) {
+  const std::string text = PilotRefusalText(refusal);
+  m_status->Show(StatusPanelsQt::kOutput, Text(text));
+  NoticeSet(AlarmKind::Pilot, text);
 }
 
 void frmMain::OnSourceAdvice(const std::vector<std::string>& lines) {
@@ -404,6 +422,7 @@ void frmMain::OnTick() {
   };
   m_status->LeadsTo(StatusPanelsQt::kInput, leads(m_iNmeaPort));
   m_status->LeadsTo(StatusPanelsQt::kOutput, leads(m_iPilotPort));
+  ExplainOutput();
 }
 
 void frmMain::ShowSent() {

@@ -61,6 +61,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
 
   void tmrNmea_Timer();
   void tmrUnload_Timer();
+  void tmrPilot_Timer() { m_helm.PilotTick(); }
   void TimerTack_Timer() { m_others.TimerTack_Timer(); }
 
   bool NmeaStart() override { return m_helm.Receiver().NmeaStart(); }
@@ -137,6 +138,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void OnOutputStatus(const PortStatus& status) override;
   void OnInputFailure(const std::string& reason) override;
   void OnOutputFailure(const std::string& reason) override;
+  void OnOutputRefused(const PilotRefusal& refusal) override;
   void OnSourceAdvice(const std::vector<std::string>& lines) override;
   void OnDesired(float apparent, float trueWind) override;
   void OnDelta(float apparent, float trueWind) override;
@@ -151,6 +153,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void OnPilotData(std::string_view sentence) override;
   void OnTick() override;
   void OnWatch(const WatchNow& watch) override;
+  /// What else there is to say of the output: why its port is not open, or that its line is too full.
+  void ExplainOutput();
   /// The caption, with the age of its wind.
   void ShowTitle();
 
@@ -175,6 +179,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   SaveWatch m_save;
   SentAge m_sent;
   WatchNow m_watch;                   ///< what the watch said last
+  std::string m_outputFailure;        ///< why the pilot's port is not open
   QString m_wind;                     ///< what the caption says of the wind; empty while nothing is known
   std::vector<std::string> m_advice;  ///< what the sources do not bring
 };

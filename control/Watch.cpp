@@ -247,7 +247,8 @@ void Watch::LookAtPilot(const Around& around, const Moment& now) {
   }
   m_output.Look(around.OutputOpen, around.Sent, around.BaudRate, now.Steady);
   const bool compass = m_ages.At(Watched::Compass, now).Fresh();
-  if (m_output.Lost() || (!compass && !m_ages.At(Watched::Heading, now).Fresh())) {
+  const bool takesBearing = m_settings.m_ePilotProfile != PilotProfile::Wind;
+  if (!takesBearing || m_output.Lost() || (!compass && !m_ages.At(Watched::Heading, now).Fresh())) {
     m_follow.Pause();
     return;
   }

@@ -8,8 +8,7 @@ namespace veerwatch {
 
 namespace {
 
-constexpr std::int64_t kOldest = 2000;  // [ms] that a pass goes by
-constexpr int kComputed = 1;            // of m_iNmeaTrueWind
+constexpr int kComputed = 1;  // of m_iNmeaTrueWind
 
 }  // namespace
 
@@ -31,7 +30,7 @@ void WatchAct::After(const LoopStep& step) { m_turned += static_cast<double>(ste
 
 WatchAct::Pass WatchAct::Judge(bool outputOpen, const Moment& now) const {
   const Ages& values = m_watch.Values();
-  if (!values.Within(Held(), kOldest, now)) {
+  if (Lacks(now)) {
     return Pass::None;
   }
   const bool speed =

@@ -38,10 +38,15 @@ class WatchAct {
   /// A second has passed at `now`, and the watch has looked.
   Order Second(const Moment& now);
 
+  /// A pass at `now` could not be made for want of a wind.
+  bool Lacks(const Moment& now) const { return May() && !m_watch.Values().Within(Held(), kOldest, now); }
+
   /// It holds the loop back, or has moved what is held, at this moment.
   bool Acts() const { return m_acts; }
 
  private:
+  static constexpr std::int64_t kOldest = 2000;  // [ms] that a pass goes by
+
   bool May() const { return m_settings.m_bWatchAct && m_settings.m_eTrackMode == TrackMode::Track; }
   Watched Held() const {
     return m_loop.Side() == TrackSide::True ? Watched::WindTrue : Watched::WindApparent;

@@ -10,6 +10,7 @@ Helm::Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Time
       m_record(settings),
       m_receiver(settings, nmeaPort, tmrNmea, clock, m_record, *this),
       m_pilot(settings, nmeaPort, pilotPort, *this),
+      m_pace(settings),
       m_loop(settings, m_record.Data()),
       m_modes(settings, m_receiver, m_pilot, m_loop, *this),
       m_simulator(settings, m_record, random),
@@ -31,6 +32,9 @@ HelmNow Helm::Now() const {
   now.OutputOpen = m_pilot.Open();
   now.Output = m_outputState;
   now.OutputFailure = m_outputFailure;
+  now.Refused = m_pilot.Refused();
+  now.PilotBaud = m_pilot.BaudRate();
+  now.PilotBytes = m_pilot.Latest().Text().size();
   now.WindLost = m_supervisor.WindLost();
   now.Sent = m_pilot.Sent();
   now.AutoPilot = m_settings.m_fAutoPilot;
@@ -70,13 +74,13 @@ void Helm::OnSentence(std::string_view line, const Dispatcher::Outcome& outcome,
   const InstrumentData& data = Data();
   const bool steers = outcome.WindSentence && data.WindApparentValid && data.WindTrueValid;
   // What may hold the pass back has to know the sentence first; otherwise it waits for the watch.
-  const bool acts = m_settings.m_bWatchAct;
-  if (acts) {
+  const bool first = m_settings.m_bWatchAct || m_settings.m_bPilotInvalidWhenLost;
+  if (first) {
     Feed(outcome);
   }
   const Pass pass = steers ? Steer(now) : Pass{};
 
-  if (!acts) {
+  if (!first) {
     Feed(outcome);
   }
   Keep(pass, now);
@@ -121,7 +125,9 @@ Helm::Pass Helm::Steer(const Moment& now) {
     return {};
   }
   LoopInput input(now);
-  input.Stands = may == WatchAct::Pass::Stands;
+  // A pilot that holds the wind by itself takes no bearing.
+  const bool takesBearing = m_settings.m_ePilotProfile != PilotProfile::Wind;
+  input.Stands = may == WatchAct::Pass::Stands || !takesBearing;
   input.BringsApparent = m_record.Changed(RecordValue::WindApparent);
   input.BringsTrue = m_record.Changed(RecordValue::WindTrue);
   const TrackMethod method = m_loop.Method();
@@ -138,10 +144,55 @@ Helm::Pass Helm::Steer(const Moment& now) {
   pass.Step = m_loop.ControlStep(input);
   m_functions.After(input, pass.Step);
   m_act.After(pass.Step);
-  if (pass.Step.Sends) {
-    pass.Sentence = m_pilot.PilotSend(m_settings.m_fAutoPilot);
+  const Moment sends = SendMoment(now);
+  if (pass.Step.Sends && (!m_settings.m_bPilotInvalidWhenLost || BearingHolds(sends))) {
+    pass.Sentence = Send(m_pace.Step(sends.Steady), sends);
   }
   return pass;
+}
+
+bool Helm::BearingHolds(const Moment& now) const {
+  const Watched held = m_loop.Side() == TrackSide::True ? Watched::WindTrue : Watched::WindApparent;
+  const bool fresh = m_watch.Values().At(held, now).Fresh() && !m_act.Lacks(now);
+  return m_receiver.Started() && (fresh || m_keepsOn);
+}
+
+std::string_view Helm::Send(PilotPace::Says says, const Moment& now) {
+  if (says == PilotPace::Says::Nothing) {
+    return {};
+  }
+  PilotValues values = PilotValuesOf(m_settings.m_fAutoPilot, m_record, m_settings, now);
+  m_good = values.Good = says == PilotPace::Says::Bearing;
+  const std::string_view sentences = m_pilot.PilotSend(values);
+  if (!sentences.empty() && !m_settings.m_bSimulate) {
+    m_watch.Built(sentences.size(), now);
+  }
+  if (const auto spacing = PilotPace::Spacing(m_settings); spacing && m_pilotTimer != nullptr) {
+    m_pilotTimer->Interval(*spacing);
+    m_pilotTimer->Enabled(true);
+  }
+  return sentences;
+}
+
+void Helm::Repeat(const Moment& now) {
+  const std::string_view sentences = Send(m_pace.Look(BearingHolds(now), now.Steady), now);
+  if (sentences.empty()) {
+    return;
+  }
+  if (m_good) {
+    m_newest.At = m_settings.m_bSimulate ? m_newest.At : now;
+    m_newest.Bearing = m_settings.m_fAutoPilot;
+    m_why = m_newest;
+  }
+  m_observers.Tell([this](HelmObserver& observer) { TellSent(observer); });
+}
+
+void Helm::PilotTick() {
+  if (!PilotPace::Spacing(m_settings) || !m_pace.Made()) {
+    m_pilotTimer->Enabled(false);
+    return;
+  }
+  Repeat(m_clock.Now());
 }
 
 void Helm::Tick() {
@@ -166,39 +217,36 @@ void Helm::Feed(const Dispatcher::Outcome& outcome) {
 }
 
 void Helm::Keep(const Pass& pass, const Moment& now) {
-  if (!pass.Sentence.empty() && !m_settings.m_bSimulate) {
-    m_watch.Built(pass.Sentence.size(), now);
+  if (!pass.Step.Ran) {
+    return;
   }
-  if (pass.Step.Ran) {
-    m_watch.Step(pass.Step);
-    Explain(pass, now);
+  m_watch.Step(pass.Step);
+  if (pass.Step.Sends) {
+    Explain(pass.Step, now);
+  }
+  if (!pass.Sentence.empty()) {
+    m_why = m_newest;
   }
 }
 
-void Helm::Explain(const Pass& pass, const Moment& now) {
-  if (pass.Sentence.empty()) {
-    return;
-  }
-  m_why.Sent = true;
-  m_why.At = now;
-  m_why.Bearing = m_settings.m_fAutoPilot;
-  m_why.Mode = m_settings.m_eTrackMode;
-  m_why.Side = m_loop.Side();
-  m_why.Method = m_loop.Tuning().Method;
-  m_why.Desired = m_settings.DesiredAngle[static_cast<std::size_t>(m_why.Side)];
-  m_why.Step = pass.Step;
-  m_why.Data = Data();
+void Helm::Explain(const LoopStep& step, const Moment& now) {
+  m_newest.Sent = true;
+  m_newest.At = now;
+  m_newest.Bearing = m_settings.m_fAutoPilot;
+  m_newest.Mode = m_settings.m_eTrackMode;
+  m_newest.Side = m_loop.Side();
+  m_newest.Method = m_loop.Tuning().Method;
+  m_newest.Desired = m_settings.DesiredAngle[static_cast<std::size_t>(m_newest.Side)];
+  m_newest.Step = step;
+  m_newest.Data = Data();
   for (std::size_t i = 0; i < kWhyValues.size(); ++i) {
-    m_why.From[i] = m_record.Source(kWhyValues[i]);
+    m_newest.From[i] = m_record.Source(kWhyValues[i]);
   }
 }
 
 void Helm::Obey(const WatchAct::Order& order, const Moment& now) {
-  Pass pass;
-  if (order.Sends) {
-    pass.Sentence = m_pilot.PilotSend(m_settings.m_fAutoPilot);
-    Keep(pass, now);
-  }
+  m_keepsOn = order.Sends;
+  const std::string_view sentences = order.Sends ? Send(m_pace.Step(now.Steady), now) : std::string_view();
   if (order.Switched) {
     m_observers.Tell([this](HelmObserver& observer) { observer.OnTrackSide(m_loop.Side()); });
     TellDesired();
@@ -207,9 +255,8 @@ void Helm::Obey(const WatchAct::Order& order, const Moment& now) {
     if (order.Turned) {
       observer.OnAutoPilot(m_settings.m_fAutoPilot);
     }
-    if (order.Sends) {
-      observer.OnPilotData(pass.Sentence);
-      observer.OnPilotHeading(m_settings.m_fAutoPilot);
+    if (!sentences.empty()) {
+      TellSent(observer);
     }
   });
 }
@@ -232,6 +279,7 @@ void Helm::LookOut() {
   around.Shift = m_functions.Shift();
   m_watch.Look(around, now);
   Obey(m_act.Second(now), now);
+  Repeat(now);
   m_observers.Tell([this](HelmObserver& observer) { observer.OnWatch(m_watch.Now()); });
 }
 
@@ -297,12 +345,19 @@ void Helm::TellPass(const Pass& pass) {
       observer.OnAlarmOver();
     }
     if (!pass.Sentence.empty()) {
-      observer.OnPilotData(pass.Sentence);
-    }
-    if (step.Sends) {
-      observer.OnPilotHeading(m_settings.m_fAutoPilot);
+      TellSent(observer);
     }
   });
+}
+
+void Helm::TellSent(HelmObserver& observer) const {
+  const PilotBundle& sentences = m_pilot.Latest();
+  for (std::size_t i = 0; i < sentences.Count(); ++i) {
+    observer.OnPilotData(sentences.Sentence(i));
+  }
+  if (m_good && m_settings.m_ePilotProfile != PilotProfile::Wind) {
+    observer.OnPilotHeading(m_settings.m_fAutoPilot);
+  }
 }
 
 void Helm::TellDesired() {
@@ -402,7 +457,14 @@ void Helm::OnOutputFailure(const std::string& reason) {
   m_observers.Tell([&](HelmObserver& observer) { observer.OnOutputFailure(m_outputFailure); });
 }
 
+void Helm::OnOutputRefused(const PilotRefusal& refusal) {
+  m_observers.Tell([&](HelmObserver& observer) { observer.OnOutputRefused(refusal); });
+}
+
 void Helm::OnTrackMode(TrackMode mode) {
+  if (mode != TrackMode::Manual && mode != TrackMode::Track) {
+    m_pace.Forget();
+  }
   Decide(m_supervisor.Entered(mode));
   m_observers.Tell([mode](HelmObserver& observer) { observer.OnTrackMode(mode); });
   if (mode == TrackMode::Track && m_loop.Method() != TrackMethod::Sentence) {

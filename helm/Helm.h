@@ -20,6 +20,7 @@
 #include "instruments/Simulator.h"
 #include "nmea/NmeaReceiver.h"
 #include "pilot/PilotOutput.h"
+#include "pilot/PilotPace.h"
 #include "platform/Clock.h"
 #include "platform/Random.h"
 #include "platform/SerialPort.h"
@@ -42,6 +43,12 @@ class Helm final : private NmeaReceiver::Observer,
 
   /// One tick of tmrNmea: the simulator's clock, or the watch over the ports; and what is lost.
   void Tick();
+
+  /// `tmrPilot`, which outlives the helm, ticks into PilotTick() from now on, so that bearings leave by the
+  /// cadence also between two winds. Without it each one waits for a wind.
+  void PilotTimer(Timer& tmrPilot) { m_pilotTimer = &tmrPilot; }
+  /// One tick of tmrPilot: the newest bearing leaves, while it is good.
+  void PilotTick();
 
   // What the user, or a turn, does with the pilot.
 
@@ -99,8 +106,18 @@ class Helm final : private NmeaReceiver::Observer,
 
   /// One pass of the loop over the record, for a wind that came at `now`, and its sentence to the pilot.
   Pass Steer(const Moment& now);
+  /// The moment by which bearings leave, of a pass at `now`.
+  Moment SendMoment(const Moment& now) const { return m_settings.m_bSimulate ? m_clock.Now() : now; }
+  /// What the bearing rests on is of now.
+  bool BearingHolds(const Moment& now) const;
+  /// Sends the bearing as `says` has it; returns what was built.
+  std::string_view Send(PilotPace::Says says, const Moment& now);
+  /// Says the newest bearing again, or that it holds no more, where it is time to.
+  void Repeat(const Moment& now);
   void TellChanges();
   void TellPass(const Pass& pass);
+  /// Tells the sentences that have just been built.
+  void TellSent(HelmObserver& observer) const;
   void TellDesired();
   bool TellTurned(bool turned);
   void TellPolar();
@@ -110,8 +127,8 @@ class Helm final : private NmeaReceiver::Observer,
   void Feed(const Dispatcher::Outcome& outcome);
   /// Gives the watch what the loop did, and keeps why.
   void Keep(const Pass& pass, const Moment& now);
-  /// Keeps why the sentence that has just left says what it says.
-  void Explain(const Pass& pass, const Moment& now);
+  /// Keeps why the bearing of this pass is what it is.
+  void Explain(const LoopStep& step, const Moment& now);
   /// The watch looks at everything, and its answer is told.
   void LookOut();
   /// Does what follows from a look of the watch.
@@ -127,6 +144,7 @@ class Helm final : private NmeaReceiver::Observer,
   void OnOutputStatus(const PortStatus& status) override;
   void OnOutputState(OutputState state) override;
   void OnOutputFailure(const std::string& reason) override;
+  void OnOutputRefused(const PilotRefusal& refusal) override;
   void OnTrackMode(TrackMode mode) override;
   void OnTrackRefused(TrackRefusal why) override;
   void OnAlarmOver() override;
@@ -139,13 +157,18 @@ class Helm final : private NmeaReceiver::Observer,
   Supervisor m_supervisor;
   NmeaReceiver m_receiver;
   PilotOutput m_pilot;
+  PilotPace m_pace;
+  Timer* m_pilotTimer = nullptr;
   TrackLoop m_loop;
   TrackModes m_modes;
   Simulator m_simulator;
   Watch m_watch;
   WatchAct m_act;
   WindFunctions m_functions;
-  Why m_why;
+  bool m_keepsOn = false;        ///< the bearing is to be sent on, though its wind is lost
+  bool m_good = true;            ///< the latest sentences hold
+  Why m_newest;                  ///< why the newest bearing is what it is
+  Why m_why;                     ///< the same of the latest one that left
   std::int64_t m_simulated = 0;  ///< clock of the simulated boat [ms]
   InputState m_inputState = InputState::Stopped;
   OutputState m_outputState = OutputState::None;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -12,6 +13,7 @@
 #include "control/WatchNow.h"
 #include "helm/Why.h"
 #include "nmea/PortStatus.h"
+#include "pilot/PilotSentences.h"
 #include "settings/TrackMode.h"
 
 namespace veerwatch {
@@ -30,6 +32,9 @@ struct HelmNow {
   bool OutputOpen = false;          ///< it is open, or not needed
   OutputState Output = OutputState::None;
   std::string OutputFailure;             ///< the same of the pilot port
+  PilotRefusal Refused;                  ///< what does not leave though it was chosen
+  std::optional<int> PilotBaud;          ///< what the pilot's line carries, where anything bounds it
+  std::size_t PilotBytes = 0;            ///< characters of the latest bundle for the pilot
   bool WindLost = false;                 ///< an apparent or a true wind has not come for too long
   std::uint64_t Sent = 0;                ///< sentences that have left for the pilot
   float AutoPilot = 0.0F;                ///< its bearing [deg magnetic, [0, 360)]

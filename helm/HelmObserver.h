@@ -13,6 +13,7 @@
 #include "instruments/InstrumentData.h"
 #include "nmea/LineFault.h"
 #include "nmea/PortStatus.h"
+#include "pilot/PilotSentences.h"
 #include "platform/ObserverList.h"
 #include "settings/TrackMode.h"
 #include "wind/WindFunctions.h"
@@ -53,6 +54,8 @@ class HelmObserver {
   virtual void OnOutputState(OutputState /*state*/) {}
   /// The same of the pilot's own port, where it is wanted.
   virtual void OnOutputFailure(const std::string& /*reason*/) {}
+  /// What does not leave though it was chosen, and why; PilotRefusal::Why::None when everything does again.
+  virtual void OnOutputRefused(const PilotRefusal& /*refusal*/) {}
   /// Each sentence that is built, without its line end, whether or not a port is open to take it.
   virtual void OnPilotData(std::string_view /*sentence*/) {}
 

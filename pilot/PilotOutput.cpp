@@ -1,11 +1,19 @@
 #include "pilot/PilotOutput.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <utility>
 
-#include "pilot/PilotSentence.h"
+#include "pilot/PilotForm.h"
 
 namespace veerwatch {
+
+namespace {
+
+constexpr std::size_t kLineEnd = 2;  // characters
+
+}  // namespace
 
 PilotOutput::PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort,
                          Observer& observer)
@@ -14,6 +22,7 @@ PilotOutput::PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialP
 }
 
 void PilotOutput::PilotRelease() {
+  Refusal({});
   m_nmeaPort.Withdraw();
   m_pilotPort.Withdraw();
   CloseUnneeded();
@@ -50,6 +59,7 @@ void PilotOutput::PilotStop() {
   m_started = false;
   m_pilotPort.PortOpen(false);
   Failure("");
+  Refusal({});
   if (m_notOpenShown) {
     Status({});
   }
@@ -71,6 +81,13 @@ void PilotOutput::Failure(std::string reason) {
   if (reason != m_failure) {
     m_failure = std::move(reason);
     m_observer.OnOutputFailure(m_failure);
+  }
+}
+
+void PilotOutput::Refusal(const PilotRefusal& refusal) {
+  if (refusal != m_refusal) {
+    m_refusal = refusal;
+    m_observer.OnOutputRefused(m_refusal);
   }
 }
 
@@ -98,20 +115,20 @@ void PilotOutput::Tick() {
   }
 }
 
-std::string_view PilotOutput::PilotSend(float bearing) {
-  if (!std::isfinite(bearing)) {
+std::string_view PilotOutput::PilotSend(const PilotValues& values) {
+  if (!std::isfinite(values.Bearing)) {
     return {};
   }
-  BuildPilotSentence(bearing, m_sentence);
-  SerialPort& port = Carrier();
-  m_sentence.append("\r\n");
-  if (port.PortOpen()) {
-    port.Output(m_sentence);
+  const PilotRefusal refusal = m_sentences.Build(PilotFormOf(m_settings), values);
+  const std::string_view bundle = m_sentences.Bundle().Text();
+  if (!bundle.empty() && Carrier().PortOpen()) {
+    Carrier().Output(bundle);
   }
-  if (m_settings.m_bSimulate) {
+  if (!bundle.empty() && m_settings.m_bSimulate) {
     ++m_simulated;
   }
-  return std::string_view(m_sentence).substr(0, m_sentence.size() - 2);
+  Refusal(refusal);
+  return bundle.substr(0, bundle.size() - std::min(bundle.size(), kLineEnd));
 }
 
 bool PilotOutput::Open() const { return m_settings.m_bSimulate || Carrier().PortOpen(); }

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "nmea/PortStatus.h"
+#include "pilot/PilotSentences.h"
 #include "platform/ReopenPause.h"
 #include "platform/SerialPort.h"
 #include "settings/Settings.h"
@@ -24,6 +25,8 @@ class PilotOutput final : public SerialPort::Events {
     virtual void OnOutputState(OutputState state) = 0;
     /// Why the pilot's own port is not open, as the system says; "" when it is, or is not wanted.
     virtual void OnOutputFailure(const std::string& reason) = 0;
+    /// What does not leave though it was chosen, and why; with PilotRefusal::Why::None all does.
+    virtual void OnOutputRefused(const PilotRefusal& refusal) = 0;
   };
 
   PilotOutput(const Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Observer& observer);
@@ -40,12 +43,17 @@ class PilotOutput final : public SerialPort::Events {
   /// One tick of the input's timer while not simulating: line errors and the port that is not open.
   void Tick();
 
-  /// Builds the sentence for `bearing` [deg magnetic, [0, 360)] and writes it, whole, with its line end. A
-  /// bearing that is not finite is not sent. Returns the sentence without its line end, until the next call;
-  /// also while no port is open to take it, and "" where none was built.
-  std::string_view PilotSend(float bearing);
+  /// Builds the sentences of the chosen profile for `values` and writes them as one bundle. A bearing that is
+  /// not finite is not sent. Returns them without the last line end, until the next call; also while no port
+  /// is open to take them, and "" where none was built.
+  std::string_view PilotSend(const PilotValues& values);
 
-  /// How many sentences have left for the pilot. While simulating, where none leaves, each that is built
+  /// The sentences of the latest PilotSend.
+  const PilotBundle& Latest() const { return m_sentences.Bundle(); }
+  /// What it left out.
+  const PilotRefusal& Refused() const { return m_refusal; }
+
+  /// How many bundles have left for the pilot. While simulating, where none leaves, each that is built
   /// counts.
   std::uint64_t Sent() const { return m_nmeaPort.Sent() + m_pilotPort.Sent() + m_simulated; }
 
@@ -67,6 +75,7 @@ class PilotOutput final : public SerialPort::Events {
   void CloseUnneeded();
   void OpenPort();
   void Failure(std::string reason);
+  void Refusal(const PilotRefusal& refusal);
   void Status(const PortStatus& status);
 
   const Settings& m_settings;
@@ -78,7 +87,8 @@ class PilotOutput final : public SerialPort::Events {
   ReopenPause m_reopenPause;
   std::uint64_t m_simulated = 0;  ///< sentences for the simulated boat
   std::string m_failure;
-  std::string m_sentence;
+  PilotSentences m_sentences;
+  PilotRefusal m_refusal;
   std::string m_dropped;
   SerialPort::Connection m_connection;
 };

@@ -2,7 +2,8 @@
 
 namespace veerwatch {
 
-TimerQt::TimerQt(const QString& name) {
+TimerQt::TimerQt(const QString& name, Qt::TimerType precision) {
+  m_timer.setTimerType(precision);
   m_timer.setObjectName(name);
   QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
     if (m_handler) {

@@ -12,7 +12,8 @@ namespace veerwatch {
 
 class TimerQt final : public Timer {
  public:
-  explicit TimerQt(const QString& name);
+  /// A precise one ticks within a millisecond, and never early; others may be a twentieth off.
+  explicit TimerQt(const QString& name, Qt::TimerType precision = Qt::CoarseTimer);
 
   /// Where the ticks go from now on.
   void Ticks(std::function<void()> handler) { m_handler = std::move(handler); }

@@ -13,21 +13,16 @@
 #include <string>
 #include <vector>
 
-#include "pilot/PilotSentence.h"
 #include "tests/e2e/Process.h"
 #include "tests/e2e/RealPorts.h"
 #include "tests/e2e/Sockets.h"
+#include "tests/peers/Peers.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace veerwatch {
 namespace {
 
-const fs::path kModules = fs::path(VEERWATCH_PEERS) / "node_modules";
-const fs::path kFiles = VEERWATCH_PEER_FILES;
-
 constexpr double kPi = 3.14159265358979323846;
-
-bool Installed() { return fs::exists(kModules / "signalk-server" / "package.json"); }
 
 /// A number of the loopback address that is free at this moment.
 std::uint16_t FreePort(int type) { return Loop(type).Number(); }
@@ -94,7 +89,7 @@ class SignalK : public RealPorts {
  protected:
   void SetUp() override {
     if (!Installed()) {
-      GTEST_SKIP() << "the Signal K server is not installed; script/peers does that where npm is there";
+      GTEST_SKIP() << kNotInstalled;
     }
     ASSERT_TRUE(m_server.Start()) << m_server.Said();
   }
@@ -141,36 +136,6 @@ TEST_F(SignalK, IsHeardAgainAfterItWasStartedAgain) {
   EXPECT_TRUE(m_server.Steers(100.0)) << m_server.HeadingToSteer().value_or(-1.0);
   EXPECT_TRUE(AwaitText("StatusBar(2)", ""));
   ExpectOrderlyEnd();
-}
-
-TEST(SignalKParser, TakesTheHeadingOfEachSentence) {
-  if (!Installed()) {
-    GTEST_SKIP() << "the Signal K server is not installed; script/peers does that where npm is there";
-  }
-  const TemporaryFolder folder;
-  std::vector<double> headings;
-  std::string sentences;
-  for (int tenths = 0; tenths < 3600; tenths += 7) {
-    headings.push_back(tenths / 10.0);
-    std::string sentence;
-    BuildPilotSentence(static_cast<float>(headings.back()), sentence);
-    sentences += sentence + "\r\n";
-  }
-  WriteFile(folder / "sentences", sentences);
-  Child parser;
-  ASSERT_TRUE(parser.Start({"node", (kFiles / "Parse.js").string(), (folder / "sentences").string()},
-                           {"NODE_PATH=" + kModules.string()}));
-  ASSERT_EQ(parser.AwaitEnd(), 0) << parser.Said();
-  const std::string path = " steering.autopilot.target.headingMagnetic ";
-  std::size_t at = 0;
-  for (const double heading : headings) {
-    at = parser.Said().find(path, at);
-    ASSERT_NE(at, std::string::npos) << heading;
-    at += path.size();
-    EXPECT_NEAR(std::stod(parser.Said().substr(at)) * 180.0 / kPi, heading, 1e-6);
-  }
-  EXPECT_EQ(parser.Said().find(path, at), std::string::npos);
-  EXPECT_EQ(parser.Said().find(" Error:"), std::string::npos);
 }
 
 }  // namespace

@@ -14,7 +14,8 @@
 #include "nmea/Sentence.h"
 #include "nmea/SentenceTable.h"
 #include "nmea/Vhw.h"
-#include "pilot/PilotSentence.h"
+#include "pilot/PilotForm.h"
+#include "pilot/PilotSentences.h"
 #include "platform/Random.h"
 #include "tests/support/BoatModel.h"
 #include "tests/support/Encode.h"
@@ -196,11 +197,14 @@ TEST_F(AnySentence, EveryTypeReachesTheRecord) {
 
 TEST_F(AnySentence, TheAutopilotSentenceIsReadAsItWasSent) {
   BoatModel boat(BoatSettings{}, 0.0, 1);
-  std::string sentence;
+  PilotSentences sentences;
+  const Settings settings;
+  const PilotForm form = PilotFormOf(settings);
   for (int tenths = 0; tenths < 3600; ++tenths) {
     // A little beside the decimal that it is rounded to.
     const double bearing = tenths / 10.0 + (tenths % 2 == 0 ? 0.04 : -0.04);
-    BuildPilotSentence(static_cast<float>(bearing), sentence);
+    sentences.Build(form, static_cast<float>(bearing));
+    const std::string sentence(sentences.Bundle().Sentence(0));
     ASSERT_EQ(CheckFrame(sentence), Frame::Good);
     boat.Steer(sentence + "\r\n");
     ASSERT_EQ(boat.Pilot().GoodSentences(), tenths + 1) << sentence;

@@ -110,6 +110,9 @@ class RecordingView final : public HelmObserver,
     Keep("OnOutputState", OutputState);
   }
   void OnOutputFailure(const std::string& reason) override { Keep("OnOutputFailure", reason); }
+  void OnOutputRefused(const PilotRefusal& refusal) override {
+    Keep("OnOutputRefused", PilotRefusalText(refusal));
+  }
   void OnPilotData(std::string_view sentence) override { Keep("OnPilotData", sentence); }
 
   void OnDesired(float apparent, float trueWind) override { Keep("OnDesired", apparent, trueWind); }
