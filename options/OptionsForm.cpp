@@ -1,5 +1,6 @@
 #include "options/OptionsForm.h"
 
+#include "options/PilotChoices.h"
 #include "options/SimulateTimeText.h"
 #include "platform/NumberText.h"
 
@@ -23,6 +24,7 @@ OptionsForm OptionsFormOf(const Settings& settings) {
   form.NmeaLowerCase = settings.m_bNmeaLowerCase;
   form.NmeaPort = std::to_string(settings.m_iNmeaPort);
   form.PilotPort = std::to_string(settings.m_iPilotPort);
+  PilotChoicesShow(settings, form);
   form.Simulate = settings.m_bSimulate;
   form.SimulateTime = SimulateTimeFormat(settings.m_fSimulateTime);
   form.TrackAlarm = settings.m_bTrackAlarm;

@@ -27,6 +27,17 @@ struct OptionsForm {
 
   std::string NmeaPort;
   std::string PilotPort;
+  // Output. The choices are indexes in their lists.
+  int PilotProfile = 0;
+  int PilotCadence = 0;
+  bool PilotInvalidWhenLost = false;
+  std::string PilotInvalidSeconds;
+  std::string PilotOwnTalker;
+  std::string PilotOwnPoint;
+  int PilotOwnBearing = 0;
+  int PilotOwnFields = 0;                  ///< 0 for 14
+  int PilotOwnDecimals = 0;                ///< as many
+  std::array<bool, 5> PilotOwnSends{};     ///< in the order of kPilotOwnSwitches
   std::map<int, std::string> PortDevices;  ///< what was chosen for a port's number, and not stored yet
 
   // Simulate.
@@ -69,7 +80,7 @@ struct OptionsForm {
 };
 
 /// Boxes that are stored one after the other. The simulated time is stored between boat and scene.
-enum class OptionGroup { Data, SimulateBoat, SimulateScene, Tracking, Watch };
+enum class OptionGroup { Data, Output, SimulateBoat, SimulateScene, Tracking, Watch };
 
 /// A box for a number and the setting that it shows. SettingsTable says what numbers it takes.
 struct OptionBox {
@@ -80,11 +91,13 @@ struct OptionBox {
 };
 
 /// In the order in which they are stored.
-inline constexpr std::array<OptionBox, 21> kOptionBoxes{{
+inline constexpr std::array<OptionBox, 22> kOptionBoxes{{
     {OptionGroup::Data, "True Wind Average", &OptionsForm::NmeaTrueWindAverage,
      &Settings::m_fNmeaTrueWindAverage},
     {OptionGroup::Data, "Wind Indicator Average", &OptionsForm::NmeaWindIndicatorAverage,
      &Settings::m_fNmeaWindIndicatorAverage},
+    {OptionGroup::Output, "Invalid When Lost", &OptionsForm::PilotInvalidSeconds,
+     &Settings::m_fPilotInvalidSeconds},
     {OptionGroup::SimulateBoat, "Boat Speed", &OptionsForm::SimulateBoatSpeed,
      &Settings::m_fSimulateBoatSpeed},
     {OptionGroup::SimulateBoat, "Offset", &OptionsForm::SimulateCompassOffset,
@@ -130,6 +143,11 @@ inline constexpr std::array<OptionSwitch, 7> kWatchSwitches{{
     {&OptionsForm::WatchBlankLost, &Settings::m_bWatchBlankLost},
     {&OptionsForm::CarefulEntry, &Settings::m_bCarefulEntry},
 }};
+
+/// The sentences that the profile Own may send, in the order in which they leave.
+inline constexpr std::array<bool Settings::*, 5> kPilotOwnSwitches{
+    &Settings::m_bPilotOwnAPB, &Settings::m_bPilotOwnRMB, &Settings::m_bPilotOwnHSC,
+    &Settings::m_bPilotOwnXTE, &Settings::m_bPilotOwnBWC};
 
 /// The form that shows `settings`.
 OptionsForm OptionsFormOf(const Settings& settings);

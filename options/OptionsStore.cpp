@@ -3,6 +3,7 @@
 #include <array>
 #include <cassert>
 
+#include "options/PilotChoices.h"
 #include "options/SimulateTimeText.h"
 #include "platform/PortNames.h"
 #include "settings/SettingsTable.h"
@@ -89,7 +90,14 @@ OptionsStore::Fault OptionsStore::StoreInput(const OptionsForm& form) {
 }
 
 OptionsStore::Fault OptionsStore::StoreOutput(const OptionsForm& form) {
-  return In("Comm", StorePort(form, form.PilotPort, m_ports.PilotPortOpen(), m_main.m_iPilotPort));
+  if (const Fault fault =
+          In("Comm", StorePort(form, form.PilotPort, m_ports.PilotPortOpen(), m_main.m_iPilotPort))) {
+    return fault;
+  }
+  if (const auto box = PilotChoicesStore(form, m_main)) {
+    return BoxFault{OptionFault::InvalidValue, *box};
+  }
+  return StoreBoxes(OptionGroup::Output, form);
 }
 
 std::optional<OptionFault> OptionsStore::StorePort(const OptionsForm& form, const std::string& text,

@@ -84,7 +84,8 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
       ListOn(NewOption("O&n", texts.ListOn, this)),
       Pause(new QCheckBox(QStringLiteral("Pa&use"), this)),
       Copy(new QPushButton(QStringLiteral("Cop&y All"), this)),
-      List(new LiveListQt(texts.List.Name, texts.List.Hint, this)) {
+      List(new LiveListQt(texts.List.Name, texts.List.Hint, this)),
+      m_rows(new QGridLayout) {
   NameControl(*Choose, texts.Choose.Name, texts.Choose.Hint);
   Choose->setAutoDefault(false);
   NameText(*Device, texts.Device);
@@ -103,29 +104,28 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
   port->addSpacing(kGroupGap / 2);
   port->addWidget(Reason, 1);
   port->addStretch();
-  auto* rows = new QGridLayout;
-  rows->setColumnStretch(1, 1);
-  rows->addWidget(NewCaption("&Comm:", Port, this), 0, 0);
-  rows->addLayout(port, 0, 1);
-  rows->addWidget(NewText("Leads to:", this), 1, 0);
-  rows->addWidget(Device, 1, 1);
-  rows->addWidget(NewText("Display:", this), 2, 0);
+  m_rows->setColumnStretch(1, 1);
+  m_rows->addWidget(NewCaption("&Comm:", Port, this), 0, 0);
+  m_rows->addLayout(port, 0, 1);
+  m_rows->addWidget(NewText("Leads to:", this), 1, 0);
+  m_rows->addWidget(Device, 1, 1);
+  m_rows->addWidget(NewText("Display:", this), kDisplay, 0);
   auto* display = OptionRow({ListOff, ListOn}, this);
   // In front of the room at the end of the row.
   display->insertSpacing(display->count() - 1, kGroupGap);
   display->insertWidget(display->count() - 1, Pause);
   display->addWidget(Copy);
-  rows->addLayout(display, 2, 1);
+  m_rows->addLayout(display, kDisplay, 1);
   if (texts.Format[0].Name != nullptr) {
-    rows->addWidget(NewText("Format:", this), 3, 0);
-    rows->addLayout(FormatRow(texts), 3, 1);
+    m_rows->addWidget(NewText("Format:", this), kFormat, 0);
+    m_rows->addLayout(FormatRow(texts), kFormat, 1);
   }
   NameControl(*Pause, texts.Pause.Name, texts.Pause.Hint);
   NameControl(*Copy, texts.Copy.Name, texts.Copy.Hint);
   connect(Pause, &QCheckBox::toggled, List, &LiveListQt::Pause);
   connect(Copy, &QPushButton::clicked, List, &LiveListQt::CopyAll);
   auto* page = new QVBoxLayout(this);
-  page->addLayout(rows);
+  page->addLayout(m_rows);
   page->addWidget(List, 1);
 }
 
@@ -145,6 +145,8 @@ QLayout* PortPageQt::FormatRow(const PortPageTexts& texts) {
           [this](int index) { List->Type(index > 0 ? Type->itemText(index).toStdString() : std::string()); });
   return row;
 }
+
+void PortPageQt::Insert(QWidget* frame) const { m_rows->addWidget(frame, kInserted, 0, 1, 2); }
 
 void PortPageQt::Leads(const std::string& endpoints) const {
   const QString text = QString::fromStdString(endpoints);

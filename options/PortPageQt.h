@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -48,6 +49,9 @@ class PortPageQt final : public QWidget {
   /// Says beside the status why the port is not open; "" for nothing.
   void Explain(const std::string& reason) const;
 
+  /// Puts a frame under what leads to the port.
+  void Insert(QWidget* frame) const;
+
   /// Says where the port leads; "" for nowhere, which cannot be chosen for either.
   void Leads(const std::string& endpoints) const;
 
@@ -65,10 +69,17 @@ class PortPageQt final : public QWidget {
   LiveListQt* List;
 
  private:
+  // Rows of the page above the list.
+  static constexpr int kInserted = 2;
+  static constexpr int kDisplay = 3;
+  static constexpr int kFormat = 4;
+
   /// The options of the list's format, and the choice of one type.
   QLayout* FormatRow(const PortPageTexts& texts);
   /// Offers every type that came, in the order of the alphabet.
   void OfferTypes() const;
+
+  QGridLayout* m_rows;
 };
 
 }  // namespace veerwatch

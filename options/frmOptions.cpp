@@ -70,6 +70,8 @@ void frmOptions::MakeTabs() {
   m_input = new PortPageQt(InputPageTexts(), SSTab);
   m_data = new DataPageQt(SSTab);
   m_output = new PortPageQt(OutputPageTexts(), SSTab);
+  m_pilot = new PilotFrameQt(m_output);
+  m_output->Insert(m_pilot);
   m_track = new TrackPageQt(m_parts.Random, m_parts.Main, m_parts.Recorded, SSTab);
   m_track->Suggested([this](const TrackSuggestion& suggestion) { Suggested(suggestion); });
   m_simulate = new SimulatePageQt(SSTab);
@@ -77,7 +79,7 @@ void frmOptions::MakeTabs() {
   m_watch->Tested([this](AlarmSound sound) { m_parts.Main.AlarmTest(sound); });
   SSTab->addTab(m_input, QStringLiteral("&Input"));
   SSTab->addTab(m_data, QStringLiteral("&Data"));
-  SSTab->addTab(m_output, QStringLiteral("&Output"));
+  SSTab->addTab(new OptionPageQt(m_output, SSTab), QStringLiteral("&Output"));
   SSTab->addTab(new OptionPageQt(m_track, SSTab), QStringLiteral("&Tracking"));
   SSTab->addTab(new OptionPageQt(m_simulate, SSTab), QStringLiteral("&Simulate"));
   SSTab->addTab(new LoopDiagramQt(SSTab), QStringLiteral("Dia&gram"));
@@ -131,6 +133,10 @@ void frmOptions::ConnectMarks() {
   connect(m_simulate->chkSimulate, &QCheckBox::toggled, this, [this] { Mark(m_simulate->chkSimulate); });
   m_data->Changed([this](QWidget* control) { Mark(control); });
   m_watch->Changed([this](QWidget* control) { Mark(control); });
+  m_pilot->Changed([this](QWidget* control) {
+    Mark(control);
+    PilotPreviewShow();
+  });
   lstNmeaSentence->Changed([this] { Mark(lstNmeaSentence); });
 }
 
@@ -255,6 +261,13 @@ void frmOptions::OnTick() {
   if (isVisible() && SSTab->currentIndex() == Tracking) {
     m_track->ShowRate();
   }
+  PilotPreviewShow();
+}
+
+void frmOptions::PilotPreviewShow() {
+  if (SSTab->currentIndex() == Output) {
+    m_pilot->Preview(PilotPreviewOf(Form(), m_parts.Main, m_parts.Main.Record(), m_parts.Main.Now()));
+  }
 }
 
 void frmOptions::ShowHelm() {
@@ -327,6 +340,7 @@ OptionsForm frmOptions::Form() const {
   form.PilotPort = m_output->Port->text().toStdString();
   form.PortDevices = m_devices;
   m_simulate->Read(form);
+  m_pilot->Read(form);
   m_track->Read(form);
   m_watch->Read(form);
   return form;
@@ -343,10 +357,12 @@ void frmOptions::OptionsReload() {
   m_input->List->Clear();
   m_output->List->Clear();
   m_simulate->Show(form);
+  m_pilot->Show(form);
   m_track->Show(form);
   m_watch->Show(form);
   SimulateWaypointShow();
   ApplyBold(false);
+  PilotPreviewShow();
   if (SSTab->currentIndex() == Tracking) {
     m_track->TrackPreviewDraw();
   }
@@ -411,6 +427,7 @@ void frmOptions::SSTab_Click(int index) {
   } else if (index == Tracking) {
     m_track->TrackPreviewDraw();
   }
+  PilotPreviewShow();
 }
 
 void frmOptions::vscSimulate_Changed() {

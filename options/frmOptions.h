@@ -18,6 +18,7 @@
 #include "helm/MainWindowApi.h"
 #include "options/DataPageQt.h"
 #include "options/OptionsStore.h"
+#include "options/PilotFrameQt.h"
 #include "options/PortPageQt.h"
 #include "options/SentenceListQt.h"
 #include "options/SimulatePageQt.h"
@@ -107,6 +108,8 @@ class frmOptions final : public QDialog, private HelmObserver {
   OptionsForm Form() const;
   bool OptionsApply();
   void SimulateWaypointShow();
+  /// Shows what would leave for the pilot by what is chosen, where it can be seen.
+  void PilotPreviewShow();
 
   void cmdOk_Click();
   void cmdCancel_Click();
@@ -126,6 +129,7 @@ class frmOptions final : public QDialog, private HelmObserver {
   PortPageQt* m_input;
   DataPageQt* m_data;
   PortPageQt* m_output;
+  PilotFrameQt* m_pilot;
   TrackPageQt* m_track;
   SimulatePageQt* m_simulate;
   WatchPageQt* m_watch;

@@ -29,6 +29,13 @@ OptionsForm OtherForm() {
   form.NmeaWindUnits = form.NmeaLowerCase = true;
   form.NmeaPort = "7";
   form.PilotPort = "8";
+  form.PilotProfile = static_cast<int>(PilotProfile::Own);
+  form.PilotCadence = 2;
+  form.PilotInvalidWhenLost = true;
+  form.PilotInvalidSeconds = "8";
+  form.PilotOwnTalker = "GP";
+  form.PilotOwnPoint = "WP7";
+  form.PilotOwnSends = {true, true, false, false, true};
   form.Simulate = true;
   form.SimulateBoatSpeed = "6.5";
   form.SimulateCompassOffset = "-2";
@@ -101,6 +108,29 @@ TEST_F(OptionsStoring, StoresTheWatchAndShowsItAgain) {
   EXPECT_EQ(form.WatchSound, 1);
   EXPECT_EQ(form.WatchCommand, "/usr/bin/buzz --loud");
   EXPECT_EQ(form.WatchStaleWaypoint, "8");
+}
+
+TEST_F(OptionsStoring, StoresWhatThePilotIsSentAndShowsItAgain) {
+  ASSERT_EQ(Store.Store(OtherForm()), std::nullopt);
+  EXPECT_EQ(Main.m_ePilotProfile, PilotProfile::Own);
+  EXPECT_EQ(Main.m_iPilotCadence, 2);
+  EXPECT_TRUE(Main.m_bPilotInvalidWhenLost);
+  EXPECT_EQ(Main.m_fPilotInvalidSeconds, 8.0F);
+  EXPECT_EQ(Main.m_sPilotOwnTalker, "GP");
+  EXPECT_EQ(Main.m_sPilotOwnPoint, "WP7");
+  EXPECT_TRUE(Main.m_bPilotOwnAPB && Main.m_bPilotOwnRMB && Main.m_bPilotOwnBWC);
+  EXPECT_FALSE(Main.m_bPilotOwnHSC || Main.m_bPilotOwnXTE);
+  EXPECT_EQ(OptionsFormOf(Main).PilotInvalidSeconds, "8");
+  EXPECT_EQ(OptionsFormOf(Main).PilotOwnPoint, "WP7");
+}
+
+TEST_F(OptionsStoring, RefusesATalkerThatIsNotWhole) {
+  OptionsForm form = OtherForm();
+  form.PilotOwnTalker = "G";
+  EXPECT_EQ(Store.Store(form), "Output Options Problem Invalid property value: Talker");
+  form = OtherForm();
+  form.PilotInvalidSeconds = "0";
+  EXPECT_EQ(Store.Store(form), "Output Options Problem Invalid property value: Invalid When Lost");
 }
 
 TEST_F(OptionsStoring, StoresWhatIsAskedOfALineAndShowsItAgain) {
