@@ -50,23 +50,35 @@ void BytesToPilot(benchmark::State& state) {
 }
 BENCHMARK(BytesToPilot);
 
-/// From the carriage return of a wind sentence to the finished text for the autopilot: the median and the
-/// 99th percentile of many single ones [us].
+/// Settings that send the pilot all that there is.
+Settings EverySentence() {
+  Settings settings;
+  settings.m_ePilotProfile = PilotProfile::Own;
+  settings.m_iPilotOwnFields = 15;
+  settings.m_bPilotOwnRMB = settings.m_bPilotOwnHSC = true;
+  settings.m_bPilotOwnXTE = settings.m_bPilotOwnBWC = true;
+  return settings;
+}
+
+/// From the carriage return of a wind sentence to the last of `range` sentences for the autopilot, one or all
+/// five: the median and the 99th percentile of many single ones [us], and the heap allocations of one.
 void WindToPilot(benchmark::State& state) {
+  const auto wanted = static_cast<std::uint64_t>(state.range(0));
   const std::string bytes = SampleLines(kLines);
   const std::string wind = WindLine();
   const std::string_view start = std::string_view(wind).substr(0, wind.size() - 2);
-  PathPass path;
+  PathPass path(wanted > 1 ? EverySentence() : Settings());
   path.Run(bytes);
   std::vector<double> times;
   times.reserve(4000000);
+  const std::uint64_t before = AllocationCount();
   for (auto _ : state) {
     path.Arrive(start);
     const std::uint64_t sentences = path.Sentences();
     const auto begin = std::chrono::steady_clock::now();
     path.Arrive("\r");
     const std::chrono::duration<double, std::micro> time = std::chrono::steady_clock::now() - begin;
-    if (path.Sentences() != sentences + 1) {
+    if (path.Sentences() != sentences + wanted) {
       state.SkipWithError("no autopilot sentence");
       break;
     }
@@ -75,11 +87,13 @@ void WindToPilot(benchmark::State& state) {
   if (times.empty()) {
     return;
   }
+  const auto allocations = static_cast<double>(AllocationCount() - before);
+  state.counters["allocations"] = allocations / static_cast<double>(times.size());
   std::sort(times.begin(), times.end());
   state.counters["median_us"] = times[times.size() / 2];
   state.counters["p99_us"] = times[times.size() * 99 / 100];
 }
-BENCHMARK(WindToPilot)->Iterations(1000000);
+BENCHMARK(WindToPilot)->Arg(1)->Arg(5)->Iterations(1000000);
 
 /// One pass of the method Direction: a wind and, as it comes once a second, an answer.
 void DirectionPass(benchmark::State& state) {

@@ -57,8 +57,9 @@ PassResult DecodePass(std::string_view bytes) {
   return result;
 }
 
-PathPass::PathPass()
-    : m_helm(m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random),
+PathPass::PathPass(const Settings& settings)
+    : m_settings(settings),
+      m_helm(m_settings, m_nmeaPort, m_pilotPort, m_timer, m_clock, m_random),
       m_told(m_helm.Observers().Join(*this)) {
   m_helm.Modes().TrackSetSetup();
   m_helm.Modes().TrackSetManual();

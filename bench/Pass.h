@@ -26,10 +26,10 @@ inline constexpr std::size_t kChunk = 4096;
 /// Frames `bytes`, checks every checksum and decodes every value that the decoders use.
 PassResult DecodePass(std::string_view bytes);
 
-/// A helm in Track mode on ports in memory that counts what passes.
+/// A helm in Track mode by `settings`, on ports in memory, that counts what passes.
 class PathPass final : private HelmObserver {
  public:
-  PathPass();
+  explicit PathPass(const Settings& settings = Settings());
   /// Lets `bytes` arrive in events of kChunk bytes.
   PassResult Run(std::string_view bytes);
   /// Lets `bytes` arrive in one event.

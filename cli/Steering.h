@@ -62,7 +62,7 @@ class Steering final : private HelmObserver {
   const std::string& Status() const { return m_status; }
   bool Used() const { return m_used; }
   const std::optional<std::string>& Error() const { return m_error; }
-  /// The autopilot sentence, without its line end; "" for none.
+  /// The sentences for the autopilot, with a line end between two; "" for none.
   const std::string& PilotSentence() const { return m_pilotSentence; }
   struct Deltas {
     float Apparent = 0.0F;
@@ -84,7 +84,9 @@ class Steering final : private HelmObserver {
 
   void OnInputStatus(const PortStatus& status) override { m_status = InputStatusText(status); }
   void OnNmeaLine(std::string_view line, LineFault fault, bool used) override;
-  void OnPilotData(std::string_view sentence) override { m_pilotSentence = sentence; }
+  void OnPilotData(std::string_view sentence) override {
+    m_pilotSentence.append(m_pilotSentence.empty() ? "" : "\n").append(sentence);
+  }
   void OnDelta(float apparent, float trueWind) override { m_delta = Deltas{apparent, trueWind}; }
   void OnTrackRefused(TrackRefusal why) override { m_refused = why; }
   void OnWatch(const WatchNow& watch) override;

@@ -100,14 +100,105 @@ class SignalKParser : public testing::Test {
   std::vector<Told> Answers;  ///< of the sentences
 };
 
+constexpr const char* kMagnetic = "steering.autopilot.target.headingMagnetic";
+constexpr const char* kTrue = "steering.autopilot.target.headingTrue";
+
 TEST_F(SignalKParser, TakesTheHeadingOfMagneticApb) {
   Send(PilotProfile::MagneticApb);
   Parse();
   for (std::size_t i = 0; i < Sentences.size(); ++i) {
-    ExpectDirection(Answers[i].Number("steering.autopilot.target.headingMagnetic"),
-                    static_cast<double>(Values[i].Bearing));
+    ExpectDirection(Answers[i].Number(kMagnetic), static_cast<double>(Values[i].Bearing));
+    EXPECT_FALSE(Answers[i].Number(kTrue));
     ASSERT_FALSE(HasFailure()) << Sentences[i];
   }
+}
+
+TEST_F(SignalKParser, TakesTheHeadingOfTrueApb) {
+  Send(PilotProfile::TrueApb);
+  Parse();
+  for (std::size_t i = 0; i < Sentences.size(); ++i) {
+    ExpectDirection(Answers[i].Number(kTrue), static_cast<double>(Values[i].Bearing + kVariation));
+    EXPECT_FALSE(Answers[i].Number(kMagnetic));
+    ASSERT_FALSE(HasFailure()) << Sentences[i];
+  }
+}
+
+TEST_F(SignalKParser, TakesThePointOfRmb) {
+  Send(PilotProfile::ApbAndRmb);
+  Parse();
+  for (std::size_t i = 0; i < Sentences.size(); ++i) {
+    if (Is(Sentences[i], "RMB")) {
+      const std::string point = "navigation.courseRhumbline.nextPoint.";
+      ExpectDirection(Answers[i].Number(point + "bearingTrue"),
+                      static_cast<double>(Values[i].Bearing + kVariation));
+      EXPECT_NEAR(Answers[i].Number(point + "distance").value_or(0.0), 18520.0, 0.1);
+      EXPECT_EQ(Answers[i].Values[point + "ID"], "\"1\"");
+    } else {
+      ExpectDirection(Answers[i].Number(kMagnetic), static_cast<double>(Values[i].Bearing));
+    }
+    ASSERT_FALSE(HasFailure()) << Sentences[i];
+  }
+}
+
+TEST_F(SignalKParser, TakesBothHeadingsOfHsc) {
+  Send(PilotProfile::Hsc);
+  Parse();
+  for (std::size_t i = 0; i < Sentences.size(); ++i) {
+    ExpectDirection(Answers[i].Number(kTrue), static_cast<double>(Values[i].Bearing + kVariation));
+    ExpectDirection(Answers[i].Number(kMagnetic), static_cast<double>(Values[i].Bearing));
+    ASSERT_FALSE(HasFailure()) << Sentences[i];
+  }
+}
+
+TEST_F(SignalKParser, TakesTheWindOfVwrAndMwv) {
+  Send(PilotProfile::Wind);
+  Parse();
+  for (std::size_t i = 0; i < Sentences.size(); ++i) {
+    ExpectDirection(Answers[i].Number("environment.wind.angleApparent"),
+                    static_cast<double>(Values[i].Wind->Angle));
+    EXPECT_NEAR(Answers[i].Number("environment.wind.speedApparent").value_or(-1.0),
+                static_cast<double>(Values[i].Wind->Speed) * kMetresASecond, 0.03);
+    ASSERT_FALSE(HasFailure()) << Sentences[i];
+  }
+}
+
+TEST_F(SignalKParser, TakesEverySentenceOfOwnWithItsMode) {
+  Set.m_bPilotOwnRMB = Set.m_bPilotOwnHSC = Set.m_bPilotOwnXTE = Set.m_bPilotOwnBWC = true;
+  Set.m_iPilotOwnFields = 15;
+  Set.m_sPilotOwnPoint = "POINT6";
+  Send(PilotProfile::Own);
+  Parse();
+  for (std::size_t i = 0; i < Sentences.size(); ++i) {
+    const auto bearing = static_cast<double>(Values[i].Bearing);
+    const std::string circle = "navigation.courseGreatCircle.bearingTrack";
+    if (Is(Sentences[i], "APB") || Is(Sentences[i], "HSC")) {
+      ExpectDirection(Answers[i].Number(kMagnetic), bearing);
+    } else if (Is(Sentences[i], "BWC")) {
+      ExpectDirection(Answers[i].Number(circle + "Magnetic"), bearing);
+      ExpectDirection(Answers[i].Number(circle + "True"), bearing + static_cast<double>(kVariation));
+    } else if (Is(Sentences[i], "RMB")) {
+      EXPECT_EQ(Answers[i].Values["navigation.courseRhumbline.nextPoint.ID"], "\"POINT6\"");
+    } else {
+      EXPECT_EQ(Answers[i].Number("navigation.courseRhumbline.crossTrackError"), 0.0);
+    }
+    ASSERT_FALSE(HasFailure()) << Sentences[i];
+  }
+}
+
+TEST_F(SignalKParser, TakesNoApbAndNoWindThatDoNotHold) {
+  for (const PilotProfile profile : {PilotProfile::MagneticApb, PilotProfile::Wind}) {
+    Set.m_ePilotProfile = profile;
+    PilotValues lost(123.4F);
+    lost.Good = false;
+    lost.Wind = {40.0F, 10.0F};
+    PilotSentences built;
+    EXPECT_EQ(built.Build(PilotFormOf(Set), lost), PilotRefusal());
+    ASSERT_EQ(built.Bundle().Count(), 1U);
+    Sentences.emplace_back(built.Bundle().Sentence(0));
+  }
+  Parse();
+  EXPECT_EQ(Answers[0].Reason, "Error:");
+  EXPECT_EQ(Answers[1].Reason, "nothing");
 }
 
 }  // namespace
