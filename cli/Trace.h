@@ -14,8 +14,9 @@ double JsonNumber(float value);
 /// the keys of TraceTick.
 std::string TraceLine(const std::string& line, const Steering& steering);
 
-/// A tick: "apb" (the sentence, or null), "record" (every field of InstrumentData under its name),
-/// "autopilot", "desired" (two numbers), "delta" (two numbers, or null when no control step ran), "integral".
+/// A tick: "apb" (the sentences for the autopilot, with a line end between two, or null), "record" (every
+/// field of InstrumentData under its name), "autopilot", "desired" (two numbers), "delta" (two numbers, or
+/// null when no control step ran), "integral".
 std::string TraceTick(const Steering& steering);
 
 }  // namespace veerwatch

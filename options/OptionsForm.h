@@ -30,14 +30,14 @@ struct OptionsForm {
   // Output. The choices are indexes in their lists.
   int PilotProfile = 0;
   int PilotCadence = 0;
+  int PilotOwnBearing = 0;
+  int PilotOwnFields = 0;    ///< 0 for 14
+  int PilotOwnDecimals = 0;  ///< as many
   bool PilotInvalidWhenLost = false;
+  std::array<bool, 5> PilotOwnSends{};  ///< in the order of kPilotOwnSwitches
   std::string PilotInvalidSeconds;
   std::string PilotOwnTalker;
   std::string PilotOwnPoint;
-  int PilotOwnBearing = 0;
-  int PilotOwnFields = 0;                  ///< 0 for 14
-  int PilotOwnDecimals = 0;                ///< as many
-  std::array<bool, 5> PilotOwnSends{};     ///< in the order of kPilotOwnSwitches
   std::map<int, std::string> PortDevices;  ///< what was chosen for a port's number, and not stored yet
 
   // Simulate.

@@ -206,7 +206,7 @@ void PilotFrameQt::Read(OptionsForm& form) const {
   ReadEntries(Entries(), form);
 }
 
-void PilotFrameQt::Preview(const PilotPreview& preview) {
+void PilotFrameQt::Preview(const PilotPreview& preview) const {
   const QString sentences = QString::fromStdString(preview.Sentences);
   if (lblPilotSentences->text() != sentences) {
     lblPilotSentences->setText(sentences);

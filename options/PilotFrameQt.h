@@ -24,7 +24,7 @@ class PilotFrameQt final : public QGroupBox {
   void Show(const OptionsForm& form);
   void Read(OptionsForm& form) const;
   /// What would leave by what is chosen here.
-  void Preview(const PilotPreview& preview);
+  void Preview(const PilotPreview& preview) const;
 
   /// Called with each control that changes.
   void Changed(const std::function<void(QWidget*)>& handler) const;

@@ -3,11 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <fstream>
 #include <nlohmann/json.hpp>
 #include <sstream>
 
 #include "cli/Replay.h"
 #include "cli/Simulate.h"
+#include "tests/support/Sentences.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace veerwatch {
 
@@ -43,6 +46,18 @@ TEST(Trace, HasTheKeysOfALine) {
   }
   EXPECT_EQ(objects[0].size(), 10U);
   EXPECT_EQ(objects[0]["record"].size(), 22U);
+}
+
+TEST(Trace, HasEverySentenceOfAStep) {
+  const TemporaryFolder folder;
+  std::ofstream(folder / "boat.ini") << "[Pilot]\nProfile=APB and RMB\n";
+  ReplayOptions options;
+  options.Steer.ProfileFile = (folder / "boat.ini").string();
+  options.Steer.Mode = TrackMode::Manual;
+  const std::vector<json> objects = Trace(WithChecksum("$IIHVM,5.0,E") + "\n" + kSail, options);
+  ASSERT_EQ(objects.size(), 4U);
+  EXPECT_EQ(objects[2]["apb"], WithChecksum("$ECAPB,A,A,0.00,R,N,V,V,040.0,M,1,040.0,M,040.0,M") + "\n" +
+                                   WithChecksum("$ECRMB,A,0.00,R,,1,,,,,10.0,045.0,,V"));
 }
 
 TEST(Trace, ShowsNullWhereNoControlStepRan) {

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <filesystem>
 
+#include "tests/support/Sentences.h"
 #include "tests/ui/MainWindowTester.h"
 
 namespace veerwatch {
@@ -55,6 +56,34 @@ TEST_F(MainWindowNotices, SayInSetupWhatTheSourcesDoNotBring) {
   EXPECT_TRUE(LineShown());
   Sail("$GPVTG,054.7,T,034.4,M,005.5,N,010.2,K\r", 1);
   EXPECT_FALSE(LineShown());
+}
+
+TEST_F(MainWindowNotices, SayWhatThePilotIsNotSentInThePanelAndInTheBanner) {
+  Start("[Nmea]\nPort=3\n[Pilot]\nPort=4\nProfile=True APB\n");
+  Mode(5);
+  const char* wind = "$GPVTG,054.7,T,034.4,M,005.5,N,010.2,K\r$IIMWV,045,R,10.5,N,A\r";
+  Sail(wind, 1);
+  EXPECT_EQ(Text("StatusBar(3)"), "True APB Needs the Variation");
+  EXPECT_EQ(Line(), "True APB Needs the Variation");
+  EXPECT_EQ(PilotPort.TakeWritten(), "");
+  NmeaPort.Receive(WithChecksum("$IIHVM,5.0,E") + "\r");
+  Sail(wind, 1);
+  EXPECT_EQ(Text("StatusBar(3)"), "");
+  EXPECT_FALSE(LineShown());
+  EXPECT_NE(PilotPort.TakeWritten(), "");
+}
+
+TEST_F(MainWindowNotices, SayInTheToolTipOfTheOutputThatTheLineIsTooFull) {
+  PilotPort.Rate = 600;
+  Start("[Nmea]\nPort=3\n[Pilot]\nPort=4\nCadence=1\n");
+  Mode(5);
+  Sail("$GPVTG,054.7,T,034.4,M,005.5,N,010.2,K\r$IIMWV,045,R,10.5,N,A\r", 1);
+  const auto tip = [this] { return Find<QLabel>("StatusBar(3)").toolTip().toStdString(); };
+  // 54 characters of ten bits.
+  EXPECT_THAT(tip(), testing::HasSubstr("Pilot line 90 % full at 600 baud"));
+  PilotPort.Rate = 4800;
+  tmrNmea.Tick();
+  EXPECT_THAT(tip(), testing::Not(testing::HasSubstr("full")));
 }
 
 TEST_F(MainWindowNotices, SayItOnTheDataTab) {
