@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "app/IconsQt.h"
+#include "app/TurnAimOf.h"
 #include "draw/DrawQt.h"
 #include "draw/WindowPlaceQt.h"
 #include "platform/NumberText.h"
@@ -42,13 +43,15 @@ void BringUp(QWidget& window) {
 }  // namespace
 
 OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& menu, MainWindowApi& main,
-                               QWidget* window)
+                               QWidget* window, const ForTurns& turns)
     : m_parts(parts),
       m_menu(menu),
       m_main(main),
       m_window(window),
       m_recorded(main.Observers(), main.Record()),
-      m_told(main.Observers().Join(*this)) {
+      m_told(main.Observers().Join(*this)),
+      m_turns({main, turns.Run, turns.Asks, *window, turns.Say, [this]() -> frmTack& { return Tack(); },
+               [this] { return m_tack.get(); }, [this](bool upwind) { return BestAim(upwind); }}) {
   QObject::connect(menu.mnuViewHistory, &QAction::triggered, [this] { HistoryShow(); });
   for (const QAction* command : {menu.mnuViewDiagram, menu.mnuHelpDiagram}) {
     QObject::connect(command, &QAction::triggered, [this] { DiagramShow(); });
@@ -224,11 +227,15 @@ void OtherWindowsQt::FadePolar() {
 
 frmTack& OtherWindowsQt::Tack() {
   if (!m_tack) {
-    m_tack = std::make_unique<frmTack>(
-        TackParts{m_main, m_parts.TimerTack, m_parts.Store, m_parts.Time, [this] { return ManoeuvreNow(); }},
-        m_window);
+    m_tack = std::make_unique<frmTack>(TackParts{m_main, m_parts.TimerTack, m_parts.Store, m_parts.Time,
+                                                 [this] { return ManoeuvreNow(); }, m_turns},
+                                       m_window);
   }
   return *m_tack;
+}
+
+std::optional<TurnAim> OtherWindowsQt::BestAim(bool upwind) {
+  return TurnAimOf(Polar().Model().Table(), m_main.Record().Data().WindSpeedTrue, upwind);
 }
 
 TurnNow OtherWindowsQt::ManoeuvreNow() const {

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QApplication>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -11,6 +12,7 @@
 #include <vector>
 
 #include "app/MainWindowParts.h"
+#include "app/TurnDeskQt.h"
 #include "app/frmMainCommands.h"
 #include "diagram/DiagramObserver.h"
 #include "diagram/frmAbout.h"
@@ -35,9 +37,17 @@ class OtherWindowsQt final : private HelmObserver,
                              private OptionsPorts,
                              private DiagramObserver {
  public:
+  /// What turns that are followed to their end need of the main window.
+  struct ForTurns {
+    TurnRun& Run;
+    WindowDialogs& Asks;                          ///< of the main window
+    std::function<void(const std::string&)> Say;  ///< shows one line in the status bar for a while
+  };
+
   /// Connects the commands of `menu` that show a window. `window` is the main window. All of them outlive
   /// this.
-  OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& menu, MainWindowApi& main, QWidget* window);
+  OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& menu, MainWindowApi& main, QWidget* window,
+                 const ForTurns& turns);
 
   /// Puts what the windows keep into the profile, which the caller commits.
   void Store();
@@ -74,6 +84,7 @@ class OtherWindowsQt final : private HelmObserver,
 
   frmPolar& Polar();
   frmTack& Tack();
+  std::optional<TurnAim> BestAim(bool upwind);
   TurnNow ManoeuvreNow() const;
 
   void DiagramShow();
@@ -120,7 +131,8 @@ class OtherWindowsQt final : private HelmObserver,
   std::unique_ptr<frmHistory> m_history;  ///< from the first value on
   std::unique_ptr<frmPolar> m_polar;      ///< null until it is shown for the first time
   BestAnglesMemory m_best;
-  std::unique_ptr<frmTack> m_tack;        ///< the same
+  TurnDeskQt m_turns;
+  std::unique_ptr<frmTack> m_tack;        ///< null until it is shown for the first time, or a key turns
   std::optional<TurnButton> m_asked;      ///< the button that the manoeuvre was asked for with
   std::unique_ptr<frmOptions> m_options;  ///< from its first use on, until its frame is closed
   std::unique_ptr<frmDiagram> m_diagram;  ///< null until it is shown for the first time

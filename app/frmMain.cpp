@@ -73,7 +73,9 @@ frmMain::frmMain(const MainWindowParts& parts)
       m_status(new StatusPanelsQt(this)),
       m_helm(*this, parts.MSCommNmea, parts.MSCommPilot, parts.tmrNmea, parts.Time, parts.Random),
       m_told(m_helm.Observers().Join(*this)),
-      m_others(m_parts, m_menu, *this, this),
+      m_turn(m_helm, parts.TimerTack, parts.Time),
+      m_others(m_parts, m_menu, *this, this,
+               {m_turn, *m_asks, [this](const std::string& text) { SayForAWhile(text); }}),
       m_alarms(m_parts, m_menu, *this, *m_panel->Banner, *this),
       m_recording(m_parts, m_menu, m_helm, *m_asks, *statusBar(),
                   [this](const std::string& text) { NoticeSet(AlarmKind::Record, text); }),
@@ -452,9 +454,13 @@ void frmMain::OnTurnEnds(TurnFate why) {
   if (why == TurnFate::Taken) {
     return;
   }
-  m_instead = QStringLiteral("Turn ended: ") + Text(TurnFateText(why));
-  m_insteadTimer.start();
+  SayForAWhile("Turn ended: " + std::string(TurnFateText(why)));
   m_alarms.TurnSounds();
+}
+
+void frmMain::SayForAWhile(const std::string& text) {
+  m_instead = Text(text);
+  m_insteadTimer.start();
   ShowModeText();
 }
 

@@ -24,6 +24,7 @@
 #include "app/frmMainCommands.h"
 #include "helm/Helm.h"
 #include "helm/MainWindowApi.h"
+#include "tack/TurnRun.h"
 
 namespace veerwatch {
 
@@ -62,7 +63,10 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void tmrNmea_Timer();
   void tmrUnload_Timer();
   void tmrPilot_Timer() { m_helm.PilotTick(); }
-  void TimerTack_Timer() { m_others.TimerTack_Timer(); }
+  void TimerTack_Timer() {
+    m_turn.Tick();
+    m_others.TimerTack_Timer();
+  }
 
   bool NmeaStart() override { return m_helm.Receiver().NmeaStart(); }
   void NmeaStop() override { m_helm.Receiver().NmeaStop(); }
@@ -108,6 +112,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void ApplyTheme();
   void ShowControls();
   void ShowModeText();
+  /// Shows one line in place of the mode, for ten seconds.
+  void SayForAWhile(const std::string& text);
   /// Heading and age of the latest sentence beside the bearing, while the pilot is sent to.
   void ShowSent();
   /// In Setup the banner says what the sources do not bring.
@@ -166,6 +172,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   StatusPanelsQt* m_status;
   Helm m_helm;
   HelmObservers::Membership m_told;
+  TurnRun m_turn;
   OtherWindowsQt m_others;
   AlarmDeskQt m_alarms;
   RecordingQt m_recording;

@@ -75,11 +75,6 @@ bool TrackLoop::StartTracking(const std::optional<float>& angle) {
   return true;
 }
 
-std::optional<float> TrackLoop::MeanWind(TrackSide side) const {
-  const auto mean = m_means[At(side)].Mean();
-  return mean ? std::optional(FoldRelative(*mean)) : std::nullopt;
-}
-
 bool TrackLoop::HoldMean(TrackSide side) {
   const auto mean = m_means[At(side)].Mean();
   if (mean) {

@@ -98,9 +98,6 @@ class TrackLoop {
   /// Withdraws the alarm; true when there was one.
   bool WithdrawAlarm() { return std::exchange(m_alarmActive, false); }
 
-  /// The wind angle of the last ten seconds [deg relative, (-180, 180]]; nothing where none came.
-  std::optional<float> MeanWind(TrackSide side) const;
-
   TrackSide Side() const { return m_side; }
   /// While another method than Sentence tracks, the angle of the last ten seconds is held from now on: true
   /// when that changed what is held.

@@ -54,7 +54,9 @@ HelmNow Helm::Now() const {
   now.CanTrack = m_loop.CanTrack();
   now.Desired = m_settings.DesiredAngle;
   for (const TrackSide side : {TrackSide::Apparent, TrackSide::True}) {
-    now.WindMean[static_cast<std::size_t>(side)] = m_loop.MeanWind(side);
+    if (const auto mean = m_loop.MeanAngle(side)) {
+      now.WindMean[static_cast<std::size_t>(side)] = FoldRelative(*mean);
+    }
   }
   now.Watch = m_watch.Now();
   now.Sentence = m_why;

@@ -27,6 +27,16 @@ const SettingTable<TackSettings>& TackSettingsTable() {
     AddKind(table, 1, "steering");
     AddKind(table, 2, "tacking");
     AddKind(table, 3, "jibing");
+    constexpr const char* kThen = "Steer, Tack and Jibe";
+    table.push_back(
+        {"Tack Data", "Then Track", Truth(&TackSettings::ThenTrack), "",
+         "a turn eases its overshoot out, ends on the wind angle of the other tack, and Track takes over",
+         kThen});
+    table.push_back({"Tack Data", "Then Track Angle", Choice(&TackSettings::Angle, TackAngle::Best), "",
+                     "that angle: 0 the present one mirrored, 1 the polar's best", kThen});
+    table.push_back({"Tack Data", "Stage Limit", Number(&TackSettings::StageLimit, kAboveZero), "s",
+                     "a stage of such a turn that lasts longer ends it, or twice what its rate needs",
+                     "the profile alone"});
     return table;
   }();
   return kTable;

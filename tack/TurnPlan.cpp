@@ -62,6 +62,8 @@ void PlanSteer(const TurnAsk& ask, const HelmNow& now, TurnPlan& plan) {
   plan.Held = FoldRelative(Present(now, now.Side) - plan.Change);
 }
 
+std::string SideOf(const TurnPlan& plan) { return plan.Change < 0.0 ? " to port" : " to starboard"; }
+
 std::string RefusalOf(const TurnPlan& plan) {
   const double off = std::fabs(plan.Wind);
   if (plan.Kind == ManoeuvreKind::Tack && off < kDead) {
@@ -89,6 +91,7 @@ TurnPlan PlanTurn(const TurnAsk& ask, const HelmNow& now) {
   plan.Bearing = static_cast<double>(now.AutoPilot);
   const bool turns = std::isfinite(ask.Rate) && ask.Rate > 0.0F;
   plan.Rate = turns ? static_cast<double>(ask.Rate) : Manoeuvre::kUsualRate;
+  plan.Note = ask.Kind != ManoeuvreKind::Steer && ask.Aim && ask.Aim->AtEdge ? ", at the polar's edge" : "";
   if (ask.Kind == ManoeuvreKind::Steer) {
     PlanSteer(ask, now, plan);
   } else {
@@ -101,22 +104,31 @@ TurnPlan PlanTurn(const TurnAsk& ask, const HelmNow& now) {
 
 std::string PlanWords(const TurnPlan& plan) {
   const std::string degrees = FormatNumber(ToSingle(std::fabs(plan.Change)), "0");
-  const std::string way = degrees + (degrees == "1" ? " degree" : " degrees") +
-                          (plan.Change < 0.0 ? " to port" : " to starboard");
+  const std::string way = degrees + (degrees == "1" ? " degree" : " degrees") + SideOf(plan);
   switch (plan.Crossing) {
     case WindCrossing::Bow:
-      return "Tack, " + way + " through the wind";
+      return "Tack, " + way + " through the wind" + plan.Note;
     case WindCrossing::Stern:
-      return "GYBE, " + way + ", by the stern";
+      return "GYBE, " + way + ", by the stern" + plan.Note;
     case WindCrossing::None:
       break;
   }
-  return "Steer, " + way;
+  return "Steer, " + way + plan.Note;
 }
 
 bool PlanAsksOnceMore(const TurnPlan& plan, WindCrossing said) {
   return std::fabs(plan.Change + plan.Overshoot) >= kAskedFrom ||
          (plan.Crossing != WindCrossing::None && plan.Crossing != said);
+}
+
+std::string PlanQuestion(const TurnPlan& plan, WindCrossing said) {
+  if (!PlanAsksOnceMore(plan, said)) {
+    return {};
+  }
+  const std::string kind = plan.Crossing == WindCrossing::Bow     ? "Tack"
+                           : plan.Crossing == WindCrossing::Stern ? "GYBE"
+                                                                  : "Steer";
+  return kind + SideOf(plan) + ": OK once more?";
 }
 
 }  // namespace veerwatch

@@ -15,6 +15,7 @@ namespace veerwatch {
 struct TurnAim {
   float Apparent = 0.0F;
   float True = 0.0F;
+  bool AtEdge = false;  ///< of the table that it was looked up in: a better one may lie beyond
 };
 
 /// What a turn is asked for with.
@@ -38,6 +39,7 @@ struct TurnPlan {
   double Rate = Manoeuvre::kUsualRate;  ///< [deg/s], above 0
   double Bearing = 0.0;                 ///< of the pilot at the start [deg magnetic]
   float Held = 0.0F;                    ///< wind angle that Track then holds on its side [deg relative]
+  std::string Note;                     ///< what the words say besides
   std::string Refusal;                  ///< why it cannot be made; "" when it can
 };
 
@@ -53,5 +55,9 @@ std::string PlanWords(const TurnPlan& plan);
 /// Whether the user is asked once more: for 150 degrees and more with the overshoot, and for a crossing of
 /// the wind that `said`, by the button that was pressed, did not name.
 bool PlanAsksOnceMore(const TurnPlan& plan, WindCrossing said);
+
+/// That question, as "GYBE to port: OK once more?"; "" where nothing is asked. The same for the same kind and
+/// side of turn, whatever its degrees are.
+std::string PlanQuestion(const TurnPlan& plan, WindCrossing said);
 
 }  // namespace veerwatch

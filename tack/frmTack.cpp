@@ -1,15 +1,13 @@
 #include "tack/frmTack.h"
 
 #include <QEvent>
-#include <QGridLayout>
-#include <QHBoxLayout>
 #include <QWindow>
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <utility>
 #include <vector>
 
+#include "instruments/MathLib.h"
 #include "platform/ColoursQt.h"
 #include "platform/NumberText.h"
 
@@ -19,175 +17,31 @@ namespace {
 
 constexpr int kTimerInterval = 1000;  // [ms]
 constexpr double kMillisecondsPerSecond = 1000.0;
-constexpr int kTextHeight = 18;  // [px]
-constexpr int kEntryHeight = 24;
-constexpr int kHeadingHeight = 44;
-constexpr int kMargin = 24;
-constexpr int kSpacing = 14;
-constexpr QSize kButtonSize(150, 52);
-constexpr int kBarHeight = 30;
-constexpr int kStepGap = 2;
 /// Part of the text's colour in a text that does not answer.
 constexpr double kDimmed = 0.6;
 
-constexpr std::array<const char*, 4> kWords{"", "Steer", "Tack", "Jibe"};
-constexpr const char* kManual = "Set tracking mode to Manual";
-constexpr const char* kOvershoot = "Overshoot the heading";
-constexpr const char* kLimit = "Limit the rate of change";
 constexpr const char* kFilledAnew = "Heading or wind moved, filled anew: OK once more";
-/// The longest: a question in two parts, and that the boat swings.
-constexpr int kNoteLines = 4;
 
 std::size_t IndexOf(ManoeuvreKind kind) { return static_cast<std::size_t>(kind); }
 
 QString Text(const std::string& text) { return QString::fromStdString(text); }
 
-QString Prompt(const char* word) { return QStringLiteral("&%1 to new heading:").arg(QLatin1String(word)); }
-
-QFont Sized(QFont font, int pixels) {
-  font.setPixelSize(pixels);
-  return font;
-}
-
-/// A box for one number of up to `pattern`'s width, in figures of `pixels`.
-EntryLineQt* Entry(const char* name, const QString& toolTip, const QString& pattern, int pixels,
-                   QWidget* parent) {
-  auto* box = new EntryLineQt(parent);
-  box->setObjectName(QLatin1String(name));
-  box->setAccessibleName(toolTip);
-  box->setToolTip(toolTip);
-  box->setAlignment(Qt::AlignRight);
-  box->setFont(Sized(box->font(), pixels));
-  const QSize figures = box->fontMetrics().size(Qt::TextSingleLine, pattern);
-  box->setFixedSize(figures.width() + pixels, figures.height() * 5 / 4);
-  return box;
-}
-
-QLabel* Caption(const char* name, const QString& text, QWidget* buddy, QWidget* parent) {
-  auto* label = new QLabel(text, parent);
-  label->setObjectName(QLatin1String(name));
-  label->setBuddy(buddy);
-  return label;
-}
-
 }  // namespace
 
-frmTack::frmTack(const TackParts& parts, QWidget* main) : QDialog(main), m_parts(parts) {
+frmTack::frmTack(const TackParts& parts, QWidget* main)
+    : QDialog(main), TackControlsQt(static_cast<QDialog&>(*this)), m_parts(parts) {
   setObjectName(QStringLiteral("frmTack"));
   setModal(false);
   TackRecall(m_parts.Store, m_settings);
   m_parts.TimerTack.Interval(kTimerInterval);
-  MakeControls();
+  connect(cmdOk, &QPushButton::clicked, this, [this] { cmdOk_Click(); });
+  for (const QLineEdit* box : {txtHeading, txtOvershoot}) {
+    connect(box, &QLineEdit::textEdited, this, [this] { AskedAnew(); });
+  }
+  connect(chkThenTrack, &QCheckBox::toggled, this, [this] { AskedAnew(); });
+  connect(cboAngle, &QComboBox::currentIndexChanged, this, [this] { AskedAnew(); });
   Dim();
   m_told = m_parts.Main.Observers().Join(*this);
-}
-
-void frmTack::MakeControls() {
-  setFont(Sized(font(), kTextHeight));
-  txtHeading =
-      Entry("txtHeading", QStringLiteral("Heading to turn to"), QStringLiteral("0000"), kHeadingHeight, this);
-  txtOvershoot = Entry("txtOvershoot", QStringLiteral("How far to turn past the heading, then left to you"),
-                       QStringLiteral("0000.0"), kEntryHeight, this);
-  txtRate =
-      Entry("txtRate", QStringLiteral("How fast to turn"), QStringLiteral("0000.0"), kEntryHeight, this);
-  MakePrompt();
-  MakeSteps();
-  MakeButtons();
-  LayOut();
-}
-
-void frmTack::MakePrompt() {
-  lblPrompt = Caption("lblPrompt", QString(), txtHeading, this);
-  lblPrompt->setFont(Sized(lblPrompt->font(), kEntryHeight));
-  // Room for the longest, so that all three kinds are of one size.
-  for (const char* word : kWords) {
-    lblPrompt->setText(Prompt(word));
-    lblPrompt->setMinimumWidth(std::max(lblPrompt->minimumWidth(), lblPrompt->sizeHint().width()));
-  }
-}
-
-void frmTack::MakeSteps() {
-  lstTack = new QListWidget(this);
-  lstTack->setObjectName(QStringLiteral("lstTack"));
-  lstTack->setAccessibleName(QStringLiteral("Steps"));
-  lstTack->setToolTip(QStringLiteral("What happens when you press OK"));
-  lstTack->setFocusPolicy(Qt::NoFocus);
-  lstTack->setSelectionMode(QAbstractItemView::NoSelection);
-  lstTack->setFrameShape(QFrame::NoFrame);
-  lstTack->setSpacing(kStepGap);
-  lstTack->viewport()->setAutoFillBackground(false);
-  ProgressBarTack = new QProgressBar(this);
-  ProgressBarTack->setObjectName(QStringLiteral("ProgressBarTack"));
-  ProgressBarTack->setAccessibleName(QStringLiteral("Turned so far"));
-  ProgressBarTack->setToolTip(QStringLiteral("Degrees turned so far"));
-  ProgressBarTack->setFormat(QStringLiteral("%v of %m deg"));
-  ProgressBarTack->setAlignment(Qt::AlignCenter);
-  ProgressBarTack->setFixedHeight(kBarHeight);
-  QSizePolicy keepsItsPlace = ProgressBarTack->sizePolicy();
-  keepsItsPlace.setRetainSizeWhenHidden(true);
-  ProgressBarTack->setSizePolicy(keepsItsPlace);
-}
-
-void frmTack::MakeButtons() {
-  cmdOk = new QPushButton(QStringLiteral("OK"), this);
-  cmdOk->setObjectName(QStringLiteral("cmdOk"));
-  cmdOk->setToolTip(QStringLiteral("Take the pilot and begin to turn"));
-  cmdOk->setDefault(true);
-  cmdCancel = new QPushButton(QStringLiteral("&Cancel"), this);
-  cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-  cmdCancel->setToolTip(QStringLiteral("Stop here and leave the pilot as it is"));
-  // A second Enter must not stop the turn that the first one began.
-  cmdCancel->setAutoDefault(false);
-  for (QPushButton* button : {cmdOk, cmdCancel}) {
-    button->setMinimumSize(kButtonSize);
-  }
-  connect(cmdOk, &QPushButton::clicked, this, [this] { cmdOk_Click(); });
-  connect(cmdCancel, &QPushButton::clicked, this, &QDialog::reject);
-}
-
-void frmTack::LayOut() {
-  auto* grid = new QGridLayout;
-  grid->setHorizontalSpacing(kSpacing);
-  grid->setVerticalSpacing(kSpacing);
-  grid->addWidget(lblPrompt, 0, 0);
-  grid->addWidget(txtHeading, 0, 1);
-  grid->addWidget(new QLabel(QStringLiteral("deg M"), this), 0, 2);
-  grid->addWidget(Caption("lblOvershoot", QStringLiteral("&Overshoot"), txtOvershoot, this), 1, 0);
-  grid->addWidget(txtOvershoot, 1, 1, Qt::AlignRight);
-  grid->addWidget(new QLabel(QStringLiteral("deg"), this), 1, 2);
-  grid->addWidget(Caption("lblRate", QStringLiteral("&Rate of Change (deg/sec)"), txtRate, this), 2, 0);
-  grid->addWidget(txtRate, 2, 1, Qt::AlignRight);
-  grid->setColumnStretch(0, 1);
-  lblWords = new QLabel(this);
-  lblWords->setObjectName(QStringLiteral("lblWords"));
-  lblWords->setToolTip(QStringLiteral("What the boat will do"));
-  lblNote = new QLabel(this);
-  lblNote->setObjectName(QStringLiteral("lblNote"));
-  lblNote->setWordWrap(true);
-  lblNote->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  lblNote->setFixedHeight(kNoteLines * lblNote->fontMetrics().lineSpacing());
-  for (const QLineEdit* box : {txtHeading, txtOvershoot}) {
-    connect(box, &QLineEdit::textEdited, this, [this] {
-      m_question.clear();
-      ShowWords();
-      HelmChanged();
-    });
-  }
-  auto* buttons = new QHBoxLayout;
-  buttons->setSpacing(kSpacing);
-  buttons->addStretch();
-  buttons->addWidget(cmdOk);
-  buttons->addWidget(cmdCancel);
-  auto* all = new QVBoxLayout(this);
-  all->setContentsMargins(kMargin, kMargin, kMargin, kMargin);
-  all->setSpacing(kSpacing);
-  all->addLayout(grid);
-  all->addWidget(lblWords);
-  all->addWidget(lstTack);
-  all->addWidget(lblNote);
-  all->addWidget(ProgressBarTack);
-  all->addLayout(buttons);
-  all->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void frmTack::TackOpen(float newHeading, const TurnFrom& from, WindCrossing said, QWidget& opener) {
@@ -201,8 +55,11 @@ void frmTack::TackOpen(float newHeading, const TurnFrom& from, WindCrossing said
   m_question.clear();
   m_asked.clear();
   ShowKind();
+  chkThenTrack->setChecked(m_settings.ThenTrack);
+  cboAngle->setCurrentIndex(static_cast<int>(m_settings.Angle));
+  ShowEnabled();
   ShowWords();
-  HelmChanged();
+  ShowNotes(m_parts.Now());
   ProgressBarTack->hide();
   txtHeading->selectAll();
   txtHeading->setFocus();
@@ -217,6 +74,18 @@ void frmTack::StayInFrontOf(QWidget& opener) {
   winId();
   opener.winId();
   windowHandle()->setTransientParent(opener.windowHandle());
+}
+
+void frmTack::AskedAnew() {
+  m_question.clear();
+  if (Follows()) {
+    m_asked.clear();
+  }
+  if (isVisible() && !m_turning) {
+    ShowEnabled();
+  }
+  ShowWords();
+  HelmChanged();
 }
 
 void frmTack::Dim() {
@@ -235,34 +104,34 @@ void frmTack::Dim() {
 
 void frmTack::ShowKind() {
   const std::size_t kind = IndexOf(m_turn.Kind());
-  setWindowTitle(QStringLiteral("Veerwatch - ") + QLatin1String(kWords[kind]));
-  lblPrompt->setText(Prompt(kWords[kind]));
+  TackControlsQt::ShowKind(m_turn.Kind(), m_turn.Direction() != 0);
   txtHeading->Show(Text(FormatNumber(m_newHeading, "0")));
   txtOvershoot->Show(Text(ShortestText(m_settings.Overshoot[kind])));
   txtRate->Show(Text(ShortestText(m_settings.Rate[kind])));
-  lstTack->clear();
-  for (const char* step : {kManual, kOvershoot, kLimit}) {
-    if (step != kOvershoot || m_turn.Direction() != 0) {
-      lstTack->addItem(QStringLiteral("%1) %2").arg(lstTack->count() + 1).arg(QLatin1String(step)));
-    }
-  }
-  // Room for the steps of a tack, for the same reason.
-  constexpr int kMostSteps = 3;
-  lstTack->setFixedHeight(kMostSteps * (lstTack->sizeHintForRow(0) + 2 * kStepGap));
 }
 
 void frmTack::Steering(bool steering) {
-  m_parts.TimerTack.Enabled(steering);
   if (steering) {
+    // Ends the turn of whoever has the pilot.
     m_parts.Main.TurnBegins();
-  } else {
+    m_parts.TimerTack.Enabled(true);
+  } else if (m_turning) {
+    m_parts.TimerTack.Enabled(false);
     m_parts.Main.TurnOver();
   }
-  txtHeading->setReadOnly(steering);
-  for (QWidget* control :
-       {static_cast<QWidget*>(cmdOk), static_cast<QWidget*>(txtOvershoot), static_cast<QWidget*>(txtRate)}) {
-    control->setEnabled(!steering);
+  m_turning = steering;
+  ShowStop(steering);
+  ShowEnabled();
+}
+
+void frmTack::ShowEnabled() {
+  const bool across = Follows() && m_turn.Kind() != ManoeuvreKind::Steer;
+  txtHeading->setReadOnly(m_turning || across);
+  for (QWidget* control : {static_cast<QWidget*>(cmdOk), static_cast<QWidget*>(txtOvershoot),
+                           static_cast<QWidget*>(txtRate), static_cast<QWidget*>(chkThenTrack)}) {
+    control->setEnabled(!m_turning);
   }
+  cboAngle->setEnabled(!m_turning && across);
 }
 
 WindCrossing frmTack::Crossing() const {
@@ -273,7 +142,11 @@ WindCrossing frmTack::Crossing() const {
 float frmTack::TypedHeading() const { return LeadingNumber(txtHeading->text().toStdString(), m_newHeading); }
 
 void frmTack::ShowWords() {
-  if (m_parts.TimerTack.Enabled()) {
+  if (m_turning) {
+    return;
+  }
+  if (Follows()) {
+    ShowFollowed(m_parts.Now().Helm);
     return;
   }
   const float overshoot = LeadingNumber(txtOvershoot->text().toStdString());
@@ -282,7 +155,7 @@ void frmTack::ShowWords() {
 }
 
 void frmTack::ShowNotes(const TurnNow& now) {
-  std::string note = TurnHindrance(now.Helm);
+  std::string note = Follows() ? Plan(now.Helm).Refusal : TurnHindrance(now.Helm);
   cmdOk->setEnabled(note.empty());
   if (note.empty()) {
     const std::string apart = ApartText(TurnFromNow(now.Helm, m_from));
@@ -298,8 +171,12 @@ void frmTack::ShowNotes(const TurnNow& now) {
 }
 
 void frmTack::HelmChanged() {
-  if (!m_parts.TimerTack.Enabled()) {
-    ShowNotes(m_parts.Now());
+  if (!m_turning && isVisible()) {
+    const TurnNow now = m_parts.Now();
+    if (Follows()) {
+      ShowFollowed(now.Helm);
+    }
+    ShowNotes(now);
   }
 }
 
@@ -350,6 +227,10 @@ void frmTack::RestoreEmptied() {
 
 void frmTack::cmdOk_Click() {
   RestoreEmptied();
+  if (Follows()) {
+    BeginFollowed();
+    return;
+  }
   const TurnNow now = m_parts.Now();
   if (TurnHindrance(now.Helm).empty() && !AsksOnceMore(now)) {
     Begin();
@@ -358,14 +239,21 @@ void frmTack::cmdOk_Click() {
   }
 }
 
-void frmTack::Begin() {
-  m_parts.Main.TrackSetManual();
+void frmTack::Keep() {
   const std::size_t kind = IndexOf(m_turn.Kind());
   m_settings.Overshoot[kind] = LeadingNumber(txtOvershoot->text().toStdString());
   m_settings.Rate[kind] = LeadingNumber(txtRate->text().toStdString());
+  m_settings.ThenTrack = Follows();
+  m_settings.Angle = Angle();
   for (EntryLineQt* box : {txtHeading, txtOvershoot, txtRate}) {
     box->Take();
   }
+}
+
+void frmTack::Begin() {
+  m_parts.Main.TrackSetManual();
+  Keep();
+  const std::size_t kind = IndexOf(m_turn.Kind());
   m_turn.Start(TypedHeading(), m_settings.Overshoot[kind], m_settings.Rate[kind]);
   m_pace.Start(m_parts.Now().Helm.Sent);
   m_stepped = m_parts.Time.Now().Steady;
@@ -377,12 +265,47 @@ void frmTack::Begin() {
   Steering(true);
 }
 
+// A turn that is followed to its end
+
+TurnPlan frmTack::Plan(const HelmNow& now) const {
+  TurnAsk ask;
+  ask.Kind = m_turn.Kind();
+  ask.NewHeading = TypedHeading();
+  ask.Overshoot = LeadingNumber(txtOvershoot->text().toStdString());
+  ask.Rate = LeadingNumber(txtRate->text().toStdString());
+  return m_parts.Followed.Plan(ask, Angle(), now);
+}
+
+void frmTack::ShowFollowed(const HelmNow& now) {
+  const TurnPlan plan = Plan(now);
+  lblWords->setText(plan.Refusal.empty() ? Text(PlanWords(plan)) : QString());
+  if (plan.Refusal.empty() && plan.Kind != ManoeuvreKind::Steer) {
+    const double heading = static_cast<double>(now.Heading.value_or(0.0F)) + plan.Change;
+    txtHeading->Show(Text(FormatNumber(FoldBearing(heading), "0")));
+  }
+}
+
+void frmTack::BeginFollowed() {
+  const TurnNow now = m_parts.Now();
+  const TurnPlan plan = Plan(now.Helm);
+  ShowFollowed(now.Helm);
+  const std::string asked = PlanQuestion(plan, m_said);
+  m_question = std::exchange(m_asked, asked) == asked ? "" : asked;
+  if (!plan.Refusal.empty() || !m_question.empty()) {
+    ShowNotes(now);
+    return;
+  }
+  Keep();
+  accept();
+  m_parts.Followed.Begin(plan);
+}
+
 void frmTack::ShowProgress() {
   ProgressBarTack->setValue(static_cast<int>(std::lround(std::fabs(m_turn.Progress()))));
 }
 
 void frmTack::TimerTack_Timer() {
-  if (!m_parts.TimerTack.Enabled()) {
+  if (!m_turning) {
     return;
   }
   const std::int64_t now = m_parts.Time.Now().Steady;
@@ -399,6 +322,9 @@ void frmTack::TimerTack_Timer() {
 }
 
 void frmTack::OnTurnEnds(TurnFate why) {
+  if (!m_turning) {
+    return;
+  }
   if (why != TurnFate::Taken) {
     m_pace.Halt(m_turn, m_parts.Now().Helm.Sent);
     m_parts.Main.AutoPilotSet(m_turn.AutoPilot());
@@ -425,8 +351,7 @@ bool frmTack::event(QEvent* event) {
 }
 
 void frmTack::done(int result) {
-  m_parts.TimerTack.Enabled(false);
-  m_parts.Main.TurnOver();
+  Steering(false);
   QDialog::done(result);
 }
 

@@ -5,10 +5,6 @@
 #pragma once
 
 #include <QDialog>
-#include <QLabel>
-#include <QListWidget>
-#include <QProgressBar>
-#include <QPushButton>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -18,11 +14,12 @@
 #include "control/TurnPace.h"
 #include "helm/MainWindowApi.h"
 #include "platform/Clock.h"
-#include "platform/EntryLineQt.h"
 #include "platform/Profile.h"
 #include "platform/Timer.h"
+#include "tack/TackControlsQt.h"
 #include "tack/TackSettings.h"
 #include "tack/TurnGuard.h"
+#include "tack/TurnPlan.h"
 #include "tack/TurnWords.h"
 
 namespace veerwatch {
@@ -33,6 +30,16 @@ struct TurnNow {
   std::optional<float> NewHeading;  ///< where the button that was pressed would lead now [deg magnetic]
 };
 
+/// Who makes the turns that are followed to their end; everything about them but the dialog is there.
+class FollowedTurns {
+ public:
+  virtual ~FollowedTurns() = default;
+  /// The turn as it would begin now, to the angle that is chosen; with what of it `ask` leaves open.
+  virtual TurnPlan Plan(const TurnAsk& ask, TackAngle angle, const HelmNow& now) = 0;
+  /// Begins a plan of this moment that is not refused.
+  virtual void Begin(const TurnPlan& plan) = 0;
+};
+
 /// What the dialog works with; everything outlives it.
 struct TackParts {
   MainWindowApi& Main;
@@ -40,9 +47,10 @@ struct TackParts {
   Profile& Store;
   const Clock& Time;
   std::function<TurnNow()> Now;
+  FollowedTurns& Followed;
 };
 
-class frmTack final : public QDialog, private HelmObserver {
+class frmTack final : public QDialog, private TackControlsQt, private HelmObserver {
  public:
   /// Makes the dialog, hidden, and reads its settings from the profile. `main` gets the keyboard back at the
   /// end of a turn.
@@ -55,6 +63,11 @@ class frmTack final : public QDialog, private HelmObserver {
 
   /// From now on the dialog is in front of `opener`, whatever is clicked.
   void StayInFrontOf(QWidget& opener);
+
+  /// What the user has set for each kind of turn.
+  const TackSettings& Kept() const { return m_settings; }
+  /// A turn of the dialog's own runs.
+  bool Turning() const { return m_turning; }
 
   /// A step of the turn, as long as the time since the one before; nothing while none runs.
   void TimerTack_Timer();
@@ -78,11 +91,8 @@ class frmTack final : public QDialog, private HelmObserver {
 
   /// Something about the helm may be another: shows whether a turn can begin.
   void HelmChanged();
-  void MakeControls();
-  void MakePrompt();
-  void MakeSteps();
-  void MakeButtons();
-  void LayOut();
+  /// What is asked for is another.
+  void AskedAnew();
   void ShowKind();
   /// What the turn of the present texts will do, and what is to be known before OK.
   void ShowWords();
@@ -96,6 +106,15 @@ class frmTack final : public QDialog, private HelmObserver {
   /// True when OK has to be pressed once more, for what the note then says.
   bool AsksOnceMore(const TurnNow& now);
   void Begin();
+  /// Takes the texts and choices for the next time.
+  void Keep();
+  bool Follows() const { return chkThenTrack->isChecked(); }
+  TackAngle Angle() const { return static_cast<TackAngle>(cboAngle->currentIndex()); }
+  TurnPlan Plan(const HelmNow& now) const;
+  /// Words and heading of the turn as it would begin now.
+  void ShowFollowed(const HelmNow& now);
+  void BeginFollowed();
+  void ShowEnabled();
   /// Keeps what does not answer legible in the desktop's present palette.
   void Dim();
   void Steering(bool steering);
@@ -107,6 +126,7 @@ class frmTack final : public QDialog, private HelmObserver {
   TackSettings m_settings;
   Manoeuvre m_turn;
   TurnPace m_pace;
+  bool m_turning = false;      ///< a turn of the dialog's own runs
   std::int64_t m_stepped = 0;  ///< when the turn began, or its latest step was made [ms of the steady clock]
   float m_newHeading = 0.0F;   ///< the heading that was asked for at the opening
   TurnFrom m_from;             ///< as at the opening, or when it was filled again
@@ -114,17 +134,6 @@ class frmTack final : public QDialog, private HelmObserver {
   std::string m_question;  ///< why OK has to be pressed once more
   std::string m_asked;     ///< the words of the turn that the user was asked about
   HelmObservers::Membership m_told;
-
-  QLabel* lblPrompt;
-  QLabel* lblWords;
-  QLabel* lblNote;
-  EntryLineQt* txtHeading;
-  EntryLineQt* txtOvershoot;
-  EntryLineQt* txtRate;
-  QListWidget* lstTack;
-  QProgressBar* ProgressBarTack;
-  QPushButton* cmdOk;
-  QPushButton* cmdCancel;
 };
 
 }  // namespace veerwatch

@@ -15,7 +15,7 @@ namespace {
 using namespace veerwatch;
 
 constexpr const char* kHelp =
-    "Usage: veerwatch_turns [--seeds N] [--seed N] [--gusty] [--still] [--each]\n"
+    "Usage: veerwatch_turns [--method NAME] [--rate N] [--seeds N] [--seed N] [--gusty] [--still] [--each]\n"
     "Sails N tacks and N jibes (200) for each method of tracking at 1, 2, 5 and 10 wind sentences a second,\n"
     "with pilots, seas and angles in turn, and prints how many ended, how many held the wanted angle within\n"
     "2 degrees in the minute after it (as shown, and really), how many went round the other way, how many "
@@ -26,6 +26,8 @@ constexpr const char* kHelp =
     "--each prints every turn.\n";
 
 struct Asked {
+  std::string Method;  ///< "" for all
+  double Rate = 0.0;   ///< 0 for all [1/s]
   int Seeds = 200;
   std::uint64_t Seed = 1;
   bool Gusty = false;
@@ -81,6 +83,10 @@ bool Read(int argc, char** argv, Asked& asked) {
       asked.Still = true;
     } else if (option == "--each") {
       asked.Each = true;
+    } else if (option == "--method" && more) {
+      asked.Method = argv[++i];
+    } else if (option == "--rate" && more) {
+      asked.Rate = static_cast<double>(LeadingNumber(argv[++i]));
     } else if (option == "--seeds" && more) {
       asked.Seeds = static_cast<int>(LeadingNumber(argv[++i]));
     } else if (option == "--seed" && more) {
@@ -106,6 +112,10 @@ int main(int argc, char** argv) {
       "in the wind after | longest [s] | jump [deg] |\n|---|---|---|---|---|---|---|---|---|---|---|---|\n");
   for (const NamedMethod& method : NamedMethods()) {
     for (const double rate : {1.0, 2.0, 5.0, 10.0}) {
+      if ((!asked.Method.empty() && asked.Method != method.Name) ||
+          (asked.Rate > 0.0 && asked.Rate != rate)) {
+        continue;
+      }
       const float bandwidth = method.Name == "Sentence" ? 60.0F * static_cast<float>(rate) : 60.0F;
       for (const bool jibes : {false, true}) {
         PrintTurns(asked, method, bandwidth, rate, jibes);

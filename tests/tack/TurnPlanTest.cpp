@@ -80,6 +80,8 @@ TEST(TurnPlan, AnAngleOfThePolarIsHeldOnTheOtherSide) {
   EXPECT_EQ(plan.Held, 40.0F);
   now.Side = TrackSide::Apparent;
   EXPECT_EQ(PlanTurn(ask, now).Held, 28.0F);
+  ask.Aim->AtEdge = true;
+  EXPECT_EQ(PlanWords(PlanTurn(ask, now)), "Tack, 86 degrees to port through the wind, at the polar's edge");
 }
 
 TEST(TurnPlan, ASteeringChangeGoesTheShorterWayAndHoldsTheAngleItLeadsTo) {
@@ -150,6 +152,9 @@ TEST(TurnPlan, ALargeTurnAndACrossingThatNobodyNamedAreAskedAbout) {
   const TurnPlan jibe = PlanTurn(Ask(ManoeuvreKind::Jibe), Sailing(140.0F, 150.0F));
   EXPECT_FALSE(PlanAsksOnceMore(jibe, WindCrossing::Stern));
   EXPECT_TRUE(PlanAsksOnceMore(jibe, WindCrossing::Bow));
+  EXPECT_EQ(PlanQuestion(jibe, WindCrossing::Stern), "");
+  EXPECT_EQ(PlanQuestion(jibe, WindCrossing::Bow), "GYBE to port: OK once more?");
+  EXPECT_EQ(PlanQuestion(wide, WindCrossing::Bow), "Tack to starboard: OK once more?");
 }
 
 }  // namespace
