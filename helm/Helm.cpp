@@ -1,5 +1,7 @@
 #include "helm/Helm.h"
 
+#include "platform/Angles.h"
+
 namespace veerwatch {
 
 Helm::Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Timer& tmrNmea,

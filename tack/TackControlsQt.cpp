@@ -26,6 +26,8 @@ constexpr const char* kOvershoot = "Overshoot the heading";
 constexpr const char* kLimit = "Limit the rate of change";
 /// The longest: a question in two parts, and that the boat swings.
 constexpr int kNoteLines = 4;
+/// On a small screen.
+constexpr int kFewNoteLines = 2;
 
 QString Prompt(const char* word) { return QStringLiteral("&%1 to new heading:").arg(QLatin1String(word)); }
 
@@ -57,7 +59,7 @@ QLabel* Caption(const char* name, const QString& text, QWidget* buddy, QWidget* 
 
 }  // namespace
 
-TackControlsQt::TackControlsQt(QDialog& dialog) : m_dialog(dialog) {
+TackControlsQt::TackControlsQt(QDialog& dialog) : m_dialog(dialog), m_noteLines(kNoteLines) {
   dialog.setFont(Sized(dialog.font(), kTextHeight));
   txtHeading = Entry("txtHeading", QStringLiteral("Heading to turn to"), QStringLiteral("0000"),
                      kHeadingHeight, &m_dialog);
@@ -153,7 +155,6 @@ void TackControlsQt::LayOut() {
   lblNote->setWordWrap(true);
   lblNote->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   cmdStop = new StopButtonQt(kStopHeight, &m_dialog);
-  cmdStop->setFixedHeight((kNoteLines - 1) * lblNote->fontMetrics().lineSpacing());
   QObject::connect(cmdStop, &QPushButton::clicked, &m_dialog, &QDialog::reject);
   ShowStop(false);
   auto* buttons = new QHBoxLayout;
@@ -183,9 +184,21 @@ void TackControlsQt::LayOut() {
 }
 
 void TackControlsQt::ShowStop(bool turning) const {
-  const int lines = turning ? 1 : kNoteLines;
-  lblNote->setFixedHeight(lines * lblNote->fontMetrics().lineSpacing());
+  const int line = lblNote->fontMetrics().lineSpacing();
+  const int lines = turning ? 1 : m_noteLines;
+  lblNote->setFixedHeight(lines * line);
+  cmdStop->setFixedHeight((m_noteLines - 1) * line);
   cmdStop->setVisible(turning);
+}
+
+void TackControlsQt::Fit(int height) {
+  lstTack->show();
+  m_noteLines = kNoteLines;
+  ShowStop(false);
+  const bool small = m_dialog.sizeHint().height() > height;
+  lstTack->setHidden(small);
+  m_noteLines = small ? kFewNoteLines : kNoteLines;
+  ShowStop(false);
 }
 
 void TackControlsQt::ShowKind(ManoeuvreKind kind, bool overshoots) {

@@ -23,6 +23,8 @@ struct TackControlsQt {
   void ShowKind(ManoeuvreKind kind, bool overshoots);
   /// Whether a turn of the dialog runs: then "Stop" takes most of the note's room, which stays the same.
   void ShowStop(bool turning) const;
+  /// Leaves out what can be done without where the screen has less than `height` [px] for the dialog.
+  void Fit(int height);
 
   QDialog& m_dialog;
   QLabel* lblPrompt;
@@ -45,6 +47,8 @@ struct TackControlsQt {
   void MakeThenTrack();
   void MakeButtons();
   void LayOut();
+
+  int m_noteLines;
 };
 
 }  // namespace veerwatch

@@ -61,6 +61,8 @@ void frmTack::TackOpen(float newHeading, const TurnFrom& from, WindCrossing said
   ShowWords();
   ShowNotes(m_parts.Now());
   ProgressBarTack->hide();
+  constexpr int kFrame = 40;  // [px], with the caption
+  Fit(opener.screen()->availableSize().height() - kFrame);
   txtHeading->selectAll();
   txtHeading->setFocus();
   StayInFrontOf(opener);
@@ -268,6 +270,14 @@ void frmTack::Begin() {
 // A turn that is followed to its end
 
 TurnPlan frmTack::Plan(const HelmNow& now) const {
+  for (const auto& [box, name] :
+       {std::pair{txtHeading, "heading"}, std::pair{txtOvershoot, "overshoot"}, std::pair{txtRate, "rate"}}) {
+    if (!StrictNumber(box->text().trimmed().toStdString())) {
+      TurnPlan none;
+      none.Refusal = std::string("No turn: the ") + name + " is no number";
+      return none;
+    }
+  }
   TurnAsk ask;
   ask.Kind = m_turn.Kind();
   ask.NewHeading = TypedHeading();

@@ -59,6 +59,32 @@ TEST_P(TackAppearance, ShowsEveryTextWholeAndKeepsItsSize) {
   }
 }
 
+TEST_P(TackAppearance, ATurnThatIsFollowedIsReadFromADistanceAndStoppedOnAMovingBoat) {
+  if (std::string(GetParam()) == "dark") {
+    QApplication::setPalette(DarkPalette());
+  }
+  Start(kSimulated);
+  tmrNmea.Tick(12);
+  Mode(7);
+  QTest::keyClick(Window.get(), Qt::Key_T, Qt::ControlModifier);
+  for (int second = 0; second < 4; ++second) {
+    tmrNmea.Tick();
+    TimerTack.Tick();
+  }
+  auto* turn = Window->findChild<QDialog*>(QStringLiteral("frmTurn"));
+  ASSERT_TRUE(turn != nullptr && turn->isVisible());
+  QTest::qWait(0);
+  KeepPicture(turn->grab().toImage(), QStringLiteral("turn-%1").arg(QLatin1String(GetParam())));
+  for (const QLabel* label : turn->findChildren<QLabel*>()) {
+    EXPECT_GE(label->height(), label->heightForWidth(label->width())) << label->text().toStdString();
+    EXPECT_GE(label->fontMetrics().capHeight(), 15) << label->text().toStdString();
+  }
+  const auto& stop = *turn->findChild<QPushButton*>(QStringLiteral("cmdStop"));
+  EXPECT_GE(stop.height(), 100);
+  EXPECT_GE(stop.width(), 400);
+  EXPECT_LE(turn->height(), 320) << "leaves room beside it on a small screen";
+}
+
 INSTANTIATE_TEST_SUITE_P(Shades, TackAppearance, testing::Values("light", "dark"),
                          [](const auto& shade) { return std::string(shade.param); });
 

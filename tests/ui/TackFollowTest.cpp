@@ -287,6 +287,19 @@ TEST_F(TackFollow, WithThePolarsBestAndNoPolarTheDialogSaysSo) {
   EXPECT_TRUE(Enabled("cmdOk"));
 }
 
+TEST_F(TackFollow, ABoxThatHoldsNoNumberIsNamed) {
+  StartTracking("[Tack Data]\nThen Track=True\n");
+  Window->TackOpen(190.0F, 100.0F, 45.0F);
+  Type("txtOvershoot", "a bit");
+  EXPECT_EQ(Text("lblNote"), "No turn: the overshoot is no number");
+  EXPECT_FALSE(Enabled("cmdOk"));
+  Type("txtOvershoot", "6");
+  EXPECT_TRUE(Enabled("cmdOk"));
+  Type("txtRate", "");
+  Sail(1);
+  EXPECT_EQ(Text("lblNote"), "No turn: the rate is no number");
+}
+
 TEST_F(TackFollow, AnotherHeadingOfASteeringChangeIsTrackedThen) {
   StartTracking("[Tack Data]\nThen Track=True\n");
   Window->TackOpen(85.0F, 100.0F, 45.0F);
