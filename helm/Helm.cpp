@@ -54,6 +54,7 @@ HelmNow Helm::Now() const {
   }
   now.Side = m_loop.Side();
   now.CanTrack = m_loop.CanTrack();
+  now.TakesBearing = m_settings.m_ePilotProfile != PilotProfile::Wind;
   now.Desired = m_settings.DesiredAngle;
   for (const TrackSide side : {TrackSide::Apparent, TrackSide::True}) {
     if (const auto mean = m_loop.MeanAngle(side)) {

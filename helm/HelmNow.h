@@ -44,6 +44,7 @@ struct HelmNow {
   std::optional<float> WindAngleTrue;    ///< averaged [deg relative, positive to starboard]
   TrackSide Side = TrackSide::Apparent;  ///< that is tracked, or would be
   bool CanTrack = false;                 ///< the settings give usable gains
+  bool TakesBearing = true;              ///< the pilot does; one that holds the wind by itself takes none
   std::array<float, 3> Desired{};        ///< the wanted angles by side [deg relative]
   std::array<std::optional<float>, 3>
       WindMean;    ///< the angles of the last ten seconds by side [deg relative]

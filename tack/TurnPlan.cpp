@@ -25,6 +25,8 @@ std::string Hindrance(const HelmNow& now) {
   std::string why = TurnHindrance(now);
   if (why.empty() && (!now.Heading || now.Watch.Of(Watched::Heading).Gone())) {
     why = "No turn: No Heading";
+  } else if (why.empty() && !now.TakesBearing) {
+    why = "No turn: the pilot holds the wind by itself";
   } else if (why.empty() && !now.CanTrack) {
     why = "No turn: " + std::string(TrackRefusalText(TrackRefusal::NoGains));
   } else if (why.empty() && !(now.WindMean[At(TrackSide::Apparent)] && now.WindMean[At(TrackSide::True)])) {

@@ -126,6 +126,8 @@ TEST(TurnPlan, IsRefusedWithAReason) {
               now.Watch.Values[static_cast<std::size_t>(Watched::Heading)].State = Freshness::Lost;
             }),
             "No turn: No Heading");
+  EXPECT_EQ(refusal([](HelmNow& now) { now.TakesBearing = false; }),
+            "No turn: the pilot holds the wind by itself");
   EXPECT_EQ(refusal([](HelmNow& now) { now.CanTrack = false; }),
             "No turn: Track needs a bandwidth above 0 and a usable damping");
   EXPECT_EQ(refusal([](HelmNow& now) { now.WindMean[kTrue].reset(); }), "No turn: No Wind");
