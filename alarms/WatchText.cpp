@@ -109,6 +109,16 @@ std::string_view FollowText(FollowVerdict verdict) {
   return "Unknown";
 }
 
+std::string FollowLine(const WatchNow& watch) {
+  std::string line = "Pilot: " + std::string(FollowText(watch.Follow));
+  const double offset = std::round(watch.PilotOffset.value_or(0.0));
+  const bool comes = watch.Follow == FollowVerdict::Follows || watch.Follow == FollowVerdict::Slow;
+  if (comes && offset != 0.0) {
+    line += std::string(", offset ") + (offset > 0.0 ? "+" : "") + Whole(offset);
+  }
+  return line;
+}
+
 std::string_view LevelText(Level level) {
   return level == Level::Red ? "red" : level == Level::Amber ? "amber" : "note";
 }

@@ -15,6 +15,10 @@ std::string WatchText(const Standing& standing);
 /// "Follows", "Slow", "Does not follow", "Turns the wrong way" or "Unknown".
 std::string_view FollowText(FollowVerdict verdict);
 
+/// The verdict on the pilot; while the boat comes to the bearing, with the offset of its compass, rounded,
+/// where that is known and not 0: "Pilot: Follows, offset +5".
+std::string FollowLine(const WatchNow& watch);
+
 /// "red", "amber" or "note".
 std::string_view LevelText(Level level);
 

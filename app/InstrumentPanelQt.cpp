@@ -65,6 +65,10 @@ InstrumentPanelQt::InstrumentPanelQt(QWidget* parent) : QWidget(parent), m_theme
   lblAutoPilot->setBuddy(txtAutoPilot);
   lblPilotHeading = NewCaption("lblPilotHeading", "");
   lblPilotSent = NewCaption("lblPilotSent", "");
+  lblPilotFollows = NewCaption("lblPilotFollows", "");
+  lblPilotFollows->setToolTip(QStringLiteral(
+      "Whether the boat comes to the bearings that are sent, and what the pilot's compass shows "
+      "more than ours [deg]"));
   optControl = {new SideOptionQt(Element("optControl", 1), QStringLiteral("Track Apparent Wind Angle"), this),
                 new SideOptionQt(Element("optControl", 2), QStringLiteral("Track True Wind Angle"), this)};
   optControl[0]->setChecked(true);
@@ -183,6 +187,14 @@ void InstrumentPanelQt::ShowSent(const QString& heading, bool stale, const QStri
   }
 }
 
+void InstrumentPanelQt::ShowFollows(const QString& text, bool wrong) {
+  lblPilotFollows->setText(text);
+  if (m_wrong != wrong) {
+    m_wrong = wrong;
+    ColourSent();
+  }
+}
+
 void InstrumentPanelQt::ShowAlarm(TrackSide side) {
   lblDelta[static_cast<std::size_t>(side) - 1]->BackColour(
       ShadeFor(palette().color(QPalette::Window), kAlarmColour));
@@ -230,6 +242,7 @@ void InstrumentPanelQt::Place() {
   PlaceEntry(txtAutoPilot, lblAutoPilot, m_layout.AutoPilot.Bearing);
   PlaceText(lblPilotHeading, m_layout.AutoPilot.Heading, CaptionFont());
   PlaceText(lblPilotSent, m_layout.AutoPilot.Sent, CaptionFont());
+  PlaceText(lblPilotFollows, m_layout.AutoPilot.Follows, CaptionFont());
   for (std::size_t i = 0; i < m_layout.Winds.size(); ++i) {
     PlaceText(optControl[i], m_layout.Winds[i].Option, ButtonFont());
   }
@@ -314,6 +327,7 @@ void InstrumentPanelQt::ColourEntries() {
 void InstrumentPanelQt::ColourSent() const {
   lblPilotHeading->Colours(m_theme.Text, m_theme.Dimmed);
   lblPilotSent->Colours(m_late ? AmberText(m_theme.Window) : m_theme.Text, m_theme.Dimmed);
+  lblPilotFollows->Colours(m_wrong ? AmberText(m_theme.Window) : m_theme.Text, m_theme.Dimmed);
 }
 
 const Box* InstrumentPanelQt::SteeringCard() const {

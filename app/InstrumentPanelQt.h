@@ -38,6 +38,7 @@ class InstrumentPanelQt final : public QWidget {
   EntryBoxQt* txtAutoPilot;
   CaptionQt* lblPilotHeading;
   CaptionQt* lblPilotSent;
+  CaptionQt* lblPilotFollows;
   ControlArray<NudgeButtonQt> cmdAutoPilot;
 
   ControlArray<SideOptionQt> optControl;
@@ -56,6 +57,8 @@ class InstrumentPanelQt final : public QWidget {
   /// Beside the bearing that is sent: the boat's heading, `stale` or not, and how long ago it was sent,
   /// `late` or not.
   void ShowSent(const QString& heading, bool stale, const QString& sent, bool late);
+  /// What the boat makes of that bearing, and whether the sailor should look at it.
+  void ShowFollows(const QString& text, bool wrong);
   /// Colours the delta of `side` for an alarm.
   void ShowAlarm(TrackSide side);
   void HideAlarm();
@@ -98,7 +101,8 @@ class InstrumentPanelQt final : public QWidget {
   QPixmap m_ground;  ///< the cards, drawn once; the values change over them
   TrackMode m_mode = TrackMode::Switching;
   TrackSide m_side = TrackSide::Apparent;
-  bool m_late = false;  ///< nothing has left for the pilot for a while
+  bool m_late = false;   ///< nothing has left for the pilot for a while
+  bool m_wrong = false;  ///< the boat does not come to the bearing as she should
 };
 
 }  // namespace veerwatch

@@ -22,7 +22,7 @@ constexpr double kBanner = 44.0;
 /// A banner in a small panel is not lower than this [px], where it takes no more than a tenth of the height.
 constexpr double kLeastBanner = 20.0;
 constexpr double kMostBannerShare = 0.1;
-/// Height of the banner's text, and of the line under the bearing, as shares of theirs.
+/// Height of the banner's text, and of a line under the bearing, as shares of theirs.
 constexpr double kBannerTextShare = 0.55;
 constexpr double kSentShare = 0.17;
 
@@ -108,11 +108,12 @@ class Designer {
     pilot.Card = card;
     Box upper = rows.Next(kPilotValueShare);
     const double line = upper.Height * kSentShare;
-    upper.Height -= line;
+    upper.Height -= 2.0 * line;
     pilot.Bearing = ReadoutIn(upper, Text(kCaptionText));
     const Box sent{upper.X, upper.Y + upper.Height, upper.Width, line};
     pilot.Heading = Left(sent);
     pilot.Sent = Right(sent);
+    pilot.Follows = {sent.X, sent.Y + line, sent.Width, line};
     const Box buttons = rows.Next(kButtonShare);
     pilot.Port = Left(buttons);
     pilot.Starboard = Right(buttons);

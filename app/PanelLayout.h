@@ -40,6 +40,7 @@ struct PanelLayout {
     Readout Bearing;
     Box Heading;  ///< the boat's heading, under the bearing
     Box Sent;     ///< how long ago the bearing was sent, beside it
+    Box Follows;  ///< what the boat makes of it, under both
     Box Port;
     Box Starboard;
   };

@@ -12,6 +12,7 @@
 #include <optional>
 #include <utility>
 
+#include "alarms/WatchText.h"
 #include "app/FigureLook.h"
 #include "app/IconsQt.h"
 #include "control/TrackAdvice.h"
@@ -431,11 +432,14 @@ void frmMain::ShowSent() {
   m_sent.Look(m_helm.Pilot().Sent(), m_parts.Time.Now().Steady);
   if (m_eTrackMode != TrackMode::Manual && m_eTrackMode != TrackMode::Track) {
     m_panel->ShowSent(QString(), false, QString(), false);
+    m_panel->ShowFollows(QString(), false);
     return;
   }
   const QString heading = m_panel->lblHeading->text();
   m_panel->ShowSent(heading.isEmpty() ? heading : QStringLiteral("Heading ") + heading,
                     m_watch.Of(Watched::Heading).Gone(), Text(m_sent.Text()), m_sent.Late());
+  const bool wrong = m_watch.Follow != FollowVerdict::Follows && m_watch.Follow != FollowVerdict::Unknown;
+  m_panel->ShowFollows(m_bSimulate ? QString() : Text(FollowLine(m_watch)), wrong);
 }
 
 void frmMain::OnTrackSide(TrackSide side) {

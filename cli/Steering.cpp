@@ -109,6 +109,9 @@ void Steering::OnWatch(const WatchNow& watch) {
       m_watchLines.push_back(at + std::string(LevelText(one.Rank)) + " " + WatchText(one));
     }
   }
+  if (m_watch.Follow != watch.Follow) {
+    m_watchLines.push_back(at + "pilot " + std::string(FollowText(watch.Follow)));
+  }
   m_watch = watch;
 }
 

@@ -70,7 +70,8 @@ class Steering final : private HelmObserver {
   };
   /// Why the last sentence that was sent says what it says.
   const Why& LastSentence() const { return m_helm.LastSentence(); }
-  /// The conditions that came and went, a line each: "17 s red No Wind 5 s", "21 s over No Wind".
+  /// The conditions that came and went, a line each: "17 s red No Wind 5 s", "21 s over No Wind"; and the
+  /// verdict on the pilot where it is another than before: "30 s pilot Follows".
   const std::vector<std::string>& WatchLines() const { return m_watchLines; }
   /// The errors of the control step, where one ran [deg].
   const std::optional<Deltas>& Delta() const { return m_delta; }

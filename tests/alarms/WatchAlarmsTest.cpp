@@ -54,6 +54,25 @@ TEST(WatchText, IsReadAcrossTheCabin) {
   EXPECT_EQ(WatchText(kSimulation), "Simulation");
 }
 
+TEST(WatchText, TheVerdictOnThePilotStandsWithItsOffset) {
+  WatchNow watch;
+  EXPECT_EQ(FollowLine(watch), "Pilot: Unknown");
+  watch.Follow = FollowVerdict::Follows;
+  EXPECT_EQ(FollowLine(watch), "Pilot: Follows");
+  watch.PilotOffset = 4.6;
+  EXPECT_EQ(FollowLine(watch), "Pilot: Follows, offset +5");
+  watch.PilotOffset = -3.4;
+  watch.Follow = FollowVerdict::Slow;
+  EXPECT_EQ(FollowLine(watch), "Pilot: Slow, offset -3");
+  watch.PilotOffset = -0.4;
+  EXPECT_EQ(FollowLine(watch), "Pilot: Slow");
+  watch.PilotOffset = 5.0;
+  watch.Follow = FollowVerdict::Unknown;
+  EXPECT_EQ(FollowLine(watch), "Pilot: Unknown") << "of another time";
+  watch.Follow = FollowVerdict::TurnsAway;
+  EXPECT_EQ(FollowLine(watch), "Pilot: Turns the wrong way");
+}
+
 TEST(WatchText, ATalkerOfControlCharactersShowsAsPictures) {
   Standing two = Of(Condition::TwoHeadings, Level::Amber);
   two.Talkers = {Talker{'\x1B', 'C'}, Talker{'I', 'I'}};

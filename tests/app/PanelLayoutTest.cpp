@@ -19,7 +19,8 @@ std::vector<Box> Of(const PanelLayout::Wind& wind) {
 }
 
 std::vector<Box> Of(const PanelLayout::Pilot& pilot) {
-  return {pilot.Bearing.Caption, pilot.Bearing.Value, pilot.Heading, pilot.Sent, pilot.Port, pilot.Starboard};
+  return {pilot.Bearing.Caption, pilot.Bearing.Value, pilot.Heading,  pilot.Sent,
+          pilot.Follows,         pilot.Port,          pilot.Starboard};
 }
 
 bool Overlap(const Box& a, const Box& b) {

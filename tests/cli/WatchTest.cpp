@@ -47,6 +47,22 @@ TEST(ReplayWatch, TellsConditionsAsTheyComeAndGo) {
   EXPECT_NE(told.find("22 s over No Wind"), std::string::npos) << told;
 }
 
+TEST(ReplayWatch, TellsWhatTheBoatMakesOfTheBearing) {
+  ReplayOptions options;
+  options.Steer.Watch = true;
+  options.Steer.Mode = TrackMode::Manual;
+  std::string log;
+  for (int second = 0; second < 59; ++second) {
+    const int heading = second < 10 ? 40 : second < 30 ? 80 : 41;
+    log += At(second, "$GPVTG,,T," + std::to_string(heading) + ".0,M,6.0,N,,K") + Wind(second);
+  }
+  const std::string told = Played(log, options);
+  EXPECT_NE(told.find(" s pilot Follows\n"), std::string::npos) << told;
+  EXPECT_NE(told.find(" s red Pilot: Turns the wrong way\n"), std::string::npos) << told;
+  EXPECT_NE(told.find(" s pilot Turns the wrong way\n"), std::string::npos) << told;
+  EXPECT_LT(told.find(" s pilot Turns the wrong way\n"), told.rfind(" s pilot Follows\n")) << told;
+}
+
 TEST(ReplayWatch, OrdersTheSentencesOfALogWithTimesByThem) {
   ReplayOptions options;
   const std::string log = Wind(0) + At(0, "$GPVTG,,T,40.0,M,6.0,N,,K") + Wind(1) + Wind(2) + Wind(4);

@@ -5,6 +5,7 @@
 #include <QDoubleSpinBox>
 #include <vector>
 
+#include "tests/support/PictureQt.h"
 #include "tests/ui/MainWindowTester.h"
 
 namespace veerwatch {
@@ -106,6 +107,48 @@ TEST_F(MainWindowStatus, BesideTheBearingStandHeadingAndTheAgeOfTheSentence) {
   }
   Mode(1);
   EXPECT_EQ(Text("lblPilotSent"), "");
+}
+
+TEST_F(MainWindowStatus, UnderTheBearingStandsWhetherTheBoatFollowsIt) {
+  Start(kOnPorts);
+  Window->resize(1160, 760);
+  const auto sail = [this](int seconds, const std::string& heading) {
+    for (int i = 0; i < seconds; ++i) {
+      Time.Pass(1000);
+      NmeaPort.Receive("$GPVTG,,T," + heading + ",M,6.0,N,11.0,K,A\r" +
+                       Winds(std::to_string(30 + i % 3), "40"));
+      tmrNmea.Tick();
+    }
+  };
+  const auto keep = [this](const char* name) {
+    QTest::qWait(0);
+    KeepPicture(Window->grab().toImage(), QStringLiteral("follows-") + QLatin1String(name));
+  };
+  sail(3, "100.0");
+  EXPECT_EQ(Text("lblPilotFollows"), "") << "in Setup nothing is sent";
+  Mode(5);
+  EXPECT_EQ(Text("lblPilotFollows"), "Pilot: Unknown");
+  Type("txtAutoPilot", "105");
+  Enter("txtAutoPilot");
+  sail(400, "100.0");
+  EXPECT_EQ(Text("lblPilotFollows"), "Pilot: Follows, offset +5");
+  keep("light");
+  Type("txtAutoPilot", "200");
+  Enter("txtAutoPilot");
+  sail(20, "100.0");
+  EXPECT_EQ(Text("lblPilotFollows"), "Pilot: Does not follow");
+  const auto& label = Find<QLabel>("lblPilotFollows");
+  for (const bool night : {false, true}) {
+    WearNightColours(night);
+    keep(night ? "not-night" : "not-light");
+    EXPECT_GE(label.width(),
+              label.fontMetrics().horizontalAdvance(QStringLiteral("Pilot: Turns the wrong way")));
+  }
+  WearNightColours(false);
+  Window->resize(Window->minimumSize());
+  keep("small");
+  Mode(1);
+  EXPECT_EQ(Text("lblPilotFollows"), "");
 }
 
 TEST_F(MainWindowStatus, TheBearingThatIsSentIsAsBrightInTrackAsInManual) {
