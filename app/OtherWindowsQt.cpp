@@ -275,7 +275,8 @@ void OtherWindowsQt::TimerTack_Timer() {
 frmOptions& OtherWindowsQt::Options() {
   if (!m_options) {
     m_options = std::make_unique<frmOptions>(frmOptions::Parts{m_main, *this, m_parts.Asks, m_parts.Random,
-                                                               m_recorded, m_parts.Store, m_parts.Finder});
+                                                               m_recorded, m_parts.Store, m_parts.Finder,
+                                                               m_parts.Time});
     m_options->setWindowIcon(ProgramIcon());
     m_options->Closed([this] { m_options.release()->deleteLater(); });
   }

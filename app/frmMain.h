@@ -80,6 +80,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void TurnBegins() override { m_helm.TurnBegins(); }
   void TurnOver() override { m_helm.TurnOver(); }
   void AutoPilotSet(float bearing) override { m_helm.TurnSteersTo(bearing); }
+  void PilotSendNow() override { m_helm.PilotSendNow(); }
   HelmObservers& Observers() override { return m_helm.Observers(); }
   HelmNow Now() const override { return m_helm.Now(); }
   const InstrumentRecord& Record() const override { return m_helm.Record(); }

@@ -404,6 +404,14 @@ void Helm::TurnSteersTo(float bearing) {
   m_observers.Tell([this](HelmObserver& observer) { observer.OnAutoPilot(m_settings.m_fAutoPilot); });
 }
 
+void Helm::PilotSendNow() {
+  if (m_settings.m_eTrackMode == TrackMode::Manual) {
+    WatchAct::Order order;
+    order.Sends = true;
+    Obey(order, m_clock.Now());
+  }
+}
+
 void Helm::TrackTakesOver(float angle) {
   m_supervisor.TurnOver();
   m_modes.TrackSetTrack(angle);

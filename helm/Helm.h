@@ -68,6 +68,8 @@ class Helm final : private NmeaReceiver::Observer,
   void TurnEnds(TurnFate why) { Decide(m_supervisor.TurnEnds(why)); }
   /// Takes the bearing of the turn that has the pilot, and tells it.
   void TurnSteersTo(float bearing);
+  /// Sends the bearing in Manual at once, though no wind has come.
+  void PilotSendNow();
   /// The turn is made: Track takes over from the bearing as it is and holds `angle` [deg relative, any turn]
   /// on the tracked side. A refused Track is told, and Manual stays.
   void TrackTakesOver(float angle);

@@ -31,6 +31,8 @@ class MainWindowApi : public Settings {
   /// Sets and shows the autopilot bearing [deg magnetic, any turn] for the turn that has the pilot. One that
   /// is not finite changes nothing.
   virtual void AutoPilotSet(float bearing) = 0;
+  /// Sends the bearing in Manual at once, though no wind has come.
+  virtual void PilotSendNow() = 0;
   /// Whom the helm tells.
   virtual HelmObservers& Observers() = 0;
   /// What the helm does at this moment.

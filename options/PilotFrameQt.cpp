@@ -89,6 +89,7 @@ PilotFrameQt::PilotFrameQt(QWidget* parent)
       chkPilotInvalidWhenLost(new QCheckBox(QStringLiteral("Invalid when &lost, for"), this)),
       txtPilotInvalidSeconds(new OptionEntryQt("txtPilotInvalidSeconds",
                                                "So long the status is V, then nothing is sent (sec)", this)),
+      cmdPilotTest(new QPushButton(QStringLiteral("Test &Pilot..."), this)),
       lblPilotSentences(new QLabel(this)),
       lblPilotNote(new QLabel(this)) {
   NameControls();
@@ -114,6 +115,9 @@ void PilotFrameQt::NameControls() {
   }
   NameControl(*chkPilotInvalidWhenLost, "chkPilotInvalidWhenLost",
               "When no bearing is good the pilot is told so; otherwise nothing is sent at once");
+  NameControl(*cmdPilotTest, "cmdPilotTest",
+              "Turns the boat by 10 degrees and back, and says how the pilot answers; in Manual");
+  cmdPilotTest->setAutoDefault(false);
   NameControl(*lblPilotSentences, "lblPilotSentences", "What would leave now");
   NameControl(*lblPilotNote, "lblPilotNote", "What does not leave, or how full the line is");
   for (QLabel* label : {lblPilotSentences, lblPilotNote}) {
@@ -131,6 +135,7 @@ QLayout* PilotFrameQt::ProfileRow() {
   AddPair(*row, NewCaption("P&rofile:", cmbPilotProfile, this), cmbPilotProfile);
   AddPair(*row, NewCaption("Cadenc&e:", cmbPilotCadence, this), cmbPilotCadence);
   row->addStretch();
+  row->addWidget(cmdPilotTest);
   return row;
 }
 

@@ -7,6 +7,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <array>
 #include <functional>
 #include <vector>
@@ -39,6 +40,7 @@ class PilotFrameQt final : public QGroupBox {
   std::array<QCheckBox*, kPilotOwnSwitches.size()> Sends;  ///< in the order of kPilotOwnSwitches
   QCheckBox* chkPilotInvalidWhenLost;
   OptionEntryQt* txtPilotInvalidSeconds;
+  QPushButton* cmdPilotTest;
   QLabel* lblPilotSentences;  ///< that would leave now, a line each
   QLabel* lblPilotNote;       ///< why some do not, or how full the line is
 

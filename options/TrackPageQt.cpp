@@ -224,6 +224,11 @@ void TrackPageQt::cmdTrackSuggest_Click() {
   }
 }
 
+void TrackPageQt::SuggestFor(const std::string& lag) {
+  txtTrackLag->setText(QString::fromStdString(lag));
+  cmdTrackSuggest_Click();
+}
+
 void TrackPageQt::chkTrackOnMyWind_Click() const {
   for (OptionEntryQt* box : {txtTrackOffset, txtTrackNoise, txtTrackTime, txtTrackMin, txtTrackMax}) {
     box->setEnabled(!chkTrackOnMyWind->isChecked());

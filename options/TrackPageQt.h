@@ -34,6 +34,8 @@ class TrackPageQt final : public QWidget {
 
   /// Called with a suggestion when it has been put into the boxes of this page.
   void Suggested(std::function<void(const TrackSuggestion&)> handler) { m_suggested = std::move(handler); }
+  /// Puts a lag that was measured [s] into its box, and what suits it into the others.
+  void SuggestFor(const std::string& lag);
 
   /// The boxes whose change leaves something to apply.
   std::array<OptionEntryQt*, 10> Marking() const;

@@ -11,6 +11,7 @@
 #include "options/DeviceDialogQt.h"
 #include "options/DeviceHint.h"
 #include "options/LoopDiagramQt.h"
+#include "options/PilotTestQt.h"
 #include "options/SimulateTimeText.h"
 #include "options/TrackInUseText.h"
 #include "platform/NumberText.h"
@@ -92,6 +93,7 @@ void frmOptions::MakeTabs() {
     connect(option, &QRadioButton::clicked, this, [this] { m_input->List->Clear(); });
     connect(option, &QRadioButton::toggled, this, [this] { m_input->List->Clear(); });
   }
+  connect(m_pilot->cmdPilotTest, &QPushButton::clicked, this, [this] { cmdPilotTest_Click(); });
   lstNmeaSentence = new SentenceListQt(this);
   lstNmeaSentence->hide();
   m_data->SentencePlace->setMinimumSize(lstNmeaSentence->minimumSizeHint());
@@ -418,6 +420,13 @@ void frmOptions::cmdApply_Click() {
 void frmOptions::Suggested(const TrackSuggestion& suggestion) {
   m_data->txtNmeaTrueWindAverage->setText(QString::fromStdString(ShortestText(suggestion.WindAverage)));
   ApplyBold(true);
+}
+
+void frmOptions::cmdPilotTest_Click() {
+  PilotTestQt::Ask({m_parts.Main, m_parts.Time, *m_asks, *this}, [this](const std::string& lag) {
+    TabSelect(Tracking);
+    m_track->SuggestFor(lag);
+  });
 }
 
 void frmOptions::SSTab_Click(int index) {

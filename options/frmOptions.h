@@ -24,6 +24,7 @@
 #include "options/SimulatePageQt.h"
 #include "options/TrackPageQt.h"
 #include "options/WatchPageQt.h"
+#include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/PortFinder.h"
 #include "platform/Profile.h"
@@ -42,6 +43,7 @@ class frmOptions final : public QDialog, private HelmObserver {
     const WindRecorder& Recorded;
     Profile& Store;
     const PortFinder* Finder;  ///< null for none
+    const Clock& Time;
   };
 
   enum Tab { Input = 0, Data = 1, Output = 2, Tracking = 3, Simulate = 4, Diagram = 5, Watch = 6 };
@@ -115,6 +117,7 @@ class frmOptions final : public QDialog, private HelmObserver {
   void cmdCancel_Click();
   void cmdApply_Click();
   void Suggested(const TrackSuggestion& suggestion);
+  void cmdPilotTest_Click();
   void SSTab_Click(int index);
   void vscSimulate_Changed();
 

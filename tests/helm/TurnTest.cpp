@@ -163,5 +163,20 @@ TEST_F(TurnOnTheHelm, ItsBearingIsFoldedToldAndSentWithTheNextWind) {
   EXPECT_THAT(Ends(), IsEmpty());
 }
 
+TEST_F(TurnOnTheHelm, InManualTheBearingIsSentAtOnceWhereItIsAskedFor) {
+  Receive(kApparent);
+  Receive(kTrue);
+  m_pilotPort.Written.clear();
+  m_helm.TurnSteersTo(77.0F);
+  m_view.Take();
+  m_helm.PilotSendNow();
+  EXPECT_THAT(m_pilotPort.Written, ElementsAre(Sentence("077.0") + "\r\n"));
+  EXPECT_EQ(m_view.Count("OnPilotData"), 1U);
+  m_helm.Modes().TrackSetSetup();
+  m_pilotPort.Written.clear();
+  m_helm.PilotSendNow();
+  EXPECT_THAT(m_pilotPort.Written, IsEmpty());
+}
+
 }  // namespace
 }  // namespace veerwatch

@@ -35,6 +35,7 @@ class FakeMainWindow final : public MainWindowApi {
   void TurnBegins() override {}
   void TurnOver() override {}
   void AutoPilotSet(float /*bearing*/) override {}
+  void PilotSendNow() override {}
   HelmObservers& Observers() override { return Tells; }
   HelmNow Now() const override { return Answer; }
   const InstrumentRecord& Record() const override { return Instruments; }

@@ -133,7 +133,7 @@ class OptionsMessages : public OptionsHostile {
  public:
   OptionsMessages() {
     Window = std::make_unique<frmOptions>(
-        frmOptions::Parts{Main, Ports, m_real, Random, Recorded, Store, &Finder});
+        frmOptions::Parts{Main, Ports, m_real, Random, Recorded, Store, &Finder, Time});
     Show(frmOptions::Tracking);
     Type("txtTrackBandwidth", "x");
     Click("cmdApply");

@@ -18,6 +18,7 @@
 #include "options/frmOptions.h"
 #include "tests/support/FakeMainWindow.h"
 #include "tests/support/FixedRandom.h"
+#include "tests/support/HandClock.h"
 #include "tests/support/ListedPorts.h"
 #include "tests/support/QueuedDialogs.h"
 #include "tests/support/SetPorts.h"
@@ -32,12 +33,13 @@ class OptionsTester : public testing::Test {
   FixedRandom Random;
   Profile Store;
   ListedPorts Finder;
+  HandClock Time;
   WindRecorder Recorded{Main.Tells, Main.Instruments};
   std::unique_ptr<frmOptions> Window;
 
   void Make() {
     Window = std::make_unique<frmOptions>(
-        frmOptions::Parts{Main, Ports, Dialogs, Random, Recorded, Store, &Finder});
+        frmOptions::Parts{Main, Ports, Dialogs, Random, Recorded, Store, &Finder, Time});
   }
 
   /// Makes the dialog and shows it on a tab.

@@ -175,5 +175,18 @@ TEST_F(TackHands, InTheSimulatorTheTurnGoesOn) {
   EXPECT_EQ(Window->m_fAutoPilot, 225.0F);
 }
 
+TEST_F(TackHands, TheEndOfAnotherTurnLeavesTheBearing) {
+  Start(kOnPorts);
+  NmeaPort.Receive(Winds("45", "50"));
+  RunTack();
+  Click("cmdCancel");
+  Window->TurnBegins();
+  Window->AutoPilotSet(200.0F);
+  // The wind is lost.
+  tmrNmea.Tick(8);
+  EXPECT_EQ(Window->Now().Hand, PilotHand::User) << "it is over";
+  EXPECT_EQ(Window->m_fAutoPilot, 200.0F);
+}
+
 }  // namespace
 }  // namespace veerwatch

@@ -1,0 +1,125 @@
+#include "options/PilotTestQt.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <cmath>
+#include <utility>
+
+#include "options/OptionControlsQt.h"
+#include "options/PilotTestWords.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr int kWhole = 1000;
+constexpr int kLeastWidth = 30;  // in widths of a digit
+
+QLabel* NewLines(const char* name, QWidget* parent) {
+  auto* label = new QLabel(parent);
+  label->setObjectName(QLatin1String(name));
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  return label;
+}
+
+}  // namespace
+
+void PilotTestQt::Ask(const Parts& parts, TakeOver takeOver) {
+  const std::string title = "Veerwatch - Test Pilot";
+  const std::string why = PilotTestHindrance(parts.Main.Now());
+  if (!why.empty()) {
+    parts.Asks.Inform(title, why);
+    return;
+  }
+  parts.Asks.AskYesNo(title, PilotTestQuestion(), [parts, takeOver = std::move(takeOver)](bool yes) {
+    if (yes) {
+      auto* dialog = new PilotTestQt(parts, takeOver);
+      dialog->open();
+      dialog->m_run.Begin();
+    }
+  });
+}
+
+PilotTestQt::PilotTestQt(const Parts& parts, TakeOver takeOver)
+    : QDialog(&parts.Window),
+      m_main(parts.Main),
+      m_takeOver(std::move(takeOver)),
+      lblPilotTest(NewLines("lblPilotTest", this)),
+      lblPilotTestAdvice(NewLines("lblPilotTestAdvice", this)),
+      ProgressBarPilotTest(new QProgressBar(this)),
+      cmdPilotTestTake(new QPushButton(QStringLiteral("&Take Over"), this)),
+      cmdPilotTestCancel(new QPushButton(QStringLiteral("Cancel"), this)),
+      m_run(parts.Main, parts.Time, [this] { Show(); }) {
+  setObjectName(QStringLiteral("PilotTest"));
+  setFont(parts.Window.font());
+  setWindowTitle(QStringLiteral("Veerwatch - Test Pilot"));
+  setAttribute(Qt::WA_DeleteOnClose);
+  parts.Window.installEventFilter(this);
+  ProgressBarPilotTest->setObjectName(QStringLiteral("ProgressBarPilotTest"));
+  ProgressBarPilotTest->setRange(0, kWhole);
+  ProgressBarPilotTest->setTextVisible(false);
+  NameControl(*cmdPilotTestTake, "cmdPilotTestTake",
+              "Puts the lag and the suggestion into the boxes of the Tracking tab; Apply stores it");
+  NameControl(*cmdPilotTestCancel, "cmdPilotTestCancel", "Ends the test with the bearing of before");
+  cmdPilotTestTake->setAutoDefault(false);
+  cmdPilotTestTake->setEnabled(false);
+  connect(cmdPilotTestCancel, &QPushButton::clicked, this, [this] { reject(); });
+  connect(cmdPilotTestTake, &QPushButton::clicked, this, [this] {
+    m_takeOver(PilotTestLag(m_run.Test().Result()));
+    accept();
+  });
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch();
+  buttons->addWidget(cmdPilotTestTake);
+  buttons->addWidget(cmdPilotTestCancel);
+  auto* rows = new QVBoxLayout(this);
+  rows->addWidget(lblPilotTest);
+  rows->addWidget(lblPilotTestAdvice);
+  rows->addWidget(ProgressBarPilotTest);
+  rows->addStretch();
+  rows->addLayout(buttons);
+  const int digit = fontMetrics().horizontalAdvance(QLatin1Char('0'));
+  // Room for the result from the start, so that nothing moves.
+  setMinimumSize(kLeastWidth * 2 * digit, 12 * fontMetrics().lineSpacing());
+}
+
+bool PilotTestQt::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Hide) {
+    reject();
+  }
+  return QDialog::eventFilter(watched, event);
+}
+
+void PilotTestQt::Show() {
+  if (m_run.Running()) {
+    lblPilotTest->setText(QString::fromStdString(PilotTestStage(m_run.Test().At())));
+    ProgressBarPilotTest->setValue(static_cast<int>(std::lround(m_run.Progress() * kWhole)));
+    return;
+  }
+  ProgressBarPilotTest->hide();
+  cmdPilotTestCancel->setText(QStringLiteral("Close"));
+  if (m_run.Test().At() == PilotTest::Stage::Done) {
+    ShowResult();
+  } else {
+    lblPilotTest->setText(QStringLiteral("The test has ended: ") + QString::fromStdString(m_run.Ended()));
+  }
+}
+
+void PilotTestQt::ShowResult() {
+  const PilotTestResult& result = m_run.Test().Result();
+  lblPilotTest->setText(QString::fromStdString(PilotTestWords(result)));
+  const HelmNow now = m_main.Now();
+  const std::string advice = PilotTestAdvice(
+      result, {now.WindsASecond.value_or(1.0), 0.0, now.Heading.has_value(), now.BoatSpeedKnown});
+  lblPilotTestAdvice->setText(QString::fromStdString(advice));
+  cmdPilotTestTake->setEnabled(!advice.empty());
+}
+
+void PilotTestQt::done(int result) {
+  m_run.Stop();
+  QDialog::done(result);
+}
+
+}  // namespace veerwatch
