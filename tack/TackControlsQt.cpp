@@ -107,7 +107,7 @@ void TackControlsQt::MakeSteps() {
 }
 
 void TackControlsQt::MakeThenTrack() {
-  chkThenTrack = new QCheckBox(QStringLiteral("&Then track"), &m_dialog);
+  chkThenTrack = new QCheckBox(QStringLiteral("T&hen track"), &m_dialog);
   chkThenTrack->setObjectName(QStringLiteral("chkThenTrack"));
   chkThenTrack->setToolTip(
       QStringLiteral("Ease the overshoot out, then track the wind angle of the other tack"));

@@ -93,7 +93,8 @@ void frmTack::AskedAnew() {
 void frmTack::Dim() {
   QPalette colours;
   for (const auto& [text, ground] :
-       {std::pair{QPalette::Text, QPalette::Base}, std::pair{QPalette::ButtonText, QPalette::Button}}) {
+       {std::pair{QPalette::Text, QPalette::Base}, std::pair{QPalette::ButtonText, QPalette::Button},
+        std::pair{QPalette::WindowText, QPalette::Window}}) {
     colours.setColor(QPalette::Disabled, text,
                      Legible(palette().color(QPalette::Active, ground),
                              palette().color(QPalette::Active, text), kDimmed, kDimmedContrast));
