@@ -1,6 +1,7 @@
 #include "tack/frmTack.h"
 
 #include <QEvent>
+#include <QScreen>
 #include <QWindow>
 #include <algorithm>
 #include <cmath>
