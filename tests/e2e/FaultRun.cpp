@@ -67,6 +67,11 @@ void FaultRun::Link(const char* name, const Pty& pty) const {
   fs::rename(next, m_links / name);
 }
 
+void FaultRun::Pull(const char* name, Pty& pty) const {
+  fs::remove(m_links / name);
+  pty.HangUp();
+}
+
 bool FaultRun::Starts() {
   Link("in", *m_in);
   if (m_fault.OutputFromStart) {

@@ -66,8 +66,8 @@ class FaultRun {
 
   BoatModel& Boat() { return m_boat; }
   /// The plugs are pulled, and put in again.
-  void PullInput() { m_in->HangUp(); }
-  void PullOutput() { m_out->HangUp(); }
+  void PullInput() { Pull("in", *m_in); }
+  void PullOutput() { Pull("out", *m_out); }
   void PlugInput();
   void PlugOutput();
   /// Nobody reads what the pilot is sent, and its line is full; somebody reads again, what is new.
@@ -114,6 +114,8 @@ class FaultRun {
   void Look();
   double HeldAngle() const;
   void Link(const char* name, const Pty& pty) const;
+  /// Its name goes first: its number may be that of another terminal a moment later.
+  void Pull(const char* name, Pty& pty) const;
   std::string Profile() const;
 
   const Fault& m_fault;

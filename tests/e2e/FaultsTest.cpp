@@ -28,6 +28,7 @@ TEST_F(Faults, TheInputIsPulledTenTimes) {
   SailInManual(*in, pilot);
   for (int time = 1; time <= 10; ++time) {
     WriteAll(*in, "$IIMWV,17");
+    socket.Pull();
     in.reset();
     ASSERT_TRUE(AwaitText("StatusBar(2)", "Input Port 1 Not Open")) << time;
     in = std::make_unique<Pty>();

@@ -78,6 +78,8 @@ class Socket {
     fs::create_symlink(pty.Device(), next);
     fs::rename(next, m_link);
   }
+  /// To be called before the terminal hangs up: its number may be that of another test's a moment later.
+  void Pull() const { fs::remove(m_link); }
 
  private:
   fs::path m_link;

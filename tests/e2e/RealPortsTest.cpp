@@ -69,6 +69,7 @@ TEST_F(RealPorts, GoesOnWhenTheInputDeviceComesBack) {
   // The plug is pulled in the middle of a line.
   WriteAll(*in, ApparentWind("040") + "$IIMWV,0");
   ASSERT_TRUE(pilot.Hears(Pilot("100.0")));
+  socket.Pull();
   in.reset();
   EXPECT_TRUE(Says("shows StatusBar(2)=Input Port 1 Not Open")) << m_program->Said();
 
@@ -98,6 +99,7 @@ TEST_F(RealPorts, GoesOnWhenThePilotDeviceComesBack) {
   Click("tbrTrack(7)");
   m_program->Tell("watch StatusBar(3)");
   ASSERT_TRUE(Says("shows StatusBar(3)="));
+  socket.Pull();
   out.reset();
   EXPECT_TRUE(Says("shows StatusBar(3)=Output Port 2 Not Open")) << m_program->Said();
   // The bearing moves on meanwhile, so that an old sentence is told from a new one.
