@@ -318,9 +318,7 @@ void Watch::LookAtSteering(const Around& around, Findings& found) const {
     at(Condition::Pinching) = {true, Level::Amber, Watched::WindApparent};
   }
   if (around.Shift) {
-    const bool starboard = m_record.Data().WindAngleTrue >= 0.0F;
-    at(Condition::WindShift) = {true,          Level::Amber, Watched::WindTrue,
-                                *around.Shift, {},           (*around.Shift > 0.0) == starboard};
+    at(Condition::WindShift) = {true, Level::Amber, Watched::WindTrue, *around.Shift, {}, around.Lifts};
   }
   if (Tracks() && TrackSwings(around.Method, static_cast<double>(around.Bandwidth), around.Winds)) {
     at(Condition::ManyWinds) = {true, Level::Note, Watched::WindApparent, *around.Winds};

@@ -35,6 +35,7 @@ class Watch {
     bool Pinching = false;        ///< the angle guard has kept the boat from that
     bool Gybing = false;          ///< and from that
     std::optional<double> Shift;  ///< of the true wind, where one is told [deg, positive to starboard]
+    bool Lifts = false;           ///< that shift lifts the boat
   };
 
   /// Both outlive this.

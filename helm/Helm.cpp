@@ -278,10 +278,7 @@ void Helm::LookOut() {
   around.Sent = m_pilot.Sent();
   around.Acts = m_act.Acts();
   const Moment now = m_clock.Now();
-  const AngleGuard::Risk risk = m_functions.Risk(now);
-  around.Pinching = risk == AngleGuard::Risk::Pinching;
-  around.Gybing = risk == AngleGuard::Risk::Gybe;
-  around.Shift = m_functions.Shift();
+  m_functions.Report(now, around);
   m_watch.Look(around, now);
   Obey(m_act.Second(now), now);
   Repeat(now);

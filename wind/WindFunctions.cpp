@@ -1,6 +1,7 @@
 #include "wind/WindFunctions.h"
 
 #include <cmath>
+#include <utility>
 
 #include "platform/Angles.h"
 
@@ -57,13 +58,17 @@ WindFunctions::Did WindFunctions::Before(const LoopInput& input) {
 
 void WindFunctions::Feed(const LoopInput& input) {
   if (!m_settings.m_bWindGuard && !m_settings.m_bWindShift) {
-    m_guard.Clear();
-    m_shift = {};
+    if (std::exchange(m_feeds, false)) {
+      m_guard.Clear();
+      m_shift = {};
+      m_winds.Restart();
+    }
     return;
   }
   if (!input.BringsTrue || !HeadingFresh(input.Now)) {
     return;
   }
+  m_feeds = true;
   const double seconds = m_winds.Next(input.Now);
   const InstrumentData& data = m_record.Data();
   const auto trueAngle = static_cast<double>(m_record.WindTrueUnsmoothed().Angle);
@@ -188,6 +193,14 @@ AngleGuard::Risk WindFunctions::Risk(const Moment& now) const {
 
 std::optional<double> WindFunctions::Shift() const {
   return Tracks() && m_settings.m_bWindShift ? m_shift.Shift() : std::nullopt;
+}
+
+void WindFunctions::Report(const Moment& now, Watch::Around& around) const {
+  const AngleGuard::Risk risk = Risk(now);
+  around.Pinching = risk == AngleGuard::Risk::Pinching;
+  around.Gybing = risk == AngleGuard::Risk::Gybe;
+  around.Shift = Shift();
+  around.Lifts = around.Shift && IsLift(*around.Shift, static_cast<double>(m_record.Data().WindAngleTrue));
 }
 
 bool WindFunctions::Dodge(double degrees) {

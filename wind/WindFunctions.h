@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 #include "control/PassTime.h"
 #include "control/TrackLoop.h"
@@ -58,6 +59,8 @@ class WindFunctions {
 
   /// The polar's angle, as of the latest pass.
   const PolarAngle& PolarNow() const { return m_polar; }
+  /// Puts what guard and shift alarm have found at `now` into what the watch has to know.
+  void Report(const Moment& now, Watch::Around& around) const;
   /// What the guard kept the boat from, in the last ten seconds.
   AngleGuard::Risk Risk(const Moment& now) const;
   /// The shift that stands [deg, positive to starboard].
@@ -89,6 +92,7 @@ class WindFunctions {
   PassTime m_winds;
   PassTime m_corrections;
   PassTime m_passes;
+  bool m_feeds = false;                      ///< guard and shift are fed
   bool m_tracked = false;                    ///< at the latest pass
   bool m_polarOn = false;                    ///< at the latest pass
   std::optional<bool> m_edge;                ///< whether the polar's edge was told
