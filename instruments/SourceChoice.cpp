@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "instruments/Calibration.h"
 #include "instruments/MathLib.h"
 #include "platform/Angles.h"
 
@@ -60,13 +61,15 @@ bool SourceChoice::TakeHeading(const Readings& readings) {
   }
   const bool overGround = m_settings.m_iNmeaHeading == kOverGround;
   if (const Reading* heading = readings.Find(overGround ? Quantity::CourseMagnetic : Quantity::Heading)) {
-    m_record.HeadingUpdate(heading->Value, *heading->From);
+    const float value = overGround ? heading->Value : CalibratedHeading(m_settings, heading->Value);
+    m_record.HeadingUpdate(value, *heading->From);
     return true;
   }
   if (const Reading* heading = overGround ? nullptr : readings.Find(Quantity::HeadingTrue)) {
     const std::optional<float> variation = VariationAt(heading->From->At);
     if (variation) {
-      m_record.HeadingUpdate(Magnetic(heading->Value, *variation), *heading->From);
+      m_record.HeadingUpdate(CalibratedHeading(m_settings, Magnetic(heading->Value, *variation)),
+                             *heading->From);
     }
     return variation.has_value();
   }
@@ -80,12 +83,13 @@ bool SourceChoice::TakeHeading(const Readings& readings) {
 }
 
 bool SourceChoice::TakeBoatSpeed(const Readings& readings) {
-  const Reading* speed = readings.Find(
-      m_settings.m_iNmeaBoatSpeed == kOverGround ? Quantity::SpeedOverGround : Quantity::SpeedThroughWater);
+  const bool overGround = m_settings.m_iNmeaBoatSpeed == kOverGround;
+  const Reading* speed = readings.Find(overGround ? Quantity::SpeedOverGround : Quantity::SpeedThroughWater);
   if (speed == nullptr || !Trusted(readings, RecordValue::BoatSpeed)) {
     return false;
   }
-  m_record.BoatSpeedUpdate(speed->Value, *speed->From);
+  m_record.BoatSpeedUpdate(overGround ? speed->Value : CalibratedBoatSpeed(m_settings, speed->Value),
+                           *speed->From);
   return true;
 }
 
@@ -93,7 +97,8 @@ bool SourceChoice::TakeWind(const Readings& readings) {
   const Reading* apparent = readings.Find(Quantity::ApparentWindAngle);
   const Reading* apparentSpeed = readings.Find(Quantity::ApparentWindSpeed);
   if (apparent != nullptr && apparentSpeed != nullptr && Trusted(readings, RecordValue::WindApparent)) {
-    m_record.WindApparentUpdate(apparent->Value, apparentSpeed->Value, true, *apparent->From);
+    m_record.WindApparentUpdate(CalibratedWindAngle(m_settings, apparent->Value), apparentSpeed->Value, true,
+                                *apparent->From);
     return true;
   }
   const Reading* trueSpeed = readings.Find(Quantity::TrueWindSpeed);
@@ -104,7 +109,8 @@ bool SourceChoice::TakeWind(const Readings& readings) {
   const Reading* trueWind = readings.Find(Quantity::TrueWindAngle);
   const std::optional<float> angle = trueWind != nullptr ? trueWind->Value : AngleOf(readings);
   if (angle) {
-    m_record.WindTrueUpdate(*angle, trueSpeed->Value, true, *trueSpeed->From);
+    m_record.WindTrueUpdate(CalibratedWindAngle(m_settings, *angle), trueSpeed->Value, true,
+                            *trueSpeed->From);
   }
   return angle.has_value();
 }
@@ -116,7 +122,10 @@ std::optional<float> SourceChoice::AngleOf(const Readings& readings) const {
       m_record.Age(RecordValue::Heading, now).value_or(kHeadingLasts) >= kHeadingLasts) {
     return std::nullopt;
   }
-  const auto heading = static_cast<double>(data.Heading);
+  // The direction was reckoned aboard with the compass as it is, so it is turned back with its own heading.
+  const bool compass = m_settings.m_iNmeaHeading != kOverGround;
+  const double offset = compass ? static_cast<double>(m_settings.m_fNmeaHeadingOffset) : 0.0;
+  const double heading = static_cast<double>(data.Heading) - offset;
   const Reading* direction = readings.Find(Quantity::WindDirectionTrue);
   const std::optional<float> variation = VariationAt(now);
   if (direction != nullptr && variation) {

@@ -40,6 +40,12 @@ DataPageQt::DataPageQt(QWidget* parent)
                                                     "Wind Indicator Average Time (sec, 0=none)", this)),
       txtNmeaTrueWindAverage(
           new OptionEntryQt("txtNmeaTrueWindAverage", "True Wind Average Time (sec, 0=none)", this)),
+      txtNmeaWindOffset(
+          new OptionEntryQt("txtNmeaWindOffset", "Added to the wind's angle that comes in (Deg)", this)),
+      txtNmeaBoatSpeedFactor(new OptionEntryQt("txtNmeaBoatSpeedFactor",
+                                               "Times the speed through the water that comes in", this)),
+      txtNmeaHeadingOffset(new OptionEntryQt("txtNmeaHeadingOffset",
+                                             "Added to the compass heading that comes in (Deg)", this)),
       cmbNmeaChecksum(NewRule("cmbNmeaChecksum", "What becomes of a sentence without a checksum",
                               {QStringLiteral("Accept missing"), QStringLiteral("Require")}, this)),
       cmbNmeaInvalidStatus(NewRule("cmbNmeaInvalidStatus",
@@ -81,9 +87,23 @@ DataPageQt::DataPageQt(QWidget* parent)
   average(0, "Data Average:", "Wind Indi&cator", txtNmeaWindIndicatorAverage);
   average(2, "Data Average (Sec):", "Tr&ue Wind", txtNmeaTrueWindAverage);
   rows->setColumnStretch(6, 1);
+  auto* corrections = new QHBoxLayout;
+  const auto correction = [this, corrections](const char* caption, OptionEntryQt* box, const char* unit) {
+    corrections->addWidget(NewCaption(caption, box, this));
+    corrections->addWidget(box);
+    if (*unit != '\0') {
+      corrections->addWidget(NewText(unit, this));
+    }
+    corrections->addSpacing(kGroupGap);
+  };
+  correction("Wind &Offset:", txtNmeaWindOffset, "Deg");
+  correction("Boat Speed Fac&tor:", txtNmeaBoatSpeedFactor, "");
+  correction("Headin&g Offset:", txtNmeaHeadingOffset, "Deg");
+  corrections->addStretch(1);
 
   auto* page = new QVBoxLayout(this);
   page->addLayout(rows);
+  page->addLayout(corrections);
   page->addWidget(lblSourceAdvice);
   page->addWidget(SentencePlace, 1);
 }
@@ -92,6 +112,9 @@ std::vector<BoundEntry> DataPageQt::Entries() const {
   return {
       {txtNmeaTrueWindAverage, &OptionsForm::NmeaTrueWindAverage},
       {txtNmeaWindIndicatorAverage, &OptionsForm::NmeaWindIndicatorAverage},
+      {txtNmeaWindOffset, &OptionsForm::NmeaWindOffset},
+      {txtNmeaBoatSpeedFactor, &OptionsForm::NmeaBoatSpeedFactor},
+      {txtNmeaHeadingOffset, &OptionsForm::NmeaHeadingOffset},
   };
 }
 
@@ -129,6 +152,9 @@ void DataPageQt::Read(OptionsForm& form) const {
 }
 
 void DataPageQt::Changed(const std::function<void(QWidget*)>& handler) const {
+  for (OptionEntryQt* each : {txtNmeaWindOffset, txtNmeaBoatSpeedFactor, txtNmeaHeadingOffset}) {
+    connect(each, &QLineEdit::textChanged, each, [handler, each] { handler(each); });
+  }
   for (QComboBox* each : {cmbNmeaChecksum, cmbNmeaInvalidStatus, cmbNmeaForeignLines}) {
     connect(each, &QComboBox::currentIndexChanged, each, [handler, each] { handler(each); });
   }

@@ -31,6 +31,9 @@ class DataPageQt final : public QWidget {
   QComboBox* cmbNmeaBoatSpeed;
   OptionEntryQt* txtNmeaWindIndicatorAverage;
   OptionEntryQt* txtNmeaTrueWindAverage;
+  OptionEntryQt* txtNmeaWindOffset;
+  OptionEntryQt* txtNmeaBoatSpeedFactor;
+  OptionEntryQt* txtNmeaHeadingOffset;
   QComboBox* cmbNmeaChecksum;
   QComboBox* cmbNmeaInvalidStatus;
   QComboBox* cmbNmeaForeignLines;

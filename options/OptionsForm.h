@@ -17,6 +17,9 @@ struct OptionsForm {
   int NmeaBoatSpeed = 0;
   std::array<bool, kSentences.size()> NmeaSentence{};  ///< in the order of kSentences
   std::string NmeaTrueWindAverage;
+  std::string NmeaWindOffset;
+  std::string NmeaBoatSpeedFactor;
+  std::string NmeaHeadingOffset;
   std::string NmeaWindIndicatorAverage;
   // What is asked of a line; the rules are indexes in their lists, as the enumerations.
   int NmeaChecksum = 0;
@@ -91,11 +94,15 @@ struct OptionBox {
 };
 
 /// In the order in which they are stored.
-inline constexpr std::array<OptionBox, 22> kOptionBoxes{{
+inline constexpr std::array<OptionBox, 25> kOptionBoxes{{
     {OptionGroup::Data, "True Wind Average", &OptionsForm::NmeaTrueWindAverage,
      &Settings::m_fNmeaTrueWindAverage},
     {OptionGroup::Data, "Wind Indicator Average", &OptionsForm::NmeaWindIndicatorAverage,
      &Settings::m_fNmeaWindIndicatorAverage},
+    {OptionGroup::Data, "Wind Offset", &OptionsForm::NmeaWindOffset, &Settings::m_fNmeaWindOffset},
+    {OptionGroup::Data, "Boat Speed Factor", &OptionsForm::NmeaBoatSpeedFactor,
+     &Settings::m_fNmeaBoatSpeedFactor},
+    {OptionGroup::Data, "Heading Offset", &OptionsForm::NmeaHeadingOffset, &Settings::m_fNmeaHeadingOffset},
     {OptionGroup::Output, "Invalid When Lost", &OptionsForm::PilotInvalidSeconds,
      &Settings::m_fPilotInvalidSeconds},
     {OptionGroup::SimulateBoat, "Boat Speed", &OptionsForm::SimulateBoatSpeed,

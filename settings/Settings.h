@@ -43,6 +43,10 @@ struct Settings {
   std::int16_t m_iNmeaTrueWind = 1;           ///< 0 true wind from a sensor, 1 computed from the boat speed
   float m_fNmeaTrueWindAverage = 2.0F;        ///< averaging count of the record [samples], by IsAverageCount
   float m_fNmeaWindIndicatorAverage = 60.0F;  ///< the same of the wind indicator
+  // What makes good how an instrument is mounted or reads (instruments/Calibration).
+  float m_fNmeaWindOffset = 0.0F;       ///< added to the wind's angle [deg, (-180, 180]]
+  float m_fNmeaBoatSpeedFactor = 1.0F;  ///< times the speed through the water [0.5, 2]
+  float m_fNmeaHeadingOffset = 0.0F;    ///< added to the compass heading [deg, (-180, 180]]
 
   // The autopilot.
   std::int16_t m_iPilotPort = 5;  ///< number of the pilot port; equal to m_iNmeaPort: one port for both ways

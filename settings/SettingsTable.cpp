@@ -61,6 +61,14 @@ SettingTable<S> Nmea() {
       {section, "Wind Indicator Average", Number(&S::m_fNmeaWindIndicatorAverage, kAverageCount), "samples",
        "averaging count of the wind in the window's title; written and never read", kData,
        SettingUse::WrittenOnly},
+      {section, "Wind Offset", Number(&S::m_fNmeaWindOffset, kRelative), "deg",
+       "added to the wind's angle that comes in: what it shows too little while motoring straight into the "
+       "wind",
+       kData},
+      {section, "Boat Speed Factor", Number(&S::m_fNmeaBoatSpeedFactor, kSpeedFactor), "",
+       "times the speed through the water that comes in", kData},
+      {section, "Heading Offset", Number(&S::m_fNmeaHeadingOffset, kRelative), "deg",
+       "added to the compass heading that comes in", kData},
   };
 }
 

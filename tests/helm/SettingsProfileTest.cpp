@@ -57,6 +57,9 @@ constexpr Key kKeys[] = {{"Nmea", "Boat Speed", "1", "0"},
                          {"Nmea", "Foreign Lines", "Error", "List"},
                          {"Nmea", "True Wind", "1", "0"},
                          {"Nmea", "True Wind Average", "2", "3.5"},
+                         {"Nmea", "Wind Offset", "0", "-4.5"},
+                         {"Nmea", "Boat Speed Factor", "1", "1.2"},
+                         {"Nmea", "Heading Offset", "0", "6"},
                          {"Pilot", "Port", "5", "13"},
                          {"Pilot", "Bearing", "40", "123.5"},
                          {"Pilot", "Profile", "Magnetic APB", "True APB"},
@@ -334,7 +337,7 @@ TEST(SettingsProfile, AFreshProfileHasEveryKeyInItsOrder) {
       "Sentence VTG=True\nSentence HDM=False\nSentence HDT=False\nSentence MWD=False\nSentence THS=False\n"
       "Sentence VWR=False\nSentence VWT=False\nWind Units=False\nChecksum=Accept missing\n"
       "Invalid Status=Use\nLower Case=False\nForeign Lines=Error\nTrue Wind=1\nTrue Wind Average=2\nWind "
-      "Indicator Average=60\n\n"
+      "Indicator Average=60\nWind Offset=0\nBoat Speed Factor=1\nHeading Offset=0\n\n"
       "[Pilot]\nPort=5\nBearing=40\nProfile=Magnetic APB\nCadence=0\nInvalid When Lost=False\n"
       "Invalid Seconds=5\nOwn Talker=EC\nOwn Bearing=M\nOwn Fields=14\nOwn Decimals=1\nOwn Point=1\n"
       "Own APB=True\nOwn RMB=False\nOwn HSC=False\nOwn XTE=False\nOwn BWC=False\n\n"

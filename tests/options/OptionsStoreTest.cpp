@@ -24,6 +24,9 @@ OptionsForm OtherForm() {
   form.NmeaHeading = 0;
   form.NmeaBoatSpeed = 0;
   form.NmeaTrueWindAverage = "3.5";
+  form.NmeaWindOffset = "-4.5";
+  form.NmeaBoatSpeedFactor = "1.2";
+  form.NmeaHeadingOffset = "6";
   form.NmeaWindIndicatorAverage = "30";
   form.NmeaChecksum = form.NmeaInvalidStatus = form.NmeaForeignLines = 1;
   form.NmeaWindUnits = form.NmeaLowerCase = true;
@@ -285,6 +288,12 @@ const std::vector<OrderedText>& OrderedTexts() {
        [](const Settings& main) { return main.m_fNmeaTrueWindAverage == 3.5F; }},
       {"Data", "Wind Indicator Average", &OptionsForm::NmeaWindIndicatorAverage,
        [](const Settings& main) { return main.m_fNmeaWindIndicatorAverage == 30.0F; }},
+      {"Data", "Wind Offset", &OptionsForm::NmeaWindOffset,
+       [](const Settings& main) { return main.m_fNmeaWindOffset == -4.5F; }},
+      {"Data", "Boat Speed Factor", &OptionsForm::NmeaBoatSpeedFactor,
+       [](const Settings& main) { return main.m_fNmeaBoatSpeedFactor == 1.2F; }},
+      {"Data", "Heading Offset", &OptionsForm::NmeaHeadingOffset,
+       [](const Settings& main) { return main.m_fNmeaHeadingOffset == 6.0F; }},
       {"Input", "Comm", &OptionsForm::NmeaPort, [](const Settings& main) { return main.m_iNmeaPort == 7; }},
       {"Output", "Comm", &OptionsForm::PilotPort,
        [](const Settings& main) { return main.m_iPilotPort == 8; }},
@@ -349,8 +358,8 @@ TEST_F(OptionsStoring, StoresTheTextsInTheirOrderUpToTheOneThatFails) {
     // What is chosen stands in front of the texts of its group.
     EXPECT_EQ(main.m_iNmeaTrueWind, 0) << failing;
     EXPECT_FALSE(main.m_bNmeaSentenceVTG) << failing;
-    EXPECT_EQ(main.m_bSimulate, failing >= 4) << failing;
-    EXPECT_EQ(main.m_bTrackAlarm, failing < 14) << failing;
+    EXPECT_EQ(main.m_bSimulate, failing >= 7) << failing;
+    EXPECT_EQ(main.m_bTrackAlarm, failing < 17) << failing;
   }
 }
 
@@ -380,6 +389,8 @@ TEST_F(OptionsStoring, RefusesWhatTheLoopCannotWorkWith) {
   const std::vector<Spoilt> spoilt{
       {"Data", "True Wind Average", &OptionsForm::NmeaTrueWindAverage, "-0.1"},
       {"Data", "Wind Indicator Average", &OptionsForm::NmeaWindIndicatorAverage, "-1"},
+      {"Data", "Boat Speed Factor", &OptionsForm::NmeaBoatSpeedFactor, "0.49"},
+      {"Data", "Boat Speed Factor", &OptionsForm::NmeaBoatSpeedFactor, "2.01"},
       {"Input", "Comm", &OptionsForm::NmeaPort, "0"},
       {"Output", "Comm", &OptionsForm::PilotPort, "-3"},
       {"Tracking", "Alarm Limit", &OptionsForm::TrackAlarmLimit, "-1"},
