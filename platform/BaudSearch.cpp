@@ -14,12 +14,18 @@ void BaudSearch::Forget() {
 }
 
 void BaudSearch::Restart(Time now) {
+  m_heard = false;
+  Begin(now);
+}
+
+void BaudSearch::Begin(Time now) {
   m_found = false;
   m_begun = now;
   Forget();
 }
 
 void BaudSearch::Take(std::string& text, Time now) {
+  m_heard = m_heard || !text.empty();
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (text[i] != '\r' && text[i] != '\n') {
       if (m_line.size() < kLongestLine) {
@@ -48,7 +54,7 @@ bool BaudSearch::Tick(Time now) {
     return false;
   }
   m_rate = (m_rate + 1) % std::size(kBaudRates);
-  Restart(now);
+  Begin(now);
   return true;
 }
 

@@ -29,6 +29,8 @@ class BaudSearch {
   /// The rate to listen at now [baud].
   int Rate() const;
   bool Found() const { return m_found; }
+  /// Characters have come since Restart(), and no rate makes good lines of them so far.
+  bool Noise() const { return m_heard && !m_found; }
 
   /// Takes what has arrived at this rate. Once that settles the rate, `text` keeps what came after the line
   /// that did; else it is empty.
@@ -38,11 +40,13 @@ class BaudSearch {
   bool Tick(Time now);
 
  private:
+  void Begin(Time now);
   void Forget();
 
   Good m_good;
   std::size_t m_rate = 0;  ///< index of kBaudRates
   bool m_found = false;
+  bool m_heard = false;
   Time m_begun = 0;                ///< when this rate began
   std::optional<Time> m_lastGood;  ///< when the latest good line came
   std::string m_line;              ///< what has come of the present one

@@ -80,6 +80,9 @@ class SerialPort {
   /// "" for nothing.
   virtual std::string Trouble() const { return {}; }
 
+  /// Whether characters come of which nothing is passed on, as no rate makes lines of them so far.
+  virtual bool Noise() const { return false; }
+
   /// Replaces `text` by every character that waits; "" when none does. Keeps the capacity of `text`.
   virtual void Input(std::string& text) = 0;
 

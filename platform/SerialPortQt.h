@@ -39,6 +39,7 @@ class SerialPortQt final : public EndpointPort {
   void PollLineErrors() override;
   /// The rate that is searched, or was found.
   std::string Trouble() const override;
+  bool Noise() const override { return Searching() && m_search.Noise(); }
   /// What the endpoint says, or the rate that is searched or was found.
   std::optional<int> BaudRate() const override;
 

@@ -57,6 +57,18 @@ TEST_F(Searching, WhatCameAtAnotherRateDoesNotCount) {
   EXPECT_FALSE(Search.Found());
 }
 
+TEST_F(Searching, NoiseIsWhatComesAndMakesNoLinesAtAnyRateSoFar) {
+  EXPECT_FALSE(Search.Noise());
+  Left("\x80\x91", 1100);
+  EXPECT_TRUE(Search.Noise());
+  EXPECT_TRUE(Search.Tick(4000));
+  EXPECT_TRUE(Search.Noise()) << "also while the next rate is still silent";
+  Left("good\ngood\n", 4100);
+  EXPECT_FALSE(Search.Noise());
+  Search.Restart(9000);
+  EXPECT_FALSE(Search.Noise());
+}
+
 TEST_F(Searching, NoiseSettlesNothingAndTakesNoRoom) {
   for (int i = 0; i < 100; ++i) {
     EXPECT_EQ(Left(std::string(100000, '\xff'), 1100), "");

@@ -35,6 +35,7 @@ class ScriptedPort final : public SerialPort {
   std::string Failure;                  ///< why the port does not open
   std::optional<int> Rate = 4800;       ///< what its line carries [baud]
   std::string Complaint;                ///< its trouble while it is open
+  bool Noisy = false;                   ///< no rate makes lines of what comes
   const ScriptedPort* Other = nullptr;  ///< a port that, while open, holds its device against this one
   std::vector<int> LineErrorsWaiting;   ///< events that the next PollLineErrors raises
 
@@ -88,6 +89,7 @@ class ScriptedPort final : public SerialPort {
     return true;
   }
   std::string Trouble() const override { return m_open ? Complaint : ""; }
+  bool Noise() const override { return Noisy; }
   std::string OpenFailure() const override { return m_open ? "" : Failure; }
   void Input(std::string& text) override {
     ++Inputs;

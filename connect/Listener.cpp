@@ -1,0 +1,162 @@
+#include "connect/Listener.h"
+
+#include <utility>
+#include <variant>
+#include <vector>
+
+#include "nmea/Sentence.h"
+#include "platform/VisibleText.h"
+
+namespace veerwatch {
+
+namespace {
+
+constexpr std::string_view kAutomatic = "?baud=auto";
+
+/// `text` without `front`, where it begins with it.
+std::string Without(std::string text, const std::string& front) {
+  return text.starts_with(front) ? text.substr(front.size()) : text;
+}
+
+}  // namespace
+
+Listener::Listener(Candidate candidate, const NamedPort::Maker& make, const DeviceExists& exists,
+                   const Clock& clock, Line line)
+    : m_candidate(std::move(candidate)),
+      m_clock(clock),
+      m_line(std::move(line)),
+      m_begun(clock.Now().Steady) {
+  const auto parsed = ParseEndpoints(m_candidate.Endpoint, exists);
+  const auto* endpoints = std::get_if<std::vector<Endpoint>>(&parsed);
+  if (endpoints == nullptr) {
+    End(std::get<std::string>(parsed));
+    return;
+  }
+  m_device = endpoints->front().What == Endpoint::Kind::Device;
+  m_port = make(endpoints->front());
+  m_connection = m_port->Connect(*this);
+  if (!m_port->PortOpen(true)) {
+    const std::string why = m_port->OpenFailure();
+    const std::string place = m_device ? endpoints->front().Path : m_candidate.Endpoint;
+    End(why.empty() ? "cannot be opened" : Without(why, VisibleText(place) + ": "));
+  }
+}
+
+Listener::Listener(Candidate candidate, const Clock& clock, Line line)
+    : m_candidate(std::move(candidate)),
+      m_clock(clock),
+      m_line(std::move(line)),
+      m_inUse(true),
+      m_begun(clock.Now().Steady) {}
+
+Listener::Listener(Candidate candidate, const Clock& clock, std::string why)
+    : m_candidate(std::move(candidate)), m_clock(clock), m_begun(clock.Now().Steady) {
+  End(std::move(why));
+}
+
+bool Listener::Searching() const { return m_device && !m_rate && !m_over; }
+
+void Listener::Tick() {
+  const std::int64_t passed = m_clock.Now().Steady - m_begun;
+  if (m_over || passed < (Searching() ? kSearches : kListens)) {
+    return;
+  }
+  if (Brings() || m_inUse) {
+    m_over = true;
+  } else {
+    End(Silence());
+  }
+}
+
+std::string Listener::Silence() const {
+  if (m_heard.Faults() > 0) {
+    return "no sentences, only lines that are none";
+  }
+  if (m_device) {
+    return m_port->Noise() ? "noise at every rate, no sentences" : "nothing comes, at no rate";
+  }
+  const std::string trouble = Without(m_port->Trouble(), m_candidate.Endpoint + ": ");
+  const std::string why = trouble.substr(0, trouble.find(", next try"));
+  if (why.empty()) {
+    return "nothing comes";
+  }
+  return why == "connecting" || why == "no answer" ? "the host does not answer" : why;
+}
+
+void Listener::End(std::string why) {
+  m_why = std::move(why);
+  Close();
+}
+
+void Listener::Close() {
+  m_over = true;
+  m_connection = {};
+  if (m_port) {
+    m_port->PortOpen(false);
+  }
+}
+
+void Listener::OnComm(int commEvent) {
+  if (commEvent != CommEvent::kReceive) {
+    return;
+  }
+  m_port->Input(m_input);
+  if (Searching() && !m_input.empty()) {
+    m_rate = m_port->BaudRate();
+    m_begun = m_clock.Now().Steady;
+  }
+  m_framer.Feed(
+      m_input, [this](std::string_view line) { Take(line); },
+      [this](std::string_view line) { Hear(line, LineFault::Sentence); });
+}
+
+void Listener::Take(std::string_view line) {
+  switch (line.starts_with('!') ? Frame::Good : CheckFrame(line)) {
+    case Frame::NoDollar:
+      return Hear(line, LineFault::Sentence);
+    case Frame::WrongChecksum:
+      return Hear(line, LineFault::Checksum);
+    case Frame::Good:
+      break;
+  }
+  Hear(line, LineFault::None);
+}
+
+void Listener::Hear(std::string_view line, LineFault fault) {
+  const Moment now = m_clock.Now();
+  m_heard.Take(line, fault, now);
+  const bool good = fault == LineFault::None || fault == LineFault::Decode;
+  if (good && line.starts_with('$') && m_line) {
+    m_line(line, now);
+  }
+}
+
+void Listener::OnPortLost() { End("vanished while it was listened to"); }
+
+std::string Listener::LeadsTo() const {
+  std::string text = m_candidate.Endpoint;
+  if (m_rate && text.ends_with(kAutomatic)) {
+    text.replace(text.size() - kAutomatic.size(), kAutomatic.size(), "?baud=" + std::to_string(*m_rate));
+  }
+  return text;
+}
+
+std::string Listener::Says() const {
+  if (!m_why.empty()) {
+    return m_why;
+  }
+  const std::string rate = m_inUse ? "in use now: " : m_rate ? std::to_string(*m_rate) + ": " : "";
+  const std::string words = m_heard.Words(m_clock.Now());
+  if (!words.empty()) {
+    return rate + (Brings() || !m_over ? words : "noise, no sentences");
+  }
+  if (m_over) {
+    return rate + "nothing comes";
+  }
+  if (Searching()) {
+    return "searching the rate, now " + std::to_string(m_port->BaudRate().value_or(0)) + " baud";
+  }
+  return "listening...";
+}
+
+}  // namespace veerwatch

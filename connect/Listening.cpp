@@ -1,0 +1,166 @@
+#include "connect/Listening.h"
+
+#include <algorithm>
+#include <utility>
+#include <variant>
+
+#include "nmea/SentenceTable.h"
+#include "platform/PortNames.h"
+#include "platform/VisibleText.h"
+
+namespace veerwatch {
+
+namespace {
+
+bool Among(const std::vector<Endpoint>& all, const Endpoint& one) {
+  return std::any_of(all.begin(), all.end(), [&one](const Endpoint& each) { return SamePlace(each, one); });
+}
+
+}  // namespace
+
+Listening::Listening(Parts parts, Listener::Line line)
+    : m_parts(std::move(parts)), m_line(std::move(line)), m_told(m_parts.Main.Observers().Join(*this)) {}
+
+std::vector<Endpoint> Listening::EndpointsOf(const std::string& text) const {
+  auto parsed = ParseEndpoints(text, m_parts.Exists);
+  auto* endpoints = std::get_if<std::vector<Endpoint>>(&parsed);
+  return endpoints != nullptr ? std::move(*endpoints) : std::vector<Endpoint>();
+}
+
+void Listening::Begin(const std::vector<Candidate>& candidates) {
+  m_rows.clear();
+  m_input.clear();
+  m_pilot.clear();
+  const HelmNow now = m_parts.Main.Now();
+  const int input = m_parts.Main.m_iNmeaPort;
+  const int pilot = m_parts.Main.m_iPilotPort;
+  if (now.InputStarted && now.InputOpen && !m_parts.Main.m_bSimulate) {
+    const std::string text = PortDevice(m_parts.Store, input);
+    m_input = EndpointsOf(text);
+    m_rows.push_back({std::make_unique<Listener>(
+        Candidate{"Port " + std::to_string(input) + " (" + VisibleText(text) + ")", text}, m_parts.Time,
+        [this](std::string_view line, const Moment& at) { Take(*m_rows.front().Of, line, at); })});
+  }
+  if (pilot != input && now.OutputOpen && !m_parts.Main.m_bSimulate) {
+    m_pilot = EndpointsOf(PortDevice(m_parts.Store, pilot));
+  }
+  Add(candidates);
+}
+
+void Listening::Add(const std::vector<Candidate>& candidates) {
+  for (const Candidate& each : candidates) {
+    const bool known = std::any_of(m_rows.begin(), m_rows.end(), [&each](const Heard& row) {
+      return row.Of->Of().Endpoint == each.Endpoint;
+    });
+    if (!known) {
+      Open(each);
+    }
+  }
+}
+
+void Listening::Open(const Candidate& candidate) {
+  const std::vector<Endpoint> leads = EndpointsOf(candidate.Endpoint);
+  if (!leads.empty() && Among(m_input, leads.front())) {
+    return;  // the port in use now has a row of its own
+  }
+  if (!leads.empty() && Among(m_pilot, leads.front())) {
+    m_rows.push_back(
+        {std::make_unique<Listener>(candidate, m_parts.Time, "in use now: the autopilot's port")});
+    return;
+  }
+  const std::size_t place = m_rows.size();
+  m_rows.push_back({std::make_unique<Listener>(
+      candidate, m_parts.Make, m_parts.Exists, m_parts.Time,
+      [this, place](std::string_view line, const Moment& at) { Take(*m_rows[place].Of, line, at); })});
+}
+
+void Listening::End() {
+  for (Heard& row : m_rows) {
+    row.Of->Close();
+  }
+}
+
+void Listening::OnNmeaLine(std::string_view line, LineFault fault, bool /*used*/) {
+  if (!m_rows.empty() && m_rows.front().Of->InUse()) {
+    m_rows.front().Of->Hear(line, fault);
+  }
+}
+
+void Listening::Take(const Listener& from, std::string_view line, const Moment& now) const {
+  const bool ticked = std::any_of(m_rows.begin(), m_rows.end(),
+                                  [&from](const Heard& row) { return row.Of.get() == &from && row.Ticked; });
+  if (ticked && m_line) {
+    m_line(line, now);
+  }
+}
+
+void Listening::Tick() {
+  for (Heard& row : m_rows) {
+    row.Of->Tick();
+    if (row.Of->Over() && !row.Offered) {
+      row.Offered = true;
+      const Heard* twin = TwinOf(row);
+      row.Ticked = row.Of->Heard().Known() > 0 && (twin == nullptr || !twin->Ticked);
+    }
+  }
+}
+
+const Listening::Heard* Listening::TwinOf(const Heard& row) const {
+  const auto twin = std::find_if(m_rows.begin(), m_rows.end(), [&row](const Heard& each) {
+    return &each != &row && each.Of->Heard().SameAs(row.Of->Heard());
+  });
+  return twin == m_rows.end() ? nullptr : &*twin;
+}
+
+Listening::Row Listening::RowAt(std::size_t index) const {
+  const Heard& row = m_rows[index];
+  const Listener& of = *row.Of;
+  Row shown{of.Of().Name + (of.Rate() ? ", " : ": ") + of.Says(), VisibleText(of.LeadsTo()), of.Brings(),
+            row.Ticked, of.Over()};
+  if (const Heard* twin = TwinOf(row)) {
+    shown.Text += "; the same comes on " + twin->Of->Of().Name + ": tick one of them";
+  }
+  if (of.Brings()) {
+    shown.Details += "\n" + of.Heard().Details(m_parts.Time.Now());
+  }
+  return shown;
+}
+
+void Listening::SetTicked(std::size_t index, bool ticked) {
+  m_rows[index].Ticked = ticked && m_rows[index].Of->Brings();
+  m_rows[index].Offered = true;
+}
+
+bool Listening::Over() const {
+  return std::all_of(m_rows.begin(), m_rows.end(), [](const Heard& row) { return row.Of->Over(); });
+}
+
+std::string Listening::Ticked() const {
+  std::string all;
+  for (const Heard& row : m_rows) {
+    if (row.Ticked) {
+      all += (all.empty() ? "" : ", ") + row.Of->LeadsTo();
+    }
+  }
+  return all;
+}
+
+std::vector<std::string> Listening::ForPilot() const {
+  std::vector<std::string> all;
+  for (const Heard& row : m_rows) {
+    const std::string leads = row.Of->LeadsTo();
+    const std::vector<Endpoint> endpoints = EndpointsOf(leads);
+    if (endpoints.empty()) {
+      continue;
+    }
+    const Endpoint& first = endpoints.front();
+    if (first.What == Endpoint::Kind::Device && first.Baud == 0) {
+      all.push_back(first.Path);  // a pilot that is silent listens at 4800 baud
+    } else if (first.What == Endpoint::Kind::Device || row.Ticked) {
+      all.push_back(leads);
+    }
+  }
+  return all;
+}
+
+}  // namespace veerwatch
