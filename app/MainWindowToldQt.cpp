@@ -211,7 +211,7 @@ void frmMain::ShowSent() {
   m_panel->ShowSent(heading.isEmpty() ? heading : QStringLiteral("Heading ") + heading,
                     m_watch.Of(Watched::Heading).Gone(), Text(m_sent.Text()), m_sent.Late());
   const bool wrong = m_watch.Follow != FollowVerdict::Follows && m_watch.Follow != FollowVerdict::Unknown;
-  m_panel->ShowFollows(m_bSimulate ? QString() : Text(FollowLine(m_watch)), wrong);
+  m_panel->ShowFollows(SimulatesSteady() ? QString() : Text(FollowLine(m_watch)), wrong);
 }
 
 void frmMain::OnTrackSide(TrackSide side) {

@@ -175,6 +175,9 @@ void Watch::Step(const LoopStep& step) {
 void Watch::Simulated(const Moment& now) {
   StandstillUntil(now);
   AddTrueWind(now);
+  if (m_settings.SimulatesBoat()) {
+    m_follow.Heading(m_record.Data().Heading);
+  }
 }
 
 void Watch::AddTrueWind(const Moment& now) {
@@ -240,12 +243,16 @@ void Watch::AgeComputedWind() {
 }
 
 void Watch::LookAtPilot(const Around& around, const Moment& now) {
-  if (!Sends() || m_settings.m_bSimulate) {
+  if (!Sends() || m_settings.SimulatesSteady()) {
     m_follow.Pause();
     m_output.Forget();
     return;
   }
-  m_output.Look(around.OutputOpen, around.Sent, around.BaudRate, now.Steady);
+  if (m_settings.m_bSimulate) {
+    m_output.Forget();
+  } else {
+    m_output.Look(around.OutputOpen, around.Sent, around.BaudRate, now.Steady);
+  }
   const bool compass = m_ages.At(Watched::Compass, now).Fresh();
   const bool takesBearing = m_settings.m_ePilotProfile != PilotProfile::Wind;
   if (!takesBearing || m_output.Lost() || (!compass && !m_ages.At(Watched::Heading, now).Fresh())) {

@@ -15,7 +15,7 @@ Helm::Helm(Settings& settings, SerialPort& nmeaPort, SerialPort& pilotPort, Time
       m_pace(settings),
       m_loop(settings, m_record.Data()),
       m_modes(settings, m_receiver, m_pilot, m_loop, *this),
-      m_simulator(settings, m_record, random),
+      m_simulation(settings, m_record, random),
       m_watch(settings, m_record),
       m_act(settings, m_record, m_watch, m_loop),
       m_functions(settings, m_record, m_watch, m_loop) {}
@@ -107,11 +107,7 @@ void Helm::OnSentence(std::string_view line, const Dispatcher::Outcome& outcome,
 }
 
 void Helm::SimulatorTick() {
-  // The simulated boat has a clock of its own: a tick is a second, however coarse the timer.
-  constexpr std::int64_t kSecond = 1000;  // [ms]
-  m_simulated += kSecond;
-  const Moment now{m_simulated, m_clock.Now().Wall};
-  m_simulator.Tick(now);
+  const Moment now = m_simulation.Tick(m_clock.Now().Wall);
   // Deliberate: no validity is tested.
   const Pass pass = Steer(now);
 
@@ -169,9 +165,10 @@ std::string_view Helm::Send(PilotPace::Says says, const Moment& now) {
   PilotValues values = PilotValuesOf(m_settings.m_fAutoPilot, m_record, m_settings, now);
   m_good = values.Good = says == PilotPace::Says::Bearing;
   const std::string_view sentences = m_pilot.PilotSend(values);
-  if (!sentences.empty() && !m_settings.m_bSimulate) {
+  if (!sentences.empty() && !m_settings.SimulatesSteady()) {
     m_watch.Built(sentences.size(), now);
   }
+  m_simulation.Steer(m_pilot.Latest().Text());
   if (const auto spacing = PilotPace::Spacing(m_settings); spacing && m_pilotTimer != nullptr) {
     m_pilotTimer->Interval(*spacing);
     m_pilotTimer->Enabled(true);
@@ -425,6 +422,7 @@ void Helm::Decide(TurnFate fate) {
 
 void Helm::OnInputStarts() {
   m_watch.Restart();
+  m_simulation.Restart();
   m_record.ForgetChanges();
   m_observers.Tell([](HelmObserver& observer) { observer.OnInputStarts(); });
 }

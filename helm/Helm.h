@@ -15,9 +15,9 @@
 #include "control/WatchAct.h"
 #include "helm/HelmNow.h"
 #include "helm/HelmObserver.h"
+#include "helm/Simulation.h"
 #include "helm/Why.h"
 #include "instruments/InstrumentRecord.h"
-#include "instruments/Simulator.h"
 #include "nmea/NmeaReceiver.h"
 #include "pilot/PilotOutput.h"
 #include "pilot/PilotPace.h"
@@ -89,7 +89,7 @@ class Helm final : private NmeaReceiver::Observer,
   TrackLoop& Loop() { return m_loop; }
   const TrackLoop& Loop() const { return m_loop; }
   TrackModes& Modes() { return m_modes; }
-  Simulator& Boat() { return m_simulator; }
+  Simulator& Boat() { return m_simulation.Steady(); }
   const InstrumentRecord& Record() const { return m_record; }
   const InstrumentData& Data() const { return m_record.Data(); }
 
@@ -163,7 +163,7 @@ class Helm final : private NmeaReceiver::Observer,
   Timer* m_pilotTimer = nullptr;
   TrackLoop m_loop;
   TrackModes m_modes;
-  Simulator m_simulator;
+  Simulation m_simulation;
   Watch m_watch;
   WatchAct m_act;
   WindFunctions m_functions;
@@ -171,7 +171,6 @@ class Helm final : private NmeaReceiver::Observer,
   bool m_good = true;            ///< the latest sentences hold
   Why m_newest;                  ///< why the newest bearing is what it is
   Why m_why;                     ///< the same of the latest one that left
-  std::int64_t m_simulated = 0;  ///< clock of the simulated boat [ms]
   InputState m_inputState = InputState::Stopped;
   OutputState m_outputState = OutputState::None;
   std::string m_inputFailure;

@@ -26,6 +26,9 @@ OptionsForm OptionsFormOf(const Settings& settings) {
   form.PilotPort = std::to_string(settings.m_iPilotPort);
   PilotChoicesShow(settings, form);
   form.Simulate = settings.m_bSimulate;
+  form.SimulateModel = static_cast<int>(settings.m_eSimulateModel);
+  form.SimulatePilot = static_cast<int>(settings.m_eSimulatePilot);
+  form.SimulateSea = static_cast<int>(settings.m_eSimulateSea);
   form.SimulateTime = SimulateTimeFormat(settings.m_fSimulateTime);
   form.TrackAlarm = settings.m_bTrackAlarm;
   form.TrackMethod = static_cast<int>(settings.m_eTrackMethod);

@@ -45,6 +45,9 @@ struct OptionsForm {
 
   // Simulate.
   bool Simulate = false;
+  int SimulateModel = 0;  ///< index in its list, as the enumeration
+  int SimulatePilot = 0;  ///< the same
+  int SimulateSea = 0;    ///< the same
   std::string SimulateBoatSpeed;
   std::string SimulateCompassOffset;
   std::string SimulateNoiseAngle;

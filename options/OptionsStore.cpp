@@ -131,9 +131,17 @@ std::optional<OptionFault> OptionsStore::StorePort(const OptionsForm& form, cons
 }
 
 OptionsStore::Fault OptionsStore::StoreSimulate(const OptionsForm& form) {
-  if (form.Simulate != m_main.m_bSimulate) {
+  const auto model = static_cast<SimulateModel>(form.SimulateModel);
+  const bool another = m_main.m_bSimulate && model != m_main.m_eSimulateModel;
+  const bool restarts = form.Simulate != m_main.m_bSimulate || another;
+  if (restarts) {
     m_main.TrackSetOff();
-    m_main.m_bSimulate = form.Simulate;
+  }
+  m_main.m_bSimulate = form.Simulate;
+  m_main.m_eSimulateModel = model;
+  m_main.m_eSimulatePilot = static_cast<PilotReads>(form.SimulatePilot);
+  m_main.m_eSimulateSea = static_cast<Sea>(form.SimulateSea);
+  if (restarts) {
     m_main.TrackSetSetup();
   }
   if (const Fault fault = StoreBoxes(OptionGroup::SimulateBoat, form)) {

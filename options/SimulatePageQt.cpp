@@ -6,8 +6,12 @@
 #include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <span>
+#include <string_view>
+#include <utility>
 
 #include "platform/NumberText.h"
+#include "settings/SimulateModel.h"
 
 namespace veerwatch {
 
@@ -41,6 +45,11 @@ SimulatePageQt::SimulatePageQt(QWidget* parent)
     : QWidget(parent),
       chkSimulate(new QCheckBox(QStringLiteral("Simu&late Data"), this)),
       frmSimulate(new QGroupBox(QStringLiteral("Data"), this)),
+      cmbSimulateModel(NewList("cmbSimulateModel",
+                               "Steady: lies on the bearing at once. Boat: has a hull, a "
+                               "pilot that reads what is sent, a sea and gusts")),
+      cmbSimulatePilot(NewList("cmbSimulatePilot", "Which sentences the boat's pilot reads")),
+      cmbSimulateSea(NewList("cmbSimulateSea", "The sea that the boat sails in")),
       txtSimulateBoatSpeed(new OptionEntryQt("txtSimulateBoatSpeed", "Boat Speed (Kts)", this)),
       txtSimulateTrueWindAngle(
           new OptionEntryQt("txtSimulateTrueWindAngle", "True Wind Direction (T)", this)),
@@ -70,7 +79,35 @@ SimulatePageQt::SimulatePageQt(QWidget* parent)
   lblSimulateWaypointRng->setText(QStringLiteral("20.0"));
   // A mnemonic then marks the change as a click does.
   connect(chkSimulate, &QCheckBox::pressed, chkSimulate, [this] { chkSimulate->setFocus(); });
+  for (const auto& [list, names] :
+       {std::pair(cmbSimulateModel, std::span<const std::string_view>(kSimulateModels)),
+        std::pair(cmbSimulatePilot, std::span<const std::string_view>(kPilotReadsNames)),
+        std::pair(cmbSimulateSea, std::span<const std::string_view>(kSeaNames))}) {
+    for (const std::string_view name : names) {
+      list->addItem(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    }
+  }
+  connect(cmbSimulateModel, &QComboBox::currentIndexChanged, this, [this] { ShowUsed(); });
   LayOut();
+  ShowUsed();
+}
+
+QComboBox* SimulatePageQt::NewList(const char* name, const char* hint) {
+  auto* list = new QComboBox(frmSimulate);
+  NameControl(*list, name, hint);
+  return list;
+}
+
+void SimulatePageQt::ShowUsed() const {
+  const bool boat = cmbSimulateModel->currentIndex() == static_cast<int>(SimulateModel::Boat);
+  cmbSimulatePilot->setEnabled(boat);
+  cmbSimulateSea->setEnabled(boat);
+}
+
+QHBoxLayout* SimulatePageQt::NewModelRow() {
+  QHBoxLayout* row = Row({cmbSimulateModel, NewCaption("Pilot &Reads", cmbSimulatePilot, this),
+                          cmbSimulatePilot, NewCaption("Sea", cmbSimulateSea, this), cmbSimulateSea});
+  return row;
 }
 
 std::array<QScrollBar*, 2> SimulatePageQt::NewSpinners(const char* name, const char* hint, const char* unit) {
@@ -112,6 +149,8 @@ void SimulatePageQt::LayOut() {
   place(3, 3, "Ti&me", txtSimulateTime, spinning(txtSimulateTime, vscSimulateTime));
   rows->addLayout(Row({lblSimulateWaypointBrg, lblSimulateWaypointRng, NewText("M,nm", this)}), 4, 4);
   rows->addWidget(chkSimulateAutoApply, 5, 4);
+  rows->addWidget(NewCaption("&Kind of Boat", cmbSimulateModel, this), 6, 0);
+  rows->addLayout(NewModelRow(), 6, 1, 1, 5);
   rows->setColumnMinimumWidth(2, kGroupGap);
   rows->setColumnStretch(5, 1);
   auto* page = new QVBoxLayout(this);
@@ -138,11 +177,17 @@ std::vector<BoundEntry> SimulatePageQt::Entries() const {
 void SimulatePageQt::Show(const OptionsForm& form) const {
   frmSimulate->setVisible(form.Simulate);
   chkSimulate->setChecked(form.Simulate);
+  cmbSimulateModel->setCurrentIndex(form.SimulateModel);
+  cmbSimulatePilot->setCurrentIndex(form.SimulatePilot);
+  cmbSimulateSea->setCurrentIndex(form.SimulateSea);
   ShowEntries(Entries(), form);
 }
 
 void SimulatePageQt::Read(OptionsForm& form) const {
   form.Simulate = chkSimulate->isChecked();
+  form.SimulateModel = cmbSimulateModel->currentIndex();
+  form.SimulatePilot = cmbSimulatePilot->currentIndex();
+  form.SimulateSea = cmbSimulateSea->currentIndex();
   ReadEntries(Entries(), form);
 }
 
@@ -170,6 +215,13 @@ void SimulatePageQt::Stepped(const std::function<void()>& time, const std::funct
     const auto index = static_cast<std::size_t>(size);
     OnSpinner(vscSimulateTime[index], txtSimulateTime, size, SimulateTimeStep, time);
     OnSpinner(vscSimulateTrueWindAngle[index], txtSimulateTrueWindAngle, size, SimulateAngleStep, angle);
+  }
+}
+
+void SimulatePageQt::Changed(const std::function<void(QWidget*)>& handler) {
+  connect(chkSimulate, &QCheckBox::toggled, this, [this, handler] { handler(chkSimulate); });
+  for (QComboBox* list : {cmbSimulateModel, cmbSimulatePilot, cmbSimulateSea}) {
+    connect(list, &QComboBox::currentIndexChanged, this, [list, handler] { handler(list); });
   }
 }
 

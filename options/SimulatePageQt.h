@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QScrollBar>
 #include <array>
 #include <functional>
@@ -27,11 +29,17 @@ class SimulatePageQt final : public QWidget {
   /// Whom to tell when the time, or the angle, was stepped with a scroll bar.
   void Stepped(const std::function<void()>& time, const std::function<void()>& angle);
 
+  /// Whom to tell when a tick or a list is changed.
+  void Changed(const std::function<void(QWidget*)>& handler);
+
   /// The boxes whose change leaves something to apply.
   std::array<OptionEntryQt*, 10> Marking() const;
 
   QCheckBox* chkSimulate;
   QGroupBox* frmSimulate;
+  QComboBox* cmbSimulateModel;
+  QComboBox* cmbSimulatePilot;  ///< used with the model Boat
+  QComboBox* cmbSimulateSea;    ///< the same
   OptionEntryQt* txtSimulateBoatSpeed;
   OptionEntryQt* txtSimulateTrueWindAngle;
   std::array<QScrollBar*, 2> vscSimulateTrueWindAngle;  ///< coarse, fine
@@ -55,7 +63,10 @@ class SimulatePageQt final : public QWidget {
   using Step = std::string (*)(std::string_view, SpinnerStep, int);
 
   std::array<QScrollBar*, 2> NewSpinners(const char* name, const char* hint, const char* unit);
+  QComboBox* NewList(const char* name, const char* hint);
   void LayOut();
+  QHBoxLayout* NewModelRow();
+  void ShowUsed() const;
   void OnSpinner(QScrollBar* bar, OptionEntryQt* box, SpinnerStep size, Step step,
                  const std::function<void()>& told);
 };

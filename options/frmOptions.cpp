@@ -132,7 +132,7 @@ void frmOptions::ConnectMarks() {
   }
   connect(m_track->cmbTrackMethod, &QComboBox::currentIndexChanged, this,
           [this] { Mark(m_track->cmbTrackMethod); });
-  connect(m_simulate->chkSimulate, &QCheckBox::toggled, this, [this] { Mark(m_simulate->chkSimulate); });
+  m_simulate->Changed([this](QWidget* control) { Mark(control); });
   m_data->Changed([this](QWidget* control) { Mark(control); });
   m_watch->Changed([this](QWidget* control) { Mark(control); });
   m_pilot->Changed([this](QWidget* control) {

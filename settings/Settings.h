@@ -10,6 +10,7 @@
 #include "settings/AlarmSound.h"
 #include "settings/LineRules.h"
 #include "settings/PilotProfile.h"
+#include "settings/SimulateModel.h"
 #include "settings/TrackMode.h"
 
 namespace veerwatch {
@@ -79,6 +80,14 @@ struct Settings {
   float m_fSimulateWaypointBearing = 5.0F;  ///< bearing of the waypoint at time 0 [deg magnetic]
   float m_fSimulateWaypointRange = 10.0F;   ///< range of the waypoint at time 0 [nm]
   float m_fSimulateTime = 0.0F;             ///< simulated time [h]; not kept in the profile
+  SimulateModel m_eSimulateModel = SimulateModel::Steady;
+  // What SimulateModel::Boat has besides.
+  PilotReads m_eSimulatePilot = PilotReads::All;  ///< the sentences that her pilot reads
+  float m_fSimulatePilotLag = 4.0F;               ///< with which it takes up a bearing [s], at least 0
+  float m_fSimulateGusts = 10.0F;  ///< standard deviation of the wind's speed [% of it], at least 0
+  float m_fSimulateShifts = 4.0F;  ///< standard deviation of the wind's direction [deg], at least 0
+  float m_fSimulateLeeway = 4.0F;  ///< the most that she makes, at 45 degrees [deg], at least 0
+  Sea m_eSimulateSea = Sea::Slight;
 
   // Tracking.
   bool m_bTrackAlarm = true;        ///< alarm on a wind angle that runs away
@@ -130,6 +139,11 @@ struct Settings {
 
   /// Path of the profile file.
   std::string m_sProfileFile;
+
+  /// Whether the simulator sails the boat that is on her bearing at once: nobody can fail to follow.
+  bool SimulatesSteady() const { return m_bSimulate && m_eSimulateModel == SimulateModel::Steady; }
+  /// Whether it sails the one with a pilot that reads what is sent.
+  bool SimulatesBoat() const { return m_bSimulate && m_eSimulateModel == SimulateModel::Boat; }
 };
 
 }  // namespace veerwatch

@@ -1,5 +1,11 @@
 #include "settings/SettingsTable.h"
 
+#include <array>
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
 namespace veerwatch {
 
 namespace {
@@ -21,6 +27,11 @@ constexpr std::int16_t kLastSource = 1;
 constexpr std::int16_t kFirstPort = 1;
 
 using S = Settings;
+
+template <std::size_t Count>
+std::vector<std::string> NamesOf(const std::array<std::string_view, Count>& names) {
+  return {names.begin(), names.end()};
+}
 
 SettingTable<S> Nmea() {
   const char* section = "Nmea";
@@ -74,13 +85,13 @@ SettingTable<S> Nmea() {
 
 SettingTable<S> Pilot() {
   constexpr std::int16_t kMostASecond = 5;
-  const std::vector<std::string> profiles(kPilotProfiles.begin(), kPilotProfiles.end());
   return {
       {"Pilot", "Port", Whole(&S::m_iPilotPort, kFirstPort, INT16_MAX), "",
        "number of the pilot port; the same as the instruments': one port both ways", kOutput},
       {"Pilot", "Bearing", Number(&S::m_fAutoPilot, kBearing), "deg magnetic", "autopilot bearing",
        kMainWindow},
-      {"Pilot", "Profile", Named(&S::m_ePilotProfile, profiles), "", "what the pilot is sent", kOutput},
+      {"Pilot", "Profile", Named(&S::m_ePilotProfile, NamesOf(kPilotProfiles)), "", "what the pilot is sent",
+       kOutput},
       {"Pilot", "Cadence", Whole(&S::m_iPilotCadence, 0, kMostASecond), "a second",
        "how often the bearing is sent, also between two winds; 0: with each wind", kOutput},
       {"Pilot", "Invalid When Lost", Truth(&S::m_bPilotInvalidWhenLost), "",
@@ -127,6 +138,20 @@ SettingTable<S> Simulate() {
        "bearing of the waypoint from where the boat starts", kSimulate},
       {section, "Waypoint Range", Number(&S::m_fSimulateWaypointRange, kAnyNumber), "nm",
        "range of the waypoint from where the boat starts", kSimulate},
+      {section, "Model", Named(&S::m_eSimulateModel, NamesOf(kSimulateModels)), "",
+       "which boat: one that lies on the bearing at once, or one with hull, pilot, sea and gusts", kSimulate},
+      {section, "Pilot", Named(&S::m_eSimulatePilot, NamesOf(kPilotReadsNames)), "",
+       "with the model Boat: the sentences that her pilot reads", kSimulate},
+      {section, "Pilot Lag", Number(&S::m_fSimulatePilotLag, kFromZero), "s",
+       "with the model Boat: time constant with which her pilot takes up a bearing", kProfile},
+      {section, "Gusts", Number(&S::m_fSimulateGusts, kFromZero), "%",
+       "with the model Boat: standard deviation of the wind's speed", kProfile},
+      {section, "Shifts", Number(&S::m_fSimulateShifts, kFromZero), "deg",
+       "with the model Boat: standard deviation of the wind's direction", kProfile},
+      {section, "Leeway", Number(&S::m_fSimulateLeeway, kFromZero), "deg",
+       "with the model Boat: the most leeway, at 45 degrees off the true wind", kProfile},
+      {section, "Sea", Named(&S::m_eSimulateSea, NamesOf(kSeaNames)), "", "with the model Boat: the sea",
+       kSimulate},
   };
 }
 

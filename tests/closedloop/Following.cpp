@@ -10,11 +10,11 @@ namespace veerwatch {
 const std::array<PilotFault, kPilotFaultCount> kPilotFaults{
     {{"follows", FollowVerdict::Follows, nullptr},
      {"in standby", FollowVerdict::DoesNotFollow,
-      [](BoatModel& boat, double course) { boat.PilotStandby(course); }},
+      [](WireBoat& boat, double course) { boat.PilotStandby(course); }},
      {"refuses", FollowVerdict::DoesNotFollow,
-      [](BoatModel& boat, double) { boat.Set().Pilot.Refuses = true; }},
+      [](WireBoat& boat, double) { boat.Set().Pilot.Refuses = true; }},
      {"reversed", FollowVerdict::TurnsAway,
-      [](BoatModel& boat, double) { boat.Set().Pilot.Reversed = true; }}}};
+      [](WireBoat& boat, double) { boat.Set().Pilot.Reversed = true; }}}};
 
 namespace {
 

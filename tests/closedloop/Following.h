@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include "control/PilotFollow.h"
-#include "tests/support/BoatModel.h"
+#include "pilot/WireBoat.h"
 
 namespace veerwatch {
 
@@ -18,7 +18,7 @@ struct PilotFault {
   std::string_view Name;
   FollowVerdict Right;  ///< what has to be said of it
   /// `course`: that the boat was told [deg magnetic]. Null for nothing.
-  void (*Begin)(BoatModel& boat, double course);
+  void (*Begin)(WireBoat& boat, double course);
 };
 
 inline constexpr std::size_t kPilotFaultCount = 4;

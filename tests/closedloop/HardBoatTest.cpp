@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "pilot/WireBoat.h"
 #include "platform/NumberText.h"
-#include "tests/support/BoatModel.h"
 #include "tests/support/Sentences.h"
 
 namespace veerwatch {
@@ -96,7 +96,7 @@ TEST(HardBoat, TurnsSteadilyAsTheRudderAngleAndTheSpeedSay) {
       BoatSettings settings = Circling();
       settings.HullSpeed = hull;
       settings.Rudder->Most = angle;
-      BoatModel boat(settings, 100.0, 1);
+      WireBoat boat(settings, 100.0, 1);
       const double way = boat.State().Speed / 6.0;
       boat.Steer(Apb("270.0"));
       boat.Step(15.0);
@@ -117,7 +117,7 @@ TEST(HardBoat, TakesUpATurnInTheTimeOfTheHullWhichShrinksWithTheSpeed) {
     settings.Rudder->Most = 10.0;
     settings.Rudder->Damping = 0.0;
     settings.Pilot.CompassLag = 0.0;
-    BoatModel boat(settings, 100.0, 1);
+    WireBoat boat(settings, 100.0, 1);
     const double way = boat.State().Speed / 6.0;
     boat.Steer(Apb("270.0"));
     boat.Step(1.5 / way);
@@ -127,7 +127,7 @@ TEST(HardBoat, TakesUpATurnInTheTimeOfTheHullWhichShrinksWithTheSpeed) {
 }
 
 TEST(HardBoat, TheRudderMovesAtItsRateUpToItsLimit) {
-  BoatModel boat(Circling(), 100.0, 1);
+  WireBoat boat(Circling(), 100.0, 1);
   boat.Steer(Apb("270.0"));
   boat.Step(5.0);
   EXPECT_NEAR(boat.State().Rudder, 4.0 * 5.0, 0.21) << "4 degrees a second";
@@ -148,7 +148,7 @@ TEST(HardBoat, AStrongerWindPullsHerToWindward) {
   for (const double side : {1.0, -1.0}) {
     BoatSettings settings = Calm();
     settings.WindFrom = side * 90.0;
-    BoatModel boat(settings, 0.0, 1);
+    WireBoat boat(settings, 0.0, 1);
     boat.Steer(Apb("004.0"));
     boat.Step(300.0);
     EXPECT_LT(side * boat.State().Rudder, -1.0) << "the rudder holds her off";
@@ -166,7 +166,7 @@ TEST(HardBoat, ThePilotSettlesOnTheBearingByItsOwnCompass) {
   for (const double offset : {-3.0, 3.0, 5.0}) {
     BoatSettings settings = Calm();
     settings.Pilot.CompassOffset = offset;
-    BoatModel boat(settings, 100.0, 1);
+    WireBoat boat(settings, 100.0, 1);
     boat.Steer(Apb("120.0"));
     boat.Step(400.0);
     EXPECT_NEAR(boat.State().Compass, 120.0 - offset, 0.05);
@@ -179,7 +179,7 @@ TEST(HardBoat, TheBoatMakesTwoThirdsOfASmallTurnInAboutTheLagOfThePilot) {
     BoatSettings settings = Calm();
     settings.Pilot.BearingLag = lag;
     settings.Pilot.CompassOffset = 0.0;
-    BoatModel boat(settings, 100.0, 1);
+    WireBoat boat(settings, 100.0, 1);
     boat.Step(400.0);
     boat.Steer(Apb("105.0"));
     double seconds = 0.0;
@@ -199,12 +199,12 @@ TEST(HardBoat, ARefusingPilotSteersOnToTheBearingThatItHas) {
     if (!rudder) {
       settings.Rudder.reset();
     }
-    BoatModel boat(settings, 100.0, 1);
+    WireBoat boat(settings, 100.0, 1);
     boat.Set().Pilot.Refuses = true;
     boat.Steer(Apb("130.0"));
     boat.Step(300.0);
     EXPECT_NEAR(boat.State().Compass, 100.0, 0.1);
-    EXPECT_EQ(boat.Pilot().GoodSentences(), 1);
+    EXPECT_EQ(boat.Reader().GoodSentences(), 1);
     boat.Set().Pilot.Refuses = false;
     boat.Steer(Apb("130.0"));
     boat.Step(300.0);
@@ -219,7 +219,7 @@ TEST(HardBoat, AReversedPilotTurnsTheWrongWay) {
     if (!rudder) {
       settings.Rudder.reset();
     }
-    BoatModel boat(settings, 100.0, 1);
+    WireBoat boat(settings, 100.0, 1);
     boat.Steer(Apb("130.0"));
     boat.Step(15.0);
     EXPECT_LT(Between(boat.State().Compass, 100.0), -15.0);
@@ -227,7 +227,7 @@ TEST(HardBoat, AReversedPilotTurnsTheWrongWay) {
 }
 
 TEST(HardBoat, InStandbyTheWheelStaysWhereItWasAndTheBoatWanders) {
-  BoatModel boat(HardBoat(Sea::Slight), 100.0, 5);
+  WireBoat boat(HardBoat(Sea::Slight), 100.0, 5);
   boat.Step(120.0);
   const double rudder = boat.State().Rudder;
   const double heading = boat.State().Heading;
@@ -246,7 +246,7 @@ TEST(HardBoat, InStandbyTheWheelStaysWhereItWasAndTheBoatWanders) {
 }
 
 TEST(HardBoat, AtTheWheelSomebodyKeepsAHeadingAsNearAsTheWindLets) {
-  BoatModel boat(Calm(), 100.0, 1);
+  WireBoat boat(Calm(), 100.0, 1);
   boat.PilotStandby(140.0);
   boat.Step(120.0);
   EXPECT_NEAR(Between(boat.State().Compass, 140.0), 0.0, 8.0);
@@ -254,11 +254,11 @@ TEST(HardBoat, AtTheWheelSomebodyKeepsAHeadingAsNearAsTheWindLets) {
 }
 
 TEST(HardBoat, ThePilotCountsTheBearingsThatAreNew) {
-  BoatModel boat(Calm(), 100.0, 1);
+  WireBoat boat(Calm(), 100.0, 1);
   for (const char* const bearing : {"101.0", "101.0", "102.0", "101.0", "101.0"}) {
     boat.Steer(Apb(bearing));
   }
-  EXPECT_EQ(boat.Pilot().BearingChanges(), 3);
+  EXPECT_EQ(boat.Reader().BearingChanges(), 3);
 }
 
 // The instruments
@@ -267,7 +267,7 @@ TEST(HardBoat, TheApparentWindIsSentAsItWasOneAndAHalfSecondsAgo) {
   BoatSettings settings = Calm();
   settings.Rudder.reset();
   settings.WindPeriod = 0.1;
-  BoatModel boat(settings, 120.0, 1);
+  WireBoat boat(settings, 120.0, 1);
   boat.Step(10.0);
   const double before = boat.State().ApparentAngle;
   boat.Set().WindFrom += 10.0;
@@ -284,7 +284,7 @@ TEST(HardBoat, TheLogLagsByThreeSeconds) {
   settings.Rudder.reset();
   settings.SpeedLag = 0.0;
   settings.OtherPeriod = 0.1;
-  BoatModel boat(settings, 120.0, 1);
+  WireBoat boat(settings, 120.0, 1);
   boat.Step(10.0);
   const double before = boat.State().Speed;
   boat.Set().HullSpeed *= 1.5;
@@ -334,7 +334,7 @@ TEST_P(Seas, YawTheBoatAndSwingTheMasthead) {
   settings.TurnLag = 1e9;  // nobody steers against it
   settings.VaneDelay = 0.0;
   settings.WindPeriod = BoatModel::kTick;
-  BoatModel boat(settings, 120.0, 2);
+  WireBoat boat(settings, 120.0, 2);
   Spread heading;
   Spread ahead;
   Spread right;
@@ -398,7 +398,7 @@ double ChangeOver(const std::vector<double>& values, std::size_t seconds) {
 TEST(HardBoat, TheWindTurnsAndBlowsAboutAsMuchAsRecorded) {
   BoatSettings settings = HardBoat(Sea::Flat);
   settings.HeadingPeriod = settings.WindPeriod = settings.OtherPeriod = 1e6;
-  BoatModel boat(settings, 100.0, 8);
+  WireBoat boat(settings, 100.0, 8);
   boat.Step(300.0);
   std::vector<double> turned;
   std::vector<double> parts;
@@ -425,7 +425,7 @@ TEST(HardBoat, ASwingHasNoCorners) {
   BoatSettings settings = Calm();
   settings.SwingDeviation = 7.0;
   settings.HeadingPeriod = settings.WindPeriod = settings.OtherPeriod = 1e6;
-  BoatModel boat(settings, 100.0, 3);
+  WireBoat boat(settings, 100.0, 3);
   boat.Step(300.0);
   std::vector<double> turned;
   for (int second = 0; second < 3600; ++second) {
@@ -440,9 +440,9 @@ TEST(HardBoat, ASwingHasNoCorners) {
 // All of it
 
 TEST(HardBoat, TheSameSeedSailsTheSameWay) {
-  BoatModel one(HardBoat(Sea::Head), 155.0, 11);
-  BoatModel two(HardBoat(Sea::Head), 155.0, 11);
-  BoatModel other(HardBoat(Sea::Head), 155.0, 12);
+  WireBoat one(HardBoat(Sea::Head), 155.0, 11);
+  WireBoat two(HardBoat(Sea::Head), 155.0, 11);
+  WireBoat other(HardBoat(Sea::Head), 155.0, 12);
   const std::string first = one.Step(60.0);
   std::string second;
   for (int i = 0; i < 900; ++i) {
@@ -455,8 +455,8 @@ TEST(HardBoat, TheSameSeedSailsTheSameWay) {
 TEST(HardBoat, AnotherSeedIsAnotherSea) {
   BoatSettings settings = Calm();
   settings.Sea = SeaOf(Sea::Head);
-  BoatModel one(settings, 155.0, 11);
-  BoatModel other(settings, 155.0, 12);
+  WireBoat one(settings, 155.0, 11);
+  WireBoat other(settings, 155.0, 12);
   one.Step(60.0);
   other.Step(60.0);
   EXPECT_NE(one.State().Heading, other.State().Heading);

@@ -38,7 +38,7 @@ double CourseOf(const BoatSettings& boat, TrackSide side, double angle) {
   double most = 180.0;
   while (most - least > 0.01) {
     const double off = (least + most) / 2.0;
-    const BoatState state = BoatModel(calm, intoTheWind - off, 1).State();
+    const BoatState state = WireBoat(calm, intoTheWind - off, 1).State();
     const double has = side == TrackSide::Apparent ? state.ApparentAngle : state.TrueAngle;
     (has < angle ? least : most) = off;
   }
@@ -101,13 +101,13 @@ class Held {
 
   HoldResult Result() {
     const double travel = m_passage.Boat.State().RudderTravel;
-    const int changes = m_passage.Boat.Pilot().BearingChanges();
+    const int changes = m_passage.Boat.Reader().BearingChanges();
     m_passage.Sail(kCounts, [this] { Add(Error()); });
     const double mean = m_sum / m_count;
     const double minutes = kCounts / kMinute;
     return {mean, std::sqrt(std::max(0.0, m_squares / m_count - mean * mean)), m_most,
             (m_passage.Boat.State().RudderTravel - travel) / minutes,
-            (m_passage.Boat.Pilot().BearingChanges() - changes) / minutes};
+            (m_passage.Boat.Reader().BearingChanges() - changes) / minutes};
   }
 
   UpsetResult Standby(double off) {

@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
+#include "pilot/WireBoat.h"
 #include "settings/Settings.h"
 #include "settings/TrackMode.h"
-#include "tests/support/BoatModel.h"
 
 namespace veerwatch {
 

@@ -5,8 +5,8 @@
 #include <functional>
 
 #include "helm/Helm.h"
+#include "pilot/WireBoat.h"
 #include "tests/closedloop/Wire.h"
-#include "tests/support/BoatModel.h"
 #include "tests/support/FixedRandom.h"
 #include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"
@@ -37,7 +37,7 @@ class Passage {
   const Clock& Time() const { return m_clock; }
 
   Settings Set;
-  BoatModel Boat;
+  WireBoat Boat;
   Wire Input;
   ScriptedPort NmeaPort;
   ScriptedPort PilotPort;

@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <functional>
 
+#include "pilot/WireBoat.h"
 #include "settings/Settings.h"
 #include "settings/TrackMode.h"
 #include "tests/closedloop/Wire.h"
-#include "tests/support/BoatModel.h"
 
 namespace veerwatch {
 

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "pilot/WireBoat.h"
 #include "settings/TrackMode.h"
 #include "tack/TurnPlan.h"
 #include "tests/closedloop/Holding.h"
-#include "tests/support/BoatModel.h"
 
 namespace veerwatch {
 

@@ -12,8 +12,8 @@
 #include <string_view>
 #include <vector>
 
+#include "pilot/WireBoat.h"
 #include "tests/e2e/Process.h"
-#include "tests/support/BoatModel.h"
 #include "tests/support/Pty.h"
 #include "tests/support/TemporaryFolder.h"
 
@@ -64,7 +64,7 @@ class FaultRun {
 
   // For Fault::Begins and Fault::Ends.
 
-  BoatModel& Boat() { return m_boat; }
+  WireBoat& Boat() { return m_boat; }
   /// The plugs are pulled, and put in again.
   void PullInput() { Pull("in", *m_in); }
   void PullOutput() { Pull("out", *m_out); }
@@ -98,7 +98,7 @@ class FaultRun {
   /// How far the boat's wind angle was off the held one while the fault lasted, at most [deg].
   double Off() const { return m_off; }
   /// Whatever was no whole and good sentence.
-  int BadSentences() const { return m_boat.Pilot().BadSentences(); }
+  int BadSentences() const { return m_boat.Reader().BadSentences(); }
   bool Runs() { return m_program.Runs(); }
   const Fault& Of() const { return m_fault; }
 
@@ -119,7 +119,7 @@ class FaultRun {
   std::string Profile() const;
 
   const Fault& m_fault;
-  BoatModel m_boat;
+  WireBoat m_boat;
   std::unique_ptr<Pty> m_in = std::make_unique<Pty>();
   std::unique_ptr<Pty> m_out = std::make_unique<Pty>();
   TemporaryFolder m_links;  ///< the devices under names that outlive them

@@ -4,8 +4,8 @@
 #include <random>
 #include <utility>
 
+#include "nmea/Encode.h"
 #include "tests/e2e/RealPorts.h"
-#include "tests/support/Encode.h"
 
 namespace veerwatch {
 

@@ -86,6 +86,13 @@ constexpr Key kKeys[] = {{"Nmea", "Boat Speed", "1", "0"},
                          {"Simulate", "Variation", "11", "-7.5"},
                          {"Simulate", "Waypoint Bearing", "5", "99.5"},
                          {"Simulate", "Waypoint Range", "10", "33.5"},
+                         {"Simulate", "Model", "Steady", "Boat"},
+                         {"Simulate", "Pilot", "All", "HSC"},
+                         {"Simulate", "Pilot Lag", "4", "2.5"},
+                         {"Simulate", "Gusts", "10", "20"},
+                         {"Simulate", "Shifts", "4", "7.5"},
+                         {"Simulate", "Leeway", "4", "3"},
+                         {"Simulate", "Sea", "Slight", "Head"},
                          {"Track", "Alarm", "True", "False"},
                          {"Track", "Alarm Limit", "5", "7.5"},
                          {"Track", "Bandwidth", "20", "25.5"},
@@ -238,7 +245,7 @@ TEST(SettingsProfile, TheSimulatedTimeAndTheModeAreNotKept) {
   ProfileWrite(profile, settings, Windows{});
   EXPECT_EQ(profile.Content().find("3.25"), std::string::npos);
   EXPECT_EQ(profile.Content().find("Time"), std::string::npos);
-  EXPECT_EQ(profile.Content().find("Mode"), std::string::npos);
+  EXPECT_EQ(profile.Content().find("Mode="), std::string::npos);
 }
 
 TEST(SettingsProfile, ADampingBelowZeroIsRead) {
@@ -343,7 +350,8 @@ TEST(SettingsProfile, AFreshProfileHasEveryKeyInItsOrder) {
       "Own APB=True\nOwn RMB=False\nOwn HSC=False\nOwn XTE=False\nOwn BWC=False\n\n"
       "[Simulate]\nNmea=False\nBoat Speed=8\nCompass Offset=10\nNoise Angle=4\nNoise Speed=2\n"
       "True Wind Angle=0\nTrue Wind Speed=12\nVariation=11\nWaypoint Bearing=5\n"
-      "Waypoint Range=10\n\n"
+      "Waypoint Range=10\nModel=Steady\nPilot=All\nPilot Lag=4\nGusts=10\nShifts=4\nLeeway=4\n"
+      "Sea=Slight\n\n"
       "[Track]\nAlarm=True\nAlarm Limit=5\nBandwidth=20\nDamping=4\nDesired 1=45\n"
       "Desired 2=92\nMax SteerTo=10\nMethod=Sentence\nMax Ahead=30\nMax Rate=3\nAlarm Average=0\n\n"
       "[Watch]\nAct=False\nKeep Sending=False\nHeading Up=False\nSound=Beep\nAlarm Command=\nBlank "

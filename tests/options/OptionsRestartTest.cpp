@@ -82,6 +82,21 @@ TEST_F(OptionsRestarting, TheSimulatorIsSwitchedBetweenOffAndSetup) {
   EXPECT_TRUE(Main.m_bSimulate);
 }
 
+TEST_F(OptionsRestarting, AnotherBoatIsBegunBetweenOffAndSetupWhileSheSails) {
+  OptionsForm form = OptionsFormOf(Main);
+  form.SimulateModel = 1;
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.Calls, IsEmpty()) << "nothing is simulated";
+  EXPECT_EQ(Main.m_eSimulateModel, SimulateModel::Boat);
+  Main.m_bSimulate = form.Simulate = true;
+  form.SimulateModel = 0;
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.Calls, ElementsAre("Off 5 5 simulating", "Setup 5 5 simulating"));
+  Main.Calls.clear();
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.Calls, IsEmpty());
+}
+
 TEST_F(OptionsRestarting, ATimeThatDiffersMovesTheBoat) {
   OptionsForm form = OptionsFormOf(Main);
   form.SimulateTime = "1:30";

@@ -40,6 +40,9 @@ OptionsForm OtherForm() {
   form.PilotOwnPoint = "WP7";
   form.PilotOwnSends = {true, true, false, false, true};
   form.Simulate = true;
+  form.SimulateModel = 1;
+  form.SimulatePilot = 3;
+  form.SimulateSea = 4;
   form.SimulateBoatSpeed = "6.5";
   form.SimulateCompassOffset = "-2";
   form.SimulateNoiseAngle = "1.5";
@@ -86,7 +89,9 @@ class OptionsStoring : public testing::Test {
   bool InputStored() const { return Main.m_iNmeaPort == 7; }
   bool OutputStored() const { return Main.m_iPilotPort == 8; }
   bool SimulateStored() const {
-    return Main.m_bSimulate && Main.m_fSimulateBoatSpeed == 6.5F && Main.m_fSimulateCompassOffset == -2.0F &&
+    return Main.m_bSimulate && Main.m_eSimulateModel == SimulateModel::Boat &&
+           Main.m_eSimulatePilot == PilotReads::Hsc && Main.m_eSimulateSea == Sea::Head &&
+           Main.m_fSimulateBoatSpeed == 6.5F && Main.m_fSimulateCompassOffset == -2.0F &&
            Main.m_fSimulateNoiseAngle == 1.5F && Main.m_fSimulateNoiseSpeed == 0.5F &&
            Main.m_fSimulateTime == 2.25F && Main.m_fSimulateTrueWindAngle == 215.0F &&
            Main.m_fSimulateTrueWindSpeed == 17.5F && Main.m_fSimulateVariation == -3.0F &&

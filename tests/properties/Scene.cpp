@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "helm/Helm.h"
+#include "nmea/Encode.h"
 #include "platform/NumberText.h"
 #include "tests/properties/Dice.h"
-#include "tests/support/Encode.h"
 #include "tests/support/FixedRandom.h"
 #include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "helm/Helm.h"
+#include "nmea/Encode.h"
 #include "nmea/Hdg.h"
 #include "nmea/Hvm.h"
 #include "nmea/Mwv.h"
@@ -16,9 +17,8 @@
 #include "nmea/Vhw.h"
 #include "pilot/PilotForm.h"
 #include "pilot/PilotSentences.h"
+#include "pilot/WireBoat.h"
 #include "platform/Random.h"
-#include "tests/support/BoatModel.h"
-#include "tests/support/Encode.h"
 #include "tests/support/FixedRandom.h"
 #include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"
@@ -196,7 +196,7 @@ TEST_F(AnySentence, EveryTypeReachesTheRecord) {
 }
 
 TEST_F(AnySentence, TheAutopilotSentenceIsReadAsItWasSent) {
-  BoatModel boat(BoatSettings{}, 0.0, 1);
+  WireBoat boat(BoatSettings{}, 0.0, 1);
   PilotSentences sentences;
   const Settings settings;
   const PilotForm form = PilotFormOf(settings);
@@ -207,10 +207,10 @@ TEST_F(AnySentence, TheAutopilotSentenceIsReadAsItWasSent) {
     const std::string sentence(sentences.Bundle().Sentence(0));
     ASSERT_EQ(CheckFrame(sentence), Frame::Good);
     boat.Steer(sentence + "\r\n");
-    ASSERT_EQ(boat.Pilot().GoodSentences(), tenths + 1) << sentence;
+    ASSERT_EQ(boat.Reader().GoodSentences(), tenths + 1) << sentence;
     ASSERT_NEAR(boat.Pilot().Bearing(), tenths / 10.0, 1e-9) << sentence;
   }
-  EXPECT_EQ(boat.Pilot().BadSentences(), 0);
+  EXPECT_EQ(boat.Reader().BadSentences(), 0);
 }
 
 TEST_F(AnySentence, OneCharacterChangedIsFoundByTheChecksum) {

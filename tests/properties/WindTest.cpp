@@ -7,9 +7,9 @@
 
 #include "helm/Helm.h"
 #include "instruments/MathLib.h"
+#include "pilot/WireBoat.h"
 #include "platform/NumberText.h"
 #include "platform/Random.h"
-#include "tests/support/BoatModel.h"
 #include "tests/support/FixedRandom.h"
 #include "tests/support/HandClock.h"
 #include "tests/support/HandTimer.h"
@@ -122,7 +122,7 @@ TEST_F(AnyWindOnTheWire, TheRecordAgreesWithTheBoatThatMakesNoLeeway) {
     settings.Leeway = 0.0;
     settings.WindFrom = 360.0 * random.Next();
     settings.WindSpeed = 4.0 + 30.0 * random.Next();
-    BoatModel boat(settings, 360.0 * random.Next(), 1);
+    WireBoat boat(settings, 360.0 * random.Next(), 1);
     m_port.Receive(boat.Step(1.0));
     const InstrumentData& data = m_helm.Data();
     // The sentences have one decimal in angle and speed of the wind, two in that of the boat.

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "tests/support/BoatModel.h"
+#include "pilot/WireBoat.h"
 #include "tests/support/Pty.h"
 
 namespace veerwatch {
@@ -13,7 +13,7 @@ class Wire {
  public:
   const std::string& Instruments() const { return m_instruments.Device(); }
   const std::string& Pilot() const { return m_pilot.Device(); }
-  const BoatModel& Boat() const { return m_boat; }
+  const WireBoat& Boat() const { return m_boat; }
 
   /// Lets the boat sail on, and gives her pilot what the program sent.
   void Sail(double seconds) {
@@ -38,7 +38,7 @@ class Wire {
 
   Pty m_instruments;
   Pty m_pilot;
-  BoatModel m_boat{GustyBoat(), 280.0, 1};
+  WireBoat m_boat{GustyBoat(), 280.0, 1};
   std::string m_waiting;
   std::size_t m_winds = 0;
 };

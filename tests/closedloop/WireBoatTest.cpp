@@ -1,4 +1,4 @@
-#include "tests/support/BoatModel.h"
+#include "pilot/WireBoat.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -30,25 +30,25 @@ BoatSettings WithoutDeviation() {
   return settings;
 }
 
-TEST(BoatModel, HoldsItsHeadingUntilItIsTold) {
-  BoatModel boat(BoatSettings{}, 123.0, 1);
+TEST(WireBoat, HoldsItsHeadingUntilItIsTold) {
+  WireBoat boat(BoatSettings{}, 123.0, 1);
   boat.Step(600.0);
   EXPECT_NEAR(boat.State().Compass, 123.0, 1e-6);
 }
 
-TEST(BoatModel, TurnsAsASystemOfFirstOrderWithTheLagOfTheRudder) {
+TEST(WireBoat, TurnsAsASystemOfFirstOrderWithTheLagOfTheRudder) {
   BoatSettings settings = WithoutDeviation();
   settings.TurnLag = 5.0;
   settings.RudderLag = 0.0;
   settings.TurnRate = 100.0;
-  BoatModel boat(settings, 350.0, 1);
+  WireBoat boat(settings, 350.0, 1);
   boat.Steer(Apb("010.0"));
   boat.Step(5.0);
   // What is missing after one time constant is a part of 1 / e.
   EXPECT_NEAR(Between(10.0, boat.State().Heading), 20.0 / std::numbers::e, 0.15);
 
   settings.RudderLag = 2.0;
-  BoatModel lagging(settings, 350.0, 1);
+  WireBoat lagging(settings, 350.0, 1);
   lagging.Steer(Apb("010.0"));
   lagging.Step(5.0);
   EXPECT_GT(Between(10.0, lagging.State().Heading), 20.0 / std::numbers::e + 1.0);
@@ -56,10 +56,10 @@ TEST(BoatModel, TurnsAsASystemOfFirstOrderWithTheLagOfTheRudder) {
   EXPECT_NEAR(Between(10.0, lagging.State().Heading), 0.0, 0.01);
 }
 
-TEST(BoatModel, TurnsTheShorterWayAndNoFasterThanItCan) {
+TEST(WireBoat, TurnsTheShorterWayAndNoFasterThanItCan) {
   BoatSettings settings = WithoutDeviation();
   settings.TurnRate = 3.0;
-  BoatModel boat(settings, 200.0, 1);
+  WireBoat boat(settings, 200.0, 1);
   boat.Steer(Apb("080.0"));
   double last = boat.State().Heading;
   for (int i = 0; i < 100; ++i) {
@@ -70,11 +70,11 @@ TEST(BoatModel, TurnsTheShorterWayAndNoFasterThanItCan) {
   EXPECT_NEAR(boat.State().Heading, 200.0 - 3.0 * 10.0, 2.0) << "less what the rudder took to lie";
 }
 
-TEST(BoatModel, TheApparentWindIsTheSumOfTheTrueWindAndTheWay) {
+TEST(WireBoat, TheApparentWindIsTheSumOfTheTrueWindAndTheWay) {
   BoatSettings settings = WithoutDeviation();
   settings.WindFrom = 90.0;
   settings.Leeway = 0.0;
-  BoatModel boat(settings, 0.0, 1);
+  WireBoat boat(settings, 0.0, 1);
   const double way = boat.State().Speed;
   // The wind abeam and the way ahead are the sides of a right angle.
   EXPECT_NEAR(boat.State().ApparentSpeed, std::sqrt(12.0 * 12.0 + way * way), 1e-9);
@@ -82,34 +82,34 @@ TEST(BoatModel, TheApparentWindIsTheSumOfTheTrueWindAndTheWay) {
   EXPECT_NEAR(boat.State().TrueAngle, 90.0, 1e-9);
 
   settings.WindFrom = 270.0;
-  BoatModel mirrored(settings, 0.0, 1);
+  WireBoat mirrored(settings, 0.0, 1);
   EXPECT_NEAR(mirrored.State().ApparentAngle, -boat.State().ApparentAngle, 1e-9);
 }
 
-TEST(BoatModel, LeewayAndCurrentPushTheCourseAndNotTheHeading) {
+TEST(WireBoat, LeewayAndCurrentPushTheCourseAndNotTheHeading) {
   BoatSettings settings = WithoutDeviation();
   settings.WindFrom = 45.0;
-  BoatModel boat(settings, 0.0, 1);
+  WireBoat boat(settings, 0.0, 1);
   EXPECT_NEAR(Between(boat.State().Course, 0.0), -4.0, 1e-6) << "away from a wind from starboard";
   settings.Leeway = 0.0;
   settings.CurrentTo = 90.0;
   settings.CurrentSpeed = boat.State().Speed;
-  BoatModel drifting(settings, 0.0, 1);
+  WireBoat drifting(settings, 0.0, 1);
   EXPECT_GT(Between(drifting.State().Course, 0.0), 40.0);
   EXPECT_NEAR(drifting.State().Heading, 0.0, 1e-9);
 }
 
-TEST(BoatModel, TheCompassIsOffByVariationAndDeviation) {
+TEST(WireBoat, TheCompassIsOffByVariationAndDeviation) {
   BoatSettings settings;
   settings.Variation = 10.0;
   settings.Deviation = 3.0;
-  BoatModel boat(settings, 77.0, 1);
+  WireBoat boat(settings, 77.0, 1);
   EXPECT_NEAR(Between(boat.State().Heading, 77.0 + 10.0), 3.0, 0.01) << "on about east";
 }
 
-TEST(BoatModel, GustsAndShiftsHaveTheirMeanAndDeviation) {
+TEST(WireBoat, GustsAndShiftsHaveTheirMeanAndDeviation) {
   BoatSettings settings = GustyBoat();
-  BoatModel boat(settings, 155.0, 7);
+  WireBoat boat(settings, 155.0, 7);
   double sum = 0.0;
   double squares = 0.0;
   double shifts = 0.0;
@@ -126,10 +126,10 @@ TEST(BoatModel, GustsAndShiftsHaveTheirMeanAndDeviation) {
   EXPECT_NEAR(std::sqrt(shifts / seconds), 4.0, 0.5);
 }
 
-TEST(BoatModel, EveryLineIsAWholeSentenceThatADecoderKnows) {
+TEST(WireBoat, EveryLineIsAWholeSentenceThatADecoderKnows) {
   BoatSettings settings = GustyBoat();
   settings.TrueWindSensor = true;
-  BoatModel boat(settings, 155.0, 3);
+  WireBoat boat(settings, 155.0, 3);
   LineFramer framer;
   int lines = 0;
   framer.Feed(
@@ -148,10 +148,10 @@ TEST(BoatModel, EveryLineIsAWholeSentenceThatADecoderKnows) {
   EXPECT_TRUE(framer.LineBuffer().empty());
 }
 
-TEST(BoatModel, TheSameSeedSailsTheSameWayInStepsOfAnyLength) {
-  BoatModel one(GustyBoat(), 155.0, 11);
-  BoatModel two(GustyBoat(), 155.0, 11);
-  BoatModel other(GustyBoat(), 155.0, 12);
+TEST(WireBoat, TheSameSeedSailsTheSameWayInStepsOfAnyLength) {
+  WireBoat one(GustyBoat(), 155.0, 11);
+  WireBoat two(GustyBoat(), 155.0, 11);
+  WireBoat other(GustyBoat(), 155.0, 12);
   std::string first;
   std::string second;
   for (int i = 0; i < 30; ++i) {
@@ -164,8 +164,8 @@ TEST(BoatModel, TheSameSeedSailsTheSameWayInStepsOfAnyLength) {
   EXPECT_NE(first, other.Step(30.0));
 }
 
-TEST(BoatModel, ThePilotTakesWholeGoodSentencesInPiecesAndNothingElse) {
-  BoatModel boat(BoatSettings{}, 10.0, 1);
+TEST(WireBoat, ThePilotTakesWholeGoodSentencesInPiecesAndNothingElse) {
+  WireBoat boat(BoatSettings{}, 10.0, 1);
   const std::string good = Apb("245.5");
   boat.Steer(good.substr(0, 20));
   EXPECT_EQ(boat.Pilot().Bearing(), 10.0);
@@ -176,12 +176,12 @@ TEST(BoatModel, ThePilotTakesWholeGoodSentencesInPiecesAndNothingElse) {
   boat.Steer(damaged);
   boat.Steer("\r\n$\r\nnoise\r\n" + WithChecksum("$ECAPB,A,A") + "\r\n");
   EXPECT_EQ(boat.Pilot().Bearing(), 245.5);
-  EXPECT_EQ(boat.Pilot().GoodSentences(), 1);
-  EXPECT_EQ(boat.Pilot().BadSentences(), 5);
+  EXPECT_EQ(boat.Reader().GoodSentences(), 1);
+  EXPECT_EQ(boat.Reader().BadSentences(), 5);
 }
 
-TEST(BoatModel, InStandbySomebodyAtTheWheelKeepsAHeading) {
-  BoatModel boat(BoatSettings{}, 10.0, 1);
+TEST(WireBoat, InStandbySomebodyAtTheWheelKeepsAHeading) {
+  WireBoat boat(BoatSettings{}, 10.0, 1);
   boat.PilotStandby(40.0);
   boat.Steer(Apb("300.0"));
   boat.Step(120.0);

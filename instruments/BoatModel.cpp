@@ -1,7 +1,6 @@
-#include "tests/support/BoatModel.h"
+#include "instruments/BoatModel.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <numbers>
 
@@ -82,21 +81,6 @@ EarthPlace Moved(const EarthPlace& from, const Vector& way) {
           from.Longitude + way.East / kMilesPerDegree / std::cos(from.Latitude * kRadian)};
 }
 
-UtcMoment MomentAt(double seconds) {
-  using namespace std::chrono;
-  const auto whole = duration_cast<std::chrono::seconds>(duration<double>(seconds));
-  const sys_seconds now = sys_days{year{2026} / January / 1} + hours{9} + whole;
-  const auto midnight = floor<days>(now);
-  const year_month_day date{midnight};
-  const hh_mm_ss time{now - midnight};
-  return {static_cast<int>(time.hours().count()),
-          static_cast<int>(time.minutes().count()),
-          static_cast<int>(time.seconds().count()),
-          static_cast<int>(static_cast<unsigned>(date.day())),
-          static_cast<int>(static_cast<unsigned>(date.month())),
-          static_cast<int>(date.year()) % 100};
-}
-
 }  // namespace
 
 BoatSettings GustyBoat() {
@@ -131,7 +115,8 @@ BoatModel::BoatModel(const BoatSettings& settings, double heading, std::uint64_t
   m_keel = HeadingAt(settings, heading);
   m_state.Heading = m_keel;
   m_state.Compass = CompassAt(settings, m_keel);
-  m_waypoint = Moved(m_state.Place, Towards(m_keel, 10.0));
+  constexpr double kWaypointAhead = 10.0;  // [nm]
+  PutWaypoint(m_keel, kWaypointAhead);
   MoveWind();
   const double angle = Turn180(m_state.WindFrom - m_keel);
   m_state.Speed = PolarSpeed(settings, angle, m_state.WindSpeed);
@@ -141,18 +126,7 @@ BoatModel::BoatModel(const BoatSettings& settings, double heading, std::uint64_t
   m_log = m_state.Speed;
 }
 
-std::string BoatModel::Step(double seconds) {
-  m_sent.clear();
-  m_waiting += seconds;
-  constexpr double kAlmost = 1e-9;
-  while (m_waiting >= kTick - kAlmost) {
-    m_waiting -= kTick;
-    Tick();
-  }
-  return m_sent;
-}
-
-void BoatModel::Tick() {
+const BoatReadings& BoatModel::Tick() {
   ++m_ticks;
   m_state.Seconds = static_cast<double>(m_ticks) * kTick;
   MoveWind();
@@ -161,7 +135,8 @@ void BoatModel::Tick() {
   Move();
   ReadVane();
   m_log = m_state.Speed + (m_log - m_state.Speed) * Remains(m_settings.LogLag);
-  Send();
+  Read();
+  return m_readings;
 }
 
 double BoatModel::Gauss() {
@@ -284,45 +259,53 @@ void BoatModel::ReadVane() {
       m_state.ApparentSpeed * std::sin(m_state.ApparentAngle * kRadian) + masthead * m_sea.RollRate;
   const double remains = Remains(m_settings.VaneLag);
   m_vane = {ahead + (m_vane.Ahead - ahead) * remains, right + (m_vane.Right - right) * remains};
-  m_vaneLate.push_back(m_vane);
-  const auto late = static_cast<std::size_t>(std::llround(m_settings.VaneDelay / kTick));
-  while (m_vaneLate.size() > late + 1) {
-    m_vaneLate.pop_front();
+  m_vaneLate[m_vaneRead % kVaneKept] = m_vane;
+  ++m_vaneRead;
+}
+
+bool BoatModel::Due(double period) const {
+  const auto ticks = std::max<std::int64_t>(1, std::llround(period / kTick));
+  return m_ticks % ticks == 0;
+}
+
+double BoatModel::Noisy(double knots) { return std::max(0.0, knots + m_settings.SpeedNoise * Gauss()); }
+
+void BoatModel::Read() {
+  m_readings.HeadingDue = Due(m_settings.HeadingPeriod);
+  m_readings.OtherDue = Due(m_settings.OtherPeriod);
+  m_readings.WindDue = Due(m_settings.WindPeriod);
+  if (m_readings.HeadingDue || m_readings.OtherDue) {
+    m_readings.Compass = m_state.Compass;
+  }
+  if (m_readings.OtherDue) {
+    m_readings.Speed = Noisy(m_log);
+    m_readings.GroundSpeed = Noisy(m_state.SpeedOverGround);
+  }
+  if (m_readings.WindDue) {
+    ReadWind();
   }
 }
 
-void BoatModel::Send() {
-  const auto due = [this](double period) {
-    const auto ticks = std::max<std::int64_t>(1, std::llround(period / kTick));
-    return m_ticks % ticks == 0;
-  };
-  const auto speed = [this](double knots) { return std::max(0.0, knots + m_settings.SpeedNoise * Gauss()); };
-  if (due(m_settings.HeadingPeriod)) {
-    Line(EncodeHdg(m_state.Compass, m_settings.Variation));
-  }
-  if (due(m_settings.OtherPeriod)) {
-    Line(EncodeVhw(m_state.Compass + m_settings.Variation, m_state.Compass, speed(m_log)));
-    const double ground = speed(m_state.SpeedOverGround);
-    Line(EncodeRmc(MomentAt(m_state.Seconds), m_state.Place, ground, m_state.Course, m_settings.Variation));
-    Line(EncodeVtg(m_state.Course, m_state.Course - m_settings.Variation, ground));
-    Line(EncodeHvm(m_settings.Variation));
-    SendWaypoint();
-  }
-  if (due(m_settings.WindPeriod)) {
-    const VaneWind& wind = m_vaneLate.front();
-    const double apparent = std::atan2(wind.Right, wind.Ahead) / kRadian + m_settings.VaneNoise * Gauss();
-    Line(EncodeMwv(apparent, 'R', speed(std::hypot(wind.Ahead, wind.Right))));
-    if (m_settings.TrueWindSensor) {
-      const double trueAngle = m_state.TrueAngle + m_settings.VaneNoise * Gauss();
-      Line(EncodeMwv(trueAngle, 'T', speed(m_state.TrueSpeed)));
-    }
+void BoatModel::ReadWind() {
+  const auto asked = static_cast<std::size_t>(std::max(0LL, std::llround(m_settings.VaneDelay / kTick)));
+  const std::size_t late = std::min({asked, kVaneKept - 1, m_vaneRead - 1});
+  const VaneWind& wind = m_vaneLate[(m_vaneRead - 1 - late) % kVaneKept];
+  m_readings.ApparentAngle = std::atan2(wind.Right, wind.Ahead) / kRadian + m_settings.VaneNoise * Gauss();
+  m_readings.ApparentSpeed = Noisy(std::hypot(wind.Ahead, wind.Right));
+  if (m_settings.TrueWindSensor) {
+    m_readings.TrueAngle = m_state.TrueAngle + m_settings.VaneNoise * Gauss();
+    m_readings.TrueSpeed = Noisy(m_state.TrueSpeed);
   }
 }
 
-void BoatModel::SendWaypoint() {
+void BoatModel::PutWaypoint(double bearing, double range) {
+  m_waypoint = Moved(m_state.Place, Towards(bearing, range));
+}
+
+BoatWaypoint BoatModel::Waypoint() const {
   const Vector way = Way(m_state.Place, m_waypoint);
-  const double closing = m_state.SpeedOverGround * std::cos((way.Direction() - m_state.Course) * kRadian);
-  Line(EncodeRmb(m_waypoint, way.Length(), way.Direction(), closing));
+  return {way.Length(), way.Direction(),
+          m_state.SpeedOverGround * std::cos((way.Direction() - m_state.Course) * kRadian)};
 }
 
 void BoatModel::PilotStandby(std::optional<double> heading) {

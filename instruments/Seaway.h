@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "platform/Random.h"
+#include "settings/SimulateModel.h"
 
 namespace veerwatch {
 
@@ -15,8 +16,6 @@ struct SeaSettings {
   double Pitch = 0.0;   ///< the same of the pitch [deg]
   double Period = 6.0;  ///< of encounter, in the middle of its waves [s], above 0
 };
-
-enum class Sea { Flat, Slight, Beam, Following, Head };
 
 /// Smooth water; a slight sea; a moderate sea abeam; a rough one from astern that slews the boat about; a
 /// steep one from ahead that pitches her.

@@ -1,9 +1,8 @@
-// The autopilot of a BoatModel: takes autopilot sentences, and steers a rudder by a compass of its own.
+// The autopilot of a BoatModel: holds a bearing, or the angle of a wind, with a rudder by a compass of its
+// own.
 #pragma once
 
 #include <optional>
-#include <string>
-#include <string_view>
 
 namespace veerwatch {
 
@@ -17,42 +16,38 @@ struct PilotSettings {
   double Lead = 2.0;           ///< rudder for the turn to a new bearing [deg for each deg/s]
   double Counter = 1.0;        ///< rudder against the turn that the boat makes [deg for each deg/s]
   double TrimTime = 60.0;      ///< in which the trim adds up to what the gain gives at once [s], above 0
-  bool Refuses = false;        ///< takes no bearing and steers on to the one that it has
+  bool Refuses = false;        ///< takes no order and steers on to the bearing that it has
   bool Reversed = false;       ///< turns the wrong way
+};
+
+/// What a pilot is told.
+struct PilotOrder {
+  enum class What { Bearing, Wind };
+  What Tells = What::Bearing;
+  double Angle = 0.0;  ///< a bearing [deg magnetic], or where the apparent wind comes from [deg relative]
 };
 
 class BoatPilot {
  public:
-  /// Steers to `bearing` by its own compass [deg magnetic] until it is told another one.
+  /// Steers to `bearing` by its own compass [deg magnetic] until it is told otherwise.
   explicit BoatPilot(double bearing) : m_bearing(bearing), m_wanted(bearing) {}
 
-  /// Bytes in pieces of any size. The heading to steer of each good autopilot sentence becomes the bearing;
-  /// any other line is counted and leaves it.
-  void Take(std::string_view bytes, bool refuses);
+  /// Takes an order. A bearing is steered to. Of winds that are told one after the other the first is the
+  /// angle that is held. `compass` is what the boat's compass shows [deg magnetic].
+  void Take(const PilotOrder& order, const PilotSettings& settings, double compass);
 
   double Bearing() const { return m_bearing; }  ///< that it steers to [deg magnetic]
-  int GoodSentences() const { return m_goodSentences; }
-  int BadSentences() const { return m_badSentences; }
-  int BearingChanges() const {
-    return m_bearingChanges;
-  }  ///< good sentences with another bearing than before
 
   /// The rudder that it asks for, `tick` [s, above 0] after the call before [deg, positive to starboard].
-  /// `compass` is what the boat's compass shows [deg magnetic], `turn` the rate of turn [deg/s].
+  /// `compass` as above, `turn` is the rate of turn [deg/s].
   double Rudder(const PilotSettings& settings, double compass, double turn, double tick);
 
  private:
-  void TakeLine(bool refuses);
-
   double m_bearing;
-  double m_wanted;  ///< the bearing as far as it is taken up [deg magnetic]
+  double m_wanted;               ///< the bearing as far as it is taken up [deg magnetic]
+  std::optional<double> m_wind;  ///< the angle that it holds [deg relative]
   std::optional<double> m_compass;
-  double m_trim = 0.0;           ///< [deg]
-  std::optional<double> m_told;  ///< by the latest good sentence [deg magnetic]
-  std::string m_received;
-  int m_goodSentences = 0;
-  int m_badSentences = 0;
-  int m_bearingChanges = 0;
+  double m_trim = 0.0;  ///< [deg]
 };
 
 }  // namespace veerwatch

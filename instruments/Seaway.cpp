@@ -1,4 +1,4 @@
-#include "tests/support/Seaway.h"
+#include "instruments/Seaway.h"
 
 #include <cmath>
 #include <numbers>

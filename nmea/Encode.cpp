@@ -1,15 +1,25 @@
-#include "tests/support/Encode.h"
+#include "nmea/Encode.h"
 
+#include <array>
 #include <cmath>
+#include <string_view>
+#include <utility>
 
+#include "nmea/Checksum.h"
 #include "platform/NumberText.h"
-#include "tests/support/Sentences.h"
 
 namespace veerwatch {
 
 namespace {
 
 constexpr double kKilometresPerMile = 1.852;
+
+/// `body`, which begins with "$" and has no "*", with its checksum after it.
+std::string Closed(std::string body) {
+  const std::array<char, 2> digits = ChecksumText(Checksum(std::string_view(body).substr(1)));
+  body.append("*").append(digits.data(), digits.size());
+  return body;
+}
 
 std::string Text(double value, std::string_view pattern) {
   return FormatNumber(static_cast<float>(value), pattern);
@@ -49,7 +59,7 @@ std::string Motion(const char* start, double angleTrue, double angleMagnetic, do
   body.append(Angle(angleTrue)).append(",T,").append(Angle(angleMagnetic)).append(",M,");
   body.append(Text(speed, "0.00")).append(",N,");
   body.append(Text(speed * kKilometresPerMile, "0.00")).append(",K");
-  return WithChecksum(body);
+  return Closed(std::move(body));
 }
 
 }  // namespace
@@ -57,27 +67,27 @@ std::string Motion(const char* start, double angleTrue, double angleMagnetic, do
 std::string EncodeHdg(double heading, double variation) {
   std::string body("$IIHDG,");
   body.append(Angle(heading)).append(",,,").append(Variation(variation));
-  return WithChecksum(body);
+  return Closed(std::move(body));
 }
 
 std::string EncodeHvm(double variation) {
   std::string body("$IIHVM,");
   body.append(Variation(variation));
-  return WithChecksum(body);
+  return Closed(std::move(body));
 }
 
 std::string EncodeMwv(double angle, char reference, double speed) {
   std::string body("$IIMWV,");
   body.append(Angle(angle)).append(",").append(1, reference).append(",");
   body.append(Text(speed, "0.0")).append(",N,A");
-  return WithChecksum(body);
+  return Closed(std::move(body));
 }
 
 std::string EncodeRmb(const EarthPlace& waypoint, double range, double bearing, double closing) {
   std::string body("$GPRMB,A,0.00,R,START,MARK,");
   body.append(Place(waypoint)).append(",").append(Text(range, "0.00")).append(",");
   body.append(Angle(bearing)).append(",").append(Text(closing, "0.0")).append(",V");
-  return WithChecksum(body);
+  return Closed(std::move(body));
 }
 
 std::string EncodeRmc(const UtcMoment& utc, const EarthPlace& place, double speed, double course,
@@ -86,7 +96,7 @@ std::string EncodeRmc(const UtcMoment& utc, const EarthPlace& place, double spee
   body.append(ThreePairs(utc.Hour, utc.Minute, utc.Second)).append(",A,").append(Place(place)).append(",");
   body.append(Text(speed, "0.00")).append(",").append(Angle(course)).append(",");
   body.append(ThreePairs(utc.Day, utc.Month, utc.Year)).append(",").append(Variation(variation));
-  return WithChecksum(body);
+  return Closed(std::move(body));
 }
 
 std::string EncodeVhw(double headingTrue, double headingMagnetic, double speed) {

@@ -1,10 +1,7 @@
-#include "tests/support/BoatPilot.h"
+#include "instruments/BoatPilot.h"
 
 #include <algorithm>
 #include <cmath>
-
-#include "platform/NumberText.h"
-#include "tests/support/Sentences.h"
 
 namespace veerwatch {
 
@@ -17,45 +14,20 @@ double Follows(double lag, double tick) { return lag > 0.0 ? 1.0 - std::exp(-tic
 
 }  // namespace
 
-void BoatPilot::Take(std::string_view bytes, bool refuses) {
-  for (const char byte : bytes) {
-    if (byte == '\r') {
-      TakeLine(refuses);
-      m_received.clear();
-    } else if (byte != '\n') {
-      m_received.push_back(byte);
-    }
-  }
-}
-
-void BoatPilot::TakeLine(bool refuses) {
-  constexpr std::size_t kHeadingToSteer = 13;
-  const std::string_view line = m_received;
-  constexpr std::size_t kAddress = 7;  // "$ECAPB,"
-  const std::size_t star = line.find('*');
-  if (line.size() < kAddress || line.front() != '$' || line.substr(3, 4) != "APB," ||
-      star == std::string_view::npos || WithChecksum(line.substr(0, star)) != line) {
-    ++m_badSentences;
+void BoatPilot::Take(const PilotOrder& order, const PilotSettings& settings, double compass) {
+  if (settings.Refuses) {
     return;
   }
-  std::string_view rest = line.substr(0, star);
-  for (std::size_t field = 0; field < kHeadingToSteer; ++field) {
-    const std::size_t comma = rest.find(',');
-    rest = comma == std::string_view::npos ? std::string_view{} : rest.substr(comma + 1);
-  }
-  const auto bearing = StrictDouble(rest.substr(0, rest.find(',')));
-  if (!bearing) {
-    ++m_badSentences;
+  if (order.Tells == PilotOrder::What::Bearing) {
+    m_wind.reset();
+    m_bearing = order.Angle;
     return;
   }
-  ++m_goodSentences;
-  if (m_told != *bearing) {
-    ++m_bearingChanges;
-    m_told = bearing;
+  if (!m_wind) {
+    m_wind = order.Angle;
   }
-  if (!refuses) {
-    m_bearing = *bearing;
-  }
+  const double shows = compass + settings.CompassOffset;
+  m_bearing = shows + Missing(order.Angle, *m_wind);
 }
 
 double BoatPilot::Rudder(const PilotSettings& settings, double compass, double turn, double tick) {

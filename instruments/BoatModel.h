@@ -1,6 +1,6 @@
-// A sailing boat with its instruments and its autopilot, for tests that close the loop: sends the sentences
-// that a boat sends and follows the bearing of the autopilot sentences that it is given. Its geometry is its
-// own, so that it can stand against the program's.
+// A sailing boat with its instruments and its autopilot, in numbers: says what her instruments read and
+// follows what her pilot is told. pilot/WireBoat is the same boat in sentences. Her geometry is her own, so
+// that she can stand against the program's.
 //
 // Turning, in one of two ways. Without a rudder the pilot asks for a rate of turn in proportion to what the
 // boat's compass misses, bounded by what the boat can turn; the boat takes up that rate with the lag of the
@@ -12,16 +12,16 @@
 // follows from the settings and the seed alone.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <optional>
-#include <string>
-#include <string_view>
 
+#include "instruments/BoatPilot.h"
+#include "instruments/EarthPlace.h"
+#include "instruments/Seaway.h"
 #include "platform/Random.h"
-#include "tests/support/BoatPilot.h"
-#include "tests/support/Encode.h"
-#include "tests/support/Seaway.h"
+#include "settings/SimulateModel.h"
 
 namespace veerwatch {
 
@@ -36,6 +36,7 @@ struct RudderSettings {
   double Pull = 3.0;      ///< rudder that an apparent wind of 12 knots abeam asks for, to windward [deg]
 };
 
+/// A boat, her wind, water and instruments; each setting may be changed while she sails.
 struct BoatSettings {
   // Hull and pilot.
   std::optional<RudderSettings> Rudder;  ///< nothing: TurnLag, TurnRate and RudderLag say how the boat turns
@@ -68,7 +69,7 @@ struct BoatSettings {
   // Instruments.
   double Deviation = 2.0;       ///< most deviation of the one compass, on east and west [deg]
   double VaneLag = 1.0;         ///< time constant of the wind instrument [s], 0 for none
-  double VaneDelay = 0.0;       ///< by which the apparent wind that is sent is late besides [s]
+  double VaneDelay = 0.0;       ///< by which the apparent wind that is sent is late besides [s, [0, 6]]
   double MastHeight = 15.0;     ///< of the vane over the water [m]
   double LogLag = 0.0;          ///< time constant of the speed through the water that is sent [s]
   double VaneNoise = 0.0;       ///< standard deviation of each wind angle sent [deg]
@@ -105,34 +106,59 @@ struct BoatState {
   EarthPlace Place{50.0, -5.0};
 };
 
+/// What the instruments read, with their noise. A group that is not due stands as it was.
+struct BoatReadings {
+  bool HeadingDue = false;
+  bool OtherDue = false;
+  bool WindDue = false;
+  double Compass = 0.0;        ///< [deg magnetic, [0, 360)]
+  double Speed = 0.0;          ///< through the water [kn, from 0 on]
+  double GroundSpeed = 0.0;    ///< [kn, from 0 on]
+  double ApparentAngle = 0.0;  ///< [deg relative, any turn]
+  double ApparentSpeed = 0.0;  ///< [kn, from 0 on]
+  double TrueAngle = 0.0;      ///< where there is a sensor [deg relative, any turn]
+  double TrueSpeed = 0.0;      ///< the same [kn, from 0 on]
+};
+
+/// The way to the waypoint.
+struct BoatWaypoint {
+  double Range = 0.0;    ///< [nm]
+  double Bearing = 0.0;  ///< [deg true, [0, 360)]
+  double Closing = 0.0;  ///< speed towards it [kn]
+};
+
 class BoatModel {
  public:
   /// The length of one step of the model [s]; periods are rounded to it.
   static constexpr double kTick = 0.05;
 
   /// Starts on `heading` [deg magnetic, as its compass shows it] at the speed that belongs to it, with a
-  /// waypoint ten miles ahead, and holds that heading until a first autopilot sentence comes.
+  /// waypoint ten miles ahead, and holds that heading until the pilot gets a first order.
   BoatModel(const BoatSettings& settings, double heading, std::uint64_t seed);
 
-  /// Sails on for `seconds` and returns what the instruments sent meanwhile: whole lines, each with CR and
-  /// LF. Parts of a tick wait for the next call.
-  std::string Step(double seconds);
+  /// Sails on for kTick and returns what the instruments read.
+  const BoatReadings& Tick();
 
-  /// Bytes for the autopilot, in pieces of any size.
-  void Steer(std::string_view bytes) { m_pilot.Take(bytes, m_settings.Pilot.Refuses); }
+  /// Gives the pilot an order.
+  void Steer(const PilotOrder& order) { m_pilot.Take(order, m_settings.Pilot, m_state.Compass); }
 
   /// Whether the pilot steers. While it does not, somebody at the wheel keeps `heading` [deg magnetic], or
   /// nobody is there and the wheel stays where it was.
   void PilotStandby(std::optional<double> heading);
   void PilotEngage() { m_engaged = true; }
 
+  /// Puts the waypoint `range` [nm] away at `bearing` [deg true].
+  void PutWaypoint(double bearing, double range);
+  const EarthPlace& WaypointPlace() const { return m_waypoint; }
+  BoatWaypoint Waypoint() const;
+
   /// May be changed while sailing.
   BoatSettings& Set() { return m_settings; }
+  const BoatSettings& Set() const { return m_settings; }
   const BoatState& State() const { return m_state; }
   const BoatPilot& Pilot() const { return m_pilot; }
 
  private:
-  void Tick();
   void MoveWind();
   void Swing();
   void MoveSea();
@@ -145,19 +171,20 @@ class BoatModel {
   double RudderAsked();
   void Move();
   void ReadVane();
-  void Send();
-  void SendWaypoint();
+  void Read();
+  void ReadWind();
+  bool Due(double period) const;
+  /// A speed as an instrument reads it [kn].
+  double Noisy(double knots);
   double Gauss();
   /// One tick of a noise with memory, of unit deviation.
   void Wander(double& value, double memory);
-  void Line(const std::string& sentence) { m_sent.append(sentence).append("\r\n"); }
 
   BoatSettings m_settings;
   BoatState m_state;
+  BoatReadings m_readings;
   SeededRandom m_random;
   std::int64_t m_ticks = 0;
-  double m_waiting = 0.0;  ///< [s] not sailed yet
-  std::string m_sent;
 
   double m_gust = 0.0;
   double m_shift = 0.0;
@@ -172,9 +199,11 @@ class BoatModel {
     double Ahead = 0.0;
     double Right = 0.0;
   };
+  static constexpr std::size_t kVaneKept = 128;  ///< ticks
   VaneWind m_vane;
-  std::deque<VaneWind> m_vaneLate;  ///< what the instrument has read and not sent yet, the oldest first
-  double m_log = 0.0;               ///< speed that the log shows [kn]
+  std::array<VaneWind, kVaneKept> m_vaneLate{};  ///< what the instrument has read, a ring
+  std::size_t m_vaneRead = 0;                    ///< how many there have been
+  double m_log = 0.0;                            ///< speed that the log shows [kn]
   EarthPlace m_waypoint;
 
   BoatPilot m_pilot;
