@@ -11,16 +11,20 @@
 #include <string>
 #include <string_view>
 
+#include "cli/BoatArguments.h"
 #include "cli/CourseCommands.h"
 #include "cli/PolarCommands.h"
 #include "cli/PreviewCommand.h"
 #include "cli/Replay.h"
 #include "cli/Simulate.h"
-#include "platform/NumberText.h"
+#include "cli/Validators.h"
 #include "platform/VisibleText.h"
 
 namespace {
 
+using veerwatch::AddNumber;
+using veerwatch::kNumber;
+using veerwatch::kWholeNumber;
 using veerwatch::TrackMethod;
 using veerwatch::TrackMode;
 using veerwatch::TrackSide;
@@ -31,15 +35,6 @@ constexpr int kExitBadCall = 2;
 const std::map<std::string, TrackMode> kModes{
     {"setup", TrackMode::Setup}, {"manual", TrackMode::Manual}, {"track", TrackMode::Track}};
 const std::map<std::string, TrackSide> kSides{{"apparent", TrackSide::Apparent}, {"true", TrackSide::True}};
-
-/// A number of things, in digits alone.
-const CLI::Validator kWholeNumber(
-    [](const std::string& text) {
-      const bool digits = !text.empty() && text.find_first_not_of("0123456789") == std::string::npos;
-      constexpr std::size_t kMostDigits = 18;
-      return digits && text.size() <= kMostDigits ? std::string() : text + " is not a whole number";
-    },
-    "NUMBER");
 
 /// Options that both commands have, as they stand on the command line.
 struct SteeringArguments {
@@ -72,20 +67,6 @@ struct SteeringArguments {
 int Complain(std::string_view text) {
   std::cerr << "veerwatch-cli: " << veerwatch::VisibleText(text) << '\n';
   return kExitBadCall;
-}
-
-/// A number as the program reads it everywhere else; CLI11 alone would also take "nan" and "inf".
-const CLI::Validator kNumber(
-    [](const std::string& text) {
-      return veerwatch::StrictNumber(text) ? std::string() : text + " is not a number";
-    },
-    "NUMBER");
-
-/// Adds an option that takes a number.
-template <class Value>
-CLI::Option* AddNumber(CLI::App* command, const char* name, Value& value, const char* text,
-                       const char* type) {
-  return command->add_option(name, value, text)->check(kNumber)->type_name(type);
 }
 
 constexpr const char* kSmoothText = "Straight lines between the two neighbouring winds";
@@ -365,6 +346,7 @@ int Run(int argc, char** argv) {
   SimulateArguments simulate(app);
   PolarArguments polar(app);
   PreviewArguments preview(app);
+  veerwatch::BoatArguments boat(app);
 
   try {
     app.parse(argc, argv);
@@ -382,6 +364,8 @@ int Run(int argc, char** argv) {
     preview.Run();
   } else if (replay.Given()) {
     replay.Run();
+  } else if (boat.Given()) {
+    boat.Run();
   } else {
     simulate.Run();
   }

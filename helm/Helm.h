@@ -167,10 +167,10 @@ class Helm final : private NmeaReceiver::Observer,
   Watch m_watch;
   WatchAct m_act;
   WindFunctions m_functions;
-  bool m_keepsOn = false;        ///< the bearing is to be sent on, though its wind is lost
-  bool m_good = true;            ///< the latest sentences hold
-  Why m_newest;                  ///< why the newest bearing is what it is
-  Why m_why;                     ///< the same of the latest one that left
+  bool m_keepsOn = false;  ///< the bearing is to be sent on, though its wind is lost
+  bool m_good = true;      ///< the latest sentences hold
+  Why m_newest;            ///< why the newest bearing is what it is
+  Why m_why;               ///< the same of the latest one that left
   InputState m_inputState = InputState::Stopped;
   OutputState m_outputState = OutputState::None;
   std::string m_inputFailure;

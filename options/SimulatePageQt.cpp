@@ -92,7 +92,7 @@ SimulatePageQt::SimulatePageQt(QWidget* parent)
   ShowUsed();
 }
 
-QComboBox* SimulatePageQt::NewList(const char* name, const char* hint) {
+QComboBox* SimulatePageQt::NewList(const char* name, const char* hint) const {
   auto* list = new QComboBox(frmSimulate);
   NameControl(*list, name, hint);
   return list;

@@ -63,7 +63,7 @@ class SimulatePageQt final : public QWidget {
   using Step = std::string (*)(std::string_view, SpinnerStep, int);
 
   std::array<QScrollBar*, 2> NewSpinners(const char* name, const char* hint, const char* unit);
-  QComboBox* NewList(const char* name, const char* hint);
+  QComboBox* NewList(const char* name, const char* hint) const;
   void LayOut();
   QHBoxLayout* NewModelRow();
   void ShowUsed() const;
