@@ -15,14 +15,18 @@
 #include "platform/AtomicFile.h"
 #include "platform/CommandRunnerQt.h"
 #include "platform/DialogsQt.h"
+#include "platform/LanguageQt.h"
 #include "platform/PortFinderQt.h"
 #include "platform/PortNames.h"
+#include "platform/Profile.h"
 #include "platform/ProfileLock.h"
 #include "platform/SignalsQt.h"
 #include "platform/SounderQt.h"
 #include "platform/SystemClock.h"
 #include "platform/TimerQt.h"
 #include "platform/VisibleText.h"
+#include "settings/Settings.h"
+#include "settings/SettingsTable.h"
 
 #ifdef Q_OS_UNIX
 #include <unistd.h>
@@ -117,6 +121,15 @@ bool Taken(const ProfileLock& lock, const std::filesystem::path& profile, Dialog
   return false;
 }
 
+/// The language that the profile chooses. The windows are made before they read it.
+const char* LanguageOf(const std::filesystem::path& profileFile) {
+  Profile profile;
+  profile.Load(profileFile);
+  Settings settings;
+  SettingsRead(SettingsTable(), profile, settings);
+  return WindowLanguageName(settings.m_eLanguage);
+}
+
 /// Tells the user, who has closed the window, that the settings are lost; without a user nothing waits. The
 /// exit status of the program.
 int TellUnsaved(const frmMain& window, DialogsQt& dialogs) {
@@ -199,6 +212,7 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   const std::filesystem::path profileFile =
       line.Profile ? std::filesystem::absolute(*line.Profile, error) : ProfileFile();
 
+  InstallLanguage(LanguageOf(profileFile));
   std::filesystem::create_directories(profileFile.parent_path(), error);
   const ProfileLock lock(LinkTarget(profileFile, error));
   if (DialogsQt dialogs; !Taken(lock, profileFile, dialogs)) {

@@ -10,6 +10,7 @@
 
 #include "app/IconsQt.h"
 #include "platform/AtomicFile.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 #include "platform/VisibleText.h"
 
@@ -107,6 +108,10 @@ void frmMain::ConnectControls() {
   });
   connect(m_menu.mnuViewSave, &QAction::toggled, this,
           [this](bool checked) { m_bSaveWhileRunning = checked; });
+  connect(m_menu.mnuViewLanguage, &QActionGroup::triggered, this, [this](const QAction* action) {
+    m_eLanguage = static_cast<WindowLanguage>(action->data().toInt());
+    SayForAWhile(Tr("The language changes at the next start"));
+  });
   for (const TrackMode mode : {TrackMode::Off, TrackMode::Setup, TrackMode::Manual, TrackMode::Track}) {
     connect(m_tbrTrack->Button(mode), &QAction::triggered, this,
             [this, mode] { tbrTrack_ButtonClick(mode); });
@@ -172,6 +177,7 @@ void frmMain::ProfileRecall(bool recall) {
   }
   m_menu.mnuViewNight->setChecked(m_bNightColours);
   m_menu.mnuViewSave->setChecked(m_bSaveWhileRunning);
+  m_menu.TickLanguage(m_eLanguage);
   m_windMenu.Reload();
   m_panel->txtAutoPilot->Show(Number(m_fAutoPilot, "0.0"));
   for (int index = 1; index <= 2; ++index) {

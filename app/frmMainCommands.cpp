@@ -7,8 +7,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 #include "app/IconsQt.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -79,6 +81,7 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   mnuViewSave = Command(window, view, "mnuViewSave", "&Save While Running");
   mnuViewSave->setCheckable(true);
   mnuViewSave->setToolTip(QStringLiteral("Settings are also saved ten seconds after a change"));
+  AddLanguage(window, view);
   QMenu* options = window.menuBar()->addMenu(QStringLiteral("&Options"));
   mnuOptionsInput = Command(window, options, "mnuOptionsInput", "&Input...");
   mnuOptionsData = Command(window, options, "mnuOptionsData", "&Data...");
@@ -96,6 +99,31 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   help->addSeparator();
   mnuHelpDiagram = Command(window, help, "mnuHelpDiagram", "&Block Diagram...");
   mnuHelpAbout = Command(window, help, "mnuHelpAbout", "&About...");
+}
+
+void frmMainMenu::AddLanguage(QMainWindow& window, QMenu* view) {
+  QMenu* language = view->addMenu(TrQ("&Language"));
+  language->setObjectName(QStringLiteral("mnuViewLanguage"));
+  language->setToolTipsVisible(true);
+  mnuViewLanguage = new QActionGroup(&window);
+  // The names of languages are in the language itself.
+  for (const auto& [chosen, text] : {std::pair{WindowLanguage::Desktop, TrQ("The Desktop's")},
+                                     std::pair{WindowLanguage::English, QStringLiteral("English")},
+                                     std::pair{WindowLanguage::German, QStringLiteral("Deutsch")}}) {
+    QAction* action = language->addAction(text);
+    action->setObjectName(
+        QStringLiteral("mnuViewLanguage(%1)").arg(QLatin1String(WindowLanguageName(chosen))));
+    action->setData(static_cast<int>(chosen));
+    action->setToolTip(TrQ("From the next start on"));
+    action->setCheckable(true);
+    mnuViewLanguage->addAction(action);
+  }
+}
+
+void frmMainMenu::TickLanguage(WindowLanguage language) const {
+  for (QAction* action : mnuViewLanguage->actions()) {
+    action->setChecked(action->data().toInt() == static_cast<int>(language));
+  }
 }
 
 void frmMainMenu::AddWind(QMainWindow& window, QMenu* options) {

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <QAction>
+#include <QActionGroup>
 #include <QMainWindow>
 #include <QToolBar>
 #include <map>
 
 #include "app/ThemeQt.h"
 #include "settings/TrackMode.h"
+#include "settings/WindowLanguage.h"
 
 namespace veerwatch {
 
@@ -23,6 +25,7 @@ struct frmMainMenu {
   QAction* mnuViewMute;
   QAction* mnuViewNight;
   QAction* mnuViewSave;
+  QActionGroup* mnuViewLanguage;  ///< its actions hold the WindowLanguage as their data
   QAction* mnuOptionsInput;
   QAction* mnuOptionsData;
   QAction* mnuOptionsOutput;
@@ -43,7 +46,11 @@ struct frmMainMenu {
   /// Adds the menu to the menu bar of `window`.
   explicit frmMainMenu(QMainWindow& window);
 
+  /// Ticks the language that is chosen for the next start.
+  void TickLanguage(WindowLanguage language) const;
+
  private:
+  void AddLanguage(QMainWindow& window, QMenu* view);
   void AddWind(QMainWindow& window, QMenu* options);
 };
 

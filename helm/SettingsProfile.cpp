@@ -10,6 +10,7 @@ void SettingsDefault(Settings& settings) {
   Settings defaults;
   defaults.m_eTrackMode = settings.m_eTrackMode;
   defaults.m_bNightColours = settings.m_bNightColours;
+  defaults.m_eLanguage = settings.m_eLanguage;
   defaults.m_sProfileFile = std::move(settings.m_sProfileFile);
   settings = std::move(defaults);
 }

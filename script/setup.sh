@@ -11,6 +11,7 @@ kTools=(
   ninja-build
   cmark-gfm                                    # makes the manual's pages
   dpkg-dev                                     # finds what the Debian package depends on
+  qt6-l10n-tools                               # makes the catalogues of the languages
   file
 )
 
@@ -32,6 +33,7 @@ kPackages=(
   "${kLibraries[@]}"
   "qt6-svg-plugins|libqt6svg6"                 # reads the SVG icons at run time
   qt6-wayland                                  # for a desktop that offers Wayland only
+  qt6-translations-l10n                        # the texts of Qt's own dialogs in other languages
   fonts-dejavu-core                            # without any font the windows show empty boxes
 )
 

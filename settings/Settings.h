@@ -12,6 +12,7 @@
 #include "settings/PilotProfile.h"
 #include "settings/SimulateModel.h"
 #include "settings/TrackMode.h"
+#include "settings/WindowLanguage.h"
 
 namespace veerwatch {
 
@@ -131,6 +132,8 @@ struct Settings {
   bool m_bWindDodge = false;           ///< the keys that dodge
 
   bool m_bNightColours = false;  ///< red on black in every window
+
+  WindowLanguage m_eLanguage = WindowLanguage::Desktop;  ///< from the next start on
 
   bool m_bSaveWhileRunning = false;  ///< settings are also saved ten seconds after a change
 

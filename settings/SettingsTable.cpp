@@ -251,6 +251,9 @@ SettingTable<S> View() {
        "an emptied box restores instead of steering to 0, and a typed bearing or angle more than Max SteerTo "
        "from the present one is asked about while the pilot is sent to",
        kWatch},
+      {"View", "Language",
+       Named(&S::m_eLanguage, std::vector<std::string>(kWindowLanguages.begin(), kWindowLanguages.end())), "",
+       "language of the windows from the next start on; empty for the desktop's", kViewMenu},
   };
 }
 

@@ -172,6 +172,17 @@ TEST(SettingsProfile, SavingWhileRunningIsKept) {
   EXPECT_EQ(profile.Text("View", "Save While Running"), "True");
 }
 
+TEST(SettingsProfile, TheLanguageIsKeptAndFileDefaultLeavesIt) {
+  EXPECT_EQ(ReadFrom(With("View", "Language", "de")).m_eLanguage, WindowLanguage::German);
+  EXPECT_EQ(ReadFrom(Profile()).m_eLanguage, WindowLanguage::Desktop);
+  Settings settings;
+  settings.m_eLanguage = WindowLanguage::German;
+  SettingsDefault(settings);
+  Profile profile;
+  ProfileWrite(profile, settings, Windows{});
+  EXPECT_EQ(profile.Text("View", "Language"), "de");
+}
+
 TEST(SettingsDefault, LeavesTheNightColours) {
   Settings settings;
   settings.m_bNightColours = true;
@@ -360,7 +371,7 @@ TEST(SettingsProfile, AFreshProfileHasEveryKeyInItsOrder) {
       "Stale Apparent Wind=4\nStale True Wind=4\nStale Boat Speed=4\nStale Heading=4\nStale Waypoint=4\n\n"
       "[Wind]\nAngle Guard=False\nLeast Apparent=25\nLargest True=165\nShift Alarm=False\nShift "
       "Limit=15\nShift Lasts=30\nSide By Itself=False\nPolar Angle=False\nDodge Keys=False\n\n"
-      "[View]\nNight Colours=False\nSave While Running=False\nCareful Entry=False\n\n"
+      "[View]\nNight Colours=False\nSave While Running=False\nCareful Entry=False\nLanguage=\n\n"
       "[History Window]\nVisible=False\n\n[Polar Window]\nVisible=False\n");
 }
 
