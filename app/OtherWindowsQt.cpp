@@ -8,6 +8,7 @@
 #include "app/TurnAimOf.h"
 #include "draw/DrawQt.h"
 #include "draw/WindowPlaceQt.h"
+#include "options/RecommendedQt.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -70,6 +71,19 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
       Options().ShowCenter();
     });
   }
+  QObject::connect(menu.mnuOptionsRecommended, &QAction::triggered, [this] {
+    RecommendedQt::Open(RecommendedOf(), *m_window,
+                        [this](const RecommendedTicks& ticks) { RecommendedSet(ticks); });
+  });
+}
+
+RecommendedSeen OtherWindowsQt::RecommendedOf() { return {m_main, Polar().Model().Settings().SmoothWinds}; }
+
+void OtherWindowsQt::RecommendedSet(const RecommendedTicks& ticks) {
+  bool smooth = RecommendedOf().SmoothWinds;
+  ApplyRecommended(ticks, {m_main, smooth});
+  Polar().SmoothWinds(smooth);
+  OptionsReload();
 }
 
 void OtherWindowsQt::Store() {

@@ -22,6 +22,7 @@
 #include "helm/SettingsProfile.h"
 #include "helm/WindRecorder.h"
 #include "history/frmHistory.h"
+#include "options/Recommended.h"
 #include "options/frmOptions.h"
 #include "polar/BestAngles.h"
 #include "polar/PolarObserver.h"
@@ -78,6 +79,9 @@ class OtherWindowsQt final : private HelmObserver,
   void OptionsReload();
   /// The options dialog, made where it is not there yet.
   frmOptions& Options();
+  /// What is set now, to be compared with what is recommended, and sets what is ticked of it.
+  RecommendedSeen RecommendedOf();
+  void RecommendedSet(const RecommendedTicks& ticks);
 
  private:
   frmHistory& History();

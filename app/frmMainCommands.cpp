@@ -91,6 +91,8 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   mnuOptionsWatch = Command(window, options, "mnuOptionsWatch", "&Watch...");
   options->addSeparator();
   AddWind(window, options);
+  options->addSeparator();
+  mnuOptionsRecommended = Command(window, options, "mnuOptionsRecommended", "&Recommended...");
   QMenu* help = window.menuBar()->addMenu(QStringLiteral("&Help"));
   mnuHelpManual = Command(window, help, "mnuHelpManual", "&Manual");
   mnuHelpManual->setShortcut(QKeySequence(Qt::Key_F1));

@@ -32,6 +32,7 @@ struct frmMainMenu {
   QAction* mnuOptionsTrack;
   QAction* mnuOptionsSimulate;
   QAction* mnuOptionsWatch;
+  QAction* mnuOptionsRecommended;
   QAction* mnuWindGuard;
   QAction* mnuWindShift;
   QAction* mnuWindSide;

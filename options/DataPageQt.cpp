@@ -40,12 +40,6 @@ DataPageQt::DataPageQt(QWidget* parent)
                                                     "Wind Indicator Average Time (sec, 0=none)", this)),
       txtNmeaTrueWindAverage(
           new OptionEntryQt("txtNmeaTrueWindAverage", "True Wind Average Time (sec, 0=none)", this)),
-      txtNmeaWindOffset(
-          new OptionEntryQt("txtNmeaWindOffset", "Added to the wind's angle that comes in (Deg)", this)),
-      txtNmeaBoatSpeedFactor(new OptionEntryQt("txtNmeaBoatSpeedFactor",
-                                               "Times the speed through the water that comes in", this)),
-      txtNmeaHeadingOffset(new OptionEntryQt("txtNmeaHeadingOffset",
-                                             "Added to the compass heading that comes in (Deg)", this)),
       cmbNmeaChecksum(NewRule("cmbNmeaChecksum", "What becomes of a sentence without a checksum",
                               {QStringLiteral("Accept missing"), QStringLiteral("Require")}, this)),
       cmbNmeaInvalidStatus(NewRule("cmbNmeaInvalidStatus",
@@ -58,6 +52,12 @@ DataPageQt::DataPageQt(QWidget* parent)
                                  "Reads an MWV whose speed is not in knots", this)),
       chkNmeaLowerCase(NewSwitch("chkNmeaLowerCase", "&Lower Case checksums, too",
                                  "Reads a checksum in small letters", this)),
+      txtNmeaWindOffset(
+          new OptionEntryQt("txtNmeaWindOffset", "Added to the wind's angle that comes in (Deg)", this)),
+      txtNmeaHeadingOffset(new OptionEntryQt("txtNmeaHeadingOffset",
+                                             "Added to the compass heading that comes in (Deg)", this)),
+      txtNmeaBoatSpeedFactor(new OptionEntryQt("txtNmeaBoatSpeedFactor",
+                                               "Times the speed through the water that comes in", this)),
       lblSourceAdvice(new QLabel(this)),
       SentencePlace(new QWidget(this)) {
   NameControl(*lblSourceAdvice, "lblSourceAdvice", "What the chosen sources do not bring");
@@ -87,23 +87,21 @@ DataPageQt::DataPageQt(QWidget* parent)
   average(0, "Data Average:", "Wind Indi&cator", txtNmeaWindIndicatorAverage);
   average(2, "Data Average (Sec):", "Tr&ue Wind", txtNmeaTrueWindAverage);
   rows->setColumnStretch(6, 1);
-  auto* corrections = new QHBoxLayout;
-  const auto correction = [this, corrections](const char* caption, OptionEntryQt* box, const char* unit) {
-    corrections->addWidget(NewCaption(caption, box, this));
-    corrections->addWidget(box);
-    if (*unit != '\0') {
-      corrections->addWidget(NewText(unit, this));
-    }
-    corrections->addSpacing(kGroupGap);
+  const auto correction = [this, rows](int row, int column, const char* caption, OptionEntryQt* box,
+                                       const char* unit) {
+    auto* withUnit = new QHBoxLayout;
+    withUnit->addWidget(box);
+    withUnit->addWidget(NewText(unit, this));
+    withUnit->addStretch(1);
+    rows->addWidget(NewCaption(caption, box, this), row, column);
+    rows->addLayout(withUnit, row, column + 1, 1, column == 0 ? 1 : 2);
   };
-  correction("Wind &Offset:", txtNmeaWindOffset, "Deg");
-  correction("Boat Speed Fac&tor:", txtNmeaBoatSpeedFactor, "");
-  correction("Headin&g Offset:", txtNmeaHeadingOffset, "Deg");
-  corrections->addStretch(1);
+  correction(6, 0, "Wind Offs&et:", txtNmeaWindOffset, "Deg");
+  correction(6, 3, "Heading Offset:", txtNmeaHeadingOffset, "Deg");
+  correction(7, 0, "Boat S&peed Factor:", txtNmeaBoatSpeedFactor, "");
 
   auto* page = new QVBoxLayout(this);
   page->addLayout(rows);
-  page->addLayout(corrections);
   page->addWidget(lblSourceAdvice);
   page->addWidget(SentencePlace, 1);
 }

@@ -31,14 +31,14 @@ class DataPageQt final : public QWidget {
   QComboBox* cmbNmeaBoatSpeed;
   OptionEntryQt* txtNmeaWindIndicatorAverage;
   OptionEntryQt* txtNmeaTrueWindAverage;
-  OptionEntryQt* txtNmeaWindOffset;
-  OptionEntryQt* txtNmeaBoatSpeedFactor;
-  OptionEntryQt* txtNmeaHeadingOffset;
   QComboBox* cmbNmeaChecksum;
   QComboBox* cmbNmeaInvalidStatus;
   QComboBox* cmbNmeaForeignLines;
   QCheckBox* chkNmeaWindUnits;
   QCheckBox* chkNmeaLowerCase;
+  OptionEntryQt* txtNmeaWindOffset;
+  OptionEntryQt* txtNmeaHeadingOffset;
+  OptionEntryQt* txtNmeaBoatSpeedFactor;
   QLabel* lblSourceAdvice;  ///< hidden while empty
   QWidget* SentencePlace;   ///< where the list of the sentences goes
 

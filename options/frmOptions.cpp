@@ -98,7 +98,7 @@ void frmOptions::MakeTabs() {
   lstNmeaSentence->hide();
   m_data->SentencePlace->setMinimumSize(lstNmeaSentence->minimumSizeHint());
   m_data->SentencePlace->installEventFilter(this);
-  setTabOrder(m_data->chkNmeaLowerCase, lstNmeaSentence);
+  setTabOrder(m_data->txtNmeaBoatSpeedFactor, lstNmeaSentence);
 }
 
 void frmOptions::MakeButtons() {

@@ -59,6 +59,12 @@ void frmPolar::OnItem(QAction* item, Command command) {
   });
 }
 
+void frmPolar::SmoothWinds(bool smooth) {
+  if (m_model.Settings().SmoothWinds != smooth) {
+    m_menu.mnuOverlaySmooth->trigger();
+  }
+}
+
 void frmPolar::ConnectMenus() {
   OnItem(m_menu.mnuWindApparent, [this] { m_model.ShowWind(PlotType::ApparentWind); });
   OnItem(m_menu.mnuWindTrue, [this] { m_model.ShowWind(PlotType::TrueWind); });

@@ -60,6 +60,8 @@ class frmPolar final : public QMainWindow {
   void PolarDraw();
 
   const PolarModel& Model() const { return m_model; }
+  /// Chooses whether the speed goes evenly from one wind of the table to the next.
+  void SmoothWinds(bool smooth);
 
   /// Where the turn of `button` leads now [deg magnetic, [0, 360)], by all that has come; nothing while no
   /// course shows.

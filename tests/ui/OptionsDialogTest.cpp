@@ -360,14 +360,16 @@ TEST_F(OptionsDialog, TheTabKeyReachesEverythingInOrder) {
   Start(frmOptions::Data);
   Find<QWidget>("cmbNmeaTrueWind").setFocus();
   std::vector<std::string> reached;
-  for (int i = 0; i < 14; ++i) {
+  for (int i = 0; i < 17; ++i) {
     reached.push_back(QApplication::focusWidget()->objectName().toStdString());
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
   }
-  EXPECT_THAT(reached, ElementsAre("cmbNmeaTrueWind", "cmbNmeaHeading", "cmbNmeaBoatSpeed",
-                                   "txtNmeaWindIndicatorAverage", "txtNmeaTrueWindAverage", "cmbNmeaChecksum",
-                                   "cmbNmeaInvalidStatus", "cmbNmeaForeignLines", "chkNmeaWindUnits",
-                                   "chkNmeaLowerCase", "lstNmeaSentence", "cmdOk", "cmdCancel", "cmdApply"));
+  EXPECT_THAT(
+      reached,
+      ElementsAre("cmbNmeaTrueWind", "cmbNmeaHeading", "cmbNmeaBoatSpeed", "txtNmeaWindIndicatorAverage",
+                  "txtNmeaTrueWindAverage", "cmbNmeaChecksum", "cmbNmeaInvalidStatus", "cmbNmeaForeignLines",
+                  "chkNmeaWindUnits", "chkNmeaLowerCase", "txtNmeaWindOffset", "txtNmeaHeadingOffset",
+                  "txtNmeaBoatSpeedFactor", "lstNmeaSentence", "cmdOk", "cmdCancel", "cmdApply"));
 }
 
 }  // namespace

@@ -1,0 +1,120 @@
+#include "options/Recommended.h"
+
+#include "platform/NumberText.h"
+
+namespace veerwatch {
+
+namespace {
+
+using Seen = RecommendedSeen;
+using Now = RecommendedNow;
+
+// What goes with the method Direction (docs/control.md).
+constexpr float kDirectionBandwidth = 60.0F;  // [s]
+constexpr float kAlarmAverage = 5.0F;         // [s]
+
+template <bool Settings::*Truth>
+Recommendation Switch(const char* what, const char* reason) {
+  return {what,
+          "on",
+          reason,
+          [](const Seen& seen) -> std::string { return seen.All.*Truth ? "on" : "off"; },
+          [](const Seen& seen) { return seen.All.*Truth; },
+          [](const Now& now) { now.All.*Truth = true; }};
+}
+
+std::string MethodNow(const Seen& seen) {
+  switch (seen.All.m_eTrackMethod) {
+    case TrackMethod::Direction:
+      return "Direction";
+    case TrackMethod::Clock:
+      return "Clock";
+    default:
+      return "Sentence";
+  }
+}
+
+void SetDirection(const Now& now) {
+  now.All.m_eTrackMethod = TrackMethod::Direction;
+  now.All.m_fTrackBandwidth = kDirectionBandwidth;
+}
+
+std::string CadenceNow(const Seen& seen) {
+  return seen.All.m_iPilotCadence == 0 ? "with each wind"
+                                       : std::to_string(seen.All.m_iPilotCadence) + " a second";
+}
+
+std::string AlarmAverageNow(const Seen& seen) {
+  return seen.All.m_fTrackAlarmAverage == 0.0F ? "each sentence by itself"
+                                               : "over " + ShortestText(seen.All.m_fTrackAlarmAverage) + " s";
+}
+
+std::array<Recommendation, kRecommendationCount> NewRecommendations() {
+  return {{
+      {"Tracking method", "Direction",
+       "It holds the wind most closely of the three and needs no tuning; sets the bandwidth to 60 s with it.",
+       MethodNow, [](const Seen& seen) { return seen.All.m_eTrackMethod == TrackMethod::Direction; },
+       SetDirection},
+      Switch<&Settings::m_bWatchAct>("The watch acts",
+                                     "What is stale, lost or wrong does not steer; off, it is only told."),
+      {"Alarm sound", "Tone", "A tone is heard until somebody answers; many computers have no beep.",
+       [](const Seen& seen) -> std::string {
+         return seen.All.m_eWatchSound == AlarmSound::Tone ? "Tone" : "Beep";
+       },
+       [](const Seen& seen) { return seen.All.m_eWatchSound == AlarmSound::Tone; },
+       [](const Now& now) { now.All.m_eWatchSound = AlarmSound::Tone; }},
+      Switch<&Settings::m_bWatchBlankLost>("Lost values blank",
+                                           "Nobody takes an old figure for one of now: it becomes \"--\"."),
+      Switch<&Settings::m_bCarefulEntry>(
+          "Careful entry", "An emptied box does not steer to 0, and a large typed change is asked about."),
+      {"Status V", "Ignore", "An instrument that calls its own value invalid is believed.",
+       [](const Seen& seen) -> std::string {
+         return seen.All.m_eNmeaInvalidStatus == InvalidRule::Ignore ? "Ignore" : "Use";
+       },
+       [](const Seen& seen) { return seen.All.m_eNmeaInvalidStatus == InvalidRule::Ignore; },
+       [](const Now& now) { now.All.m_eNmeaInvalidStatus = InvalidRule::Ignore; }},
+      {"Checksum", "Require",
+       "A damaged sentence can look like a good one; leave it where an old instrument sends no checksum.",
+       [](const Seen& seen) -> std::string {
+         return seen.All.m_eNmeaChecksum == ChecksumRule::Require ? "Require" : "Accept missing";
+       },
+       [](const Seen& seen) { return seen.All.m_eNmeaChecksum == ChecksumRule::Require; },
+       [](const Now& now) { now.All.m_eNmeaChecksum = ChecksumRule::Require; }},
+      {"Foreign lines", "List", "The lines of an AIS receiver are no errors.",
+       [](const Seen& seen) -> std::string {
+         return seen.All.m_eNmeaForeignLines == ForeignRule::List ? "List" : "Error";
+       },
+       [](const Seen& seen) { return seen.All.m_eNmeaForeignLines == ForeignRule::List; },
+       [](const Now& now) { now.All.m_eNmeaForeignLines = ForeignRule::List; }},
+      {"Sentences to the pilot", "1 a second",
+       "A pilot wants its bearing evenly, also between two winds, and no more than it can read.", CadenceNow,
+       [](const Seen& seen) { return seen.All.m_iPilotCadence >= 1; },
+       [](const Now& now) { now.All.m_iPilotCadence = 1; }},
+      {"Polar between winds", "smooth",
+       "The polar's speed does not jump from one wind of its table to the next.",
+       [](const Seen& seen) -> std::string { return seen.SmoothWinds ? "smooth" : "in steps"; },
+       [](const Seen& seen) { return seen.SmoothWinds; }, [](const Now& now) { now.SmoothWinds = true; }},
+      {"Tracking alarm", "over 5 s",
+       "The alarm averages the error, so that a single gust does not set it off.", AlarmAverageNow,
+       [](const Seen& seen) { return seen.All.m_fTrackAlarmAverage >= kAlarmAverage; },
+       [](const Now& now) { now.All.m_fTrackAlarmAverage = kAlarmAverage; }},
+  }};
+}
+
+}  // namespace
+
+const std::array<Recommendation, kRecommendationCount>& Recommendations() {
+  static const auto kAll = NewRecommendations();
+  return kAll;
+}
+
+void ApplyRecommended(const RecommendedTicks& ticks, const RecommendedNow& now) {
+  for (std::size_t i = 0; i < kRecommendationCount; ++i) {
+    const Recommendation& each = Recommendations()[i];
+    if (ticks[i] && !each.Holds({now.All, now.SmoothWinds})) {
+      each.Set(now);
+    }
+  }
+}
+
+}  // namespace veerwatch
