@@ -1,6 +1,7 @@
 #include "alarms/AlarmCentre.h"
 
 #include <algorithm>
+#include <cstddef>
 
 #include "alarms/WatchText.h"
 #include "platform/VisibleText.h"
@@ -19,6 +20,10 @@ AlarmEntry NoticeEntry(AlarmKind kind, const std::string& text) {
   AlarmEntry entry;
   entry.Text = text;
   switch (kind) {
+    case AlarmKind::Course:
+      entry.Does = "Holds the leg, and turns when it is told to";
+      entry.Remedy = "Enter turns; Course > Sail the Course in the polar window ends it";
+      break;
     case AlarmKind::Save:
       entry.Does = "Keeps the settings, steers on, and tries again at the next change and at the close";
       entry.Remedy = "Make room on the disk; may you write in that folder?";
@@ -136,9 +141,14 @@ std::vector<AlarmEntry> AlarmCentre::Entries() const {
   for (const Standing& standing : m_watch.Conditions()) {
     entries.push_back(EntryOf(standing));
   }
+  // A prompt does not wait behind what is only to be known.
+  const auto notes = std::find_if(entries.begin(), entries.end(),
+                                  [](const AlarmEntry& entry) { return entry.Rank == Level::Note; });
+  auto prompts = static_cast<std::size_t>(notes - entries.begin());
   for (const auto& [kind, notice] : m_notices) {
     if (!notice.Read && !notice.Text.empty()) {
-      entries.push_back(NoticeEntry(kind, notice.Text));
+      const auto at = kind == AlarmKind::Course ? prompts++ : entries.size();
+      entries.insert(entries.begin() + static_cast<std::ptrdiff_t>(at), NoticeEntry(kind, notice.Text));
     }
   }
   return entries;
@@ -146,13 +156,8 @@ std::vector<AlarmEntry> AlarmCentre::Entries() const {
 
 std::vector<std::string> AlarmCentre::Texts() const {
   std::vector<std::string> texts;
-  for (const Standing& standing : m_watch.Conditions()) {
-    texts.push_back(WatchText(standing));
-  }
-  for (const auto& [kind, notice] : m_notices) {
-    if (!notice.Read && !notice.Text.empty()) {
-      texts.push_back(notice.Text);
-    }
+  for (const AlarmEntry& entry : Entries()) {
+    texts.push_back(entry.Text);
   }
   return texts;
 }

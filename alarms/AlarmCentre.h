@@ -18,6 +18,7 @@ namespace veerwatch {
 
 /// Who has a notice; the most important first.
 enum class AlarmKind {
+  Course,   ///< the turn that a course prompts for
   Save,     ///< the settings could not be saved
   Profile,  ///< the profile could not be read
   Pilot,    ///< sentences that were chosen for the pilot do not leave
@@ -72,7 +73,8 @@ class AlarmCentre {
   /// simulation are silent.
   AlarmTone Tone(const Moment& now) const;
 
-  /// All that stands: the worst first, of one level the newer first, then the notices by their importance.
+  /// All that stands: the worst first, of one level the newer first, then the notices by their importance; a
+  /// course's prompt stands before all that is only to be known.
   std::vector<AlarmEntry> Entries() const;
 
   /// The texts of Entries().

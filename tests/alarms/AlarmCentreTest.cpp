@@ -1,5 +1,6 @@
 #include "alarms/AlarmCentre.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
@@ -62,6 +63,20 @@ TEST(AlarmCentre, ThatWereReadStayAwayUntilTheySayAnotherThing) {
   notices.Set(AlarmKind::Source, "");
   notices.Set(AlarmKind::Source, "two");
   EXPECT_EQ(notices.Line(), "two") << "it came back";
+}
+
+TEST(AlarmCentre, APromptStandsBeforeWhatIsOnlyToBeKnownAndAfterWhatIsWrong) {
+  AlarmCentre notices;
+  WatchNow watch;
+  watch.All[0].What = Condition::Pinching;
+  watch.All[0].Rank = Level::Amber;
+  watch.All[1].What = Condition::Simulation;
+  watch.All[1].Rank = Level::Note;
+  watch.Count = 2;
+  notices.Watch(watch);
+  notices.Set(AlarmKind::Save, "save");
+  notices.Set(AlarmKind::Course, "Tack now (Enter)");
+  EXPECT_THAT(notices.Texts(), testing::ElementsAre("Pinching", "Tack now (Enter)", "Simulation", "save"));
 }
 
 }  // namespace
