@@ -82,6 +82,8 @@ class Helm final : private NmeaReceiver::Observer,
   bool DodgeBack() { return TellTurned(m_functions.DodgeBack()); }
   /// WindFunctions::LastAngle.
   bool LastAngle() { return TellTurned(m_functions.LastAngle()); }
+  /// WindFunctions::CourseHolds.
+  bool CourseHolds(double angle, bool turns) { return TellTurned(m_functions.CourseHolds(angle, turns)); }
   WindFunctions& Functions() { return m_functions; }
 
   NmeaReceiver& Receiver() { return m_receiver; }

@@ -41,14 +41,6 @@ Vector Towards(double direction, double length) {
 /// The part of a distance that is left to go shrinks by this factor in one tick.
 double Remains(double lag) { return lag > 0.0 ? std::exp(-BoatModel::kTick / lag) : 0.0; }
 
-/// Nothing in the eye of the wind, the most on a reach, less before the wind.
-double PolarSpeed(const BoatSettings& settings, double angle, double windSpeed) {
-  const double off = std::fabs(angle);
-  const double drive = 1.0 - std::exp(-std::pow(off / 35.0, 2.0));
-  const double aft = 1.0 - 0.25 * std::pow(off / 180.0, 4.0);
-  return settings.HullSpeed * drive * aft * (1.0 - std::exp(-windSpeed / 8.0));
-}
-
 /// To the side that the wind blows to [deg, positive to starboard].
 double LeewayAt(const BoatSettings& settings, double angle) {
   return std::fabs(angle) < 90.0 ? -settings.Leeway * std::sin(2.0 * angle * kRadian) : 0.0;
@@ -82,6 +74,14 @@ EarthPlace Moved(const EarthPlace& from, const Vector& way) {
 }
 
 }  // namespace
+
+/// Nothing in the eye of the wind, the most on a reach, less before the wind.
+double BoatPolarSpeed(const BoatSettings& settings, double angle, double windSpeed) {
+  const double off = std::fabs(angle);
+  const double drive = 1.0 - std::exp(-std::pow(off / 35.0, 2.0));
+  const double aft = 1.0 - 0.25 * std::pow(off / 180.0, 4.0);
+  return settings.HullSpeed * drive * aft * (1.0 - std::exp(-windSpeed / 8.0));
+}
 
 BoatSettings GustyBoat() {
   BoatSettings settings;
@@ -119,7 +119,7 @@ BoatModel::BoatModel(const BoatSettings& settings, double heading, std::uint64_t
   PutWaypoint(m_keel, kWaypointAhead);
   MoveWind();
   const double angle = Turn180(m_state.WindFrom - m_keel);
-  m_state.Speed = PolarSpeed(settings, angle, m_state.WindSpeed);
+  m_state.Speed = BoatPolarSpeed(settings, angle, m_state.WindSpeed);
   Move();
   m_vane = {m_state.ApparentSpeed * std::cos(m_state.ApparentAngle * kRadian),
             m_state.ApparentSpeed * std::sin(m_state.ApparentAngle * kRadian)};
@@ -236,7 +236,7 @@ void BoatModel::Move() {
   m_state.TrueSpeed = overWater.Length();
   m_state.TrueAngle = Turn180(overWater.Direction() + 180.0 - m_state.Heading);
 
-  const double wanted = PolarSpeed(m_settings, m_state.TrueAngle, m_state.TrueSpeed);
+  const double wanted = BoatPolarSpeed(m_settings, m_state.TrueAngle, m_state.TrueSpeed);
   m_state.Speed = wanted + (m_state.Speed - wanted) * Remains(m_settings.SpeedLag);
   const double leeway = LeewayAt(m_settings, m_state.TrueAngle);
   const Vector ground = Towards(m_state.Heading + leeway, m_state.Speed) + current;

@@ -127,6 +127,9 @@ struct BoatWaypoint {
   double Closing = 0.0;  ///< speed towards it [kn]
 };
 
+/// The speed that she comes to with the true wind at `angle` [deg relative] and of `windSpeed` [kn].
+double BoatPolarSpeed(const BoatSettings& settings, double angle, double windSpeed);
+
 class BoatModel {
  public:
   /// The length of one step of the model [s]; periods are rounded to it.

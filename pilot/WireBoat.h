@@ -29,6 +29,9 @@ class WireBoat {
   void PilotStandby(std::optional<double> heading) { m_boat.PilotStandby(heading); }
   void PilotEngage() { m_boat.PilotEngage(); }
 
+  void PutWaypoint(double bearing, double range) { m_boat.PutWaypoint(bearing, range); }
+  BoatWaypoint Waypoint() const { return m_boat.Waypoint(); }
+
   /// May be changed while sailing.
   BoatSettings& Set() { return m_boat.Set(); }
   const BoatState& State() const { return m_boat.State(); }

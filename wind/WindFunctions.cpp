@@ -235,6 +235,17 @@ bool WindFunctions::DodgeBack() {
   return true;
 }
 
+bool WindFunctions::CourseHolds(double angle, bool turns) {
+  const HeldAngles::Angle before = Held();
+  if (!Tracks() || (turns && !m_loop.TrackSteerTo(ToSingle(Fold(before.Degrees - angle))))) {
+    return false;
+  }
+  m_loop.SetDesired(before.Side, angle);
+  m_angles.Moved(Held());
+  m_known = Held();
+  return true;
+}
+
 bool WindFunctions::LastAngle() {
   if (!CanLastAngle()) {
     return false;

@@ -54,6 +54,9 @@ class WindFunctions {
   bool DodgeBack();
   /// To the angle before the latest change of more than ten degrees.
   bool LastAngle();
+  /// Holds `angle` of the tracked side [deg relative] for a course that is sailed, which is no change by the
+  /// user; `turns` takes the bearing along.
+  bool CourseHolds(double angle, bool turns);
   bool CanDodgeBack() const { return Tracks() && m_angles.Away().has_value(); }
   bool CanLastAngle() const { return Tracks() && m_angles.Last().has_value(); }
 
