@@ -240,6 +240,12 @@ void frmMain::SayForAWhile(const std::string& text) {
   ShowModeText();
 }
 
+void frmMain::ShowPrompt(const std::string& text) {
+  m_prompt = Text(text);
+  NoticeSet(AlarmKind::Course, text);
+  ShowModeText();
+}
+
 void frmMain::ShowControls() {
   const TrackSide side = m_helm.Loop().Side();
   m_panel->Enable(ControlsFor(m_eTrackMode, side), m_eTrackMode, side);
@@ -269,6 +275,9 @@ void frmMain::ShowModeText() {
     text += QStringLiteral(", Input Stopped");
   } else if (needsInput && m_helm.Now().WindLost) {
     text += QStringLiteral(", No Wind");
+  }
+  if (!m_prompt.isEmpty()) {
+    text = m_prompt;
   }
   m_status->Show(StatusPanelsQt::kPilot, m_instead.isEmpty() ? text : m_instead);
 }

@@ -52,7 +52,10 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
       m_recorded(main.Observers(), main.Record()),
       m_told(main.Observers().Join(*this)),
       m_turns({main, turns.Run, turns.Asks, *window, turns.Say, [this]() -> frmTack& { return Tack(); },
-               [this] { return m_tack.get(); }, [this](bool upwind) { return BestAim(upwind); }}) {
+               [this] { return m_tack.get(); }, [this](bool upwind) { return BestAim(upwind); }}),
+      m_sails({main, turns.Boat, turns.Run, turns.Asks, *window, turns.Say, turns.Notice, turns.Sound,
+               [this]() -> frmPolar& { return Polar(); }, [this] { return Tack().Kept(); },
+               [this](const TurnPlan& plan) { m_turns.Begin(plan); }}) {
   QObject::connect(menu.mnuViewHistory, &QAction::triggered, [this] { HistoryShow(); });
   for (const QAction* command : {menu.mnuViewDiagram, menu.mnuHelpDiagram}) {
     QObject::connect(command, &QAction::triggered, [this] { DiagramShow(); });

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "app/MainWindowParts.h"
+#include "app/SailDeskQt.h"
 #include "app/TurnDeskQt.h"
 #include "app/frmMainCommands.h"
 #include "diagram/DiagramObserver.h"
@@ -38,11 +39,14 @@ class OtherWindowsQt final : private HelmObserver,
                              private OptionsPorts,
                              private DiagramObserver {
  public:
-  /// What turns that are followed to their end need of the main window.
+  /// What turns that are followed to their end, and courses, need of the main window.
   struct ForTurns {
+    Helm& Boat;
     TurnRun& Run;
-    WindowDialogs& Asks;                          ///< of the main window
-    std::function<void(const std::string&)> Say;  ///< shows one line in the status bar for a while
+    WindowDialogs& Asks;                             ///< of the main window
+    std::function<void(const std::string&)> Say;     ///< shows one line in the status bar for a while
+    std::function<void(const std::string&)> Notice;  ///< shows what the course prompts for in the banner
+    std::function<void()> Sound;                     ///< of a course that prompts or ends by itself
   };
 
   /// Connects the commands of `menu` that show a window. `window` is the main window. All of them outlive
@@ -104,6 +108,8 @@ class OtherWindowsQt final : private HelmObserver,
     HistorySample(channel, value);
   }
   void OnPolarVisible(bool visible) override;
+  void OnSailCourse(bool wanted) override { m_sails.Wanted(wanted); }
+  void OnSailTurn() override { m_sails.Turn(); }
 
   void OnHeading(float heading) override;
   void OnBoatSpeed(float speed) override;
@@ -136,6 +142,7 @@ class OtherWindowsQt final : private HelmObserver,
   std::unique_ptr<frmPolar> m_polar;      ///< null until it is shown for the first time
   BestAnglesMemory m_best;
   TurnDeskQt m_turns;
+  SailDeskQt m_sails;
   std::unique_ptr<frmTack> m_tack;        ///< null until it is shown for the first time, or a key turns
   std::optional<TurnButton> m_asked;      ///< the button that the manoeuvre was asked for with
   std::unique_ptr<frmOptions> m_options;  ///< from its first use on, until its frame is closed

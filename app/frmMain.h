@@ -115,6 +115,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void ShowModeText();
   /// Shows one line in place of the mode, for ten seconds.
   void SayForAWhile(const std::string& text);
+  /// Shows the turn that a course prompts for, in place of the mode and in the banner; "" for none.
+  void ShowPrompt(const std::string& text);
   /// Heading and age of the latest sentence beside the bearing, while the pilot is sent to.
   void ShowSent();
   /// In Setup the banner says what the sources do not bring.
@@ -180,6 +182,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   WindMenuQt m_windMenu;
   bool m_ask = true;            ///< a close still has to ask
   QString m_instead;            ///< shown in place of the mode: why Track was refused, or a turn has ended
+  QString m_prompt;             ///< the turn that a course prompts for
   QTimer m_insteadTimer{this};  ///< ends what is said about a turn
   bool m_unasked = false;       ///< the close is not the user's
   bool m_unloaded = false;      ///< the profile is written, everything is closed

@@ -78,6 +78,14 @@ PolarMenuQt::PolarMenuQt(QMainWindow& window) {
   mnuCourseTargetBearing = Item(course, "mnuCourseTargetBearing", "Set Target Bearing...");
   mnuCourseScale =
       Ticked(Item(course, "mnuCourseScale", "Scale Projected Times and Speeds by Current Boat Speed"));
+  Separator(course, "mnuCourseSailSeparator");
+  course->setToolTipsVisible(true);
+  mnuCourseSail = Ticked(Item(course, "mnuCourseSail", "Sail the Course"));
+  mnuCourseSail->setToolTip(
+      QStringLiteral("Track holds the leg to sail now, and the turn to the other one is prompted for"));
+  mnuCourseTack = Ticked(Item(course, "mnuCourseTack", "Tack By Itself"));
+  mnuCourseTack->setToolTip(
+      QStringLiteral("A course that is sailed tacks at the line without Enter; it jibes only with it"));
   Separator(course, "mnuSeparator8");
   mnuCourseLedger = Item(course, "mnuCourseLedger", "Show Course Ledger");
 
@@ -113,6 +121,7 @@ void PolarMenuQt::Refresh(const PolarModel& model) const {
                                      settings.CourseWaypointIndex == static_cast<CourseSource>(i));
   }
   mnuCourseScale->setChecked(settings.CourseScale);
+  mnuCourseTack->setChecked(settings.TackByItself);
   for (std::size_t i = 0; i < mnuBoatType.size(); ++i) {
     mnuBoatType[i]->setChecked(settings.Boat == static_cast<BoatType>(i));
   }

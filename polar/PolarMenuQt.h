@@ -35,6 +35,8 @@ struct PolarMenuQt {
   std::array<QAction*, 3> mnuCourseWaypoint;
   QAction* mnuCourseTargetBearing;
   QAction* mnuCourseScale;
+  QAction* mnuCourseSail;
+  QAction* mnuCourseTack;
   QAction* mnuCourseLedger;
   QMenu* mnuLedger;  ///< pops up on the ledger
   QAction* mnuLedgerHide;

@@ -116,6 +116,7 @@ class PolarModel {
   /// Makes `source` the course, or, when it is the course already, leaves no course.
   void ChooseCourse(CourseSource source);
   void ToggleCourseScale() { m_settings.CourseScale = !m_settings.CourseScale; }
+  void ToggleTackByItself() { m_settings.TackByItself = !m_settings.TackByItself; }
   void Boat(BoatType type) { m_settings.Boat = type; }
 
   // Typed numbers: each is true when the text was a number that can be, and then took it.

@@ -19,6 +19,10 @@ class PolarObserver {
   /// averaged, with the averaged true wind at `windAngleTrue` [deg relative, negative to port].
   virtual void OnManoeuvre(TurnButton /*button*/, float /*newHeading*/, float /*heading*/,
                            float /*windAngleTrue*/) {}
+  /// The course is to be sailed from now on, or no more.
+  virtual void OnSailCourse(bool /*wanted*/) {}
+  /// The turn that the course prompts for is to be made now.
+  virtual void OnSailTurn() {}
 };
 
 }  // namespace veerwatch

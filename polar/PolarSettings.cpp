@@ -48,6 +48,8 @@ SettingTable<P> Course() {
        "polar plot > Boat"},
       {kData, "Smooth Between Winds", Truth(&P::SmoothWinds), "",
        "boat speeds lie on straight lines between the two neighbouring wind speeds", "polar plot > Polars"},
+      {kData, "Tack By Itself", Truth(&P::TackByItself), "",
+       "a course that is sailed tacks at the line without Enter", "polar plot > Course"},
   };
 }
 

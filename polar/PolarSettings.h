@@ -41,7 +41,8 @@ struct PolarSettings {
   CourseSource CourseWaypointIndex = CourseSource::None;
   float BoatMotorSpeed = 3.0F;  ///< under motor alone [kn]
   BoatType Boat = BoatType::SailOnly;
-  bool SmoothWinds = false;  ///< PolarTable::Smooth
+  bool SmoothWinds = false;   ///< PolarTable::Smooth
+  bool TackByItself = false;  ///< a course that is sailed tacks without being asked
 };
 
 /// Where the window stands, as the profile keeps it: the corner of its frame and its inner size [px].

@@ -25,6 +25,7 @@ frmPolar::frmPolar(const PolarParts& parts)
       m_canvas(new PolarCanvasQt(this)),
       lblMouse(new MouseReadoutQt(m_canvas)),
       m_course(m_canvas),
+      tbrSail(new SailBarQt(*this)),
       m_show(parts.Rest, [this] { ShowUpdate(); }) {
   setObjectName(QStringLiteral("frmPolar"));
   setWindowTitle(QStringLiteral("Veerwatch - Polar"));
@@ -87,6 +88,10 @@ void frmPolar::ConnectMenus() {
     OnItem(m_menu.mnuCourseWaypoint[i], [this, i] { m_model.ChooseCourse(static_cast<CourseSource>(i)); });
   }
   OnItem(m_menu.mnuCourseTargetBearing, [this] { m_questions.AskTargetBearing(); });
+  OnItem(m_menu.mnuCourseTack, [this] { m_model.ToggleTackByItself(); });
+  connect(m_menu.mnuCourseSail, &QAction::triggered, this,
+          [this](bool wanted) { m_parts.Tells.OnSailCourse(wanted); });
+  tbrSail->Turn = [this] { m_parts.Tells.OnSailTurn(); };
   OnItem(m_menu.mnuCourseScale, [this] { m_model.ToggleCourseScale(); });
   for (std::size_t i = 0; i < m_menu.mnuBoatType.size(); ++i) {
     OnItem(m_menu.mnuBoatType[i], [this, i] { m_model.Boat(static_cast<BoatType>(i)); });
@@ -138,6 +143,11 @@ void frmPolar::PolarStore() {
   if (const auto place = InnerPlace(*this)) {
     PolarPlaceStore(m_parts.Store, *place);
   }
+}
+
+void frmPolar::SailShow(const SailView& sails) {
+  m_menu.mnuCourseSail->setChecked(sails.Sails);
+  tbrSail->Show(sails);
 }
 
 void frmPolar::PolarFade(bool fade) {

@@ -18,6 +18,7 @@
 #include "polar/PolarObserver.h"
 #include "polar/PolarQuestions.h"
 #include "polar/PolarScene.h"
+#include "polar/SailBarQt.h"
 #include "settings/TrackMode.h"
 
 namespace veerwatch {
@@ -48,6 +49,9 @@ class frmPolar final : public QMainWindow {
 
   /// What the loop holds now, shown with the next values.
   void PolarHold(const PlotHold& hold) { m_model.Hold(hold); }
+
+  /// Shows the course that is sailed, or that none is.
+  void SailShow(const SailView& sails);
 
   /// The values have grown stale, or come again: what is made of them is in half tone.
   void PolarFade(bool fade);
@@ -100,6 +104,7 @@ class frmPolar final : public QMainWindow {
   PolarCanvasQt* m_canvas;
   MouseReadoutQt* lblMouse;
   CourseControlsQt m_course;
+  SailBarQt* tbrSail;
   CourseMemory m_memory;
   std::optional<LedgerContent> m_ledger;  ///< of the present course
   PacedQt m_show;

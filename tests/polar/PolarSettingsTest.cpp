@@ -42,7 +42,7 @@ TEST(PolarSettings, AreWrittenUnderTheirKeys) {
             "[Polar Data]\nFile 1=Fast Sled 60ft.pol\nFile 2=Fast Sled 60ft.pol\nPlot Average=2\n"
             "Plot Label WindSpeed=False\nPlot Type=0\nSpeed Color=0\nSpeed Factor=1\nSpeed Range=10\n"
             "Course Scale=True\nCourse Target Bearing=0\nCourse Waypoint=False\nCourse Waypoint Index=3\n"
-            "Boat Motor Speed=3\nBoat Type=0\nSmooth Between Winds=False\n");
+            "Boat Motor Speed=3\nBoat Type=0\nSmooth Between Winds=False\nTack By Itself=False\n");
 }
 
 TEST(PolarSettings, ComeBackAsTheyWere) {

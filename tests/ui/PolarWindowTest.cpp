@@ -46,12 +46,14 @@ TEST_F(PolarWindow, HasItsCaptionAndItsMenus) {
   EXPECT_THAT(Items(Find<QMenu>("mnuAverage")),
               ElementsAre("mnuAverage0=  None", "mnuAverage2=  2 Sec", "mnuAverage4=  4 Sec",
                           "mnuAverage8=  8 Sec", "mnuAverage16=16 Sec", "mnuAverage32=32 Sec"));
-  EXPECT_THAT(Items(Find<QMenu>("mnuCourse")),
-              ElementsAre("mnuCourseWaypoint(0)=Use Target Bearing", "mnuCourseWaypoint(1)=Use Waypoint Brg",
-                          "mnuCourseWaypoint(2)=Use Waypoint Rng, Brg", "mnuCourseTargetSeparator=-",
-                          "mnuCourseTargetBearing=Set Target Bearing (0 M)...",
-                          "mnuCourseScale=Scale Projected Times and Speeds by Current Boat Speed",
-                          "mnuSeparator8=-", "mnuCourseLedger=Show Course Ledger"));
+  EXPECT_THAT(
+      Items(Find<QMenu>("mnuCourse")),
+      ElementsAre("mnuCourseWaypoint(0)=Use Target Bearing", "mnuCourseWaypoint(1)=Use Waypoint Brg",
+                  "mnuCourseWaypoint(2)=Use Waypoint Rng, Brg", "mnuCourseTargetSeparator=-",
+                  "mnuCourseTargetBearing=Set Target Bearing (0 M)...",
+                  "mnuCourseScale=Scale Projected Times and Speeds by Current Boat Speed",
+                  "mnuCourseSailSeparator=-", "mnuCourseSail=Sail the Course", "mnuCourseTack=Tack By Itself",
+                  "mnuSeparator8=-", "mnuCourseLedger=Show Course Ledger"));
   EXPECT_THAT(Items(Find<QMenu>("mnuBoat")),
               ElementsAre("mnuBoatType(0)=Sail Only", "mnuBoatType(1)=Motor and Sail", "mnuSeparator7=-",
                           "mnuBoatMotorSpeed=Set Motor Only Speed to Target/Waypoint (3.0 Kts)..."));
