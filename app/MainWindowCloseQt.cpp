@@ -16,6 +16,7 @@ void frmMain::CloseUnasked() {
   }
   m_ask = false;
   m_unasked = true;
+  m_profiles.Stay();
   close();
 }
 
@@ -32,6 +33,8 @@ void frmMain::AskToStop() {
                      if (yes) {
                        m_ask = false;
                        close();
+                     } else {
+                       m_profiles.Stay();
                      }
                    });
 }
@@ -40,6 +43,9 @@ void frmMain::closeEvent(QCloseEvent* event) {
   if (m_unloaded) {
     event->accept();
     return;
+  }
+  if (event->spontaneous()) {
+    m_profiles.Stay();
   }
   if (m_ask && m_tbrTrack->Button(TrackMode::Track)->isChecked()) {
     AskToStop();
@@ -88,6 +94,24 @@ void frmMain::KeepSettings() {
     NoticeSet(AlarmKind::Profile, text);
   }
   NoticeSet(AlarmKind::Save, m_saveFailure.empty() ? "" : "Settings not saved: " + m_saveFailure);
+}
+
+ProfilesMenuQt::Does frmMain::ProfileWishes() {
+  return {[this] {
+            m_others.Store();
+            Profile present = m_parts.Store;
+            ProfileWrite(present, *this, m_others);
+            return present;
+          },
+          [this] {
+            KeepSettings();
+            return m_saveFailure;
+          },
+          [this] { close(); },
+          [this] {
+            m_parts.ProfileFile = m_sProfileFile = m_parts.Profiles->File().string();
+            ShowTitle();
+          }};
 }
 
 std::string frmMain::Keepable() {

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "app/ProfileDesk.h"
 #include "platform/Clock.h"
 #include "platform/CommandRunner.h"
 #include "platform/Dialogs.h"
@@ -34,6 +35,7 @@ struct MainWindowParts {
   CommandRunner* Buzzer = nullptr;     ///< runs the command of an alarm
   const PortFinder* Finder = nullptr;  ///< knows the serial ports that are plugged in
   Timer* tmrPilot = nullptr;           ///< ticks into frmMain::tmrPilot_Timer()
+  ProfileDesk* Profiles = nullptr;     ///< the profiles that can be chosen
 };
 
 }  // namespace veerwatch

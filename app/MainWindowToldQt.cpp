@@ -80,7 +80,10 @@ void frmMain::OnWatch(const WatchNow& watch) {
 }
 
 void frmMain::ShowTitle() {
+  const QString profile = m_profiles.Shown();
+  const QString named = profile.isEmpty() ? QString() : QStringLiteral(" - ") + profile;
   if (m_wind.isEmpty()) {
+    setWindowTitle(QString::fromLatin1(kApplicationTitle) + named);
     return;
   }
   const FigureLook look = LookOf(m_watch.Of(Watched::WindTrue), m_watch.Mode, m_bWatchBlankLost);
@@ -88,6 +91,7 @@ void frmMain::ShowTitle() {
   if (look.Half) {
     caption += look.Age.empty() ? QStringLiteral(" (Off)") : QStringLiteral(" (%1 old)").arg(Text(look.Age));
   }
+  caption += named;
   if (m_parts.Asks.IsForeground()) {
     caption.prepend(QString::fromLatin1(kApplicationTitle) + QStringLiteral(" - "));
   }

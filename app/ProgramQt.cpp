@@ -8,11 +8,12 @@
 
 #include "app/CommandLine.h"
 #include "app/PortMakerQt.h"
+#include "app/ProfileDesk.h"
 #include "app/ProfileLocation.h"
 #include "app/SessionQt.h"
+#include "app/ThemeQt.h"
 #include "app/frmMain.h"
 #include "platform/ApplicationQt.h"
-#include "platform/AtomicFile.h"
 #include "platform/CommandRunnerQt.h"
 #include "platform/DialogsQt.h"
 #include "platform/LanguageQt.h"
@@ -144,9 +145,32 @@ int TellUnsaved(const frmMain& window, DialogsQt& dialogs) {
   return kNotSaved;
 }
 
-/// The program with its ports, timers and windows, until the last window is closed; its exit status.
-int Sail(ApplicationQt& application, const std::filesystem::path& profileFile,
-         const std::function<void(QWidget&)>& started) {
+/// What the program is, from one profile to the next.
+struct Program {
+  ApplicationQt& Application;
+  ProfileDesk& Profiles;
+  const std::function<void(QWidget&)>& Started;
+  frmMain* Window = nullptr;  ///< while there is one
+  bool Changed = false;       ///< the profile was chosen by the user
+};
+
+/// Somebody wants the program to end.
+void End(const Program& program) {
+  if (program.Window == nullptr) {
+    return;
+  }
+  program.Window->CloseUnasked();
+  // Only the message about the settings may be left.
+  if (program.Window->isHidden()) {
+    QApplication::quit();
+  }
+}
+
+/// The program with its ports, timers and windows on the profile in use, until the last window is closed; its
+/// exit status.
+int Sail(Program& program) {
+  InstallLanguage(LanguageOf(program.Profiles.File()));
+  WearNightColours(false);
   DialogsQt dialogs;
   Profile profile;
   const SystemClock clock;
@@ -162,32 +186,42 @@ int Sail(ApplicationQt& application, const std::filesystem::path& profileFile,
   const PortFinderQt finder;
 
   frmMain window({MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, TimerTack, clock, random, dialogs, profile,
-                  profileFile.string(), PolarFiles(), ManualPage(), &tone, &buzzer, &finder, &tmrPilot});
+                  program.Profiles.File().string(), PolarFiles(), ManualPage(), &tone, &buzzer, &finder,
+                  &tmrPilot, &program.Profiles});
   dialogs.Window(&window);
   tmrNmea.Ticks([&window] { window.tmrNmea_Timer(); });
   tmrUnload.Ticks([&window] { window.tmrUnload_Timer(); });
   TimerTack.Ticks([&window] { window.TimerTack_Timer(); });
   tmrPilot.Ticks([&window] { window.tmrPilot_Timer(); });
-  OnTerminationRequest(&window, [&window] {
-    window.CloseUnasked();
-    // Only the message about the settings may be left.
-    if (window.isHidden()) {
-      QApplication::quit();
-    }
-  });
   TimerQt tmrSave(QStringLiteral("tmrSave"));
   tmrSave.Interval(kSaveInterval);
   tmrSave.Ticks([&window] { window.tmrSave_Timer(); });
-  const SessionQt session(application, window);
+  const SessionQt session(program.Application, window);
 
-  window.Form_Load();
+  program.Window = &window;
+  window.Form_Load(program.Changed);
   window.ShowInFront();
-  if (started) {
-    started(window);
+  if (program.Started) {
+    program.Started(window);
   }
   tmrSave.Enabled(true);
   const int status = QApplication::exec();
-  return window.SaveFailure().empty() ? status : TellUnsaved(window, dialogs);
+  const int ended = window.SaveFailure().empty() ? status : TellUnsaved(window, dialogs);
+  program.Window = nullptr;
+  return ended;
+}
+
+/// Sails with the profile in use, and on with each that the user chooses.
+int SailOn(Program program) {
+  OnTerminationRequest(&program.Application, [&program] { End(program); });
+  int status = Sail(program);
+  while (program.Profiles.Change()) {
+    // The end of the last window is not that of the program.
+    QCoreApplication::removePostedEvents(&program.Application, QEvent::Quit);
+    program.Changed = true;
+    status = Sail(program);
+  }
+  return status;
 }
 
 }  // namespace
@@ -214,15 +248,15 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
 
   InstallLanguage(LanguageOf(profileFile));
   std::filesystem::create_directories(profileFile.parent_path(), error);
-  const ProfileLock lock(LinkTarget(profileFile, error));
-  if (DialogsQt dialogs; !Taken(lock, profileFile, dialogs)) {
+  ProfileDesk profiles(profileFile);
+  if (DialogsQt dialogs; !Taken(profiles.Lock(), profileFile, dialogs)) {
     // Until the message is closed.
     QApplication::exec();
     constexpr int kRunsAlready = 3;
     return kRunsAlready;
   }
 
-  return Sail(application, profileFile, started);
+  return SailOn({application, profiles, started});
 }
 
 }  // namespace veerwatch

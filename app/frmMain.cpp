@@ -54,9 +54,10 @@ frmMain::frmMain(const MainWindowParts& parts)
       m_recording(m_parts, m_menu, m_helm, *m_asks, *statusBar(),
                   [this](const std::string& text) { NoticeSet(AlarmKind::Record, text); }),
       m_windMenu(*this, m_menu, *this, m_helm,
-                 [this](const std::string& text) { NoticeSet(AlarmKind::Wind, text); }) {
+                 [this](const std::string& text) { NoticeSet(AlarmKind::Wind, text); }),
+      m_profiles(parts.Profiles, *m_menu.mnuFileProfiles, *m_asks, ProfileWishes()) {
   setObjectName(QStringLiteral("frmMain"));
-  setWindowTitle(QString::fromLatin1(kApplicationTitle));
+  ShowTitle();
   setWindowIcon(ProgramIcon());
   setCentralWidget(m_panel);
   setMinimumSize(kSmallestSize);
@@ -102,7 +103,10 @@ void frmMain::MakeStatusBar() {
 
 void frmMain::ConnectControls() {
   connect(m_menu.mnuFileDefault, &QAction::triggered, this, [this] { ProfileRecall(false); });
-  connect(m_menu.mnuFileExit, &QAction::triggered, this, &QWidget::close);
+  connect(m_menu.mnuFileExit, &QAction::triggered, this, [this] {
+    m_profiles.Stay();
+    close();
+  });
   connect(m_menu.mnuViewNight, &QAction::toggled, this, [this](bool checked) {
     m_bNightColours = checked;
     WearNightColours(checked);
@@ -153,7 +157,11 @@ void frmMain::ApplyTheme() {
   m_status->Theme(theme);
 }
 
-void frmMain::Form_Load() { ProfileRecall(true); }
+void frmMain::Form_Load(bool changed) {
+  m_staysOff = changed;
+  ProfileRecall(true);
+  m_staysOff = false;
+}
 
 void frmMain::ShowInFront() {
   show();
@@ -184,9 +192,13 @@ void frmMain::ProfileRecall(bool recall) {
   for (int index = 1; index <= 2; ++index) {
     m_panel->txtDesired[At(index)]->Show(Number(DesiredAngle[static_cast<std::size_t>(index)], "0"));
   }
-  TrackSetSetup();
-  if (m_bSimulate) {
-    TrackSetManual();
+  if (m_staysOff) {
+    TrackSetOff();
+  } else {
+    TrackSetSetup();
+    if (m_bSimulate) {
+      TrackSetManual();
+    }
   }
   m_others.OptionsReload();
   if (recall) {

@@ -16,6 +16,7 @@
 #include "app/InstrumentPanelQt.h"
 #include "app/MainWindowParts.h"
 #include "app/OtherWindowsQt.h"
+#include "app/ProfilesMenuQt.h"
 #include "app/RecordingQt.h"
 #include "app/SaveWatch.h"
 #include "app/SentAge.h"
@@ -34,8 +35,9 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   explicit frmMain(const MainWindowParts& parts);
   ~frmMain() override;
 
-  /// Reads the profile and goes to Setup, or to Manual when simulating. Once, before the window is shown.
-  void Form_Load();
+  /// Reads the profile and goes to Setup, or to Manual when simulating; or stays Off after a change of the
+  /// profile. Once, before the window is shown.
+  void Form_Load(bool changed = false);
 
   /// Shows the window in front of those that the profile has opened again.
   void ShowInFront();
@@ -166,6 +168,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void ExplainOutput();
   /// The caption, with the age of its wind.
   void ShowTitle();
+  /// What "File > Profiles" needs of the window.
+  ProfilesMenuQt::Does ProfileWishes();
 
   MainWindowParts m_parts;
   std::unique_ptr<WindowDialogs> m_asks;
@@ -180,6 +184,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   AlarmDeskQt m_alarms;
   RecordingQt m_recording;
   WindMenuQt m_windMenu;
+  ProfilesMenuQt m_profiles;
+  bool m_staysOff = false;      ///< the profile is read and nothing begins
   bool m_ask = true;            ///< a close still has to ask
   QString m_instead;            ///< shown in place of the mode: why Track was refused, or a turn has ended
   QString m_prompt;             ///< the turn that a course prompts for

@@ -59,6 +59,8 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   mnuFileDefault = Command(window, file, "mnuFileDefault", "&Default");
   mnuFileRecord = Command(window, file, "mnuFileRecord", "&Record Input...");
   mnuFileRecord->setCheckable(true);
+  mnuFileProfiles = file->addMenu(TrQ("&Profiles"));
+  mnuFileProfiles->setObjectName(QStringLiteral("mnuFileProfiles"));
   file->addSeparator();
   mnuFileExit = Command(window, file, "mnuFileExit", "E&xit");
   mnuFileExit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));

@@ -4,6 +4,7 @@
 #include <QAction>
 #include <QActionGroup>
 #include <QMainWindow>
+#include <QMenu>
 #include <QToolBar>
 #include <map>
 
@@ -17,6 +18,7 @@ namespace veerwatch {
 struct frmMainMenu {
   QAction* mnuFileDefault;
   QAction* mnuFileRecord;
+  QMenu* mnuFileProfiles;
   QAction* mnuFileExit;
   QAction* mnuViewDiagram;
   QAction* mnuViewHistory;

@@ -82,14 +82,18 @@ TEST_F(SimulatedBoatTest, TrackHoldsTheTrueWindOverGustsShiftsAndSea) {
   m_helm.Modes().TrackSetTrack();
   ASSERT_EQ(m_settings.m_eTrackMode, TrackMode::Track);
   const auto held = static_cast<double>(m_settings.DesiredAngle[2]);
+  const double before = Heading();
+  m_settings.m_fSimulateTrueWindAngle += 40.0F;
+  Sail(180);
+  EXPECT_NEAR(Between(Heading(), before), 40.0, 12.0) << "a boat that does not turn loses the angle";
   double sum = 0.0;
   double turned = 0.0;
   constexpr int kSeconds = 600;
   for (int second = 0; second < kSeconds; ++second) {
-    const double before = Heading();
+    const double last = Heading();
     Sail(1);
     sum += std::fabs(Between(static_cast<double>(m_helm.Data().WindAngleTrue), held));
-    turned += std::fabs(Between(Heading(), before));
+    turned += std::fabs(Between(Heading(), last));
   }
   EXPECT_LT(sum / kSeconds, 6.0);
   EXPECT_GT(turned / kSeconds, 0.1) << "a boat that never moves would hold anything";
