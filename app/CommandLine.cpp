@@ -30,6 +30,8 @@ CommandLine ReadCommandLine(int argc, const char* const* argv) {
       line.Help = true;
     } else if (word == "-v" || word == "--version") {
       line.Version = true;
+    } else if (word == "--diagnose") {
+      line.Diagnose = true;
     } else if (word == kProfile && at + 1 < argc) {
       line.Profile = argv[++at];
     } else if (word.starts_with(kProfile) && word.substr(kProfile.size()).starts_with('=')) {
@@ -47,10 +49,11 @@ CommandLine ReadCommandLine(int argc, const char* const* argv) {
 }
 
 std::string CommandLineHelp() {
-  return "Usage: veerwatch [--profile FILE]\n"
+  return "Usage: veerwatch [--profile FILE] [--diagnose]\n"
          "Steers a boat's autopilot by the wind.\n"
          "\n"
          "  --profile FILE  keep the settings in FILE instead of the usual place\n"
+         "  --diagnose      listen for ten seconds, print a report without positions and names, and end\n"
          "  -h, --help      show this help and end\n"
          "  -v, --version   show the version and end\n"
          "\n"

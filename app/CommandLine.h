@@ -10,6 +10,7 @@ namespace veerwatch {
 struct CommandLine {
   bool Help = false;
   bool Version = false;
+  bool Diagnose = false;
   std::optional<std::string> Profile;  ///< the file to keep the settings in, its bytes as they were given
   std::string Trouble;                 ///< what is wrong with it, as one line; "" when nothing is
 };

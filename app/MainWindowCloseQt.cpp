@@ -96,13 +96,15 @@ void frmMain::KeepSettings() {
   NoticeSet(AlarmKind::Save, m_saveFailure.empty() ? "" : "Settings not saved: " + m_saveFailure);
 }
 
+Profile frmMain::Present() {
+  m_others.Store();
+  Profile present = m_parts.Store;
+  ProfileWrite(present, *this, m_others);
+  return present;
+}
+
 ProfilesMenuQt::Does frmMain::ProfileWishes() {
-  return {[this] {
-            m_others.Store();
-            Profile present = m_parts.Store;
-            ProfileWrite(present, *this, m_others);
-            return present;
-          },
+  return {[this] { return Present(); },
           [this] {
             KeepSettings();
             return m_saveFailure;

@@ -7,6 +7,7 @@
 #include <random>
 
 #include "app/CommandLine.h"
+#include "app/DiagnosisQt.h"
 #include "app/PortMakerQt.h"
 #include "app/ProfileDesk.h"
 #include "app/ProfileLocation.h"
@@ -211,6 +212,17 @@ int Sail(Program& program) {
   return ended;
 }
 
+/// Prints the report of the profile; the exit status of the program.
+int Diagnose(int argc, char* argv[]) {
+  const QCoreApplication application(argc, argv);
+  const CommandLine line = ReadCommandLine(argc, argv);
+  std::error_code error;
+  const DiagnosisQt diagnosis(line.Profile ? std::filesystem::absolute(*line.Profile, error) : ProfileFile());
+  QCoreApplication::exec();
+  const std::string text = diagnosis.Text();
+  return std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0 ? 0 : 1;
+}
+
 /// Sails with the profile in use, and on with each that the user chooses.
 int SailOn(Program program) {
   OnTerminationRequest(&program.Application, [&program] { End(program); });
@@ -229,6 +241,9 @@ int SailOn(Program program) {
 int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& started) {
   if (Answered(ReadCommandLine(argc, argv))) {
     return 0;
+  }
+  if (const CommandLine asked = ReadCommandLine(argc, argv); asked.Diagnose && asked.Trouble.empty()) {
+    return Diagnose(argc, argv);
   }
   QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
   // It takes its own options away.

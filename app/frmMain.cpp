@@ -55,7 +55,8 @@ frmMain::frmMain(const MainWindowParts& parts)
                   [this](const std::string& text) { NoticeSet(AlarmKind::Record, text); }),
       m_windMenu(*this, m_menu, *this, m_helm,
                  [this](const std::string& text) { NoticeSet(AlarmKind::Wind, text); }),
-      m_profiles(parts.Profiles, *m_menu.mnuFileProfiles, *m_asks, ProfileWishes()) {
+      m_profiles(parts.Profiles, *m_menu.mnuFileProfiles, *m_asks, ProfileWishes()),
+      m_report(m_parts, m_menu, m_helm, *m_asks, [this] { return Present(); }) {
   setObjectName(QStringLiteral("frmMain"));
   ShowTitle();
   setWindowIcon(ProgramIcon());

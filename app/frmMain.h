@@ -18,6 +18,7 @@
 #include "app/OtherWindowsQt.h"
 #include "app/ProfilesMenuQt.h"
 #include "app/RecordingQt.h"
+#include "app/ReportQt.h"
 #include "app/SaveWatch.h"
 #include "app/SentAge.h"
 #include "app/StatusPanelsQt.h"
@@ -168,6 +169,8 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   void ExplainOutput();
   /// The caption, with the age of its wind.
   void ShowTitle();
+  /// The profile as it would be written now.
+  Profile Present();
   /// What "File > Profiles" needs of the window.
   ProfilesMenuQt::Does ProfileWishes();
 
@@ -185,6 +188,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   RecordingQt m_recording;
   WindMenuQt m_windMenu;
   ProfilesMenuQt m_profiles;
+  ReportQt m_report;
   bool m_staysOff = false;      ///< the profile is read and nothing begins
   bool m_ask = true;            ///< a close still has to ask
   QString m_instead;            ///< shown in place of the mode: why Track was refused, or a turn has ended

@@ -102,6 +102,8 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   mnuHelpManual->setShortcutContext(Qt::ApplicationShortcut);
   help->addSeparator();
   mnuHelpDiagram = Command(window, help, "mnuHelpDiagram", "&Block Diagram...");
+  mnuHelpReport = help->addAction(TrQ("Save &Report..."));
+  mnuHelpReport->setObjectName(QStringLiteral("mnuHelpReport"));
   mnuHelpAbout = Command(window, help, "mnuHelpAbout", "&About...");
 }
 

@@ -44,6 +44,7 @@ struct frmMainMenu {
   QAction* mnuWindLimits;
   QAction* mnuHelpManual;
   QAction* mnuHelpDiagram;
+  QAction* mnuHelpReport;
   QAction* mnuHelpAbout;
 
   /// Adds the menu to the menu bar of `window`.

@@ -71,5 +71,17 @@
         <source>The settings could not be saved, so they stay in use:</source>
         <translation>Die Einstellungen konnten nicht gespeichert werden und bleiben in Gebrauch:</translation>
     </message>
+    <message>
+        <source>Save Report</source>
+        <translation>Bericht speichern</translation>
+    </message>
+    <message>
+        <source>Report (*.txt)</source>
+        <translation>Bericht (*.txt)</translation>
+    </message>
+    <message>
+        <source>Save &amp;Report...</source>
+        <translation>&amp;Bericht speichern...</translation>
+    </message>
 </context>
 </TS>

@@ -28,7 +28,8 @@ struct SettingValue {
   std::function<void(const Profile&, std::string_view section, std::string_view key, Struct&)> Read;
   /// Sets a key.
   std::function<void(Profile&, std::string_view section, std::string_view key, const Struct&)> Write;
-  std::string Range;  ///< what it can be, in words
+  std::string Range;      ///< what it can be, in words
+  bool FreeText = false;  ///< the user writes it: it may be the name of anything
 
   // Of a number, for entry boxes.
   float Struct::*Member = nullptr;  ///< null for what is no plain number
@@ -179,6 +180,7 @@ SettingValue<StructOf<Where>> Text(Where where, const std::string& what) {
   using Struct = StructOf<Where>;
   SettingValue<Struct> value;
   value.Range = what;
+  value.FreeText = true;
   value.Read = [where](const Profile& profile, std::string_view section, std::string_view key, Struct& all) {
     profile.ProfileGet(section, key, At(all, where));
   };

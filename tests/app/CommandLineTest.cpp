@@ -36,6 +36,14 @@ TEST(CommandLine, AsksForHelpOrTheVersion) {
   EXPECT_FALSE(Read({"--", "--help"}).Help);
 }
 
+TEST(CommandLine, AsksForTheReport) {
+  EXPECT_FALSE(Read({}).Diagnose);
+  const CommandLine line = Read({"--diagnose", "--profile", "a.ini"});
+  EXPECT_TRUE(line.Diagnose);
+  EXPECT_EQ(line.Profile, "a.ini");
+  EXPECT_EQ(line.Trouble, "");
+}
+
 TEST(CommandLine, NamesAProfileInItsOwnBytes) {
   EXPECT_EQ(Read({"--profile", "a.ini"}).Profile, "a.ini");
   EXPECT_EQ(Read({"--profile=a=b.ini"}).Profile, "a=b.ini");

@@ -1,12 +1,13 @@
 // The simulator's boat: the program steers her, and her pilot reads nothing but its sentences.
 #include "helm/SimulatedBoat.h"
 
-#include <array>
 #include <cmath>
+#include <cstdint>
 #include <limits>
 #include <string>
 
-#include "instruments/MathLib.h"
+#include "control/PilotTest.h"
+#include "platform/Random.h"
 #include "tests/helm/HelmFixture.h"
 
 namespace veerwatch {
@@ -123,6 +124,46 @@ TEST_F(SimulatedBoatTest, AVaneModePilotTurnsWithTheWind) {
   m_settings.m_fSimulateTrueWindAngle += 40.0F;
   Sail(180);
   EXPECT_NEAR(Between(Heading(), before), 40.0, 12.0);
+}
+
+/// Tries the pilot as the options do.
+class TriedPilot final : private HelmObserver {
+ public:
+  explicit TriedPilot(Helm& helm) : m_helm(helm), m_told(helm.Observers().Join(*this)) {}
+
+  PilotTestResult Result(HandClock& clock, HandTimer& timer, float bearing) {
+    m_now = clock.Now().Steady;
+    m_test.Begin(bearing, m_now);
+    while (m_test.Runs()) {
+      clock.Pass(1000);
+      m_now = clock.Now().Steady;
+      timer.Tick();
+      m_test.Tick(m_now);
+      m_helm.TurnSteersTo(m_test.Bearing());
+    }
+    return m_test.Result();
+  }
+
+ private:
+  void OnHeading(float heading) override { m_test.Heading(heading, m_now); }
+
+  Helm& m_helm;
+  PilotTest m_test;
+  std::int64_t m_now = 0;
+  HelmObservers::Membership m_told;
+};
+
+TEST_F(SimulatedBoatTest, HerPilotCanBeTested) {
+  Begin();
+  Sail(120);
+  const PilotTestResult follows = TriedPilot(m_helm).Result(m_clock, m_timer, m_settings.m_fAutoPilot);
+  EXPECT_EQ(follows.Verdict, FollowVerdict::Follows);
+  ASSERT_TRUE(follows.Lag);
+  EXPECT_GT(*follows.Lag, 1.0);
+  EXPECT_LT(*follows.Lag, 12.0);
+  m_settings.m_eSimulatePilot = PilotReads::Nothing;
+  const PilotTestResult deaf = TriedPilot(m_helm).Result(m_clock, m_timer, m_settings.m_fAutoPilot);
+  EXPECT_EQ(deaf.Verdict, FollowVerdict::DoesNotFollow);
 }
 
 TEST_F(SimulatedBoatTest, BeginsAnewWithTheInput) {
