@@ -1,10 +1,12 @@
 #include "app/OtherWindowsQt.h"
 
 #include <QScreen>
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 
 #include "app/IconsQt.h"
+#include "app/PlotTurnOf.h"
 #include "app/TurnAimOf.h"
 #include "draw/DrawQt.h"
 #include "draw/WindowPlaceQt.h"
@@ -49,9 +51,10 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
       m_menu(menu),
       m_main(main),
       m_window(window),
+      m_run(turns.Run),
       m_recorded(main.Observers(), main.Record()),
       m_told(main.Observers().Join(*this)),
-      m_turns({main, turns.Run, turns.Asks, *window, turns.Say, [this]() -> frmTack& { return Tack(); },
+      m_turns({main, turns.Run, turns.Asks, *window, menu, turns.Say, [this]() -> frmTack& { return Tack(); },
                [this] { return m_tack.get(); }, [this](bool upwind) { return BestAim(upwind); }}),
       m_sails({main, turns.Boat, turns.Run, turns.Asks, *window, turns.Say, turns.Notice, turns.Sound,
                [this]() -> frmPolar& { return Polar(); }, [this] { return Tack().Kept(); },
@@ -188,15 +191,30 @@ void OtherWindowsQt::PolarShow() {
   m_menu.mnuViewPolar->setChecked(true);
 }
 
+std::optional<PlotTurn> OtherWindowsQt::TurnToCome() const {
+  const InstrumentData& data = m_main.Record().Data();
+  if (m_run.Running()) {
+    return PlotTurnOf(m_run.Made(), std::max(0.0, m_run.Engine().Turned()), data);
+  }
+  auto plan = m_sails.Ahead();
+  if (!plan && m_tack) {
+    plan = m_tack->Ahead();
+  }
+  return plan ? std::optional(PlotTurnOf(*plan, 0.0, data)) : std::nullopt;
+}
+
 PlotHold OtherWindowsQt::HoldNow(TrackMode mode) const {
   PlotHold hold;
+  hold.Turn = TurnToCome();
   if (mode != TrackMode::Track) {
     return hold;
   }
   if (m_watch.Side == TrackSide::Apparent) {
     hold.Apparent = m_main.DesiredAngle[1];
+    hold.True = HeldInOtherWind(TrackSide::Apparent, *hold.Apparent, m_main.Record().Data());
   } else {
     hold.True = m_main.DesiredAngle[2];
+    hold.Apparent = HeldInOtherWind(TrackSide::True, *hold.True, m_main.Record().Data());
   }
   if (m_main.m_bWindGuard) {
     hold.LeastApparent = m_main.m_fWindLeastApparent;
@@ -327,8 +345,14 @@ void OtherWindowsQt::DiagramLights() {
   if (!m_diagram) {
     return;
   }
-  m_diagram->ShowState(DiagramStateOf({m_main.Now().Input, NmeaPortOpen(), m_main.m_eTrackMode,
-                                       m_main.m_bSimulate, PilotPortOpen(), AnyGone(m_watch)}));
+  const HelmNow now = m_main.Now();
+  DiagramSystem system{now.Input,          NmeaPortOpen(),  m_main.m_eTrackMode,
+                       m_main.m_bSimulate, PilotPortOpen(), AnyGone(m_watch)};
+  system.Turns = now.Hand == PilotHand::Turn;
+  system.Sails = m_sails.Sails();
+  system.WindFunctions =
+      m_main.m_bWindGuard || m_main.m_bWindShift || m_main.m_bWindSide || m_main.m_bWindPolar;
+  m_diagram->ShowState(DiagramStateOf(system));
 }
 
 void OtherWindowsQt::OnDiagramOptions(int tab, const DiagramAnchor& anchor) {

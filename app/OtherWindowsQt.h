@@ -127,6 +127,8 @@ class OtherWindowsQt final : private HelmObserver,
   void OnWatch(const WatchNow& watch) override;
   void FadePolar();
   PlotHold HoldNow(TrackMode mode) const;
+  /// The turn that runs, is prompted for, or stands in the dialog.
+  std::optional<PlotTurn> TurnToCome() const;
 
   bool NmeaPortOpen() const override { return m_parts.MSCommNmea.PortOpen(); }
   bool PilotPortOpen() const override;
@@ -135,6 +137,7 @@ class OtherWindowsQt final : private HelmObserver,
   const frmMainMenu& m_menu;
   MainWindowApi& m_main;
   QWidget* m_window;
+  const TurnRun& m_run;
   WindRecorder m_recorded;
   HelmObservers::Membership m_told;
   WatchNow m_watch;                       ///< what the watch said last

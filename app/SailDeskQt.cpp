@@ -108,6 +108,14 @@ void SailDeskQt::Turn() {
   });
 }
 
+std::optional<TurnPlan> SailDeskQt::Ahead() const {
+  if (m_run.Prompt().empty()) {
+    return std::nullopt;
+  }
+  const TurnPlan plan = m_run.Plan();
+  return plan.Refusal.empty() ? std::optional(plan) : std::nullopt;
+}
+
 bool SailDeskQt::Listens() const {
   if (m_run.Prompt().empty() || QApplication::activePopupWidget() != nullptr ||
       QApplication::activeModalWidget() != nullptr) {

@@ -39,6 +39,10 @@ class SailDeskQt final : public QObject {
   /// The turn that is prompted for begins, perhaps after a question.
   void Turn();
 
+  bool Sails() const { return m_run.Running(); }
+  /// The turn that is prompted for.
+  std::optional<TurnPlan> Ahead() const;
+
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

@@ -16,18 +16,10 @@ WindCrossing NamedBy(ManoeuvreKind kind) {
 
 }  // namespace
 
-TurnDeskQt::TurnDeskQt(Parts parts)
-    : m_parts(std::move(parts)),
-      m_tack(QKeySequence(Qt::CTRL | Qt::Key_T), &m_parts.Window),
-      m_jibe(QKeySequence(Qt::CTRL | Qt::Key_J), &m_parts.Window),
-      m_opener(&m_parts.Window) {
-  for (const auto& [key, kind] :
-       {std::pair{&m_tack, ManoeuvreKind::Tack}, std::pair{&m_jibe, ManoeuvreKind::Jibe}}) {
-    // In whichever window of the program.
-    key->setContext(Qt::ApplicationShortcut);
-    key->setAutoRepeat(false);
-    connect(key, &QShortcut::activated, this, [this, asked = kind] { KeyTurn(asked); });
-  }
+TurnDeskQt::TurnDeskQt(Parts parts) : m_parts(std::move(parts)), m_opener(&m_parts.Window) {
+  connect(m_parts.Menu.mnuTurnTack, &QAction::triggered, this, [this] { KeyTurn(ManoeuvreKind::Tack); });
+  connect(m_parts.Menu.mnuTurnJibe, &QAction::triggered, this, [this] { KeyTurn(ManoeuvreKind::Jibe); });
+  connect(m_parts.Menu.mnuTurnStop, &QAction::triggered, this, [this] { Stop(); });
   m_parts.Run.Changed([this] { Show(); });
   QApplication::instance()->installEventFilter(this);
 }

@@ -3,12 +3,12 @@
 #pragma once
 
 #include <QObject>
-#include <QShortcut>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 
+#include "app/frmMainCommands.h"
 #include "helm/MainWindowApi.h"
 #include "platform/Dialogs.h"
 #include "tack/frmTack.h"
@@ -24,6 +24,7 @@ class TurnDeskQt final : public QObject, public FollowedTurns {
     TurnRun& Run;
     WindowDialogs& Asks;  ///< of the main window
     QWidget& Window;      ///< the main window
+    const frmMainMenu& Menu;
     /// One line for the status bar.
     std::function<void(const std::string&)> Say;
     /// The manoeuvre dialog, made where it is not there yet.
@@ -53,8 +54,6 @@ class TurnDeskQt final : public QObject, public FollowedTurns {
   void Show();
 
   Parts m_parts;
-  QShortcut m_tack;
-  QShortcut m_jibe;
   QWidget* m_opener;
   std::unique_ptr<frmTurn> m_window;  ///< null until the first such turn
 };

@@ -95,6 +95,7 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   AddWind(window, options);
   options->addSeparator();
   mnuOptionsRecommended = Command(window, options, "mnuOptionsRecommended", "&Recommended...");
+  AddTurns(window);
   QMenu* help = window.menuBar()->addMenu(QStringLiteral("&Help"));
   mnuHelpManual = Command(window, help, "mnuHelpManual", "&Manual");
   mnuHelpManual->setShortcut(QKeySequence(Qt::Key_F1));
@@ -105,6 +106,26 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   mnuHelpReport = help->addAction(TrQ("Save &Report..."));
   mnuHelpReport->setObjectName(QStringLiteral("mnuHelpReport"));
   mnuHelpAbout = Command(window, help, "mnuHelpAbout", "&About...");
+}
+
+void frmMainMenu::AddTurns(QMainWindow& window) {
+  QMenu* turn = window.menuBar()->addMenu(QStringLiteral("&Turn"));
+  turn->setToolTipsVisible(true);
+  mnuTurnTack = Command(window, turn, "mnuTurnTack", "&Tack");
+  mnuTurnTack->setToolTip(QStringLiteral("In Track: through the wind, and track the other tack"));
+  mnuTurnTack->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
+  mnuTurnJibe = Command(window, turn, "mnuTurnJibe", "&Jibe");
+  mnuTurnJibe->setToolTip(QStringLiteral("In Track: the stern through the wind, and track the other tack"));
+  mnuTurnJibe->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_J));
+  for (QAction* action : {mnuTurnTack, mnuTurnJibe}) {
+    // In whichever window of the program.
+    action->setShortcutContext(Qt::ApplicationShortcut);
+    action->setAutoRepeat(false);
+  }
+  turn->addSeparator();
+  // The key is shown only: it ends a turn wherever the keyboard is.
+  mnuTurnStop = Command(window, turn, "mnuTurnStop", "&Stop\tEsc");
+  mnuTurnStop->setToolTip(QStringLiteral("End the turn here and leave the pilot where it is"));
 }
 
 void frmMainMenu::AddLanguage(QMainWindow& window, QMenu* view) {

@@ -42,6 +42,9 @@ struct frmMainMenu {
   QAction* mnuWindDodge;
   QAction* mnuWindLast;
   QAction* mnuWindLimits;
+  QAction* mnuTurnTack;
+  QAction* mnuTurnJibe;
+  QAction* mnuTurnStop;
   QAction* mnuHelpManual;
   QAction* mnuHelpDiagram;
   QAction* mnuHelpReport;
@@ -56,6 +59,7 @@ struct frmMainMenu {
  private:
   void AddLanguage(QMainWindow& window, QMenu* view);
   void AddWind(QMainWindow& window, QMenu* options);
+  void AddTurns(QMainWindow& window);
 };
 
 /// Size at which the window starts where the screen allows [px].

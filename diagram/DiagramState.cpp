@@ -24,14 +24,24 @@ DiagramBoxState InputOf(const DiagramSystem& system) {
   return {system.Stale ? DiagramLight::Off : DiagramLight::Good, InputStateText(InputState::Running)};
 }
 
-DiagramBoxState ControlOf(TrackMode mode) {
-  switch (mode) {
+DiagramBoxState TrackOf(const DiagramSystem& system) {
+  if (system.Sails) {
+    return {DiagramLight::Good, "Track, Course"};
+  }
+  return {DiagramLight::Good, system.WindFunctions ? "Track, Wind" : "Track"};
+}
+
+DiagramBoxState ControlOf(const DiagramSystem& system) {
+  if (system.Turns) {
+    return {DiagramLight::Good, "Turn"};
+  }
+  switch (system.Mode) {
     case TrackMode::Setup:
       return {DiagramLight::Ready, "Setup"};
     case TrackMode::Manual:
       return {DiagramLight::ByHand, "Manual"};
     case TrackMode::Track:
-      return {DiagramLight::Good, "Track"};
+      return TrackOf(system);
     case TrackMode::Off:
     case TrackMode::Switching:
       break;
@@ -52,7 +62,7 @@ DiagramBoxState OutputOf(const DiagramSystem& system) {
 }  // namespace
 
 DiagramState DiagramStateOf(const DiagramSystem& system) {
-  return {InputOf(system), ControlOf(system.Mode), OutputOf(system)};
+  return {InputOf(system), ControlOf(system), OutputOf(system)};
 }
 
 }  // namespace veerwatch

@@ -37,8 +37,11 @@ struct DiagramSystem {
   bool InputOpen = false;  ///< the port of the instruments
   TrackMode Mode = TrackMode::Off;
   bool Simulate = false;
-  bool OutputOpen = false;  ///< the port to the pilot
-  bool Stale = false;       ///< something comes in, but no wind, no heading or no boat speed any more
+  bool OutputOpen = false;     ///< the port to the pilot
+  bool Stale = false;          ///< something comes in, but no wind, no heading or no boat speed any more
+  bool Turns = false;          ///< a turn has the pilot
+  bool Sails = false;          ///< a course is sailed
+  bool WindFunctions = false;  ///< one or more are chosen for Track
 };
 
 /// The state of the three boxes. A port that is closed in mode Off is not in trouble.

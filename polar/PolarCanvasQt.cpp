@@ -198,6 +198,9 @@ void PolarCanvasQt::PaintMoving(QPainter& painter) const {
     PaintArrow(painter, size);
   }
   PaintLegs(painter, size);
+  if (m_moving.Turn) {
+    PaintTurn(painter, size);
+  }
   if (m_moving.Boat) {
     PaintBoat(painter, size);
   }
@@ -217,6 +220,21 @@ void PolarCanvasQt::PaintHold(QPainter& painter, qreal size) const {
     painter.setBrush(m_moves.Foreground);
     painter.drawPolygon(ToQt(Polyline{m_moving.Held->begin(), m_moving.Held->end()}));
   }
+}
+
+void PolarCanvasQt::PaintTurn(QPainter& painter, qreal size) const {
+  constexpr qreal kArcWidth = 3.0;
+  const TurnArc& turn = *m_moving.Turn;
+  painter.setBrush(Qt::NoBrush);
+  for (const QPen& pen :
+       {RoundPen(m_moves.Disc, (kArcWidth + kHalo) * size), RoundPen(m_moves.Foreground, kArcWidth * size)}) {
+    painter.setPen(pen);
+    painter.drawPolyline(ToQt(turn.Line));
+    painter.drawLine(ToQt(turn.HeadLeft));
+    painter.drawLine(ToQt(turn.HeadRight));
+  }
+  painter.setFont(Letters(font(), m_still.TextHeight * 1.3, QFont::Bold));
+  HaloText(painter, ToQt(turn.Label), ToQt(m_moving.TurnText), m_moves.Foreground, m_moves.Disc);
 }
 
 void PolarCanvasQt::PaintArrow(QPainter& painter, qreal size) const {

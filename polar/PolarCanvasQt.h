@@ -45,6 +45,7 @@ class PolarCanvasQt final : public QWidget {
   void PaintKeys(QPainter& painter) const;
   void PaintMoving(QPainter& painter) const;
   void PaintHold(QPainter& painter, qreal size) const;
+  void PaintTurn(QPainter& painter, qreal size) const;
   void PaintArrow(QPainter& painter, qreal size) const;
   void PaintBoat(QPainter& painter, qreal size) const;
   void PaintLegs(QPainter& painter, qreal size) const;

@@ -85,6 +85,31 @@ HeldMark MakeHeldMark(const PolarGeometry& geometry, double angle, double textHe
           Point{rim.X + acrossX, rim.Y + acrossY}};
 }
 
+TurnArc MakeTurnArc(const PolarGeometry& geometry, double from, double to, double textHeight) {
+  // In heights of the text.
+  constexpr double kInside = 2.6;
+  constexpr double kLabelInside = 4.2;
+  constexpr double kHead = 0.9;
+  constexpr double kStep = 3.0;  // [deg]
+  constexpr double kRound = 360.0;
+  const double radius = std::max(OuterRadius(geometry) - kInside * textHeight, textHeight);
+  const double way = std::clamp(to - from, -kRound, kRound);
+  const int steps = std::max(1, static_cast<int>(std::ceil(std::fabs(way) / kStep)));
+  TurnArc arc;
+  for (int i = 0; i <= steps; ++i) {
+    arc.Line.push_back(AtRadius(geometry, from + way * i / steps, radius));
+  }
+  const Point& end = arc.Line.back();
+  const double back = std::copysign(kHead * textHeight / radius / kRadiansPerDegree, way);
+  const double foot = from + way - back;
+  const double half = kHead * textHeight / 2.0;
+  arc.HeadLeft = {end, AtRadius(geometry, foot, radius - half)};
+  arc.HeadRight = {end, AtRadius(geometry, foot, radius + half)};
+  arc.Label =
+      AtRadius(geometry, from + way / 2.0, std::max(0.0, OuterRadius(geometry) - kLabelInside * textHeight));
+  return arc;
+}
+
 Polyline MakeGuardBand(const PolarGeometry& geometry, double from, double to, double textHeight) {
   constexpr double kWidth = 0.6;  // heights of the text
   constexpr double kStep = 3.0;   // [deg]

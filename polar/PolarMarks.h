@@ -48,4 +48,15 @@ HeldMark MakeHeldMark(const PolarGeometry& geometry, double angle, double textHe
 /// at least from]: where the angle guard lets no wind come.
 Polyline MakeGuardBand(const PolarGeometry& geometry, double from, double to, double textHeight);
 
+/// A turn to come: an arc inside of the outer ring with an arrow head at its end.
+struct TurnArc {
+  Polyline Line;
+  Stroke HeadLeft;  ///< from the end of the arc backwards
+  Stroke HeadRight;
+  Point Label;  ///< the middle of its text, inside of the arc's own
+};
+/// From the wind angle `from` to `to` [deg], the way that the sign of their difference says, at most once
+/// round.
+TurnArc MakeTurnArc(const PolarGeometry& geometry, double from, double to, double textHeight);
+
 }  // namespace veerwatch

@@ -43,12 +43,23 @@ struct PolarHeld {
   bool Whole = true;    ///< false for the beginning of a file that went wrong further on
 };
 
+/// A turn to come, in either wind: wind angles from where it begins to where it ends [deg]. They go on past
+/// 180, so that the way between them is that of the turn.
+struct PlotTurn {
+  double ApparentFrom = 0.0;
+  double ApparentTo = 0.0;
+  double TrueFrom = 0.0;
+  double TrueTo = 0.0;
+  std::string Text;  ///< "90 deg, 12 s"
+};
+
 /// What the loop holds, for the plot in that wind; nothing where it holds nothing.
 struct PlotHold {
-  std::optional<float> Apparent;       ///< held apparent angle [deg relative]
-  std::optional<float> True;           ///< held true angle [deg relative]
+  std::optional<float> Apparent;       ///< held apparent angle, or what the true one comes to [deg relative]
+  std::optional<float> True;           ///< held true angle, or what the apparent one comes to [deg relative]
   std::optional<float> LeastApparent;  ///< of the angle guard [deg]
   std::optional<float> LargestTrue;    ///< of the angle guard [deg]
+  std::optional<PlotTurn> Turn{};      ///< the turn to come
 };
 
 /// The cell under the mouse.

@@ -68,6 +68,11 @@ void PolarScene::HoldMarks(PolarMoving& moving) const {
   if (held) {
     moving.Held = MakeHeldMark(geometry, static_cast<double>(*held), m_still.TextHeight);
   }
+  if (const auto& turn = hold.Turn) {
+    moving.Turn = MakeTurnArc(geometry, apparent ? turn->ApparentFrom : turn->TrueFrom,
+                              apparent ? turn->ApparentTo : turn->TrueTo, m_still.TextHeight);
+    moving.TurnText = turn->Text;
+  }
   constexpr double kRound = 360.0;
   if (apparent && hold.LeastApparent) {
     const auto least = static_cast<double>(*hold.LeastApparent);

@@ -43,6 +43,8 @@ struct PolarMoving {
   std::optional<TargetMark> Target;  ///< the bearing to sail to, while there is a course
   std::vector<PolarLeg> Legs;
   std::optional<HeldMark> Held;  ///< what Track holds, in the wind that is plotted
+  std::optional<TurnArc> Turn;   ///< the turn to come, in the wind that is plotted
+  std::string TurnText;          ///< its degrees and seconds
   Polyline Guard;                ///< where the angle guard lets no wind come; empty without it
   PolarReadout Readout;
 };

@@ -15,7 +15,8 @@ namespace {
 
 constexpr double kHalfCircle = 180.0;
 constexpr double kDead = 0.5;         // [deg]
-constexpr double kAskedFrom = 150.0;  // [deg]
+constexpr double kAskedFrom = 149.5;  // [deg], which is said as 150
+constexpr double kSwings = 20.0;      // [deg] between the wind now and its mean of ten seconds
 
 constexpr std::size_t At(TrackSide side) { return static_cast<std::size_t>(side); }
 
@@ -39,6 +40,13 @@ std::string Hindrance(const HelmNow& now) {
 double Present(const HelmNow& now, TrackSide side) {
   const bool held = now.Mode == TrackMode::Track && now.Side == side;
   return static_cast<double>(held ? now.Desired[At(side)] : now.WindMean[At(side)].value_or(0.0F));
+}
+
+/// The mean says nothing of a boat that swings; in Track the held angle stands for it.
+bool Swings(const TurnAsk& ask, const HelmNow& now) {
+  const auto& mean = now.WindMean[At(TrackSide::True)];
+  return ask.Kind != ManoeuvreKind::Steer && now.Mode != TrackMode::Track && now.WindAngleTrue && mean &&
+         std::fabs(Fold(static_cast<double>(*now.WindAngleTrue) - static_cast<double>(*mean))) > kSwings;
 }
 
 /// `size` on the other side than `present`.
@@ -86,6 +94,9 @@ TurnPlan PlanTurn(const TurnAsk& ask, const HelmNow& now) {
   TurnPlan plan;
   plan.Kind = ask.Kind;
   plan.Refusal = Hindrance(now);
+  if (plan.Refusal.empty() && Swings(ask, now)) {
+    plan.Refusal = "No turn: the boat swings, wait until she is steady";
+  }
   if (!plan.Refusal.empty()) {
     return plan;
   }

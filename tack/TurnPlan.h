@@ -45,7 +45,8 @@ struct TurnPlan {
 
 /// The turn as it would begin now. The wind is the mean of ten seconds, or in Track the held angle; the
 /// bearing that of this moment. Refused in Off, without an open output, a wind or a heading, while the
-/// settings give Track no gains, with the wind dead ahead or astern, and for half a circle or more.
+/// settings give Track no gains, outside of Track while the boat swings so that the wind is more than 20
+/// degrees off its mean (but for Steer), with the wind dead ahead or astern, and for half a circle or more.
 TurnPlan PlanTurn(const TurnAsk& ask, const HelmNow& now);
 
 /// "Tack, 92 degrees to starboard through the wind", "GYBE, 165 degrees to port, by the stern", "Steer, 20

@@ -145,6 +145,22 @@ WindCrossing frmTack::Crossing() const {
 
 float frmTack::TypedHeading() const { return LeadingNumber(txtHeading->text().toStdString(), m_newHeading); }
 
+std::optional<TurnPlan> frmTack::Ahead() const {
+  if (!isVisible() || m_turning) {
+    return std::nullopt;
+  }
+  if (Follows()) {
+    const TurnPlan plan = Plan(m_parts.Now().Helm);
+    return plan.Refusal.empty() ? std::optional(plan) : std::nullopt;
+  }
+  TurnPlan plan;
+  plan.Wind = m_turn.Wind();
+  plan.Change = m_turn.Planned(TypedHeading(), LeadingNumber(txtOvershoot->text().toStdString()));
+  const float rate = LeadingNumber(txtRate->text().toStdString());
+  plan.Rate = rate > 0.0F ? static_cast<double>(rate) : Manoeuvre::kUsualRate;
+  return plan.Change != 0.0 ? std::optional(plan) : std::nullopt;
+}
+
 void frmTack::ShowWords() {
   if (m_turning) {
     return;

@@ -68,6 +68,8 @@ class frmTack final : public QDialog, private TackControlsQt, private HelmObserv
   const TackSettings& Kept() const { return m_settings; }
   /// A turn of the dialog's own runs.
   bool Turning() const { return m_turning; }
+  /// The turn as OK would begin it now; nothing while the dialog does not show, turns, or has none.
+  std::optional<TurnPlan> Ahead() const;
 
   /// A step of the turn, as long as the time since the one before; nothing while none runs.
   void TimerTack_Timer();

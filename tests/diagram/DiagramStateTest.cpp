@@ -36,6 +36,20 @@ TEST(DiagramState, TheControlLoopShowsTheMode) {
   EXPECT_EQ(control(TrackMode::Track), (DiagramBoxState{DiagramLight::Good, "Track"}));
 }
 
+TEST(DiagramState, TheControlLoopShowsATurnTheWindFunctionsAndACourse) {
+  DiagramSystem system{InputState::Running, true, TrackMode::Manual, false, true};
+  system.Turns = true;
+  EXPECT_EQ(DiagramStateOf(system).Control, (DiagramBoxState{DiagramLight::Good, "Turn"}));
+  system.Mode = TrackMode::Track;
+  system.Turns = false;
+  system.WindFunctions = true;
+  EXPECT_EQ(DiagramStateOf(system).Control, (DiagramBoxState{DiagramLight::Good, "Track, Wind"}));
+  system.Sails = true;
+  EXPECT_EQ(DiagramStateOf(system).Control, (DiagramBoxState{DiagramLight::Good, "Track, Course"}));
+  system.Mode = TrackMode::Manual;
+  EXPECT_EQ(DiagramStateOf(system).Control, (DiagramBoxState{DiagramLight::ByHand, "Manual"}));
+}
+
 TEST(DiagramState, TheOutputIsOpenOrNotOutsideOfOff) {
   const auto output = [](TrackMode mode, bool simulate, bool open) {
     return DiagramStateOf({InputState::Running, true, mode, simulate, open}).Output;

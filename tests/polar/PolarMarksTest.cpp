@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include <cmath>
 
 namespace veerwatch {
@@ -93,6 +95,36 @@ TEST(MakeTargetMark, HasItsDiamondWidestInTheMiddle) {
   EXPECT_LT(Far(mark.Diamond[1], {394.0, 195.8}), 1e-9);
   EXPECT_LT(Far(mark.Diamond[2], {388.0, 200.0}), 1e-9);
   EXPECT_LT(Far(mark.Diamond[3], {394.0, 204.2}), 1e-9);
+}
+
+TEST(MakeTurnArc, GoesTheWayOfTheTurnInsideOfTheOuterRing) {
+  const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 10.0);
+  for (const auto& [from, to, middle] :
+       {std::array{45.0, -45.0, 0.0}, std::array{150.0, 210.0, 180.0}, std::array{-150.0, -210.0, 180.0}}) {
+    const TurnArc arc = MakeTurnArc(geometry, from, to, 10.0);
+    // 26 px inside of the ring of 200.
+    for (const Point& at : arc.Line) {
+      EXPECT_NEAR(Far(at, {200.0, 200.0}), 174.0, 1e-9);
+    }
+    EXPECT_LT(Far(arc.Line.front(), AtRadius(geometry, from, 174.0)), 1e-9);
+    EXPECT_LT(Far(arc.Line.back(), AtRadius(geometry, to, 174.0)), 1e-9);
+    EXPECT_LT(Far(arc.Line[arc.Line.size() / 2], AtRadius(geometry, middle, 174.0)), 10.0) << middle;
+    EXPECT_LT(Far(arc.Label, AtRadius(geometry, middle, 158.0)), 1e-9);
+    EXPECT_EQ(Far(arc.HeadLeft.From, arc.Line.back()), 0.0);
+    EXPECT_NEAR(Far(arc.HeadLeft.To, {200.0, 200.0}), 169.5, 1e-9);
+    EXPECT_NEAR(Far(arc.HeadRight.To, {200.0, 200.0}), 178.5, 1e-9);
+    // The head points backwards along the arc.
+    EXPECT_LT(Far(arc.HeadLeft.To, arc.Line[arc.Line.size() - 4]),
+              Far(arc.Line.back(), arc.Line[arc.Line.size() - 4]));
+  }
+}
+
+TEST(MakeTurnArc, IsAtMostOnceRoundAndNoLessThanAPoint) {
+  const PolarGeometry geometry = PlotGeometry(400.0, 400.0, 10.0);
+  EXPECT_LE(MakeTurnArc(geometry, 0.0, 5000.0, 10.0).Line.size(), 121U);
+  EXPECT_EQ(MakeTurnArc(geometry, 30.0, 30.0, 10.0).Line.size(), 2U);
+  EXPECT_GE(Far(MakeTurnArc(PlotGeometry(20.0, 20.0, 10.0), 0.0, 90.0, 10.0).Line.front(), {10.0, 10.0}), 9.0)
+      << "a plot that is too small has it somewhere";
 }
 
 }  // namespace

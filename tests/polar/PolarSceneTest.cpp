@@ -144,6 +144,25 @@ TEST_F(PolarModelTest, DrawsTheGuardRoundSternOrBow) {
   }
 }
 
+TEST_F(PolarModelTest, DrawsTheTurnToComeInTheWindThatIsPlotted) {
+  PolarScene scene(Model);
+  scene.Still(400, 400);
+  Model.Update(TrackMode::Track, Sailing(45.0F, 12.0F, 5.0F), true);
+  EXPECT_FALSE(scene.Moving().Turn.has_value());
+  PlotHold hold;
+  hold.Turn = PlotTurn{30.0, -30.0, 45.0, -45.0, "90 deg, 10 s"};
+  Model.Hold(hold);
+  const PolarMoving moving = scene.Moving();
+  ASSERT_TRUE(moving.Turn.has_value());
+  EXPECT_EQ(moving.TurnText, "90 deg, 10 s");
+  const double ahead = 200.0 - moving.Turn->Line.front().Y;
+  EXPECT_NEAR(moving.Turn->Line.front().X - 200.0, ahead, 1e-6) << "at 45 to starboard";
+  EXPECT_NEAR(moving.Turn->Line.back().X - 200.0, -ahead, 1e-6);
+  Model.ShowWind(PlotType::ApparentWind);
+  const double nearer = scene.Moving().Turn->Line.front().X - 200.0;
+  EXPECT_LT(nearer, 0.75 * ahead) << "at 30";
+}
+
 TEST_F(PolarModelTest, DrawsTheTargetOfACourse) {
   PolarScene scene(Model);
   scene.Still(400, 400);

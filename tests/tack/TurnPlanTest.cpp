@@ -139,6 +139,37 @@ TEST(TurnPlan, IsRefusedWithAReason) {
   EXPECT_EQ(refusal([](HelmNow&) {}, ManoeuvreKind::Jibe), "No turn: it would be half a circle or more");
 }
 
+TEST(TurnPlan, ATackIsRefusedWhileTheBoatStillSwingsOutOfTheTurnBefore) {
+  HelmNow now = Sailing(10.0F, 12.0F);
+  now.WindAngleTrue = -25.0F;
+  EXPECT_EQ(PlanTurn(Ask(ManoeuvreKind::Tack), now).Refusal,
+            "No turn: the boat swings, wait until she is steady")
+      << "the mean would lead her into the wind";
+  EXPECT_NE(PlanTurn(Ask(ManoeuvreKind::Jibe), now).Refusal, "");
+  TurnAsk steer = Ask(ManoeuvreKind::Steer);
+  steer.NewHeading = 110.0F;
+  EXPECT_EQ(PlanTurn(steer, now).Refusal, "");
+  now.WindAngleTrue = -5.0F;
+  EXPECT_EQ(PlanTurn(Ask(ManoeuvreKind::Tack), now).Refusal, "");
+  now.WindAngleTrue = -25.0F;
+  now.Mode = TrackMode::Track;
+  now.Desired[kTrue] = -45.0F;
+  EXPECT_EQ(PlanTurn(Ask(ManoeuvreKind::Tack), now).Change, -90.0) << "the held angle is mirrored";
+  // Across dead astern the two are close.
+  now.Mode = TrackMode::Manual;
+  now.WindMean[kTrue] = 178.0F;
+  now.WindAngleTrue = -178.0F;
+  EXPECT_EQ(PlanTurn(Ask(ManoeuvreKind::Jibe), now).Refusal, "");
+}
+
+TEST(TurnPlan, WhatIsSaidAs150DegreesIsAskedAbout) {
+  const TurnPlan plan = PlanTurn(Ask(ManoeuvreKind::Tack), Sailing(70.0F, 74.8F));
+  EXPECT_NE(PlanWords(plan).find("150 degrees"), std::string::npos);
+  EXPECT_TRUE(PlanAsksOnceMore(plan, WindCrossing::Bow));
+  EXPECT_FALSE(
+      PlanAsksOnceMore(PlanTurn(Ask(ManoeuvreKind::Tack), Sailing(70.0F, 74.7F)), WindCrossing::Bow));
+}
+
 TEST(TurnPlan, ALargeTurnAndACrossingThatNobodyNamedAreAskedAbout) {
   const TurnPlan tack = PlanTurn(Ask(ManoeuvreKind::Tack, 5.0F), Sailing(34.0F, 45.0F));
   EXPECT_FALSE(PlanAsksOnceMore(tack, WindCrossing::Bow));

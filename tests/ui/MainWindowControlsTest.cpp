@@ -53,6 +53,9 @@ TEST_F(MainWindowControls, OfferEveryCommand) {
       {"mnuOptionsOutput", "Output..."},
       {"mnuOptionsTrack", "Tracking..."},
       {"mnuOptionsSimulate", "Simulate..."},
+      {"mnuTurnTack", "Tack"},
+      {"mnuTurnJibe", "Jibe"},
+      {"mnuTurnStop", "Stop\tEsc"},
       {"mnuHelpDiagram", "Block Diagram..."},
       {"mnuHelpAbout", "About..."},
   };
@@ -65,7 +68,7 @@ TEST_F(MainWindowControls, OfferEveryCommand) {
   for (const QAction* menu : Window->menuBar()->actions()) {
     menus.push_back(menu->text().remove('&').toStdString());
   }
-  EXPECT_EQ(menus, (std::vector<std::string>{"File", "View", "Options", "Help"}));
+  EXPECT_EQ(menus, (std::vector<std::string>{"File", "View", "Options", "Turn", "Help"}));
 }
 
 TEST_F(MainWindowControls, ShowTheModesWithSeparatorsAtTheEvenIndexes) {

@@ -11,6 +11,7 @@
 
 #include "platform/Angles.h"
 #include "platform/NumberText.h"
+#include "polar/frmPolar.h"
 #include "tests/support/PictureQt.h"
 #include "tests/support/Sentences.h"
 #include "tests/support/TemporaryFolder.h"
@@ -147,6 +148,43 @@ TEST_F(SailCourse, EnterTacksInEitherWindowWhileItIsPromptedFor) {
     Range = "2.0";
     Dialogs.Beeps = 0;
   }
+}
+
+TEST_F(SailCourse, TheTurnToComeStandsOnThePlot) {
+  StartTracking();
+  MarkAt = 191.0;
+  Sail(1);
+  Choose("mnuCourseSail");
+  Sail(3);
+  ASSERT_EQ(Prompt(), "Tack now (Enter)");
+  const auto* polar = dynamic_cast<frmPolar*>(&Polar());
+  ASSERT_NE(polar, nullptr);
+  const auto& turn = polar->Model().Hold().Turn;
+  ASSERT_TRUE(turn.has_value());
+  EXPECT_NEAR(turn->TrueFrom, 45.0, 1.0);
+  EXPECT_NEAR(turn->TrueTo, -46.0, 1.5);
+  EXPECT_EQ(turn->Text, "91 deg, 10 s");
+  KeepPicture(Polar().grab().toImage(), QStringLiteral("polar-turn"));
+  QTest::keyClick(&Polar(), Qt::Key_Return);
+  Sail(4);
+  EXPECT_LT(polar->Model().Hold().Turn->TrueFrom, 30.0) << "what is left of it";
+  for (int second = 0; second < 100 && TimerTack.Enabled(); ++second) {
+    Sail(1);
+  }
+  Sail(2);
+  EXPECT_FALSE(polar->Model().Hold().Turn.has_value());
+}
+
+TEST_F(SailCourse, TheHeldAngleIsMarkedInEitherWind) {
+  StartTracking();
+  const auto* polar = dynamic_cast<frmPolar*>(&Polar());
+  ASSERT_NE(polar, nullptr);
+  EXPECT_NEAR(polar->Model().Hold().True.value_or(0.0F), 45.0F, 0.5F);
+  EXPECT_NEAR(polar->Model().Hold().Apparent.value_or(0.0F), 26.0F, 2.0F);
+  Click("optControl(1)");
+  Sail(3);
+  EXPECT_NEAR(polar->Model().Hold().Apparent.value_or(0.0F), 45.0F, 2.0F);
+  EXPECT_TRUE(polar->Model().Hold().True.has_value());
 }
 
 TEST_F(SailCourse, LeavesAnEntryBoxItsEnter) {

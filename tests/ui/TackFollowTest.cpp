@@ -11,6 +11,7 @@
 
 #include "platform/Angles.h"
 #include "platform/NumberText.h"
+#include "tests/support/PictureQt.h"
 #include "tests/ui/TackTester.h"
 
 namespace veerwatch {
@@ -80,6 +81,24 @@ TEST_F(TackFollow, CtrlTTacksWithTheStoredRateAndTracksTheMirroredAngle) {
   EXPECT_NEAR(Window->m_fAutoPilot, 198.0F, 2.5F);
   EXPECT_FALSE(Turn()->isVisible());
   EXPECT_EQ(Dialogs.Beeps, 0);
+}
+
+TEST_F(TackFollow, TheMenuHasTheKeysAndDoesAsThey) {
+  StartTracking();
+  EXPECT_EQ(Find<QAction>("mnuTurnTack").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_T));
+  EXPECT_EQ(Find<QAction>("mnuTurnJibe").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_J));
+  Find<QAction>("mnuTurnTack").trigger();
+  ASSERT_TRUE(Turns());
+  EXPECT_EQ(Turn()->windowTitle(), "Veerwatch - Tack");
+  KeepPicture(Turn()->grab().toImage(), QStringLiteral("turn"));
+  Find<QAction>("mnuTurnStop").trigger();
+  EXPECT_FALSE(Turns());
+  EXPECT_EQ(Status(), "Turn stopped");
+  Find<QAction>("mnuTurnStop").trigger();
+  EXPECT_EQ(Status(), "Turn stopped") << "nothing runs";
+  Find<QAction>("mnuTurnJibe").trigger();
+  EXPECT_FALSE(Turns());
+  EXPECT_EQ(Status(), "No turn: Ctrl+T and Ctrl+J turn in Track");
 }
 
 TEST_F(TackFollow, CtrlJJibesByTheStern) {
