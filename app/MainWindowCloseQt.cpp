@@ -56,6 +56,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     }
   }
   LeaveControls();
+  m_others.ConnectHide();
   m_helm.UserTakesPilot();
   NmeaStop();
   PilotStop();
@@ -77,12 +78,16 @@ void frmMain::KeepSettings() {
   if (m_unloaded) {
     return;
   }
-  // What was edited in the file meanwhile stays.
+  m_others.ConnectEndTrial();
+  // What was edited in the file meanwhile stays, but for ports that were given another device here.
+  const std::vector<PortEntry> named = PortEntries(m_parts.Store);
   Profile present;
   const Profile::LoadResult result = present.Load(m_sProfileFile);
   if (result == Profile::LoadResult::Read) {
     m_parts.Store = std::move(present);
+    NameNewer(m_parts.Store, m_named, named);
   }
+  m_named = PortEntries(m_parts.Store);
   ProfileWrite(m_parts.Store, *this, m_others);
   m_others.Store();
   m_saveFailure = m_parts.Store.Commit(m_sProfileFile).value_or("");

@@ -7,8 +7,10 @@
 #include "platform/Clock.h"
 #include "platform/CommandRunner.h"
 #include "platform/Dialogs.h"
+#include "platform/NamedPort.h"
 #include "platform/PortFinder.h"
 #include "platform/Profile.h"
+#include "platform/ProgramReader.h"
 #include "platform/Random.h"
 #include "platform/SerialPort.h"
 #include "platform/Sounder.h"
@@ -36,6 +38,8 @@ struct MainWindowParts {
   const PortFinder* Finder = nullptr;  ///< knows the serial ports that are plugged in
   Timer* tmrPilot = nullptr;           ///< ticks into frmMain::tmrPilot_Timer()
   ProfileDesk* Profiles = nullptr;     ///< the profiles that can be chosen
+  NamedPort::Maker Ports{};            ///< makes what the assistant listens to; without it there is none
+  ProgramReader* Reader = nullptr;     ///< reads what announces itself
 };
 
 }  // namespace veerwatch

@@ -58,12 +58,20 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
                [this] { return m_tack.get(); }, [this](bool upwind) { return BestAim(upwind); }}),
       m_sails({main, turns.Boat, turns.Run, turns.Asks, *window, turns.Say, turns.Notice, turns.Sound,
                [this]() -> frmPolar& { return Polar(); }, [this] { return Tack().Kept(); },
-               [this](const TurnPlan& plan) { m_turns.Begin(plan); }}) {
+               [this](const TurnPlan& plan) { m_turns.Begin(plan); }}),
+      m_connect({parts,
+                 main,
+                 *window,
+                 {[this] { return RecommendedOf().SmoothWinds; },
+                  [this](bool smooth) { Polar().SmoothWinds(smooth); }},
+                 [this] { OptionsReload(); }}) {
   QObject::connect(menu.mnuViewHistory, &QAction::triggered, [this] { HistoryShow(); });
   for (const QAction* command : {menu.mnuViewDiagram, menu.mnuHelpDiagram}) {
     QObject::connect(command, &QAction::triggered, [this] { DiagramShow(); });
   }
   QObject::connect(menu.mnuHelpManual, &QAction::triggered, [this] { ManualShow(); });
+  menu.mnuHelpConnect->setEnabled(m_connect.Can());
+  QObject::connect(menu.mnuHelpConnect, &QAction::triggered, [this] { m_connect.Show(); });
   QObject::connect(menu.mnuHelpAbout, &QAction::triggered, [this] { AboutShow(); });
   QObject::connect(menu.mnuViewPolar, &QAction::triggered, [this] { PolarShow(); });
   for (const auto& [command, tab] :
@@ -105,6 +113,7 @@ void OtherWindowsQt::Store() {
 }
 
 void OtherWindowsQt::Hide() {
+  m_connect.Hide();
   if (m_about) {
     m_about->hide();
   }

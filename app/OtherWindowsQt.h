@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "app/ConnectShowQt.h"
 #include "app/MainWindowParts.h"
 #include "app/SailDeskQt.h"
 #include "app/TurnDeskQt.h"
@@ -78,6 +79,12 @@ class OtherWindowsQt final : private HelmObserver,
   /// where the window was not shown yet.
   std::optional<BestCourse> BestAngleOf(double windSpeed, bool upwind);
   bool PolarVisible() const override { return m_polar && m_polar->isVisible(); }
+
+  /// Offers the assistant in `window`, where no profile lies; cancels it.
+  void ConnectOffer(QMainWindow& window) { m_connect.Offer(window); }
+  void ConnectHide() { m_connect.Hide(); }
+  /// What the assistant only tries is not to be saved.
+  void ConnectEndTrial() { m_connect.EndTrial(); }
 
   /// Shows the settings in the options dialog, where it is loaded.
   void OptionsReload();
@@ -151,6 +158,7 @@ class OtherWindowsQt final : private HelmObserver,
   std::unique_ptr<frmOptions> m_options;  ///< from its first use on, until its frame is closed
   std::unique_ptr<frmDiagram> m_diagram;  ///< null until it is shown for the first time
   std::unique_ptr<frmAbout> m_about;      ///< the same
+  ConnectShowQt m_connect;
 };
 
 }  // namespace veerwatch

@@ -22,6 +22,7 @@
 #include "platform/PortNames.h"
 #include "platform/Profile.h"
 #include "platform/ProfileLock.h"
+#include "platform/ProgramReaderQt.h"
 #include "platform/SignalsQt.h"
 #include "platform/SounderQt.h"
 #include "platform/SystemClock.h"
@@ -184,11 +185,12 @@ int Sail(Program& program) {
   SeededRandom random(std::random_device{}());
   SounderQt tone;
   CommandRunnerQt buzzer;
+  ProgramReaderQt reader;
   const PortFinderQt finder;
 
   frmMain window({MSCommNmea, MSCommPilot, tmrNmea, tmrUnload, TimerTack, clock, random, dialogs, profile,
                   program.Profiles.File().string(), PolarFiles(), ManualPage(), &tone, &buzzer, &finder,
-                  &tmrPilot, &program.Profiles});
+                  &tmrPilot, &program.Profiles, PortMaker(clock), &reader});
   dialogs.Window(&window);
   tmrNmea.Ticks([&window] { window.tmrNmea_Timer(); });
   tmrUnload.Ticks([&window] { window.tmrUnload_Timer(); });

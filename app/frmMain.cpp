@@ -162,6 +162,7 @@ void frmMain::Form_Load(bool changed) {
   m_staysOff = changed;
   ProfileRecall(true);
   m_staysOff = false;
+  m_others.ConnectOffer(*this);
 }
 
 void frmMain::ShowInFront() {
@@ -183,6 +184,7 @@ void frmMain::ProfileRecall(bool recall) {
       std::fprintf(stderr, "%s\n", VisibleText(text).c_str());
       NoticeSet(AlarmKind::Profile, text);
     }
+    m_named = PortEntries(m_parts.Store);
     ProfileRead(m_parts.Store, *this, m_others);
   }
   m_menu.mnuViewNight->setChecked(m_bNightColours);

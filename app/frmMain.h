@@ -26,6 +26,7 @@
 #include "app/frmMainCommands.h"
 #include "helm/Helm.h"
 #include "helm/MainWindowApi.h"
+#include "platform/PortNames.h"
 #include "tack/TurnRun.h"
 
 namespace veerwatch {
@@ -49,7 +50,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
 
   /// Writes the profile as a close does and goes on. What goes wrong is said on standard error and in the
   /// banner.
-  void KeepSettings();
+  void KeepSettings() override;
 
   /// What the latest writing of the profile could not do; "" for nothing.
   const std::string& SaveFailure() const { return m_saveFailure; }
@@ -197,6 +198,7 @@ class frmMain final : public QMainWindow, public MainWindowApi, private HelmObse
   bool m_unasked = false;       ///< the close is not the user's
   bool m_unloaded = false;      ///< the profile is written, everything is closed
   std::string m_saveFailure;
+  std::vector<PortEntry> m_named;  ///< where the ports of the profile's file led last
   SaveWatch m_save;
   SentAge m_sent;
   WatchNow m_watch;                   ///< what the watch said last

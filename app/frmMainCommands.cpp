@@ -102,6 +102,7 @@ frmMainMenu::frmMainMenu(QMainWindow& window) {
   // In whichever window of the program.
   mnuHelpManual->setShortcutContext(Qt::ApplicationShortcut);
   help->addSeparator();
+  mnuHelpConnect = Command(window, help, "mnuHelpConnect", "&Connect Your Boat...");
   mnuHelpDiagram = Command(window, help, "mnuHelpDiagram", "&Block Diagram...");
   mnuHelpReport = help->addAction(TrQ("Save &Report..."));
   mnuHelpReport->setObjectName(QStringLiteral("mnuHelpReport"));

@@ -46,6 +46,7 @@ struct frmMainMenu {
   QAction* mnuTurnJibe;
   QAction* mnuTurnStop;
   QAction* mnuHelpManual;
+  QAction* mnuHelpConnect;
   QAction* mnuHelpDiagram;
   QAction* mnuHelpReport;
   QAction* mnuHelpAbout;

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 #include "platform/VisibleText.h"
 
@@ -18,7 +19,7 @@ constexpr std::array<int, 3> kTcpPorts{10110, 2000, 39150};
 constexpr std::array<int, 2> kUdpPorts{10110, 2000};
 
 Candidate Tcp(const std::string& host, const std::string& port, const std::string& where) {
-  return {"TCP " + port + " on " + where, "tcp://" + host + ":" + port};
+  return {Filled(Tr("TCP %1 on %2"), {port, where}), "tcp://" + host + ":" + port};
 }
 
 /// The parts of a line, cut at each semicolon.
@@ -63,20 +64,23 @@ std::string DevicePlace(const std::string& path) {
 std::vector<Candidate> SerialCandidates(const std::vector<FoundPort>& found) {
   std::vector<Candidate> all;
   for (const FoundPort& port : found) {
-    const std::string name = port.Description.empty() ? port.Device : "USB serial (" + port.Description + ")";
-    all.push_back({VisibleText(name), port.Device + "?baud=auto"});
+    const bool adapter = !port.Description.empty();
+    const std::string name =
+        adapter ? Filled(Tr("USB serial (%1)"), {VisibleText(port.Description)}) : VisibleText(port.Device);
+    all.push_back({name, port.Device + "?baud=auto", adapter});
   }
   return all;
 }
 
 std::vector<Candidate> UsualCandidates() {
   std::vector<Candidate> all;
+  all.reserve(kTcpPorts.size() + kUdpPorts.size());
   for (const int port : kTcpPorts) {
-    all.push_back(Tcp("localhost", std::to_string(port), "this computer"));
+    all.push_back(Tcp("localhost", std::to_string(port), Tr("this computer")));
   }
   for (const int port : kUdpPorts) {
     const std::string number = std::to_string(port);
-    all.push_back({"UDP " + number + " from the network", "udp://0.0.0.0:" + number});
+    all.push_back({Filled(Tr("UDP %1 from the network"), {number}), "udp://0.0.0.0:" + number});
   }
   return all;
 }
@@ -86,6 +90,13 @@ std::vector<Candidate> HostCandidates(std::string_view host) {
   if (name.empty()) {
     return {};
   }
+  if (name.find("://") != std::string::npos) {
+    return {{VisibleText(name), name}};
+  }
+  if (name.front() == '/') {
+    const std::string rate = name.find('?') == std::string::npos ? "?baud=auto" : "";
+    return {{VisibleText(name), name + rate}};
+  }
   // Of several colons none is in front of a port: they are those of an address.
   const std::size_t colon = name.find(':');
   if (colon != std::string::npos && name.find(':', colon + 1) == std::string::npos) {
@@ -93,6 +104,7 @@ std::vector<Candidate> HostCandidates(std::string_view host) {
   }
   const std::string written = colon != std::string::npos && name.front() != '[' ? "[" + name + "]" : name;
   std::vector<Candidate> all;
+  all.reserve(kTcpPorts.size());
   for (const int port : kTcpPorts) {
     all.push_back(Tcp(written, std::to_string(port), VisibleText(name)));
   }
@@ -110,13 +122,13 @@ std::vector<Candidate> AnnouncedCandidates(std::string_view browsed) {
     if (parts.size() < kParts || parts[kSign] != "=" || parts[kProtocol] != "IPv4") {
       continue;
     }
-    const std::string address(parts[kAddress]);
+    const std::string host = "tcp://" + std::string(parts[kAddress]);
     const std::string name = Unescaped(parts[kName]);
     if (parts[kType] == "_nmea-0183._tcp") {
-      const std::string port(parts[kPort]);
-      AddCandidates(all, {{name + " (NMEA 0183, announced)", "tcp://" + address + ":" + port}});
+      AddCandidates(
+          all, {{Filled(Tr("%1 (NMEA 0183, announced)"), {name}), host + ":" + std::string(parts[kPort])}});
     } else if (parts[kType].starts_with("_signalk-")) {
-      AddCandidates(all, {{name + " (Signal K, announced)", "tcp://" + address + ":10110"}});
+      AddCandidates(all, {{Filled(Tr("%1 (Signal K, announced)"), {name}), host + ":10110"}});
     }
   }
   return all;

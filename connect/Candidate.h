@@ -14,6 +14,7 @@ namespace veerwatch {
 struct Candidate {
   std::string Name;      ///< for the list, as "USB serial (FTDI)" or "TCP 10110 on this computer"
   std::string Endpoint;  ///< as the profile writes it
+  bool Adapter = false;  ///< a serial port that says what it is
 
   friend bool operator==(const Candidate& a, const Candidate& b) = default;
 };
@@ -24,7 +25,8 @@ std::vector<Candidate> SerialCandidates(const std::vector<FoundPort>& found);
 /// TCP 10110, 2000 and 39150 on this computer, UDP 10110 and 2000 from the whole network.
 std::vector<Candidate> UsualCandidates();
 
-/// The same TCP ports on `host`, a name or an address; with a port, as "gateway:1456", that one alone. Blanks
+/// What a user types: the same TCP ports on `host`, a name or an address; with a port, as "gateway:1456",
+/// that one alone. The path of a device, and an endpoint as the profile writes it, are themselves. Blanks
 /// around it are dropped; none for an empty text.
 std::vector<Candidate> HostCandidates(std::string_view host);
 

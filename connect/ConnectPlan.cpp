@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "connect/Candidate.h"
+#include "platform/Language.h"
 #include "platform/PortNames.h"
 #include "platform/VisibleText.h"
 #include "settings/SettingsTable.h"
@@ -73,11 +74,10 @@ Settings Planned(const ConnectPlan& plan, const Settings& present, const Planned
 }
 
 /// A line when the number does not lead there yet.
-void AddPort(const char* what, int number, const std::string& endpoints, const Profile& profile,
+void AddPort(const char* pattern, int number, const std::string& endpoints, const Profile& profile,
              std::vector<std::string>& lines) {
   if (!endpoints.empty() && PortDevice(profile, number) != endpoints) {
-    lines.push_back(std::string(what) + ": port " + std::to_string(number) + " leads to " +
-                    VisibleText(endpoints));
+    lines.push_back(Filled(Tr(pattern), {std::to_string(number), VisibleText(endpoints)}));
   }
 }
 
@@ -108,11 +108,11 @@ std::vector<std::string> PlanWords(const ConnectPlan& plan, const Settings& pres
                                    const DeviceExists& exists) {
   const PlannedPorts ports = PortsOf(plan, present, profile, exists);
   std::vector<std::string> lines;
-  AddPort("Instruments", ports.Input, plan.Input, profile, lines);
+  AddPort(TrMark("Instruments: port %1 leads to %2"), ports.Input, plan.Input, profile, lines);
   if (ports.Pilot != ports.Input) {
-    AddPort("Autopilot", ports.Pilot, plan.Pilot, profile, lines);
+    AddPort(TrMark("Autopilot: port %1 leads to %2"), ports.Pilot, plan.Pilot, profile, lines);
   } else if (present.m_iPilotPort != present.m_iNmeaPort || ports.Pilot != present.m_iPilotPort) {
-    lines.push_back("Autopilot: on the port of the instruments, both ways");
+    lines.push_back(Tr("Autopilot: on the port of the instruments, both ways"));
   }
   Profile before;
   Profile after;
@@ -123,8 +123,10 @@ std::vector<std::string> PlanWords(const ConnectPlan& plan, const Settings& pres
     const std::string old = before.Text(row.Section, row.Key);
     if (value != old) {
       const std::string unit = *row.Unit != '\0' ? std::string(" ") + row.Unit : "";
-      lines.push_back(row.Section + ", " + row.Key + ": " + value + unit + ", now " +
-                      (old.empty() ? "nothing" : old + unit) + " (" + row.Meaning + ")");
+      std::string line = row.Section;
+      line.append(", ").append(row.Key);
+      lines.push_back(Filled(Tr("%1: %2, now %3 (%4)"),
+                             {line, value + unit, old.empty() ? Tr("nothing") : old + unit, row.Meaning}));
     }
   }
   return lines;

@@ -5,6 +5,7 @@
 
 #include "nmea/SentenceTable.h"
 #include "platform/Angles.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 #include "platform/VisibleText.h"
 
@@ -82,7 +83,9 @@ std::string HeardLines::Words(const Moment& now) const {
              PaceText(kind.Count, kind.First, kind.Last, now.Steady);
   }
   if (m_faults > 0) {
-    words += (words.empty() ? "" : ", ") + std::to_string(m_faults) + (m_faults == 1 ? " error" : " errors");
+    const std::string faults = std::to_string(m_faults);
+    words +=
+        (words.empty() ? "" : ", ") + (m_faults == 1 ? Tr("1 error") : Filled(Tr("%1 errors"), {faults}));
   }
   return words;
 }

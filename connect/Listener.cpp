@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "nmea/Sentence.h"
+#include "platform/Language.h"
 #include "platform/VisibleText.h"
 
 namespace veerwatch {
@@ -33,12 +34,19 @@ Listener::Listener(Candidate candidate, const NamedPort::Maker& make, const Devi
     return;
   }
   m_device = endpoints->front().What == Endpoint::Kind::Device;
+  m_place = m_device ? VisibleText(endpoints->front().Path) : m_candidate.Endpoint;
   m_port = make(endpoints->front());
+  Open();
+}
+
+void Listener::Open() {
+  if (!m_port) {
+    return;
+  }
   m_connection = m_port->Connect(*this);
   if (!m_port->PortOpen(true)) {
     const std::string why = m_port->OpenFailure();
-    const std::string place = m_device ? endpoints->front().Path : m_candidate.Endpoint;
-    End(why.empty() ? "cannot be opened" : Without(why, VisibleText(place) + ": "));
+    End(why.empty() ? Tr("cannot be opened") : Without(why, m_place + ": "));
   }
 }
 
@@ -70,17 +78,18 @@ void Listener::Tick() {
 
 std::string Listener::Silence() const {
   if (m_heard.Faults() > 0) {
-    return "no sentences, only lines that are none";
+    return Tr("no sentences, only lines that are none");
   }
   if (m_device) {
-    return m_port->Noise() ? "noise at every rate, no sentences" : "nothing comes, at no rate";
+    return Tr(m_port->Noise() ? TrMark("noise at every rate, no sentences")
+                              : TrMark("nothing comes, at no rate"));
   }
-  const std::string trouble = Without(m_port->Trouble(), m_candidate.Endpoint + ": ");
+  const std::string trouble = Without(m_port->Trouble(), m_place + ": ");
   const std::string why = trouble.substr(0, trouble.find(", next try"));
   if (why.empty()) {
-    return "nothing comes";
+    return Tr("nothing comes");
   }
-  return why == "connecting" || why == "no answer" ? "the host does not answer" : why;
+  return why == "connecting" || why == "no answer" ? Tr("the host does not answer") : why;
 }
 
 void Listener::End(std::string why) {
@@ -131,7 +140,7 @@ void Listener::Hear(std::string_view line, LineFault fault) {
   }
 }
 
-void Listener::OnPortLost() { End("vanished while it was listened to"); }
+void Listener::OnPortLost() { End(Tr("vanished while it was listened to")); }
 
 std::string Listener::LeadsTo() const {
   std::string text = m_candidate.Endpoint;
@@ -145,18 +154,18 @@ std::string Listener::Says() const {
   if (!m_why.empty()) {
     return m_why;
   }
-  const std::string rate = m_inUse ? "in use now: " : m_rate ? std::to_string(*m_rate) + ": " : "";
+  const std::string rate = m_inUse ? Tr("in use now: ") : m_rate ? std::to_string(*m_rate) + ": " : "";
   const std::string words = m_heard.Words(m_clock.Now());
   if (!words.empty()) {
-    return rate + (Brings() || !m_over ? words : "noise, no sentences");
+    return rate + (Brings() || !m_over ? words : Tr("noise, no sentences"));
   }
   if (m_over) {
-    return rate + "nothing comes";
+    return rate + Tr("nothing comes");
   }
   if (Searching()) {
-    return "searching the rate, now " + std::to_string(m_port->BaudRate().value_or(0)) + " baud";
+    return Filled(Tr("searching the rate, now %1 baud"), {std::to_string(m_port->BaudRate().value_or(0))});
   }
-  return "listening...";
+  return Tr("listening...");
 }
 
 }  // namespace veerwatch

@@ -43,6 +43,8 @@ class Listener final : private SerialPort::Events {
   void Tick();
   /// Closes the port; what was heard stays.
   void Close();
+  /// Opens the port again.
+  void Open();
   /// A line of the port that the program itself has open.
   void Hear(std::string_view line, LineFault fault);
 
@@ -74,6 +76,7 @@ class Listener final : private SerialPort::Events {
   const Clock& m_clock;
   Line m_line;
   std::unique_ptr<SerialPort> m_port;  ///< null for one in use, or one that has failed
+  std::string m_place;                 ///< what its reasons begin with
   bool m_device = false;
   bool m_inUse = false;
   std::int64_t m_begun;  ///< when the ten seconds, or the search of the rate, began [ms, steady]

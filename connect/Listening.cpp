@@ -5,6 +5,7 @@
 #include <variant>
 
 #include "nmea/SentenceTable.h"
+#include "platform/Language.h"
 #include "platform/PortNames.h"
 #include "platform/VisibleText.h"
 
@@ -38,7 +39,7 @@ void Listening::Begin(const std::vector<Candidate>& candidates) {
     const std::string text = PortDevice(m_parts.Store, input);
     m_input = EndpointsOf(text);
     m_rows.push_back({std::make_unique<Listener>(
-        Candidate{"Port " + std::to_string(input) + " (" + VisibleText(text) + ")", text}, m_parts.Time,
+        Candidate{Filled(Tr("Port %1 (%2)"), {std::to_string(input), VisibleText(text)}), text}, m_parts.Time,
         [this](std::string_view line, const Moment& at) { Take(*m_rows.front().Of, line, at); })});
   }
   if (pilot != input && now.OutputOpen && !m_parts.Main.m_bSimulate) {
@@ -65,7 +66,7 @@ void Listening::Open(const Candidate& candidate) {
   }
   if (!leads.empty() && Among(m_pilot, leads.front())) {
     m_rows.push_back(
-        {std::make_unique<Listener>(candidate, m_parts.Time, "in use now: the autopilot's port")});
+        {std::make_unique<Listener>(candidate, m_parts.Time, Tr("in use now: the autopilot's port"))});
     return;
   }
   const std::size_t place = m_rows.size();
@@ -77,6 +78,14 @@ void Listening::Open(const Candidate& candidate) {
 void Listening::End() {
   for (Heard& row : m_rows) {
     row.Of->Close();
+  }
+}
+
+void Listening::Resume() {
+  for (Heard& row : m_rows) {
+    if (row.Ticked) {
+      row.Of->Open();
+    }
   }
 }
 
@@ -118,7 +127,7 @@ Listening::Row Listening::RowAt(std::size_t index) const {
   Row shown{of.Of().Name + (of.Rate() ? ", " : ": ") + of.Says(), VisibleText(of.LeadsTo()), of.Brings(),
             row.Ticked, of.Over()};
   if (const Heard* twin = TwinOf(row)) {
-    shown.Text += "; the same comes on " + twin->Of->Of().Name + ": tick one of them";
+    shown.Text += Filled(Tr("; the same comes on %1: tick one of them"), {twin->Of->Of().Name});
   }
   if (of.Brings()) {
     shown.Details += "\n" + of.Heard().Details(m_parts.Time.Now());
@@ -146,21 +155,24 @@ std::string Listening::Ticked() const {
 }
 
 std::vector<std::string> Listening::ForPilot() const {
-  std::vector<std::string> all;
+  std::vector<std::string> adapters;
+  std::vector<std::string> ticked;
+  std::vector<std::string> others;
   for (const Heard& row : m_rows) {
     const std::string leads = row.Of->LeadsTo();
     const std::vector<Endpoint> endpoints = EndpointsOf(leads);
-    if (endpoints.empty()) {
-      continue;
-    }
-    const Endpoint& first = endpoints.front();
-    if (first.What == Endpoint::Kind::Device && first.Baud == 0) {
-      all.push_back(first.Path);  // a pilot that is silent listens at 4800 baud
-    } else if (first.What == Endpoint::Kind::Device || row.Ticked) {
-      all.push_back(leads);
+    const bool device = !endpoints.empty() && endpoints.front().What == Endpoint::Kind::Device;
+    if (row.Ticked) {
+      ticked.push_back(leads);
+    } else if (device) {
+      // A pilot that is silent listens at 4800 baud.
+      const std::string& silent = endpoints.front().Path;
+      (row.Of->Of().Adapter ? adapters : others).push_back(endpoints.front().Baud == 0 ? silent : leads);
     }
   }
-  return all;
+  adapters.insert(adapters.end(), ticked.begin(), ticked.end());
+  adapters.insert(adapters.end(), others.begin(), others.end());
+  return adapters;
 }
 
 }  // namespace veerwatch

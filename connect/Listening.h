@@ -48,6 +48,8 @@ class Listening final : private HelmObserver {
   void Add(const std::vector<Candidate>& candidates);
   /// Closes all; the rows stay as they are.
   void End();
+  /// Opens those again that are ticked, after End().
+  void Resume();
   /// A part of a second has passed. Ticks what brings sentences that the program reads and nobody else
   /// brings, once, when its ten seconds are over.
   void Tick();
@@ -59,7 +61,8 @@ class Listening final : private HelmObserver {
   bool Over() const;
   /// The endpoints that are ticked, with the rates that were found, joined as one port; "" for none.
   std::string Ticked() const;
-  /// Those that may lead to the autopilot: each device, and what else is ticked.
+  /// Those that may lead to the autopilot, the likely ones first: an adapter that is silent, what is ticked,
+  /// and the computer's own serial ports.
   std::vector<std::string> ForPilot() const;
 
  private:

@@ -4,13 +4,14 @@
 
 #include "connect/HeardLines.h"
 #include "nmea/Fields.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
 
 namespace {
 
-constexpr const char* kComputed = "computed";
+constexpr const char* kComputed = TrMark("computed");
 constexpr std::int64_t kGone = 5000;  // [ms]
 
 std::size_t At(BoatValue value) { return static_cast<std::size_t>(value); }
@@ -26,18 +27,20 @@ std::string Wind(float angle, float speed) {
 }  // namespace
 
 const char* BoatValueName(BoatValue value) {
-  constexpr std::array<const char*, kBoatValues> kNames{"Apparent wind", "True wind", "Heading",
-                                                        "Boat speed",    "Variation", "Waypoint"};
+  constexpr std::array<const char*, kBoatValues> kNames{TrMark("Apparent wind"), TrMark("True wind"),
+                                                        TrMark("Heading"),       TrMark("Boat speed"),
+                                                        TrMark("Variation"),     TrMark("Waypoint")};
   return kNames[At(value)];
 }
 
-ValueDesk::ValueDesk(const Settings& present) : m_present(present) { Restart(); }
+ValueDesk::ValueDesk(const Settings& present) : m_present(present), m_calibrated(present) { Restart(); }
 
 void ValueDesk::Restart() {
   m_chosen = m_present;
   m_dispatcher.reset();
   m_record.emplace(m_chosen);
   m_dispatcher.emplace(m_chosen, *m_record);
+  m_calibration.Restart();
   m_wanted.fill("");
   m_otherUnit = false;
   // Of each value the best first.
@@ -52,11 +55,11 @@ void ValueDesk::Restart() {
                 {BoatValue::Heading, "HDT", "HDT"},
                 {BoatValue::Heading, "THS", "THS"},
                 {BoatValue::Heading, "VHW", "VHW"},
-                {BoatValue::Heading, "VTG, the course", "VTG"},
-                {BoatValue::Heading, "RMC, the course", "RMC"},
+                {BoatValue::Heading, TrMark("VTG, the course"), "VTG"},
+                {BoatValue::Heading, TrMark("RMC, the course"), "RMC"},
                 {BoatValue::BoatSpeed, "VHW", "VHW"},
-                {BoatValue::BoatSpeed, "VTG, over ground", "VTG"},
-                {BoatValue::BoatSpeed, "RMC, over ground", "RMC"},
+                {BoatValue::BoatSpeed, TrMark("VTG, over ground"), "VTG"},
+                {BoatValue::BoatSpeed, TrMark("RMC, over ground"), "RMC"},
                 {BoatValue::Variation, "RMC", "RMC"},
                 {BoatValue::Variation, "HDG", "HDG"},
                 {BoatValue::Variation, "HVM", "HVM"},
@@ -76,6 +79,14 @@ void ValueDesk::Take(std::string_view line, const Moment& now) {
   m_chosen = m_present;
   ApplyTo(m_chosen);
   m_dispatcher->Dispatch(line, m_chosen.m_iNmeaPort, now);
+  m_calibration.Take(readings, *m_record, now);
+}
+
+void ValueDesk::Calibrate(float Settings::*setting, float value) {
+  m_calibrated.*setting = value;
+  m_calibration.Restart();
+  m_chosen = m_present;
+  ApplyTo(m_chosen);
 }
 
 void ValueDesk::SeeAll(const SentenceKind& kind, const Readings& readings, const Moment& now) {
@@ -140,7 +151,7 @@ std::vector<ValueSource> ValueDesk::Sources(BoatValue value, const Moment& now) 
     if (bringer.Value == value && There(bringer)) {
       const std::string pace =
           bringer.Count > 0 ? " " + PaceText(bringer.Count, bringer.First, bringer.Last, now.Steady) : "";
-      sources.push_back({bringer.Name, bringer.Name + pace});
+      sources.push_back({bringer.Name, Tr(bringer.Name) + pace});
     }
   }
   return sources;
@@ -189,20 +200,21 @@ std::string ValueDesk::Missing(BoatValue value) const {
   }
   switch (value) {
     case BoatValue::WindApparent:
-      return "no apparent wind: nothing can be steered by the wind";
+      return Tr("no apparent wind: nothing can be steered by the wind");
     case BoatValue::WindTrue:
-      return Comes(BoatValue::BoatSpeed) ? "no true wind: it is computed once the apparent wind comes"
-                                         : "no true wind: the apparent wind only";
+      return Comes(BoatValue::BoatSpeed) ? Tr("no true wind: it is computed once the apparent wind comes")
+                                         : Tr("no true wind: the apparent wind only");
     case BoatValue::Heading:
-      return "no heading: no turns, and nothing shows whether the pilot follows";
+      return Tr("no heading: no turns, and nothing shows whether the pilot follows");
     case BoatValue::BoatSpeed:
-      return Comes(BoatValue::WindTrue) ? "no boat speed: no polar" : "no boat speed: the apparent wind only";
+      return Comes(BoatValue::WindTrue) ? Tr("no boat speed: no polar")
+                                        : Tr("no boat speed: the apparent wind only");
     case BoatValue::Variation:
-      return "no variation: no true bearings, no courses to a waypoint";
+      return Tr("no variation: no true bearings, no courses to a waypoint");
     case BoatValue::Waypoint:
       break;
   }
-  return "no waypoint: no courses to it";
+  return Tr("no waypoint: no courses to it");
 }
 
 bool ValueDesk::IsUsed(std::string_view sentence) const {
@@ -216,6 +228,10 @@ bool ValueDesk::IsUsed(std::string_view sentence) const {
 }
 
 void ValueDesk::ApplyTo(Settings& settings) const {
+  for (float Settings::*each :
+       {&Settings::m_fNmeaWindOffset, &Settings::m_fNmeaBoatSpeedFactor, &Settings::m_fNmeaHeadingOffset}) {
+    settings.*each = m_calibrated.*each;
+  }
   for (const SentenceKind& kind : kSentences) {
     const bool comes = std::any_of(m_bringers.begin(), m_bringers.end(), [&kind](const Bringer& each) {
       return each.Sentence == kind.Name && each.Count > 0;

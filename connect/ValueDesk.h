@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "connect/CalibrationDesk.h"
 #include "instruments/InstrumentRecord.h"
 #include "nmea/Dispatcher.h"
 #include "nmea/SentenceTable.h"
@@ -59,6 +60,12 @@ class ValueDesk {
   /// that nothing brings, stay as they are.
   void ApplyTo(Settings& settings) const;
 
+  /// What vane, log and compass ought to be set to, and where it is set.
+  const CalibrationDesk& Calibration() const { return m_calibration; }
+  void SetWindOffset(float offset) { Calibrate(&Settings::m_fNmeaWindOffset, offset); }
+  void SetSpeedFactor(float factor) { Calibrate(&Settings::m_fNmeaBoatSpeedFactor, factor); }
+  void SetHeadingOffset(float offset) { Calibrate(&Settings::m_fNmeaHeadingOffset, offset); }
+
   /// What the chosen sentences give.
   const InstrumentRecord& Record() const { return *m_record; }
 
@@ -73,6 +80,7 @@ class ValueDesk {
     std::int64_t Last = 0;
   };
 
+  void Calibrate(float Settings::*setting, float value);
   void See(BoatValue value, std::string_view sentence, const Moment& now);
   void SeeAll(const SentenceKind& kind, const Readings& readings, const Moment& now);
   bool There(const Bringer& bringer) const;
@@ -81,7 +89,9 @@ class ValueDesk {
   bool IsUsed(std::string_view sentence) const;
 
   const Settings m_present;
-  Settings m_chosen;  ///< with what is chosen, for the record
+  Settings m_chosen;      ///< with what is chosen, for the record
+  Settings m_calibrated;  ///< of which only the three that calibrate count
+  CalibrationDesk m_calibration{m_calibrated};
   std::optional<InstrumentRecord> m_record;
   std::optional<Dispatcher> m_dispatcher;
   std::vector<Bringer> m_bringers;

@@ -20,6 +20,8 @@ class MainWindowApi : public Settings {
   virtual void PilotStop() = 0;
   /// Sets every default, overlays the profile when `recall`, and goes to Setup (Manual when simulating).
   virtual void ProfileRecall(bool recall) = 0;
+  /// Writes the profile as a close does and goes on. What goes wrong is said in the banner.
+  virtual void KeepSettings() = 0;
   /// Moves the simulated boat to `time` [h] and returns the waypoint from there [deg magnetic], [nm].
   virtual void SimulateTime(float time, float& timeWaypointBearing, float& timeWaypointRange) = 0;
   /// Moves the held wind angle and the autopilot bearing by `change` [deg, positive to starboard]; only in

@@ -28,17 +28,26 @@ QLabel* NewLines(const char* name, QWidget* parent) {
 
 void PilotTestQt::Ask(const Parts& parts, TakeOver takeOver) {
   const std::string title = "Veerwatch - Test Pilot";
+  const auto over = [told = parts.Over](const std::string& verdict) {
+    if (told) {
+      told(verdict);
+    }
+  };
   const std::string why = PilotTestHindrance(parts.Main.Now());
   if (!why.empty()) {
     parts.Asks.Inform(title, why);
+    over(why);
     return;
   }
-  parts.Asks.AskYesNo(title, PilotTestQuestion(), [parts, takeOver = std::move(takeOver)](bool yes) {
-    if (yes) {
-      auto* dialog = new PilotTestQt(parts, takeOver);
-      dialog->open();
-      dialog->m_run.Begin();
+  parts.Asks.AskYesNo(title, PilotTestQuestion(), [parts, over, takeOver = std::move(takeOver)](bool yes) {
+    if (!yes) {
+      over("");
+      return;
     }
+    auto* dialog = new PilotTestQt(parts, takeOver);
+    dialog->m_over = over;
+    dialog->open();
+    dialog->m_run.Begin();
   });
 }
 
@@ -103,13 +112,18 @@ void PilotTestQt::Show() {
   if (m_run.Test().At() == PilotTest::Stage::Done) {
     ShowResult();
   } else {
-    lblPilotTest->setText(QStringLiteral("The test has ended: ") + QString::fromStdString(m_run.Ended()));
+    lblPilotTest->setText(QString::fromStdString(Verdict()));
   }
+}
+
+std::string PilotTestQt::Verdict() const {
+  return m_run.Test().At() == PilotTest::Stage::Done ? PilotTestWords(m_run.Test().Result())
+                                                     : "The test has ended: " + m_run.Ended();
 }
 
 void PilotTestQt::ShowResult() {
   const PilotTestResult& result = m_run.Test().Result();
-  lblPilotTest->setText(QString::fromStdString(PilotTestWords(result)));
+  lblPilotTest->setText(QString::fromStdString(Verdict()));
   const HelmNow now = m_main.Now();
   const std::string advice = PilotTestAdvice(
       result, {now.WindsASecond.value_or(1.0), 0.0, now.Heading.has_value(), now.BoatSpeedKnown});
@@ -120,6 +134,7 @@ void PilotTestQt::ShowResult() {
 void PilotTestQt::done(int result) {
   m_run.Stop();
   QDialog::done(result);
+  m_over(Verdict());
 }
 
 }  // namespace veerwatch

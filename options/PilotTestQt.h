@@ -27,6 +27,8 @@ class PilotTestQt final : public QDialog {
     const Clock& Time;
     WindowDialogs& Asks;  ///< those of Window
     QWidget& Window;      ///< in front of which it opens, and with which it is hidden
+    /// Hears what came of it when it is over, or why there is no test; "" when the user wants none.
+    std::function<void(const std::string& verdict)> Over{};
   };
 
   /// Says why the pilot cannot be tested now, or asks, and with Yes opens the window and begins. It deletes
@@ -42,9 +44,12 @@ class PilotTestQt final : public QDialog {
 
   void Show();
   void ShowResult();
+  /// What came of the test, in words.
+  std::string Verdict() const;
 
   MainWindowApi& m_main;
   TakeOver m_takeOver;
+  std::function<void(const std::string&)> m_over;
   QLabel* lblPilotTest;
   QLabel* lblPilotTestAdvice;
   QProgressBar* ProgressBarPilotTest;

@@ -1,5 +1,6 @@
 #include "platform/PortNames.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <filesystem>
 #include <map>
@@ -52,6 +53,14 @@ std::vector<PortEntry> PortEntries(const Profile& profile) {
 
 void NamePort(Profile& profile, int number, const std::string& endpoints) {
   profile.ProfileSet(kSection, std::to_string(number), endpoints);
+}
+
+void NameNewer(Profile& profile, const std::vector<PortEntry>& before, const std::vector<PortEntry>& now) {
+  for (const PortEntry& entry : now) {
+    if (std::find(before.begin(), before.end(), entry) == before.end()) {
+      NamePort(profile, entry.Number, entry.Endpoints);
+    }
+  }
 }
 
 bool DeviceIsThere(const std::string& path) {

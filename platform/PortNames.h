@@ -16,6 +16,8 @@ std::string PortDevice(const Profile& profile, int number);
 struct PortEntry {
   int Number = 1;  ///< [1, 32767]
   std::string Endpoints;
+
+  friend bool operator==(const PortEntry& a, const PortEntry& b) = default;
 };
 
 /// All entries of the section that name something, in the order of their numbers.
@@ -23,6 +25,9 @@ std::vector<PortEntry> PortEntries(const Profile& profile);
 
 /// Names what the number leads to from now on. `number` in [1, 32767].
 void NamePort(Profile& profile, int number, const std::string& endpoints);
+
+/// Names in `profile` what `now` has and `before` has not: what was named since.
+void NameNewer(Profile& profile, const std::vector<PortEntry>& before, const std::vector<PortEntry>& now);
 
 /// Whether the system has a device of that name.
 bool DeviceIsThere(const std::string& path);

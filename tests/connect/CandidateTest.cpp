@@ -27,7 +27,7 @@ Endpoint One(const std::string& text) {
 
 TEST(Candidate, ASerialPortHasItsDescriptionAndARateToBeFound) {
   EXPECT_THAT(SerialCandidates({{"/dev/ttyUSB0", "FTDI", "A5"}, {"/dev/ttyS0", "", ""}}),
-              ElementsAre(Candidate{"USB serial (FTDI)", "/dev/ttyUSB0?baud=auto"},
+              ElementsAre(Candidate{"USB serial (FTDI)", "/dev/ttyUSB0?baud=auto", true},
                           Candidate{"/dev/ttyS0", "/dev/ttyS0?baud=auto"}));
 }
 
@@ -47,6 +47,12 @@ TEST(Candidate, AHostHasTheTcpPortsAndOneWithAPortThatOne) {
   EXPECT_EQ(One(HostCandidates("fe80::1").front().Endpoint).Host, "fe80::1");
   EXPECT_EQ(One(HostCandidates("[::1]").front().Endpoint).Host, "::1");
   EXPECT_THAT(HostCandidates("  "), IsEmpty());
+}
+
+TEST(Candidate, ADeviceOrAnEndpointThatIsTypedIsItself) {
+  EXPECT_THAT(HostCandidates("/dev/pts/7"), ElementsAre(Candidate{"/dev/pts/7", "/dev/pts/7?baud=auto"}));
+  EXPECT_THAT(Endpoints(HostCandidates("/dev/ttyUSB0?baud=38400")), ElementsAre("/dev/ttyUSB0?baud=38400"));
+  EXPECT_THAT(Endpoints(HostCandidates("tcp-listen://:10110")), ElementsAre("tcp-listen://:10110"));
 }
 
 TEST(Candidate, WhatIsAnnouncedComesFromItsAddress) {

@@ -106,13 +106,16 @@ TEST_F(ListeningTest, WhatIsClosedKeepsItsRow) {
   EXPECT_THAT(All->RowAt(0).Text, HasSubstr("A: HDG"));
 }
 
-TEST_F(ListeningTest, APilotMayBeOnADeviceThatIsSilentOrOnWhatIsTicked) {
+TEST_F(ListeningTest, APilotIsLikelyOnASilentAdapterThenOnWhatIsTicked) {
   Make();
-  All->Begin({{"USB", "/dev/ttyUSB0?baud=auto"}, {"A", "tcp://a:2000"}, {"B", "tcp://b:2000"}});
+  All->Begin({{"/dev/ttyS0", "/dev/ttyS0?baud=auto"},
+              {"USB serial (FTDI)", "/dev/ttyUSB0?baud=auto", true},
+              {"A", "tcp://a:2000"},
+              {"B", "tcp://b:2000"}});
   for (int second = 0; second < 19; ++second) {
     Second({{Port("tcp://a:2000"), "IIHDG,10" + std::to_string(second) + ",,,,"}});
   }
-  EXPECT_THAT(All->ForPilot(), testing::ElementsAre("/dev/ttyUSB0", "tcp://a:2000"));
+  EXPECT_THAT(All->ForPilot(), testing::ElementsAre("/dev/ttyUSB0", "tcp://a:2000", "/dev/ttyS0"));
 }
 
 }  // namespace

@@ -25,6 +25,7 @@ class FakeMainWindow final : public MainWindowApi {
   void PilotStart() override {}
   void PilotStop() override {}
   void ProfileRecall(bool /*recall*/) override {}
+  void KeepSettings() override { Note("Keep"); }
   void SimulateTime(float time, float& timeWaypointBearing, float& timeWaypointRange) override {
     SimulateTimes.push_back(time);
     m_fSimulateTime = time;
