@@ -3,13 +3,17 @@
 #include <QLabel>
 #include <QPushButton>
 #include <filesystem>
+#include <initializer_list>
 #include <system_error>
 
 #include "app/IconsQt.h"
+#include "connect/frmConnect.h"
 #include "platform/LanguageQt.h"
 #include "platform/PortNames.h"
 
 namespace veerwatch {
+
+ConnectShowQt::ConnectShowQt(Needs needs) : m_needs(std::move(needs)) {}
 
 ConnectShowQt::~ConnectShowQt() { delete m_window; }
 
@@ -23,15 +27,19 @@ void ConnectShowQt::Show() {
     return;
   }
   if (!m_window) {
-    m_window = new frmConnect(
-        frmConnect::Parts{{m_needs.Main, m_needs.Parts.Store, m_needs.Parts.Time, m_needs.Parts.Finder,
-                           m_needs.Parts.Ports, DeviceIsThere, m_needs.Polar},
-                          m_needs.Parts.Asks,
-                          m_needs.Parts.Reader,
-                          NoProfile(),
-                          [this] { Saved(); },
-                          [this] { Simulate(); }},
-        &m_needs.Window);
+    m_window = new frmConnect(frmConnect::Parts{{m_needs.Main,
+                                                 m_needs.Parts.Store,
+                                                 m_needs.Parts.Time,
+                                                 m_needs.Parts.Finder,
+                                                 m_needs.Parts.Ports,
+                                                 DeviceIsThere,
+                                                 {m_needs.SmoothWinds, m_needs.SetSmoothWinds}},
+                                                m_needs.Parts.Asks,
+                                                m_needs.Parts.Reader,
+                                                NoProfile(),
+                                                [this] { Saved(); },
+                                                [this] { Simulate(); }},
+                              &m_needs.Window);
     m_window->setWindowIcon(ProgramIcon());
   }
   m_window->show();
@@ -60,6 +68,7 @@ void ConnectShowQt::Saved() {
 void ConnectShowQt::Simulate() {
   m_needs.Main.TrackSetOff();
   m_needs.Main.m_bSimulate = true;
+  m_needs.Main.m_eSimulateModel = SimulateModel::Boat;
   m_needs.Changed();
   m_needs.Main.TrackSetSetup();
   m_needs.Main.TrackSetManual();

@@ -6,12 +6,14 @@
 #include <QPointer>
 #include <QToolBar>
 #include <functional>
+#include <utility>
 
 #include "app/MainWindowParts.h"
-#include "connect/frmConnect.h"
 #include "helm/MainWindowApi.h"
 
 namespace veerwatch {
+
+class frmConnect;
 
 class ConnectShowQt final {
  public:
@@ -20,11 +22,13 @@ class ConnectShowQt final {
     const MainWindowParts& Parts;
     MainWindowApi& Main;
     QWidget& Window;
-    ConnectDesk::SmoothWinds Polar;
+    /// The polar's choice between two wind speeds, and sets it.
+    std::function<bool()> SmoothWinds;
+    std::function<void(bool smooth)> SetSmoothWinds;
     std::function<void()> Changed;  ///< settings were changed: other windows show them
   };
 
-  explicit ConnectShowQt(Needs needs) : m_needs(std::move(needs)) {}
+  explicit ConnectShowQt(Needs needs);
   ~ConnectShowQt();
   ConnectShowQt(const ConnectShowQt&) = delete;
   ConnectShowQt& operator=(const ConnectShowQt&) = delete;

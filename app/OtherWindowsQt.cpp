@@ -59,12 +59,8 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
       m_sails({main, turns.Boat, turns.Run, turns.Asks, *window, turns.Say, turns.Notice, turns.Sound,
                [this]() -> frmPolar& { return Polar(); }, [this] { return Tack().Kept(); },
                [this](const TurnPlan& plan) { m_turns.Begin(plan); }}),
-      m_connect({parts,
-                 main,
-                 *window,
-                 {[this] { return RecommendedOf().SmoothWinds; },
-                  [this](bool smooth) { Polar().SmoothWinds(smooth); }},
-                 [this] { OptionsReload(); }}) {
+      m_connect({parts, main, *window, [this] { return RecommendedOf().SmoothWinds; },
+                 [this](bool smooth) { Polar().SmoothWinds(smooth); }, [this] { OptionsReload(); }}) {
   QObject::connect(menu.mnuViewHistory, &QAction::triggered, [this] { HistoryShow(); });
   for (const QAction* command : {menu.mnuViewDiagram, menu.mnuHelpDiagram}) {
     QObject::connect(command, &QAction::triggered, [this] { DiagramShow(); });

@@ -107,13 +107,11 @@ std::set<std::size_t> HeardLines::Different() const {
   return hashes;
 }
 
-bool HeardLines::SameAs(const HeardLines& other) const {
+bool BringSame(const std::set<std::size_t>& some, const std::set<std::size_t>& others) {
   constexpr std::size_t kLeast = 3;
-  const std::set<std::size_t> mine = Different();
-  const std::set<std::size_t> others = other.Different();
   const auto common = static_cast<std::size_t>(std::count_if(
-      mine.begin(), mine.end(), [&others](std::size_t each) { return others.count(each) > 0; }));
-  return common >= kLeast && 5 * common >= 4 * std::min(mine.size(), others.size());
+      some.begin(), some.end(), [&others](std::size_t each) { return others.count(each) > 0; }));
+  return common >= kLeast && 5 * common >= 4 * std::min(some.size(), others.size());
 }
 
 }  // namespace veerwatch

@@ -35,9 +35,8 @@ class HeardLines {
   /// A line for each sentence with its talker, as "II MWV R: 2/s".
   std::string Details(const Moment& now) const;
 
-  /// Whether the two bring the same: at least three different lines, and four fifths of those that the one
-  /// with fewer remembers.
-  bool SameAs(const HeardLines& other) const;
+  /// The different lines of the latest seconds, as numbers to be compared.
+  std::set<std::size_t> Different() const;
 
  private:
   struct Kind {
@@ -48,7 +47,6 @@ class HeardLines {
   };
   using Kinds = std::vector<Kind>;
 
-  std::set<std::size_t> Different() const;
   static void Count(Kinds& kinds, const std::string& name, const Moment& now);
 
   Kinds m_kinds;    ///< by type, as "MWV R"
@@ -62,6 +60,10 @@ class HeardLines {
   };
   std::deque<Remembered> m_remembered;
 };
+
+/// Whether two that brought these lines bring the same: at least three different ones, and four fifths of
+/// those of the one with fewer.
+bool BringSame(const std::set<std::size_t>& some, const std::set<std::size_t>& others);
 
 /// How often something comes, as "2/s" or "0.5/s": `count` of them between `first` and `last`, and at `now`
 /// [ms, steady].

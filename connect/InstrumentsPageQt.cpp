@@ -16,13 +16,13 @@ InstrumentsPageQt::InstrumentsPageQt(ConnectDesk& desk, QWidget* parent)
       cmdConnectListen(new QPushButton(TrQ("&Listen"), this)),
       cmdConnectAgain(new QPushButton(TrQ("Listen &Again"), this)),
       cmdConnectSimulate(new QPushButton(TrQ("Show me with a &simulated boat"), this)) {
-  NameControl(*lstConnect, "lstConnect", "What was found; tick what brings your instruments");
+  NameControl(*lstConnect, "lstConnect", TrMark("What was found; tick what brings your instruments"));
   NameControl(*txtConnectHost, "txtConnectHost",
-              "Name or address of a gateway, as 192.168.1.1 or gateway:2000; a device; an endpoint");
+              TrMark("Name or address of a gateway, as 192.168.1.1 or gateway:2000; a device; an endpoint"));
   NameControl(*cmdConnectListen, "cmdConnectListen", TrMark("Listens to that place as well"));
   NameControl(*cmdConnectAgain, "cmdConnectAgain", TrMark("Looks at every port anew, for ten seconds"));
   NameControl(*cmdConnectSimulate, "cmdConnectSimulate",
-              "Closes this window and sails a simulated boat; no port is opened");
+              TrMark("Closes this window and sails a simulated boat; no port is opened"));
   lstConnect->setWordWrap(true);
   lstConnect->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   constexpr int kRows = 5;

@@ -15,7 +15,7 @@ namespace {
 constexpr std::string_view kAutomatic = "?baud=auto";
 
 /// `text` without `front`, where it begins with it.
-std::string Without(std::string text, const std::string& front) {
+std::string Without(const std::string& text, const std::string& front) {
   return text.starts_with(front) ? text.substr(front.size()) : text;
 }
 

@@ -1,6 +1,7 @@
 #include "connect/Listening.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 #include <variant>
 
@@ -95,10 +96,13 @@ void Listening::OnNmeaLine(std::string_view line, LineFault fault, bool /*used*/
   }
 }
 
+bool Listening::IsTicked(const Listener* listener) const {
+  return std::any_of(m_rows.begin(), m_rows.end(),
+                     [listener](const Heard& row) { return row.Of.get() == listener && row.Ticked; });
+}
+
 void Listening::Take(const Listener& from, std::string_view line, const Moment& now) const {
-  const bool ticked = std::any_of(m_rows.begin(), m_rows.end(),
-                                  [&from](const Heard& row) { return row.Of.get() == &from && row.Ticked; });
-  if (ticked && m_line) {
+  if (IsTicked(&from) && m_line) {
     m_line(line, now);
   }
 }
@@ -106,19 +110,31 @@ void Listening::Take(const Listener& from, std::string_view line, const Moment& 
 void Listening::Tick() {
   for (Heard& row : m_rows) {
     row.Of->Tick();
+  }
+  FindTwins();
+  for (Heard& row : m_rows) {
     if (row.Of->Over() && !row.Offered) {
       row.Offered = true;
-      const Heard* twin = TwinOf(row);
-      row.Ticked = row.Of->Heard().Known() > 0 && (twin == nullptr || !twin->Ticked);
+      row.Ticked = row.Of->Heard().Known() > 0 && (row.Twin == nullptr || !IsTicked(row.Twin));
     }
   }
 }
 
-const Listening::Heard* Listening::TwinOf(const Heard& row) const {
-  const auto twin = std::find_if(m_rows.begin(), m_rows.end(), [&row](const Heard& each) {
-    return &each != &row && each.Of->Heard().SameAs(row.Of->Heard());
-  });
-  return twin == m_rows.end() ? nullptr : &*twin;
+void Listening::FindTwins() {
+  std::vector<std::set<std::size_t>> lines;
+  lines.reserve(m_rows.size());
+  for (Heard& row : m_rows) {
+    row.Twin = nullptr;
+    lines.push_back(row.Of->Heard().Different());
+  }
+  for (std::size_t i = 0; i < m_rows.size(); ++i) {
+    for (std::size_t j = i + 1; j < m_rows.size(); ++j) {
+      if (BringSame(lines[i], lines[j])) {
+        m_rows[i].Twin = m_rows[j].Of.get();
+        m_rows[j].Twin = m_rows[i].Of.get();
+      }
+    }
+  }
 }
 
 Listening::Row Listening::RowAt(std::size_t index) const {
@@ -126,8 +142,8 @@ Listening::Row Listening::RowAt(std::size_t index) const {
   const Listener& of = *row.Of;
   Row shown{of.Of().Name + (of.Rate() ? ", " : ": ") + of.Says(), VisibleText(of.LeadsTo()), of.Brings(),
             row.Ticked, of.Over()};
-  if (const Heard* twin = TwinOf(row)) {
-    shown.Text += Filled(Tr("; the same comes on %1: tick one of them"), {twin->Of->Of().Name});
+  if (row.Twin != nullptr) {
+    shown.Text += Filled(Tr("; the same comes on %1: tick one of them"), {row.Twin->Of().Name});
   }
   if (of.Brings()) {
     shown.Details += "\n" + of.Heard().Details(m_parts.Time.Now());

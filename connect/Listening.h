@@ -69,7 +69,8 @@ class Listening final : private HelmObserver {
   struct Heard {
     std::unique_ptr<Listener> Of;
     bool Ticked = false;
-    bool Offered = false;  ///< it was ticked once, or is not to be
+    bool Offered = false;            ///< it was ticked once, or is not to be
+    const Listener* Twin = nullptr;  ///< another that brings the same; null for none
   };
 
   void OnNmeaLine(std::string_view line, LineFault fault, bool used) override;
@@ -77,8 +78,9 @@ class Listening final : private HelmObserver {
   void Open(const Candidate& candidate);
   /// The endpoints of a text; none for one that cannot be read.
   std::vector<Endpoint> EndpointsOf(const std::string& text) const;
-  /// Another row that brings the same; null for none.
-  const Heard* TwinOf(const Heard& row) const;
+  /// Looks for rows that bring the same.
+  void FindTwins();
+  bool IsTicked(const Listener* listener) const;
 
   Parts m_parts;
   Listener::Line m_line;

@@ -16,7 +16,8 @@ ReadyPageQt::ReadyPageQt(ConnectDesk& desk, QWidget* parent)
   txtConnectWords->setTabChangesFocus(true);
   constexpr int kLines = 6;
   txtConnectWords->setMinimumHeight(kLines * fontMetrics().lineSpacing());
-  auto* caption = NewCaption(TrMark("Th&is will be written. Nothing has changed before."), txtConnectWords, this);
+  auto* caption =
+      NewCaption(TrMark("Th&is will be written. Nothing has changed before."), txtConnectWords, this);
   caption->setWordWrap(true);
   auto* rows = new QVBoxLayout(this);
   rows->addWidget(caption);
@@ -28,9 +29,8 @@ void ReadyPageQt::Enter() {
   for (const std::string& line : Desk().Words()) {
     text += line + "\n";
   }
-  txtConnectWords->setPlainText(text.empty()
-                                    ? TrQ("Everything is so already; the settings are only saved.")
-                                    : QString::fromStdString(text).trimmed());
+  txtConnectWords->setPlainText(text.empty() ? TrQ("Everything is so already; the settings are only saved.")
+                                             : QString::fromStdString(text).trimmed());
 }
 
 }  // namespace veerwatch

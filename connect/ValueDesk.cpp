@@ -26,13 +26,6 @@ std::string Wind(float angle, float speed) {
 
 }  // namespace
 
-const char* BoatValueName(BoatValue value) {
-  constexpr std::array<const char*, kBoatValues> kNames{TrMark("Apparent wind"), TrMark("True wind"),
-                                                        TrMark("Heading"),       TrMark("Boat speed"),
-                                                        TrMark("Variation"),     TrMark("Waypoint")};
-  return kNames[At(value)];
-}
-
 ValueDesk::ValueDesk(const Settings& present) : m_present(present), m_calibrated(present) { Restart(); }
 
 void ValueDesk::Restart() {

@@ -23,9 +23,6 @@ namespace veerwatch {
 enum class BoatValue { WindApparent, WindTrue, Heading, BoatSpeed, Variation, Waypoint };
 inline constexpr std::size_t kBoatValues = 6;
 
-/// "Apparent wind", "True wind", "Heading", "Boat speed", "Variation", "Waypoint".
-const char* BoatValueName(BoatValue value);
-
 /// What may bring a value, as it stands in its list, with its pace: "HDG 5/s", "computed".
 struct ValueSource {
   std::string Name;

@@ -18,8 +18,9 @@ constexpr double kFigureShare = 1.5;  ///< of the size of the other texts
 constexpr int kWidestSource = 20;     ///< [characters]
 
 /// What the lists are called by who cannot see them, and their keys.
-constexpr std::array<const char*, kBoatValues> kCaptions{TrMark("&Apparent wind"), TrMark("&True wind"), TrMark("&Heading"),
-                                                         TrMark("Boat s&peed"),    TrMark("&Variation"), TrMark("&Waypoint")};
+constexpr std::array<const char*, kBoatValues> kCaptions{TrMark("&Apparent wind"), TrMark("&True wind"),
+                                                         TrMark("&Heading"),       TrMark("Boat s&peed"),
+                                                         TrMark("&Variation"),     TrMark("&Waypoint")};
 constexpr std::array<const char*, kBoatValues> kNames{"WindApparent", "WindTrue",  "Heading",
                                                       "BoatSpeed",    "Variation", "Waypoint"};
 

@@ -69,6 +69,7 @@ frmConnect::frmConnect(Parts parts, QWidget* main)
     buttons->addWidget(button);
   }
   rows->addLayout(buttons);
+  m_timer.setObjectName(QStringLiteral("tmrConnect"));
   m_timer.setInterval(kRefreshes);
   connect(&m_timer, &QTimer::timeout, this, [this] {
     m_desk.Tick();

@@ -69,7 +69,7 @@ class frmConnect final : public QDialog {
   QPushButton* cmdConnectBack;
   QPushButton* cmdConnectNext;
   QPushButton* cmdConnectCancel;
-  QTimer m_timer;
+  QTimer m_timer{this};
 };
 
 }  // namespace veerwatch

@@ -57,9 +57,9 @@ TEST(HeardLines, TwoThatBringTheSameAreTheSameAlsoWhenOneBringsMore) {
     b.Take("$IIHDG," + std::to_string(i), LineFault::None, At(100 * i + 50));
     other.Take("$IIVHW," + std::to_string(i), LineFault::None, At(100 * i));
   }
-  EXPECT_TRUE(a.SameAs(b));
-  EXPECT_TRUE(b.SameAs(a));
-  EXPECT_FALSE(a.SameAs(other));
+  EXPECT_TRUE(BringSame(a.Different(), b.Different()));
+  EXPECT_TRUE(BringSame(b.Different(), a.Different()));
+  EXPECT_FALSE(BringSame(a.Different(), other.Different()));
 }
 
 TEST(HeardLines, ABoatThatLiesStillIsNoTwinByOneLine) {
@@ -69,8 +69,8 @@ TEST(HeardLines, ABoatThatLiesStillIsNoTwinByOneLine) {
     a.Take("$IIMTW,10,C", LineFault::None, At(100 * i));
     b.Take("$IIMTW,10,C", LineFault::None, At(100 * i));
   }
-  EXPECT_FALSE(a.SameAs(b));
-  EXPECT_FALSE(a.SameAs(HeardLines())) << "nothing is not the same as anything";
+  EXPECT_FALSE(BringSame(a.Different(), b.Different()));
+  EXPECT_FALSE(BringSame(a.Different(), HeardLines().Different())) << "nothing is not the same as anything";
 }
 
 TEST(HeardLines, AFloodOfKindsTakesNoMoreRoom) {

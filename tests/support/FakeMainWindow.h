@@ -17,6 +17,7 @@ class FakeMainWindow final : public MainWindowApi {
   HelmObservers Tells;               ///< whom the helm tells
   HelmNow Answer;                    ///< what the helm does
   InstrumentRecord Instruments{*this};
+  float Bearing = 0.0F;           ///< that the turn set last
   float WaypointBearing = 77.0F;  ///< what SimulateTime answers
   float WaypointRange = 6.25F;
 
@@ -35,7 +36,7 @@ class FakeMainWindow final : public MainWindowApi {
   void TrackSteerTo(float /*change*/) override {}
   void TurnBegins() override {}
   void TurnOver() override {}
-  void AutoPilotSet(float /*bearing*/) override {}
+  void AutoPilotSet(float bearing) override { Bearing = bearing; }
   void PilotSendNow() override {}
   HelmObservers& Observers() override { return Tells; }
   HelmNow Now() const override { return Answer; }

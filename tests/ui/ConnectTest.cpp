@@ -1,0 +1,439 @@
+// The assistant "Connect Your Boat...": its pages on ports in memory, and the row that offers it.
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QToolBar>
+#include <QtTest/QTest>
+#include <memory>
+#include <stdexcept>
+#include <string>
+
+#include "connect/frmConnect.h"
+#include "platform/ColoursQt.h"
+#include "platform/PortNames.h"
+#include "tests/connect/ListenRig.h"
+#include "tests/support/FakeMainWindow.h"
+#include "tests/support/ListedPorts.h"
+#include "tests/support/PictureQt.h"
+#include "tests/support/WaitQt.h"
+#include "tests/ui/MainWindowTester.h"
+
+namespace veerwatch {
+namespace {
+
+using testing::AllOf;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class NoReader final : public ProgramReader {
+ public:
+  Answer Asked;
+  void Read(const std::string& /*program*/, const std::vector<std::string>& /*arguments*/,
+            Answer answer) override {
+    Asked = std::move(answer);
+  }
+};
+
+class Connect : public testing::Test {
+ public:
+  ListenRig Rig;
+  FakeMainWindow Main;
+  QueuedDialogs Dialogs;
+  Profile Store;
+  ListedPorts Finder;
+  NoReader Reader;
+  int Saved = 0;
+  int Simulated = 0;
+  QWidget Ground;
+  QPointer<frmConnect> Window;
+
+  ~Connect() override { WearNightColours(false); }
+
+  void Open() {
+    Finder.Plugged = {{"/dev/ttyUSB0", "FTDI", ""}};
+    Main.m_eTrackMode = TrackMode::Setup;
+    Window = new frmConnect({{Main,
+                              Store,
+                              Rig.Time,
+                              &Finder,
+                              Rig.Maker(),
+                              [](const std::string&) { return false; },
+                              {[] { return false; }, [](bool) {}}},
+                             Dialogs,
+                             &Reader,
+                             true,
+                             [this] { ++Saved; },
+                             [this] { ++Simulated; }},
+                            &Ground);
+    Ground.show();
+    Window->show();
+    Window->activateWindow();
+    ASSERT_TRUE(WaitActive(*Window));
+  }
+
+  template <class Control>
+  Control& Find(const char* name) const {
+    auto* control = Window->findChild<Control*>(QLatin1String(name));
+    if (control == nullptr) {
+      throw std::runtime_error(std::string("no control ") + name);
+    }
+    return *control;
+  }
+  std::string Text(const char* label) const { return Find<QLabel>(label).text().toStdString(); }
+  std::string Row(int row) const { return Find<QListWidget>("lstConnect").item(row)->text().toStdString(); }
+  void Click(const char* button) const { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
+  ScriptedPort& Device() { return *Rig.Ports.at("/dev/ttyUSB0?baud=auto"); }
+
+  /// So many seconds of wind, speed, heading and position on the device.
+  void Hear(int seconds) {
+    for (int second = 0; second < seconds; ++second) {
+      const std::string digit = std::to_string(m_heard++ % 10);
+      for (const std::string& body :
+           {"IIMWV,35" + digit + ",R,10,N,A", "IIVHW,,T,101,M,5." + digit + ",N,,",
+            "HCHDG,10" + digit + ",,,3,E", "GPRMC,,A,,,,,6." + digit + ",108,,3,E"}) {
+        Device().Receive(Sentence(body));
+      }
+      Rig.Time.Pass(1000);
+    }
+  }
+  /// The window looks again.
+  void Look() const {
+    QMetaObject::invokeMethod(Window->findChild<QTimer*>(QStringLiteral("tmrConnect")), "timeout",
+                              Qt::DirectConnection);
+  }
+  void HearAll() {
+    Hear(10);
+    Look();
+    EXPECT_EQ(Find<QListWidget>("lstConnect").item(0)->checkState(), Qt::Checked);
+    Hear(3);
+  }
+  void Next(int times) const {
+    for (int i = 0; i < times; ++i) {
+      Click("cmdConnectNext");
+    }
+  }
+
+ private:
+  int m_heard = 0;
+};
+
+TEST_F(Connect, ShowsWhatComesAndTicksIt) {
+  Open();
+  EXPECT_EQ(Text("lblConnectPage"), "1 of 5: Instruments");
+  EXPECT_EQ(Row(0), "USB serial (FTDI), 4800: searching the rate, now 4800 baud");
+  HearAll();
+  Look();
+  EXPECT_EQ(Row(0), "USB serial (FTDI), 4800: MWV R 1/s, VHW 1/s, HDG 1/s, RMC 1/s");
+  EXPECT_EQ(Row(1), "TCP 10110 on this computer: nothing comes");
+  EXPECT_TRUE(Find<QListWidget>("lstConnect").item(1)->data(Qt::CheckStateRole).toInt() == Qt::Unchecked);
+  EXPECT_FALSE(Find<QListWidget>("lstConnect").item(1)->flags() & Qt::ItemIsUserCheckable);
+  // The space bar takes the tick away and gives it back.
+  auto& list = Find<QListWidget>("lstConnect");
+  list.setFocus();
+  list.setCurrentRow(0);
+  QTest::keyClick(&list, Qt::Key_Space);
+  Look();
+  EXPECT_THAT(Text("lblConnectHint"), HasSubstr("Nothing is ticked"));
+  QTest::keyClick(&list, Qt::Key_Space);
+  Look();
+  EXPECT_EQ(Text("lblConnectHint"), "");
+}
+
+TEST_F(Connect, EnterInTheBoxOfAPlaceListensToItAndStays) {
+  Open();
+  auto& place = Find<QLineEdit>("txtConnectHost");
+  QTest::mouseClick(&place, Qt::LeftButton);
+  QTest::keyClicks(&place, QStringLiteral("gate:1456"));
+  QTest::keyClick(&place, Qt::Key_Return);
+  EXPECT_EQ(Text("lblConnectPage"), "1 of 5: Instruments");
+  EXPECT_EQ(Row(6), "TCP 1456 on gate: listening...");
+}
+
+TEST_F(Connect, WhatAnnouncesItselfJoinsTheList) {
+  Open();
+  Reader.Asked("=;e;IPv4;Gate;_nmea-0183._tcp;local;g.local;10.0.0.9;1456;\n");
+  Look();
+  EXPECT_EQ(Row(6), "Gate (NMEA 0183, announced): listening...");
+}
+
+TEST_F(Connect, ShowsEachValueWithItsSentenceAndTakesAnother) {
+  Open();
+  HearAll();
+  Next(1);
+  EXPECT_EQ(Text("lblConnectPage"), "2 of 5: Values");
+  EXPECT_THAT(Text("lblConnectWindApparent"), HasSubstr(" deg, 10.0 kn"));
+  EXPECT_EQ(Text("lblConnectHeading"), "102 deg");
+  EXPECT_EQ(Text("lblConnectMissingWaypoint"), "no waypoint: no courses to it");
+  auto& heading = Find<QComboBox>("cmbConnectHeading");
+  EXPECT_EQ(heading.count(), 3);
+  EXPECT_EQ(heading.currentText(), "HDG 1/s");
+  heading.setFocus();
+  QTest::keyClick(&heading, Qt::Key_Down);
+  EXPECT_EQ(heading.currentText(), "VHW 1/s");
+  Hear(1);
+  Look();
+  EXPECT_EQ(Text("lblConnectHeading"), "101 deg");
+}
+
+TEST_F(Connect, SetsVaneLogAndCompassByAClick) {
+  Open();
+  HearAll();
+  Next(1);
+  Click("cmdConnectVane");
+  Click("cmdConnectLog");
+  Click("cmdConnectCompass");
+  Hear(1);
+  Look();
+  EXPECT_THAT(Text("lblConnectVane"), HasSubstr("Wind angle offset 9 deg"));
+  EXPECT_THAT(Text("lblConnectLog"), HasSubstr("Log factor 1.2"));
+  Next(3);
+  EXPECT_THAT(Find<QPlainTextEdit>("txtConnectWords").toPlainText().toStdString(),
+              HasSubstr("Nmea, Wind Offset: 9 deg, now 0 deg"));
+}
+
+TEST_F(Connect, AWrongPortOfThePilotIsSaidAndHoldsBack) {
+  Open();
+  HearAll();
+  Next(2);
+  EXPECT_EQ(Text("lblConnectPage"), "3 of 5: Autopilot");
+  EXPECT_EQ(Text("lblConnectPilot"), "One port for both ways: the instruments and the autopilot.");
+  EXPECT_THAT(Text("lblPilotSentences"), HasSubstr("$ECAPB,"));
+  auto& port = *Find<QComboBox>("cmbConnectPilot").lineEdit();
+  port.selectAll();
+  QTest::keyClicks(&port, QStringLiteral("tcp://pilot:x"));
+  EXPECT_THAT(Text("lblConnectPilot"), HasSubstr("\"x\" is no port"));
+  EXPECT_FALSE(Find<QPushButton>("cmdConnectNext").isEnabled());
+  port.selectAll();
+  QTest::keyClicks(&port, QStringLiteral("tcp://pilot:2000"));
+  EXPECT_TRUE(Find<QPushButton>("cmdConnectNext").isEnabled());
+  EXPECT_TRUE(Find<QPushButton>("cmdPilotTest").isEnabled());
+}
+
+TEST_F(Connect, TheTestOfThePilotUsesWhatIsChosenAndBringsEverythingBack) {
+  Open();
+  HearAll();
+  Next(2);
+  Click("cmdPilotTest");
+  EXPECT_EQ(Text("lblConnectTest"), "Waiting for a heading and the wind...");
+  EXPECT_EQ(PortDevice(Store, 5), "/dev/ttyUSB0?baud=4800");
+  EXPECT_FALSE(Device().PortOpen()) << "the program itself needs it";
+  Main.m_eTrackMode = TrackMode::Manual;
+  Main.Answer.Mode = TrackMode::Manual;
+  Main.Answer.Hand = PilotHand::User;
+  Look();
+  EXPECT_EQ(Text("lblConnectTest"), "No wind comes, and without it nothing is sent.");
+  Main.Answer.InputStarted = true;
+  Main.Answer.InputOpen = true;
+  Main.Answer.OutputOpen = true;
+  Main.Answer.Heading = 100.0F;
+  Look();
+  ASSERT_EQ(Dialogs.Questions.size(), 1U) << "the answer is No";
+  EXPECT_THAT(Dialogs.Questions.back().Text, HasSubstr("10 degrees to starboard"));
+  EXPECT_EQ(Store.Content(), "");
+  EXPECT_TRUE(Device().PortOpen());
+}
+
+TEST_F(Connect, NothingIsWrittenBeforeSaveAndCancelLeavesEverything) {
+  Open();
+  HearAll();
+  Next(4);
+  EXPECT_EQ(Text("lblConnectPage"), "5 of 5: Ready");
+  EXPECT_EQ(Find<QPushButton>("cmdConnectNext").text(), "Save and &go to Setup");
+  EXPECT_THAT(Find<QPlainTextEdit>("txtConnectWords").toPlainText().toStdString(),
+              AllOf(HasSubstr("Instruments: port 5 leads to /dev/ttyUSB0?baud=4800"),
+                    HasSubstr("Track, Method: Direction, now Sentence")));
+  ScriptedPort& device = Device();
+  EXPECT_TRUE(device.PortOpen());
+  QTest::keyClick(Window, Qt::Key_Escape);
+  EXPECT_THAT(Main.Calls, IsEmpty());
+  EXPECT_EQ(Store.Content(), "");
+  EXPECT_EQ(Saved, 0);
+  EXPECT_FALSE(Window->isVisible());
+  EXPECT_FALSE(device.PortOpen());
+}
+
+TEST_F(Connect, SaveWritesWhatStoodThere) {
+  Open();
+  HearAll();
+  Next(3);
+  // The first of what is recommended is not wanted.
+  QTest::keyClick(&Find<QCheckBox>("chkRecommended1"), Qt::Key_Space);
+  Next(2);
+  EXPECT_THAT(Main.Calls, testing::ElementsAre("Off 5 5", "Setup 5 5"));
+  EXPECT_EQ(PortDevice(Store, 5), "/dev/ttyUSB0?baud=4800");
+  EXPECT_EQ(Main.m_eTrackMethod, TrackMethod::Sentence);
+  EXPECT_TRUE(Main.m_bWatchAct);
+  EXPECT_EQ(Saved, 1);
+  EXPECT_FALSE(Window && Window->isVisible());
+}
+
+TEST_F(Connect, GoesByKeysAlone) {
+  Open();
+  HearAll();
+  QTest::keyClick(Window, Qt::Key_N, Qt::AltModifier);
+  EXPECT_EQ(Text("lblConnectPage"), "2 of 5: Values");
+  QTest::keyClick(Window, Qt::Key_Return);
+  EXPECT_EQ(Text("lblConnectPage"), "3 of 5: Autopilot");
+  QTest::keyClick(Window, Qt::Key_B, Qt::AltModifier);
+  EXPECT_EQ(Text("lblConnectPage"), "2 of 5: Values");
+  QTest::keyClick(Window, Qt::Key_Tab);
+  EXPECT_EQ(Window->focusWidget()->objectName(), "cmbConnectWindApparent");
+  QTest::keyClick(Window, Qt::Key_N, Qt::AltModifier);
+  QTest::keyClick(Window, Qt::Key_N, Qt::AltModifier);
+  QTest::keyClick(Window, Qt::Key_N, Qt::AltModifier);
+  QTest::keyClick(Window, Qt::Key_G, Qt::AltModifier);
+  EXPECT_EQ(Saved, 1);
+}
+
+TEST_F(Connect, ShowsTheProgramWithoutABoat) {
+  Open();
+  QTest::keyClick(Window, Qt::Key_S, Qt::AltModifier);
+  EXPECT_EQ(Simulated, 1);
+  EXPECT_FALSE(Window->isVisible());
+}
+
+TEST_F(Connect, FitsASmallScreenAndIsRedAtNight) {
+  Open();
+  WearNightColours(true);
+  HearAll();
+  Window->resize(760, 440);
+  for (int page = 0; page < 5; ++page) {
+    EXPECT_LE(Window->minimumSizeHint().height(), 440) << page;
+    EXPECT_LE(Window->minimumSizeHint().width(), 760) << page;
+    const QImage picture = Window->grab().toImage();
+    int blue = 0;
+    for (int y = 0; y < picture.height(); ++y) {
+      for (int x = 0; x < picture.width(); ++x) {
+        blue += qBlue(picture.pixel(x, y)) > 40 ? 1 : 0;
+      }
+    }
+    EXPECT_EQ(blue, 0) << page;
+    if (page < 4) {
+      Next(1);
+    }
+  }
+}
+
+// In the main window
+
+class ConnectMain : public MainWindowTester {
+ public:
+  ListenRig Rig;
+
+  void Begin(const std::string& profile = "") {
+    if (!profile.empty()) {
+      WriteProfile(profile);
+    }
+    Window = std::make_unique<frmMain>(MainWindowParts{NmeaPort,
+                                                       PilotPort,
+                                                       tmrNmea,
+                                                       tmrUnload,
+                                                       TimerTack,
+                                                       Time,
+                                                       Random,
+                                                       Asks(),
+                                                       Store,
+                                                       ProfileFile(),
+                                                       {},
+                                                       {},
+                                                       &Tone,
+                                                       &Buzzer,
+                                                       nullptr,
+                                                       nullptr,
+                                                       Rig.Maker()});
+    tmrNmea.OnTick = [this] { Window->tmrNmea_Timer(); };
+    Window->Form_Load();
+    Window->show();
+    Window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(Window.get()));
+  }
+  QToolBar* Offer() const { return Window->findChild<QToolBar*>(QStringLiteral("tbrConnect")); }
+  frmConnect* Assistant() const {
+    auto* found = Window->findChild<frmConnect*>();
+    return found != nullptr && found->isVisible() ? found : nullptr;
+  }
+};
+
+TEST_F(ConnectMain, IsOfferedInARowOnlyWhereNoProfileLies) {
+  Begin();
+  ASSERT_NE(Offer(), nullptr);
+  EXPECT_GE(Offer()->y(), Find<QToolBar>("tbrTrack").geometry().bottom()) << "under the mode bar";
+  Click("cmdConnectOffer");
+  EXPECT_NE(Assistant(), nullptr);
+  Assistant()->reject();
+  const int cards = Find<QWidget>("InstrumentPanel").height();
+  Click("cmdConnectOfferClose");
+  QTest::qWait(50);
+  EXPECT_EQ(Offer(), nullptr);
+  EXPECT_GT(Find<QWidget>("InstrumentPanel").height(), cards);
+  EXPECT_TRUE(Find<QAction>("mnuHelpConnect").isEnabled());
+}
+
+TEST_F(ConnectMain, IsNotOfferedWithAProfileAndStandsInTheMenu) {
+  Begin(kOnPorts);
+  EXPECT_EQ(Offer(), nullptr);
+  Find<QAction>("mnuHelpConnect").trigger();
+  EXPECT_NE(Assistant(), nullptr);
+}
+
+TEST_F(ConnectMain, WithoutPortsToListenToThereIsNone) {
+  Start();
+  EXPECT_EQ(Offer(), nullptr);
+  EXPECT_FALSE(Find<QAction>("mnuHelpConnect").isEnabled());
+}
+
+TEST_F(ConnectMain, WhatTheProgramReadsFromStaysOpenAndIsSaidToBeInUse) {
+  Begin(std::string(kOnPorts) + "[Ports]\n3=/dev/ttyUSB0\n");
+  Find<QAction>("mnuHelpConnect").trigger();
+  ASSERT_NE(Assistant(), nullptr);
+  EXPECT_TRUE(NmeaPort.PortOpen());
+  NmeaPort.Receive(Winds("40", "60"));
+  EXPECT_TRUE(WaitFor([this] {
+    return Assistant()
+        ->findChild<QListWidget*>(QStringLiteral("lstConnect"))
+        ->item(0)
+        ->text()
+        .startsWith(QStringLiteral("Port 3 (/dev/ttyUSB0): in use now: MWV R"));
+  }));
+  Assistant()->reject();
+  EXPECT_TRUE(NmeaPort.PortOpen());
+}
+
+TEST_F(ConnectMain, TheSimulatedBoatSailsAtOnce) {
+  Begin();
+  Click("cmdConnectOffer");
+  QTest::mouseClick(Assistant()->findChild<QPushButton*>(QStringLiteral("cmdConnectSimulate")),
+                    Qt::LeftButton);
+  EXPECT_TRUE(Window->m_bSimulate);
+  EXPECT_EQ(Window->m_eSimulateModel, SimulateModel::Boat);
+  EXPECT_EQ(Window->m_eTrackMode, TrackMode::Manual);
+  EXPECT_EQ(Assistant(), nullptr);
+}
+
+TEST_F(ConnectMain, ThePortsOfTheAssistantAreInTheProfileAfterSave) {
+  Begin("[Ports]\n1=/dev/old\n[Nmea]\nPort=1\n[Pilot]\nPort=1\n");
+  NamePort(Store, 2, "/dev/new");
+  Window->KeepSettings();
+  EXPECT_THAT(ReadProfile(), HasSubstr("[Ports]\n1=/dev/old\n2=/dev/new\n"));
+  // What is edited in the file meanwhile stays.
+  WriteProfile("[Ports]\n1=/dev/edited\n2=/dev/new\n");
+  Window->KeepSettings();
+  EXPECT_THAT(ReadProfile(), HasSubstr("[Ports]\n1=/dev/edited\n2=/dev/new\n"));
+}
+
+TEST_F(ConnectMain, TheCloseCancelsIt) {
+  Begin(kOnPorts);
+  Find<QAction>("mnuHelpConnect").trigger();
+  const std::size_t open = Rig.Ports.size();
+  EXPECT_GT(open, 0U);
+  Window->close();
+  EXPECT_EQ(Assistant(), nullptr);
+}
+
+}  // namespace
+}  // namespace veerwatch
