@@ -26,6 +26,10 @@ class CalibrationDesk {
   explicit CalibrationDesk(const Settings& settings) : m_settings(settings) {}
 
   void Restart();
+  /// One of the three was set: what its instrument said before counts no more.
+  void WindSet() { m_wind.Clear(); }
+  void SpeedSet() { m_speed.Clear(); }
+  void HeadingSet() { m_heading.Clear(); }
   /// Takes what a sentence brought at `now`; `record` has been given it.
   void Take(const Readings& readings, const InstrumentRecord& record, const Moment& now);
 

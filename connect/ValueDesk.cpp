@@ -77,9 +77,23 @@ void ValueDesk::Take(std::string_view line, const Moment& now) {
 
 void ValueDesk::Calibrate(float Settings::*setting, float value) {
   m_calibrated.*setting = value;
-  m_calibration.Restart();
   m_chosen = m_present;
   ApplyTo(m_chosen);
+}
+
+void ValueDesk::SetWindOffset(float offset) {
+  Calibrate(&Settings::m_fNmeaWindOffset, offset);
+  m_calibration.WindSet();
+}
+
+void ValueDesk::SetSpeedFactor(float factor) {
+  Calibrate(&Settings::m_fNmeaBoatSpeedFactor, factor);
+  m_calibration.SpeedSet();
+}
+
+void ValueDesk::SetHeadingOffset(float offset) {
+  Calibrate(&Settings::m_fNmeaHeadingOffset, offset);
+  m_calibration.HeadingSet();
 }
 
 void ValueDesk::SeeAll(const SentenceKind& kind, const Readings& readings, const Moment& now) {

@@ -59,9 +59,9 @@ class ValueDesk {
 
   /// What vane, log and compass ought to be set to, and where it is set.
   const CalibrationDesk& Calibration() const { return m_calibration; }
-  void SetWindOffset(float offset) { Calibrate(&Settings::m_fNmeaWindOffset, offset); }
-  void SetSpeedFactor(float factor) { Calibrate(&Settings::m_fNmeaBoatSpeedFactor, factor); }
-  void SetHeadingOffset(float offset) { Calibrate(&Settings::m_fNmeaHeadingOffset, offset); }
+  void SetWindOffset(float offset);
+  void SetSpeedFactor(float factor);
+  void SetHeadingOffset(float offset);
 
   /// What the chosen sentences give.
   const InstrumentRecord& Record() const { return *m_record; }

@@ -108,6 +108,10 @@ void frmConnect::MakeButtons() {
   cmdConnectNext->setDefault(true);
   connect(cmdConnectBack, &QPushButton::clicked, this, [this] { Turn(m_stack->currentIndex() - 1); });
   connect(cmdConnectNext, &QPushButton::clicked, this, [this] {
+    // What was typed since the last look counts, too.
+    if (Page().Blocks()) {
+      return;
+    }
     if (m_stack->currentIndex() + 1 < m_stack->count()) {
       Turn(m_stack->currentIndex() + 1);
     } else {
@@ -161,7 +165,7 @@ void frmConnect::Save() {
 
 void frmConnect::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-  if (!enter || !m_instruments->txtConnectHost->hasFocus()) {
+  if (!enter || focusWidget() != m_instruments->txtConnectHost) {
     QDialog::keyPressEvent(event);
   }
 }
