@@ -125,6 +125,7 @@ class ConnectSail : public testing::Test {
                                                        nullptr,
                                                        &Finder,
                                                        &tmrPilot,
+                                                       nullptr,
                                                        PortMaker(Time)});
     tmrNmea.Ticks([this] { Window->tmrNmea_Timer(); });
     tmrPilot.Ticks([this] { Window->tmrPilot_Timer(); });

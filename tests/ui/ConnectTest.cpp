@@ -354,6 +354,7 @@ class ConnectMain : public MainWindowTester {
                                                        &Buzzer,
                                                        nullptr,
                                                        nullptr,
+                                                       nullptr,
                                                        Rig.Maker()});
     tmrNmea.OnTick = [this] { Window->tmrNmea_Timer(); };
     Window->Form_Load();
