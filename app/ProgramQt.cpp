@@ -171,8 +171,10 @@ void End(const Program& program) {
 /// The program with its ports, timers and windows on the profile in use, until the last window is closed; its
 /// exit status.
 int Sail(Program& program) {
-  InstallLanguage(LanguageOf(program.Profiles.File()));
-  WearNightColours(false);
+  if (program.Changed) {
+    InstallLanguage(LanguageOf(program.Profiles.File()));
+    WearNightColours(false);
+  }
   DialogsQt dialogs;
   Profile profile;
   const SystemClock clock;
@@ -199,7 +201,7 @@ int Sail(Program& program) {
   TimerQt tmrSave(QStringLiteral("tmrSave"));
   tmrSave.Interval(kSaveInterval);
   tmrSave.Ticks([&window] { window.tmrSave_Timer(); });
-  const SessionQt session(program.Application, window);
+  const SessionQt session(program.Application, window, program.Profiles);
 
   program.Window = &window;
   window.Form_Load(program.Changed);

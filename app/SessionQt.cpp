@@ -4,16 +4,26 @@
 #include <QEvent>
 #include <QSessionManager>
 
+#include "app/ProfileDesk.h"
 #include "app/frmMain.h"
 
 namespace veerwatch {
 
-SessionQt::SessionQt(QApplication& application, frmMain& window) : m_window(window) {
+QStringList RestartWords(QStringList words, const ProfileDesk& profiles) {
+  if (!profiles.First()) {
+    // Of two profiles on the command line the last one counts.
+    words << QStringLiteral("--profile") << QString::fromStdString(profiles.File().string());
+  }
+  return words;
+}
+
+SessionQt::SessionQt(QApplication& application, frmMain& window, const ProfileDesk& profiles)
+    : m_window(window), m_profiles(profiles) {
   const auto save = [this](QSessionManager&) { m_window.KeepSettings(); };
   // The next session starts it with the same profile. Some save no more than this.
   const auto remember = [this](QSessionManager& manager) {
     m_window.KeepSettings();
-    manager.setRestartCommand(QApplication::arguments()
+    manager.setRestartCommand(RestartWords(QApplication::arguments(), m_profiles)
                               << QStringLiteral("-session")
                               << manager.sessionId() + QLatin1Char('_') + manager.sessionKey());
   };

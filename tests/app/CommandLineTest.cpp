@@ -47,6 +47,7 @@ TEST(CommandLine, AsksForTheReport) {
 TEST(CommandLine, NamesAProfileInItsOwnBytes) {
   EXPECT_EQ(Read({"--profile", "a.ini"}).Profile, "a.ini");
   EXPECT_EQ(Read({"--profile=a=b.ini"}).Profile, "a=b.ini");
+  EXPECT_EQ(Read({"--profile", "a.ini", "--profile", "b.ini"}).Profile, "b.ini");
   EXPECT_EQ(Read({"--profile", "\xFF\x1B.ini"}).Profile, "\xFF\x1B.ini");
   const CommandLine odd = Read({"--profile", "--help"});
   EXPECT_EQ(odd.Profile, "--help");

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "app/ProfileDesk.h"
+#include "app/SessionQt.h"
 #include "tests/support/TemporaryFolder.h"
 #include "tests/support/WaitQt.h"
 #include "tests/ui/MainWindowTester.h"
@@ -133,6 +134,18 @@ TEST_F(ProfilesMenu, WhileTrackingItAsksAsTheCloseDoesAndANoStays) {
   Choose("mnuFileProfile(Charter)");
   EXPECT_TRUE(WaitFor([&] { return !Window->isVisible(); }));
   EXPECT_TRUE(m_desk->Asked());
+}
+
+TEST_F(ProfilesMenu, TheNextSessionStartsTheOneInUse) {
+  Open();
+  const QStringList started{QStringLiteral("veerwatch"), QStringLiteral("--profile"),
+                            QStringLiteral("Home.ini")};
+  EXPECT_EQ(RestartWords(started, *m_desk), started);
+  ASSERT_EQ(m_desk->Ask("Charter"), std::nullopt);
+  ASSERT_TRUE(m_desk->Change());
+  const QStringList words = RestartWords(started, *m_desk);
+  EXPECT_EQ(words.last().toStdString(), (m_files / "Charter.ini").string());
+  EXPECT_EQ(words.size(), started.size() + 2);
 }
 
 TEST_F(ProfilesMenu, AnExitIsNoChange) {
