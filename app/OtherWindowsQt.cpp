@@ -87,12 +87,19 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
   });
 }
 
-RecommendedSeen OtherWindowsQt::RecommendedOf() { return {m_main, Polar().Model().Settings().SmoothWinds}; }
+RecommendedSeen OtherWindowsQt::RecommendedOf() {
+  // To be looked at it needs no polar window, which would read its file.
+  PolarSettings polar;
+  SettingsRead(PolarSettingsTable(), m_parts.Store, polar);
+  return {m_main, m_polar ? m_polar->Model().Settings().SmoothWinds : polar.SmoothWinds};
+}
 
 void OtherWindowsQt::RecommendedSet(const RecommendedTicks& ticks) {
   bool smooth = RecommendedOf().SmoothWinds;
   ApplyRecommended(ticks, {m_main, smooth});
-  Polar().SmoothWinds(smooth);
+  if (smooth != RecommendedOf().SmoothWinds) {
+    Polar().SmoothWinds(smooth);
+  }
   OptionsReload();
 }
 

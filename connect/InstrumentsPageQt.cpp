@@ -96,9 +96,11 @@ void InstrumentsPageQt::ShowRow(int index) {
   if (item->flags() != flags) {
     item->setFlags(flags);
   }
-  const Qt::CheckState state = row.Ticked ? Qt::Checked : Qt::Unchecked;
-  if (item->data(Qt::CheckStateRole).isNull() || item->checkState() != state) {
-    item->setCheckState(state);
+  // What cannot be ticked has no box.
+  const QVariant tick =
+      row.Brings ? QVariant(static_cast<int>(row.Ticked ? Qt::Checked : Qt::Unchecked)) : QVariant();
+  if (item->data(Qt::CheckStateRole) != tick) {
+    item->setData(Qt::CheckStateRole, tick);
   }
 }
 

@@ -172,22 +172,24 @@ std::string Listening::Ticked() const {
 
 std::vector<std::string> Listening::ForPilot() const {
   std::vector<std::string> adapters;
-  std::vector<std::string> ticked;
+  std::vector<std::string> devices;
+  std::vector<std::string> hosts;
   std::vector<std::string> others;
   for (const Heard& row : m_rows) {
     const std::string leads = row.Of->LeadsTo();
     const std::vector<Endpoint> endpoints = EndpointsOf(leads);
     const bool device = !endpoints.empty() && endpoints.front().What == Endpoint::Kind::Device;
     if (row.Ticked) {
-      ticked.push_back(leads);
+      (device ? devices : hosts).push_back(leads);
     } else if (device) {
       // A pilot that is silent listens at 4800 baud.
       const std::string& silent = endpoints.front().Path;
       (row.Of->Of().Adapter ? adapters : others).push_back(endpoints.front().Baud == 0 ? silent : leads);
     }
   }
-  adapters.insert(adapters.end(), ticked.begin(), ticked.end());
-  adapters.insert(adapters.end(), others.begin(), others.end());
+  for (const auto& more : {devices, hosts, others}) {
+    adapters.insert(adapters.end(), more.begin(), more.end());
+  }
   return adapters;
 }
 
