@@ -1,11 +1,9 @@
 #include "app/ProfileDesk.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-
-#include <fcntl.h>
 #include <sys/file.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -185,8 +183,7 @@ TEST_F(Desk, DeletesOne) {
 
 TEST_F(Desk, AFolderThatCannotBeWrittenChangesNothing) {
   if (::geteuid() == 0) {
-    // Root writes everywhere; a folder in the place of the new file stops it as well.
-    fs::create_directories(m_folder / "Full.ini.lock" / "x");
+    // Root writes everywhere, but not into a folder that is a file.
     const TemporaryFolder gone;
     ProfileDesk lost(gone.Path() / "sub" / "Veerwatch.ini");
     WriteFile(gone.Path() / "sub", "a file where the folder should be");
