@@ -10,6 +10,8 @@ namespace veerwatch {
 BestAngles FindBestAngles(const PolarTable& table, float windSpeed) {
   constexpr int kTenths = 10;
   constexpr int kLast = 180 * kTenths;
+  PolarTable inTrueWind = table;
+  inTrueWind.Type(PlotType::TrueWind);
   BestAngles best;
   const auto take = [](std::optional<BestAngle>& found, float angle, double madeGood) {
     const float speed = ToSingle(madeGood);
@@ -20,7 +22,7 @@ BestAngles FindBestAngles(const PolarTable& table, float windSpeed) {
   for (int tenth = 0; tenth <= kLast; ++tenth) {
     const float angle = ToSingle(static_cast<double>(tenth) / kTenths);
     const double along = std::cos(static_cast<double>(tenth) / kTenths * kPi / 180.0) *
-                         static_cast<double>(table.PolarSpeed(0, angle, windSpeed));
+                         static_cast<double>(inTrueWind.PolarSpeed(0, angle, windSpeed));
     take(best.Upwind, angle, along);
     take(best.Downwind, angle, -along);
   }

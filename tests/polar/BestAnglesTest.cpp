@@ -23,6 +23,15 @@ TEST(FindBestAngles, FindsTheMostWayToWindwardAndToLeeward) {
               (18.0 - static_cast<double>(best.Downwind->Angle) / 15.0) * -std::cos(radians), 1e-5);
 }
 
+TEST(FindBestAngles, IsTheSameInWhicheverWindThePlotIsSeen) {
+  PolarTable table = TableOf("TWA\t5\t20\n40\t6\t6\n90\t6\t6\n150\t8\t8\n180\t6\t6\n");
+  const BestAngles inTrue = FindBestAngles(table, 12.0F);
+  table.Type(PlotType::ApparentWind);
+  const BestAngles inApparent = FindBestAngles(table, 12.0F);
+  EXPECT_EQ(inApparent.Upwind->Angle, inTrue.Upwind->Angle);
+  EXPECT_EQ(inApparent.Downwind->Angle, inTrue.Downwind->Angle);
+}
+
 TEST(FindBestAngles, LooksDeadDownwindToo) {
   const BestAngles best = FindBestAngles(TableOf("TWA\t5\t20\n40\t6\t6\n150\t5\t5\n180\t9\t9\n"), 12.0F);
   ASSERT_TRUE(best.Downwind.has_value());
