@@ -176,6 +176,19 @@ void OtherWindowsQt::OnPilotHeading(float bearing) {
   HistorySample("Pilot Heading", FormatNumber(bearing, "0.00") + " deg");
 }
 
+void OtherWindowsQt::OnTick() {
+  DiagramLights();
+  const HelmNow now = m_main.Now();
+  HistoryMarks::Sense sense{now.Mode, now.Hand, std::nullopt, now.Side,
+                            now.Desired[static_cast<std::size_t>(now.Side)]};
+  if (m_run.Running()) {
+    sense.Turn = m_run.Made().Kind;
+  }
+  if (const auto mark = m_marks.Look(sense)) {
+    History().Chart().MarkAdd(*mark);
+  }
+}
+
 // The polar window
 
 frmPolar& OtherWindowsQt::Polar() {

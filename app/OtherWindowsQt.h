@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "app/ConnectShowQt.h"
+#include "app/HistoryMarks.h"
 #include "app/MainWindowParts.h"
 #include "app/SailDeskQt.h"
 #include "app/TurnDeskQt.h"
@@ -130,7 +131,7 @@ class OtherWindowsQt final : private HelmObserver,
   void OnTrackMode(TrackMode /*mode*/) override { DiagramLights(); }
   void OnInputState(InputState /*state*/) override { DiagramLights(); }
   void OnOutputState(OutputState /*state*/) override { DiagramLights(); }
-  void OnTick() override { DiagramLights(); }
+  void OnTick() override;
   void OnWatch(const WatchNow& watch) override;
   void FadePolar();
   PlotHold HoldNow(TrackMode mode) const;
@@ -151,6 +152,7 @@ class OtherWindowsQt final : private HelmObserver,
   std::unique_ptr<frmHistory> m_history;  ///< from the first value on
   std::unique_ptr<frmPolar> m_polar;      ///< null until it is shown for the first time
   BestAnglesMemory m_best;
+  HistoryMarks m_marks;
   TurnDeskQt m_turns;
   SailDeskQt m_sails;
   std::unique_ptr<frmTack> m_tack;        ///< null until it is shown for the first time, or a key turns

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstdlib>
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "platform/NumberText.h"
 
@@ -69,6 +71,7 @@ void StripChartData::SampleBufferSet(int seconds, double count) {
 
 void StripChartData::Forget() {
   m_last = kNone;
+  m_marks.clear();
   for (Trace& trace : m_traces) {
     trace.Slots.Resize(m_walls.size());
     trace.Newest = NewestValue();
@@ -89,6 +92,17 @@ bool StripChartData::SampleAdd(std::string_view name, std::string_view text, con
   found->Newest.Slot = m_last;
   found->Newest.Units(parts.Units);
   return true;
+}
+
+void StripChartData::MarkAdd(std::string_view text, const Moment& now) {
+  if (m_last == kNone) {
+    return;
+  }
+  Advance(now);
+  const bool full = m_marks.size() >= kMostMarks;
+  const std::int64_t oldest = full ? m_marks.front().Slot + 1 : FirstSlot();
+  std::erase_if(m_marks, [oldest](const Mark& mark) { return mark.Slot < oldest; });
+  m_marks.push_back({m_last, std::string(text)});
 }
 
 void StripChartData::Advance(const Moment& now) {

@@ -52,6 +52,13 @@ class StripChartData {
     std::string_view ShownUnits() const { return Newest.Units().empty() ? Units : Newest.Units(); }
   };
 
+  /// What happened, to be read beside the traces.
+  struct Mark {
+    std::int64_t Slot = 0;
+    std::string Text;
+  };
+
+  static constexpr std::size_t kMostMarks = 1000;
   static constexpr std::int64_t kNone = -1;       ///< the slot when nothing was recorded
   static constexpr std::int64_t kJump = 2000;     ///< a difference of the clocks [ms] above this is a jump
   static constexpr std::size_t kMostTraces = 64;  ///< numbers above are ignored
@@ -70,6 +77,11 @@ class StripChartData {
   /// Takes a sample: `text` is a number, a blank and the units. A text that begins with no number that is
   /// finite leaves a gap. False for a name that no trace has; nothing is recorded then. Allocates nothing.
   bool SampleAdd(std::string_view name, std::string_view text, const Moment& now);
+
+  /// Takes a mark for a moment; nothing before the first sample. The oldest go where there are too many, or
+  /// their slot is no longer held.
+  void MarkAdd(std::string_view text, const Moment& now);
+  const std::vector<Mark>& Marks() const { return m_marks; }
 
   /// Goes on to the slot of a moment without a sample.
   void Advance(const Moment& now);
@@ -99,6 +111,7 @@ class StripChartData {
   void Forget();
 
   std::vector<Trace> m_traces;
+  std::vector<Mark> m_marks;  ///< the oldest first
   std::vector<std::int64_t> m_walls = std::vector<std::int64_t>(1, 0);
   std::int64_t m_slotTime = 10000;
   std::int64_t m_last = kNone;

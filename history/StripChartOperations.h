@@ -45,6 +45,8 @@ class StripChartOperations {
   /// Takes a value: `text` is a number, a blank and the units. An unknown name is ignored; a text without a
   /// finite number leaves a gap.
   virtual void SampleAdd(std::string_view name, std::string_view text) = 0;
+  /// Takes a mark for this moment: what happened, in a word or two.
+  virtual void MarkAdd(std::string_view text) = 0;
   /// Opens the configuration pop-up with its upper left corner at a point of the chart [px], or where it
   /// still fits on the screen. The other three arguments have one value each.
   virtual void ConfigPopupShow(std::int16_t x, std::int16_t y, std::int16_t a, std::int16_t b,

@@ -1,5 +1,7 @@
 #include "history/StripChartPainterQt.h"
 
+#include <QLineF>
+#include <QPen>
 #include <algorithm>
 
 #include "draw/DrawQt.h"
@@ -106,6 +108,14 @@ void StripChartPainterQt::PaintStill() {
   }
   for (const ChartTimeTick& tick : m_picture.TimeTicks) {
     PaintText(tick.Label, m_colours.Caption);
+  }
+  m_painter.setPen(QPen(m_colours.Dimmed, 1.0, Qt::DashLine));
+  for (const ChartMark& mark : m_picture.Marks) {
+    m_painter.drawLine(
+        QLineF(mark.X, m_picture.PlotArea.Y, mark.X, m_picture.PlotArea.Y + m_picture.PlotArea.Height));
+  }
+  for (const ChartMark& mark : m_picture.Marks) {
+    PaintText(mark.Text, m_colours.Text);
   }
   if (m_picture.Panels.empty()) {
     PlacedText none;

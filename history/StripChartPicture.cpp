@@ -1,7 +1,9 @@
 #include "history/StripChartPicture.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <utility>
 
 #include "history/ClockText.h"
 #include "platform/NumberText.h"
@@ -115,6 +117,7 @@ void StripChartPicture::Compose(const ChartSubject& subject, const ChartView& vi
     ComposePanel(subject, panel, measure);
   }
   ComposeTime(subject.Data, measure);
+  ComposeMarks(subject, measure);
 }
 
 void StripChartPicture::ChoosePanels(const ChartSubject& subject) {
@@ -293,6 +296,33 @@ void StripChartPicture::PlaceTicks(const ChartPanel& panel, const TextMeasure& m
                         : Box{0.0, y - height / 2.0, plot.X - gap, height};
     axis.Labels.push_back(label);
     axis.TickY.push_back(y);
+  }
+}
+
+void StripChartPicture::ComposeMarks(const ChartSubject& subject, const TextMeasure& measure) {
+  Marks.clear();
+  if (!subject.Settings.Marks || Panels.empty()) {
+    return;
+  }
+  constexpr int kRows = 4;
+  constexpr double kRow = 1.25;  // heights of the text
+  const double gap = TextHeight / 3.0;
+  std::array<double, kRows> free{};  // labels of a row may begin here
+  for (const StripChartData::Mark& one : subject.Data.Marks()) {
+    ChartMark mark;
+    mark.X = PlotArea.Right() - static_cast<double>(EndSlot - one.Slot) * SlotWidth;
+    if (mark.X < PlotArea.X || mark.X > PlotArea.Right()) {
+      continue;
+    }
+    const double width = measure.Width(one.Text, TextHeight);
+    const double left = std::min(mark.X + gap, PlotArea.Right() - width);
+    const auto row = std::find_if(free.begin(), free.end(), [left](double from) { return from <= left; });
+    if (row != free.end()) {
+      *row = left + width + gap;
+      const auto down = static_cast<double>(row - free.begin()) * kRow * TextHeight;
+      mark.Text = {one.Text, {left, PlotArea.Y + down, width, kRow * TextHeight}, TextHeight};
+    }
+    Marks.push_back(std::move(mark));
   }
 }
 

@@ -66,6 +66,12 @@ struct ChartTimeTick {
   PlacedText Label;  ///< without a text where there is no room for one
 };
 
+/// A mark: a line through all plots, and what it says beside it.
+struct ChartMark {
+  double X = 0.0;
+  PlacedText Text;  ///< without a text where there is no room for one
+};
+
 /// What a point of the chart shows.
 struct ChartReading {
   struct Value {
@@ -92,6 +98,7 @@ struct StripChartPicture {
   std::int64_t LiveSlot = 0;  ///< where the newest bucket begins; what is in front of it does not change
   std::vector<ChartPanel> Panels;
   std::vector<ChartTimeTick> TimeTicks;
+  std::vector<ChartMark> Marks;
   std::vector<double> Jumps;  ///< X where the wall clock jumped
   std::vector<ChartLegendEntry> Legend;
   std::int32_t UtcOffset = 0;
@@ -118,6 +125,7 @@ struct StripChartPicture {
   void PlaceTitle(const ChartPanel& panel, const TextMeasure& measure, ChartAxis& axis) const;
   void PlaceTicks(const ChartPanel& panel, const TextMeasure& measure, ChartAxis& axis) const;
   void ComposeTime(const StripChartData& data, const TextMeasure& measure);
+  void ComposeMarks(const ChartSubject& subject, const TextMeasure& measure);
 };
 
 /// The slots that a span [s] is, at least 1.

@@ -44,7 +44,10 @@ QIcon Swatch(const QColor& colour, int size, qreal ratio) {
 
 StripChartPopupQt::StripChartPopupQt(QWidget* chart, const std::vector<QString>& traces,
                                      const std::vector<ScaleRow>& scales, Commands commands)
-    : QFrame(chart, Qt::Popup), m_commands(std::move(commands)), m_span(new QComboBox(this)) {
+    : QFrame(chart, Qt::Popup),
+      m_commands(std::move(commands)),
+      m_span(new QComboBox(this)),
+      m_marks(new QCheckBox(this)) {
   setObjectName(QStringLiteral("frmConfigPopup"));
   setFrameShape(QFrame::StyledPanel);
   auto* column = new QVBoxLayout(this);
@@ -65,6 +68,10 @@ StripChartPopupQt::StripChartPopupQt(QWidget* chart, const std::vector<QString>&
   for (const int seconds : kSpans) {
     m_span->addItem(SpanText(seconds), seconds);
   }
+  m_marks->setObjectName(QStringLiteral("chkMarks"));
+  m_marks->setText(QStringLiteral("Turns and held angles as &marks"));
+  connect(m_marks, &QCheckBox::toggled, this, [this] { Take(); });
+  column->addWidget(m_marks);
   connect(m_span, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { Take(); });
 
   column->addSpacing(6);
@@ -157,6 +164,7 @@ void StripChartPopupQt::Show(const TraceSettings& settings, const std::vector<QC
     m_colours[i]->setIcon(Swatch(colours[i], size, devicePixelRatioF()));
   }
   m_span->setCurrentIndex(m_span->findData(settings.Span));
+  m_marks->setChecked(settings.Marks);
   for (std::size_t i = 0; i < m_scales.size(); ++i) {
     const ScaleChoice& choice = settings.Scales[i];
     const Scale& scale = m_scales[i];
@@ -177,6 +185,7 @@ void StripChartPopupQt::Take() {
     m_settings.Traces[i].Shown = m_shown[i]->isChecked();
   }
   m_settings.Span = m_span->currentData().toInt();
+  m_settings.Marks = m_marks->isChecked();
   for (std::size_t i = 0; i < m_scales.size(); ++i) {
     ScaleChoice& choice = m_settings.Scales[i];
     const Scale& scale = m_scales[i];

@@ -57,6 +57,7 @@ class StripChartPopupQt final : public QFrame {
   std::vector<QCheckBox*> m_shown;
   std::vector<QToolButton*> m_colours;
   QComboBox* m_span;
+  QCheckBox* m_marks;
   std::vector<Scale> m_scales;
 };
 

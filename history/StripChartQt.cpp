@@ -138,6 +138,14 @@ void StripChart::SampleAdd(std::string_view name, std::string_view text) {
   }
 }
 
+void StripChart::MarkAdd(std::string_view text) {
+  m_data.MarkAdd(text, m_clock.Now());
+  if (m_settings.Marks && !m_soon && isVisible()) {
+    m_soon = true;
+    Due(kSoon);
+  }
+}
+
 void StripChart::TraceFade(std::string_view name, bool fade) {
   const auto& traces = m_data.Traces();
   const auto found = std::find_if(traces.begin(), traces.end(),

@@ -43,6 +43,7 @@ class StripChart final : public QWidget, public StripChartOperations {
   void GroupTitleSet(std::int16_t number, const std::string& title) override;
   void GroupColourSet(std::int16_t number, std::uint32_t colour) override;
   void SampleAdd(std::string_view name, std::string_view text) override;
+  void MarkAdd(std::string_view text) override;
   void ConfigPopupShow(std::int16_t x, std::int16_t y, std::int16_t a, std::int16_t b,
                        std::int16_t c) override;
   void TraceSettingsLoad(const std::string& name, const Profile& profile) override;

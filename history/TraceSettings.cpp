@@ -74,7 +74,9 @@ SettingTable<TraceSettings> SpanTable(const std::string& section) {
   for (const int seconds : kSpans) {
     span.Range.append(span.Range.empty() ? "" : ", ").append(std::to_string(seconds));
   }
-  return {{section, "Span", std::move(span), "s", "visible time", kPopUp}};
+  return {{section, "Span", std::move(span), "s", "visible time", kPopUp},
+          {section, "Marks", setting::Truth(&TraceSettings::Marks), "",
+           "turns, and the angle that Track holds, stand on the chart", kPopUp}};
 }
 
 SettingTable<ScaleChoice> ScaleChoiceTable(const std::string& section, std::size_t number) {

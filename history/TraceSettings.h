@@ -28,6 +28,7 @@ struct ScaleChoice {
 struct TraceSettings {
   std::vector<TraceChoice> Traces;  ///< as the chart's traces
   std::vector<ScaleChoice> Scales;  ///< as the chart's scales
+  bool Marks = false;               ///< turns and held angles stand on the chart
   int Span = 1800;                  ///< visible time [s], one of kSpans
 };
 
@@ -45,7 +46,7 @@ bool ScaleFits(float low, float high);
 /// directions, 0 to 20 for the others.
 std::vector<ScaleChoice> DefaultScales(const std::vector<TraceGroup>& groups, std::size_t count);
 
-/// The keys of one trace, of the visible time and of scale `number` [1 and up] in a section.
+/// The keys of one trace, of the visible time with the marks, and of scale `number` [1 and up] in a section.
 SettingTable<TraceChoice> TraceChoiceTable(const std::string& section, const std::string& trace);
 SettingTable<TraceSettings> SpanTable(const std::string& section);
 SettingTable<ScaleChoice> ScaleChoiceTable(const std::string& section, std::size_t number);

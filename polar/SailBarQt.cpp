@@ -29,6 +29,8 @@ SailBarQt::SailBarQt(QMainWindow& window)
   setWindowTitle(QStringLiteral("Sail the Course"));
   setMovable(false);
   setContextMenuPolicy(Qt::PreventContextMenu);
+  // The style's own lines would dazzle at night.
+  setStyleSheet(QStringLiteral("QToolBar{border:0}"));
   lblSail->setObjectName(QStringLiteral("lblSail"));
   lblSail->setFont(Letters(*this, kTextHeight, false));
   lblSail->setWordWrap(true);

@@ -38,6 +38,7 @@ class RecordingChart final : public StripChartOperations {
     Calls.push_back("GroupColourSet " + std::to_string(number) + " " + std::to_string(colour));
   }
   void SampleAdd(std::string_view, std::string_view) override { Calls.emplace_back("SampleAdd"); }
+  void MarkAdd(std::string_view) override { Calls.emplace_back("MarkAdd"); }
   void ConfigPopupShow(std::int16_t, std::int16_t, std::int16_t, std::int16_t, std::int16_t) override {
     Calls.emplace_back("ConfigPopupShow");
   }

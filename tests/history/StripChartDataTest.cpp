@@ -393,5 +393,28 @@ TEST_F(StripChartDataTest, NineTracesOfADayTakeLessThanFourMegabytesAndNeverMore
   EXPECT_EQ(Data.Bytes(), morning);
 }
 
+TEST_F(StripChartDataTest, KeepsMarksWithTheirSlotsAsLongAsThoseAreHeld) {
+  Data.MarkAdd("before", Time.Time);
+  EXPECT_TRUE(Data.Marks().empty()) << "nothing is recorded yet";
+  Speed("5 Kts");
+  Data.MarkAdd("Tack", Time.Time);
+  Time.Pass(25000);
+  Data.MarkAdd("TWA 45", Time.Time);
+  ASSERT_EQ(Data.Marks().size(), 2U);
+  EXPECT_EQ(Data.Marks()[0].Slot, 0);
+  EXPECT_EQ(Data.Marks()[1].Slot, 2);
+  EXPECT_EQ(Data.Marks()[1].Text, "TWA 45");
+  Time.Pass(8639 * 10000);
+  Data.MarkAdd("Jibe", Time.Time);
+  ASSERT_EQ(Data.Marks().size(), 2U) << "the first slot is gone";
+  EXPECT_EQ(Data.Marks()[0].Text, "TWA 45");
+  for (int i = 0; i < 3000; ++i) {
+    Time.Pass(10000);
+    Data.MarkAdd("Steer", Time.Time);
+  }
+  EXPECT_LE(Data.Marks().size(), StripChartData::kMostMarks);
+  EXPECT_EQ(Data.Marks().back().Slot, Data.LastSlot());
+}
+
 }  // namespace
 }  // namespace veerwatch

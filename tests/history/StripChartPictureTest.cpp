@@ -428,5 +428,53 @@ TEST_F(StripChartPictureTest, ComposesBeforeAnyValue) {
   EXPECT_FALSE(Picture.ReadAt(Subject(), 300.0, 200.0));
 }
 
+TEST_F(StripChartPictureTest, HasMarksOnlyWhereTheyAreChosen) {
+  Record(1800, 10);
+  Data.MarkAdd("Tack", Time.Time);
+  EXPECT_TRUE(Compose().Marks.empty());
+  Settings.Marks = true;
+  Compose();
+  ASSERT_EQ(Picture.Marks.size(), 1U);
+  EXPECT_NEAR(Picture.Marks[0].X, Picture.PlotArea.Right() - Picture.SlotWidth, 1e-6) << "the newest slot";
+  EXPECT_EQ(Picture.Marks[0].Text.Text, "Tack");
+  EXPECT_LE(Picture.Marks[0].Text.Place.Right(), Picture.PlotArea.Right() + 1e-6);
+}
+
+TEST_F(StripChartPictureTest, MarksMoveOnWithTheTimeAndLeaveTheChart) {
+  Record(1800, 10);
+  Settings.Marks = true;
+  Data.MarkAdd("TWA 45", Time.Time);
+  Compose();
+  const double before = Picture.Marks.at(0).X;
+  Time.Pass(600000);
+  Data.Advance(Time.Time);
+  Compose();
+  EXPECT_NEAR(before - Picture.Marks.at(0).X, 60.0 * Picture.SlotWidth, 1e-6) << "ten minutes";
+  Time.Pass(1800000);
+  Data.Advance(Time.Time);
+  EXPECT_TRUE(Compose().Marks.empty());
+}
+
+TEST_F(StripChartPictureTest, LabelsOfMarksDoNotLieOnEachOther) {
+  Record(1800, 10);
+  Settings.Marks = true;
+  for (int i = 0; i < 40; ++i) {
+    Time.Pass(10000);
+    Data.MarkAdd("TWA " + std::to_string(i), Time.Time);
+  }
+  Compose();
+  EXPECT_EQ(Picture.Marks.size(), 40U);
+  int labels = 0;
+  for (std::size_t i = 0; i < Picture.Marks.size(); ++i) {
+    labels += Picture.Marks[i].Text.Text.empty() ? 0 : 1;
+    for (std::size_t j = 0; j < i; ++j) {
+      const PlacedText& a = Picture.Marks[i].Text;
+      const PlacedText& b = Picture.Marks[j].Text;
+      EXPECT_FALSE(!a.Text.empty() && !b.Text.empty() && Overlap(a.Place, b.Place)) << i << " " << j;
+    }
+  }
+  EXPECT_GE(labels, 6) << "in four rows";
+}
+
 }  // namespace
 }  // namespace veerwatch

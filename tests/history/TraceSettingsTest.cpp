@@ -59,6 +59,7 @@ TEST_F(TraceSettingsTest, WritesWhatAUserCanRead) {
             "Boat Speed Shown=True\nBoat Speed Colour=Default\n"
             "Heading Shown=False\nHeading Colour=#00ABFF\n"
             "Span=1800\n"
+            "Marks=False\n"
             "Scale 1 Automatic=True\nScale 1 Low=0\nScale 1 High=20\n"
             "Scale 2 Automatic=True\nScale 2 Low=0\nScale 2 High=20\n");
 }
