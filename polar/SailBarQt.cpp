@@ -1,5 +1,6 @@
 #include "polar/SailBarQt.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 
 #include "draw/DrawQt.h"
@@ -19,6 +20,13 @@ QFont Letters(const QWidget& widget, int height, bool bold) {
   return letters;
 }
 
+/// The style's own lines would dazzle at night.
+class Unpainted final : public QObject {
+ public:
+  using QObject::QObject;
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override { return event->type() == QEvent::Paint; }
+};
+
 }  // namespace
 
 SailBarQt::SailBarQt(QMainWindow& window)
@@ -29,8 +37,7 @@ SailBarQt::SailBarQt(QMainWindow& window)
   setWindowTitle(QStringLiteral("Sail the Course"));
   setMovable(false);
   setContextMenuPolicy(Qt::PreventContextMenu);
-  // The style's own lines would dazzle at night.
-  setStyleSheet(QStringLiteral("QToolBar{border:0}"));
+  installEventFilter(new Unpainted(this));
   lblSail->setObjectName(QStringLiteral("lblSail"));
   lblSail->setFont(Letters(*this, kTextHeight, false));
   lblSail->setWordWrap(true);

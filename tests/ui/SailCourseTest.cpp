@@ -113,6 +113,30 @@ TEST_F(SailCourse, HoldsTheLegAndShowsIt) {
   EXPECT_EQ(Dialogs.Beeps, 0);
 }
 
+TEST_F(SailCourse, IsLegibleAndDarkAtNight) {
+  StartTracking();
+  Choose("mnuCourseSail");
+  WearNightColours(true);
+  QTest::qWait(0);
+  const auto& bar = InPolar<QToolBar>("tbrSail");
+  const auto& line = InPolar<QLabel>("lblSail");
+  EXPECT_EQ(line.palette().color(QPalette::WindowText), Polar().palette().color(QPalette::WindowText));
+  const QImage image = Polar().grab(bar.geometry()).toImage();
+  KeepPicture(image, QStringLiteral("sail-night"));
+  WearNightColours(false);
+  int letters = 0;
+  int blue = 0;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      const QRgb pixel = image.pixel(x, y);
+      letters += qRed(pixel) > 150 ? 1 : 0;
+      blue += qBlue(pixel) > 130 ? 1 : 0;
+    }
+  }
+  EXPECT_GE(letters, 100);
+  EXPECT_EQ(blue, 0);
+}
+
 TEST_F(SailCourse, EnterTacksInEitherWindowWhileItIsPromptedFor) {
   for (const bool inPolar : {true, false}) {
     StartTracking();
