@@ -75,7 +75,7 @@ void ConnectShowQt::Simulate() {
 }
 
 void ConnectShowQt::Offer(QMainWindow& window) {
-  if (!Can() || !NoProfile()) {
+  if (!Can() || !NoProfile() || m_offer) {
     return;
   }
   window.addToolBarBreak();

@@ -40,7 +40,7 @@ class ConnectShowQt final {
   void Hide();
   /// Brings back what it only tries.
   void EndTrial();
-  /// Offers it in `window`, where no profile lies. Called once.
+  /// Offers it in `window`, where no profile lies.
   void Offer(QMainWindow& window);
 
  private:

@@ -157,10 +157,11 @@ std::string Listener::Says() const {
   const std::string rate = m_inUse ? Tr("in use now: ") : m_rate ? std::to_string(*m_rate) + ": " : "";
   const std::string words = m_heard.Words(m_clock.Now());
   if (!words.empty()) {
-    return rate + (Brings() || !m_over ? words : Tr("noise, no sentences"));
+    return rate +
+           (Brings() || !m_over ? words : Tr("noise; press Off (F5), then Listen Again, to try every rate"));
   }
   if (m_over) {
-    return rate + Tr("nothing comes");
+    return Tr("in use now: nothing comes; press Off (F5), then Listen Again, to try every rate");
   }
   if (Searching()) {
     return Filled(Tr("searching the rate, now %1 baud"), {std::to_string(m_port->BaudRate().value_or(0))});

@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -125,7 +126,12 @@ void frmConnect::Search() {
   m_desk.Search(m_instruments->txtConnectHost->text().toStdString());
   if (m_parts.Browser != nullptr) {
     m_parts.Browser->Read("avahi-browse", {"-a", "-t", "-p", "-r"},
-                          [this](const std::string& text) { m_desk.SearchAnnounced(text); });
+                          [self = QPointer<frmConnect>(this)](const std::string& text) {
+                            // It may come when the window has gone.
+                            if (self && self->isVisible()) {
+                              self->m_desk.SearchAnnounced(text);
+                            }
+                          });
   }
   Refresh();
 }

@@ -292,10 +292,6 @@
         <translation>jetzt in Gebrauch: </translation>
     </message>
     <message>
-        <source>noise, no sentences</source>
-        <translation>Rauschen, keine Sätze</translation>
-    </message>
-    <message>
         <source>searching the rate, now %1 baud</source>
         <translation>sucht die Rate, jetzt %1 Baud</translation>
     </message>
@@ -470,6 +466,14 @@
     <message>
         <source>Save and &amp;go to Setup</source>
         <translation>Speichern und zum &amp;Setup</translation>
+    </message>
+    <message>
+        <source>noise; press Off (F5), then Listen Again, to try every rate</source>
+        <translation>Rauschen; mit F5 abschalten und noch einmal lauschen, um jede Rate zu versuchen</translation>
+    </message>
+    <message>
+        <source>in use now: nothing comes; press Off (F5), then Listen Again, to try every rate</source>
+        <translation>jetzt in Gebrauch: es kommt nichts; mit F5 abschalten und noch einmal lauschen, um jede Rate zu versuchen</translation>
     </message>
 </context>
 </TS>

@@ -145,5 +145,16 @@ TEST_F(ListenerTest, WhatTheProgramHasOpenIsHeardThroughIt) {
   EXPECT_EQ(use.LeadsTo(), "/dev/ttyUSB0");
 }
 
+TEST_F(ListenerTest, OfAPortInUseThatBringsNothingTheWayOnIsSaid) {
+  Listener silent({"Port 1", "/dev/ttyUSB0"}, Rig.Time, Listener::Line());
+  Listener noisy({"Port 1", "/dev/ttyUSB0"}, Rig.Time, Listener::Line());
+  noisy.Hear("x", LineFault::Sentence);
+  Rig.Time.Pass(Listener::kListens);
+  silent.Tick();
+  noisy.Tick();
+  EXPECT_EQ(silent.Says(), "in use now: nothing comes; press Off (F5), then Listen Again, to try every rate");
+  EXPECT_EQ(noisy.Says(), "in use now: noise; press Off (F5), then Listen Again, to try every rate");
+}
+
 }  // namespace
 }  // namespace veerwatch

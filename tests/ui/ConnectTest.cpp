@@ -21,6 +21,7 @@
 #include "tests/support/ListedPorts.h"
 #include "tests/support/PictureQt.h"
 #include "tests/support/WaitQt.h"
+#include "tests/ui/DarkPalette.h"
 #include "tests/ui/MainWindowTester.h"
 
 namespace veerwatch {
@@ -159,6 +160,18 @@ TEST_F(Connect, WhatAnnouncesItselfJoinsTheList) {
   Reader.Asked("=;e;IPv4;Gate;_nmea-0183._tcp;local;g.local;10.0.0.9;1456;\n");
   Look();
   EXPECT_EQ(Row(6), "Gate (NMEA 0183, announced): listening...");
+}
+
+TEST_F(Connect, WhatAnnouncesItselfTooLateOpensNothing) {
+  Open();
+  const std::size_t open = Rig.Ports.size();
+  const char* announced = "=;e;IPv4;Gate;_nmea-0183._tcp;local;g.local;10.0.0.9;1456;\n";
+  Window->reject();
+  Reader.Asked(announced);
+  EXPECT_EQ(Rig.Ports.size(), open);
+  EXPECT_TRUE(WaitFor([this] { return Window == nullptr; }));
+  Reader.Asked(announced);
+  EXPECT_EQ(Rig.Ports.size(), open);
 }
 
 TEST_F(Connect, ShowsEachValueWithItsSentenceAndTakesAnother) {
@@ -326,6 +339,22 @@ TEST_F(Connect, FitsASmallScreenAndIsRedAtNight) {
       Next(1);
     }
   }
+}
+
+TEST_F(Connect, IsDarkOnADarkDesktop) {
+  const QPalette palette = QApplication::palette();
+  QApplication::setPalette(DarkPalette());
+  Open();
+  HearAll();
+  for (int page = 0; page < 5; ++page) {
+    const QImage picture = Window->grab().toImage();
+    KeepPicture(picture, QStringLiteral("frmConnect-dark-%1").arg(page));
+    EXPECT_GT(ContrastRatio(GroundOf(picture), Qt::white), 12.0) << page;
+    if (page < 4) {
+      Next(1);
+    }
+  }
+  QApplication::setPalette(palette);
 }
 
 // In the main window
