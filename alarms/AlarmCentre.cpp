@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "alarms/WatchText.h"
+#include "platform/Language.h"
 #include "platform/VisibleText.h"
 
 namespace veerwatch {
@@ -21,33 +22,33 @@ AlarmEntry NoticeEntry(AlarmKind kind, const std::string& text) {
   entry.Text = text;
   switch (kind) {
     case AlarmKind::Course:
-      entry.Does = "Holds the leg, and turns when it is told to";
-      entry.Remedy = "Enter turns; Course > Sail the Course in the polar window ends it";
+      entry.Does = Tr("Holds the leg, and turns when it is told to");
+      entry.Remedy = Tr("Enter turns; Course > Sail the Course in the polar window ends it");
       break;
     case AlarmKind::Save:
-      entry.Does = "Keeps the settings, steers on, and tries again at the next change and at the close";
-      entry.Remedy = "Make room on the disk; may you write in that folder?";
+      entry.Does = Tr("Keeps the settings, steers on, and tries again at the next change and at the close");
+      entry.Remedy = Tr("Make room on the disk; may you write in that folder?");
       break;
     case AlarmKind::Profile:
-      entry.Does = "Works with the defaults";
-      entry.Remedy = "Close the program and look at the file";
+      entry.Does = Tr("Works with the defaults");
+      entry.Remedy = Tr("Close the program and look at the file");
       break;
     case AlarmKind::Pilot:
-      entry.Does = "Sends the pilot no sentence that would be wrong without it";
+      entry.Does = Tr("Sends the pilot no sentence that would be wrong without it");
       entry.Remedy =
-          "Options > Data: a sentence that brings it; Options > Output: a profile that does without";
+          Tr("Options > Data: a sentence that brings it; Options > Output: a profile that does without");
       break;
     case AlarmKind::Source:
-      entry.Does = "Tells it";
-      entry.Remedy = "Options > Data: choose the source that is there";
+      entry.Does = Tr("Tells it");
+      entry.Remedy = Tr("Options > Data: choose the source that is there");
       break;
     case AlarmKind::Record:
-      entry.Does = "Records no more, and goes on with everything else";
-      entry.Remedy = "Make room on the disk, then File > Record Input...";
+      entry.Does = Tr("Records no more, and goes on with everything else");
+      entry.Remedy = Tr("Make room on the disk, then File > Record Input...");
       break;
     case AlarmKind::Wind:
-      entry.Does = "Holds the angle that stands in the desired box";
-      entry.Remedy = "Options > Wind";
+      entry.Does = Tr("Holds the angle that stands in the desired box");
+      entry.Remedy = Tr("Options > Wind");
       break;
   }
   return entry;
@@ -168,7 +169,7 @@ std::string AlarmCentre::Line() const {
     return {};
   }
   return texts.size() == 1 ? texts.front()
-                           : texts.front() + " +" + std::to_string(texts.size() - 1) + " more";
+                           : Filled(Tr("%1 +%2 more"), {texts.front(), std::to_string(texts.size() - 1)});
 }
 
 }  // namespace veerwatch

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 namespace {
@@ -40,13 +42,14 @@ std::vector<std::string> AlarmLines(const AlarmEntry& entry, const Moment& now, 
   std::vector<std::string> lines;
   if (entry.Since) {
     const std::int64_t span = std::max<std::int64_t>(0, now.Steady - entry.Since->Steady) / kMilliseconds;
-    lines.push_back("Since " + TimeText(entry.Since->Wall, utcOffset) + ", " + SpanText(span) +
-                    (entry.Acknowledged ? ", acknowledged" : ""));
+    lines.push_back(Filled(entry.Acknowledged ? Tr("Since %1, %2, acknowledged") : Tr("Since %1, %2"),
+                           {TimeText(entry.Since->Wall, utcOffset), SpanText(span)}));
   }
-  for (const auto& [name, text] : {std::pair{"", &entry.Value}, std::pair{"The program: ", &entry.Does},
-                                   std::pair{"You: ", &entry.Remedy}}) {
+  for (const auto& [pattern, text] :
+       {std::pair{std::string("%1"), &entry.Value}, std::pair{Tr("The program: %1"), &entry.Does},
+        std::pair{Tr("You: %1"), &entry.Remedy}}) {
     if (!text->empty()) {
-      lines.push_back(name + *text);
+      lines.push_back(Filled(pattern, {*text}));
     }
   }
   return lines;

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 #include "platform/VisibleText.h"
 
@@ -13,30 +14,42 @@ std::string Whole(double number) { return FormatNumber(static_cast<float>(number
 
 std::string Name(const Talker& talker) { return VisibleText(std::string_view(talker.data(), talker.size())); }
 
-std::string TwoSources(const char* what, const Standing& standing) {
-  return std::string("2 ") + what + " Sources (" + Name(standing.Talkers[0]) + ", " +
-         Name(standing.Talkers[1]) + ")";
+/// `pattern` with its two sources.
+std::string TwoSources(const std::string& pattern, const Standing& standing) {
+  return Filled(pattern, {Name(standing.Talkers[0]), Name(standing.Talkers[1])});
+}
+
+std::string ShiftText(const Standing& standing) {
+  const bool port = standing.Figure < 0.0;
+  const std::string degrees = Whole(std::fabs(standing.Figure));
+  if (standing.Lift) {
+    return Filled(port ? Tr("Wind Shift %1 deg to port: lift") : Tr("Wind Shift %1 deg to starboard: lift"),
+                  {degrees});
+  }
+  return Filled(port ? Tr("Wind Shift %1 deg to port: header") : Tr("Wind Shift %1 deg to starboard: header"),
+                {degrees});
 }
 
 /// What Act does about a condition; "" where it can do nothing.
-std::string_view ActDoes(Condition what) {
+std::string ActDoes(Condition what) {
   switch (what) {
     case Condition::NoWind:
-      return "no step; the pilot keeps its last bearing";
+      return Tr("no step; the pilot keeps its last bearing");
     case Condition::NoBoatSpeed:
-      return "holds the apparent wind angle of the last 10 s instead, until you choose the true one again";
+      return Tr(
+          "holds the apparent wind angle of the last 10 s instead, until you choose the true one again");
     case Condition::WindNotChanging:
-      return "the bearing stands still until the wind changes";
+      return Tr("the bearing stands still until the wind changes");
     case Condition::TwoWinds:
     case Condition::TwoHeadings:
     case Condition::TwoBoatSpeeds:
-      return "goes by the source that came first";
+      return Tr("goes by the source that came first");
     case Condition::PilotNotFollowing:
-      return "bearing and accumulator stand still until the boat comes within 10 degrees of it";
+      return Tr("bearing and accumulator stand still until the boat comes within 10 degrees of it");
     case Condition::GybeRisk:
-      return "holds the boat 8 degrees higher until the wind is forward of 168 degrees";
+      return Tr("holds the boat 8 degrees higher until the wind is forward of 168 degrees");
     case Condition::PilotLost:
-      return "adds nothing up; begins at the heading when the port is back";
+      return Tr("adds nothing up; begins at the heading when the port is back");
     case Condition::OffCourse:
     case Condition::Pinching:
     case Condition::WindShift:
@@ -55,156 +68,156 @@ std::string_view ActDoes(Condition what) {
 std::string WatchText(const Standing& standing) {
   switch (standing.What) {
     case Condition::NoWind:
-      return "No Wind " + Whole(standing.Figure) + " s";
+      return Filled(Tr("No Wind %1 s"), {Whole(standing.Figure)});
     case Condition::PilotLost:
-      return "Pilot Lost - Output Port " + Whole(standing.Figure);
+      return Filled(Tr("Pilot Lost - Output Port %1"), {Whole(standing.Figure)});
     case Condition::PilotNotFollowing:
-      return "Pilot: " + std::string(FollowText(standing.Follow));
+      return Filled(Tr("Pilot: %1"), {FollowText(standing.Follow)});
     case Condition::GybeRisk:
-      return "Gybe Risk";
+      return Tr("Gybe Risk");
     case Condition::NoBoatSpeed:
-      return "No Boat Speed";
+      return Tr("No Boat Speed");
     case Condition::WindNotChanging:
-      return "Wind Not Changing";
+      return Tr("Wind Not Changing");
     case Condition::OffCourse:
-      return "Off Course " + Whole(standing.Figure);
+      return Filled(Tr("Off Course %1"), {Whole(standing.Figure)});
     case Condition::Pinching:
-      return "Pinching";
+      return Tr("Pinching");
     case Condition::WindShift:
-      return "Wind Shift " + Whole(std::fabs(standing.Figure)) + " deg to " +
-             (standing.Figure < 0.0 ? "port" : "starboard") + (standing.Lift ? ": lift" : ": header");
+      return ShiftText(standing);
     case Condition::NoHeading:
-      return "No Heading";
+      return Tr("No Heading");
     case Condition::TwoWinds:
-      return TwoSources("Wind", standing);
+      return TwoSources(Tr("2 Wind Sources (%1, %2)"), standing);
     case Condition::TwoHeadings:
-      return TwoSources("Heading", standing);
+      return TwoSources(Tr("2 Heading Sources (%1, %2)"), standing);
     case Condition::TwoBoatSpeeds:
-      return TwoSources("Boat Speed", standing);
+      return TwoSources(Tr("2 Boat Speed Sources (%1, %2)"), standing);
     case Condition::WindJumps:
-      return "Wind Jumps";
+      return Tr("Wind Jumps");
     case Condition::ManyWinds:
-      return Whole(standing.Figure) + " Winds a Second";
+      return Filled(Tr("%1 Winds a Second"), {Whole(standing.Figure)});
     case Condition::PilotLineFull:
-      return "Pilot Line Full";
+      return Tr("Pilot Line Full");
     case Condition::Simulation:
-      return "Simulation";
+      return Tr("Simulation");
   }
   return {};
 }
 
-std::string_view FollowText(FollowVerdict verdict) {
+std::string FollowText(FollowVerdict verdict) {
   switch (verdict) {
     case FollowVerdict::Unknown:
       break;
     case FollowVerdict::Follows:
-      return "Follows";
+      return Tr("Follows");
     case FollowVerdict::Slow:
-      return "Slow";
+      return Tr("Slow");
     case FollowVerdict::DoesNotFollow:
-      return "Does not follow";
+      return Tr("Does not follow");
     case FollowVerdict::TurnsAway:
-      return "Turns the wrong way";
+      return Tr("Turns the wrong way");
   }
-  return "Unknown";
+  return Tr("Unknown");
 }
 
 std::string FollowLine(const WatchNow& watch) {
-  std::string line = "Pilot: " + std::string(FollowText(watch.Follow));
   const double offset = std::round(watch.PilotOffset.value_or(0.0));
   const bool comes = watch.Follow == FollowVerdict::Follows || watch.Follow == FollowVerdict::Slow;
   if (comes && offset != 0.0) {
-    line += std::string(", offset ") + (offset > 0.0 ? "+" : "") + Whole(offset);
+    return Filled(Tr("Pilot: %1, offset %2"),
+                  {FollowText(watch.Follow), (offset > 0.0 ? "+" : "") + Whole(offset)});
   }
-  return line;
+  return Filled(Tr("Pilot: %1"), {FollowText(watch.Follow)});
 }
 
 std::string_view LevelText(Level level) {
   return level == Level::Red ? "red" : level == Level::Amber ? "amber" : "note";
 }
 
-std::string_view WatchedText(Watched what) {
+std::string WatchedText(Watched what) {
   switch (what) {
     case Watched::WindApparent:
-      return "Apparent Wind";
+      return Tr("Apparent Wind");
     case Watched::WindTrue:
-      return "True Wind";
+      return Tr("True Wind");
     case Watched::BoatSpeed:
-      return "Boat Speed";
+      return Tr("Boat Speed");
     case Watched::Heading:
-      return "Heading";
+      return Tr("Heading");
     case Watched::Waypoint:
-      return "Waypoint";
+      return Tr("Waypoint");
     case Watched::SpeedOverGround:
-      return "Speed Over Ground";
+      return Tr("Speed Over Ground");
     case Watched::Compass:
-      return "Compass";
+      return Tr("Compass");
   }
   return {};
 }
 
 std::string ValueText(Watched what, const ValueAge& age) {
-  std::string text(WatchedText(what));
+  const std::string text = WatchedText(what);
   if (age.State == Freshness::Waiting) {
-    return text + ": waiting";
+    return Filled(Tr("%1: waiting"), {text});
   }
   if (age.State == Freshness::NotFitted) {
-    return text + ": not fitted";
+    return Filled(Tr("%1: not fitted"), {text});
   }
   const std::string_view sentence(age.From.Sentence.data(), age.From.Sentence.size());
   if (sentence.front() == '\0' || sentence == "SIM") {
-    return text + ": simulated";
+    return Filled(Tr("%1: simulated"), {text});
   }
   constexpr double kMilliseconds = 1000.0;
-  return text + " from " + VisibleText(sentence) + " (" + Name(age.From.Talker) + "), " +
-         Whole(std::floor(static_cast<double>(age.Age) / kMilliseconds)) + " s old";
+  return Filled(Tr("%1 from %2 (%3), %4 s old"),
+                {text, VisibleText(sentence), Name(age.From.Talker),
+                 Whole(std::floor(static_cast<double>(age.Age) / kMilliseconds))});
 }
 
 std::string WatchDoes(const Standing& standing, const WatchNow& watch) {
-  const std::string does(ActDoes(standing.What));
+  const std::string does = ActDoes(standing.What);
   if (does.empty() || watch.Mode != TrackMode::Track) {
-    return "Tells it";
+    return Tr("Tells it");
   }
   if (watch.Act) {
-    return "Act: " + does;
+    return Filled(Tr("Act: %1"), {does});
   }
-  return "Tells it, and steers on. With Act: " + does;
+  return Filled(Tr("Tells it, and steers on. With Act: %1"), {does});
 }
 
-std::string_view WatchRemedy(Condition what) {
+std::string WatchRemedy(Condition what) {
   switch (what) {
     case Condition::NoWind:
-      return "Take the helm; look at the wind instrument and its wire";
+      return Tr("Take the helm; look at the wind instrument and its wire");
     case Condition::PilotLost:
-      return "Take the helm; look at the pilot's port, its adapter and its wire";
+      return Tr("Take the helm; look at the pilot's port, its adapter and its wire");
     case Condition::PilotNotFollowing:
-      return "Take the helm; is the pilot in standby, or does it hear another source?";
+      return Tr("Take the helm; is the pilot in standby, or does it hear another source?");
     case Condition::GybeRisk:
-      return "Luff, or hold an angle further from dead astern";
+      return Tr("Luff, or hold an angle further from dead astern");
     case Condition::NoBoatSpeed:
-      return "Hold the apparent wind; clean the log's wheel, or choose the speed over ground";
+      return Tr("Hold the apparent wind; clean the log's wheel, or choose the speed over ground");
     case Condition::WindNotChanging:
-      return "Look at the masthead: the vane may be stuck; steer by hand until it moves";
+      return Tr("Look at the masthead: the vane may be stuck; steer by hand until it moves");
     case Condition::OffCourse:
-      return "Look why: a wind shift, a stalled pilot, too much sail, a limit that is too narrow";
+      return Tr("Look why: a wind shift, a stalled pilot, too much sail, a limit that is too narrow");
     case Condition::Pinching:
-      return "Bear away, or hold an angle further from the wind";
+      return Tr("Bear away, or hold an angle further from the wind");
     case Condition::WindShift:
-      return "Look whether the other tack, or another angle, leads better to where you go";
+      return Tr("Look whether the other tack, or another angle, leads better to where you go");
     case Condition::NoHeading:
-      return "Look at the compass and its wire";
+      return Tr("Look at the compass and its wire");
     case Condition::TwoWinds:
     case Condition::TwoHeadings:
     case Condition::TwoBoatSpeeds:
-      return "Switch one of the two off, or leave it out at the multiplexer";
+      return Tr("Switch one of the two off, or leave it out at the multiplexer");
     case Condition::WindJumps:
-      return "Look at the vane and its plug; steer by hand while it leaps";
+      return Tr("Look at the vane and its plug; steer by hand while it leaps");
     case Condition::ManyWinds:
-      return "Options > Tracking: choose the method Clock or Direction, or a larger bandwidth";
+      return Tr("Options > Tracking: choose the method Clock or Direction, or a larger bandwidth");
     case Condition::PilotLineFull:
-      return "Let the wind instrument send fewer sentences a second";
+      return Tr("Let the wind instrument send fewer sentences a second");
     case Condition::Simulation:
-      return "Options > Simulate, for the real boat";
+      return Tr("Options > Simulate, for the real boat");
   }
   return {};
 }

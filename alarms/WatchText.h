@@ -13,7 +13,7 @@ namespace veerwatch {
 std::string WatchText(const Standing& standing);
 
 /// "Follows", "Slow", "Does not follow", "Turns the wrong way" or "Unknown".
-std::string_view FollowText(FollowVerdict verdict);
+std::string FollowText(FollowVerdict verdict);
 
 /// The verdict on the pilot; while the boat comes to the bearing, with the offset of its compass, rounded,
 /// where that is known and not 0: "Pilot: Follows, offset +5".
@@ -23,7 +23,7 @@ std::string FollowLine(const WatchNow& watch);
 std::string_view LevelText(Level level);
 
 /// The name of a quantity: "Apparent Wind", "Boat Speed", ...
-std::string_view WatchedText(Watched what);
+std::string WatchedText(Watched what);
 
 /// Where a quantity came from and how old it is: "Apparent Wind from MWV (WI), 7 s old"; "Boat Speed:
 /// waiting" while none has come, "Boat Speed: not fitted", "... simulated".
@@ -33,6 +33,6 @@ std::string ValueText(Watched what, const ValueAge& age);
 std::string WatchDoes(const Standing& standing, const WatchNow& watch);
 
 /// What the sailor can do.
-std::string_view WatchRemedy(Condition what);
+std::string WatchRemedy(Condition what);
 
 }  // namespace veerwatch

@@ -7,6 +7,8 @@
 
 #include "alarms/AlarmColoursQt.h"
 #include "draw/DrawQt.h"
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -72,14 +74,14 @@ class frmAlarms::BlockQt final : public QFrame {
 
 frmAlarms::frmAlarms(Parts parts, QWidget* main) : QDialog(main), m_parts(std::move(parts)) {
   setObjectName(QStringLiteral("frmAlarms"));
-  setWindowTitle(QStringLiteral("Veerwatch - Alarms"));
+  setWindowTitle(TrQ("Veerwatch - Alarms"));
   setModal(false);
   setAttribute(Qt::WA_QuitOnClose, false);
   auto* content = new QWidget(this);
   m_list = new QVBoxLayout(content);
   m_list->setContentsMargins(0, 0, 0, 0);
   lblNothing = Label(kTitleHeight, QFont::Normal, content);
-  lblNothing->setText(QStringLiteral("All is well"));
+  lblNothing->setText(TrQ("All is well"));
   m_list->addWidget(lblNothing);
   m_list->addStretch(1);
   auto* scroll = new QScrollArea(this);
@@ -102,9 +104,9 @@ void frmAlarms::MakeButtons(QVBoxLayout& all) {
   auto* row = new QHBoxLayout;
   row->setSpacing(kSpacing);
   const auto button = [this, row](const char* name, const char* text, const char* tip) {
-    auto* made = new QPushButton(QLatin1String(text), this);
+    auto* made = new QPushButton(TrQ(text), this);
     made->setObjectName(QLatin1String(name));
-    made->setToolTip(QLatin1String(tip));
+    made->setToolTip(TrQ(tip));
     made->setMinimumHeight(kButtonHeight);
     made->setAutoDefault(false);
     made->setFont(Letters(made->font(), kTextHeight));
@@ -112,13 +114,14 @@ void frmAlarms::MakeButtons(QVBoxLayout& all) {
     row->addWidget(made);
     return made;
   };
-  cmdAcknowledge = button("cmdAcknowledge", "&Acknowledge", "The sound stops, the lines stay (Space)");
-  cmdMute = button("cmdMute", "&Mute 10 min", "Nothing is heard for ten minutes");
+  cmdAcknowledge =
+      button("cmdAcknowledge", TrMark("&Acknowledge"), TrMark("The sound stops, the lines stay (Space)"));
+  cmdMute = button("cmdMute", TrMark("&Mute 10 min"), TrMark("Nothing is heard for ten minutes"));
   cmdMute->setCheckable(true);
-  cmdNoticeHide =
-      button("cmdNoticeHide", "&Hide Notice", "Hide the first notice until it says something new");
+  cmdNoticeHide = button("cmdNoticeHide", TrMark("&Hide Notice"),
+                         TrMark("Hide the first notice until it says something new"));
   row->addStretch(1);
-  cmdClose = button("cmdClose", "&Close", "Close the list; what stands stays in the line");
+  cmdClose = button("cmdClose", TrMark("&Close"), TrMark("Close the list; what stands stays in the line"));
   connect(cmdAcknowledge, &QPushButton::clicked, this, [this] { m_parts.Acknowledge(); });
   connect(cmdMute, &QPushButton::clicked, this, [this](bool checked) { m_parts.Mute(checked); });
   connect(cmdNoticeHide, &QPushButton::clicked, this, [this] { m_parts.HideNotice(); });
@@ -139,7 +142,7 @@ void frmAlarms::Show(const std::vector<Block>& blocks, const QString& why) {
     }
   }
   lblNothing->setVisible(blocks.empty());
-  ShowText(*lblWhy, why.isEmpty() ? why : QStringLiteral("Why? ") + why);
+  ShowText(*lblWhy, why.isEmpty() ? why : TrQ("Why? %1").arg(why));
   lblWhy->setVisible(!why.isEmpty());
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "alarms/AlarmColoursQt.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -19,14 +20,14 @@ constexpr qreal kGapShare = 0.28;
 
 BannerQt::BannerQt(QWidget* parent) : QAbstractButton(parent) {
   setObjectName(QStringLiteral("Banner"));
-  setToolTip(QStringLiteral("What it is, what the program does, what you can do; a click acknowledges it"));
+  setToolTip(TrQ("What it is, what the program does, what you can do; a click acknowledges it"));
   setCursor(Qt::PointingHandCursor);
   setFocusPolicy(Qt::TabFocus);
   hide();
 }
 
 void BannerQt::Show(Level level, const QString& text, int more) {
-  const QString behind = more > 0 ? QStringLiteral(" +%1 more").arg(more) : QString();
+  const QString behind = more > 0 ? TrQ(" +%1 more").arg(more) : QString();
   if (level == m_level && text == m_first && behind == m_more) {
     return;
   }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platform/Angles.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -16,9 +17,9 @@ float Apart(float a, float b) {
 
 std::string TurnMark(const std::optional<ManoeuvreKind>& kind) {
   if (!kind) {
-    return "Turn";
+    return Tr("Turn");
   }
-  return *kind == ManoeuvreKind::Tack ? "Tack" : *kind == ManoeuvreKind::Jibe ? "Jibe" : "Steer";
+  return *kind == ManoeuvreKind::Tack ? Tr("Tack") : *kind == ManoeuvreKind::Jibe ? Tr("Jibe") : Tr("Steer");
 }
 
 }  // namespace

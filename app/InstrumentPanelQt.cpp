@@ -9,6 +9,8 @@
 
 #include "app/FigureLook.h"
 #include "draw/DrawQt.h"
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -52,32 +54,32 @@ void PlaceText(QWidget* control, const Box& box, const QFont& letters) {
 InstrumentPanelQt::InstrumentPanelQt(QWidget* parent) : QWidget(parent), m_theme(palette()) {
   setObjectName(QStringLiteral("InstrumentPanel"));
   Banner = new BannerQt(this);
-  lblHeading = NewValue("lblHeading", kBearingPattern, "Heading (M)");
-  lblBoatSpeed = NewValue("lblBoatSpeed", kSpeedPattern, "Boat Speed (Kts)");
-  lblWaypointBearing = NewValue("lblWaypointBearing", kBearingPattern, "Waypoint Bearing (M)");
-  lblAppWindAngle = NewValue("lblAppWindAngle", kAnglePattern, "App Wind Angle (R)");
-  lblAppWindSpeed = NewValue("lblAppWindSpeed", kSpeedPattern, "App Wind Speed (Kts)");
-  lblTrueWindAngle = NewValue("lblTrueWindAngle", kAnglePattern, "True Wind Angle (R)");
-  lblTrueWindSpeed = NewValue("lblTrueWindSpeed", kSpeedPattern, "True Wind Speed (Kts)");
+  lblHeading = NewValue("lblHeading", kBearingPattern, TrMark("Heading (M)"));
+  lblBoatSpeed = NewValue("lblBoatSpeed", kSpeedPattern, TrMark("Boat Speed (Kts)"));
+  lblWaypointBearing = NewValue("lblWaypointBearing", kBearingPattern, TrMark("Waypoint Bearing (M)"));
+  lblAppWindAngle = NewValue("lblAppWindAngle", kAnglePattern, TrMark("App Wind Angle (R)"));
+  lblAppWindSpeed = NewValue("lblAppWindSpeed", kSpeedPattern, TrMark("App Wind Speed (Kts)"));
+  lblTrueWindAngle = NewValue("lblTrueWindAngle", kAnglePattern, TrMark("True Wind Angle (R)"));
+  lblTrueWindSpeed = NewValue("lblTrueWindSpeed", kSpeedPattern, TrMark("True Wind Speed (Kts)"));
 
-  lblAutoPilot = NewCaption("lblAutoPilot", "AutoPilot Bearing");
-  txtAutoPilot = NewEntry("txtAutoPilot", kFineBearingPattern, "AutoPilot Bearing");
+  lblAutoPilot = NewCaption("lblAutoPilot", TrMark("AutoPilot Bearing"));
+  txtAutoPilot = NewEntry("txtAutoPilot", kFineBearingPattern, TrMark("AutoPilot Bearing"));
   lblAutoPilot->setBuddy(txtAutoPilot);
   lblPilotHeading = NewCaption("lblPilotHeading", "");
   lblPilotSent = NewCaption("lblPilotSent", "");
   lblPilotFollows = NewCaption("lblPilotFollows", "");
-  lblPilotFollows->setToolTip(QStringLiteral(
-      "Whether the boat comes to the bearings that are sent, and what the pilot's compass shows "
-      "more than ours [deg]"));
-  optControl = {new SideOptionQt(Element("optControl", 1), QStringLiteral("Track Apparent Wind Angle"), this),
-                new SideOptionQt(Element("optControl", 2), QStringLiteral("Track True Wind Angle"), this)};
+  lblPilotFollows->setToolTip(
+      TrQ("Whether the boat comes to the bearings that are sent, and what the pilot's compass shows "
+          "more than ours [deg]"));
+  optControl = {new SideOptionQt(Element("optControl", 1), TrQ("Track Apparent Wind Angle"), this),
+                new SideOptionQt(Element("optControl", 2), TrQ("Track True Wind Angle"), this)};
   optControl[0]->setChecked(true);
-  lblDesired = {NewCaption("lblDesired(1)", "Desired App Wind Angle (R)"),
-                NewCaption("lblDesired(2)", "Desired True Wind Angle (R)")};
-  txtDesired = {NewEntry("txtDesired(1)", kAnglePattern, "Desired App Wind Angle (R)"),
-                NewEntry("txtDesired(2)", kAnglePattern, "Desired True Wind Angle (R)")};
-  lblDelta = {NewValue("lblDelta(1)", kFineAnglePattern, "Delta (deg)"),
-              NewValue("lblDelta(2)", kFineAnglePattern, "Delta (deg)")};
+  lblDesired = {NewCaption("lblDesired(1)", TrMark("Desired App Wind Angle (R)")),
+                NewCaption("lblDesired(2)", TrMark("Desired True Wind Angle (R)"))};
+  txtDesired = {NewEntry("txtDesired(1)", kAnglePattern, TrMark("Desired App Wind Angle (R)")),
+                NewEntry("txtDesired(2)", kAnglePattern, TrMark("Desired True Wind Angle (R)"))};
+  lblDelta = {NewValue("lblDelta(1)", kFineAnglePattern, TrMark("Delta (deg)")),
+              NewValue("lblDelta(2)", kFineAnglePattern, TrMark("Delta (deg)"))};
   for (int index = 1; index <= 2; ++index) {
     const auto at = static_cast<std::size_t>(index - 1);
     cmdAutoPilot[at] = NewNudge("cmdAutoPilot", index);
@@ -91,25 +93,25 @@ InstrumentPanelQt::InstrumentPanelQt(QWidget* parent) : QWidget(parent), m_theme
 
 ValueLabelQt* InstrumentPanelQt::NewValue(const char* name, const char* pattern, const char* caption) {
   auto* label = new ValueLabelQt(QLatin1String(name), QLatin1String(pattern), this);
-  label->setAccessibleName(QLatin1String(caption));
+  label->setAccessibleName(TrQ(caption));
   NewCaption("", caption)->setObjectName(label->objectName() + QStringLiteral(".Caption"));
   return label;
 }
 
 CaptionQt* InstrumentPanelQt::NewCaption(const char* name, const char* text) {
-  return new CaptionQt(QLatin1String(name), QLatin1String(text), this);
+  return new CaptionQt(QLatin1String(name), TrQ(text), this);
 }
 
 EntryBoxQt* InstrumentPanelQt::NewEntry(const char* name, const char* pattern, const char* description) {
   auto* box = new EntryBoxQt(QLatin1String(name), QLatin1String(pattern), this);
-  box->setAccessibleName(QLatin1String(description));
+  box->setAccessibleName(TrQ(description));
   return box;
 }
 
 NudgeButtonQt* InstrumentPanelQt::NewNudge(const char* array, int index) {
   auto* button = new NudgeButtonQt(Element(array, index), index == 2, this);
-  button->setToolTip(index == 2 ? QStringLiteral("One degree to starboard (Alt+Right); ten with Shift")
-                                : QStringLiteral("One degree to port (Alt+Left); ten with Shift"));
+  button->setToolTip(index == 2 ? TrQ("One degree to starboard (Alt+Right); ten with Shift")
+                                : TrQ("One degree to port (Alt+Left); ten with Shift"));
   return button;
 }
 

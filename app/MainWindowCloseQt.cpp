@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "app/frmMain.h"
+#include "platform/Language.h"
 #include "platform/VisibleText.h"
 
 namespace veerwatch {
@@ -27,8 +28,8 @@ void frmMain::tmrUnload_Timer() {
 
 void frmMain::AskToStop() {
   // Deliberate: "is current tracking".
-  m_asks->AskYesNo(std::string(kApplicationTitle) + " - Closing",
-                   "Veerwatch is current tracking the wind.\rDo you wish to stop tracking?",
+  m_asks->AskYesNo(Filled(Tr("%1 - Closing"), {kApplicationTitle}),
+                   Tr("Veerwatch is current tracking the wind.\rDo you wish to stop tracking?"),
                    [this](bool yes) {
                      if (yes) {
                        m_ask = false;
@@ -94,11 +95,12 @@ void frmMain::KeepSettings() {
   if (!m_saveFailure.empty()) {
     std::fprintf(stderr, "%s\n", m_saveFailure.c_str());
   } else if (result == Profile::LoadResult::Unreadable) {
-    const std::string text = m_sProfileFile + " could not be read: it was put aside";
-    std::fprintf(stderr, "%s\n", VisibleText(text).c_str());
-    NoticeSet(AlarmKind::Profile, text);
+    constexpr const char* kAside = TrMark("%1 could not be read: it was put aside");
+    std::fprintf(stderr, "%s\n", VisibleText(Filled(kAside, {m_sProfileFile})).c_str());
+    NoticeSet(AlarmKind::Profile, Filled(Tr(kAside), {m_sProfileFile}));
   }
-  NoticeSet(AlarmKind::Save, m_saveFailure.empty() ? "" : "Settings not saved: " + m_saveFailure);
+  NoticeSet(AlarmKind::Save,
+            m_saveFailure.empty() ? "" : Filled(Tr("Settings not saved: %1"), {m_saveFailure}));
 }
 
 Profile frmMain::Present() {

@@ -6,6 +6,7 @@
 #include "app/TypedAngle.h"
 #include "app/frmMain.h"
 #include "draw/DrawQt.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -41,9 +42,10 @@ void frmMain::TakeTyped(EntryBoxQt& box, float present, const QString& pattern,
   }
   box.Show(Figure(present, pattern.toStdString()));
   if (typed.What == TypedAngle::Fate::Ask) {
-    const std::string text = box.accessibleName().toStdString() + ": from " + FormatNumber(present, "0") +
-                             " to " + ShortestText(typed.Value) + "?\rThat is more than " +
-                             ShortestText(m_fTrackMaxSteerTo) + " degrees, and the pilot follows.";
+    const std::string text =
+        Filled(Tr("%1: from %2 to %3?\rThat is more than %4 degrees, and the pilot follows."),
+               {box.accessibleName().toStdString(), FormatNumber(present, "0"), ShortestText(typed.Value),
+                ShortestText(m_fTrackMaxSteerTo)});
     m_asks->WarnYesNo(kApplicationTitle, text, [this, mode, typed, take = std::move(take)](bool yes) {
       if (yes && m_eTrackMode == mode) {
         take(typed.Value);

@@ -10,6 +10,8 @@
 #include "control/TrackAdvice.h"
 #include "instruments/CompassPoint.h"
 #include "pilot/LineLoad.h"
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 #include "platform/NumberText.h"
 #include "platform/PortNames.h"
 #include "platform/VisibleText.h"
@@ -67,8 +69,7 @@ void frmMain::OnWindTrue(float angle, float speed) {
 }
 
 void frmMain::OnWindIndicator(float direction, float speed) {
-  m_wind =
-      QStringLiteral("Wind ") + Text(CompassPointName(direction)) + QLatin1Char('@') + Number(speed, ".0");
+  m_wind = TrQ("Wind %1@%2").arg(Text(CompassPointName(direction)), Number(speed, ".0"));
   ShowTitle();
 }
 
@@ -87,9 +88,9 @@ void frmMain::ShowTitle() {
     return;
   }
   const FigureLook look = LookOf(m_watch.Of(Watched::WindTrue), m_watch.Mode, m_bWatchBlankLost);
-  QString caption = look.Blank ? QStringLiteral("Wind --") : m_wind;
+  QString caption = look.Blank ? TrQ("Wind --") : m_wind;
   if (look.Half) {
-    caption += look.Age.empty() ? QStringLiteral(" (Off)") : QStringLiteral(" (%1 old)").arg(Text(look.Age));
+    caption += look.Age.empty() ? TrQ(" (Off)") : TrQ(" (%1 old)").arg(Text(look.Age));
   }
   caption += named;
   if (m_parts.Asks.IsForeground()) {
@@ -172,7 +173,7 @@ void frmMain::OnAlarm(TrackSide side, float error) {
   }
   m_panel->ShowAlarm(side);
   m_alarms.StepSounds();
-  m_status->Show(StatusPanelsQt::kOutput, QStringLiteral("Alarm Limit Exceeded ") + Number(error, "0"));
+  m_status->Show(StatusPanelsQt::kOutput, TrQ("Alarm Limit Exceeded %1").arg(Number(error, "0")));
 }
 
 void frmMain::OnAlarmOver() {
@@ -212,7 +213,7 @@ void frmMain::ShowSent() {
     return;
   }
   const QString heading = m_panel->lblHeading->text();
-  m_panel->ShowSent(heading.isEmpty() ? heading : QStringLiteral("Heading ") + heading,
+  m_panel->ShowSent(heading.isEmpty() ? heading : TrQ("Heading %1").arg(heading),
                     m_watch.Of(Watched::Heading).Gone(), Text(m_sent.Text()), m_sent.Late());
   const bool wrong = m_watch.Follow != FollowVerdict::Follows && m_watch.Follow != FollowVerdict::Unknown;
   m_panel->ShowFollows(SimulatesSteady() ? QString() : Text(FollowLine(m_watch)), wrong);
@@ -224,7 +225,7 @@ void frmMain::OnTrackSide(TrackSide side) {
 
 void frmMain::OnTrackRefused(TrackRefusal why) {
   m_insteadTimer.stop();
-  m_instead = Text(TrackRefusalText(why));
+  m_instead = TrQ(TrackRefusalText(why));
   ShowModeText();
 }
 
@@ -234,7 +235,7 @@ void frmMain::OnTurnEnds(TurnFate why) {
   if (why == TurnFate::Taken) {
     return;
   }
-  SayForAWhile("Turn ended: " + std::string(TurnFateText(why)));
+  SayForAWhile(Filled(Tr("Turn ended: %1"), {Tr(TurnFateText(why))}));
   m_alarms.TurnSounds();
 }
 
@@ -259,26 +260,26 @@ void frmMain::ShowModeText() {
   QString text;
   switch (m_eTrackMode) {
     case TrackMode::Off:
-      text = QStringLiteral("Off");
+      text = TrQ("Off");
       break;
     case TrackMode::Setup:
-      text = QStringLiteral("Initialize");
+      text = TrQ("Initialize");
       break;
     case TrackMode::Manual:
-      text = QStringLiteral("Manual");
+      text = TrQ("Manual");
       break;
     case TrackMode::Track:
-      text = m_helm.Loop().Side() == TrackSide::Apparent ? QStringLiteral("Tracking Apparent Wind")
-                                                         : QStringLiteral("Tracking True Wind");
+      text = m_helm.Loop().Side() == TrackSide::Apparent ? TrQ("Tracking Apparent Wind")
+                                                         : TrQ("Tracking True Wind");
       break;
     case TrackMode::Switching:
       break;
   }
   const bool needsInput = m_eTrackMode == TrackMode::Manual || m_eTrackMode == TrackMode::Track;
   if (needsInput && !m_helm.Receiver().Started()) {
-    text += QStringLiteral(", Input Stopped");
+    text += TrQ(", Input Stopped");
   } else if (needsInput && m_helm.Now().WindLost) {
-    text += QStringLiteral(", No Wind");
+    text += TrQ(", No Wind");
   }
   if (!m_prompt.isEmpty()) {
     text = m_prompt;

@@ -11,6 +11,7 @@
 #include "draw/DrawQt.h"
 #include "draw/WindowPlaceQt.h"
 #include "options/RecommendedQt.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -60,7 +61,8 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
                [this]() -> frmPolar& { return Polar(); }, [this] { return Tack().Kept(); },
                [this](const TurnPlan& plan) { m_turns.Begin(plan); }}),
       m_connect({parts, main, *window, [this] { return RecommendedOf().SmoothWinds; },
-                 [this](bool smooth) { Polar().SmoothWinds(smooth); }, [this] { OptionsReload(); }}) {
+                 [this](bool smooth) { Polar().SmoothWinds(smooth); }, [this] { OptionsReload(); }}),
+      m_helpKey([this](const QWidget& pressedIn) { HelpShow(pressedIn); }) {
   QObject::connect(menu.mnuViewHistory, &QAction::triggered, [this] { HistoryShow(); });
   for (const QAction* command : {menu.mnuViewDiagram, menu.mnuHelpDiagram}) {
     QObject::connect(command, &QAction::triggered, [this] { DiagramShow(); });
@@ -68,6 +70,7 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
   QObject::connect(menu.mnuHelpManual, &QAction::triggered, [this] { ManualShow(); });
   menu.mnuHelpConnect->setEnabled(m_connect.Can());
   QObject::connect(menu.mnuHelpConnect, &QAction::triggered, [this] { m_connect.Show(); });
+  QObject::connect(menu.mnuHelpHere, &QAction::triggered, [this] { HelpShow(*m_window); });
   QObject::connect(menu.mnuHelpAbout, &QAction::triggered, [this] { AboutShow(); });
   QObject::connect(menu.mnuViewPolar, &QAction::triggered, [this] { PolarShow(); });
   for (const auto& [command, tab] :
@@ -119,6 +122,9 @@ void OtherWindowsQt::Hide() {
   m_connect.Hide();
   if (m_about) {
     m_about->hide();
+  }
+  if (m_manual) {
+    m_manual->hide();
   }
   if (m_diagram) {
     m_diagram->hide();
@@ -406,11 +412,22 @@ void OtherWindowsQt::OnDiagramHistory() {
 void OtherWindowsQt::ManualShow() {
   std::error_code error;
   if (!std::filesystem::is_regular_file(m_parts.ManualPage, error)) {
-    m_parts.Asks.Inform(kApplicationTitle, "The manual is not there:\r" + m_parts.ManualPage);
+    m_parts.Asks.Inform(kApplicationTitle, Filled(Tr("The manual is not there:\r%1"), {m_parts.ManualPage}));
   } else if (!m_parts.Asks.ShowPage(m_parts.ManualPage)) {
     m_parts.Asks.Inform(kApplicationTitle,
-                        "No browser shows the manual. It begins at:\r" + m_parts.ManualPage);
+                        Filled(Tr("No browser shows the manual. It begins at:\r%1"), {m_parts.ManualPage}));
   }
+}
+
+void OtherWindowsQt::HelpShow(const QWidget& window) {
+  if (m_manual && &window == m_manual.get()) {
+    return;
+  }
+  if (!m_manual) {
+    m_manual = std::make_unique<frmManual>();
+  }
+  const int tab = m_options ? m_options->Tab() : 0;
+  m_manual->Open(ManualPlaceOf(window.objectName().toStdString(), tab));
 }
 
 void OtherWindowsQt::AboutShow() {

@@ -12,11 +12,13 @@
 #include <vector>
 
 #include "app/ConnectShowQt.h"
+#include "app/HelpKeyQt.h"
 #include "app/HistoryMarks.h"
 #include "app/MainWindowParts.h"
 #include "app/SailDeskQt.h"
 #include "app/TurnDeskQt.h"
 #include "app/frmMainCommands.h"
+#include "app/frmManual.h"
 #include "diagram/DiagramObserver.h"
 #include "diagram/frmAbout.h"
 #include "diagram/frmDiagram.h"
@@ -106,6 +108,8 @@ class OtherWindowsQt final : private HelmObserver,
   void DiagramShow();
   void DiagramLights();
   void ManualShow();
+  /// The manual, where it tells of that window.
+  void HelpShow(const QWidget& window);
   void AboutShow();
   void OnDiagramOptions(int tab, const DiagramAnchor& anchor) override;
   void OnDiagramPolar() override { PolarShow(); }
@@ -161,6 +165,8 @@ class OtherWindowsQt final : private HelmObserver,
   std::unique_ptr<frmDiagram> m_diagram;  ///< null until it is shown for the first time
   std::unique_ptr<frmAbout> m_about;      ///< the same
   ConnectShowQt m_connect;
+  std::unique_ptr<frmManual> m_manual;  ///< the same
+  HelpKeyQt m_helpKey;
 };
 
 }  // namespace veerwatch

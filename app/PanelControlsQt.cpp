@@ -9,6 +9,8 @@
 #include <cmath>
 #include <tuple>
 
+#include "platform/LanguageQt.h"
+
 namespace veerwatch {
 
 namespace {
@@ -81,7 +83,7 @@ void ValueLabelQt::Fade(bool half, const QString& age) {
   if (m_half != half || m_age != age) {
     m_half = half;
     m_age = age;
-    setAccessibleDescription(age.isEmpty() ? age : age + QStringLiteral(" old"));
+    setAccessibleDescription(age.isEmpty() ? age : TrQ("%1 old").arg(age));
     update();
   }
 }
@@ -244,7 +246,7 @@ void EntryBoxQt::contextMenuEvent(QContextMenuEvent* event) {
 // NudgeButtonQt
 
 NudgeButtonQt::NudgeButtonQt(const QString& name, bool toStarboard, QWidget* parent)
-    : QPushButton(toStarboard ? QStringLiteral("To Starboard") : QStringLiteral("To Port"), parent),
+    : QPushButton(toStarboard ? TrQ("To Starboard") : TrQ("To Port"), parent),
       m_toStarboard(toStarboard),
       m_theme(palette()) {
   setObjectName(name);

@@ -17,6 +17,7 @@
 #include "platform/ApplicationQt.h"
 #include "platform/CommandRunnerQt.h"
 #include "platform/DialogsQt.h"
+#include "platform/Language.h"
 #include "platform/LanguageQt.h"
 #include "platform/PortFinderQt.h"
 #include "platform/PortNames.h"
@@ -118,9 +119,10 @@ bool Taken(const ProfileLock& lock, const std::filesystem::path& profile, Dialog
                name.c_str(), file.c_str());
   dialogs.Inform(
       kApplicationTitle,
-      "Veerwatch is running already with these settings:\r" + name +
-          "\rClose it first, or start this one with settings of its own: veerwatch --profile FILE" +
-          "\rThe other one holds the lock on " + file);
+      Filled(Tr("Veerwatch is running already with these settings:\r%1"
+                "\rClose it first, or start this one with settings of its own: veerwatch --profile FILE"
+                "\rThe other one holds the lock on %2"),
+             {name, file}));
   return false;
 }
 
@@ -140,7 +142,8 @@ int TellUnsaved(const frmMain& window, DialogsQt& dialogs) {
   if (!window.ClosedUnasked()) {
     // The window is hidden, and would hide the message with it.
     dialogs.Window(nullptr);
-    dialogs.Inform(kApplicationTitle, "The settings could not be saved:\r" + window.SaveFailure());
+    dialogs.Inform(kApplicationTitle,
+                   Filled(Tr("The settings could not be saved:\r%1"), {window.SaveFailure()}));
     // Until the message is closed.
     QApplication::exec();
   }

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 #include "platform/VisibleText.h"
 
 namespace veerwatch {
@@ -11,7 +13,7 @@ namespace {
 constexpr const char* kProposed = "input.nmea";
 constexpr int kMargin = 10;  // [px]
 
-std::string EndedText(const std::string& why) { return "The recording has ended: " + why; }
+std::string EndedText(const std::string& why) { return Filled(Tr("The recording has ended: %1"), {why}); }
 
 }  // namespace
 
@@ -21,7 +23,7 @@ RecordingQt::RecordingQt(const MainWindowParts& parts, const frmMainMenu& menu, 
       m_command(menu.mnuFileRecord),
       m_asks(asks),
       m_notice(std::move(notice)),
-      lblRecording(new QLabel(QStringLiteral("\u25CF Recording"), &bar)),
+      lblRecording(new QLabel(TrQ("\u25CF Recording"), &bar)),
       m_recorder(
           helm.Observers(), parts.Time, [&helm] { return helm.Receiver().LineFrom(); },
           [this](const std::string& why) {
@@ -51,7 +53,7 @@ void RecordingQt::Triggered() {
   // The click has turned the tick of the command over.
   ShowState();
   const std::string proposed = InputRecorder::NameOn(kProposed, m_parts.Time.Now().Wall, 1).string();
-  m_asks.ExportFile("Record Input", "Recorded input (*.nmea)", proposed,
+  m_asks.ExportFile(Tr("Record Input"), Tr("Recorded input (*.nmea)"), proposed,
                     [this](const std::optional<std::string>& file) {
                       if (file) {
                         Start(*file);
@@ -65,15 +67,15 @@ void RecordingQt::Start(const std::string& file) {
   ShowState();
   m_notice("");
   if (!why.empty()) {
-    m_asks.Inform(kApplicationTitle, "Nothing is recorded:\r" + why);
+    m_asks.Inform(kApplicationTitle, Filled(Tr("Nothing is recorded:\r%1"), {why}));
   }
 }
 
 void RecordingQt::ShowState() const {
   m_command->setChecked(m_recorder.Running());
   lblRecording->setVisible(m_recorder.Running());
-  lblRecording->setToolTip(
-      QString::fromStdString("Every received line is written to " + VisibleText(m_recorder.File().string())));
+  lblRecording->setToolTip(QString::fromStdString(
+      Filled(Tr("Every received line is written to %1"), {VisibleText(m_recorder.File().string())})));
 }
 
 }  // namespace veerwatch

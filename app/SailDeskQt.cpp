@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/MarkLegsOf.h"
+#include "platform/Language.h"
 
 namespace veerwatch {
 
@@ -53,7 +54,7 @@ void SailDeskQt::Wanted(bool wanted) {
     return;
   }
   if (const auto why = m_run.Begin()) {
-    SayWhy("No course to sail: " + std::string(CourseEndText(*why)));
+    SayWhy(Filled(Tr("No course to sail: %1"), {Tr(CourseEndText(*why))}));
   }
 }
 
@@ -69,7 +70,7 @@ void SailDeskQt::Ended(CourseEnd why) {
     Show();
     return;
   }
-  SayWhy("Sail the Course ended: " + std::string(CourseEndText(why)));
+  SayWhy(Filled(Tr("Sail the Course ended: %1"), {Tr(CourseEndText(why))}));
   m_parts.Sound();
 }
 

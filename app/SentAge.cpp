@@ -1,5 +1,7 @@
 #include "app/SentAge.h"
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 namespace {
@@ -27,9 +29,9 @@ std::optional<std::int64_t> SentAge::Seconds() const {
 std::string SentAge::Text() const {
   const auto seconds = Seconds();
   if (!seconds) {
-    return "nothing sent";
+    return Tr("nothing sent");
   }
-  return *seconds == 0 ? "sent now" : "sent " + std::to_string(*seconds) + " s ago";
+  return *seconds == 0 ? Tr("sent now") : Filled(Tr("sent %1 s ago"), {std::to_string(*seconds)});
 }
 
 bool SentAge::Late() const { return Seconds().value_or(kLate) >= kLate; }

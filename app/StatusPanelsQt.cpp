@@ -4,13 +4,16 @@
 #include <vector>
 
 #include "app/PanelLayout.h"
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
 namespace {
 
 constexpr int kMargin = 10;  // [px]
-constexpr std::array<const char*, 3> kToolTips{"Pilot Status", "Input Data Status", "Output Data Status"};
+constexpr std::array<const char*, 3> kToolTips{TrMark("Pilot Status"), TrMark("Input Data Status"),
+                                               TrMark("Output Data Status")};
 /// The reasons on the pilot's panel are the longest texts.
 constexpr std::array<double, 3> kShares{5.0, 3.0, 3.0};
 
@@ -22,8 +25,8 @@ StatusPanelsQt::StatusPanelsQt(QWidget* parent) : QWidget(parent) {
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   for (std::size_t i = 0; i < m_panels.size(); ++i) {
     m_panels[i] = new CaptionQt(QStringLiteral("StatusBar(%1)").arg(i + 1), QString(), this);
-    m_panels[i]->setToolTip(QLatin1String(kToolTips[i]));
-    m_panels[i]->setAccessibleName(QLatin1String(kToolTips[i]));
+    m_panels[i]->setToolTip(TrQ(kToolTips[i]));
+    m_panels[i]->setAccessibleName(TrQ(kToolTips[i]));
     m_panels[i]->setContentsMargins(kMargin, 3, kMargin, 4);
   }
   // A cut text of the output keeps the figure of the alarm, which is its end.
@@ -50,7 +53,7 @@ void StatusPanelsQt::LeadsTo(int index, const QString& endpoints) {
 }
 
 void StatusPanelsQt::ShowToolTip(std::size_t panel) {
-  QString toolTip = QLatin1String(kToolTips[panel]);
+  QString toolTip = TrQ(kToolTips[panel]);
   for (const QString& line : {m_endpoints[panel], m_reasons[panel]}) {
     if (!line.isEmpty()) {
       toolTip += QLatin1Char('\n') + line;

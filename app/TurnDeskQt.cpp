@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "app/IconsQt.h"
+#include "platform/Language.h"
 
 namespace veerwatch {
 
@@ -49,8 +50,8 @@ TurnPlan TurnDeskQt::KeyPlan(ManoeuvreKind kind) {
 void TurnDeskQt::KeyBegin(ManoeuvreKind kind, const std::string& asked) {
   const HelmNow now = m_parts.Main.Now();
   if (now.Mode != TrackMode::Track) {
-    m_parts.Say(now.Hand == PilotHand::Turn ? "No turn: one runs, Escape stops it"
-                                            : "No turn: Ctrl+T and Ctrl+J turn in Track");
+    m_parts.Say(now.Hand == PilotHand::Turn ? Tr("No turn: one runs, Escape stops it")
+                                            : Tr("No turn: Ctrl+T and Ctrl+J turn in Track"));
     return;
   }
   const TurnPlan plan = KeyPlan(kind);
@@ -78,7 +79,7 @@ TurnPlan TurnDeskQt::Plan(const TurnAsk& ask, TackAngle angle, const HelmNow& no
   }
   TurnPlan plan = PlanTurn(whole, now);
   if (best && !whole.Aim && plan.Refusal.empty()) {
-    plan.Refusal = "No turn: the polar has no best angle";
+    plan.Refusal = Tr("No turn: the polar has no best angle");
   }
   return plan;
 }
@@ -103,7 +104,7 @@ bool TurnDeskQt::Stop() {
   }
   if (m_parts.Run.Running()) {
     m_parts.Run.Stop();
-    m_parts.Say("Turn stopped");
+    m_parts.Say(Tr("Turn stopped"));
   }
   return true;
 }

@@ -6,6 +6,9 @@
 #include <QPushButton>
 #include <utility>
 
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
+
 namespace veerwatch {
 
 void WindLimitsQt::Open(const WindLimits& present, QWidget& window, Answer answer) {
@@ -17,23 +20,21 @@ void WindLimitsQt::Open(const WindLimits& present, QWidget& window, Answer answe
 
 WindLimitsQt::WindLimitsQt(const WindLimits& present, QWidget& window)
     : QDialog(&window),
-      txtLeastApparent(Box("txtLeastApparent", present.LeastApparent, 10.0, 60.0, " deg")),
-      txtLargestTrue(Box("txtLargestTrue", present.LargestTrue, 120.0, 179.0, " deg")),
-      txtShiftLimit(Box("txtShiftLimit", present.ShiftLimit, 5.0, 90.0, " deg")),
+      txtLeastApparent(Box("txtLeastApparent", present.LeastApparent, 10.0, 60.0, TrMark(" deg"))),
+      txtLargestTrue(Box("txtLargestTrue", present.LargestTrue, 120.0, 179.0, TrMark(" deg"))),
+      txtShiftLimit(Box("txtShiftLimit", present.ShiftLimit, 5.0, 90.0, TrMark(" deg"))),
       txtShiftTime(Box("txtShiftTime", present.ShiftTime, 5.0, 600.0, " s")) {
   setObjectName(QStringLiteral("dlgWindLimits"));
-  setWindowTitle(QStringLiteral("Veerwatch - Wind Limits"));
+  setWindowTitle(TrQ("Veerwatch - Wind Limits"));
   setAttribute(Qt::WA_DeleteOnClose);
   auto* rows = new QFormLayout(this);
-  const auto row = [&](const char* caption, QDoubleSpinBox* box) {
-    rows->addRow(QString::fromLatin1(caption), box);
-  };
-  rows->addRow(new QLabel(QStringLiteral("Angle Guard"), this));
-  row("&Least apparent angle:", txtLeastApparent);
-  row("Largest &true angle:", txtLargestTrue);
-  rows->addRow(new QLabel(QStringLiteral("Shift Alarm"), this));
-  row("A &shift of more than:", txtShiftLimit);
-  row("that l&asts for:", txtShiftTime);
+  const auto row = [&](const char* caption, QDoubleSpinBox* box) { rows->addRow(TrQ(caption), box); };
+  rows->addRow(new QLabel(TrQ("Angle Guard"), this));
+  row(TrMark("&Least apparent angle:"), txtLeastApparent);
+  row(TrMark("Largest &true angle:"), txtLargestTrue);
+  rows->addRow(new QLabel(TrQ("Shift Alarm"), this));
+  row(TrMark("A &shift of more than:"), txtShiftLimit);
+  row(TrMark("that l&asts for:"), txtShiftTime);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
   buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdWindLimitsOk"));
   buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdWindLimitsCancel"));
@@ -48,9 +49,9 @@ QDoubleSpinBox* WindLimitsQt::Box(const char* name, float value, double least, d
   box->setObjectName(QLatin1String(name));
   box->setDecimals(0);
   box->setRange(least, most);
-  box->setSuffix(QLatin1String(unit));
+  box->setSuffix(TrQ(unit));
   box->setValue(static_cast<double>(value));
-  box->setToolTip(QStringLiteral("%1 to %2%3").arg(least).arg(most).arg(QLatin1String(unit)));
+  box->setToolTip(TrQ("%1 to %2%3").arg(least).arg(most).arg(TrQ(unit)));
   return box;
 }
 

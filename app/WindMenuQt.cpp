@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/WindLimitsQt.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -83,15 +84,18 @@ std::string WindMenuQt::TextOf(WindSays what) const {
   const PolarAngle& polar = m_helm.Functions().PolarNow();
   switch (what) {
     case WindSays::GuardHolds:
-      return "Angle Guard: holds " + Whole(static_cast<double>(apparent ? m_settings.m_fWindLeastApparent
-                                                                        : m_settings.m_fWindLargestTrue));
+      return Filled(Tr("Angle Guard: holds %1"),
+                    {Whole(static_cast<double>(apparent ? m_settings.m_fWindLeastApparent
+                                                        : m_settings.m_fWindLargestTrue))});
     case WindSays::PolarEdge:
-      return "Polar Angle: the best angle is the last one of the polar's table";
+      return Tr("Polar Angle: the best angle is the last one of the polar's table");
     case WindSays::PolarNone:
-      return std::string("Polar Angle Off: no best angle to ") + (polar.Upwind() ? "windward" : "leeward") +
-             " in " + Whole(polar.WindSpeed()) + " kn; is a polar open?";
+      return Filled(polar.Upwind()
+                        ? Tr("Polar Angle Off: no best angle to windward in %1 kn; is a polar open?")
+                        : Tr("Polar Angle Off: no best angle to leeward in %1 kn; is a polar open?"),
+                    {Whole(polar.WindSpeed())});
     case WindSays::PolarByHand:
-      return "Polar Angle Off: another angle was set";
+      return Tr("Polar Angle Off: another angle was set");
   }
   return {};
 }

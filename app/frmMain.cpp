@@ -177,12 +177,12 @@ void frmMain::ProfileRecall(bool recall) {
   if (recall) {
     if (m_parts.Store.Load(m_sProfileFile) == Profile::LoadResult::Unreadable) {
       const std::string kind(OtherKind(m_sProfileFile));
-      const std::string text =
-          m_sProfileFile + " cannot be read" +
-          (kind.empty() ? ": defaults are used; at the close it is put aside, not overwritten"
-                        : ", " + kind + ": defaults are used, and nothing is saved");
-      std::fprintf(stderr, "%s\n", VisibleText(text).c_str());
-      NoticeSet(AlarmKind::Profile, text);
+      const char* text =
+          kind.empty()
+              ? TrMark("%1 cannot be read: defaults are used; at the close it is put aside, not overwritten")
+              : TrMark("%1 cannot be read, %2: defaults are used, and nothing is saved");
+      std::fprintf(stderr, "%s\n", VisibleText(Filled(text, {m_sProfileFile, kind})).c_str());
+      NoticeSet(AlarmKind::Profile, Filled(Tr(text), {m_sProfileFile, Tr(kind)}));
     }
     m_named = PortEntries(m_parts.Store);
     ProfileRead(m_parts.Store, *this, m_others);

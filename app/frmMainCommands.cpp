@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "app/IconsQt.h"
+#include "platform/Language.h"
 #include "platform/LanguageQt.h"
 
 namespace veerwatch {
@@ -25,11 +26,13 @@ struct ModeButton {
 };
 
 constexpr std::array<ModeButton, 4> kModes{{
-    {TrackMode::Off, "Off", "off", "Off, Stop input and autopilot output", Qt::Key_F5},
-    {TrackMode::Setup, "Setup", "setup", "Setup, Set software to hardware autopilot heading", Qt::Key_F6},
-    {TrackMode::Manual, "Manual", "manual", "Manual, adjust autopilot heading for desired wind angle",
-     Qt::Key_F7},
-    {TrackMode::Track, "Track", "track", "Track, adjust desired wind angle to fine tuning", Qt::Key_F8},
+    {TrackMode::Off, TrMark("Off"), "off", TrMark("Off, Stop input and autopilot output"), Qt::Key_F5},
+    {TrackMode::Setup, TrMark("Setup"), "setup", TrMark("Setup, Set software to hardware autopilot heading"),
+     Qt::Key_F6},
+    {TrackMode::Manual, TrMark("Manual"), "manual",
+     TrMark("Manual, adjust autopilot heading for desired wind angle"), Qt::Key_F7},
+    {TrackMode::Track, TrMark("Track"), "track", TrMark("Track, adjust desired wind angle to fine tuning"),
+     Qt::Key_F8},
 }};
 
 // Height of the mode texts [px] at the window's design size, and at the least.
@@ -38,7 +41,7 @@ constexpr int kLeastTextHeight = 9;
 
 /// A new command in `menu`.
 QAction* Command(QMainWindow& window, QMenu* menu, const char* name, const char* text) {
-  auto* action = new QAction(QLatin1String(text), &window);
+  auto* action = new QAction(TrQ(text), &window);
   action->setObjectName(QLatin1String(name));
   menu->addAction(action);
   return action;
@@ -48,75 +51,75 @@ QAction* Command(QMainWindow& window, QMenu* menu, const char* name, const char*
 QAction* Tick(QMainWindow& window, QMenu* menu, const char* name, const char* text, const char* toolTip) {
   QAction* action = Command(window, menu, name, text);
   action->setCheckable(true);
-  action->setToolTip(QLatin1String(toolTip));
+  action->setToolTip(TrQ(toolTip));
   return action;
 }
 
 }  // namespace
 
 frmMainMenu::frmMainMenu(QMainWindow& window) {
-  QMenu* file = window.menuBar()->addMenu(QStringLiteral("&File"));
-  mnuFileDefault = Command(window, file, "mnuFileDefault", "&Default");
-  mnuFileRecord = Command(window, file, "mnuFileRecord", "&Record Input...");
+  QMenu* file = window.menuBar()->addMenu(TrQ("&File"));
+  mnuFileDefault = Command(window, file, "mnuFileDefault", TrMark("&Default"));
+  mnuFileRecord = Command(window, file, "mnuFileRecord", TrMark("&Record Input..."));
   mnuFileRecord->setCheckable(true);
   mnuFileProfiles = file->addMenu(TrQ("&Profiles"));
   mnuFileProfiles->setObjectName(QStringLiteral("mnuFileProfiles"));
   file->addSeparator();
-  mnuFileExit = Command(window, file, "mnuFileExit", "E&xit");
+  mnuFileExit = Command(window, file, "mnuFileExit", TrMark("E&xit"));
   mnuFileExit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
   mnuFileExit->setMenuRole(QAction::QuitRole);
-  QMenu* view = window.menuBar()->addMenu(QStringLiteral("&View"));
-  mnuViewDiagram = Command(window, view, "mnuViewDiagram", "&Block Diagram...");
+  QMenu* view = window.menuBar()->addMenu(TrQ("&View"));
+  mnuViewDiagram = Command(window, view, "mnuViewDiagram", TrMark("&Block Diagram..."));
   mnuViewDiagram->setCheckable(true);
-  mnuViewHistory = Command(window, view, "mnuViewHistory", "&History Plot...");
+  mnuViewHistory = Command(window, view, "mnuViewHistory", TrMark("&History Plot..."));
   mnuViewHistory->setCheckable(true);
-  mnuViewPolar = Command(window, view, "mnuViewPolar", "&Polar Plot...");
+  mnuViewPolar = Command(window, view, "mnuViewPolar", TrMark("&Polar Plot..."));
   mnuViewPolar->setCheckable(true);
   view->addSeparator();
-  mnuViewAlarms = Command(window, view, "mnuViewAlarms", "&Alarms...");
-  mnuViewMute = Command(window, view, "mnuViewMute", "&Mute Alarms for Ten Minutes");
+  mnuViewAlarms = Command(window, view, "mnuViewAlarms", TrMark("&Alarms..."));
+  mnuViewMute = Command(window, view, "mnuViewMute", TrMark("&Mute Alarms for Ten Minutes"));
   mnuViewMute->setCheckable(true);
   view->addSeparator();
-  mnuViewNight = Command(window, view, "mnuViewNight", "&Night Colours");
+  mnuViewNight = Command(window, view, "mnuViewNight", TrMark("&Night Colours"));
   mnuViewNight->setCheckable(true);
   mnuViewNight->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_N));
-  mnuViewSave = Command(window, view, "mnuViewSave", "&Save While Running");
+  mnuViewSave = Command(window, view, "mnuViewSave", TrMark("&Save While Running"));
   mnuViewSave->setCheckable(true);
-  mnuViewSave->setToolTip(QStringLiteral("Settings are also saved ten seconds after a change"));
+  mnuViewSave->setToolTip(TrQ("Settings are also saved ten seconds after a change"));
   AddLanguage(window, view);
-  QMenu* options = window.menuBar()->addMenu(QStringLiteral("&Options"));
-  mnuOptionsInput = Command(window, options, "mnuOptionsInput", "&Input...");
-  mnuOptionsData = Command(window, options, "mnuOptionsData", "&Data...");
-  mnuOptionsOutput = Command(window, options, "mnuOptionsOutput", "&Output...");
-  mnuOptionsTrack = Command(window, options, "mnuOptionsTrack", "&Tracking...");
-  mnuOptionsSimulate = Command(window, options, "mnuOptionsSimulate", "&Simulate...");
-  mnuOptionsWatch = Command(window, options, "mnuOptionsWatch", "&Watch...");
+  QMenu* options = window.menuBar()->addMenu(TrQ("&Options"));
+  mnuOptionsInput = Command(window, options, "mnuOptionsInput", TrMark("&Input..."));
+  mnuOptionsData = Command(window, options, "mnuOptionsData", TrMark("&Data..."));
+  mnuOptionsOutput = Command(window, options, "mnuOptionsOutput", TrMark("&Output..."));
+  mnuOptionsTrack = Command(window, options, "mnuOptionsTrack", TrMark("&Tracking..."));
+  mnuOptionsSimulate = Command(window, options, "mnuOptionsSimulate", TrMark("&Simulate..."));
+  mnuOptionsWatch = Command(window, options, "mnuOptionsWatch", TrMark("&Watch..."));
   options->addSeparator();
   AddWind(window, options);
   options->addSeparator();
-  mnuOptionsRecommended = Command(window, options, "mnuOptionsRecommended", "&Recommended...");
+  mnuOptionsRecommended = Command(window, options, "mnuOptionsRecommended", TrMark("&Recommended..."));
   AddTurns(window);
-  QMenu* help = window.menuBar()->addMenu(QStringLiteral("&Help"));
-  mnuHelpManual = Command(window, help, "mnuHelpManual", "&Manual");
-  mnuHelpManual->setShortcut(QKeySequence(Qt::Key_F1));
-  // In whichever window of the program.
-  mnuHelpManual->setShortcutContext(Qt::ApplicationShortcut);
+  QMenu* help = window.menuBar()->addMenu(TrQ("&Help"));
+  mnuHelpHere = Command(window, help, "mnuHelpHere", TrMark("On This &Window"));
+  // Shown in the menu; HelpKeyQt hears it in every window.
+  mnuHelpHere->setShortcut(QKeySequence(Qt::Key_F1));
+  mnuHelpManual = Command(window, help, "mnuHelpManual", TrMark("&Manual"));
   help->addSeparator();
-  mnuHelpConnect = Command(window, help, "mnuHelpConnect", "&Connect Your Boat...");
-  mnuHelpDiagram = Command(window, help, "mnuHelpDiagram", "&Block Diagram...");
+  mnuHelpConnect = Command(window, help, "mnuHelpConnect", TrMark("&Connect Your Boat..."));
+  mnuHelpDiagram = Command(window, help, "mnuHelpDiagram", TrMark("&Block Diagram..."));
   mnuHelpReport = help->addAction(TrQ("Save &Report..."));
   mnuHelpReport->setObjectName(QStringLiteral("mnuHelpReport"));
-  mnuHelpAbout = Command(window, help, "mnuHelpAbout", "&About...");
+  mnuHelpAbout = Command(window, help, "mnuHelpAbout", TrMark("&About..."));
 }
 
 void frmMainMenu::AddTurns(QMainWindow& window) {
-  QMenu* turn = window.menuBar()->addMenu(QStringLiteral("&Turn"));
+  QMenu* turn = window.menuBar()->addMenu(TrQ("&Turn"));
   turn->setToolTipsVisible(true);
-  mnuTurnTack = Command(window, turn, "mnuTurnTack", "&Tack");
-  mnuTurnTack->setToolTip(QStringLiteral("In Track: through the wind, and track the other tack"));
+  mnuTurnTack = Command(window, turn, "mnuTurnTack", TrMark("&Tack"));
+  mnuTurnTack->setToolTip(TrQ("In Track: through the wind, and track the other tack"));
   mnuTurnTack->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
-  mnuTurnJibe = Command(window, turn, "mnuTurnJibe", "&Jibe");
-  mnuTurnJibe->setToolTip(QStringLiteral("In Track: the stern through the wind, and track the other tack"));
+  mnuTurnJibe = Command(window, turn, "mnuTurnJibe", TrMark("&Jibe"));
+  mnuTurnJibe->setToolTip(TrQ("In Track: the stern through the wind, and track the other tack"));
   mnuTurnJibe->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_J));
   for (QAction* action : {mnuTurnTack, mnuTurnJibe}) {
     // In whichever window of the program.
@@ -125,8 +128,8 @@ void frmMainMenu::AddTurns(QMainWindow& window) {
   }
   turn->addSeparator();
   // The key is shown only: it ends a turn wherever the keyboard is.
-  mnuTurnStop = Command(window, turn, "mnuTurnStop", "&Stop\tEsc");
-  mnuTurnStop->setToolTip(QStringLiteral("End the turn here and leave the pilot where it is"));
+  mnuTurnStop = Command(window, turn, "mnuTurnStop", TrMark("&Stop\tEsc"));
+  mnuTurnStop->setToolTip(TrQ("End the turn here and leave the pilot where it is"));
 }
 
 void frmMainMenu::AddLanguage(QMainWindow& window, QMenu* view) {
@@ -155,28 +158,28 @@ void frmMainMenu::TickLanguage(WindowLanguage language) const {
 }
 
 void frmMainMenu::AddWind(QMainWindow& window, QMenu* options) {
-  QMenu* wind = options->addMenu(QStringLiteral("Wi&nd"));
+  QMenu* wind = options->addMenu(TrQ("Wi&nd"));
   wind->setToolTipsVisible(true);
-  mnuWindGuard = Tick(window, wind, "mnuWindGuard", "Angle &Guard",
-                      "Track keeps the boat from pinching and from an accidental gybe");
-  mnuWindShift = Tick(window, wind, "mnuWindShift", "&Shift Alarm",
-                      "A lasting shift of the true wind since the angle was set is told");
-  mnuWindSide =
-      Tick(window, wind, "mnuWindSide", "Apparent &Upwind, True Downwind",
-           "Track holds the apparent wind below 70 degrees of true wind angle and the true one beyond 80");
-  mnuWindPolar = Tick(window, wind, "mnuWindPolar", "&Polar Angle",
-                      "Track holds the best angle of the opened polar, to windward or to leeward");
-  mnuWindDodge = Tick(window, wind, "mnuWindDodge", "&Dodge Keys",
-                      "Ctrl+Left and Ctrl+Right steer off by 10 degrees in Track, Ctrl+Up back");
+  mnuWindGuard = Tick(window, wind, "mnuWindGuard", TrMark("Angle &Guard"),
+                      TrMark("Track keeps the boat from pinching and from an accidental gybe"));
+  mnuWindShift = Tick(window, wind, "mnuWindShift", TrMark("&Shift Alarm"),
+                      TrMark("A lasting shift of the true wind since the angle was set is told"));
+  mnuWindSide = Tick(
+      window, wind, "mnuWindSide", TrMark("Apparent &Upwind, True Downwind"),
+      TrMark("Track holds the apparent wind below 70 degrees of true wind angle and the true one beyond 80"));
+  mnuWindPolar = Tick(window, wind, "mnuWindPolar", TrMark("&Polar Angle"),
+                      TrMark("Track holds the best angle of the opened polar, to windward or to leeward"));
+  mnuWindDodge = Tick(window, wind, "mnuWindDodge", TrMark("&Dodge Keys"),
+                      TrMark("Ctrl+Left and Ctrl+Right steer off by 10 degrees in Track, Ctrl+Up back"));
   wind->addSeparator();
-  mnuWindLast = Command(window, wind, "mnuWindLast", "&Last Angle");
-  mnuWindLast->setToolTip(QStringLiteral("The angle before the latest change of more than 10 degrees"));
-  mnuWindLimits = Command(window, wind, "mnuWindLimits", "Li&mits...");
+  mnuWindLast = Command(window, wind, "mnuWindLast", TrMark("&Last Angle"));
+  mnuWindLast->setToolTip(TrQ("The angle before the latest change of more than 10 degrees"));
+  mnuWindLimits = Command(window, wind, "mnuWindLimits", TrMark("Li&mits..."));
 }
 
 frmMainModeBar::frmMainModeBar(QMainWindow& window) : QToolBar(&window), m_theme(window.palette()) {
   setObjectName(QStringLiteral("tbrTrack"));
-  setWindowTitle(QStringLiteral("Tracking Mode"));
+  setWindowTitle(TrQ("Tracking Mode"));
   setMovable(false);
   setContextMenuPolicy(Qt::PreventContextMenu);
   setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
@@ -185,10 +188,10 @@ frmMainModeBar::frmMainModeBar(QMainWindow& window) : QToolBar(&window), m_theme
     if (!m_buttons.empty()) {
       addSeparator();
     }
-    QAction* action = addAction(QLatin1String(mode.Text));
+    QAction* action = addAction(TrQ(mode.Text));
     action->setObjectName(QStringLiteral("tbrTrack(%1)").arg(static_cast<int>(mode.Mode)));
-    action->setToolTip(QLatin1String(mode.ToolTip));
-    action->setData(QLatin1String(mode.Text));
+    action->setToolTip(TrQ(mode.ToolTip));
+    action->setData(TrQ(mode.Text));
     action->setShortcut(QKeySequence(mode.Key));
     action->setAutoRepeat(false);
     action->setCheckable(true);

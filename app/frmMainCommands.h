@@ -45,6 +45,7 @@ struct frmMainMenu {
   QAction* mnuTurnTack;
   QAction* mnuTurnJibe;
   QAction* mnuTurnStop;
+  QAction* mnuHelpHere;
   QAction* mnuHelpManual;
   QAction* mnuHelpConnect;
   QAction* mnuHelpDiagram;

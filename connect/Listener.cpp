@@ -85,11 +85,12 @@ std::string Listener::Silence() const {
                               : TrMark("nothing comes, at no rate"));
   }
   const std::string trouble = Without(m_port->Trouble(), m_place + ": ");
-  const std::string why = trouble.substr(0, trouble.find(", next try"));
+  const std::string next = Tr(", next try in %1 s");
+  const std::string why = trouble.substr(0, trouble.find(next.substr(0, next.find("%1"))));
   if (why.empty()) {
     return Tr("nothing comes");
   }
-  return why == "connecting" || why == "no answer" ? Tr("the host does not answer") : why;
+  return why == Tr("connecting") || why == Tr("no answer") ? Tr("the host does not answer") : why;
 }
 
 void Listener::End(std::string why) {

@@ -1,21 +1,23 @@
 #include "control/Supervisor.h"
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 std::string_view TurnFateText(TurnFate fate) {
   switch (fate) {
     case TurnFate::InputStopped:
-      return "Input Stopped";
+      return TrMark("Input Stopped");
     case TurnFate::NoInputData:
-      return "No Input Data";
+      return TrMark("No Input Data");
     case TurnFate::NoWind:
-      return "No Wind";
+      return TrMark("No Wind");
     case TurnFate::NoHeading:
-      return "No Heading";
+      return TrMark("No Heading");
     case TurnFate::NoOutput:
-      return "No Output";
+      return TrMark("No Output");
     case TurnFate::Stuck:
-      return "Boat does not turn";
+      return TrMark("Boat does not turn");
     case TurnFate::GoesOn:
     case TurnFate::Taken:
       break;

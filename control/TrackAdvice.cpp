@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "platform/Angles.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -40,30 +41,31 @@ TrackSuggestion TrackSuggestionFor(const TrackConditions& conditions) {
   if (!conditions.Heading) {
     const std::string seconds = bandwidth(TrackMethod::Sentence, std::round(kCalmBandwidth * rate));
     suggestion.WindAverage = ToSingle(CountFor(rate));
-    suggestion.Reason = "Without a heading only Sentence steers: " + seconds + " for " +
-                        WindsASecondText(conditions.WindsASecond) + ".";
+    suggestion.Reason = Filled(Tr("Without a heading only Sentence steers: %1 for %2."),
+                               {seconds, WindsASecondText(conditions.WindsASecond)});
   } else if (!conditions.BoatSpeed) {
     const std::string seconds = bandwidth(TrackMethod::Clock, kCalmBandwidth);
-    suggestion.Reason =
-        "Without a boat speed Direction does not know the apparent wind: Clock with " + seconds + ".";
+    suggestion.Reason = Filled(
+        Tr("Without a boat speed Direction does not know the apparent wind: Clock with %1."), {seconds});
   } else if (conditions.Lag <= kSlow) {
     const std::string seconds = bandwidth(TrackMethod::Direction, kCalmBandwidth);
-    suggestion.Reason = "Direction holds at " + WindsASecondText(conditions.WindsASecond) +
-                        " without tuning; " + seconds + " keep the rudder calm on a boat that answers in " +
-                        Text(conditions.Lag) + " s.";
+    suggestion.Reason = Filled(
+        Tr("Direction holds at %1 without tuning; %2 keep the rudder calm on a boat that answers in %3 s."),
+        {WindsASecondText(conditions.WindsASecond), seconds, Text(conditions.Lag)});
   } else {
     const std::string seconds = bandwidth(TrackMethod::Direction, kSlowBandwidth);
-    suggestion.Reason = "Direction holds at " + WindsASecondText(conditions.WindsASecond) +
-                        " without tuning; " + seconds +
-                        " follow closely and cost little rudder on a boat that takes " +
-                        Text(conditions.Lag) + " s to answer.";
+    suggestion.Reason = Filled(
+        Tr("Direction holds at %1 without tuning; %2 follow closely and cost little rudder on a boat that "
+           "takes %3 s to answer."),
+        {WindsASecondText(conditions.WindsASecond), seconds, Text(conditions.Lag)});
   }
   return suggestion;
 }
 
 std::string WindsASecondText(double rate) {
   const double told = Told(rate);
-  return Text(told) + (told == 1.0 ? " wind sentence a second" : " wind sentences a second");
+  return Filled(told == 1.0 ? Tr("%1 wind sentence a second") : Tr("%1 wind sentences a second"),
+                {Text(told)});
 }
 
 bool TrackSwings(TrackMethod method, double bandwidth, const std::optional<double>& rate) {
@@ -73,7 +75,7 @@ bool TrackSwings(TrackMethod method, double bandwidth, const std::optional<doubl
 
 std::string TrackSwingsText(TrackMethod method, double bandwidth, const std::optional<double>& rate) {
   return TrackSwings(method, bandwidth, rate)
-             ? WindsASecondText(*rate) + ": this bandwidth swings; choose Clock"
+             ? Filled(Tr("%1: this bandwidth swings; choose Clock"), {WindsASecondText(*rate)})
              : std::string();
 }
 

@@ -1,13 +1,15 @@
 #include "control/TrackModes.h"
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 std::string_view TrackRefusalText(TrackRefusal why) {
   switch (why) {
     case TrackRefusal::NoGains:
-      return "Track needs a bandwidth above 0 and a usable damping";
+      return TrMark("Track needs a bandwidth above 0 and a usable damping");
     case TrackRefusal::NoHeading:
-      return "Track Needs a Heading";
+      return TrMark("Track Needs a Heading");
   }
   return {};
 }

@@ -1,5 +1,7 @@
 #include "diagram/BlockDiagram.h"
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 namespace {
@@ -23,19 +25,20 @@ BlockDiagram BlockDiagramMade() {
   diagram.Height = 392;
   diagram.TextSize = 23;
   diagram.Computer = {300, 20, 596, 352};
-  diagram.Buttons = {{"cmdInput", "Input", "NMEA 0183 Data", input},
-                     {"cmdOutput", "Output", "Output Options", output},
-                     {"cmdControl", "Control Loop", "Apparent or True Angle Tracking Options", control},
-                     {"cmdPolar", "Polar Plot", "Performance Polar Plot", polar},
-                     {"cmdHistory", "History Plot", "Strip Chart Recorder", history}};
+  diagram.Buttons = {
+      {"cmdInput", TrMark("Input"), TrMark("NMEA 0183 Data"), input},
+      {"cmdOutput", TrMark("Output"), TrMark("Output Options"), output},
+      {"cmdControl", TrMark("Control Loop"), TrMark("Apparent or True Angle Tracking Options"), control},
+      {"cmdPolar", TrMark("Polar Plot"), TrMark("Performance Polar Plot"), polar},
+      {"cmdHistory", TrMark("History Plot"), TrMark("Strip Chart Recorder"), history}};
   // Deliberate: "Stanard".
-  diagram.Labels = {{"lblWind", "Wind", wind, true},
-                    {"lblSpeed", "Speed", speed, true},
+  diagram.Labels = {{"lblWind", TrMark("Wind"), wind, true},
+                    {"lblSpeed", TrMark("Speed"), speed, true},
                     {"lblNmea(1)", "NMEA 0183", {154, 132, 142, 36}, false},
                     {"lblNmea(2)", "NMEA 0183", {900, 132, 142, 36}, false},
-                    {"lblComputer", "Computer", {320, 32, 556, 40}, false},
-                    {"lblAutopilot", "Autopilot", autopilot, true},
-                    {"lblAutopilotNote", "Stanard Autopilot", {1026, 222, 210, 36}, false}};
+                    {"lblComputer", TrMark("Computer"), {320, 32, 556, 40}, false},
+                    {"lblAutopilot", TrMark("Autopilot"), autopilot, true},
+                    {"lblAutopilotNote", TrMark("Stanard Autopilot"), {1026, 222, 210, 36}, false}};
   diagram.States = {{"lblInputState", {}, {304, 88, 186, 36}, false},
                     {"lblControlState", {}, {508, 88, 180, 36}, false},
                     {"lblOutputState", {}, {706, 88, 186, 36}, false}};

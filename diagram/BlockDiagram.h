@@ -19,14 +19,14 @@ namespace veerwatch {
 /// A text in the middle of its area, or the box of a device with its name in it.
 struct BlockLabel {
   std::string_view Name;  ///< of the control
-  std::string_view Text;
+  std::string_view Text;  ///< English, for Tr
   Box Area;
   bool Framed = false;  ///< a device: a box around the text
 };
 
 struct BlockButton {
   std::string_view Name;
-  std::string_view Caption;
+  std::string_view Caption;  ///< English, for Tr, as the tip
   std::string_view ToolTip;
   Box Area;
 };

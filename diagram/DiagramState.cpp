@@ -1,11 +1,13 @@
 #include "diagram/DiagramState.h"
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 namespace {
 
-constexpr DiagramBoxState kSimulate{DiagramLight::Ready, "Simulate"};
-constexpr DiagramBoxState kNotOpen{DiagramLight::Trouble, "Not Open"};
+constexpr DiagramBoxState kSimulate{DiagramLight::Ready, TrMark("Simulate")};
+constexpr DiagramBoxState kNotOpen{DiagramLight::Trouble, TrMark("Not Open")};
 
 DiagramBoxState InputOf(const DiagramSystem& system) {
   switch (system.Input) {
@@ -26,37 +28,37 @@ DiagramBoxState InputOf(const DiagramSystem& system) {
 
 DiagramBoxState TrackOf(const DiagramSystem& system) {
   if (system.Sails) {
-    return {DiagramLight::Good, "Track, Course"};
+    return {DiagramLight::Good, TrMark("Track, Course")};
   }
-  return {DiagramLight::Good, system.WindFunctions ? "Track, Wind" : "Track"};
+  return {DiagramLight::Good, system.WindFunctions ? TrMark("Track, Wind") : TrMark("Track")};
 }
 
 DiagramBoxState ControlOf(const DiagramSystem& system) {
   if (system.Turns) {
-    return {DiagramLight::Good, "Turn"};
+    return {DiagramLight::Good, TrMark("Turn")};
   }
   switch (system.Mode) {
     case TrackMode::Setup:
-      return {DiagramLight::Ready, "Setup"};
+      return {DiagramLight::Ready, TrMark("Setup")};
     case TrackMode::Manual:
-      return {DiagramLight::ByHand, "Manual"};
+      return {DiagramLight::ByHand, TrMark("Manual")};
     case TrackMode::Track:
       return TrackOf(system);
     case TrackMode::Off:
     case TrackMode::Switching:
       break;
   }
-  return {DiagramLight::Off, "Off"};
+  return {DiagramLight::Off, TrMark("Off")};
 }
 
 DiagramBoxState OutputOf(const DiagramSystem& system) {
   if (system.Mode == TrackMode::Off || system.Mode == TrackMode::Switching) {
-    return {DiagramLight::Off, "Stopped"};
+    return {DiagramLight::Off, TrMark("Stopped")};
   }
   if (system.Simulate) {
     return kSimulate;
   }
-  return system.OutputOpen ? DiagramBoxState{DiagramLight::Good, "Open"} : kNotOpen;
+  return system.OutputOpen ? DiagramBoxState{DiagramLight::Good, TrMark("Open")} : kNotOpen;
 }
 
 }  // namespace

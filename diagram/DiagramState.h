@@ -18,7 +18,7 @@ enum class DiagramLight {
 
 struct DiagramBoxState {
   DiagramLight Light = DiagramLight::Off;
-  std::string_view Text;
+  std::string_view Text;  ///< English, for Tr
 
   bool operator==(const DiagramBoxState&) const = default;
 };

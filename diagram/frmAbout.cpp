@@ -9,6 +9,7 @@
 
 #include "diagram/AboutText.h"
 #include "platform/ColoursQt.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -45,13 +46,13 @@ frmAbout::frmAbout(std::string_view title, std::string_view version, const QIcon
 
   picIcon = new QLabel(this);
   picIcon->setObjectName(QStringLiteral("picIcon"));
-  picIcon->setAccessibleName(QStringLiteral("Icon of the program"));
+  picIcon->setAccessibleName(TrQ("Icon of the program"));
   ShowIcon();
   auto* lblTitle = Label("lblTitle", std::string(title), kTitleHeight, this);
   auto* line = new QFrame(this);
   line->setFrameShape(QFrame::HLine);
   line->setFrameShadow(QFrame::Sunken);
-  auto* cmdOk = new QPushButton(QStringLiteral("OK"), this);
+  auto* cmdOk = new QPushButton(TrQ("OK"), this);
   cmdOk->setObjectName(QStringLiteral("cmdOk"));
   cmdOk->setDefault(true);
   cmdOk->setMinimumSize(kButtonSize);

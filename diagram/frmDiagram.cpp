@@ -7,6 +7,7 @@
 
 #include "draw/DrawQt.h"
 #include "platform/ColoursQt.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -50,7 +51,7 @@ std::pair<QColor, QColor> Colours(DiagramLight light, const QPalette& palette) {
 
 frmDiagram::frmDiagram(DiagramObserver& tells) : m_tells(tells) {
   setObjectName(QStringLiteral("frmDiagram"));
-  setWindowTitle(QStringLiteral("Veerwatch - Block Diagram"));
+  setWindowTitle(TrQ("Veerwatch - Block Diagram"));
   setAttribute(Qt::WA_QuitOnClose, false);
   MakeControls();
   ConnectButtons();
@@ -64,7 +65,7 @@ frmDiagram::frmDiagram(DiagramObserver& tells) : m_tells(tells) {
 
 void frmDiagram::MakeControls() {
   const auto make = [this](const BlockLabel& label) {
-    auto* shown = new QLabel(ToQt(label.Text), this);
+    auto* shown = new QLabel(TrQ(label.Text), this);
     shown->setObjectName(ToQt(label.Name));
     shown->setTextFormat(Qt::PlainText);
     shown->setAlignment(Qt::AlignCenter);
@@ -73,9 +74,9 @@ void frmDiagram::MakeControls() {
   std::for_each(m_diagram.Labels.begin(), m_diagram.Labels.end(), make);
   std::for_each(m_diagram.States.begin(), m_diagram.States.end(), make);
   for (const BlockButton& button : m_diagram.Buttons) {
-    auto* shown = new QPushButton(ToQt(button.Caption), this);
+    auto* shown = new QPushButton(TrQ(button.Caption), this);
     shown->setObjectName(ToQt(button.Name));
-    shown->setToolTip(ToQt(button.ToolTip));
+    shown->setToolTip(TrQ(button.ToolTip));
     shown->setAutoDefault(true);
     m_placed.emplace_back(shown, button.Area);
   }
@@ -137,8 +138,8 @@ void frmDiagram::Light(QPushButton& button, QLabel* label, const DiagramBoxState
                      "QPushButton:focus{border:3px solid %3}")
           .arg(fill.name(), text.name(), Mixed(fill, focus, 0.6).name(), Mixed(fill, text, 0.25).name()));
   if (label != nullptr) {
-    label->setText(ToQt(state.Text));
-    button.setAccessibleDescription(ToQt(state.Text));
+    label->setText(TrQ(state.Text));
+    button.setAccessibleDescription(TrQ(state.Text));
   }
 }
 

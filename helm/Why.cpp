@@ -1,5 +1,6 @@
 #include "helm/Why.h"
 
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 #include "platform/VisibleText.h"
 
@@ -13,26 +14,26 @@ std::string Tenths(float number) { return FormatNumber(number, "0.0"); }
 std::string_view NameOf(TrackMethod method) {
   switch (method) {
     case TrackMethod::Clock:
-      return "Clock";
+      return TrMark("Clock");
     case TrackMethod::Direction:
-      return "Direction";
+      return TrMark("Direction");
     case TrackMethod::Sentence:
       break;
   }
-  return "Sentence";
+  return TrMark("Sentence");
 }
 
 std::string ValueOf(const InstrumentData& data, RecordValue value) {
   switch (value) {
     case RecordValue::WindApparent:
-      return "Apparent Wind " + Tenths(data.WindAngleApparent) + " deg " + Tenths(data.WindSpeedApparent) +
-             " kn";
+      return Filled(Tr("Apparent Wind %1 deg %2 kn"),
+                    {Tenths(data.WindAngleApparent), Tenths(data.WindSpeedApparent)});
     case RecordValue::WindTrue:
-      return "True Wind " + Tenths(data.WindAngleTrue) + " deg " + Tenths(data.WindSpeedTrue) + " kn";
+      return Filled(Tr("True Wind %1 deg %2 kn"), {Tenths(data.WindAngleTrue), Tenths(data.WindSpeedTrue)});
     case RecordValue::BoatSpeed:
-      return "Boat Speed " + Tenths(data.BoatSpeed) + " kn";
+      return Filled(Tr("Boat Speed %1 kn"), {Tenths(data.BoatSpeed)});
     default:
-      return "Heading " + Tenths(data.Heading) + " deg";
+      return Filled(Tr("Heading %1 deg"), {Tenths(data.Heading)});
   }
 }
 
@@ -48,19 +49,19 @@ std::string OriginText(const Origin& from, const Moment& at) {
 
 std::string LoopText(const Why& why) {
   const bool apparent = why.Side == TrackSide::Apparent;
-  std::string text(NameOf(why.Method));
-  text += std::string(": ") + (apparent ? "apparent " : "true ") +
-          Tenths(apparent ? why.Data.WindAngleApparent : why.Data.WindAngleTrue) + " held " +
-          Tenths(why.Desired) + ", error " + Tenths(why.Step.Error) + ", " + Tenths(why.Step.Seconds) +
-          " s, correction " + Tenths(why.Step.Correction);
+  std::string text = Filled(
+      apparent ? Tr("%1: apparent %2 held %3, error %4, %5 s, correction %6")
+               : Tr("%1: true %2 held %3, error %4, %5 s, correction %6"),
+      {Tr(NameOf(why.Method)), Tenths(apparent ? why.Data.WindAngleApparent : why.Data.WindAngleTrue),
+       Tenths(why.Desired), Tenths(why.Step.Error), Tenths(why.Step.Seconds), Tenths(why.Step.Correction)});
   if (why.Step.ByRate) {
-    text += ", limited by Max Rate";
+    text += Tr(", limited by Max Rate");
   }
   if (why.Step.ByAhead) {
-    text += ", limited by Max Ahead";
+    text += Tr(", limited by Max Ahead");
   }
   if (why.Step.ByGuard) {
-    text += ", limited by the angle guard";
+    text += Tr(", limited by the angle guard");
   }
   return text;
 }
@@ -69,10 +70,10 @@ std::string LoopText(const Why& why) {
 
 std::string WhyText(const Why& why) {
   if (!why.Sent) {
-    return "nothing was sent yet";
+    return Tr("nothing was sent yet");
   }
-  std::string text = Tenths(why.Bearing) + " by ";
-  text += why.Mode == TrackMode::Track ? LoopText(why) : "hand";
+  std::string text = Filled(Tr("%1 by %2"),
+                            {Tenths(why.Bearing), why.Mode == TrackMode::Track ? LoopText(why) : Tr("hand")});
   const char* separator = "; ";
   for (std::size_t i = 0; i < kWhyValues.size(); ++i) {
     if (const auto& from = why.From[i]) {

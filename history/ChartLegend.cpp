@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "history/TraceGroups.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -52,15 +53,16 @@ void TakeValue(const StripChartData& data, ChartLegendEntry& entry) {
   entry.Old = none || data.LastSlot() - newest.Slot >= kOldAfter;
   entry.Value.Text = none ? kNoValue : FormatNumber(newest.Value, "0.0");
   entry.Value.Align = PlacedText::Side::Right;
-  entry.Name.Text = trace.Name;
-  entry.Units.Text = trace.ShownUnits();
+  entry.Name.Text = Tr(trace.Name);
+  entry.Brief = Tr(ShortName(trace.Name));
+  entry.Units.Text = UnitsText(trace.ShownUnits());
 }
 
 /// Leaves units out for which there is no room.
 Columns Measured(double text, const TextMeasure& measure, std::vector<ChartLegendEntry>& legend) {
   const Box& first = legend.front().Cell;
   Columns columns{text, first.X + Swatch(text) + 0.5 * text, first.Right(), first.Height,
-                  measure.Width("Kts", kUnitsText * text)};
+                  measure.Width(UnitsText("Kts"), kUnitsText * text)};
   for (ChartLegendEntry& entry : legend) {
     columns.Cell = std::min(columns.Cell, entry.Cell.Height);
     const double units = measure.Width(entry.Units.Text, kUnitsText * text);
@@ -78,7 +80,7 @@ Columns Measured(double text, const TextMeasure& measure, std::vector<ChartLegen
 void PlaceInTwoLines(const Columns& columns, const TextMeasure& measure, ChartLegendEntry& entry) {
   const double top = entry.Cell.Y + 0.07 * entry.Cell.Height;
   if (measure.Width(entry.Name.Text, columns.Text) > columns.Width()) {
-    entry.Name.Text = ShortName(entry.Name.Text);
+    entry.Name.Text = entry.Brief;
   }
   entry.Name.Height = columns.Text;
   entry.Name.Place = {columns.Left, top, columns.Width(), kNameRow * columns.Text};
@@ -91,7 +93,7 @@ void PlaceInOneLine(const Columns& columns, double value, const TextMeasure& mea
                     ChartLegendEntry& entry) {
   const double room = std::max(columns.ValueRight - value - columns.Left, 0.0);
   if (measure.Width(entry.Name.Text, columns.Text) + kNameGap * columns.Text > room) {
-    entry.Name.Text = ShortName(entry.Name.Text);
+    entry.Name.Text = entry.Brief;
   }
   entry.Name.Height = std::min(columns.Text, 0.85 * columns.Cell);
   entry.Name.Place = {columns.Left, entry.Cell.Y, room, entry.Cell.Height};
@@ -101,7 +103,7 @@ void PlaceInOneLine(const Columns& columns, double value, const TextMeasure& mea
 }  // namespace
 
 double LegendLeastWidth(double text, const TextMeasure& measure) {
-  return measure.Width("AWA ", text) + measure.BoldWidth(kLongest, text) + 1.5 * text;
+  return measure.Width(Tr("AWA") + " ", text) + measure.BoldWidth(kLongest, text) + 1.5 * text;
 }
 
 void ComposeLegend(const StripChartData& data, double text, const TextMeasure& measure,
@@ -112,7 +114,7 @@ void ComposeLegend(const StripChartData& data, double text, const TextMeasure& m
   double brief = 0.0;
   for (ChartLegendEntry& entry : legend) {
     TakeValue(data, entry);
-    brief = std::max(brief, measure.Width(ShortName(entry.Name.Text), text));
+    brief = std::max(brief, measure.Width(entry.Brief, text));
   }
   Columns columns = Measured(text, measure, legend);
   const double longest = measure.BoldWidth(kLongest, 1.0);

@@ -2,6 +2,7 @@
 // and with their decimal points under each other.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "draw/Shapes.h"
@@ -16,7 +17,8 @@ struct ChartLegendEntry {
   Box Cell;
   Box Swatch;
   PlacedText Name;
-  PlacedText Value;  ///< drawn bold
+  std::string Brief;  ///< the name where there is little room
+  PlacedText Value;   ///< drawn bold
   PlacedText Units;
   bool Old = false;  ///< the value is no more of now
 };

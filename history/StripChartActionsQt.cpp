@@ -15,6 +15,8 @@
 #include "history/HistoryCsv.h"
 #include "history/StripChartQt.h"
 #include "platform/AtomicFile.h"
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -24,7 +26,6 @@ constexpr double kWheelNotch = 120.0;
 /// Part of the span that a notch of the wheel or an arrow key goes.
 constexpr double kScrollPart = 1.0 / 8.0;
 constexpr double kPictureScale = 2.0;
-const char* const kTitle = "Veerwatch - History";
 
 /// 0xRRGGBB and 0xBBGGRR into each other.
 constexpr std::uint32_t Turned(std::uint32_t colour) {
@@ -135,13 +136,12 @@ void StripChart::ConfigPopupShow(std::int16_t x, std::int16_t y, std::int16_t /*
 void StripChart::MakePopup() {
   std::vector<QString> traces;
   for (const StripChartData::Trace& trace : m_data.Traces()) {
-    traces.push_back(QString::fromStdString(trace.Name));
+    traces.push_back(TrQ(trace.Name));
   }
   std::vector<StripChartPopupQt::ScaleRow> scales;
   for (std::size_t scale = 0; scale < m_settings.Scales.size(); ++scale) {
-    StripChartPopupQt::ScaleRow row{
-        scale < m_titles.size() ? QString::fromStdString(m_titles[scale]) : QStringLiteral("Heading"),
-        ScaleKind::Linear};
+    StripChartPopupQt::ScaleRow row{scale < m_titles.size() ? TrQ(m_titles[scale]) : TrQ("Heading"),
+                                    ScaleKind::Linear};
     for (const TraceGroup& group : m_groups) {
       if (static_cast<std::size_t>(group.Scale) == scale) {
         row.Kind = group.Kind;
@@ -220,11 +220,12 @@ std::string StripChart::ProposedName(const char* ending) const {
 
 void StripChart::SavePicture() {
   m_popup->close();
-  m_dialogs.ExportFile("Save Picture", "Pictures (*.png)", ProposedName(".png"), [this](const auto& file) {
-    if (file && !file->empty()) {
-      WritePicture(*file);
-    }
-  });
+  m_dialogs.ExportFile(Tr("Save Picture"), Tr("Pictures (*.png)"), ProposedName(".png"),
+                       [this](const auto& file) {
+                         if (file && !file->empty()) {
+                           WritePicture(*file);
+                         }
+                       });
 }
 
 void StripChart::WritePicture(const std::string& file) {
@@ -233,18 +234,19 @@ void StripChart::WritePicture(const std::string& file) {
   buffer.open(QIODevice::WriteOnly);
   QImageWriter writer(&buffer, "png");
   if (!writer.write(Image(kPictureScale))) {
-    m_dialogs.Inform(kTitle, "The picture could not be made:\r" + writer.errorString().toStdString());
+    m_dialogs.Inform(Tr("Veerwatch - History"),
+                     Filled(Tr("The picture could not be made:\r%1"), {writer.errorString().toStdString()}));
     return;
   }
   if (const auto failure =
           WriteAtomically(PathOf(file), {bytes.constData(), static_cast<std::size_t>(bytes.size())})) {
-    m_dialogs.Inform(kTitle, "The picture was not saved:\r" + *failure);
+    m_dialogs.Inform(Tr("Veerwatch - History"), Filled(Tr("The picture was not saved:\r%1"), {*failure}));
   }
 }
 
 void StripChart::SaveData() {
   m_popup->close();
-  m_dialogs.ExportFile("Save Data", "Comma-separated values (*.csv)", ProposedName(".csv"),
+  m_dialogs.ExportFile(Tr("Save Data"), Tr("Comma-separated values (*.csv)"), ProposedName(".csv"),
                        [this](const auto& file) {
                          if (file && !file->empty()) {
                            WriteData(*file);
@@ -254,7 +256,7 @@ void StripChart::SaveData() {
 
 void StripChart::WriteData(const std::string& file) {
   if (const auto failure = WriteAtomically(PathOf(file), HistoryCsv(m_data))) {
-    m_dialogs.Inform(kTitle, "The data were not saved:\r" + *failure);
+    m_dialogs.Inform(Tr("Veerwatch - History"), Filled(Tr("The data were not saved:\r%1"), {*failure}));
   }
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "draw/DrawQt.h"
+#include "platform/Language.h"
 
 namespace veerwatch {
 
@@ -119,7 +120,7 @@ void StripChartPainterQt::PaintStill() {
   }
   if (m_picture.Panels.empty()) {
     PlacedText none;
-    none.Text = "No trace is shown";
+    none.Text = Tr("No trace is shown");
     none.Height = m_picture.TextHeight;
     none.Align = PlacedText::Side::Middle;
     none.Place = m_picture.PlotArea;

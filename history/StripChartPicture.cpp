@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "history/ClockText.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -42,14 +43,14 @@ std::string EdgesText(const ValueScale& scale, const TraceBucket& bucket) {
   // A turn whose edges have the same tenth.
   constexpr float kAllRound = 359.95F;
   if (scale.Circular() && bucket.High - bucket.Low > kAllRound) {
-    return " (all round)";
+    return Tr(" (all round)");
   }
   const auto named = [&scale](float edge) {
     const double least = scale.Kind == ScaleKind::Relative ? -180.0 : 0.0;
     return ValueText(scale.Circular() ? static_cast<float>(OnTurnAbove(static_cast<double>(edge), least))
                                       : edge);
   };
-  return " (" + named(bucket.Low) + " to " + named(bucket.High) + ")";
+  return Filled(Tr(" (%1 to %2)"), {named(bucket.Low), named(bucket.High)});
 }
 
 /// The wall clock where a slot begins, that of slots which are not held worked out from those which are.
@@ -74,10 +75,11 @@ void MakeAxes(const ChartSubject& subject, ChartPanel& panel) {
     ChartAxis axis;
     axis.ScaleIndex = group.Scale;
     axis.Scale.Kind = group.Kind;
-    axis.Title.Text = AtRight(panel, axis) ? subject.Data.Traces()[at].Name
-                                           : subject.Titles[static_cast<std::size_t>(panel.Group)];
+    const std::string& title = AtRight(panel, axis) ? subject.Data.Traces()[at].Name
+                                                    : subject.Titles[static_cast<std::size_t>(panel.Group)];
+    axis.Title.Text = Tr(title);
     if (axis.Scale.Kind == ScaleKind::Linear) {
-      axis.Units.Text = subject.Data.Traces()[at].ShownUnits();
+      axis.Units.Text = UnitsText(subject.Data.Traces()[at].ShownUnits());
     }
     panel.Axes.push_back(axis);
   }
@@ -404,9 +406,9 @@ std::optional<ChartReading> StripChartPicture::ReadAt(const ChartSubject& subjec
     const ValueScale& scale = drawn.Frame.Scale;
     shown.Y = std::clamp(drawn.Frame.Y(scale.Circular() ? OnTurnAbove(value, scale.Low) : value),
                          panel->Plot.Y, panel->Plot.Bottom());
-    shown.Text = trace.Name + " " + ValueText(found->Latest);
+    shown.Text = Tr(trace.Name) + " " + ValueText(found->Latest);
     if (!trace.ShownUnits().empty()) {
-      shown.Text.append(1, ' ').append(trace.ShownUnits());
+      shown.Text.append(1, ' ').append(UnitsText(trace.ShownUnits()));
     }
     shown.Text += EdgesText(scale, *found);
     const double distance = std::fabs(shown.Y - y);

@@ -7,6 +7,9 @@
 #include <QVBoxLayout>
 #include <iterator>
 
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
+
 namespace veerwatch {
 
 namespace {
@@ -15,13 +18,13 @@ QString SpanText(int seconds) {
   constexpr int kMinute = 60;
   constexpr int kHour = 3600;
   if (seconds < kHour) {
-    return QStringLiteral("%1 minutes").arg(seconds / kMinute);
+    return TrQ("%1 minutes").arg(seconds / kMinute);
   }
-  return seconds == kHour ? QStringLiteral("1 hour") : QStringLiteral("%1 hours").arg(seconds / kHour);
+  return seconds == kHour ? TrQ("1 hour") : TrQ("%1 hours").arg(seconds / kHour);
 }
 
 QLabel* Heading(const char* text, QWidget* parent) {
-  auto* label = new QLabel(QLatin1String(text), parent);
+  auto* label = new QLabel(TrQ(text), parent);
   QFont font = label->font();
   font.setBold(true);
   label->setFont(font);
@@ -51,7 +54,7 @@ StripChartPopupQt::StripChartPopupQt(QWidget* chart, const std::vector<QString>&
   setObjectName(QStringLiteral("frmConfigPopup"));
   setFrameShape(QFrame::StyledPanel);
   auto* column = new QVBoxLayout(this);
-  column->addWidget(Heading("Traces", this));
+  column->addWidget(Heading(TrMark("Traces"), this));
   auto* traceGrid = new QGridLayout;
   traceGrid->setVerticalSpacing(2);
   column->addLayout(traceGrid);
@@ -60,7 +63,7 @@ StripChartPopupQt::StripChartPopupQt(QWidget* chart, const std::vector<QString>&
   auto* spanRow = new QHBoxLayout;
   column->addSpacing(6);
   column->addLayout(spanRow);
-  auto* span = Heading("&Visible Time", this);
+  auto* span = Heading(TrMark("&Visible Time"), this);
   span->setBuddy(m_span);
   spanRow->addWidget(span, 1);
   spanRow->addWidget(m_span);
@@ -69,13 +72,13 @@ StripChartPopupQt::StripChartPopupQt(QWidget* chart, const std::vector<QString>&
     m_span->addItem(SpanText(seconds), seconds);
   }
   m_marks->setObjectName(QStringLiteral("chkMarks"));
-  m_marks->setText(QStringLiteral("Turns and held angles as &marks"));
+  m_marks->setText(TrQ("Turns and held angles as &marks"));
   connect(m_marks, &QCheckBox::toggled, this, [this] { Take(); });
   column->addWidget(m_marks);
   connect(m_span, qOverload<int>(&QComboBox::currentIndexChanged), this, [this] { Take(); });
 
   column->addSpacing(6);
-  column->addWidget(Heading("Scales", this));
+  column->addWidget(Heading(TrMark("Scales"), this));
   auto* scaleGrid = new QGridLayout;
   scaleGrid->setVerticalSpacing(2);
   column->addLayout(scaleGrid);
@@ -85,15 +88,15 @@ StripChartPopupQt::StripChartPopupQt(QWidget* chart, const std::vector<QString>&
   auto* row = new QHBoxLayout;
   column->addLayout(row);
   const auto button = [this, row](const char* name, const char* text, std::function<void()>& command) {
-    auto* made = new QPushButton(QLatin1String(text), this);
+    auto* made = new QPushButton(TrQ(text), this);
     made->setObjectName(QLatin1String(name));
     made->setAutoDefault(false);
     connect(made, &QPushButton::clicked, this, [&command] { command(); });
     row->addWidget(made);
   };
-  button("cmdSavePicture", "Save &picture...", m_commands.SavePicture);
-  button("cmdSaveData", "Save &data...", m_commands.SaveData);
-  button("cmdDefaults", "De&faults", m_commands.Defaults);
+  button("cmdSavePicture", TrMark("Save &picture..."), m_commands.SavePicture);
+  button("cmdSaveData", TrMark("Save &data..."), m_commands.SaveData);
+  button("cmdDefaults", TrMark("De&faults"), m_commands.Defaults);
 }
 
 void StripChartPopupQt::MakeTraces(const std::vector<QString>& traces, QGridLayout* grid) {
@@ -105,7 +108,7 @@ void StripChartPopupQt::MakeTraces(const std::vector<QString>& traces, QGridLayo
     connect(shown, &QCheckBox::toggled, this, [this] { Take(); });
     auto* colour = new QToolButton(this);
     colour->setObjectName(QStringLiteral("cmdColour(%1)").arg(number + 1));
-    colour->setAccessibleName(QStringLiteral("Colour of ") + traces[i]);
+    colour->setAccessibleName(TrQ("Colour of %1").arg(traces[i]));
     colour->setToolTip(colour->accessibleName());
     connect(colour, &QToolButton::clicked, this, [this, number] { m_commands.PickColour(number); });
     const int columns = 2 * (number / kRows);
@@ -123,10 +126,10 @@ void StripChartPopupQt::MakeScales(const std::vector<ScaleRow>& scales, QGridLay
     const auto name = [row](const char* stem) {
       return QStringLiteral("%1(%2)").arg(QLatin1String(stem)).arg(row + 1);
     };
-    const auto edge = [&](const char* stem, const char* what) {
+    const auto edge = [&](const char* stem, const QString& what) {
       auto* box = new QDoubleSpinBox(this);
       box->setObjectName(name(stem));
-      box->setAccessibleName(scales[i].Name + QLatin1Char(' ') + QLatin1String(what));
+      box->setAccessibleName(what.arg(scales[i].Name));
       box->setKeyboardTracking(false);
       const bool linear = scales[i].Kind == ScaleKind::Linear;
       box->setDecimals(linear ? 1 : 0);
@@ -139,15 +142,15 @@ void StripChartPopupQt::MakeScales(const std::vector<ScaleRow>& scales, QGridLay
       connect(box, qOverload<double>(&QDoubleSpinBox::valueChanged), this, [this] { Take(); });
       return box;
     };
-    Scale scale{new QCheckBox(QStringLiteral("Automatic"), this), edge("txtScaleLow", "lower edge"),
-                edge("txtScaleHigh", "upper edge")};
+    Scale scale{new QCheckBox(TrQ("Automatic"), this), edge("txtScaleLow", TrQ("%1 lower edge")),
+                edge("txtScaleHigh", TrQ("%1 upper edge"))};
     scale.Automatic->setObjectName(name("chkAutomatic"));
-    scale.Automatic->setAccessibleName(scales[i].Name + QStringLiteral(" automatic scale"));
+    scale.Automatic->setAccessibleName(TrQ("%1 automatic scale").arg(scales[i].Name));
     connect(scale.Automatic, &QCheckBox::toggled, this, [this] { Take(); });
     grid->addWidget(new QLabel(scales[i].Name, this), row, 0);
     grid->addWidget(scale.Automatic, row, 1);
     grid->addWidget(scale.Low, row, 2);
-    grid->addWidget(new QLabel(QStringLiteral("to"), this), row, 3);
+    grid->addWidget(new QLabel(TrQ("to"), this), row, 3);
     grid->addWidget(scale.High, row, 4);
     grid->setColumnStretch(0, 1);
     m_scales.push_back(scale);

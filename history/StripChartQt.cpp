@@ -7,6 +7,8 @@
 #include <iterator>
 
 #include "draw/DrawQt.h"
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -23,23 +25,23 @@ StripChart::StripChart(const Clock& clock, WindowDialogs& dialogs, QWidget* pare
       m_dialogs(dialogs),
       m_colours(palette().color(QPalette::Window)),
       m_measure(font()),
-      m_cmdNow(new QPushButton(QStringLiteral("Back to now"), this)),
+      m_cmdNow(new QPushButton(TrQ("Back to now"), this)),
       m_cmdSettings(new QToolButton(this)) {
   setObjectName(QStringLiteral("StripChart"));
-  setAccessibleName(QStringLiteral("Strip chart"));
+  setAccessibleName(TrQ("Strip chart"));
   setFocusPolicy(Qt::StrongFocus);
   setMouseTracking(true);
   setAttribute(Qt::WA_OpaquePaintEvent);
   m_tmrRedraw.setSingleShot(true);
   connect(&m_tmrRedraw, &QTimer::timeout, this, [this] { Refresh(); });
   m_cmdNow->setObjectName(QStringLiteral("cmdNow"));
-  m_cmdNow->setToolTip(QStringLiteral("Follow the newest values again (End)"));
+  m_cmdNow->setToolTip(TrQ("Follow the newest values again (End)"));
   m_cmdNow->setFocusPolicy(Qt::TabFocus);
   m_cmdNow->hide();
   connect(m_cmdNow, &QPushButton::clicked, this, [this] { cmdNow_Click(); });
   m_cmdSettings->setObjectName(QStringLiteral("cmdSettings"));
-  m_cmdSettings->setText(QStringLiteral("Settings..."));
-  m_cmdSettings->setAccessibleName(QStringLiteral("Chart settings"));
+  m_cmdSettings->setText(TrQ("Settings..."));
+  m_cmdSettings->setAccessibleName(TrQ("Chart settings"));
   m_cmdSettings->setFocusPolicy(Qt::TabFocus);
   connect(m_cmdSettings, &QToolButton::clicked, this,
           [this] { PopupAt(m_cmdSettings->mapToGlobal(QPoint(0, m_cmdSettings->height()))); });
@@ -372,13 +374,13 @@ void StripChart::PlaceButtons() {
   m_cmdSettings->setFont(small);
   m_cmdSettings->setAutoRaise(true);
   const int height = static_cast<int>(time.Height) - 1;
-  const int wide = static_cast<int>(m_measure.Width("Settings...", m_picture.TextHeight * 0.92) +
+  const int wide = static_cast<int>(m_measure.Width(Tr("Settings..."), m_picture.TextHeight * 0.92) +
                                     0.9 * m_picture.TextHeight);
   m_cmdSettings->setGeometry(width() - wide - 2, this->height() - height, wide, height);
   small.setBold(true);
   m_cmdNow->setFont(small);
   const QSize now(
-      static_cast<int>(m_measure.Width("Back to now", m_picture.TextHeight) + 1.6 * m_picture.TextHeight),
+      static_cast<int>(m_measure.Width(Tr("Back to now"), m_picture.TextHeight) + 1.6 * m_picture.TextHeight),
       static_cast<int>(1.9 * m_picture.TextHeight));
   m_cmdNow->setGeometry(static_cast<int>(m_picture.PlotArea.Right()) - now.width() - 4,
                         static_cast<int>(m_picture.PlotArea.Bottom()) - now.height() - 4, now.width(),

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <sstream>
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 namespace {
@@ -70,6 +72,8 @@ std::vector<TraceGroup> GroupTraces(const std::vector<StripChartData::Trace>& tr
   }
   return groups;
 }
+
+std::string UnitsText(std::string_view units) { return units == "Kts" ? Tr("Kts") : std::string(units); }
 
 std::string ShortName(const std::string& name) {
   const std::vector<std::string> words = Words(name);

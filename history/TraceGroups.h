@@ -25,6 +25,9 @@ struct TraceGroup {
 std::vector<TraceGroup> GroupTraces(const std::vector<StripChartData::Trace>& traces,
                                     const std::vector<std::string>& titles);
 
+/// Units as they are shown: "Kts" in the user's language, others as they are.
+std::string UnitsText(std::string_view units);
+
 /// A name short enough for any legend: its initials, the first three letters of a single word, "Hdg" for
 /// "Heading".
 std::string ShortName(const std::string& name);

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "history/HistoryTraces.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -23,7 +24,7 @@ frmHistory::frmHistory(const Parts& parts)
       m_chart(new StripChart(parts.Time, *m_asks, this)),
       m_line(new QFrame(this)) {
   setObjectName(QStringLiteral("frmHistory"));
-  setWindowTitle(QStringLiteral("Veerwatch - History"));
+  setWindowTitle(TrQ("Veerwatch - History"));
   setAttribute(Qt::WA_QuitOnClose, false);
   setMinimumSize(kSmallestSize);
   m_line->setObjectName(QStringLiteral("linTop"));

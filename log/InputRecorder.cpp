@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "log/LineTime.h"
+#include "platform/Language.h"
 #include "platform/VisibleText.h"
 
 namespace veerwatch {
@@ -18,7 +19,7 @@ std::int64_t DayOf(std::int64_t wall) {
 
 /// What the system says of the latest failure.
 std::string SystemText() {
-  return errno != 0 ? std::error_code(errno, std::generic_category()).message() : "it cannot be written";
+  return errno != 0 ? std::error_code(errno, std::generic_category()).message() : Tr("it cannot be written");
 }
 
 std::string CannotWrite(const std::filesystem::path& file, const std::string& why) {
@@ -67,7 +68,7 @@ std::string InputRecorder::Open(const std::filesystem::path& file, std::int64_t 
   const auto status = std::filesystem::status(file, error);
   // A pipe would let the window wait for whoever reads it.
   if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status)) {
-    return CannotWrite(file, "it is no file");
+    return CannotWrite(file, Tr("it is no file"));
   }
   errno = 0;
   m_stream.open(file, std::ios::binary | std::ios::trunc);
@@ -137,7 +138,7 @@ void InputRecorder::Turn(std::int64_t wall) {
     ++number;
   }
   const std::filesystem::path next = NameOn(m_first, wall, number);
-  const std::string why = number < kMost ? Open(next, wall) : CannotWrite(next, "it is there already");
+  const std::string why = number < kMost ? Open(next, wall) : CannotWrite(next, Tr("it is there already"));
   if (!why.empty()) {
     m_ended(why);
   }

@@ -5,6 +5,8 @@
 #include <limits>
 #include <system_error>
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 LogPortQt::LogPortQt(const Endpoint& file, const Clock& clock)
@@ -20,12 +22,13 @@ bool LogPortQt::OpenEndpoint(std::string& failure) {
   std::error_code error;
   // A pipe would let the window wait for whoever writes into it.
   if (!std::filesystem::is_regular_file(m_file.Path, error)) {
-    failure = m_file.Text + ": " + (std::filesystem::exists(m_file.Path, error) ? "no file" : "no such file");
+    failure = m_file.Text + ": " +
+              (std::filesystem::exists(m_file.Path, error) ? Tr("no file") : Tr("no such file"));
     return false;
   }
   m_stream = std::ifstream(m_file.Path, std::ios::binary);
   if (!m_stream) {
-    failure = m_file.Text + ": cannot be read";
+    failure = Filled(Tr("%1: cannot be read"), {m_file.Text});
     return false;
   }
   m_atEnd = false;

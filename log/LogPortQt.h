@@ -10,6 +10,7 @@
 
 #include "log/LogPace.h"
 #include "log/LogReader.h"
+#include "platform/Language.h"
 #include "platform/SocketPortQt.h"
 
 namespace veerwatch {
@@ -20,7 +21,9 @@ class LogPortQt final : public SocketPortQt {
   LogPortQt(const Endpoint& file, const Clock& clock);
   ~LogPortQt() override;
 
-  std::string Trouble() const override { return m_atEnd ? m_file.Text + ": the log is at its end" : ""; }
+  std::string Trouble() const override {
+    return m_atEnd ? Filled(Tr("%1: the log is at its end"), {m_file.Text}) : "";
+  }
 
  private:
   bool OpenEndpoint(std::string& failure) override;

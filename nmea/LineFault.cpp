@@ -1,15 +1,17 @@
 #include "nmea/LineFault.h"
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 std::string_view LineFaultText(LineFault fault) {
   switch (fault) {
     case LineFault::Decode:
-      return "Decode Error";
+      return TrMark("Decode Error");
     case LineFault::Sentence:
-      return "Sentence Error";
+      return TrMark("Sentence Error");
     case LineFault::Checksum:
-      return "Checksum Error";
+      return TrMark("Checksum Error");
     case LineFault::None:
       break;
   }
@@ -19,7 +21,7 @@ std::string_view LineFaultText(LineFault fault) {
 void ListedLine(std::string_view line, LineFault fault, std::string& text) {
   text.assign(line);
   if (fault == LineFault::Sentence || fault == LineFault::Checksum) {
-    text.append(" <<").append(LineFaultText(fault)).append(">>");
+    text.append(" <<").append(Tr(LineFaultText(fault))).append(">>");
   }
 }
 

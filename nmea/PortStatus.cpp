@@ -1,27 +1,29 @@
 #include "nmea/PortStatus.h"
 
+#include "platform/Language.h"
 #include "platform/SerialPort.h"
 
 namespace veerwatch {
 
 namespace {
 
-std::string StatusText(const char* port, const PortStatus& status) {
+/// `notOpen`: what is said of a port that cannot be opened, with its number.
+std::string StatusText(const char* notOpen, const PortStatus& status) {
   switch (status.Says) {
     case PortStatus::What::Clear:
       break;
     case PortStatus::What::NotOpen:
-      return std::string(port) + " Port " + std::to_string(status.Number) + " Not Open";
+      return Filled(Tr(notOpen), {std::to_string(status.Number)});
     case PortStatus::What::NoInputData:
-      return std::string(InputStateText(InputState::NoData));
+      return Tr(InputStateText(InputState::NoData));
     case PortStatus::What::Simulate:
-      return std::string(InputStateText(InputState::Simulate));
+      return Tr(InputStateText(InputState::Simulate));
     case PortStatus::What::SentenceError:
-      return "Sentence Error";
+      return Tr("Sentence Error");
     case PortStatus::What::ChecksumError:
-      return "Checksum Error";
+      return Tr("Checksum Error");
     case PortStatus::What::ReceiveError:
-      return "Receive Error";
+      return Tr("Receive Error");
     case PortStatus::What::LineEvent:
       return CommEventText(status.Number);
   }
@@ -30,8 +32,12 @@ std::string StatusText(const char* port, const PortStatus& status) {
 
 }  // namespace
 
-std::string InputStatusText(const PortStatus& status) { return StatusText("Input", status); }
+std::string InputStatusText(const PortStatus& status) {
+  return StatusText(TrMark("Input Port %1 Not Open"), status);
+}
 
-std::string OutputStatusText(const PortStatus& status) { return StatusText("Output", status); }
+std::string OutputStatusText(const PortStatus& status) {
+  return StatusText(TrMark("Output Port %1 Not Open"), status);
+}
 
 }  // namespace veerwatch

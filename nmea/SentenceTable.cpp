@@ -11,6 +11,7 @@
 #include "nmea/Rmc.h"
 #include "nmea/Vhw.h"
 #include "nmea/Vwr.h"
+#include "platform/Language.h"
 
 namespace veerwatch {
 
@@ -27,23 +28,27 @@ bool Decode(const Fields& fields, Readings& readings) {
 }  // namespace
 
 const std::array<SentenceKind, 13> kSentences{{
-    {"HDG", "HDG - Compass (Heading, Deviation, Variation)", &Settings::m_bNmeaSentenceHDG, false,
+    {"HDG", TrMark("HDG - Compass (Heading, Deviation, Variation)"), &Settings::m_bNmeaSentenceHDG, false,
      Decode<DecodeHdg>},
-    {"HVM", "HVM - Magnetic (Variation)", &Settings::m_bNmeaSentenceHVM, false, Decode<DecodeHvm>},
-    {"MWV", "MWV - Wind (Angle, Apparent/True, Speed)", &Settings::m_bNmeaSentenceMWV, true,
+    {"HVM", TrMark("HVM - Magnetic (Variation)"), &Settings::m_bNmeaSentenceHVM, false, Decode<DecodeHvm>},
+    {"MWV", TrMark("MWV - Wind (Angle, Apparent/True, Speed)"), &Settings::m_bNmeaSentenceMWV, true,
      Decode<DecodeMwv>},
-    {"RMB", "RMB - Waypoint (Xte, To Id, From Id, Lat, Lon, Rng, Brg, Vmg)", &Settings::m_bNmeaSentenceRMB,
-     false, Decode<DecodeRmb>},
-    {"RMC", "RMC - Gps (Time, Lat, Lon, SOG, COG, Variation)", &Settings::m_bNmeaSentenceRMC, false,
+    {"RMB", TrMark("RMB - Waypoint (Xte, To Id, From Id, Lat, Lon, Rng, Brg, Vmg)"),
+     &Settings::m_bNmeaSentenceRMB, false, Decode<DecodeRmb>},
+    {"RMC", TrMark("RMC - Gps (Time, Lat, Lon, SOG, COG, Variation)"), &Settings::m_bNmeaSentenceRMC, false,
      Decode<DecodeRmc>},
-    {"VHW", "VHW - Vessel (Heading, SOW)", &Settings::m_bNmeaSentenceVHW, false, Decode<DecodeVhw>},
-    {"VTG", "VTG - Vessel (COG, SOG)", &Settings::m_bNmeaSentenceVTG, false, Decode<DecodeVtg>},
-    {"HDM", "HDM - Compass (Heading Magnetic)", &Settings::m_bNmeaSentenceHDM, false, Decode<DecodeHdm>},
-    {"HDT", "HDT - Gyro (Heading True)", &Settings::m_bNmeaSentenceHDT, false, Decode<DecodeHdt>},
-    {"MWD", "MWD - Wind (Direction, Speed)", &Settings::m_bNmeaSentenceMWD, true, Decode<DecodeMwd>},
-    {"THS", "THS - Gyro (Heading True, Status)", &Settings::m_bNmeaSentenceTHS, false, Decode<DecodeThs>},
-    {"VWR", "VWR - Wind (Angle, Apparent, Speed)", &Settings::m_bNmeaSentenceVWR, true, Decode<DecodeVwr>},
-    {"VWT", "VWT - Wind (Angle, True, Speed)", &Settings::m_bNmeaSentenceVWT, true, Decode<DecodeVwt>},
+    {"VHW", TrMark("VHW - Vessel (Heading, SOW)"), &Settings::m_bNmeaSentenceVHW, false, Decode<DecodeVhw>},
+    {"VTG", TrMark("VTG - Vessel (COG, SOG)"), &Settings::m_bNmeaSentenceVTG, false, Decode<DecodeVtg>},
+    {"HDM", TrMark("HDM - Compass (Heading Magnetic)"), &Settings::m_bNmeaSentenceHDM, false,
+     Decode<DecodeHdm>},
+    {"HDT", TrMark("HDT - Gyro (Heading True)"), &Settings::m_bNmeaSentenceHDT, false, Decode<DecodeHdt>},
+    {"MWD", TrMark("MWD - Wind (Direction, Speed)"), &Settings::m_bNmeaSentenceMWD, true, Decode<DecodeMwd>},
+    {"THS", TrMark("THS - Gyro (Heading True, Status)"), &Settings::m_bNmeaSentenceTHS, false,
+     Decode<DecodeThs>},
+    {"VWR", TrMark("VWR - Wind (Angle, Apparent, Speed)"), &Settings::m_bNmeaSentenceVWR, true,
+     Decode<DecodeVwr>},
+    {"VWT", TrMark("VWT - Wind (Angle, True, Speed)"), &Settings::m_bNmeaSentenceVWT, true,
+     Decode<DecodeVwt>},
 }};
 
 const SentenceKind* FindSentence(std::string_view line) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 namespace {
@@ -45,18 +47,18 @@ bool NeedsVariation(Quantity what) { return what == Quantity::CourseTrue || what
 
 std::string UnitName(std::string_view unit) {
   if (unit == "M") {
-    return "metres per second";
+    return Tr("metres per second");
   }
   if (unit == "K") {
-    return "kilometres per hour";
+    return Tr("kilometres per hour");
   }
   if (unit == "S") {
-    return "miles per hour";
+    return Tr("miles per hour");
   }
-  return "another unit";
+  return Tr("another unit");
 }
 
-std::string Joined(const std::vector<std::string>& names, const char* last) {
+std::string Joined(const std::vector<std::string>& names, const std::string& last) {
   std::string text;
   for (std::size_t i = 0; i < names.size(); ++i) {
     text += (i == 0 ? "" : i + 1 == names.size() ? last : ", ") + names[i];
@@ -143,8 +145,9 @@ std::string SourceWatch::Missing(const char* value, const Group& chosen, const G
   if (there.empty()) {
     return {};
   }
-  return std::string(value) + ": nothing from " + Joined(silent, " or ") + "; " + Joined(there, " and ") +
-         (there.size() == 1 ? " is there" : " are there");
+  const std::string pattern =
+      there.size() == 1 ? Tr("%1: nothing from %2; %3 is there") : Tr("%1: nothing from %2; %3 are there");
+  return Filled(pattern, {Tr(value), Joined(silent, Tr(" or ")), Joined(there, Tr(" and "))});
 }
 
 void SourceWatch::AddNotUsed(const Group& chosen, std::vector<std::string>& lines) const {
@@ -154,7 +157,7 @@ void SourceWatch::AddNotUsed(const Group& chosen, std::vector<std::string>& line
   for (const Source source : chosen) {
     const SentenceKind& kind = KindOf(source);
     const long seen = m_notUsed[PlaceOf(kind)];
-    const std::string line = std::string(kind.Name) + " seen " + std::to_string(seen) + " times, not used";
+    const std::string line = Filled(Tr("%1 seen %2 times, not used"), {kind.Name, std::to_string(seen)});
     if (seen > 0 && std::find(lines.begin(), lines.end(), line) == lines.end()) {
       lines.push_back(line);
     }
@@ -174,24 +177,24 @@ std::vector<std::string> SourceWatch::Advice() const {
   const Group apparent{kApparentMwv, kApparentVwr};
   const Group trueWind{kTrueMwv, kTrueVwt, kTrueMwd};
   if (There(kOtherUnit) && !There(kApparentMwv)) {
-    add("Wind: MWV brings " + m_unit + "; only knots are read");
+    add(Filled(Tr("Wind: MWV brings %1; only knots are read"), {m_unit}));
   }
   const auto look = [&](const char* value, const Group& chosen, const Group& others) {
     add(Missing(value, chosen, others));
     AddNotUsed(chosen, lines);
   };
-  look("Apparent Wind", apparent, trueWind);
+  look(TrMark("Apparent Wind"), apparent, trueWind);
   if (m_settings.m_iNmeaTrueWind == kWindSensor) {
-    look("True Wind", trueWind, apparent);
+    look(TrMark("True Wind"), trueWind, apparent);
   }
   const Group compass{kHeadingHdg, kHeadingVhw, kHeadingHdm, kHeadingHdt, kHeadingThs};
   const Group course{kHeadingRmc, kHeadingVtg};
   const bool byCompass = m_settings.m_iNmeaHeading == kThroughWater;
-  look("Heading", byCompass ? compass : course, byCompass ? course : compass);
+  look(TrMark("Heading"), byCompass ? compass : course, byCompass ? course : compass);
   const Group log{kSpeedVhw};
   const Group ground{kSpeedRmc, kSpeedVtg};
   const bool byLog = m_settings.m_iNmeaBoatSpeed == kThroughWater;
-  look("Boat Speed", byLog ? log : ground, byLog ? ground : log);
+  look(TrMark("Boat Speed"), byLog ? log : ground, byLog ? ground : log);
   return lines;
 }
 

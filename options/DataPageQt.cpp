@@ -4,6 +4,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
+
 namespace veerwatch {
 
 namespace {
@@ -11,7 +14,7 @@ namespace {
 QComboBox* NewSources(const char* name, const char* first, const char* second, QWidget* parent) {
   auto* box = new QComboBox(parent);
   box->setObjectName(QLatin1String(name));
-  box->addItems({QString::fromLatin1(first), QString::fromLatin1(second)});
+  box->addItems({TrQ(first), TrQ(second)});
   return box;
 }
 
@@ -24,7 +27,7 @@ QComboBox* NewRule(const char* name, const char* hint, const QStringList& names,
 }
 
 QCheckBox* NewSwitch(const char* name, const char* caption, const char* hint, QWidget* parent) {
-  auto* box = new QCheckBox(QLatin1String(caption), parent);
+  auto* box = new QCheckBox(TrQ(caption), parent);
   NameControl(*box, name, hint);
   return box;
 }
@@ -33,34 +36,38 @@ QCheckBox* NewSwitch(const char* name, const char* caption, const char* hint, QW
 
 DataPageQt::DataPageQt(QWidget* parent)
     : QWidget(parent),
-      cmbNmeaTrueWind(NewSources("cmbNmeaTrueWind", "True Wind Sensor", "Compute from Boat Speed", this)),
-      cmbNmeaHeading(NewSources("cmbNmeaHeading", "Compass Heading", "Course Over Ground", this)),
-      cmbNmeaBoatSpeed(NewSources("cmbNmeaBoatSpeed", "Speed Over Water", "Speed Over Ground", this)),
-      txtNmeaWindIndicatorAverage(new OptionEntryQt("txtNmeaWindIndicatorAverage",
-                                                    "Wind Indicator Average Time (sec, 0=none)", this)),
+      cmbNmeaTrueWind(
+          NewSources("cmbNmeaTrueWind", TrMark("True Wind Sensor"), TrMark("Compute from Boat Speed"), this)),
+      cmbNmeaHeading(
+          NewSources("cmbNmeaHeading", TrMark("Compass Heading"), TrMark("Course Over Ground"), this)),
+      cmbNmeaBoatSpeed(
+          NewSources("cmbNmeaBoatSpeed", TrMark("Speed Over Water"), TrMark("Speed Over Ground"), this)),
+      txtNmeaWindIndicatorAverage(new OptionEntryQt(
+          "txtNmeaWindIndicatorAverage", TrMark("Wind Indicator Average Time (sec, 0=none)"), this)),
       txtNmeaTrueWindAverage(
-          new OptionEntryQt("txtNmeaTrueWindAverage", "True Wind Average Time (sec, 0=none)", this)),
-      cmbNmeaChecksum(NewRule("cmbNmeaChecksum", "What becomes of a sentence without a checksum",
-                              {QStringLiteral("Accept missing"), QStringLiteral("Require")}, this)),
-      cmbNmeaInvalidStatus(NewRule("cmbNmeaInvalidStatus",
-                                   "What becomes of the values of an MWV, RMC or RMB with the status V",
-                                   {QStringLiteral("Use"), QStringLiteral("Ignore")}, this)),
-      cmbNmeaForeignLines(NewRule("cmbNmeaForeignLines",
-                                  "What a line is that begins with \"!\", as those of an AIS receiver",
-                                  {QStringLiteral("Error"), QStringLiteral("List")}, this)),
-      chkNmeaWindUnits(NewSwitch("chkNmeaWindUnits", "Wind U&nits: m/s, km/h and mph, too",
-                                 "Reads an MWV whose speed is not in knots", this)),
-      chkNmeaLowerCase(NewSwitch("chkNmeaLowerCase", "&Lower Case checksums, too",
-                                 "Reads a checksum in small letters", this)),
-      txtNmeaWindOffset(
-          new OptionEntryQt("txtNmeaWindOffset", "Added to the wind's angle that comes in (Deg)", this)),
-      txtNmeaHeadingOffset(new OptionEntryQt("txtNmeaHeadingOffset",
-                                             "Added to the compass heading that comes in (Deg)", this)),
-      txtNmeaBoatSpeedFactor(new OptionEntryQt("txtNmeaBoatSpeedFactor",
-                                               "Times the speed through the water that comes in", this)),
+          new OptionEntryQt("txtNmeaTrueWindAverage", TrMark("True Wind Average Time (sec, 0=none)"), this)),
+      cmbNmeaChecksum(NewRule("cmbNmeaChecksum", TrMark("What becomes of a sentence without a checksum"),
+                              {TrQ("Accept missing"), TrQ("Require")}, this)),
+      cmbNmeaInvalidStatus(
+          NewRule("cmbNmeaInvalidStatus",
+                  TrMark("What becomes of the values of an MWV, RMC or RMB with the status V"),
+                  {TrQ("Use"), TrQ("Ignore")}, this)),
+      cmbNmeaForeignLines(NewRule(
+          "cmbNmeaForeignLines", TrMark("What a line is that begins with \"!\", as those of an AIS receiver"),
+          {TrQ("Error"), TrQ("List")}, this)),
+      chkNmeaWindUnits(NewSwitch("chkNmeaWindUnits", TrMark("Wind U&nits: m/s, km/h and mph, too"),
+                                 TrMark("Reads an MWV whose speed is not in knots"), this)),
+      chkNmeaLowerCase(NewSwitch("chkNmeaLowerCase", TrMark("&Lower Case checksums, too"),
+                                 TrMark("Reads a checksum in small letters"), this)),
+      txtNmeaWindOffset(new OptionEntryQt("txtNmeaWindOffset",
+                                          TrMark("Added to the wind's angle that comes in (Deg)"), this)),
+      txtNmeaHeadingOffset(new OptionEntryQt(
+          "txtNmeaHeadingOffset", TrMark("Added to the compass heading that comes in (Deg)"), this)),
+      txtNmeaBoatSpeedFactor(new OptionEntryQt(
+          "txtNmeaBoatSpeedFactor", TrMark("Times the speed through the water that comes in"), this)),
       lblSourceAdvice(new QLabel(this)),
       SentencePlace(new QWidget(this)) {
-  NameControl(*lblSourceAdvice, "lblSourceAdvice", "What the chosen sources do not bring");
+  NameControl(*lblSourceAdvice, "lblSourceAdvice", TrMark("What the chosen sources do not bring"));
   lblSourceAdvice->setTextFormat(Qt::PlainText);
   lblSourceAdvice->setWordWrap(true);
   lblSourceAdvice->hide();
@@ -69,12 +76,12 @@ DataPageQt::DataPageQt(QWidget* parent)
     rows->addWidget(NewCaption(caption, box, this), row, 0);
     rows->addWidget(box, row, 1);
   };
-  source(0, "True &Wind:", cmbNmeaTrueWind);
-  source(1, "Boat &Heading:", cmbNmeaHeading);
-  source(2, "&Boat Speed:", cmbNmeaBoatSpeed);
-  source(3, "Chec&ksum:", cmbNmeaChecksum);
-  source(4, "In&valid Status:", cmbNmeaInvalidStatus);
-  source(5, "&Foreign Lines:", cmbNmeaForeignLines);
+  source(0, TrMark("True &Wind:"), cmbNmeaTrueWind);
+  source(1, TrMark("Boat &Heading:"), cmbNmeaHeading);
+  source(2, TrMark("&Boat Speed:"), cmbNmeaBoatSpeed);
+  source(3, TrMark("Chec&ksum:"), cmbNmeaChecksum);
+  source(4, TrMark("In&valid Status:"), cmbNmeaInvalidStatus);
+  source(5, TrMark("&Foreign Lines:"), cmbNmeaForeignLines);
   rows->addWidget(chkNmeaWindUnits, 4, 3, 1, 4);
   rows->addWidget(chkNmeaLowerCase, 5, 3, 1, 4);
   rows->setColumnMinimumWidth(2, kGroupGap);
@@ -82,10 +89,10 @@ DataPageQt::DataPageQt(QWidget* parent)
     rows->addWidget(NewText(group, this), row, 3, 1, 3);
     rows->addWidget(NewCaption(caption, box, this), row + 1, 3);
     rows->addWidget(box, row + 1, 4);
-    rows->addWidget(NewText("samples", this), row + 1, 5);
+    rows->addWidget(NewText(TrMark("samples"), this), row + 1, 5);
   };
-  average(0, "Data Average:", "Wind Indi&cator", txtNmeaWindIndicatorAverage);
-  average(2, "Data Average (Sec):", "Tr&ue Wind", txtNmeaTrueWindAverage);
+  average(0, TrMark("Data Average:"), TrMark("Wind Indi&cator"), txtNmeaWindIndicatorAverage);
+  average(2, TrMark("Data Average (Sec):"), TrMark("Tr&ue Wind"), txtNmeaTrueWindAverage);
   rows->setColumnStretch(6, 1);
   const auto correction = [this, rows](int row, int column, const char* caption, OptionEntryQt* box,
                                        const char* unit) {
@@ -96,9 +103,9 @@ DataPageQt::DataPageQt(QWidget* parent)
     rows->addWidget(NewCaption(caption, box, this), row, column);
     rows->addLayout(withUnit, row, column + 1, 1, column == 0 ? 1 : 2);
   };
-  correction(6, 0, "Wind Offs&et:", txtNmeaWindOffset, "Deg");
-  correction(6, 3, "Heading Offset:", txtNmeaHeadingOffset, "Deg");
-  correction(7, 0, "Boat S&peed Factor:", txtNmeaBoatSpeedFactor, "");
+  correction(6, 0, TrMark("Wind Offs&et:"), txtNmeaWindOffset, TrMark("Deg"));
+  correction(6, 3, TrMark("Heading Offset:"), txtNmeaHeadingOffset, TrMark("Deg"));
+  correction(7, 0, TrMark("Boat S&peed Factor:"), txtNmeaBoatSpeedFactor, "");
 
   auto* page = new QVBoxLayout(this);
   page->addLayout(rows);

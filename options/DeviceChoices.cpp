@@ -4,6 +4,7 @@
 #include <utility>
 #include <variant>
 
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 #include "platform/VisibleText.h"
 
@@ -22,13 +23,13 @@ bool DeviceChoices::Plug(const std::vector<FoundPort>& found) {
       text += " - " + port.Description;
     }
     if (!port.SerialNumber.empty()) {
-      text += ", serial number " + port.SerialNumber;
+      text += Filled(Tr(", serial number %1"), {port.SerialNumber});
     }
     rows.push_back({VisibleText(text + NumbersOf(port.Device)), port.Device});
   }
   for (const PortEntry& entry : m_named) {
-    rows.push_back(
-        {VisibleText("Port " + std::to_string(entry.Number) + ": " + entry.Endpoints), entry.Endpoints});
+    rows.push_back({VisibleText(Filled(Tr("Port %1: %2"), {std::to_string(entry.Number), entry.Endpoints})),
+                    entry.Endpoints});
   }
   return std::exchange(m_rows, std::move(rows)) != m_rows;
 }
@@ -41,7 +42,7 @@ std::string DeviceChoices::NumbersOf(std::string_view device) const {
     if (endpoints != nullptr && std::any_of(endpoints->begin(), endpoints->end(), [&](const Endpoint& one) {
           return one.What == Endpoint::Kind::Device && one.Path == device;
         })) {
-      return " (port " + std::to_string(entry.Number) + ")";
+      return Filled(Tr(" (port %1)"), {std::to_string(entry.Number)});
     }
   }
   return {};
@@ -49,7 +50,7 @@ std::string DeviceChoices::NumbersOf(std::string_view device) const {
 
 std::string DeviceChoices::Wrong(std::string_view text) const {
   if (Trim(text).empty()) {
-    return "Choose a device of the list, or type one.";
+    return Tr("Choose a device of the list, or type one.");
   }
   const auto parsed = ParseEndpoints(text, m_exists);
   const auto* wrong = std::get_if<std::string>(&parsed);
@@ -63,7 +64,7 @@ std::string DeviceChoices::Remark(std::string_view text) const {
     for (const Endpoint& one : *endpoints) {
       const bool onDisk = one.What == Endpoint::Kind::Device || one.What == Endpoint::Kind::File;
       if (onDisk && !m_exists(one.Path)) {
-        remark += (remark.empty() ? "" : "; ") + one.Path + " is not there now";
+        remark += (remark.empty() ? "" : "; ") + Filled(Tr("%1 is not there now"), {one.Path});
       }
     }
   }

@@ -6,6 +6,8 @@
 #include <utility>
 
 #include "options/OptionControlsQt.h"
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 #include "platform/WindowDialogsQt.h"
 
 namespace veerwatch {
@@ -17,9 +19,9 @@ constexpr int kLookInterval = 1000;  // [ms]
 constexpr int kWidth = 84;
 constexpr int kRows = 4;
 
-constexpr const char* kForms =
+constexpr const char* kForms = TrMark(
     "As /dev/ttyUSB0?baud=38400, tcp://host:10110, udp://:10110, tcp-listen://:10110 or "
-    "file:///home/me/log.nmea. Several, with a comma and a blank between them, are one port.";
+    "file:///home/me/log.nmea. Several, with a comma and a blank between them, are one port.");
 
 }  // namespace
 
@@ -38,13 +40,14 @@ DeviceDialogQt::DeviceDialogQt(Question question, QWidget* window)
       txtDevice(new QLineEdit(this)),
       lblDeviceRemark(new QLabel(this)) {
   setObjectName(QStringLiteral("dlgDevice"));
-  setWindowTitle(QStringLiteral("Veerwatch - Device"));
+  setWindowTitle(TrQ("Veerwatch - Device"));
   setAttribute(Qt::WA_DeleteOnClose);
   // As large as those of its window.
   setFont(window->font());
-  NameControl(*lstDevices, "lstDevices", "Serial ports that are plugged in, and what the profile names");
-  NameControl(*txtDevice, "txtDevice", "The device or endpoint of the port");
-  NameControl(*lblDeviceRemark, "lblDeviceRemark", "What is wrong with the device or endpoint");
+  NameControl(*lstDevices, "lstDevices",
+              TrMark("Serial ports that are plugged in, and what the profile names"));
+  NameControl(*txtDevice, "txtDevice", TrMark("The device or endpoint of the port"));
+  NameControl(*lblDeviceRemark, "lblDeviceRemark", TrMark("What is wrong with the device or endpoint"));
   // Names of devices are long, and what follows them tells them apart.
   lstDevices->setWordWrap(true);
   lstDevices->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

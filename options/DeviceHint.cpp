@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 namespace {
@@ -18,7 +20,7 @@ bool IsDevice(std::string_view text) {
 std::string DeviceHint(const OptionsForm& form) {
   for (const std::string* text : {&form.NmeaPort, &form.PilotPort}) {
     if (IsDevice(*text)) {
-      return "Comm takes the number of a port. Choose its device with \"Device...\" beside it.";
+      return Tr("Comm takes the number of a port. Choose its device with \"Device...\" beside it.");
     }
   }
   return {};

@@ -1,5 +1,7 @@
 #include "options/LoopDiagram.h"
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 namespace {
@@ -29,7 +31,7 @@ constexpr double kMargin = Grid(12);
 constexpr double kTitle = Grid(33);
 
 PlacedText BoxAt(double x, double middle, double width, const char* text) {
-  return {text, {x, middle - kHigh / 2.0, width, kHigh}, kTextSize, PlacedText::Side::Middle};
+  return {Tr(text), {x, middle - kHigh / 2.0, width, kHigh}, kTextSize, PlacedText::Side::Middle};
 }
 
 /// A frame around two boxes, with its title.
@@ -38,7 +40,7 @@ void AddCircuit(LoopDiagram& diagram, const Box& left, const Box& right, const c
                   kHigh + kTitle + kMargin};
   diagram.Circuits.push_back(frame);
   diagram.Titles.push_back(
-      {title, {frame.X, frame.Y, frame.Width, kTitle}, kTextSize, PlacedText::Side::Middle});
+      {Tr(title), {frame.X, frame.Y, frame.Width, kTitle}, kTextSize, PlacedText::Side::Middle});
 }
 
 DiagramArrow RightArrow(double from, double to, double y) { return {{{from, y}, {to, y}}, "Right"}; }
@@ -70,13 +72,13 @@ LoopDiagram LoopDiagramMade() {
   constexpr double kEdge = Grid(12);
   LoopDiagram diagram;
   diagram.Boxes = {
-      BoxAt(kEdge, kMain, kAngleWidth, "Current Wind Angle"),
-      BoxAt(kDifference - kAngleWidth / 2.0, kOvershoot, kAngleWidth, "Desired Wind Angle"),
-      BoxAt(kParting + Grid(28), kOvershoot, kScaleWidth, "Scale"),
-      BoxAt(kParting + Grid(28) + kScaleWidth + kGap, kOvershoot, kSumWidth, "Accumulator"),
-      BoxAt(kSum + Grid(39), kMain, kScaleWidth, "Scale"),
-      BoxAt(kSum + Grid(39) + kScaleWidth + kGap, kMain, kSumWidth, "Accumulator"),
-      BoxAt(kSum + Grid(39) + kScaleWidth + kGap + kSumWidth + Grid(38), kMain, Grid(90), "Bearing")};
+      BoxAt(kEdge, kMain, kAngleWidth, TrMark("Current Wind Angle")),
+      BoxAt(kDifference - kAngleWidth / 2.0, kOvershoot, kAngleWidth, TrMark("Desired Wind Angle")),
+      BoxAt(kParting + Grid(28), kOvershoot, kScaleWidth, TrMark("Scale")),
+      BoxAt(kParting + Grid(28) + kScaleWidth + kGap, kOvershoot, kSumWidth, TrMark("Accumulator")),
+      BoxAt(kSum + Grid(39), kMain, kScaleWidth, TrMark("Scale")),
+      BoxAt(kSum + Grid(39) + kScaleWidth + kGap, kMain, kSumWidth, TrMark("Accumulator")),
+      BoxAt(kSum + Grid(39) + kScaleWidth + kGap + kSumWidth + Grid(38), kMain, Grid(90), TrMark("Bearing"))};
   const Box current = diagram.Boxes[0].Place;
   const Box desired = diagram.Boxes[1].Place;
   const Box overshootScale = diagram.Boxes[2].Place;
@@ -88,8 +90,8 @@ LoopDiagram LoopDiagramMade() {
   diagram.Width = bearing.Right() + kEdge;
   diagram.Height = kBack + kEdge;
   diagram.TextSize = kTextSize;
-  AddCircuit(diagram, trackingScale, trackingSum, "Tracking Circuit");
-  AddCircuit(diagram, overshootScale, overshootSum, "Overshoot Circuit");
+  AddCircuit(diagram, trackingScale, trackingSum, TrMark("Tracking Circuit"));
+  AddCircuit(diagram, overshootScale, overshootSum, TrMark("Overshoot Circuit"));
   diagram.Junctions = {{{kDifference, kMain}, kRadius}, {{kSum, kMain}, kRadius}};
   diagram.Parting = {{kParting, kMain}, 2.4};
   AddSigns(diagram);

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "draw/DrawQt.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -35,11 +36,11 @@ void Write(QPainter& painter, const PlacedText& text, int flags) {
 
 LoopDiagramQt::LoopDiagramQt(QWidget* parent) : QWidget(parent) {
   setObjectName(QStringLiteral("pctDiagram"));
-  setAccessibleName(QStringLiteral("Diagram of the control loop"));
-  setAccessibleDescription(QStringLiteral(
-      "The current less the desired wind angle goes to the tracking circuit, which scales it and "
-      "accumulates it into the bearing. The overshoot circuit scales and accumulates the same difference "
-      "and adds it in front of the tracking circuit."));
+  setAccessibleName(TrQ("Diagram of the control loop"));
+  setAccessibleDescription(
+      TrQ("The current less the desired wind angle goes to the tracking circuit, which scales it and "
+          "accumulates it into the bearing. The overshoot circuit scales and accumulates the same difference "
+          "and adds it in front of the tracking circuit."));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 

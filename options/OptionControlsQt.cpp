@@ -4,6 +4,8 @@
 #include <QFontMetrics>
 #include <QScreen>
 
+#include "platform/LanguageQt.h"
+
 namespace veerwatch {
 
 namespace {
@@ -16,8 +18,8 @@ constexpr double kScreenShare = 0.9;
 
 void NameControl(QWidget& control, const char* name, const char* hint) {
   control.setObjectName(QLatin1String(name));
-  control.setToolTip(QLatin1String(hint));
-  control.setAccessibleDescription(QLatin1String(hint));
+  control.setToolTip(TrQ(hint));
+  control.setAccessibleDescription(TrQ(hint));
 }
 
 OptionEntryQt::OptionEntryQt(const char* name, const char* hint, QWidget* parent) : EntryLineQt(parent) {
@@ -47,7 +49,7 @@ void ReadEntries(const std::vector<BoundEntry>& entries, OptionsForm& form) {
 
 OptionResultQt::OptionResultQt(const char* name, const char* hint, QWidget* parent) : QLabel(parent) {
   NameControl(*this, name, hint);
-  setAccessibleName(QLatin1String(hint));
+  setAccessibleName(TrQ(hint));
   setTextFormat(Qt::PlainText);
   setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Sunken));
@@ -61,14 +63,14 @@ QSize OptionResultQt::sizeHint() const {
 }
 
 QLabel* NewCaption(const char* text, QWidget* control, QWidget* parent) {
-  auto* caption = new QLabel(QLatin1String(text), parent);
+  auto* caption = new QLabel(TrQ(text), parent);
   caption->setBuddy(control);
-  control->setAccessibleName(QString::fromLatin1(text).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+  control->setAccessibleName(TrQ(text).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
   return caption;
 }
 
 QLabel* NewText(const char* text, QWidget* parent) {
-  auto* label = new QLabel(QLatin1String(text), parent);
+  auto* label = new QLabel(TrQ(text), parent);
   label->setTextFormat(Qt::PlainText);
   return label;
 }

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -10,15 +11,15 @@ namespace veerwatch {
 std::string_view FaultText(OptionFault fault) {
   switch (fault) {
     case OptionFault::TypeMismatch:
-      return "Type mismatch";
+      return TrMark("Type mismatch");
     case OptionFault::Overflow:
-      return "Overflow";
+      return TrMark("Overflow");
     case OptionFault::SmallCount:
-      return "Must be 0 or above 0.5";
+      return TrMark("Must be 0 or above 0.5");
     case OptionFault::InvalidValue:
       break;
   }
-  return "Invalid property value";
+  return TrMark("Invalid property value");
 }
 
 Converted<float> ToOptionSingle(std::string_view text) {

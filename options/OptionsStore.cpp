@@ -5,6 +5,7 @@
 
 #include "options/PilotChoices.h"
 #include "options/SimulateTimeText.h"
+#include "platform/Language.h"
 #include "platform/PortNames.h"
 #include "settings/SettingsTable.h"
 
@@ -29,17 +30,16 @@ std::optional<std::string> OptionsStore::Store(const OptionsForm& form) {
     const char* Name;
     Fault (OptionsStore::*Store)(const OptionsForm&);
   };
-  constexpr std::array<Group, 6> kGroups{{{"Data", &OptionsStore::StoreData},
-                                          {"Input", &OptionsStore::StoreInput},
-                                          {"Output", &OptionsStore::StoreOutput},
-                                          {"Simulate", &OptionsStore::StoreSimulate},
-                                          {"Tracking", &OptionsStore::StoreTracking},
-                                          {"Watch", &OptionsStore::StoreWatch}}};
+  constexpr std::array<Group, 6> kGroups{{{TrMark("Data"), &OptionsStore::StoreData},
+                                          {TrMark("Input"), &OptionsStore::StoreInput},
+                                          {TrMark("Output"), &OptionsStore::StoreOutput},
+                                          {TrMark("Simulate"), &OptionsStore::StoreSimulate},
+                                          {TrMark("Tracking"), &OptionsStore::StoreTracking},
+                                          {TrMark("Watch"), &OptionsStore::StoreWatch}}};
   for (const Group& group : kGroups) {
     if (const Fault fault = (this->*group.Store)(form)) {
-      std::string message(group.Name);
-      message.append(" Options Problem ").append(FaultText(fault->Kind)).append(": ").append(fault->Box);
-      return message;
+      return Filled(Tr("%1 Options Problem %2: %3"),
+                    {Tr(group.Name), Tr(FaultText(fault->Kind)), Tr(fault->Box)});
     }
   }
   return std::nullopt;
@@ -86,12 +86,12 @@ OptionsStore::Fault OptionsStore::In(const char* box, std::optional<OptionFault>
 }
 
 OptionsStore::Fault OptionsStore::StoreInput(const OptionsForm& form) {
-  return In("Comm", StorePort(form, form.NmeaPort, m_ports.NmeaPortOpen(), m_main.m_iNmeaPort));
+  return In(TrMark("Comm"), StorePort(form, form.NmeaPort, m_ports.NmeaPortOpen(), m_main.m_iNmeaPort));
 }
 
 OptionsStore::Fault OptionsStore::StoreOutput(const OptionsForm& form) {
   if (const Fault fault =
-          In("Comm", StorePort(form, form.PilotPort, m_ports.PilotPortOpen(), m_main.m_iPilotPort))) {
+          In(TrMark("Comm"), StorePort(form, form.PilotPort, m_ports.PilotPortOpen(), m_main.m_iPilotPort))) {
     return fault;
   }
   if (const auto box = PilotChoicesStore(form, m_main)) {
@@ -147,7 +147,7 @@ OptionsStore::Fault OptionsStore::StoreSimulate(const OptionsForm& form) {
   if (const Fault fault = StoreBoxes(OptionGroup::SimulateBoat, form)) {
     return fault;
   }
-  if (const Fault fault = In("Time", StoreTime(form.SimulateTime))) {
+  if (const Fault fault = In(TrMark("Time"), StoreTime(form.SimulateTime))) {
     return fault;
   }
   return StoreBoxes(OptionGroup::SimulateScene, form);

@@ -7,6 +7,7 @@
 #include "pilot/LineLoad.h"
 #include "pilot/PilotForm.h"
 #include "pilot/PilotSentences.h"
+#include "platform/Language.h"
 #include "settings/TextRule.h"
 
 namespace veerwatch {
@@ -22,8 +23,8 @@ struct OwnText {
   const TextRule& Rule;
 };
 const std::array<OwnText, 2> kOwnTexts{
-    {{"Talker", &OptionsForm::PilotOwnTalker, &Settings::m_sPilotOwnTalker, kTalker},
-     {"Point", &OptionsForm::PilotOwnPoint, &Settings::m_sPilotOwnPoint, kPointName}}};
+    {{TrMark("Talker"), &OptionsForm::PilotOwnTalker, &Settings::m_sPilotOwnTalker, kTalker},
+     {TrMark("Point"), &OptionsForm::PilotOwnPoint, &Settings::m_sPilotOwnPoint, kPointName}}};
 
 }  // namespace
 
@@ -67,7 +68,7 @@ PilotPreview PilotPreviewOf(const OptionsForm& form, const Settings& settings, c
   Settings chosen = settings;
   PilotPreview preview;
   if (const auto unfinished = PilotChoicesStore(form, chosen)) {
-    preview.Note = std::string(*unfinished) + " is not whole";
+    preview.Note = Filled(Tr("%1 is not whole"), {Tr(*unfinished)});
     preview.Warns = true;
     return preview;
   }

@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 #include "settings/TextRule.h"
 
 namespace veerwatch {
@@ -42,7 +44,7 @@ QComboBox* NewChoice(const char* name, const char* hint, const QStringList& item
 QStringList Profiles() {
   QStringList names;
   for (const std::string_view name : kPilotProfiles) {
-    names << QString::fromLatin1(name.data(), static_cast<qsizetype>(name.size()));
+    names << TrQ(name);
   }
   return names;
 }
@@ -69,27 +71,30 @@ void AddPair(QHBoxLayout& row, QLabel* caption, QWidget* control) {
 }  // namespace
 
 PilotFrameQt::PilotFrameQt(QWidget* parent)
-    : QGroupBox(QStringLiteral("Autopilot"), parent),
-      cmbPilotProfile(NewChoice("cmbPilotProfile", "What the pilot is sent", Profiles(), this)),
-      cmbPilotCadence(NewChoice(
-          "cmbPilotCadence",
-          "How often the bearing is sent: with each wind, or by the clock while it is good",
-          {QStringLiteral("Each wind"), QStringLiteral("1 a second"), QStringLiteral("2 a second"),
-           QStringLiteral("3 a second"), QStringLiteral("4 a second"), QStringLiteral("5 a second")},
-          this)),
-      txtPilotOwnTalker(new OptionEntryQt("txtPilotOwnTalker", "Own: the two letters in front", this)),
-      cmbPilotOwnBearing(NewChoice("cmbPilotOwnBearing", "Own: the bearings of APB are magnetic or true",
+    : QGroupBox(TrQ("Autopilot"), parent),
+      cmbPilotProfile(NewChoice("cmbPilotProfile", TrMark("What the pilot is sent"), Profiles(), this)),
+      cmbPilotCadence(
+          NewChoice("cmbPilotCadence",
+                    TrMark("How often the bearing is sent: with each wind, or by the clock while it is good"),
+                    {TrQ("Each wind"), TrQ("1 a second"), TrQ("2 a second"), TrQ("3 a second"),
+                     TrQ("4 a second"), TrQ("5 a second")},
+                    this)),
+      txtPilotOwnTalker(
+          new OptionEntryQt("txtPilotOwnTalker", TrMark("Own: the two letters in front"), this)),
+      cmbPilotOwnBearing(NewChoice("cmbPilotOwnBearing",
+                                   TrMark("Own: the bearings of APB are magnetic or true"),
                                    {QStringLiteral("M"), QStringLiteral("T")}, this)),
-      cmbPilotOwnFields(NewChoice("cmbPilotOwnFields", "Own: fields of APB; the fifteenth is the mode A",
+      cmbPilotOwnFields(NewChoice("cmbPilotOwnFields",
+                                  TrMark("Own: fields of APB; the fifteenth is the mode A"),
                                   {QStringLiteral("14"), QStringLiteral("15")}, this)),
-      cmbPilotOwnDecimals(NewChoice("cmbPilotOwnDecimals", "Own: decimals of the bearings",
+      cmbPilotOwnDecimals(NewChoice("cmbPilotOwnDecimals", TrMark("Own: decimals of the bearings"),
                                     {QStringLiteral("0"), QStringLiteral("1")}, this)),
-      txtPilotOwnPoint(new OptionEntryQt("txtPilotOwnPoint",
-                                         "Own: name of the point, 6 letters and digits at most", this)),
-      chkPilotInvalidWhenLost(new QCheckBox(QStringLiteral("Invalid when &lost, for"), this)),
-      txtPilotInvalidSeconds(new OptionEntryQt("txtPilotInvalidSeconds",
-                                               "So long the status is V, then nothing is sent (sec)", this)),
-      cmdPilotTest(new QPushButton(QStringLiteral("Test &Pilot..."), this)),
+      txtPilotOwnPoint(new OptionEntryQt(
+          "txtPilotOwnPoint", TrMark("Own: name of the point, 6 letters and digits at most"), this)),
+      chkPilotInvalidWhenLost(new QCheckBox(TrQ("Invalid when &lost, for"), this)),
+      txtPilotInvalidSeconds(new OptionEntryQt(
+          "txtPilotInvalidSeconds", TrMark("So long the status is V, then nothing is sent (sec)"), this)),
+      cmdPilotTest(new QPushButton(TrQ("Test &Pilot..."), this)),
       lblPilotSentences(new QLabel(this)),
       lblPilotNote(new QLabel(this)) {
   NameControls();
@@ -111,15 +116,15 @@ void PilotFrameQt::NameControls() {
   txtPilotOwnPoint->setValidator(new RuleValidatorQt(kPointName, this));
   for (std::size_t i = 0; i < Sends.size(); ++i) {
     Sends[i] = new QCheckBox(QLatin1String(kSends[i].Caption), this);
-    NameControl(*Sends[i], kSends[i].Name, "Own: whether this sentence is sent");
+    NameControl(*Sends[i], kSends[i].Name, TrMark("Own: whether this sentence is sent"));
   }
   NameControl(*chkPilotInvalidWhenLost, "chkPilotInvalidWhenLost",
-              "When no bearing is good the pilot is told so; otherwise nothing is sent at once");
+              TrMark("When no bearing is good the pilot is told so; otherwise nothing is sent at once"));
   NameControl(*cmdPilotTest, "cmdPilotTest",
-              "Turns the boat by 10 degrees and back, and says how the pilot answers; in Manual");
+              TrMark("Turns the boat by 10 degrees and back, and says how the pilot answers; in Manual"));
   cmdPilotTest->setAutoDefault(false);
-  NameControl(*lblPilotSentences, "lblPilotSentences", "What would leave now");
-  NameControl(*lblPilotNote, "lblPilotNote", "What does not leave, or how full the line is");
+  NameControl(*lblPilotSentences, "lblPilotSentences", TrMark("What would leave now"));
+  NameControl(*lblPilotNote, "lblPilotNote", TrMark("What does not leave, or how full the line is"));
   for (QLabel* label : {lblPilotSentences, lblPilotNote}) {
     label->setAccessibleName(label->toolTip());
     label->setTextFormat(Qt::PlainText);
@@ -132,8 +137,8 @@ void PilotFrameQt::NameControls() {
 
 QLayout* PilotFrameQt::ProfileRow() {
   auto* row = new QHBoxLayout;
-  AddPair(*row, NewCaption("P&rofile:", cmbPilotProfile, this), cmbPilotProfile);
-  AddPair(*row, NewCaption("Cadenc&e:", cmbPilotCadence, this), cmbPilotCadence);
+  AddPair(*row, NewCaption(TrMark("P&rofile:"), cmbPilotProfile, this), cmbPilotProfile);
+  AddPair(*row, NewCaption(TrMark("Cadenc&e:"), cmbPilotCadence, this), cmbPilotCadence);
   row->addStretch();
   row->addWidget(cmdPilotTest);
   return row;
@@ -141,18 +146,18 @@ QLayout* PilotFrameQt::ProfileRow() {
 
 QLayout* PilotFrameQt::OwnRow() {
   auto* row = new QHBoxLayout;
-  AddPair(*row, NewCaption("Talker:", txtPilotOwnTalker, this), txtPilotOwnTalker);
-  AddPair(*row, NewCaption("Bearings:", cmbPilotOwnBearing, this), cmbPilotOwnBearing);
-  AddPair(*row, NewCaption("Fields:", cmbPilotOwnFields, this), cmbPilotOwnFields);
-  AddPair(*row, NewCaption("Decimals:", cmbPilotOwnDecimals, this), cmbPilotOwnDecimals);
-  AddPair(*row, NewCaption("Point:", txtPilotOwnPoint, this), txtPilotOwnPoint);
+  AddPair(*row, NewCaption(TrMark("Talker:"), txtPilotOwnTalker, this), txtPilotOwnTalker);
+  AddPair(*row, NewCaption(TrMark("Bearings:"), cmbPilotOwnBearing, this), cmbPilotOwnBearing);
+  AddPair(*row, NewCaption(TrMark("Fields:"), cmbPilotOwnFields, this), cmbPilotOwnFields);
+  AddPair(*row, NewCaption(TrMark("Decimals:"), cmbPilotOwnDecimals, this), cmbPilotOwnDecimals);
+  AddPair(*row, NewCaption(TrMark("Point:"), txtPilotOwnPoint, this), txtPilotOwnPoint);
   row->addStretch();
   return row;
 }
 
 QLayout* PilotFrameQt::SendsRow() {
   auto* row = new QHBoxLayout;
-  row->addWidget(NewText("Sends:", this));
+  row->addWidget(NewText(TrMark("Sends:"), this));
   for (QCheckBox* each : Sends) {
     row->addWidget(each);
   }
@@ -164,7 +169,7 @@ QLayout* PilotFrameQt::InvalidRow() {
   auto* row = new QHBoxLayout;
   row->addWidget(chkPilotInvalidWhenLost);
   row->addWidget(txtPilotInvalidSeconds);
-  row->addWidget(NewText("sec", this));
+  row->addWidget(NewText(TrMark("sec"), this));
   row->addStretch();
   return row;
 }

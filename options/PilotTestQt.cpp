@@ -8,6 +8,8 @@
 
 #include "options/OptionControlsQt.h"
 #include "options/PilotTestWords.h"
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -27,7 +29,7 @@ QLabel* NewLines(const char* name, QWidget* parent) {
 }  // namespace
 
 void PilotTestQt::Ask(const Parts& parts, TakeOver takeOver) {
-  const std::string title = "Veerwatch - Test Pilot";
+  const std::string title = Tr("Veerwatch - Test Pilot");
   const auto over = [told = parts.Over](const std::string& verdict) {
     if (told) {
       told(verdict);
@@ -58,20 +60,20 @@ PilotTestQt::PilotTestQt(const Parts& parts, TakeOver takeOver)
       lblPilotTest(NewLines("lblPilotTest", this)),
       lblPilotTestAdvice(NewLines("lblPilotTestAdvice", this)),
       ProgressBarPilotTest(new QProgressBar(this)),
-      cmdPilotTestTake(new QPushButton(QStringLiteral("&Take Over"), this)),
-      cmdPilotTestCancel(new QPushButton(QStringLiteral("Cancel"), this)),
+      cmdPilotTestTake(new QPushButton(TrQ("&Take Over"), this)),
+      cmdPilotTestCancel(new QPushButton(TrQ("Cancel"), this)),
       m_run(parts.Main, parts.Time, [this] { Show(); }) {
   setObjectName(QStringLiteral("PilotTest"));
   setFont(parts.Window.font());
-  setWindowTitle(QStringLiteral("Veerwatch - Test Pilot"));
+  setWindowTitle(TrQ("Veerwatch - Test Pilot"));
   setAttribute(Qt::WA_DeleteOnClose);
   parts.Window.installEventFilter(this);
   ProgressBarPilotTest->setObjectName(QStringLiteral("ProgressBarPilotTest"));
   ProgressBarPilotTest->setRange(0, kWhole);
   ProgressBarPilotTest->setTextVisible(false);
   NameControl(*cmdPilotTestTake, "cmdPilotTestTake",
-              "Puts the lag and the suggestion into the boxes of the Tracking tab; Apply stores it");
-  NameControl(*cmdPilotTestCancel, "cmdPilotTestCancel", "Ends the test with the bearing of before");
+              TrMark("Puts the lag and the suggestion into the boxes of the Tracking tab; Apply stores it"));
+  NameControl(*cmdPilotTestCancel, "cmdPilotTestCancel", TrMark("Ends the test with the bearing of before"));
   cmdPilotTestTake->setAutoDefault(false);
   cmdPilotTestTake->setEnabled(false);
   connect(cmdPilotTestCancel, &QPushButton::clicked, this, [this] { reject(); });
@@ -108,7 +110,7 @@ void PilotTestQt::Show() {
     return;
   }
   ProgressBarPilotTest->hide();
-  cmdPilotTestCancel->setText(QStringLiteral("Close"));
+  cmdPilotTestCancel->setText(TrQ("Close"));
   if (m_run.Test().At() == PilotTest::Stage::Done) {
     ShowResult();
   } else {
@@ -118,7 +120,7 @@ void PilotTestQt::Show() {
 
 std::string PilotTestQt::Verdict() const {
   return m_run.Test().At() == PilotTest::Stage::Done ? PilotTestWords(m_run.Test().Result())
-                                                     : "The test has ended: " + m_run.Ended();
+                                                     : Filled(Tr("The test has ended: %1"), {m_run.Ended()});
 }
 
 void PilotTestQt::ShowResult() {

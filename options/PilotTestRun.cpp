@@ -2,26 +2,28 @@
 
 #include <utility>
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 std::string PilotTestHindrance(const HelmNow& now) {
   if (now.Mode != TrackMode::Manual) {
-    return "The pilot can be tested in Manual only: in any other mode the bearing is not yours.";
+    return Tr("The pilot can be tested in Manual only: in any other mode the bearing is not yours.");
   }
   if (!now.TakesBearing) {
-    return "The pilot holds the wind by itself: it takes no bearing that could be tested.";
+    return Tr("The pilot holds the wind by itself: it takes no bearing that could be tested.");
   }
   if (now.Hand != PilotHand::User) {
-    return "A turn has the pilot.";
+    return Tr("A turn has the pilot.");
   }
   if (!now.InputStarted || !now.InputOpen || now.WindLost) {
-    return "No wind comes, and without it nothing is sent.";
+    return Tr("No wind comes, and without it nothing is sent.");
   }
   if (!now.OutputOpen) {
-    return "The port of the pilot is not open.";
+    return Tr("The port of the pilot is not open.");
   }
   if (!now.Heading || now.Watch.Of(Watched::Heading).Gone()) {
-    return "No heading comes that would show what the boat does.";
+    return Tr("No heading comes that would show what the boat does.");
   }
   return {};
 }
@@ -45,7 +47,7 @@ void PilotTestRun::OnTick() {
     return;
   }
   if (m_main.Now().Watch.Of(Watched::Heading).Gone()) {
-    End("No Heading");
+    End(Tr("No Heading"));
     return;
   }
   const float before = m_test.Bearing();
@@ -81,7 +83,7 @@ void PilotTestRun::OnTurnEnds(TurnFate why) {
   if (why != TurnFate::Taken) {
     m_main.PilotSendNow();
   }
-  m_ended = why == TurnFate::Taken ? "Somebody else took the pilot" : std::string(TurnFateText(why));
+  m_ended = why == TurnFate::Taken ? Tr("Somebody else took the pilot") : Tr(TurnFateText(why));
   m_changed();
 }
 

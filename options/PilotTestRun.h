@@ -8,6 +8,7 @@
 #include "control/PilotTest.h"
 #include "helm/MainWindowApi.h"
 #include "platform/Clock.h"
+#include "platform/Language.h"
 
 namespace veerwatch {
 
@@ -26,7 +27,7 @@ class PilotTestRun final : private HelmObserver {
   /// Begins, where nothing hinders it.
   void Begin();
   /// Ends a test that runs.
-  void Stop() { End("Stopped"); }
+  void Stop() { End(Tr("Stopped")); }
 
   bool Running() const { return m_test.Runs(); }
   const PilotTest& Test() const { return m_test; }

@@ -5,12 +5,15 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
+
 namespace veerwatch {
 
 namespace {
 
 QRadioButton* NewOption(const char* caption, const PortPageTexts::Control& texts, QWidget* parent) {
-  auto* option = new QRadioButton(QLatin1String(caption), parent);
+  auto* option = new QRadioButton(TrQ(caption), parent);
   NameControl(*option, texts.Name, texts.Hint);
   return option;
 }
@@ -18,7 +21,7 @@ QRadioButton* NewOption(const char* caption, const PortPageTexts::Control& texts
 /// Names a text that the ports write.
 void NameText(QLabel& label, const PortPageTexts::Control& texts) {
   NameControl(label, texts.Name, texts.Hint);
-  label.setAccessibleName(QLatin1String(texts.Hint));
+  label.setAccessibleName(TrQ(texts.Hint));
   label.setTextFormat(Qt::PlainText);
 }
 
@@ -39,51 +42,51 @@ QHBoxLayout* OptionRow(const std::array<QRadioButton*, 2>& options, QWidget* par
 
 const PortPageTexts& InputPageTexts() {
   static constexpr PortPageTexts kTexts{
-      {"txtNmeaPort", "Input Comm Port"},
-      {"cmdNmeaDevice", "Choose the device or the endpoint that the Input Comm Port leads to"},
-      {"lblNmeaDevice", "Where the Input Comm Port leads"},
-      {"lblNmeaStatus", "Input Comm Status"},
-      {"lblNmeaReason", "Why the Input Comm Port is not open"},
-      {"optNmeaListOff", "Input Display Comm Data - Off"},
-      {"optNmeaListOn", "Input Display Comm Data - On"},
+      {"txtNmeaPort", TrMark("Input Comm Port")},
+      {"cmdNmeaDevice", TrMark("Choose the device or the endpoint that the Input Comm Port leads to")},
+      {"lblNmeaDevice", TrMark("Where the Input Comm Port leads")},
+      {"lblNmeaStatus", TrMark("Input Comm Status")},
+      {"lblNmeaReason", TrMark("Why the Input Comm Port is not open")},
+      {"optNmeaListOff", TrMark("Input Display Comm Data - Off")},
+      {"optNmeaListOn", TrMark("Input Display Comm Data - On")},
       // Deliberate: "Nema".
-      {"lstNmeaData", "Input Nema Data, Highlighted indicates Decoded Data"},
-      {"chkNmeaPause", "Hold the list still; what comes meanwhile is added afterwards"},
-      {"cmdNmeaCopy", "Copy every line of the list to the clipboard"},
-      {{{"optNmeaDataFormat(1)", "Display Data Format - Raw NMEA"},
-        {"optNmeaDataFormat(2)", "Display Data Format - Decoded Error"}}},
-      {"&Raw NMEA", "D&ecoded Error"},
-      {"cmbNmeaType", "Display one type of sentence only"}};
+      {"lstNmeaData", TrMark("Input Nema Data, Highlighted indicates Decoded Data")},
+      {"chkNmeaPause", TrMark("Hold the list still; what comes meanwhile is added afterwards")},
+      {"cmdNmeaCopy", TrMark("Copy every line of the list to the clipboard")},
+      {{{"optNmeaDataFormat(1)", TrMark("Display Data Format - Raw NMEA")},
+        {"optNmeaDataFormat(2)", TrMark("Display Data Format - Decoded Error")}}},
+      {TrMark("&Raw NMEA"), TrMark("D&ecoded Error")},
+      {"cmbNmeaType", TrMark("Display one type of sentence only")}};
   return kTexts;
 }
 
 const PortPageTexts& OutputPageTexts() {
   // Deliberate: "OptPilotListOff" begins with a capital letter.
   static constexpr PortPageTexts kTexts{
-      {"txtPilotPort", "Output Comm Port"},
-      {"cmdPilotDevice", "Choose the device or the endpoint that the Output Comm Port leads to"},
-      {"lblPilotDevice", "Where the Output Comm Port leads"},
-      {"lblPilotStatus", "Output Comm Status"},
-      {"lblPilotReason", "Why the Output Comm Port is not open"},
-      {"OptPilotListOff", "Output Display Comm Data - Off"},
-      {"optPilotListOn", "Output Display Comm Data - On"},
-      {"lstPilotData", "Output Nema Data"},
-      {"chkPilotPause", "Hold the list still; what comes meanwhile is added afterwards"},
-      {"cmdPilotCopy", "Copy every line of the list to the clipboard"}};
+      {"txtPilotPort", TrMark("Output Comm Port")},
+      {"cmdPilotDevice", TrMark("Choose the device or the endpoint that the Output Comm Port leads to")},
+      {"lblPilotDevice", TrMark("Where the Output Comm Port leads")},
+      {"lblPilotStatus", TrMark("Output Comm Status")},
+      {"lblPilotReason", TrMark("Why the Output Comm Port is not open")},
+      {"OptPilotListOff", TrMark("Output Display Comm Data - Off")},
+      {"optPilotListOn", TrMark("Output Display Comm Data - On")},
+      {"lstPilotData", TrMark("Output Nema Data")},
+      {"chkPilotPause", TrMark("Hold the list still; what comes meanwhile is added afterwards")},
+      {"cmdPilotCopy", TrMark("Copy every line of the list to the clipboard")}};
   return kTexts;
 }
 
 PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
     : QWidget(parent),
       Port(new OptionEntryQt(texts.Port.Name, texts.Port.Hint, this)),
-      Choose(new QPushButton(QStringLiteral("De&vice..."), this)),
+      Choose(new QPushButton(TrQ("De&vice..."), this)),
       Device(new QLabel(this)),
       Status(new QLabel(this)),
       Reason(new QLabel(this)),
-      ListOff(NewOption("Of&f", texts.ListOff, this)),
-      ListOn(NewOption("O&n", texts.ListOn, this)),
-      Pause(new QCheckBox(QStringLiteral("Pa&use"), this)),
-      Copy(new QPushButton(QStringLiteral("Cop&y All"), this)),
+      ListOff(NewOption(TrMark("Of&f"), texts.ListOff, this)),
+      ListOn(NewOption(TrMark("O&n"), texts.ListOn, this)),
+      Pause(new QCheckBox(TrQ("Pa&use"), this)),
+      Copy(new QPushButton(TrQ("Cop&y All"), this)),
       List(new LiveListQt(texts.List.Name, texts.List.Hint, this)),
       m_rows(new QGridLayout) {
   NameControl(*Choose, texts.Choose.Name, texts.Choose.Hint);
@@ -105,11 +108,11 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
   port->addWidget(Reason, 1);
   port->addStretch();
   m_rows->setColumnStretch(1, 1);
-  m_rows->addWidget(NewCaption("&Comm:", Port, this), 0, 0);
+  m_rows->addWidget(NewCaption(TrMark("&Comm:"), Port, this), 0, 0);
   m_rows->addLayout(port, 0, 1);
-  m_rows->addWidget(NewText("Leads to:", this), 1, 0);
+  m_rows->addWidget(NewText(TrMark("Leads to:"), this), 1, 0);
   m_rows->addWidget(Device, 1, 1);
-  m_rows->addWidget(NewText("Display:", this), kDisplay, 0);
+  m_rows->addWidget(NewText(TrMark("Display:"), this), kDisplay, 0);
   auto* display = OptionRow({ListOff, ListOn}, this);
   // In front of the room at the end of the row.
   display->insertSpacing(display->count() - 1, kGroupGap);
@@ -117,7 +120,7 @@ PortPageQt::PortPageQt(const PortPageTexts& texts, QWidget* parent)
   display->addWidget(Copy);
   m_rows->addLayout(display, kDisplay, 1);
   if (texts.Format[0].Name != nullptr) {
-    m_rows->addWidget(NewText("Format:", this), kFormat, 0);
+    m_rows->addWidget(NewText(TrMark("Format:"), this), kFormat, 0);
     m_rows->addLayout(FormatRow(texts), kFormat, 1);
   }
   NameControl(*Pause, texts.Pause.Name, texts.Pause.Hint);
@@ -136,9 +139,9 @@ QLayout* PortPageQt::FormatRow(const PortPageTexts& texts) {
   auto* row = OptionRow(Format, this);
   Type = new QComboBox(this);
   NameControl(*Type, texts.Type.Name, texts.Type.Hint);
-  Type->addItem(QStringLiteral("All"));
+  Type->addItem(TrQ("All"));
   Type->setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  row->addWidget(NewCaption("Ty&pe:", Type, this));
+  row->addWidget(NewCaption(TrMark("Ty&pe:"), Type, this));
   row->addWidget(Type);
   List->Model().TypeFound([this] { OfferTypes(); });
   connect(Type, &QComboBox::activated, this,

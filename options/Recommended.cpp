@@ -1,5 +1,6 @@
 #include "options/Recommended.h"
 
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -16,9 +17,9 @@ constexpr float kAlarmAverage = 5.0F;         // [s]
 template <bool Settings::*Truth>
 Recommendation Switch(const char* what, const char* reason) {
   return {what,
-          "on",
+          TrMark("on"),
           reason,
-          [](const Seen& seen) -> std::string { return seen.All.*Truth ? "on" : "off"; },
+          [](const Seen& seen) -> std::string { return seen.All.*Truth ? Tr("on") : Tr("off"); },
           [](const Seen& seen) { return seen.All.*Truth; },
           [](const Now& now) { now.All.*Truth = true; }};
 }
@@ -26,11 +27,11 @@ Recommendation Switch(const char* what, const char* reason) {
 std::string MethodNow(const Seen& seen) {
   switch (seen.All.m_eTrackMethod) {
     case TrackMethod::Direction:
-      return "Direction";
+      return Tr("Direction");
     case TrackMethod::Clock:
-      return "Clock";
+      return Tr("Clock");
     default:
-      return "Sentence";
+      return Tr("Sentence");
   }
 }
 
@@ -40,62 +41,71 @@ void SetDirection(const Now& now) {
 }
 
 std::string CadenceNow(const Seen& seen) {
-  return seen.All.m_iPilotCadence == 0 ? "with each wind"
-                                       : std::to_string(seen.All.m_iPilotCadence) + " a second";
+  return seen.All.m_iPilotCadence == 0
+             ? Tr("with each wind")
+             : Filled(Tr("%1 a second"), {std::to_string(seen.All.m_iPilotCadence)});
 }
 
 std::string AlarmAverageNow(const Seen& seen) {
-  return seen.All.m_fTrackAlarmAverage == 0.0F ? "each sentence by itself"
-                                               : "over " + ShortestText(seen.All.m_fTrackAlarmAverage) + " s";
+  return seen.All.m_fTrackAlarmAverage == 0.0F
+             ? Tr("each sentence by itself")
+             : Filled(Tr("over %1 s"), {ShortestText(seen.All.m_fTrackAlarmAverage)});
 }
 
 std::array<Recommendation, kRecommendationCount> NewRecommendations() {
   return {{
-      {"Tracking method", "Direction",
-       "It holds the wind most closely of the three and needs no tuning; sets the bandwidth to 60 s with it.",
+      {TrMark("Tracking method"), TrMark("Direction"),
+       TrMark("It holds the wind most closely of the three and needs no tuning; sets the bandwidth to 60 s "
+              "with it."),
        MethodNow, [](const Seen& seen) { return seen.All.m_eTrackMethod == TrackMethod::Direction; },
        SetDirection},
-      Switch<&Settings::m_bWatchAct>("The watch acts",
-                                     "What is stale, lost or wrong does not steer; off, it is only told."),
-      {"Alarm sound", "Tone", "A tone is heard until somebody answers; many computers have no beep.",
+      Switch<&Settings::m_bWatchAct>(
+          TrMark("The watch acts"),
+          TrMark("What is stale, lost or wrong does not steer; off, it is only told.")),
+      {TrMark("Alarm sound"), TrMark("Tone"),
+       TrMark("A tone is heard until somebody answers; many computers have no beep."),
        [](const Seen& seen) -> std::string {
-         return seen.All.m_eWatchSound == AlarmSound::Tone ? "Tone" : "Beep";
+         return seen.All.m_eWatchSound == AlarmSound::Tone ? Tr("Tone") : Tr("Beep");
        },
        [](const Seen& seen) { return seen.All.m_eWatchSound == AlarmSound::Tone; },
        [](const Now& now) { now.All.m_eWatchSound = AlarmSound::Tone; }},
-      Switch<&Settings::m_bWatchBlankLost>("Lost values blank",
-                                           "Nobody takes an old figure for one of now: it becomes \"--\"."),
+      Switch<&Settings::m_bWatchBlankLost>(
+          TrMark("Lost values blank"),
+          TrMark("Nobody takes an old figure for one of now: it becomes \"--\".")),
       Switch<&Settings::m_bCarefulEntry>(
-          "Careful entry", "An emptied box does not steer to 0, and a large typed change is asked about."),
-      {"Status V", "Ignore", "An instrument that calls its own value invalid is believed.",
+          TrMark("Careful entry"),
+          TrMark("An emptied box does not steer to 0, and a large typed change is asked about.")),
+      {TrMark("Status V"), TrMark("Ignore"),
+       TrMark("An instrument that calls its own value invalid is believed."),
        [](const Seen& seen) -> std::string {
-         return seen.All.m_eNmeaInvalidStatus == InvalidRule::Ignore ? "Ignore" : "Use";
+         return seen.All.m_eNmeaInvalidStatus == InvalidRule::Ignore ? Tr("Ignore") : Tr("Use");
        },
        [](const Seen& seen) { return seen.All.m_eNmeaInvalidStatus == InvalidRule::Ignore; },
        [](const Now& now) { now.All.m_eNmeaInvalidStatus = InvalidRule::Ignore; }},
-      {"Checksum", "Require",
-       "A damaged sentence can look like a good one; leave it where an old instrument sends no checksum.",
+      {TrMark("Checksum"), TrMark("Require"),
+       TrMark("A damaged sentence can look like a good one; leave it where an old instrument sends no "
+              "checksum."),
        [](const Seen& seen) -> std::string {
-         return seen.All.m_eNmeaChecksum == ChecksumRule::Require ? "Require" : "Accept missing";
+         return seen.All.m_eNmeaChecksum == ChecksumRule::Require ? Tr("Require") : Tr("Accept missing");
        },
        [](const Seen& seen) { return seen.All.m_eNmeaChecksum == ChecksumRule::Require; },
        [](const Now& now) { now.All.m_eNmeaChecksum = ChecksumRule::Require; }},
-      {"Foreign lines", "List", "The lines of an AIS receiver are no errors.",
+      {TrMark("Foreign lines"), TrMark("List"), TrMark("The lines of an AIS receiver are no errors."),
        [](const Seen& seen) -> std::string {
-         return seen.All.m_eNmeaForeignLines == ForeignRule::List ? "List" : "Error";
+         return seen.All.m_eNmeaForeignLines == ForeignRule::List ? Tr("List") : Tr("Error");
        },
        [](const Seen& seen) { return seen.All.m_eNmeaForeignLines == ForeignRule::List; },
        [](const Now& now) { now.All.m_eNmeaForeignLines = ForeignRule::List; }},
-      {"Sentences to the pilot", "1 a second",
-       "A pilot wants its bearing evenly, also between two winds, and no more than it can read.", CadenceNow,
-       [](const Seen& seen) { return seen.All.m_iPilotCadence >= 1; },
+      {TrMark("Sentences to the pilot"), TrMark("1 a second"),
+       TrMark("A pilot wants its bearing evenly, also between two winds, and no more than it can read."),
+       CadenceNow, [](const Seen& seen) { return seen.All.m_iPilotCadence >= 1; },
        [](const Now& now) { now.All.m_iPilotCadence = 1; }},
-      {"Polar between winds", "smooth",
-       "The polar's speed does not jump from one wind of its table to the next.",
-       [](const Seen& seen) -> std::string { return seen.SmoothWinds ? "smooth" : "in steps"; },
+      {TrMark("Polar between winds"), TrMark("smooth"),
+       TrMark("The polar's speed does not jump from one wind of its table to the next."),
+       [](const Seen& seen) -> std::string { return seen.SmoothWinds ? Tr("smooth") : Tr("in steps"); },
        [](const Seen& seen) { return seen.SmoothWinds; }, [](const Now& now) { now.SmoothWinds = true; }},
-      {"Tracking alarm", "over 5 s",
-       "The alarm averages the error, so that a single gust does not set it off.", AlarmAverageNow,
+      {TrMark("Tracking alarm"), TrMark("over 5 s"),
+       TrMark("The alarm averages the error, so that a single gust does not set it off."), AlarmAverageNow,
        [](const Seen& seen) { return seen.All.m_fTrackAlarmAverage >= kAlarmAverage; },
        [](const Now& now) { now.All.m_fTrackAlarmAverage = kAlarmAverage; }},
   }};

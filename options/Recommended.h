@@ -23,7 +23,7 @@ struct RecommendedSeen {
 };
 
 struct Recommendation {
-  const char* What;    ///< the setting, as "Method"
+  const char* What;    ///< the setting, as "Method"; for Tr, as the next two
   const char* Better;  ///< what it should be, as "Direction"
   const char* Reason;  ///< one sentence
   /// What is set now, in the words of Better where they are the same.

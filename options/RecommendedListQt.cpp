@@ -5,6 +5,8 @@
 #include <QVBoxLayout>
 
 #include "options/OptionControlsQt.h"
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -24,7 +26,7 @@ RecommendedListQt::RecommendedListQt(QWidget* parent) : QScrollArea(parent) {
     QFont bold = m_ticks.at(i)->font();
     bold.setBold(true);
     m_ticks.at(i)->setFont(bold);
-    m_reasons.at(i) = new QLabel(QString::fromUtf8(each.Reason), page);
+    m_reasons.at(i) = new QLabel(TrQ(each.Reason), page);
     m_reasons.at(i)->setTextFormat(Qt::PlainText);
     m_reasons.at(i)->setWordWrap(true);
     m_reasons.at(i)->setIndent(indent);
@@ -40,8 +42,8 @@ void RecommendedListQt::Show(const RecommendedSeen& seen, bool tickAll) {
     const Recommendation& each = Recommendations()[i];
     const bool holds = each.Holds(seen);
     const std::string now = each.Now(seen);
-    const std::string text = std::string(each.What) + ": " +
-                             (holds ? now + "  (set already)" : each.Better + ("  (now " + now + ")"));
+    const std::string text = holds ? Filled(Tr("%1: %2  (set already)"), {Tr(each.What), now})
+                                   : Filled(Tr("%1: %2  (now %3)"), {Tr(each.What), Tr(each.Better), now});
     m_ticks.at(i)->setText(QString::fromStdString(text));
     m_ticks.at(i)->setChecked(holds || tickAll);
     m_ticks.at(i)->setEnabled(!holds);

@@ -8,6 +8,8 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "platform/LanguageQt.h"
+
 namespace veerwatch {
 
 void RecommendedQt::Open(const RecommendedSeen& seen, QWidget& window, Answer answer) {
@@ -20,17 +22,16 @@ void RecommendedQt::Open(const RecommendedSeen& seen, QWidget& window, Answer an
 RecommendedQt::RecommendedQt(const RecommendedSeen& seen, QWidget& window)
     : QDialog(&window), lstRecommended(new RecommendedListQt(this)) {
   setObjectName(QStringLiteral("dlgRecommended"));
-  setWindowTitle(QStringLiteral("Veerwatch - Recommended"));
+  setWindowTitle(TrQ("Veerwatch - Recommended"));
   setAttribute(Qt::WA_DeleteOnClose);
   auto* all = new QVBoxLayout(this);
-  auto* head =
-      new QLabel(QStringLiteral("What suits most boats. OK sets the ticked lines, nothing else."), this);
+  auto* head = new QLabel(TrQ("What suits most boats. OK sets the ticked lines, nothing else."), this);
   head->setWordWrap(true);
   all->addWidget(head);
   lstRecommended->Show(seen, false);
   all->addWidget(lstRecommended, 1);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-  QPushButton* tickAll = buttons->addButton(QStringLiteral("&Tick All"), QDialogButtonBox::ActionRole);
+  QPushButton* tickAll = buttons->addButton(TrQ("&Tick All"), QDialogButtonBox::ActionRole);
   tickAll->setObjectName(QStringLiteral("cmdRecommendedAll"));
   buttons->button(QDialogButtonBox::Ok)->setObjectName(QStringLiteral("cmdRecommendedOk"));
   buttons->button(QDialogButtonBox::Cancel)->setObjectName(QStringLiteral("cmdRecommendedCancel"));

@@ -3,18 +3,20 @@
 #include <QHeaderView>
 #include <utility>
 
+#include "platform/LanguageQt.h"
+
 namespace veerwatch {
 
 SentenceListQt::SentenceListQt(QWidget* parent) : QTreeWidget(parent) {
   setObjectName(QStringLiteral("lstNmeaSentence"));
-  setAccessibleName(QStringLiteral("Nmea Sentences"));
-  setHeaderLabel(QStringLiteral("Nmea Sentences"));
+  setAccessibleName(TrQ("Nmea Sentences"));
+  setHeaderLabel(TrQ("Nmea Sentences"));
   setRootIsDecorated(false);
   setUniformRowHeights(true);
   setSelectionMode(NoSelection);
   header()->setSectionsMovable(false);
   for (const SentenceKind& sentence : kSentences) {
-    auto* row = new QTreeWidgetItem(this, {QString::fromLatin1(sentence.Text)});
+    auto* row = new QTreeWidgetItem(this, {TrQ(sentence.Text)});
     row->setData(0, Qt::UserRole,
                  QString::fromLatin1(sentence.Name.data(), static_cast<qsizetype>(sentence.Name.size())));
     row->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);

@@ -10,6 +10,8 @@
 #include <string_view>
 #include <utility>
 
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 #include "platform/NumberText.h"
 #include "settings/SimulateModel.h"
 
@@ -17,7 +19,7 @@ namespace veerwatch {
 
 namespace {
 
-constexpr const char* kTimeHint = "Move Ahead in Time (h:mm)";
+constexpr const char* kTimeHint = TrMark("Move Ahead in Time (h:mm)");
 
 /// Two arrows, one above the other, and nothing between them.
 class SpinnerBarQt final : public QScrollBar {
@@ -43,33 +45,41 @@ QHBoxLayout* Row(std::initializer_list<QWidget*> widgets) {
 
 SimulatePageQt::SimulatePageQt(QWidget* parent)
     : QWidget(parent),
-      chkSimulate(new QCheckBox(QStringLiteral("Simu&late Data"), this)),
-      frmSimulate(new QGroupBox(QStringLiteral("Data"), this)),
-      cmbSimulateModel(NewList("cmbSimulateModel",
-                               "Steady: lies on the bearing at once. Boat: has a hull, a "
-                               "pilot that reads what is sent, a sea and gusts")),
-      cmbSimulatePilot(NewList("cmbSimulatePilot", "Which sentences the boat's pilot reads")),
-      cmbSimulateSea(NewList("cmbSimulateSea", "The sea that the boat sails in")),
-      txtSimulateBoatSpeed(new OptionEntryQt("txtSimulateBoatSpeed", "Boat Speed (Kts)", this)),
+      chkSimulate(new QCheckBox(TrQ("Simu&late Data"), this)),
+      frmSimulate(new QGroupBox(TrQ("Data"), this)),
+      cmbSimulateModel(
+          NewList("cmbSimulateModel", TrMark("Steady: lies on the bearing at once. Boat: has a hull, a "
+                                             "pilot that reads what is sent, a sea and gusts"))),
+      cmbSimulatePilot(NewList("cmbSimulatePilot", TrMark("Which sentences the boat's pilot reads"))),
+      cmbSimulateSea(NewList("cmbSimulateSea", TrMark("The sea that the boat sails in"))),
+      txtSimulateBoatSpeed(new OptionEntryQt("txtSimulateBoatSpeed", TrMark("Boat Speed (Kts)"), this)),
       txtSimulateTrueWindAngle(
-          new OptionEntryQt("txtSimulateTrueWindAngle", "True Wind Direction (T)", this)),
-      vscSimulateTrueWindAngle(NewSpinners("vscSimulateTrueWindAngle", "True Wind Direction (T)", "degrees")),
-      txtSimulateTrueWindSpeed(new OptionEntryQt("txtSimulateTrueWindSpeed", "True Wind Speed (Kts)", this)),
-      txtSimulateVariation(new OptionEntryQt("txtSimulateVariation", "Magnetic Variation (Deg)", this)),
-      txtSimulateCompassOffset(new OptionEntryQt("txtSimulateCompassOffset", "Compass Offset", this)),
-      txtSimulateNoiseSpeed(new OptionEntryQt("txtSimulateNoiseSpeed", "Added Random Noise (+/- Kts)", this)),
-      txtSimulateNoiseAngle(new OptionEntryQt("txtSimulateNoiseAngle", "Added Random Noise (+/- Deg)", this)),
-      txtSimulateWaypointBrg(new OptionEntryQt("txtSimulateWaypointBrg", "Waypoint Bearing (M)", this)),
-      txtSimulateWaypointRng(new OptionEntryQt("txtSimulateWaypointRng", "Waypoint Range (nm)", this)),
+          new OptionEntryQt("txtSimulateTrueWindAngle", TrMark("True Wind Direction (T)"), this)),
+      vscSimulateTrueWindAngle(
+          NewSpinners("vscSimulateTrueWindAngle", TrMark("True Wind Direction (T)"), TrMark("degrees"))),
+      txtSimulateTrueWindSpeed(
+          new OptionEntryQt("txtSimulateTrueWindSpeed", TrMark("True Wind Speed (Kts)"), this)),
+      txtSimulateVariation(
+          new OptionEntryQt("txtSimulateVariation", TrMark("Magnetic Variation (Deg)"), this)),
+      txtSimulateCompassOffset(new OptionEntryQt("txtSimulateCompassOffset", TrMark("Compass Offset"), this)),
+      txtSimulateNoiseSpeed(
+          new OptionEntryQt("txtSimulateNoiseSpeed", TrMark("Added Random Noise (+/- Kts)"), this)),
+      txtSimulateNoiseAngle(
+          new OptionEntryQt("txtSimulateNoiseAngle", TrMark("Added Random Noise (+/- Deg)"), this)),
+      txtSimulateWaypointBrg(
+          new OptionEntryQt("txtSimulateWaypointBrg", TrMark("Waypoint Bearing (M)"), this)),
+      txtSimulateWaypointRng(
+          new OptionEntryQt("txtSimulateWaypointRng", TrMark("Waypoint Range (nm)"), this)),
       txtSimulateTime(new OptionEntryQt("txtSimulateTime", kTimeHint, this)),
-      vscSimulateTime(NewSpinners("vscSimulateTime", kTimeHint, "minutes")),
+      vscSimulateTime(NewSpinners("vscSimulateTime", kTimeHint, TrMark("minutes"))),
       lblSimulateWaypointBrg(
-          new OptionResultQt("lblSimulateWaypointBrg", "Time, Waypoint Bearing (M)", this)),
+          new OptionResultQt("lblSimulateWaypointBrg", TrMark("Time, Waypoint Bearing (M)"), this)),
       // Deliberate: "(mn)", without a blank before it.
-      lblSimulateWaypointRng(new OptionResultQt("lblSimulateWaypointRng", "Time, Waypoint Range(mn)", this)),
-      chkSimulateAutoApply(new QCheckBox(QStringLiteral("A&uto Apply"), this)) {
-  NameControl(*chkSimulate, "chkSimulate", "Simulate Data");
-  NameControl(*chkSimulateAutoApply, "chkSimulateAutoApply", "Auto Apply");
+      lblSimulateWaypointRng(
+          new OptionResultQt("lblSimulateWaypointRng", TrMark("Time, Waypoint Range(mn)"), this)),
+      chkSimulateAutoApply(new QCheckBox(TrQ("A&uto Apply"), this)) {
+  NameControl(*chkSimulate, "chkSimulate", TrMark("Simulate Data"));
+  NameControl(*chkSimulateAutoApply, "chkSimulateAutoApply", TrMark("Auto Apply"));
   frmSimulate->setObjectName(QStringLiteral("frmSimulate"));
   QSizePolicy place = frmSimulate->sizePolicy();
   place.setRetainSizeWhenHidden(true);
@@ -84,7 +94,7 @@ SimulatePageQt::SimulatePageQt(QWidget* parent)
         std::pair(cmbSimulatePilot, std::span<const std::string_view>(kPilotReadsNames)),
         std::pair(cmbSimulateSea, std::span<const std::string_view>(kSeaNames))}) {
     for (const std::string_view name : names) {
-      list->addItem(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+      list->addItem(TrQ(name));
     }
   }
   connect(cmbSimulateModel, &QComboBox::currentIndexChanged, this, [this] { ShowUsed(); });
@@ -105,8 +115,8 @@ void SimulatePageQt::ShowUsed() const {
 }
 
 QHBoxLayout* SimulatePageQt::NewModelRow() {
-  QHBoxLayout* row = Row({cmbSimulateModel, NewCaption("Pilot &Reads", cmbSimulatePilot, this),
-                          cmbSimulatePilot, NewCaption("Sea", cmbSimulateSea, this), cmbSimulateSea});
+  QHBoxLayout* row = Row({cmbSimulateModel, NewCaption(TrMark("Pilot &Reads"), cmbSimulatePilot, this),
+                          cmbSimulatePilot, NewCaption(TrMark("Sea"), cmbSimulateSea, this), cmbSimulateSea});
   return row;
 }
 
@@ -116,7 +126,7 @@ std::array<QScrollBar*, 2> SimulatePageQt::NewSpinners(const char* name, const c
     auto* bar = new SpinnerBarQt(Qt::Vertical, this);
     NameControl(*bar, "", hint);
     bar->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i));
-    bar->setAccessibleName(QStringLiteral("%1 %2").arg(i == 0 ? 10 : 1).arg(QLatin1String(unit)));
+    bar->setAccessibleName(QStringLiteral("%1 %2").arg(i == 0 ? 10 : 1).arg(TrQ(unit)));
     bar->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     bar->setRange(-1, 1);
     bar->setPageStep(1);
@@ -135,21 +145,23 @@ void SimulatePageQt::LayOut() {
     QHBoxLayout* row = Row({box, bars[0], bars[1]});
     return row;
   };
-  place(0, 0, "&Boat Speed (Kts)", txtSimulateBoatSpeed, Row({txtSimulateBoatSpeed}));
-  place(1, 0, "True &Wind Direction (T)", txtSimulateTrueWindAngle,
+  place(0, 0, TrMark("&Boat Speed (Kts)"), txtSimulateBoatSpeed, Row({txtSimulateBoatSpeed}));
+  place(1, 0, TrMark("True &Wind Direction (T)"), txtSimulateTrueWindAngle,
         spinning(txtSimulateTrueWindAngle, vscSimulateTrueWindAngle));
-  place(2, 0, "True Wind S&peed (Kts)", txtSimulateTrueWindSpeed, Row({txtSimulateTrueWindSpeed}));
-  place(3, 0, "Magnetic &Variation (Deg)", txtSimulateVariation, Row({txtSimulateVariation}));
-  place(4, 0, "O&ffset (Deg)", txtSimulateCompassOffset, Row({txtSimulateCompassOffset}));
-  place(0, 3, "&Noise", txtSimulateNoiseSpeed, Row({txtSimulateNoiseSpeed, NewText("Kts", this)}));
-  place(1, 3, "Angl&e Noise", txtSimulateNoiseAngle, Row({txtSimulateNoiseAngle, NewText("Deg", this)}));
-  place(2, 3, "Wa&ypoint (M,nm)", txtSimulateWaypointBrg,
+  place(2, 0, TrMark("True Wind S&peed (Kts)"), txtSimulateTrueWindSpeed, Row({txtSimulateTrueWindSpeed}));
+  place(3, 0, TrMark("Magnetic &Variation (Deg)"), txtSimulateVariation, Row({txtSimulateVariation}));
+  place(4, 0, TrMark("O&ffset (Deg)"), txtSimulateCompassOffset, Row({txtSimulateCompassOffset}));
+  place(0, 3, TrMark("&Noise"), txtSimulateNoiseSpeed,
+        Row({txtSimulateNoiseSpeed, NewText(TrMark("Kts"), this)}));
+  place(1, 3, TrMark("Angl&e Noise"), txtSimulateNoiseAngle,
+        Row({txtSimulateNoiseAngle, NewText(TrMark("Deg"), this)}));
+  place(2, 3, TrMark("Wa&ypoint (M,nm)"), txtSimulateWaypointBrg,
         Row({txtSimulateWaypointBrg, txtSimulateWaypointRng}));
-  txtSimulateWaypointRng->setAccessibleName(QStringLiteral("Waypoint Range"));
-  place(3, 3, "Ti&me", txtSimulateTime, spinning(txtSimulateTime, vscSimulateTime));
-  rows->addLayout(Row({lblSimulateWaypointBrg, lblSimulateWaypointRng, NewText("M,nm", this)}), 4, 4);
+  txtSimulateWaypointRng->setAccessibleName(TrQ("Waypoint Range"));
+  place(3, 3, TrMark("Ti&me"), txtSimulateTime, spinning(txtSimulateTime, vscSimulateTime));
+  rows->addLayout(Row({lblSimulateWaypointBrg, lblSimulateWaypointRng, NewText(TrMark("M,nm"), this)}), 4, 4);
   rows->addWidget(chkSimulateAutoApply, 5, 4);
-  rows->addWidget(NewCaption("&Kind of Boat", cmbSimulateModel, this), 6, 0);
+  rows->addWidget(NewCaption(TrMark("&Kind of Boat"), cmbSimulateModel, this), 6, 0);
   rows->addLayout(NewModelRow(), 6, 1, 1, 5);
   rows->setColumnMinimumWidth(2, kGroupGap);
   rows->setColumnStretch(5, 1);

@@ -9,6 +9,8 @@
 #include <utility>
 
 #include "platform/ColoursQt.h"
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -16,7 +18,7 @@ namespace veerwatch {
 namespace {
 
 // Deliberate: the bounds carry the hint of the time.
-constexpr const char* kTimeHint = "Track Time (sec)";
+constexpr const char* kTimeHint = TrMark("Track Time (sec)");
 
 /// A sentence broken after its first colon or semicolon. A label that wraps by itself would make the page
 /// scroll: it claims the height of its narrowest form.
@@ -36,24 +38,25 @@ OptionEntryQt* NewPreviewEntry(const char* name, const char* hint, const char* t
 TrackPageQt::TrackPageQt(RandomSource& random, const MainWindowApi& main, const WindRecorder& recorded,
                          QWidget* parent)
     : QWidget(parent),
-      chkTrackAlarm(new QCheckBox(QStringLiteral("Tracking A&larm"), this)),
+      chkTrackAlarm(new QCheckBox(TrQ("Tracking A&larm"), this)),
       cmbTrackMethod(new QComboBox(this)),
-      txtTrackAlarmLimit(
-          new OptionEntryQt("txtTrackAlarmLimit", "Tracking Alarm Limit (deg, +/- from Desired)", this)),
-      txtTrackBandwidth(new OptionEntryQt("txtTrackBandwidth", "Tracking Bandwidth (sec)", this)),
-      txtTrackDamping(new OptionEntryQt("txtTrackDamping", "Tracking Damping Factor (default=1)", this)),
-      txtTrackMaxSteerTo(new OptionEntryQt("txtTrackMaxSteerTo", "Range (deg)", this)),
-      txtTrackAlarmAverage(
-          new OptionEntryQt("txtTrackAlarmAverage", "Seconds over which the alarm averages the error", this)),
-      cmdTrackSuggest(new QPushButton(QStringLiteral("S&uggest"), this)),
-      txtTrackOffset(NewPreviewEntry("txtTrackOffset", "Initial Track Offset  (deg)", "10", this)),
-      txtTrackNoise(NewPreviewEntry("txtTrackNoise", "Added Random Noise (+/- Deg)", "1", this)),
+      txtTrackAlarmLimit(new OptionEntryQt("txtTrackAlarmLimit",
+                                           TrMark("Tracking Alarm Limit (deg, +/- from Desired)"), this)),
+      txtTrackBandwidth(new OptionEntryQt("txtTrackBandwidth", TrMark("Tracking Bandwidth (sec)"), this)),
+      txtTrackDamping(
+          new OptionEntryQt("txtTrackDamping", TrMark("Tracking Damping Factor (default=1)"), this)),
+      txtTrackMaxSteerTo(new OptionEntryQt("txtTrackMaxSteerTo", TrMark("Range (deg)"), this)),
+      txtTrackAlarmAverage(new OptionEntryQt(
+          "txtTrackAlarmAverage", TrMark("Seconds over which the alarm averages the error"), this)),
+      cmdTrackSuggest(new QPushButton(TrQ("S&uggest"), this)),
+      txtTrackOffset(NewPreviewEntry("txtTrackOffset", TrMark("Initial Track Offset  (deg)"), "10", this)),
+      txtTrackNoise(NewPreviewEntry("txtTrackNoise", TrMark("Added Random Noise (+/- Deg)"), "1", this)),
       txtTrackTime(NewPreviewEntry("txtTrackTime", kTimeHint, "120", this)),
       txtTrackMin(NewPreviewEntry("txtTrackMin", kTimeHint, "-5", this)),
       txtTrackMax(NewPreviewEntry("txtTrackMax", kTimeHint, "15", this)),
-      chkTrackOnMyWind(new QCheckBox(QStringLiteral("On m&y wind"), this)),
-      txtTrackLag(NewPreviewEntry("txtTrackLag", "Seconds until the boat has made two thirds of a small turn",
-                                  "4", this)),
+      chkTrackOnMyWind(new QCheckBox(TrQ("On m&y wind"), this)),
+      txtTrackLag(NewPreviewEntry(
+          "txtTrackLag", TrMark("Seconds until the boat has made two thirds of a small turn"), "4", this)),
       pctTrack(new TrackPreviewQt(random, this)),
       Axes(new TrackAxesQt(*pctTrack, this)),
       lblTrackFigures(NewText("", this)),
@@ -76,15 +79,16 @@ TrackPageQt::TrackPageQt(RandomSource& random, const MainWindowApi& main, const 
   lblTrackSwings->setAutoFillBackground(true);
   lblTrackSwings->hide();
   ColourSwings();
-  NameControl(*chkTrackAlarm, "chkTrackAlarm", "Tracking Alarm");
-  NameControl(*cmdTrackSuggest, "cmdTrackSuggest",
-              "Puts what suits the measured sentences and the boat lag into the boxes; Apply stores it");
+  NameControl(*chkTrackAlarm, "chkTrackAlarm", TrMark("Tracking Alarm"));
+  NameControl(
+      *cmdTrackSuggest, "cmdTrackSuggest",
+      TrMark("Puts what suits the measured sentences and the boat lag into the boxes; Apply stores it"));
   NameControl(*chkTrackOnMyWind, "chkTrackOnMyWind",
-              "All methods on the wind of the last half hour, steering a boat with the lag beside");
+              TrMark("All methods on the wind of the last half hour, steering a boat with the lag beside"));
   MakeMethods();
-  txtTrackAlarmLimit->setAccessibleName(QStringLiteral("Alarm Limit"));
-  txtTrackMin->setAccessibleName(QStringLiteral("Lowest Bearing"));
-  txtTrackMax->setAccessibleName(QStringLiteral("Highest Bearing"));
+  txtTrackAlarmLimit->setAccessibleName(TrQ("Alarm Limit"));
+  txtTrackMin->setAccessibleName(TrQ("Lowest Bearing"));
+  txtTrackMax->setAccessibleName(TrQ("Highest Bearing"));
   auto* page = new QVBoxLayout(this);
   page->addWidget(NewOptions());
   page->addWidget(NewResponse(), 1);
@@ -95,42 +99,45 @@ TrackPageQt::TrackPageQt(RandomSource& random, const MainWindowApi& main, const 
 }
 
 void TrackPageQt::MakeMethods() {
-  NameControl(*cmbTrackMethod, "cmbTrackMethod", "By what the wind is held, from the next Track on");
+  NameControl(*cmbTrackMethod, "cmbTrackMethod", TrMark("By what the wind is held, from the next Track on"));
   for (const auto& [method, tip] :
-       {std::pair{"Sentence",
-                  "One correction per wind sentence: the bandwidth depends on how many come a second"},
-        std::pair{"Clock", "The same corrections by the clock: the bandwidth holds at every sentence rate"},
-        std::pair{"Direction", "Steers by the direction of the true wind over the earth: needs no tuning"}}) {
-    cmbTrackMethod->addItem(QLatin1String(method));
-    cmbTrackMethod->setItemData(cmbTrackMethod->count() - 1, QLatin1String(tip), Qt::ToolTipRole);
+       {std::pair{
+            TrMark("Sentence"),
+            TrMark("One correction per wind sentence: the bandwidth depends on how many come a second")},
+        std::pair{TrMark("Clock"),
+                  TrMark("The same corrections by the clock: the bandwidth holds at every sentence rate")},
+        std::pair{TrMark("Direction"),
+                  TrMark("Steers by the direction of the true wind over the earth: needs no tuning")}}) {
+    cmbTrackMethod->addItem(TrQ(method));
+    cmbTrackMethod->setItemData(cmbTrackMethod->count() - 1, TrQ(tip), Qt::ToolTipRole);
   }
   connect(cmbTrackMethod, &QComboBox::currentIndexChanged, this, [this] { ShowMethod(); });
   connect(cmbTrackMethod, &QComboBox::activated, this, [this] { TrackPreviewDraw(); });
 }
 
 QWidget* TrackPageQt::NewOptions() {
-  auto* frame = new QGroupBox(QStringLiteral("Tracking Options"), this);
+  auto* frame = new QGroupBox(TrQ("Tracking Options"), this);
   auto* rows = new QGridLayout(frame);
-  rows->addWidget(NewText("Alarm:", this), 0, 0);
+  rows->addWidget(NewText(TrMark("Alarm:"), this), 0, 0);
   rows->addWidget(chkTrackAlarm, 0, 1, 1, 2);
   rows->addWidget(NewText("+/-", this), 0, 4, Qt::AlignRight);
   rows->addWidget(txtTrackAlarmLimit, 0, 5);
-  rows->addWidget(NewText("deg", this), 0, 6);
-  rows->addWidget(NewCaption("&Bandwidth:", txtTrackBandwidth, this), 1, 0);
+  rows->addWidget(NewText(TrMark("deg"), this), 0, 6);
+  rows->addWidget(NewCaption(TrMark("&Bandwidth:"), txtTrackBandwidth, this), 1, 0);
   rows->addWidget(txtTrackBandwidth, 1, 1);
-  rows->addWidget(NewText("sec", this), 1, 2);
-  rows->addWidget(NewCaption("Max Steer To without &Prompt:", txtTrackMaxSteerTo, this), 1, 4,
+  rows->addWidget(NewText(TrMark("sec"), this), 1, 2);
+  rows->addWidget(NewCaption(TrMark("Max Steer To without &Prompt:"), txtTrackMaxSteerTo, this), 1, 4,
                   Qt::AlignRight);
   rows->addWidget(txtTrackMaxSteerTo, 1, 5);
-  rows->addWidget(NewText("deg", this), 1, 6);
-  rows->addWidget(NewCaption("Da&mping:", txtTrackDamping, this), 2, 0);
+  rows->addWidget(NewText(TrMark("deg"), this), 1, 6);
+  rows->addWidget(NewCaption(TrMark("Da&mping:"), txtTrackDamping, this), 2, 0);
   rows->addWidget(txtTrackDamping, 2, 1);
-  rows->addWidget(NewCaption("Met&hod:", cmbTrackMethod, this), 2, 4, Qt::AlignRight);
+  rows->addWidget(NewCaption(TrMark("Met&hod:"), cmbTrackMethod, this), 2, 4, Qt::AlignRight);
   rows->addWidget(cmbTrackMethod, 2, 5, 1, 2);
   rows->addWidget(cmdTrackSuggest, 3, 0, 1, 3, Qt::AlignLeft);
-  rows->addWidget(NewCaption("Alarm A&verage:", txtTrackAlarmAverage, this), 3, 4, Qt::AlignRight);
+  rows->addWidget(NewCaption(TrMark("Alarm A&verage:"), txtTrackAlarmAverage, this), 3, 4, Qt::AlignRight);
   rows->addWidget(txtTrackAlarmAverage, 3, 5);
-  rows->addWidget(NewText("sec", this), 3, 6);
+  rows->addWidget(NewText(TrMark("sec"), this), 3, 6);
   rows->addWidget(lblTrackReason, 4, 0, 1, 8);
   rows->addWidget(lblTrackSwings, 5, 0, 1, 8);
   rows->addWidget(lblTrackInUse, 6, 0, 1, 8);
@@ -153,26 +160,26 @@ QLayout* TrackPageQt::NewResponseInputs() {
     row->addSpacing(kGroupGap);
   };
   QHBoxLayout* response = line();
-  input(response, "O&ffset", txtTrackOffset, "deg");
-  input(response, "&Noise", txtTrackNoise, "deg");
-  input(response, "Tim&e", txtTrackTime, "sec");
+  input(response, TrMark("O&ffset"), txtTrackOffset, TrMark("deg"));
+  input(response, TrMark("&Noise"), txtTrackNoise, TrMark("deg"));
+  input(response, TrMark("Tim&e"), txtTrackTime, TrMark("sec"));
   response->addStretch();
   QHBoxLayout* wind = line();
   wind->addWidget(chkTrackOnMyWind);
   wind->addSpacing(kGroupGap);
-  input(wind, "Boat lag", txtTrackLag, "sec");
+  input(wind, TrMark("Boat lag"), txtTrackLag, TrMark("sec"));
   wind->addWidget(lblTrackRate, 1);
   return lines;
 }
 
 QWidget* TrackPageQt::NewResponse() {
   // Deliberate: "Responce".
-  auto* frame = new QGroupBox(QStringLiteral("Tracking Responce"), this);
+  auto* frame = new QGroupBox(TrQ("Tracking Responce"), this);
   // The bounds of the plot stand at its ends.
   auto* bounds = new QVBoxLayout;
   bounds->addWidget(txtTrackMax);
   bounds->addStretch();
-  bounds->addWidget(NewText("deg", this), 0, Qt::AlignRight);
+  bounds->addWidget(NewText(TrMark("deg"), this), 0, Qt::AlignRight);
   bounds->addStretch();
   bounds->addWidget(txtTrackMin);
   auto* plot = new QHBoxLayout;
@@ -188,15 +195,15 @@ QWidget* TrackPageQt::NewResponse() {
 void TrackPageQt::ShowMethod() const {
   const bool direction = cmbTrackMethod->currentIndex() == static_cast<int>(TrackMethod::Direction);
   txtTrackDamping->setEnabled(!direction);
-  txtTrackDamping->setToolTip(direction ? QStringLiteral("The method Direction has no damping")
+  txtTrackDamping->setToolTip(direction ? TrQ("The method Direction has no damping")
                                         : txtTrackDamping->accessibleDescription());
   ShowRate();
 }
 
 void TrackPageQt::ShowRate() const {
   const auto rate = m_main.Now().WindsASecond;
-  lblTrackRate->setText(
-      QString::fromStdString(rate ? WindsASecondText(*rate) : WindsASecondText(1.0) + " (none measured)"));
+  lblTrackRate->setText(QString::fromStdString(
+      rate ? WindsASecondText(*rate) : Filled(Tr("%1 (none measured)"), {WindsASecondText(1.0)})));
   const auto method = static_cast<TrackMethod>(cmbTrackMethod->currentIndex());
   const auto bandwidth = StrictDouble(txtTrackBandwidth->text().toStdString());
   const std::string swings = bandwidth ? TrackSwingsText(method, *bandwidth, rate) : std::string();
@@ -208,7 +215,7 @@ void TrackPageQt::cmdTrackSuggest_Click() {
   const auto lag = StrictDouble(txtTrackLag->text().toStdString());
   lblTrackReason->show();
   if (!lag || !(*lag >= 0.0)) {
-    lblTrackReason->setText(QStringLiteral("Boat lag must be a number from 0 on."));
+    lblTrackReason->setText(TrQ("Boat lag must be a number from 0 on."));
     return;
   }
   const HelmNow now = m_main.Now();

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "instruments/MathLib.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -34,13 +35,13 @@ std::string Read(const TrackPreviewTexts& texts, Numbers& numbers) {
     const std::string& Text;
     double& Value;
   };
-  const std::array<Entry, 7> boxes{{{"Bandwidth", texts.Bandwidth, numbers.Inputs.Bandwidth},
-                                    {"Damping", texts.Damping, numbers.Inputs.Damping},
-                                    {"Offset", texts.Offset, numbers.Inputs.Offset},
-                                    {"Noise", texts.Noise, numbers.Inputs.Noise},
-                                    {"Time", texts.Time, numbers.Inputs.Time},
-                                    {"Minimum", texts.Min, numbers.Min},
-                                    {"Maximum", texts.Max, numbers.Max}}};
+  const std::array<Entry, 7> boxes{{{TrMark("Bandwidth"), texts.Bandwidth, numbers.Inputs.Bandwidth},
+                                    {TrMark("Damping"), texts.Damping, numbers.Inputs.Damping},
+                                    {TrMark("Offset"), texts.Offset, numbers.Inputs.Offset},
+                                    {TrMark("Noise"), texts.Noise, numbers.Inputs.Noise},
+                                    {TrMark("Time"), texts.Time, numbers.Inputs.Time},
+                                    {TrMark("Minimum"), texts.Min, numbers.Min},
+                                    {TrMark("Maximum"), texts.Max, numbers.Max}}};
   for (const Entry& box : boxes) {
     // Direction has no damping: whatever stands there does not matter.
     if (&box.Value == &numbers.Inputs.Damping && texts.Method == TrackMethod::Direction) {
@@ -48,7 +49,7 @@ std::string Read(const TrackPreviewTexts& texts, Numbers& numbers) {
     }
     const auto value = StrictDouble(box.Text);
     if (!value) {
-      return std::string(box.Name).append(" is not a number");
+      return Filled(Tr("%1 is not a number"), {Tr(box.Name)});
     }
     box.Value = *value;
   }
@@ -73,13 +74,13 @@ std::string TroubleWith(const Numbers& numbers) {
     return trouble;
   }
   if (std::fabs(numbers.Min) > kMostShown) {
-    return "Minimum must be within 1000000 degrees";
+    return Tr("Minimum must be within 1000000 degrees");
   }
   if (std::fabs(numbers.Max) > kMostShown) {
-    return "Maximum must be within 1000000 degrees";
+    return Tr("Maximum must be within 1000000 degrees");
   }
   if (numbers.Min == numbers.Max) {
-    return "Minimum and maximum must differ";
+    return Tr("Minimum and maximum must differ");
   }
   return {};
 }
@@ -205,7 +206,8 @@ std::string TrackPreview::ReadOut(double x, double y) const {
   }
   const float time = ToSingle(x / Scale.TimeScale + Scale.TimeStart);
   const float bearing = ToSingle((y - Scale.BearingOrigin) / Scale.BearingScale + Scale.BearingMin);
-  return "time=" + ShortestText(time) + (Curves.empty() ? ", bearing=" : ", error=") + ShortestText(bearing);
+  return Filled(Curves.empty() ? Tr("time=%1, bearing=%2") : Tr("time=%1, error=%2"),
+                {ShortestText(time), ShortestText(bearing)});
 }
 
 std::string TrackPreview::FiguresText() const {
@@ -214,7 +216,7 @@ std::string TrackPreview::FiguresText() const {
   }
   const auto number = [](float value) { return FormatNumber(value, "0.00"); };
   const auto texts = TrackFigureTexts(*Figures, number);
-  return "This run: " + texts[0] + ", " + texts[1] + ", " + texts[2];
+  return Filled(Tr("This run: %1, %2, %3"), {texts[0], texts[1], texts[2]});
 }
 
 std::vector<int> TrackGridColumns(const TrackScale& scale, double step) {
@@ -247,16 +249,16 @@ TrackPreview TrackPreviewDraw(const TrackPreviewTexts& texts, int width, int hei
   }
   TrackScale scale = ScaleFor(numbers, width, height);
   if (!std::isfinite(scale.TimeScale)) {
-    preview.Trouble = "Time is too short";
+    preview.Trouble = Tr("Time is too short");
     return preview;
   }
   if (!std::isfinite(scale.BearingScale)) {
-    preview.Trouble = "Minimum and maximum are too close";
+    preview.Trouble = Tr("Minimum and maximum are too close");
     return preview;
   }
   const auto series = TrackResponseSeries(numbers.Inputs, random);
   if (!series) {
-    preview.Trouble = kTrackResponseDiverges;
+    preview.Trouble = Tr(kTrackResponseDiverges);
     return preview;
   }
 

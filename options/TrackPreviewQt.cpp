@@ -10,6 +10,7 @@
 
 #include "draw/DrawQt.h"
 #include "platform/ColoursQt.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -36,7 +37,7 @@ QColor GridColour(const QPalette& palette) {
 
 TrackPreviewQt::TrackPreviewQt(RandomSource& random, QWidget* parent) : QWidget(parent), m_random(random) {
   setObjectName(QStringLiteral("pctTrack"));
-  setAccessibleName(QStringLiteral("Tracking Responce"));
+  setAccessibleName(TrQ("Tracking Responce"));
   setAttribute(Qt::WA_OpaquePaintEvent);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setMouseTracking(true);

@@ -10,6 +10,7 @@
 #include "control/TrackDirection.h"
 #include "control/TrackGains.h"
 #include "instruments/MathLib.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -60,12 +61,12 @@ class SteeredBoat {
 /// One line about a bandwidth and a damping that give no law, or "".
 std::string LawTrouble(const TrackResponseInputs& inputs) {
   if (inputs.Bandwidth == 0.0) {
-    return "Bandwidth must not be 0";
+    return Tr("Bandwidth must not be 0");
   }
   if (inputs.Method == TrackMethod::Direction) {
-    return inputs.Bandwidth > 0.0 ? "" : "Bandwidth must be above 0";
+    return inputs.Bandwidth > 0.0 ? std::string() : Tr("Bandwidth must be above 0");
   }
-  return TrackGainsFor(inputs.Bandwidth, inputs.Damping) ? "" : "Bandwidth is too small";
+  return TrackGainsFor(inputs.Bandwidth, inputs.Damping) ? std::string() : Tr("Bandwidth is too small");
 }
 
 /// The longest run at a rate [s].
@@ -83,19 +84,20 @@ std::string TrackResponseTrouble(const TrackResponseInputs& inputs) {
     return trouble;
   }
   if (!(inputs.Rate >= kLeastTrackRate && inputs.Rate <= kMostTrackRate)) {
-    return "Rate must be from 0.1 to 100 wind sentences a second";
+    return Tr("Rate must be from 0.1 to 100 wind sentences a second");
   }
   if (std::fabs(inputs.Offset) > kMostTrackBearing) {
-    return "Offset must be within 1000000 degrees";
+    return Tr("Offset must be within 1000000 degrees");
   }
   if (std::fabs(inputs.Noise) > kMostTrackBearing) {
-    return "Noise must be within 1000000 degrees";
+    return Tr("Noise must be within 1000000 degrees");
   }
   if (!(inputs.Time > 0.0)) {
-    return "Time must be above 0";
+    return Tr("Time must be above 0");
   }
   if (inputs.Time > MostTime(inputs.Rate)) {
-    return "Time must be at most " + FormatNumber(ToSingle(MostTime(inputs.Rate)), "0") + " seconds";
+    return Filled(Tr("Time must be at most %1 seconds"),
+                  {FormatNumber(ToSingle(MostTime(inputs.Rate)), "0")});
   }
   return {};
 }
@@ -123,12 +125,12 @@ std::optional<std::vector<double>> TrackResponseSeries(const TrackResponseInputs
 }
 
 std::array<std::string, 3> TrackFigureTexts(const TrackFigures& figures, std::string (*number)(float)) {
-  return {
-      "overshoot " + number(ToSingle(figures.Overshoot)) + " deg",
-      figures.SettlingTime
-          ? "settling time " + ShortestText(ToSingle(std::round(*figures.SettlingTime * 10.0) / 10.0)) + " s"
-          : std::string("not settled"),
-      "steady state " + number(ToSingle(figures.SteadyRootMeanSquare)) + " deg rms"};
+  return {Filled(Tr("overshoot %1 deg"), {number(ToSingle(figures.Overshoot))}),
+          figures.SettlingTime
+              ? Filled(Tr("settling time %1 s"),
+                       {ShortestText(ToSingle(std::round(*figures.SettlingTime * 10.0) / 10.0))})
+              : Tr("not settled"),
+          Filled(Tr("steady state %1 deg rms"), {number(ToSingle(figures.SteadyRootMeanSquare))})};
 }
 
 TrackFigures TrackFiguresOf(double offset, const std::vector<double>& bearings, double rate) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "control/BearingLimits.h"
+#include "platform/Language.h"
 #include "platform/Random.h"
 #include "settings/TrackMode.h"
 
@@ -42,7 +43,8 @@ double TrackRateFor(const std::optional<double>& measured);
 std::string TrackResponseTrouble(const TrackResponseInputs& inputs);
 
 /// What to say when a response leaves the range of finite numbers.
-inline constexpr const char* kTrackResponseDiverges = "Bandwidth: the response grows beyond all numbers";
+inline constexpr const char* kTrackResponseDiverges =
+    TrMark("Bandwidth: the response grows beyond all numbers");
 
 /// The bearings after the passes at 0, 1, 2, ... of the time between two, to the last within the run [deg],
 /// each taking one random number. Nothing when an input allows no response or it leaves the finite range.

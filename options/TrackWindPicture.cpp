@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -85,10 +86,12 @@ struct Numbers {
 std::string Read(const TrackWindInputs& inputs, Numbers& numbers) {
   numbers.Tuning = inputs.Tuning;
   const std::array<std::pair<const char*, const std::string&>, 3> boxes{
-      {{"Bandwidth", inputs.Bandwidth}, {"Damping", inputs.Damping}, {"Boat lag", inputs.Lag}}};
+      {{TrMark("Bandwidth"), inputs.Bandwidth},
+       {TrMark("Damping"), inputs.Damping},
+       {TrMark("Boat lag"), inputs.Lag}}};
   for (const auto& [name, text] : boxes) {
     if (!StrictNumber(text)) {
-      return std::string(name) + " is not a number";
+      return Filled(Tr("%1 is not a number"), {Tr(name)});
     }
   }
   numbers.Tuning.m_fTrackBandwidth = *StrictNumber(inputs.Bandwidth);
@@ -115,7 +118,7 @@ TrackPreview TrackWindDraw(const TrackWindInputs& inputs, int width, int height,
   for (const TrackMethod method : {TrackMethod::Sentence, TrackMethod::Clock, TrackMethod::Direction}) {
     const auto run = TrackWindRunOf(numbers.Tuning, method, numbers.Lag, inputs.Winds);
     if (!run) {
-      preview.Trouble = "Bandwidth or damping allow no tracking";
+      preview.Trouble = Tr("Bandwidth or damping allow no tracking");
       preview.Curves.clear();
       return preview;
     }

@@ -5,6 +5,7 @@
 
 #include "control/TrackLoop.h"
 #include "platform/Angles.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -108,28 +109,29 @@ const char* TrackMethodName(TrackMethod method) {
     case TrackMethod::Sentence:
       break;
     case TrackMethod::Clock:
-      return "Clock";
+      return TrMark("Clock");
     case TrackMethod::Direction:
-      return "Direction";
+      return TrMark("Direction");
   }
-  return "Sentence";
+  return TrMark("Sentence");
 }
 
 std::string TrackWindRun::Text() const {
   const auto number = [](double value, const char* pattern) {
     return FormatNumber(ToSingle(value), pattern);
   };
-  return std::string(TrackMethodName(Method)) + ": mean " + number(Mean, "0.0") + ", rms " +
-         number(RootMeanSquare, "0.0") + " deg, rudder " + number(Rudder, "0") + " deg/min";
+  return Filled(
+      Tr("%1: mean %2, rms %3 deg, rudder %4 deg/min"),
+      {Tr(TrackMethodName(Method)), number(Mean, "0.0"), number(RootMeanSquare, "0.0"), number(Rudder, "0")});
 }
 
 std::string TrackWindTrouble(const std::vector<WindSample>& winds, double lag) {
   if (!(lag >= 0.0 && lag <= kMostTrackLag)) {
-    return "Boat lag must be from 0 to 60 seconds";
+    return Tr("Boat lag must be from 0 to 60 seconds");
   }
   if (Span(winds) < kLeastTrackWind) {
-    return "Two minutes of wind and heading are needed; " + std::to_string(Span(winds) / 1000) +
-           " seconds are recorded";
+    return Filled(Tr("Two minutes of wind and heading are needed; %1 seconds are recorded"),
+                  {std::to_string(Span(winds) / 1000)});
   }
   return {};
 }

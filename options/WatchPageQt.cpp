@@ -5,6 +5,9 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
+
 namespace veerwatch {
 
 namespace {
@@ -16,30 +19,30 @@ struct SwitchText {
 };
 
 constexpr std::array<SwitchText, kWatchSwitches.size()> kTexts{{
-    {"chkWatchAct", "A&ct: what is lost or wrong does not steer",
-     "Act on what is lost instead of only telling it"},
-    {"chkWatchKeepSending", "&Keep Sending: the last bearing for 30 s when the wind is lost",
-     "With Act: the last bearing is sent on for 30 seconds"},
-    {"chkWatchHeadingUp", "Heading &Up: 20 degrees up, once, when a wind from astern is lost",
-     "With Act: the boat is brought 20 degrees up, away from the gybe"},
-    {"chkWatchLogFitted", "&Boat speed is on the wire",
-     "Untick it on a boat without a log: it is not missed then"},
-    {"chkWatchCompassFitted", "&Heading is on the wire",
-     "Untick it on a boat without a compass on the wire: it is not missed then"},
-    {"chkWatchBlankLost", "Blank &Lost: a lost figure becomes \"--\"",
-     "A lost figure becomes two dashes; otherwise it stays, in half tone"},
-    {"chkCarefulEntry", "Careful &Entry: an emptied box restores, a large change is asked about",
-     "A box that was emptied restores; a bearing or angle far from the present one is asked about"},
+    {"chkWatchAct", TrMark("A&ct: what is lost or wrong does not steer"),
+     TrMark("Act on what is lost instead of only telling it")},
+    {"chkWatchKeepSending", TrMark("&Keep Sending: the last bearing for 30 s when the wind is lost"),
+     TrMark("With Act: the last bearing is sent on for 30 seconds")},
+    {"chkWatchHeadingUp", TrMark("Heading &Up: 20 degrees up, once, when a wind from astern is lost"),
+     TrMark("With Act: the boat is brought 20 degrees up, away from the gybe")},
+    {"chkWatchLogFitted", TrMark("&Boat speed is on the wire"),
+     TrMark("Untick it on a boat without a log: it is not missed then")},
+    {"chkWatchCompassFitted", TrMark("&Heading is on the wire"),
+     TrMark("Untick it on a boat without a compass on the wire: it is not missed then")},
+    {"chkWatchBlankLost", TrMark("Blank &Lost: a lost figure becomes \"--\""),
+     TrMark("A lost figure becomes two dashes; otherwise it stays, in half tone")},
+    {"chkCarefulEntry", TrMark("Careful &Entry: an emptied box restores, a large change is asked about"),
+     TrMark("A box that was emptied restores; a bearing or angle far from the present one is asked about")},
 }};
 
-constexpr const char* kStaleHint = "Older values are stale (sec)";
+constexpr const char* kStaleHint = TrMark("Older values are stale (sec)");
 
 }  // namespace
 
 WatchPageQt::WatchPageQt(QWidget* parent)
     : QWidget(parent),
       cmbWatchSound(new QComboBox(this)),
-      cmdWatchTest(new QPushButton(QStringLiteral("Test Tone"), this)),
+      cmdWatchTest(new QPushButton(TrQ("Test Tone"), this)),
       txtWatchCommand(new EntryLineQt(this)),
       txtWatchStaleWindApparent(new OptionEntryQt("txtWatchStaleWindApparent", kStaleHint, this)),
       txtWatchStaleWindTrue(new OptionEntryQt("txtWatchStaleWindTrue", kStaleHint, this)),
@@ -47,16 +50,17 @@ WatchPageQt::WatchPageQt(QWidget* parent)
       txtWatchStaleHeading(new OptionEntryQt("txtWatchStaleHeading", kStaleHint, this)),
       txtWatchStaleWaypoint(new OptionEntryQt("txtWatchStaleWaypoint", kStaleHint, this)) {
   for (std::size_t i = 0; i < Switches.size(); ++i) {
-    Switches[i] = new QCheckBox(QLatin1String(kTexts[i].Caption), this);
+    Switches[i] = new QCheckBox(TrQ(kTexts[i].Caption), this);
     NameControl(*Switches[i], kTexts[i].Name, kTexts[i].Hint);
   }
   NameControl(*cmbWatchSound, "cmbWatchSound",
-              "The desktop's beep at each step, or tones by level until answered");
-  cmbWatchSound->addItems({QStringLiteral("Beep"), QStringLiteral("Tone")});
-  NameControl(*cmdWatchTest, "cmdWatchTest", "Lets a red alarm be heard once, as chosen here");
+              TrMark("The desktop's beep at each step, or tones by level until answered"));
+  cmbWatchSound->addItems({TrQ("Beep"), TrQ("Tone")});
+  NameControl(*cmdWatchTest, "cmdWatchTest", TrMark("Lets a red alarm be heard once, as chosen here"));
   cmdWatchTest->setAutoDefault(false);
-  NameControl(*txtWatchCommand, "txtWatchCommand",
-              "A program that is started with the alarm's text each time that one is heard; empty for none");
+  NameControl(
+      *txtWatchCommand, "txtWatchCommand",
+      TrMark("A program that is started with the alarm's text each time that one is heard; empty for none"));
   connect(cmdWatchTest, &QPushButton::clicked, this,
           [this] { m_tested(static_cast<AlarmSound>(cmbWatchSound->currentIndex())); });
   auto* page = new QVBoxLayout(this);
@@ -67,7 +71,7 @@ WatchPageQt::WatchPageQt(QWidget* parent)
 }
 
 QWidget* WatchPageQt::NewActing() {
-  auto* frame = new QGroupBox(QStringLiteral("What Follows"), this);
+  auto* frame = new QGroupBox(TrQ("What Follows"), this);
   auto* rows = new QVBoxLayout(frame);
   for (std::size_t i = 0; i < 3; ++i) {
     rows->addWidget(Switches[i]);
@@ -76,27 +80,27 @@ QWidget* WatchPageQt::NewActing() {
 }
 
 QWidget* WatchPageQt::NewSounding() {
-  auto* frame = new QGroupBox(QStringLiteral("Sound"), this);
+  auto* frame = new QGroupBox(TrQ("Sound"), this);
   auto* rows = new QGridLayout(frame);
-  rows->addWidget(NewCaption("Sou&nd:", cmbWatchSound, this), 0, 0);
+  rows->addWidget(NewCaption(TrMark("Sou&nd:"), cmbWatchSound, this), 0, 0);
   rows->addWidget(cmbWatchSound, 0, 1);
   rows->addWidget(cmdWatchTest, 0, 2);
-  rows->addWidget(NewCaption("Alarm Co&mmand:", txtWatchCommand, this), 1, 0);
+  rows->addWidget(NewCaption(TrMark("Alarm Co&mmand:"), txtWatchCommand, this), 1, 0);
   rows->addWidget(txtWatchCommand, 1, 1, 1, 3);
   rows->setColumnStretch(3, 1);
   return frame;
 }
 
 QWidget* WatchPageQt::NewShowing() {
-  auto* frame = new QGroupBox(QStringLiteral("Values and Entry"), this);
+  auto* frame = new QGroupBox(TrQ("Values and Entry"), this);
   auto* stale = new QGridLayout;
   const std::array<std::pair<const char*, OptionEntryQt*>, 5> boxes{
-      {{"A&pparent Wind:", txtWatchStaleWindApparent},
-       {"T&rue Wind:", txtWatchStaleWindTrue},
-       {"Boat Speed:", txtWatchStaleBoatSpeed},
-       {"Heading:", txtWatchStaleHeading},
-       {"Wa&ypoint:", txtWatchStaleWaypoint}}};
-  stale->addWidget(NewText("Stale after (sec):", this), 0, 0);
+      {{TrMark("A&pparent Wind:"), txtWatchStaleWindApparent},
+       {TrMark("T&rue Wind:"), txtWatchStaleWindTrue},
+       {TrMark("Boat Speed:"), txtWatchStaleBoatSpeed},
+       {TrMark("Heading:"), txtWatchStaleHeading},
+       {TrMark("Wa&ypoint:"), txtWatchStaleWaypoint}}};
+  stale->addWidget(NewText(TrMark("Stale after (sec):"), this), 0, 0);
   for (std::size_t i = 0; i < boxes.size(); ++i) {
     const int row = static_cast<int>(i) / 2;
     const int column = 1 + 2 * (static_cast<int>(i) % 2);

@@ -14,6 +14,8 @@
 #include "options/PilotTestQt.h"
 #include "options/SimulateTimeText.h"
 #include "options/TrackInUseText.h"
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 #include "platform/NumberText.h"
 #include "platform/PortNames.h"
 
@@ -31,7 +33,7 @@ constexpr double kScreenShare = 0.94;
 constexpr double kTextShare = 1.15;
 
 QString Text(std::string_view text) {
-  return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 }  // namespace
@@ -42,7 +44,7 @@ frmOptions::frmOptions(const Parts& parts)
       m_store(parts.Main, parts.Ports, parts.Store),
       SSTab(new QTabWidget(this)) {
   setObjectName(QStringLiteral("frmOptions"));
-  setWindowTitle(QStringLiteral("Veerwatch - Options"));
+  setWindowTitle(TrQ("Veerwatch - Options"));
   setWindowFlags(Qt::Window);
   setAttribute(Qt::WA_QuitOnClose, false);
   LargerText();
@@ -78,13 +80,13 @@ void frmOptions::MakeTabs() {
   m_simulate = new SimulatePageQt(SSTab);
   m_watch = new WatchPageQt(SSTab);
   m_watch->Tested([this](AlarmSound sound) { m_parts.Main.AlarmTest(sound); });
-  SSTab->addTab(m_input, QStringLiteral("&Input"));
-  SSTab->addTab(m_data, QStringLiteral("&Data"));
-  SSTab->addTab(new OptionPageQt(m_output, SSTab), QStringLiteral("&Output"));
-  SSTab->addTab(new OptionPageQt(m_track, SSTab), QStringLiteral("&Tracking"));
-  SSTab->addTab(new OptionPageQt(m_simulate, SSTab), QStringLiteral("&Simulate"));
-  SSTab->addTab(new LoopDiagramQt(SSTab), QStringLiteral("Dia&gram"));
-  SSTab->addTab(new OptionPageQt(m_watch, SSTab), QStringLiteral("&Watch"));
+  SSTab->addTab(m_input, TrQ("&Input"));
+  SSTab->addTab(m_data, TrQ("&Data"));
+  SSTab->addTab(new OptionPageQt(m_output, SSTab), TrQ("&Output"));
+  SSTab->addTab(new OptionPageQt(m_track, SSTab), TrQ("&Tracking"));
+  SSTab->addTab(new OptionPageQt(m_simulate, SSTab), TrQ("&Simulate"));
+  SSTab->addTab(new LoopDiagramQt(SSTab), TrQ("Dia&gram"));
+  SSTab->addTab(new OptionPageQt(m_watch, SSTab), TrQ("&Watch"));
   for (PortPageQt* page : {m_input, m_output}) {
     connect(page->Port, &QLineEdit::textChanged, this, [this] { ShowDevices(); });
     connect(page->Choose, &QPushButton::clicked, this, [this, page] { ChooseDevice(*page); });
@@ -103,13 +105,13 @@ void frmOptions::MakeTabs() {
 
 void frmOptions::MakeButtons() {
   const auto button = [this](const char* name, const char* text) {
-    auto* made = new QPushButton(QLatin1String(text), this);
+    auto* made = new QPushButton(TrQ(text), this);
     made->setObjectName(QLatin1String(name));
     return made;
   };
-  cmdOk = button("cmdOk", "OK");
-  cmdCancel = button("cmdCancel", "Cancel");
-  cmdApply = button("cmdApply", "&Apply");
+  cmdOk = button("cmdOk", TrMark("OK"));
+  cmdCancel = button("cmdCancel", TrMark("Cancel"));
+  cmdApply = button("cmdApply", TrMark("&Apply"));
   cmdOk->setDefault(true);
   connect(cmdOk, &QPushButton::clicked, this, [this] { cmdOk_Click(); });
   connect(cmdCancel, &QPushButton::clicked, this, [this] { cmdCancel_Click(); });
@@ -249,9 +251,9 @@ void frmOptions::OnPilotData(std::string_view sentence) {
   }
 }
 
-void frmOptions::OnInputState(InputState state) { m_input->Status->setText(Text(InputStateText(state))); }
+void frmOptions::OnInputState(InputState state) { m_input->Status->setText(TrQ(InputStateText(state))); }
 
-void frmOptions::OnOutputState(OutputState state) { m_output->Status->setText(Text(OutputStateText(state))); }
+void frmOptions::OnOutputState(OutputState state) { m_output->Status->setText(TrQ(OutputStateText(state))); }
 
 void frmOptions::OnTrackMode(TrackMode /*mode*/) {
   const auto tuning = m_parts.Main.Now().InUse;
@@ -316,7 +318,7 @@ void frmOptions::ChooseDevice(PortPageQt& page) {
     entries.push_back({port, endpoints});
   }
   const bool both = NumberIn(*m_input) == NumberIn(*m_output);
-  const char* way = both ? "input and output" : (&page == m_input ? "input" : "output");
+  const char* one = &page == m_input ? TrMark("Port %1, input:") : TrMark("Port %1, output:");
   const DeviceChoices choices(std::move(entries), DeviceIsThere);
   const auto taken = [this, &page, number, choices](const std::string& text) {
     const DevicePick pick = choices.PickFor(text, number);
@@ -327,7 +329,7 @@ void frmOptions::ChooseDevice(PortPageQt& page) {
     ShowDevices();
     ApplyBold(true);
   };
-  DeviceDialogQt::Open({"Port " + std::to_string(number) + ", " + way + ":",
+  DeviceDialogQt::Open({Filled(both ? Tr("Port %1, input and output:") : Tr(one), {std::to_string(number)}),
                         page.Device->text().toStdString(), choices, m_parts.Finder},
                        this, taken);
 }

@@ -53,6 +53,7 @@ class frmOptions final : public QDialog, private HelmObserver {
 
   /// Selects a tab [0, 6].
   void TabSelect(int index) { SSTab->setCurrentIndex(index); }
+  int Tab() const { return SSTab->currentIndex(); }
   /// Shows the settings as they are in place of whatever was typed, as after each Apply.
   void OptionsReload();
   /// Shows the dialog in the middle of its screen.

@@ -1,5 +1,6 @@
 #include "pilot/LineLoad.h"
 
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -21,8 +22,8 @@ std::optional<LineLoad> LineLoadOf(std::size_t characters, int cadence, const st
 
 std::string LineLoadText(const LineLoad& load) {
   constexpr double kPercent = 100.0;
-  return "Pilot line " + FormatNumber(static_cast<float>(load.Part * kPercent), "0") + " % full at " +
-         std::to_string(load.Baud) + " baud";
+  return Filled(Tr("Pilot line %1 % full at %2 baud"),
+                {FormatNumber(static_cast<float>(load.Part * kPercent), "0"), std::to_string(load.Baud)});
 }
 
 }  // namespace veerwatch

@@ -11,6 +11,7 @@
 #include "pilot/Vwr.h"
 #include "pilot/Xte.h"
 #include "platform/Angles.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -68,13 +69,13 @@ std::string PilotRefusalText(const PilotRefusal& refusal) {
     case PilotRefusal::Why::None:
       break;
     case PilotRefusal::Why::NoVariation:
-      return std::string(NameOf(refusal.First)) + " Needs the Variation";
+      return Filled(Tr("%1 Needs the Variation"), {NameOf(refusal.First)});
     case PilotRefusal::Why::OldVariation:
-      return std::string(NameOf(refusal.First)) + ": Variation Older Than 1 h";
+      return Filled(Tr("%1: Variation Older Than 1 h"), {NameOf(refusal.First)});
     case PilotRefusal::Why::NoSentence:
-      return "No Sentence Chosen";
+      return Tr("No Sentence Chosen");
     case PilotRefusal::Why::NoWind:
-      return "No Wind to Send";
+      return Tr("No Wind to Send");
   }
   return {};
 }

@@ -4,6 +4,7 @@
 #include <random>
 #include <system_error>
 
+#include "platform/Language.h"
 #include "platform/VisibleText.h"
 
 #ifdef _WIN32
@@ -90,7 +91,7 @@ std::error_code WriteNew(std::filesystem::path& fresh, std::string_view content,
 #endif
 
 std::string CannotWrite(const std::filesystem::path& file, std::string_view why) {
-  return "cannot write " + VisibleText(file.string()) + ": " + std::string(why);
+  return Filled(Tr("cannot write %1: %2"), {VisibleText(file.string()), why});
 }
 
 }  // namespace
@@ -104,16 +105,16 @@ std::string_view OtherKind(const std::filesystem::path& file) {
     case file_type::regular:
       return "";
     case file_type::directory:
-      return "it is a folder";
+      return TrMark("it is a folder");
     case file_type::fifo:
-      return "it is a pipe";
+      return TrMark("it is a pipe");
     case file_type::socket:
-      return "it is a socket";
+      return TrMark("it is a socket");
     case file_type::block:
     case file_type::character:
-      return "it is a device";
+      return TrMark("it is a device");
     default:
-      return "it is no plain file";
+      return TrMark("it is no plain file");
   }
 }
 

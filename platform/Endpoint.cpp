@@ -6,6 +6,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -41,7 +42,7 @@ std::vector<Option> OptionsOf(std::string_view text) {
 double NumberOf(const Option& option, double least, double most, const char* what) {
   const std::optional<double> number = StrictDouble(option.Value);
   if (!number || !(*number >= least) || !(*number <= most)) {
-    throw Wrong(Quoted(option.Value) + " is no " + what);
+    throw Wrong(Filled(Tr("%1 is no %2"), {Quoted(option.Value), Tr(what)}));
   }
   return *number;
 }
@@ -55,7 +56,8 @@ int BaudOf(const Option& option) {
     return number && *number == static_cast<double>(one);
   });
   if (rate == std::end(kBaudRates)) {
-    throw Wrong(Quoted(option.Value) + " is no baud rate (4800, 9600, 19200, 38400, 57600, 115200 or auto)");
+    throw Wrong(Filled(Tr("%1 is no baud rate (4800, 9600, 19200, 38400, 57600, 115200 or auto)"),
+                       {Quoted(option.Value)}));
   }
   return *rate;
 }
@@ -69,19 +71,19 @@ void TakeOption(const Option& option, Endpoint& endpoint) {
   if (is(Kind::Device, "baud")) {
     endpoint.Baud = BaudOf(option);
   } else if (is(Kind::TcpClient, "silence")) {
-    endpoint.Silence = NumberOf(option, 1.0, kDay, "number of seconds (1 to 86400)");
+    endpoint.Silence = NumberOf(option, 1.0, kDay, TrMark("number of seconds (1 to 86400)"));
   } else if (is(Kind::UdpOutput, "broadcast") && option.Value.empty()) {
     endpoint.Broadcast = true;
   } else if (is(Kind::UdpOutput, "listen") && option.Value.empty()) {
     endpoint.What = Kind::UdpInput;
   } else if (is(Kind::File, "speed")) {
-    endpoint.Speed = NumberOf(option, 0.01, 1000.0, "speed (0.01 to 1000)");
+    endpoint.Speed = NumberOf(option, 0.01, 1000.0, TrMark("speed (0.01 to 1000)"));
   } else if (is(Kind::File, "interval")) {
-    endpoint.Interval = NumberOf(option, 0.001, 3600.0, "interval in seconds (0.001 to 3600)");
+    endpoint.Interval = NumberOf(option, 0.001, 3600.0, TrMark("interval in seconds (0.001 to 3600)"));
   } else if (is(Kind::File, "loop") && option.Value.empty()) {
     endpoint.Loop = true;
   } else {
-    throw Wrong(Quoted(option.Name) + " is no option of it");
+    throw Wrong(Filled(Tr("%1 is no option of it"), {Quoted(option.Name)}));
   }
 }
 
@@ -90,7 +92,7 @@ std::uint16_t PortOf(std::string_view text) {
   const bool digits = !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
   const std::optional<double> number = digits ? StrictDouble(text) : std::nullopt;
   if (!number || *number < 1.0 || *number > kMost) {
-    throw Wrong(Quoted(text) + " is no port (1 to 65535)");
+    throw Wrong(Filled(Tr("%1 is no port (1 to 65535)"), {Quoted(text)}));
   }
   return static_cast<std::uint16_t>(*number);
 }
@@ -99,16 +101,16 @@ std::uint16_t PortOf(std::string_view text) {
 void TakeHost(std::string_view text, Endpoint& endpoint) {
   const std::size_t colon = text.rfind(':');
   if (colon == std::string_view::npos || text.ends_with(']')) {
-    throw Wrong(Quoted(text) + " has no port (host:port)");
+    throw Wrong(Filled(Tr("%1 has no port (host:port)"), {Quoted(text)}));
   }
   std::string_view host = text.substr(0, colon);
   if (host.starts_with('[') && host.ends_with(']')) {
     host = host.substr(1, host.size() - 2);
   } else if (host.find(':') != std::string_view::npos) {
-    throw Wrong(Quoted(host) + " is no host; an address with colons stands in [ ]");
+    throw Wrong(Filled(Tr("%1 is no host; an address with colons stands in [ ]"), {Quoted(host)}));
   }
   if (host.find_first_of(" \t/@[]?,") != std::string_view::npos) {
-    throw Wrong(Quoted(host) + " is no host");
+    throw Wrong(Filled(Tr("%1 is no host"), {Quoted(host)}));
   }
   endpoint.Host = host;
   endpoint.Port = PortOf(text.substr(colon + 1));
@@ -139,7 +141,8 @@ Endpoint::Kind KindOf(std::string_view scheme) {
       return kind;
     }
   }
-  throw Wrong(Quoted(std::string(scheme) + "://") + " is none of tcp://, tcp-listen://, udp:// and file://");
+  throw Wrong(Filled(Tr("%1 is none of tcp://, tcp-listen://, udp:// and file://"),
+                     {Quoted(std::string(scheme) + "://")}));
 }
 
 Endpoint DeviceOf(std::string_view text, const DeviceExists& exists) {
@@ -152,7 +155,7 @@ Endpoint DeviceOf(std::string_view text, const DeviceExists& exists) {
   }
   endpoint.Path = text.substr(0, mark);
   if (endpoint.Path.empty()) {
-    throw Wrong("it names no device");
+    throw Wrong(Tr("it names no device"));
   }
   for (const Option& option : OptionsOf(text.substr(mark + 1))) {
     TakeOption(option, endpoint);
@@ -171,13 +174,13 @@ Endpoint HostOrFileOf(std::string_view text, std::size_t schemeEnd) {
   if (endpoint.What == Kind::File) {
     endpoint.Path = rest;
     if (!rest.starts_with('/')) {
-      throw Wrong(Quoted(rest) + " is no whole path (file:///path)");
+      throw Wrong(Filled(Tr("%1 is no whole path (file:///path)"), {Quoted(rest)}));
     }
   } else {
     TakeHost(rest, endpoint);
   }
   if (endpoint.What == Kind::TcpClient && endpoint.Host.empty()) {
-    throw Wrong(Quoted(rest) + " has no host (host:port)");
+    throw Wrong(Filled(Tr("%1 has no host (host:port)"), {Quoted(rest)}));
   }
   if (endpoint.What == Kind::UdpOutput &&
       (endpoint.Host.empty() || IsGroup(endpoint.Host) || IsEverywhere(endpoint.Host))) {
@@ -191,7 +194,7 @@ Endpoint HostOrFileOf(std::string_view text, std::size_t schemeEnd) {
 
 Endpoint OneOf(std::string_view text, const DeviceExists& exists) {
   if (text.empty()) {
-    throw Wrong("nothing stands between two commas");
+    throw Wrong(Tr("nothing stands between two commas"));
   }
   const std::size_t schemeEnd = text.find("://");
   Endpoint endpoint =

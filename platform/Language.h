@@ -29,6 +29,9 @@ void SetTranslation(Translation translation);
 /// "" stays "".
 std::string Tr(const char* source);
 
+/// The same for a marked text that is held in another way.
+inline std::string Tr(std::string_view source) { return Tr(std::string(source).c_str()); }
+
 /// Marks a literal for the catalogues and hands it back as it is.
 constexpr const char* TrMark(const char* source) { return source; }
 

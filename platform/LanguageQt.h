@@ -2,12 +2,15 @@
 #pragma once
 
 #include <QString>
+#include <string>
 #include <string_view>
 
 namespace veerwatch {
 
 /// As Tr, for what Qt shows.
 QString TrQ(const char* source);
+
+inline QString TrQ(std::string_view source) { return TrQ(std::string(source).c_str()); }
 
 /// Installs `language`, "en" or "de"; "" for the desktop's. English for a language that has no catalogue.
 /// With it come the texts of Qt's own dialogs, where they are installed. Before the first window is made.

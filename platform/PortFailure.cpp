@@ -19,6 +19,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/Language.h"
 #include "platform/VisibleText.h"
 
 namespace veerwatch {
@@ -128,7 +129,7 @@ std::optional<pid_t> UserByLock(const std::string& device) {
 }
 
 std::string InUse(const std::string& device) {
-  constexpr const char* kByItself = "in use by this program's other port";
+  constexpr const char* kByItself = TrMark("in use by this program's other port");
   int looks = kMostLooks;
   if (HasOpen("/proc/self", device, looks)) {
     return kByItself;
@@ -140,10 +141,10 @@ std::string InUse(const std::string& device) {
     }
     const std::string name = process ? ProgramName(*process) : "";
     if (!name.empty()) {
-      return "in use by another program, " + name;
+      return Filled(Tr("in use by another program, %1"), {name});
     }
   }
-  return "in use by another program";
+  return Tr("in use by another program");
 }
 
 std::string NoPermission(const fs::path& device) {
@@ -153,10 +154,10 @@ std::string NoPermission(const fs::path& device) {
       status.st_gid != 0) {
     const group* owners = ::getgrgid(status.st_gid);
     if (owners != nullptr) {
-      return std::string("no permission, add yourself to the group ") + owners->gr_name;
+      return Filled(Tr("no permission, add yourself to the group %1"), {owners->gr_name});
     }
   }
-  return "no permission, add yourself to the group dialout";
+  return Tr("no permission, add yourself to the group dialout");
 }
 
 }  // namespace
@@ -167,10 +168,10 @@ std::string PortFailure(std::string device, const std::string& reason) {
   std::error_code error;
   const fs::path file = fs::canonical(device, error);
   if (error) {
-    return because(error == std::errc::no_such_file_or_directory ? "no such device" : error.message());
+    return because(error == std::errc::no_such_file_or_directory ? Tr("no such device") : error.message());
   }
   if (!fs::is_character_file(file, error) || error) {
-    return because("not a serial device");
+    return because(Tr("not a serial device"));
   }
   if (::access(file.c_str(), R_OK | W_OK) != 0) {
     return because(NoPermission(file));

@@ -1,5 +1,7 @@
 #include "platform/SerialPort.h"
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 SerialPort::Connection& SerialPort::Connection::operator=(Connection&& other) noexcept {
@@ -22,17 +24,17 @@ SerialPort::Connection SerialPort::Connect(Events& events) {
 std::string CommEventText(int commEvent) {
   switch (commEvent) {
     case CommEvent::kBreak:
-      return "Break Signal Received";
+      return Tr("Break Signal Received");
     case CommEvent::kFrame:
-      return "Framing Error";
+      return Tr("Framing Error");
     case CommEvent::kOverrun:
-      return "Port Overrun";
+      return Tr("Port Overrun");
     case CommEvent::kRxOver:
-      return "Rx Overflow";
+      return Tr("Rx Overflow");
     case CommEvent::kRxParity:
-      return "Parity Error";
+      return Tr("Parity Error");
     default:
-      return "Event " + std::to_string(commEvent);
+      return Filled(Tr("Event %1"), {std::to_string(commEvent)});
   }
 }
 

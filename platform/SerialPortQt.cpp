@@ -8,6 +8,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/Language.h"
 #include "platform/LineErrorCountersLinux.h"
 #include "platform/PortFailure.h"
 
@@ -150,8 +151,8 @@ std::string SerialPortQt::Trouble() const {
   if (m_device.Baud != 0) {
     return {};
   }
-  const std::string rate = std::to_string(m_search.Rate()) + " baud";
-  return m_device.Path + (Searching() ? ": searching the rate, now " : ": found ") + rate;
+  return Filled(Searching() ? Tr("%1: searching the rate, now %2 baud") : Tr("%1: found %2 baud"),
+                {m_device.Path, std::to_string(m_search.Rate())});
 }
 
 std::optional<int> SerialPortQt::BaudRate() const {

@@ -6,6 +6,8 @@
 #include <netinet/tcp.h>
 #include <sys/ioctl.h>
 #include <sys/socket.h>
+
+#include "platform/Language.h"
 #endif
 
 namespace veerwatch {
@@ -42,7 +44,7 @@ QHostAddress OwnAddress(const Endpoint& endpoint, std::string& failure) {
   }
   const QHostAddress address(QString::fromStdString(endpoint.Host));
   if (address.isNull()) {
-    failure = endpoint.Text + ": \"" + endpoint.Host + "\" is no address of this computer";
+    failure = Filled(Tr("%1: \"%2\" is no address of this computer"), {endpoint.Text, endpoint.Host});
   }
   return address;
 }

@@ -3,6 +3,8 @@
 #include <QNetworkProxy>
 #include <array>
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 TcpClientQt::TcpClientQt(const Endpoint& endpoint, const Clock& clock)
@@ -26,7 +28,8 @@ TcpClientQt::TcpClientQt(const Endpoint& endpoint, const Clock& clock)
   QObject::connect(&m_socket, &QTcpSocket::errorOccurred, &Context(),
                    [this] { Gone(Uncapitalised(m_socket.errorString().toStdString())); });
   QObject::connect(&m_retry, &QTimer::timeout, &Context(), [this] { Connect(); });
-  QObject::connect(&m_silence, &QTimer::timeout, &Context(), [this] { Gone("connected, but silent"); });
+  QObject::connect(&m_silence, &QTimer::timeout, &Context(),
+                   [this] { Gone(TrMark("connected, but silent")); });
 }
 
 TcpClientQt::~TcpClientQt() { PortOpen(false); }
@@ -58,7 +61,7 @@ void TcpClientQt::StoodStill() {
 }
 
 void TcpClientQt::Connect() {
-  m_why = "connecting";
+  m_why = TrMark("connecting");
   m_socket.connectToHost(QString::fromStdString(m_endpoint.Host), m_endpoint.Port);
   // Who does not answer at all is given up as one that is silent.
   constexpr int kConnects = 10000;  // [ms]
@@ -80,7 +83,7 @@ void TcpClientQt::Gone(const std::string& why) {
   if (!m_wanted || m_retry.isActive()) {
     return;
   }
-  m_why = m_why == "connecting" && why == "connected, but silent" ? "no answer" : why;
+  m_why = m_why == "connecting" && why == "connected, but silent" ? TrMark("no answer") : why;
   m_silence.stop();
   m_retry.start(m_pause.Next());
   // What has arrived whole is still worth reading.
@@ -95,8 +98,9 @@ std::string TcpClientQt::Trouble() const {
   }
   constexpr int kSecond = 1000;  // [ms]
   const int left = m_retry.remainingTime();
-  return m_endpoint.Text + ": " + m_why +
-         (left >= 0 ? ", next try in " + std::to_string((left + kSecond - 1) / kSecond) + " s" : "");
+  return m_endpoint.Text + ": " + Tr(m_why) +
+         (left >= 0 ? Filled(Tr(", next try in %1 s"), {std::to_string((left + kSecond - 1) / kSecond)})
+                    : "");
 }
 
 void TcpClientQt::Fetch() {

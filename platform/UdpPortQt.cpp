@@ -4,6 +4,8 @@
 #include <QNetworkProxy>
 #include <algorithm>
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 UdpPortQt::UdpPortQt(const Endpoint& endpoint, const Clock& clock)
@@ -23,7 +25,7 @@ bool UdpPortQt::OpenEndpoint(std::string& failure) {
   }
   const QHostAddress address(QString::fromStdString(m_endpoint.Host));
   if (!address.isNull() && !Allowed(address)) {
-    failure = m_endpoint.Text + ": a broadcast address needs ?broadcast";
+    failure = Filled(Tr("%1: a broadcast address needs ?broadcast"), {m_endpoint.Text});
     return false;
   }
   m_to = address;
@@ -66,7 +68,7 @@ void UdpPortQt::CloseEndpoint() {
 }
 
 void UdpPortQt::LookUp() {
-  m_trouble = "looking the host up";
+  m_trouble = Tr("looking the host up");
   m_lookup = QHostInfo::lookupHost(QString::fromStdString(m_endpoint.Host), &Context(),
                                    [this](const QHostInfo& host) { Found(host); });
 }
@@ -79,7 +81,7 @@ void UdpPortQt::Found(const QHostInfo& host) {
   const QList<QHostAddress> addresses = host.addresses();
   if (addresses.isEmpty() || !Allowed(addresses.front())) {
     m_trouble = addresses.isEmpty() ? Uncapitalised(host.errorString().toStdString())
-                                    : "a broadcast address needs ?broadcast";
+                                    : Tr("a broadcast address needs ?broadcast");
     m_retry.start(m_pause.Next());
     return;
   }

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "instruments/MathLib.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -14,9 +15,9 @@ TurnFace ToPort(std::string caption) { return {std::move(caption), TurnColor::Po
 
 TurnFace TackTurn(bool sideFlag, bool upwind) {
   if (upwind) {
-    return sideFlag ? ToPort("<< Tack") : ToStarboard("Tack >>");
+    return sideFlag ? ToPort(Tr("<< Tack")) : ToStarboard(Tr("Tack >>"));
   }
-  return sideFlag ? ToStarboard("Jibe >>") : ToPort("<< Jibe");
+  return sideFlag ? ToStarboard(Tr("Jibe >>")) : ToPort(Tr("<< Jibe"));
 }
 
 }  // namespace
@@ -25,10 +26,10 @@ TurnFace SteerFace(float newHeading, float heading) {
   const float change = FoldRelative(static_cast<double>(newHeading) - static_cast<double>(heading));
   const std::string number = FormatNumber(change, "0");
   if (number == "0") {
-    return {"Steer 0", TurnColor::Own};
+    return {Tr("Steer 0"), TurnColor::Own};
   }
-  return change > 0.0F ? ToStarboard(std::string("Steer +").append(number).append(" >"))
-                       : ToPort(std::string("< Steer ").append(number));
+  return change > 0.0F ? ToStarboard(Filled(Tr("Steer +%1 >"), {number}))
+                       : ToPort(Filled(Tr("< Steer %1"), {number}));
 }
 
 TurnFace TackFace(bool sideFlag, bool upwind, bool possible) {

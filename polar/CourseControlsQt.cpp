@@ -1,6 +1,7 @@
 #include "polar/CourseControlsQt.h"
 
 #include "draw/DrawQt.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -14,7 +15,7 @@ constexpr double kSteerMargin = 0.5;
 
 CourseControlsQt::CourseControlsQt(QWidget* plot)
     : frmLedger(new LedgerPanelQt(plot)),
-      lblSteer(new TurnLabelQt(QStringLiteral("lblSteer"), QStringLiteral("Steer -100 >"), plot)) {
+      lblSteer(new TurnLabelQt(QStringLiteral("lblSteer"), TrQ("Steer -100 >"), plot)) {
   frmLedger->raise();
   Follow();
 }

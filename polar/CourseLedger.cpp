@@ -1,6 +1,7 @@
 #include "polar/CourseLedger.h"
 
 #include "instruments/MathLib.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -66,60 +67,59 @@ class Writer {
     } else {
       part = FormatNumber(ToSingle(static_cast<double>(leg.Share) * kPercent), "0") + "%";
     }
-    return {heading, FormatNumber(leg.Heading, "0") + " (" + part + ")", subject, !(leg.Share > 0.0F)};
+    return {Tr(heading), FormatNumber(leg.Heading, "0") + " (" + part + ")", subject, !(leg.Share > 0.0F)};
   }
 
   std::string TimeText() const {
-    std::string text = FormatHours(m_hours);
     if (MotorSails(m_settings)) {
       const auto motor = HoursFor(m_input.WaypointRange, m_settings.BoatMotorSpeed);
-      text.append(" (motor ").append(FormatHours(motor)).append(")");
+      return Filled(Tr("%1 (motor %2)"), {FormatHours(m_hours), FormatHours(motor)});
     }
-    return text;
+    return FormatHours(m_hours);
   }
 
   void AddFigures(LedgerContent& content) const {
     const std::string speed = FormatNumber(m_solution.Best, "0.0");
     auto& figures = content.Figures;
-    figures = {{"Heading (M)", FormatNumber(m_input.Query.Heading, "0"), LedgerSubject::Boat},
-               LegFigure("Stb (M)", Starboard(), LedgerSubject::StarboardTack),
-               LegFigure("Prt (M)", Port(), LedgerSubject::PortTack),
-               {"Target (M)", Bearing(), LedgerSubject::Target},
-               {"Target (Kts)", speed, LedgerSubject::Target}};
+    figures = {{Tr("Heading (M)"), FormatNumber(m_input.Query.Heading, "0"), LedgerSubject::Boat},
+               LegFigure(TrMark("Stb (M)"), Starboard(), LedgerSubject::StarboardTack),
+               LegFigure(TrMark("Prt (M)"), Port(), LedgerSubject::PortTack),
+               {Tr("Target (M)"), Bearing(), LedgerSubject::Target},
+               {Tr("Target (Kts)"), speed, LedgerSubject::Target}};
     if (m_settings.CourseWaypointIndex != CourseSource::TargetBearing) {
-      figures.push_back({"Wpt (M)", Bearing(), LedgerSubject::Target});
-      figures.push_back({"Wpt (Kts)", speed, LedgerSubject::Target});
+      figures.push_back({Tr("Wpt (M)"), Bearing(), LedgerSubject::Target});
+      figures.push_back({Tr("Wpt (Kts)"), speed, LedgerSubject::Target});
     }
     if (Ranged()) {
-      figures.push_back({"Wpt (Rng)", FormatNumber(m_input.WaypointRange, "0.0"), LedgerSubject::Target});
-      figures.push_back({"Wpt (h:m)", TimeText(), LedgerSubject::Target});
+      figures.push_back({Tr("Wpt (Rng)"), FormatNumber(m_input.WaypointRange, "0.0"), LedgerSubject::Target});
+      figures.push_back({Tr("Wpt (h:m)"), TimeText(), LedgerSubject::Target});
     }
   }
 
   static LedgerRow WindRow(const char* label, const CourseLeg& leg, LedgerSubject subject) {
     if (!(leg.Share > 0.0F)) {
-      return {label, kNotSailed, "", subject};
+      return {Tr(label), kNotSailed, "", subject};
     }
-    return {label, FormatNumber(leg.WindAngle, "0"), FormatNumber(leg.Speed, "0.0"), subject};
+    return {Tr(label), FormatNumber(leg.WindAngle, "0"), FormatNumber(leg.Speed, "0.0"), subject};
   }
 
   LedgerRow TurnRow(const char* label, float bearing, bool sailed, LedgerSubject subject) const {
     const double turn = static_cast<double>(bearing) - static_cast<double>(m_input.Query.Heading);
-    return {label, sailed ? SignedAngle(turn) : kNotSailed, "", subject};
+    return {Tr(label), sailed ? SignedAngle(turn) : kNotSailed, "", subject};
   }
 
   std::array<LedgerRow, 6> Rows() const {
     const auto port = LedgerSubject::PortTack;
     const auto starboard = LedgerSubject::StarboardTack;
     const CourseQuery& query = m_input.Query;
-    return {
-        WindRow("Best Wind Angle Port Tack", Port(), port),
-        TurnRow("Target Bearing (Heads Up)", query.TargetBearing, true, LedgerSubject::Target),
-        TurnRow("Target Starboard Tack (Heads Up)", Starboard().Heading, Starboard().Share > 0.0F, starboard),
-        TurnRow("Target Port Tack (Heads Up)", Port().Heading, Port().Share > 0.0F, port),
-        WindRow("Best Wind Angle Starboard Tack", Starboard(), starboard),
-        {"Current Wind Angle and Speed", FormatNumber(query.WindAngleTrue, "0"),
-         FormatNumber(query.WindSpeedTrue, "0.0"), LedgerSubject::Wind}};
+    return {WindRow(TrMark("Best Wind Angle Port Tack"), Port(), port),
+            TurnRow(TrMark("Target Bearing (Heads Up)"), query.TargetBearing, true, LedgerSubject::Target),
+            TurnRow(TrMark("Target Starboard Tack (Heads Up)"), Starboard().Heading, Starboard().Share > 0.0F,
+                    starboard),
+            TurnRow(TrMark("Target Port Tack (Heads Up)"), Port().Heading, Port().Share > 0.0F, port),
+            WindRow(TrMark("Best Wind Angle Starboard Tack"), Starboard(), starboard),
+            {Tr("Current Wind Angle and Speed"), FormatNumber(query.WindAngleTrue, "0"),
+             FormatNumber(query.WindSpeedTrue, "0.0"), LedgerSubject::Wind}};
   }
 
   /// The straight way to the target, sailed or not.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 namespace {
@@ -77,7 +79,7 @@ LedgerTexts MeasureLedger(const LedgerContent& content, double height, bool rows
         figure.Subject == LedgerSubject::StarboardTack || figure.Subject == LedgerSubject::PortTack;
     const bool longTime = i == kTime && figure.Value.find(' ') != std::string::npos;
     if (longTime) {
-      texts.LongValue = widest.Of({"00:00 (motor 00:00)"});
+      texts.LongValue = widest.Of({Filled(Tr("%1 (motor %2)"), {"00:00", "00:00"})});
     }
     double& room = longTime ? texts.LongValue : leg ? texts.LegValue : texts.Value;
     room = std::max(room, widest.Width(figure.Value));

@@ -10,6 +10,7 @@
 #include "draw/DrawQt.h"
 #include "draw/TextMeasureQt.h"
 #include "platform/ColoursQt.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -32,14 +33,14 @@ void Put(QPainter& painter, const Box& box, Qt::Alignment side, const std::strin
 LedgerPanelQt::LedgerPanelQt(QWidget* parent)
     : QFrame(parent),
       m_colours(palette()),
-      cmdSteer(new TurnButtonQt(QStringLiteral("cmdSteer"), QStringLiteral("Steer -100 >"), this)),
-      cmdTack(new TurnButtonQt(QStringLiteral("cmdTack"), QStringLiteral("Tack"), this)) {
+      cmdSteer(new TurnButtonQt(QStringLiteral("cmdSteer"), TrQ("Steer -100 >"), this)),
+      cmdTack(new TurnButtonQt(QStringLiteral("cmdTack"), TrQ("Tack"), this)) {
   setObjectName(QStringLiteral("frmLedger"));
-  setWindowTitle(QStringLiteral("Tack Ledger"));
+  setWindowTitle(TrQ("Tack Ledger"));
   setAccessibleName(windowTitle());
-  setToolTip(QStringLiteral("You can drag this ledger to a different location"));
-  cmdSteer->setToolTip(QStringLiteral("Steer to the leg to sail now"));
-  cmdTack->setToolTip(QStringLiteral("Go to the other leg"));
+  setToolTip(TrQ("You can drag this ledger to a different location"));
+  cmdSteer->setToolTip(TrQ("Steer to the leg to sail now"));
+  cmdTack->setToolTip(TrQ("Go to the other leg"));
   setCursor(Qt::SizeAllCursor);
   connect(cmdSteer, &QPushButton::clicked, this, [this] { Steer(); });
   connect(cmdTack, &QPushButton::clicked, this, [this] { Tack(); });

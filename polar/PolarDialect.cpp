@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "instruments/MathLib.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -23,11 +24,11 @@ struct Trouble {
 };
 
 [[noreturn]] void Fail(int line, const std::string& what) {
-  throw Trouble{"line " + std::to_string(line) + ": " + what};
+  throw Trouble{Filled(Tr("line %1: %2"), {std::to_string(line), what})};
 }
 
 [[noreturn]] void Fail(int line, std::size_t column, const std::string& what) {
-  throw Trouble{"line " + std::to_string(line) + ", column " + std::to_string(column) + ": " + what};
+  throw Trouble{Filled(Tr("line %1, column %2: %3"), {std::to_string(line), std::to_string(column), what})};
 }
 
 /// A cell's text for a message: short and printable.
@@ -137,10 +138,10 @@ class Reader {
   /// Returns the note.
   std::string Store(PolarTable& table, int slot, int lastLine) {
     if (m_winds.empty()) {
-      Fail(std::max(lastLine, 1), "no table");
+      Fail(std::max(lastLine, 1), Tr("no table"));
     }
     if (m_rows.empty()) {
-      Fail(lastLine, "no rows behind the wind speeds");
+      Fail(lastLine, Tr("no rows behind the wind speeds"));
     }
     Sort();
     const std::vector<std::size_t> kept = Kept();
@@ -148,7 +149,7 @@ class Reader {
     std::vector<std::vector<float>> speeds(m_rows.size());
     for (std::size_t row = 0; row < m_rows.size(); ++row) {
       for (const std::size_t wind : kept) {
-        speeds[row].push_back(Filled(row, wind));
+        speeds[row].push_back(SpeedAt(row, wind));
       }
     }
     for (std::size_t i = 0; i < kept.size(); ++i) {
@@ -162,9 +163,10 @@ class Reader {
     }
     table.PolarRows(slot) = static_cast<std::int16_t>(m_rows.size());
     table.PolarColumns(slot) = static_cast<std::int16_t>(kept.size());
-    return kept.size() == m_winds.size() ? std::string()
-                                         : "of " + std::to_string(m_winds.size()) + " wind speeds " +
-                                               std::to_string(kept.size()) + " are kept";
+    return kept.size() == m_winds.size()
+               ? std::string()
+               : Filled(Tr("of %1 wind speeds %2 are kept"),
+                        {std::to_string(m_winds.size()), std::to_string(kept.size())});
   }
 
  private:
@@ -173,22 +175,23 @@ class Reader {
     const auto cells = Cells(m_separator == '\t' ? text : Trimmed(text), m_separator);
     const std::string_view corner = cells.empty() ? std::string_view() : cells.front();
     if (!IsCorner(corner)) {
-      Fail(line, 1, Quoted(corner) + " where \"TWA\" should stand");
+      Fail(line, 1, Filled(Tr("%1 where \"TWA\" should stand"), {Quoted(corner)}));
     }
     if (cells.size() < 2) {
-      Fail(line, 2, "no wind speeds");
+      Fail(line, 2, Tr("no wind speeds"));
     }
     if (cells.size() - 1 > kMostDialectWinds) {
-      Fail(line, kMostDialectWinds + 2, "more than " + std::to_string(kMostDialectWinds) + " wind speeds");
+      Fail(line, kMostDialectWinds + 2,
+           Filled(Tr("more than %1 wind speeds"), {std::to_string(kMostDialectWinds)}));
     }
     for (std::size_t i = 1; i < cells.size(); ++i) {
       const auto wind = CellNumber(cells[i], m_separator);
       if (!wind || *wind < 0.0F) {
-        Fail(line, i + 1, Quoted(cells[i]) + " is no wind speed");
+        Fail(line, i + 1, Filled(Tr("%1 is no wind speed"), {Quoted(cells[i])}));
       }
       for (const auto& other : m_winds) {
         if (other.first == *wind) {
-          Fail(line, i + 1, "the wind speed " + ShortestText(*wind) + " is there already");
+          Fail(line, i + 1, Filled(Tr("the wind speed %1 is there already"), {ShortestText(*wind)}));
         }
       }
       m_winds.emplace_back(*wind, i - 1);
@@ -201,20 +204,20 @@ class Reader {
       return;
     }
     if (cells.size() - 1 > m_winds.size()) {
-      Fail(line, m_winds.size() + 2, "more cells than the first line has");
+      Fail(line, m_winds.size() + 2, Tr("more cells than the first line has"));
     }
     if (m_rows.size() == PolarTable::kMostRows) {
-      Fail(line, "more than " + std::to_string(PolarTable::kMostRows) + " rows");
+      Fail(line, Filled(Tr("more than %1 rows"), {std::to_string(PolarTable::kMostRows)}));
     }
     const auto angle = CellNumber(cells.front(), m_separator);
     if (!angle || *angle < 0.0F || *angle > kLargestAngle) {
-      Fail(line, 1, Quoted(cells.front()) + " is no angle from 0 to 180");
+      Fail(line, 1, Filled(Tr("%1 is no angle from 0 to 180"), {Quoted(cells.front())}));
     }
     for (const Row& other : m_rows) {
       if (other.Angle == *angle) {
-        Fail(
-            line, 1,
-            "the angle " + ShortestText(*angle) + " is there already, in line " + std::to_string(other.Line));
+        Fail(line, 1,
+             Filled(Tr("the angle %1 is there already, in line %2"),
+                    {ShortestText(*angle), std::to_string(other.Line)}));
       }
     }
     Row row{line, *angle, std::vector<Speed>(m_winds.size())};
@@ -224,7 +227,7 @@ class Reader {
       }
       const auto speed = CellNumber(cells[i], m_separator);
       if (!speed || *speed < 0.0F) {
-        Fail(line, i + 1, Quoted(cells[i]) + " is no boat speed");
+        Fail(line, i + 1, Filled(Tr("%1 is no boat speed"), {Quoted(cells[i])}));
       }
       row.Speeds[i - 1] = speed;
     }
@@ -253,7 +256,7 @@ class Reader {
     return kept;
   }
 
-  float Filled(std::size_t row, std::size_t column) const {
+  float SpeedAt(std::size_t row, std::size_t column) const {
     const std::vector<Row>& known = m_rows;
     if (const Speed own = known[row].Speeds[column]) {
       return *own;
@@ -295,7 +298,7 @@ class Reader {
     if (less) {
       return less->second;
     }
-    Fail(known[row].Line, "a row without any boat speed");
+    Fail(known[row].Line, Tr("a row without any boat speed"));
   }
 
   char m_separator = ' ';

@@ -7,6 +7,7 @@
 
 #include "instruments/MathLib.h"
 #include "platform/AtomicFile.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 #include "platform/WholeFile.h"
 
@@ -18,8 +19,8 @@ constexpr int kEnd = std::istream::traits_type::eof();
 constexpr std::size_t kLongestCell = 256;
 constexpr const char* kCorner = "TWA";
 
-constexpr const char* kTooManyRows = "more than 200 angles";
-constexpr const char* kTooManyColumns = "more than 50 wind speeds";
+constexpr const char* kTooManyRows = TrMark("more than 200 angles");
+constexpr const char* kTooManyColumns = TrMark("more than 50 wind speeds");
 static_assert(PolarTable::kMostRows == 200 && PolarTable::kMostColumns == 50);
 
 /// Which bound of a table a text goes beyond; null when it fits.
@@ -41,7 +42,7 @@ const char* Beyond(std::string_view text) {
 }
 
 PolarLoadResult Failed(const std::string& reason, bool replaced = false) {
-  return {false, "Polar File Error: " + reason, replaced};
+  return {false, Filled(Tr("Polar File Error: %1"), {Tr(reason)}), replaced};
 }
 
 }  // namespace
@@ -76,7 +77,7 @@ PolarLoadResult PolarRead(PolarTable& table, int slot, float speedFactor, std::i
     }
     if (row == 0 && column == 0) {
       if (cell != kCorner) {
-        return Failed("No TWA Data");
+        return Failed(TrMark("No TWA Data"));
       }
     } else {
       if (row > PolarTable::kMostRows || column > PolarTable::kMostColumns) {
@@ -101,7 +102,7 @@ PolarLoadResult PolarRead(PolarTable& table, int slot, float speedFactor, std::i
       table.PolarColumns(slot) = static_cast<std::int16_t>(column);
       table.PolarRows(slot) = 0;
     } else if (column != table.PolarColumns(slot)) {
-      return Failed("Number of Columns Mismatch", replaced);
+      return Failed(TrMark("Number of Columns Mismatch"), replaced);
     } else {
       table.PolarRows(slot) = static_cast<std::int16_t>(row);
     }

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "instruments/MathLib.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 #include "platform/VisibleText.h"
 
@@ -87,13 +88,13 @@ PolarLoadResult PolarModel::LoadElse(int slot, const PolarHeld& before) {
 std::string PolarModel::Name(int slot) const {
   const auto& held = Held(slot);
   if (!held) {
-    return "No polar";
+    return Tr("No polar");
   }
   std::string name = VisibleText(std::filesystem::path(held->File).stem().string());
   if (held->Factor != 1.0F) {
     name.append(" ").append(Percent(held->Factor));
   }
-  return held->Whole ? name : name + " (incomplete)";
+  return held->Whole ? name : Filled(Tr("%1 (incomplete)"), {name});
 }
 
 void PolarModel::TableChanged() {
@@ -208,16 +209,16 @@ bool PolarModel::TakeMotorSpeed(const std::string& text) {
 }
 
 std::string PolarModel::ScalingCaption() const {
-  return "Set Scaling (" + Percent(m_settings.SpeedFactor) + ")...";
+  return Filled(Tr("Set Scaling (%1)..."), {Percent(m_settings.SpeedFactor)});
 }
 
 std::string PolarModel::TargetBearingCaption() const {
-  return "Set Target Bearing (" + FormatNumber(m_settings.CourseTargetBearing, "0") + " M)...";
+  return Filled(Tr("Set Target Bearing (%1 M)..."), {FormatNumber(m_settings.CourseTargetBearing, "0")});
 }
 
 std::string PolarModel::MotorSpeedCaption() const {
-  return "Set Motor Only Speed to Target/Waypoint (" + FormatNumber(m_settings.BoatMotorSpeed, "0.0") +
-         " Kts)...";
+  return Filled(Tr("Set Motor Only Speed to Target/Waypoint (%1 Kts)..."),
+                {FormatNumber(m_settings.BoatMotorSpeed, "0.0")});
 }
 
 bool PolarModel::Update(TrackMode mode, const PolarValues& values, bool visible) {
@@ -262,10 +263,10 @@ PolarReadout PolarModel::Readout() const {
   const bool motor = m_settings.Boat == BoatType::MotorAndSail;
   const bool apparent = m_settings.Type == PlotType::ApparentWind;
   PolarReadout readout;
-  readout.ReferenceCaption = motor ? "Motor (Kts)" : "Polar (Kts)";
-  readout.BoatCaption = "Boat (Kts)";
-  readout.WindSpeedCaption = apparent ? "AWS (Kts)" : "TWS (Kts)";
-  readout.WindAngleCaption = apparent ? "AWA (R)" : "TWA (R)";
+  readout.ReferenceCaption = motor ? Tr("Motor (Kts)") : Tr("Polar (Kts)");
+  readout.BoatCaption = Tr("Boat (Kts)");
+  readout.WindSpeedCaption = apparent ? Tr("AWS (Kts)") : Tr("TWS (Kts)");
+  readout.WindAngleCaption = apparent ? Tr("AWA (R)") : Tr("TWA (R)");
   if (!Received()) {
     return readout;
   }
@@ -298,8 +299,8 @@ std::optional<PolarMouse> PolarModel::Nearest(double x, double y, const PolarGeo
   }
   return PolarMouse{FormatNumber(winner.Cell.Angle, "0.0") + "\n" + FormatNumber(winner.Cell.WindSpeed, "0") +
                         "\n" + FormatNumber(winner.Cell.BoatSpeed, "0.0"),
-                    std::string(m_settings.Type == PlotType::ApparentWind ? "AWA (R)" : "TWA (R)") +
-                        "\nTWS (Kts)\n" + (reference ? "Reference (Kts)" : "Polar (Kts)"),
+                    (m_settings.Type == PlotType::ApparentWind ? Tr("AWA (R)") : Tr("TWA (R)")) + "\n" +
+                        Tr("TWS (Kts)") + "\n" + (reference ? Tr("Reference (Kts)") : Tr("Polar (Kts)")),
                     reference};
 }
 

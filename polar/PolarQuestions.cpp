@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "instruments/MathLib.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 #include "platform/VisibleText.h"
 #include "platform/WholeFile.h"
@@ -16,9 +17,9 @@ namespace veerwatch {
 
 namespace {
 
-constexpr const char* kTitle = "Veerwatch - Polar";
-constexpr const char* kScaling = "AutoPilot - Polar Plot - Speed Factor";
-constexpr const char* kSaveAs = "AutoPilot - Save As";
+constexpr const char* kTitle = TrMark("Veerwatch - Polar");
+constexpr const char* kScaling = TrMark("AutoPilot - Polar Plot - Speed Factor");
+constexpr const char* kSaveAs = TrMark("AutoPilot - Save As");
 
 /// A factor as it is read out: with two decimals, or with as many as it has.
 std::string FactorText(float factor) {
@@ -58,7 +59,7 @@ std::string ConvertedName(std::filesystem::path file) {
 /// Asks for a number and hands it to `take`. An answer that it does not take leaves everything as it was.
 void PolarQuestions::AskNumber(const char* title, const char* prompt, float present,
                                bool (PolarModel::*take)(const std::string&)) {
-  m_asks.AskText(title, prompt, ShortestText(present), [this, take](const auto& answer) {
+  m_asks.AskText(Tr(title), Tr(prompt), ShortestText(present), [this, take](const auto& answer) {
     if (answer && !answer->empty() && (m_model.*take)(*answer)) {
       m_changed();
     }
@@ -67,18 +68,19 @@ void PolarQuestions::AskNumber(const char* title, const char* prompt, float pres
 
 void PolarQuestions::AskRange() {
   // Deliberate: "maximun".
-  AskNumber("Polar Plot - Speed Range", "Enter the maximun speed (Kts) for the polar plot display.",
+  AskNumber(TrMark("Polar Plot - Speed Range"),
+            TrMark("Enter the maximun speed (Kts) for the polar plot display."),
             m_model.Settings().SpeedRange, &PolarModel::TakeRange);
 }
 
 void PolarQuestions::AskTargetBearing() {
-  AskNumber("Polar Plot - Target Bearing", "Enter the Target Bearing.",
+  AskNumber(TrMark("Polar Plot - Target Bearing"), TrMark("Enter the Target Bearing."),
             m_model.Settings().CourseTargetBearing, &PolarModel::TakeBearing);
 }
 
 void PolarQuestions::AskMotorSpeed() {
   // Deliberate: "Traget".
-  AskNumber("Polar Plot - Motor Speed", "Enter the Motor Only Speed to Traget/Waypoint.",
+  AskNumber(TrMark("Polar Plot - Motor Speed"), TrMark("Enter the Motor Only Speed to Traget/Waypoint."),
             m_model.Settings().BoatMotorSpeed, &PolarModel::TakeMotorSpeed);
 }
 
@@ -93,13 +95,13 @@ void PolarQuestions::AskScaling() {
       return;
     }
     m_asks.WarnYesNo(
-        kScaling, "Did you mean " + *likely + "?",
+        Tr(kScaling), Filled(Tr("Did you mean %1?"), {*likely}),
         [this, entered = *answer, meant = *likely](bool yes) { TakeFactor(yes ? meant : entered); });
   };
   m_asks.AskText(
-      kScaling,
-      "Enter the scaling factor, used to scale the polar plot speed data.  The scaling factor is normally "
-      "set to 1, but can be set to other values to compensate for bad weather or heavy displacement.",
+      Tr(kScaling),
+      Tr("Enter the scaling factor, used to scale the polar plot speed data.  The scaling factor is normally "
+         "set to 1, but can be set to other values to compensate for bad weather or heavy displacement."),
       ShortestText(m_model.Settings().SpeedFactor), typed);
 }
 
@@ -123,7 +125,7 @@ void PolarQuestions::AskColor() {
 
 void PolarQuestions::Tell(const PolarLoadResult& result) {
   if (!result.Error.empty()) {
-    m_asks.Inform(kTitle, result.Error);
+    m_asks.Inform(Tr(kTitle), result.Error);
   }
 }
 
@@ -153,16 +155,16 @@ bool PolarQuestions::AskConvert(int slot, const std::string& file, const std::st
   }
   const auto convert = [this, slot, table](const std::string& target) {
     if (const auto failure = PolarSave(*table, PolarModel::kMain, target, PolarHeads::Exact)) {
-      m_asks.Inform(kTitle, *failure);
+      m_asks.Inform(Tr(kTitle), *failure);
       return;
     }
     Tell(m_model.Open(slot, target));
     m_changed();
   };
   const std::string note = read.Note.empty() ? "" : "\n(" + read.Note + ")";
-  m_asks.AskYesNo(kTitle,
-                  error + "\n\nIt is a polar in another spelling." + note +
-                      "\nDo you want to convert it into a new file and open that?",
+  m_asks.AskYesNo(Tr(kTitle),
+                  error + "\n\n" + Tr("It is a polar in another spelling.") + note + "\n" +
+                      Tr("Do you want to convert it into a new file and open that?"),
                   [this, file, convert](bool yes) {
                     if (yes) {
                       AskTarget(ConvertedName(file), convert);
@@ -182,7 +184,8 @@ void PolarQuestions::AskTarget(const std::string& proposed, Target target) {
       return;
     }
     // Deliberate: no blank in front of "file".
-    m_asks.WarnYesNo(kSaveAs, VisibleText(*file) + "file already exists.\nDo you want to replace it?",
+    m_asks.WarnYesNo(Tr(kSaveAs),
+                     Filled(Tr("%1file already exists.\nDo you want to replace it?"), {VisibleText(*file)}),
                      [target, chosen = *file](bool yes) {
                        if (yes) {
                          target(chosen);
@@ -197,7 +200,7 @@ void PolarQuestions::SaveAs() {
 
 void PolarQuestions::SaveTo(const std::string& file) {
   if (const auto failure = m_model.SaveAs(file)) {
-    m_asks.Inform(kTitle, *failure);
+    m_asks.Inform(Tr(kTitle), *failure);
     return;
   }
   OfferFactorOne();
@@ -210,16 +213,18 @@ void PolarQuestions::OfferFactorOne() {
   if (factor == 1.0F) {
     return;
   }
-  m_asks.WarnYesNo(kSaveAs,
-                   "The file holds the scaled speeds. With the scaling factor of " + FactorText(factor) +
-                       " the next start scales them again.\nSet the factor to 1?",
-                   [this, factor](bool yes) {
-                     if (yes && m_model.Settings().SpeedFactor == factor) {
-                       m_model.Factor(1.0F);
-                       LoadAndTell(PolarModel::kMain);
-                       m_changed();
-                     }
-                   });
+  m_asks.WarnYesNo(
+      Tr(kSaveAs),
+      Filled(Tr("The file holds the scaled speeds. With the scaling factor of %1 the next start scales them "
+                "again.\nSet the factor to 1?"),
+             {FactorText(factor)}),
+      [this, factor](bool yes) {
+        if (yes && m_model.Settings().SpeedFactor == factor) {
+          m_model.Factor(1.0F);
+          LoadAndTell(PolarModel::kMain);
+          m_changed();
+        }
+      });
 }
 
 }  // namespace veerwatch

@@ -4,6 +4,7 @@
 #include <QHBoxLayout>
 
 #include "draw/DrawQt.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -34,7 +35,7 @@ SailBarQt::SailBarQt(QMainWindow& window)
       lblSail(new QLabel(this)),
       cmdSail(new TurnButtonQt(QStringLiteral("cmdSail"), QString(), this)) {
   setObjectName(QStringLiteral("tbrSail"));
-  setWindowTitle(QStringLiteral("Sail the Course"));
+  setWindowTitle(TrQ("Sail the Course"));
   setMovable(false);
   setContextMenuPolicy(Qt::PreventContextMenu);
   installEventFilter(new Unpainted(this));
@@ -45,7 +46,7 @@ SailBarQt::SailBarQt(QMainWindow& window)
   lblSail->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   cmdSail->setFont(Letters(*this, kPromptHeight, true));
   cmdSail->setFocusPolicy(Qt::NoFocus);
-  cmdSail->setToolTip(QStringLiteral("Turn to the other leg now (Enter)"));
+  cmdSail->setToolTip(TrQ("Turn to the other leg now (Enter)"));
   connect(cmdSail, &QPushButton::clicked, this, [this] { Turn(); });
   auto* both = new QWidget(this);
   auto* row = new QHBoxLayout(both);

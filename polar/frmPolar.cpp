@@ -4,6 +4,7 @@
 #include <QScreen>
 
 #include "draw/WindowPlaceQt.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
@@ -28,7 +29,7 @@ frmPolar::frmPolar(const PolarParts& parts)
       tbrSail(new SailBarQt(*this)),
       m_show(parts.Rest, [this] { ShowUpdate(); }) {
   setObjectName(QStringLiteral("frmPolar"));
-  setWindowTitle(QStringLiteral("Veerwatch - Polar"));
+  setWindowTitle(TrQ("Veerwatch - Polar"));
   setAttribute(Qt::WA_QuitOnClose, false);
   setMinimumSize(kSmallestSize);
   QSize size = kDefaultSize;
@@ -38,7 +39,7 @@ frmPolar::frmPolar(const PolarParts& parts)
   resize(size);
   setCentralWidget(m_canvas);
   m_canvas->setObjectName(QStringLiteral("pctPlot"));
-  m_canvas->setAccessibleName(QStringLiteral("Polar plot"));
+  m_canvas->setAccessibleName(TrQ("Polar plot"));
   m_canvas->Pressed = [this](QPointF at) { lblMouse->Press(at); };
   m_canvas->Moved = [this](QPointF at) { lblMouse->Move(at); };
   m_canvas->Left = [this] { lblMouse->Leave(); };

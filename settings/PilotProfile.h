@@ -1,9 +1,11 @@
-// What a pilot is sent; the choices of section "Pilot". Standard library only.
+// What a pilot is sent; the choices of section "Pilot".
 #pragma once
 
 #include <array>
 #include <cstdint>
 #include <string_view>
+
+#include "platform/Language.h"
 
 namespace veerwatch {
 
@@ -18,8 +20,12 @@ enum class PilotProfile : std::int32_t {
 };
 
 /// As they are called in the profile and in the options dialog.
-inline constexpr std::array<std::string_view, 6> kPilotProfiles{
-    "Magnetic APB", "True APB", "APB and RMB", "Heading command HSC", "Wind to a vane-mode pilot", "Own"};
+inline constexpr std::array<std::string_view, 6> kPilotProfiles{TrMark("Magnetic APB"),
+                                                                TrMark("True APB"),
+                                                                TrMark("APB and RMB"),
+                                                                TrMark("Heading command HSC"),
+                                                                TrMark("Wind to a vane-mode pilot"),
+                                                                TrMark("Own")};
 
 /// What the bearings of APB are measured from; the numbers are the indexes of the names "M" and "T".
 enum class BearingKind : std::int32_t { Magnetic = 0, True = 1 };

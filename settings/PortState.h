@@ -1,7 +1,9 @@
-// The states of input and output. Standard library only.
+// The states of input and output.
 #pragma once
 
 #include <string_view>
+
+#include "platform/Language.h"
 
 namespace veerwatch {
 
@@ -12,19 +14,19 @@ enum class InputState {
   Simulate,  ///< the simulator takes its place
 };
 
-/// "Stopped", "Running", "No Input Data" or "Simulate".
+/// "Stopped", "Running", "No Input Data" or "Simulate"; for Tr.
 constexpr std::string_view InputStateText(InputState state) {
   switch (state) {
     case InputState::Running:
-      return "Running";
+      return TrMark("Running");
     case InputState::NoData:
-      return "No Input Data";
+      return TrMark("No Input Data");
     case InputState::Simulate:
-      return "Simulate";
+      return TrMark("Simulate");
     case InputState::Stopped:
       break;
   }
-  return "Stopped";
+  return TrMark("Stopped");
 }
 
 enum class OutputState {
@@ -33,13 +35,13 @@ enum class OutputState {
   Simulate,
 };
 
-/// "", "Running" or "Simulate".
+/// "", "Running" or "Simulate"; for Tr.
 constexpr std::string_view OutputStateText(OutputState state) {
   switch (state) {
     case OutputState::Running:
-      return "Running";
+      return TrMark("Running");
     case OutputState::Simulate:
-      return "Simulate";
+      return TrMark("Simulate");
     case OutputState::None:
       break;
   }

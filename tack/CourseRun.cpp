@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "instruments/MathLib.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 #include "wind/AngleGuard.h"
 
@@ -56,29 +57,29 @@ std::string_view CourseEndText(CourseEnd why) {
     case CourseEnd::ByUser:
       break;
     case CourseEnd::Reached:
-      return "Mark Reached";
+      return TrMark("Mark Reached");
     case CourseEnd::NoMark:
-      return "No Waypoint";
+      return TrMark("No Waypoint");
     case CourseEnd::OtherMark:
-      return "Another Waypoint";
+      return TrMark("Another Waypoint");
     case CourseEnd::NoTrack:
-      return "Not in Track";
+      return TrMark("Not in Track");
     case CourseEnd::NoWind:
-      return "No Wind";
+      return TrMark("No Wind");
     case CourseEnd::NoHeading:
-      return "No Heading";
+      return TrMark("No Heading");
     case CourseEnd::NoOutput:
-      return "No Output";
+      return TrMark("No Output");
     case CourseEnd::NoPolar:
-      return "the polar makes no way to the mark";
+      return TrMark("the polar makes no way to the mark");
     case CourseEnd::OtherAngle:
-      return "another angle was set";
+      return TrMark("another angle was set");
     case CourseEnd::OtherSide:
-      return "the other wind was chosen";
+      return TrMark("the other wind was chosen");
     case CourseEnd::PolarAngle:
-      return "Polar Angle was chosen";
+      return TrMark("Polar Angle was chosen");
     case CourseEnd::TurnEnded:
-      return "the turn was ended";
+      return TrMark("the turn was ended");
   }
   return {};
 }
@@ -254,12 +255,14 @@ void CourseRun::Hold(double angle) {
 
 void CourseRun::ShowLine(const CourseMark& mark) {
   const double held = m_answer.Hold.value_or(static_cast<double>(m_parts.Boat.Data().WindAngleTrue));
-  m_line = m_answer.Straight ? "Straight" : m_held < 0.0 ? "Port tack" : "Starboard tack";
-  m_line += ", " + Whole(std::fabs(held)) + " degrees, mark ";
-  m_line += mark.Range ? FormatNumber(ToSingle(*mark.Range), "0.0") + " nm"
-                       : FormatNumber(FoldBearing(mark.Bearing), "0") + " M";
+  const std::string leg = m_answer.Straight ? Tr("Straight")
+                          : m_held < 0.0    ? Tr("Port tack")
+                                            : Tr("Starboard tack");
+  const std::string there = mark.Range ? Filled(Tr("%1 nm"), {FormatNumber(ToSingle(*mark.Range), "0.0")})
+                                       : FormatNumber(FoldBearing(mark.Bearing), "0") + " M";
+  m_line = Filled(Tr("%1, %2 degrees, mark %3"), {leg, Whole(std::fabs(held)), there});
   if (m_answer.ToLine && *m_answer.ToLine > kPromptFrom) {
-    m_line += ", line in " + Whole(std::ceil(*m_answer.ToLine / kMinute)) + " min";
+    m_line += Filled(Tr(", line in %1 min"), {Whole(std::ceil(*m_answer.ToLine / kMinute))});
   }
 }
 
@@ -274,12 +277,12 @@ void CourseRun::ShowPrompt() {
     return;
   }
   m_prompted += stood ? 1.0 : 0.0;
+  m_prompt = m_answer.Turn == ManoeuvreKind::Tack ? Tr("Tack now (Enter)") : Tr("Jibe now (Enter)");
   if (!m_due) {
-    m_prompt = "In " + Whole(*m_answer.ToLine) + " s: ";
+    m_prompt = Filled(Tr("In %1 s: %2"), {Whole(*m_answer.ToLine), m_prompt});
   }
-  m_prompt += m_answer.Turn == ManoeuvreKind::Tack ? "Tack now (Enter)" : "Jibe now (Enter)";
   if (m_answer.Past >= kTold) {
-    m_prompt += ", " + Whole(m_answer.Past) + " degrees past the line";
+    m_prompt = Filled(Tr("%1, %2 degrees past the line"), {m_prompt, Whole(m_answer.Past)});
   }
   if (!stood || (m_due && !wasDue)) {
     m_parts.Prompts();

@@ -3,12 +3,13 @@
 #include <QPainter>
 
 #include "alarms/AlarmColoursQt.h"
+#include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
-StopButtonQt::StopButtonQt(int pixels, QWidget* parent) : QPushButton(QStringLiteral("Stop"), parent) {
+StopButtonQt::StopButtonQt(int pixels, QWidget* parent) : QPushButton(TrQ("Stop"), parent) {
   setObjectName(QStringLiteral("cmdStop"));
-  setToolTip(QStringLiteral("End the turn here and leave the pilot where it is (Escape)"));
+  setToolTip(TrQ("End the turn here and leave the pilot where it is (Escape)"));
   setAutoDefault(false);
   setFocusPolicy(Qt::NoFocus);
   QFont letters = font();

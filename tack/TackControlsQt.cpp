@@ -7,6 +7,9 @@
 #include <array>
 #include <cstddef>
 
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
+
 namespace veerwatch {
 
 namespace {
@@ -20,16 +23,21 @@ constexpr QSize kButtonSize(150, 52);
 constexpr int kBarHeight = 30;
 constexpr int kStepGap = 2;
 constexpr int kStopHeight = 30;  // of its letters
-constexpr std::array<const char*, 4> kWords{"", "Steer", "Tack", "Jibe"};
-constexpr const char* kManual = "Set tracking mode to Manual";
-constexpr const char* kOvershoot = "Overshoot the heading";
-constexpr const char* kLimit = "Limit the rate of change";
+constexpr std::array<const char*, 4> kWords{"", TrMark("Steer"), TrMark("Tack"), TrMark("Jibe")};
+constexpr const char* kManual = TrMark("Set tracking mode to Manual");
+constexpr const char* kOvershoot = TrMark("Overshoot the heading");
+constexpr const char* kLimit = TrMark("Limit the rate of change");
 /// The longest: a question in two parts, and that the boat swings.
 constexpr int kNoteLines = 4;
 /// On a small screen.
 constexpr int kFewNoteLines = 2;
 
-QString Prompt(const char* word) { return QStringLiteral("&%1 to new heading:").arg(QLatin1String(word)); }
+/// What stands in front of the heading, for each of kWords.
+QString Prompt(std::size_t kind) {
+  constexpr std::array<const char*, 4> kPrompts{
+      "", TrMark("&Steer to new heading:"), TrMark("&Tack to new heading:"), TrMark("&Jibe to new heading:")};
+  return TrQ(kPrompts[kind]);
+}
 
 QFont Sized(QFont font, int pixels) {
   font.setPixelSize(pixels);
@@ -61,12 +69,11 @@ QLabel* Caption(const char* name, const QString& text, QWidget* buddy, QWidget* 
 
 TackControlsQt::TackControlsQt(QDialog& dialog) : m_dialog(dialog), m_noteLines(kNoteLines) {
   dialog.setFont(Sized(dialog.font(), kTextHeight));
-  txtHeading = Entry("txtHeading", QStringLiteral("Heading to turn to"), QStringLiteral("0000"),
-                     kHeadingHeight, &m_dialog);
-  txtOvershoot = Entry("txtOvershoot", QStringLiteral("How far to turn past the heading, then left to you"),
+  txtHeading =
+      Entry("txtHeading", TrQ("Heading to turn to"), QStringLiteral("0000"), kHeadingHeight, &m_dialog);
+  txtOvershoot = Entry("txtOvershoot", TrQ("How far to turn past the heading, then left to you"),
                        QStringLiteral("0000.0"), kEntryHeight, &m_dialog);
-  txtRate =
-      Entry("txtRate", QStringLiteral("How fast to turn"), QStringLiteral("0000.0"), kEntryHeight, &m_dialog);
+  txtRate = Entry("txtRate", TrQ("How fast to turn"), QStringLiteral("0000.0"), kEntryHeight, &m_dialog);
   MakePrompt();
   MakeSteps();
   MakeThenTrack();
@@ -78,8 +85,8 @@ void TackControlsQt::MakePrompt() {
   lblPrompt = Caption("lblPrompt", QString(), txtHeading, &m_dialog);
   lblPrompt->setFont(Sized(lblPrompt->font(), kEntryHeight));
   // Room for the longest, so that all three kinds are of one size.
-  for (const char* word : kWords) {
-    lblPrompt->setText(Prompt(word));
+  for (std::size_t kind = 0; kind < kWords.size(); ++kind) {
+    lblPrompt->setText(Prompt(kind));
     lblPrompt->setMinimumWidth(std::max(lblPrompt->minimumWidth(), lblPrompt->sizeHint().width()));
   }
 }
@@ -87,8 +94,8 @@ void TackControlsQt::MakePrompt() {
 void TackControlsQt::MakeSteps() {
   lstTack = new QListWidget(&m_dialog);
   lstTack->setObjectName(QStringLiteral("lstTack"));
-  lstTack->setAccessibleName(QStringLiteral("Steps"));
-  lstTack->setToolTip(QStringLiteral("What happens when you press OK"));
+  lstTack->setAccessibleName(TrQ("Steps"));
+  lstTack->setToolTip(TrQ("What happens when you press OK"));
   lstTack->setFocusPolicy(Qt::NoFocus);
   lstTack->setSelectionMode(QAbstractItemView::NoSelection);
   lstTack->setFrameShape(QFrame::NoFrame);
@@ -96,9 +103,9 @@ void TackControlsQt::MakeSteps() {
   lstTack->viewport()->setAutoFillBackground(false);
   ProgressBarTack = new QProgressBar(&m_dialog);
   ProgressBarTack->setObjectName(QStringLiteral("ProgressBarTack"));
-  ProgressBarTack->setAccessibleName(QStringLiteral("Turned so far"));
-  ProgressBarTack->setToolTip(QStringLiteral("Degrees turned so far"));
-  ProgressBarTack->setFormat(QStringLiteral("%v of %m deg"));
+  ProgressBarTack->setAccessibleName(TrQ("Turned so far"));
+  ProgressBarTack->setToolTip(TrQ("Degrees turned so far"));
+  ProgressBarTack->setFormat(TrQ("%v of %m deg"));
   ProgressBarTack->setAlignment(Qt::AlignCenter);
   ProgressBarTack->setFixedHeight(kBarHeight);
   QSizePolicy keepsItsPlace = ProgressBarTack->sizePolicy();
@@ -107,25 +114,24 @@ void TackControlsQt::MakeSteps() {
 }
 
 void TackControlsQt::MakeThenTrack() {
-  chkThenTrack = new QCheckBox(QStringLiteral("T&hen track"), &m_dialog);
+  chkThenTrack = new QCheckBox(TrQ("T&hen track"), &m_dialog);
   chkThenTrack->setObjectName(QStringLiteral("chkThenTrack"));
-  chkThenTrack->setToolTip(
-      QStringLiteral("Ease the overshoot out, then track the wind angle of the other tack"));
+  chkThenTrack->setToolTip(TrQ("Ease the overshoot out, then track the wind angle of the other tack"));
   cboAngle = new QComboBox(&m_dialog);
   cboAngle->setObjectName(QStringLiteral("cboAngle"));
-  cboAngle->setAccessibleName(QStringLiteral("Angle of the other tack"));
-  cboAngle->setToolTip(QStringLiteral("Which wind angle is tracked then"));
-  cboAngle->addItems({QStringLiteral("Mirrored angle"), QStringLiteral("Polar's best")});
+  cboAngle->setAccessibleName(TrQ("Angle of the other tack"));
+  cboAngle->setToolTip(TrQ("Which wind angle is tracked then"));
+  cboAngle->addItems({TrQ("Mirrored angle"), TrQ("Polar's best")});
 }
 
 void TackControlsQt::MakeButtons() {
-  cmdOk = new QPushButton(QStringLiteral("OK"), &m_dialog);
+  cmdOk = new QPushButton(TrQ("OK"), &m_dialog);
   cmdOk->setObjectName(QStringLiteral("cmdOk"));
-  cmdOk->setToolTip(QStringLiteral("Take the pilot and begin to turn"));
+  cmdOk->setToolTip(TrQ("Take the pilot and begin to turn"));
   cmdOk->setDefault(true);
-  cmdCancel = new QPushButton(QStringLiteral("&Cancel"), &m_dialog);
+  cmdCancel = new QPushButton(TrQ("&Cancel"), &m_dialog);
   cmdCancel->setObjectName(QStringLiteral("cmdCancel"));
-  cmdCancel->setToolTip(QStringLiteral("Stop here and leave the pilot as it is"));
+  cmdCancel->setToolTip(TrQ("Stop here and leave the pilot as it is"));
   // A second Enter must not stop the turn that the first one began.
   cmdCancel->setAutoDefault(false);
   for (QPushButton* button : {cmdOk, cmdCancel}) {
@@ -140,16 +146,16 @@ void TackControlsQt::LayOut() {
   grid->setVerticalSpacing(kSpacing);
   grid->addWidget(lblPrompt, 0, 0);
   grid->addWidget(txtHeading, 0, 1);
-  grid->addWidget(new QLabel(QStringLiteral("deg M"), &m_dialog), 0, 2);
-  grid->addWidget(Caption("lblOvershoot", QStringLiteral("&Overshoot"), txtOvershoot, &m_dialog), 1, 0);
+  grid->addWidget(new QLabel(TrQ("deg M"), &m_dialog), 0, 2);
+  grid->addWidget(Caption("lblOvershoot", TrQ("&Overshoot"), txtOvershoot, &m_dialog), 1, 0);
   grid->addWidget(txtOvershoot, 1, 1, Qt::AlignRight);
-  grid->addWidget(new QLabel(QStringLiteral("deg"), &m_dialog), 1, 2);
-  grid->addWidget(Caption("lblRate", QStringLiteral("&Rate of Change (deg/sec)"), txtRate, &m_dialog), 2, 0);
+  grid->addWidget(new QLabel(TrQ("deg"), &m_dialog), 1, 2);
+  grid->addWidget(Caption("lblRate", TrQ("&Rate of Change (deg/sec)"), txtRate, &m_dialog), 2, 0);
   grid->addWidget(txtRate, 2, 1, Qt::AlignRight);
   grid->setColumnStretch(0, 1);
   lblWords = new QLabel(&m_dialog);
   lblWords->setObjectName(QStringLiteral("lblWords"));
-  lblWords->setToolTip(QStringLiteral("What the boat will do"));
+  lblWords->setToolTip(TrQ("What the boat will do"));
   lblNote = new QLabel(&m_dialog);
   lblNote->setObjectName(QStringLiteral("lblNote"));
   lblNote->setWordWrap(true);
@@ -202,13 +208,13 @@ void TackControlsQt::Fit(int height) {
 }
 
 void TackControlsQt::ShowKind(ManoeuvreKind kind, bool overshoots) {
-  const char* word = kWords[static_cast<std::size_t>(kind)];
-  m_dialog.setWindowTitle(QStringLiteral("Veerwatch - ") + QLatin1String(word));
-  lblPrompt->setText(Prompt(word));
+  const auto at = static_cast<std::size_t>(kind);
+  m_dialog.setWindowTitle(QStringLiteral("Veerwatch - ") + TrQ(kWords[at]));
+  lblPrompt->setText(Prompt(at));
   lstTack->clear();
   for (const char* step : {kManual, kOvershoot, kLimit}) {
     if (step != kOvershoot || overshoots) {
-      lstTack->addItem(QStringLiteral("%1) %2").arg(lstTack->count() + 1).arg(QLatin1String(step)));
+      lstTack->addItem(QStringLiteral("%1) %2").arg(lstTack->count() + 1).arg(TrQ(step)));
     }
   }
   // Room for the steps of a tack, for the same reason.

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "instruments/MathLib.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -184,16 +185,16 @@ std::string TurnEngine::StageText() const {
   switch (m_stage) {
     case TurnStage::Turning: {
       const double end = m_plan.Crossing == WindCrossing::None ? m_past : m_crossing;
-      return "Turning: " + Figure(m_turned) + " of " + Figure(end) + " degrees";
+      return Filled(Tr("Turning: %1 of %2 degrees"), {Figure(m_turned), Figure(end)});
     }
     case TurnStage::Through:
-      return "Through the wind: " + Figure(m_turned) + " of " + Figure(m_past) + " degrees";
+      return Filled(Tr("Through the wind: %1 of %2 degrees"), {Figure(m_turned), Figure(m_past)});
     case TurnStage::Easing:
-      return "Easing: " + Figure(std::fabs(m_whole - m_turned)) + " degrees to go";
+      return Filled(Tr("Easing: %1 degrees to go"), {Figure(std::fabs(m_whole - m_turned))});
     case TurnStage::Done:
       break;
   }
-  return "Done: " + Figure(m_turned) + " degrees";
+  return Filled(Tr("Done: %1 degrees"), {Figure(m_turned)});
 }
 
 }  // namespace veerwatch

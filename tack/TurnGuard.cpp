@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "instruments/MathLib.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -11,34 +12,28 @@ namespace {
 
 constexpr float kMostMoved = 5.0F;   // [deg]
 constexpr float kMostApart = 10.0F;  // [deg]
-constexpr const char* kInputStopped = "Input Stopped";
-constexpr const char* kNoWind = "No Wind";
 
 /// How far two angles are apart [deg, [0, 180]].
 float Apart(float a, float b) {
   return std::fabs(FoldRelative(static_cast<double>(a) - static_cast<double>(b)));
 }
 
-std::string NotOpen(const char* port, int number) {
-  return std::string(port) + " Port " + std::to_string(number) + " Not Open";
-}
-
 }  // namespace
 
 std::string TurnHindrance(const HelmNow& now) {
   if (now.Mode == TrackMode::Off) {
-    return "No turn in Off: press Setup first";
+    return Tr("No turn in Off: press Setup first");
   }
   if (!now.InputStarted) {
-    return std::string("No turn: ") + kInputStopped + ", press Setup first";
+    return Tr("No turn: Input Stopped, press Setup first");
   }
   if (!now.InputOpen) {
-    return "No turn: " + NotOpen("Input", now.InputPort);
+    return Filled(Tr("No turn: Input Port %1 Not Open"), {std::to_string(now.InputPort)});
   }
   if (!now.OutputOpen) {
-    return "No turn: " + NotOpen("Output", now.OutputPort);
+    return Filled(Tr("No turn: Output Port %1 Not Open"), {std::to_string(now.OutputPort)});
   }
-  return now.WindLost ? std::string("No turn: ") + kNoWind : std::string();
+  return now.WindLost ? Tr("No turn: No Wind") : std::string();
 }
 
 TurnFrom TurnFromNow(const HelmNow& now, const TurnFrom& before) {
@@ -56,7 +51,8 @@ std::string ApartText(const TurnFrom& from) {
   if (!(apart > kMostApart)) {
     return {};
   }
-  return "Bearing and heading are " + FormatNumber(apart, "0") + " degrees apart: wait until she is steady";
+  return Filled(Tr("Bearing and heading are %1 degrees apart: wait until she is steady"),
+                {FormatNumber(apart, "0")});
 }
 
 }  // namespace veerwatch

@@ -6,6 +6,7 @@
 
 #include "control/TrackModes.h"
 #include "instruments/MathLib.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 #include "tack/TurnGuard.h"
 
@@ -25,13 +26,13 @@ double Fold(double angle) { return static_cast<double>(FoldRelative(angle)); }
 std::string Hindrance(const HelmNow& now) {
   std::string why = TurnHindrance(now);
   if (why.empty() && (!now.Heading || now.Watch.Of(Watched::Heading).Gone())) {
-    why = "No turn: No Heading";
+    why = Tr("No turn: No Heading");
   } else if (why.empty() && !now.TakesBearing) {
-    why = "No turn: the pilot holds the wind by itself";
+    why = Tr("No turn: the pilot holds the wind by itself");
   } else if (why.empty() && !now.CanTrack) {
-    why = "No turn: " + std::string(TrackRefusalText(TrackRefusal::NoGains));
+    why = Filled(Tr("No turn: %1"), {Tr(TrackRefusalText(TrackRefusal::NoGains))});
   } else if (why.empty() && !(now.WindMean[At(TrackSide::Apparent)] && now.WindMean[At(TrackSide::True)])) {
-    why = "No turn: No Wind";
+    why = Tr("No turn: No Wind");
   }
   return why;
 }
@@ -72,20 +73,19 @@ void PlanSteer(const TurnAsk& ask, const HelmNow& now, TurnPlan& plan) {
   plan.Held = FoldRelative(Present(now, now.Side) - plan.Change);
 }
 
-std::string SideOf(const TurnPlan& plan) { return plan.Change < 0.0 ? " to port" : " to starboard"; }
-
 std::string RefusalOf(const TurnPlan& plan) {
   const double off = std::fabs(plan.Wind);
   if (plan.Kind == ManoeuvreKind::Tack && off < kDead) {
-    return "No turn: the wind is dead ahead";
+    return Tr("No turn: the wind is dead ahead");
   }
   if (plan.Kind == ManoeuvreKind::Jibe && off > kHalfCircle - kDead) {
-    return "No turn: the wind is dead astern";
+    return Tr("No turn: the wind is dead astern");
   }
   if (!std::isfinite(plan.Change)) {
-    return "No turn: that is no heading";
+    return Tr("No turn: that is no heading");
   }
-  return std::fabs(plan.Change) >= kHalfCircle ? "No turn: it would be half a circle or more" : "";
+  return std::fabs(plan.Change) >= kHalfCircle ? Tr("No turn: it would be half a circle or more")
+                                               : std::string();
 }
 
 }  // namespace
@@ -95,7 +95,7 @@ TurnPlan PlanTurn(const TurnAsk& ask, const HelmNow& now) {
   plan.Kind = ask.Kind;
   plan.Refusal = Hindrance(now);
   if (plan.Refusal.empty() && Swings(ask, now)) {
-    plan.Refusal = "No turn: the boat swings, wait until she is steady";
+    plan.Refusal = Tr("No turn: the boat swings, wait until she is steady");
   }
   if (!plan.Refusal.empty()) {
     return plan;
@@ -104,7 +104,8 @@ TurnPlan PlanTurn(const TurnAsk& ask, const HelmNow& now) {
   plan.Bearing = static_cast<double>(now.AutoPilot);
   const bool turns = std::isfinite(ask.Rate) && ask.Rate > 0.0F;
   plan.Rate = turns ? static_cast<double>(ask.Rate) : Manoeuvre::kUsualRate;
-  plan.Note = ask.Kind != ManoeuvreKind::Steer && ask.Aim && ask.Aim->AtEdge ? ", at the polar's edge" : "";
+  plan.Note = ask.Kind != ManoeuvreKind::Steer && ask.Aim && ask.Aim->AtEdge ? Tr(", at the polar's edge")
+                                                                             : std::string();
   if (ask.Kind == ManoeuvreKind::Steer) {
     PlanSteer(ask, now, plan);
   } else {
@@ -116,17 +117,16 @@ TurnPlan PlanTurn(const TurnAsk& ask, const HelmNow& now) {
 }
 
 std::string PlanWords(const TurnPlan& plan) {
-  const std::string degrees = FormatNumber(ToSingle(std::fabs(plan.Change)), "0");
-  const std::string way = degrees + (degrees == "1" ? " degree" : " degrees") + SideOf(plan);
+  const std::string way = TurnWay(plan.Change);
   switch (plan.Crossing) {
     case WindCrossing::Bow:
-      return "Tack, " + way + " through the wind" + plan.Note;
+      return Filled(Tr("Tack, %1 through the wind"), {way}) + plan.Note;
     case WindCrossing::Stern:
-      return "GYBE, " + way + ", by the stern" + plan.Note;
+      return Filled(Tr("GYBE, %1, by the stern"), {way}) + plan.Note;
     case WindCrossing::None:
       break;
   }
-  return "Steer, " + way + plan.Note;
+  return Filled(Tr("Steer, %1"), {way}) + plan.Note;
 }
 
 bool PlanAsksOnceMore(const TurnPlan& plan, WindCrossing said) {
@@ -138,10 +138,11 @@ std::string PlanQuestion(const TurnPlan& plan, WindCrossing said) {
   if (!PlanAsksOnceMore(plan, said)) {
     return {};
   }
-  const std::string kind = plan.Crossing == WindCrossing::Bow     ? "Tack"
-                           : plan.Crossing == WindCrossing::Stern ? "GYBE"
-                                                                  : "Steer";
-  return kind + SideOf(plan) + ": OK once more?";
+  const std::string kind = plan.Crossing == WindCrossing::Bow     ? Tr("Tack")
+                           : plan.Crossing == WindCrossing::Stern ? Tr("GYBE")
+                                                                  : Tr("Steer");
+  return Filled(plan.Change < 0.0 ? Tr("%1 to port: OK once more?") : Tr("%1 to starboard: OK once more?"),
+                {kind});
 }
 
 }  // namespace veerwatch

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "instruments/MathLib.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -34,19 +35,23 @@ WindCrossing CrossingOf(double wind, double change) {
                                                                          : WindCrossing::None;
 }
 
-std::string TurnWords(double change, WindCrossing crossing) {
+std::string TurnWay(double change) {
   const std::string degrees = FormatNumber(ToSingle(std::fabs(change)), "0");
-  if (degrees == "0") {
-    return "No turn";
+  if (degrees == "1") {
+    return change < 0.0 ? Tr("1 degree to port") : Tr("1 degree to starboard");
   }
-  std::string words = degrees + (degrees == "1" ? " degree" : " degrees");
-  words += change > 0.0 ? " to starboard" : " to port";
+  return Filled(change < 0.0 ? Tr("%1 degrees to port") : Tr("%1 degrees to starboard"), {degrees});
+}
+
+std::string TurnWords(double change, WindCrossing crossing) {
+  if (FormatNumber(ToSingle(std::fabs(change)), "0") == "0") {
+    return Tr("No turn");
+  }
+  const std::string way = TurnWay(change);
   if (crossing == WindCrossing::Bow) {
-    words += ", through the wind";
-  } else if (crossing == WindCrossing::Stern) {
-    words += ", stern through the wind";
+    return Filled(Tr("%1, through the wind"), {way});
   }
-  return words;
+  return crossing == WindCrossing::Stern ? Filled(Tr("%1, stern through the wind"), {way}) : way;
 }
 
 bool CrossesUnsaid(WindCrossing crossing, WindCrossing button, ManoeuvreKind kind) {
@@ -57,8 +62,8 @@ std::string CrossingQuestion(WindCrossing crossing) {
   if (crossing == WindCrossing::None) {
     return {};
   }
-  return std::string("The ") + (crossing == WindCrossing::Bow ? "bow" : "stern") +
-         " goes through the wind: OK once more?";
+  return crossing == WindCrossing::Bow ? Tr("The bow goes through the wind: OK once more?")
+                                       : Tr("The stern goes through the wind: OK once more?");
 }
 
 }  // namespace veerwatch

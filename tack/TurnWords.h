@@ -14,6 +14,9 @@ enum class WindCrossing { None, Bow, Stern };
 /// relative, (-180, 180]]. A wind that is on the bow or the stern at the start or at the end crosses nothing.
 WindCrossing CrossingOf(double wind, double change);
 
+/// "140 degrees to starboard" for a change of course [deg].
+std::string TurnWay(double change);
+
 /// "140 degrees to starboard, through the wind"; for the stern ", stern through the wind". "No turn" for less
 /// than half a degree.
 std::string TurnWords(double change, WindCrossing crossing);

@@ -10,6 +10,8 @@
 
 #include "instruments/MathLib.h"
 #include "platform/ColoursQt.h"
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
 #include "platform/NumberText.h"
 
 namespace veerwatch {
@@ -21,7 +23,7 @@ constexpr double kMillisecondsPerSecond = 1000.0;
 /// Part of the text's colour in a text that does not answer.
 constexpr double kDimmed = 0.6;
 
-constexpr const char* kFilledAnew = "Heading or wind moved, filled anew: OK once more";
+constexpr const char* kFilledAnew = TrMark("Heading or wind moved, filled anew: OK once more");
 
 std::size_t IndexOf(ManoeuvreKind kind) { return static_cast<std::size_t>(kind); }
 
@@ -227,7 +229,7 @@ bool frmTack::AsksOnceMore(const TurnNow& now) {
   const TurnFrom from = TurnFromNow(now.Helm, m_from);
   if (TurnHasMoved(m_from, from)) {
     FillAnew(now, from);
-    m_question = kFilledAnew;
+    m_question = Tr(kFilledAnew);
   }
   const std::string words = lblWords->text().toStdString();
   if (CrossesUnsaid(Crossing(), m_said, m_turn.Kind()) && std::exchange(m_asked, words) != words) {
@@ -288,11 +290,12 @@ void frmTack::Begin() {
 // A turn that is followed to its end
 
 TurnPlan frmTack::Plan(const HelmNow& now) const {
-  for (const auto& [box, name] :
-       {std::pair{txtHeading, "heading"}, std::pair{txtOvershoot, "overshoot"}, std::pair{txtRate, "rate"}}) {
+  for (const auto& [box, refusal] : {std::pair{txtHeading, TrMark("No turn: the heading is no number")},
+                                     std::pair{txtOvershoot, TrMark("No turn: the overshoot is no number")},
+                                     std::pair{txtRate, TrMark("No turn: the rate is no number")}}) {
     if (!StrictNumber(box->text().trimmed().toStdString())) {
       TurnPlan none;
-      none.Refusal = std::string("No turn: the ") + name + " is no number";
+      none.Refusal = Tr(refusal);
       return none;
     }
   }
@@ -339,7 +342,7 @@ void frmTack::TimerTack_Timer() {
   const std::int64_t now = m_parts.Time.Now().Steady;
   const double seconds = static_cast<double>(now - std::exchange(m_stepped, now)) / kMillisecondsPerSecond;
   const bool arrived = m_pace.Step(m_turn, m_parts.Now().Helm.Sent, seconds);
-  lblNote->setText(m_pace.Waiting() ? QStringLiteral("Waits: nothing leaves for the pilot") : QString());
+  lblNote->setText(m_pace.Waiting() ? TrQ("Waits: nothing leaves for the pilot") : QString());
   ShowProgress();
   txtHeading->Show(Text(FormatNumber(m_turn.Heading(), "0")));
   m_parts.Main.AutoPilotSet(m_turn.AutoPilot());

@@ -7,6 +7,9 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/Language.h"
+#include "platform/LanguageQt.h"
+
 namespace veerwatch {
 
 namespace {
@@ -23,7 +26,7 @@ constexpr int kSpacing = 10;
 QLabel* Line(const char* name, const char* toolTip, bool bold, QWidget* parent) {
   auto* label = new QLabel(parent);
   label->setObjectName(QLatin1String(name));
-  label->setToolTip(QLatin1String(toolTip));
+  label->setToolTip(TrQ(toolTip));
   QFont letters = label->font();
   letters.setPixelSize(kTextHeight);
   letters.setBold(bold);
@@ -40,14 +43,14 @@ frmTurn::frmTurn(QWidget* main, std::function<void()> stop) : QDialog(main), m_s
   setObjectName(QStringLiteral("frmTurn"));
   setModal(false);
   setAttribute(Qt::WA_ShowWithoutActivating);
-  lblTurn = Line("lblTurn", "What the boat does", true, this);
+  lblTurn = Line("lblTurn", TrMark("What the boat does"), true, this);
   constexpr int kLines = 2;
   lblTurn->setMinimumHeight(kLines * lblTurn->fontMetrics().lineSpacing());
-  lblStage = Line("lblStage", "How far she is", false, this);
+  lblStage = Line("lblStage", TrMark("How far she is"), false, this);
   ProgressBarTurn = new QProgressBar(this);
   ProgressBarTurn->setObjectName(QStringLiteral("ProgressBarTurn"));
-  ProgressBarTurn->setAccessibleName(QStringLiteral("Turned so far"));
-  ProgressBarTurn->setFormat(QStringLiteral("%v of %m deg"));
+  ProgressBarTurn->setAccessibleName(TrQ("Turned so far"));
+  ProgressBarTurn->setFormat(TrQ("%v of %m deg"));
   ProgressBarTurn->setAlignment(Qt::AlignCenter);
   ProgressBarTurn->setFixedHeight(kBarHeight);
   QFont figures = ProgressBarTurn->font();
@@ -72,8 +75,8 @@ void frmTurn::Show(const TurnRun& run, QWidget& opener) {
     return;
   }
   const TurnEngine& engine = run.Engine();
-  constexpr const char* kWords[]{"", "Steer", "Tack", "Jibe"};
-  setWindowTitle(QStringLiteral("Veerwatch - ") + QLatin1String(kWords[static_cast<int>(run.Made().Kind)]));
+  constexpr const char* kWords[]{"", TrMark("Steer"), TrMark("Tack"), TrMark("Jibe")};
+  setWindowTitle(QStringLiteral("Veerwatch - ") + TrQ(kWords[static_cast<int>(run.Made().Kind)]));
   lblTurn->setText(QString::fromStdString(PlanWords(run.Made())));
   lblStage->setText(QString::fromStdString(engine.StageText()));
   ProgressBarTurn->setRange(0, std::max(1, Rounded(engine.Whole())));

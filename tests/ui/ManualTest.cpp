@@ -1,4 +1,4 @@
-// Help > Manual and F1.
+// Help > Manual.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -41,13 +41,6 @@ TEST_F(Manual, OpensItsFirstPageInTheBrowser) {
   Press();
   EXPECT_THAT(Dialogs.Pages, ElementsAre(page));
   EXPECT_THAT(Dialogs.Messages, IsEmpty());
-}
-
-TEST_F(Manual, IsUnderF1InEveryWindow) {
-  Open(Page());
-  const QAction* command = Window->findChild<QAction*>(QStringLiteral("mnuHelpManual"));
-  EXPECT_EQ(command->shortcut(), QKeySequence(Qt::Key_F1));
-  EXPECT_EQ(command->shortcutContext(), Qt::ApplicationShortcut);
 }
 
 TEST_F(Manual, SaysWhereItShouldLieWhenItDoesNot) {
