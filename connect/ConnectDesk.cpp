@@ -73,6 +73,12 @@ std::string ConnectDesk::PilotPortWords() const {
 PilotPreview ConnectDesk::Preview() const {
   HelmNow now = m_parts.Main.Now();
   now.Watch.At = m_parts.Time.Now();
+  // The line that counts is the one that is chosen here.
+  const auto parsed = ParseEndpoints(PilotPort(), m_parts.Exists);
+  const auto* leads = std::get_if<std::vector<Endpoint>>(&parsed);
+  const bool serial =
+      leads != nullptr && leads->front().What == Endpoint::Kind::Device && leads->front().Baud > 0;
+  now.PilotBaud = serial ? std::optional(leads->front().Baud) : std::nullopt;
   return PilotPreviewOf(m_form, Chosen(), m_values.Record(), now);
 }
 

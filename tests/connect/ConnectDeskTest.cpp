@@ -113,6 +113,15 @@ TEST_F(ConnectDeskTest, TheSentencesAreThoseOfTheChosenProfile) {
   EXPECT_THAT(Desk.Preview().Sentences, HasSubstr("HSC,")) << "with the variation of what is ticked";
 }
 
+TEST_F(ConnectDeskTest, HowFullTheLineIsGoesByThePortThatIsChosen) {
+  Main.Answer.PilotBaud = 4800;
+  Main.Answer.WindsASecond = 5.0;
+  Desk.SetPilotPort("tcp://pilot:2000");
+  EXPECT_EQ(Desk.Preview().Note, "") << "nothing bounds a socket";
+  Desk.SetPilotPort("/dev/ttyUSB1?baud=9600");
+  EXPECT_THAT(Desk.Preview().Note, HasSubstr("9600 baud"));
+}
+
 TEST_F(ConnectDeskTest, TheTrackingIsSetForTheLagThatWasMeasured) {
   Main.Answer.Heading = 100.0F;
   Main.Answer.WindsASecond = 1.0;
