@@ -162,7 +162,7 @@ void frmManual::Open(const ManualPlace& place) {
   txtManual->Show(AddressOf(place.Page), QString::fromStdString(HeadingSlug(place.Heading)));
 }
 
-void frmManual::Follow(const QUrl& link) {
+void frmManual::Follow(const QUrl& link) const {
   QUrl page = txtManual->source().resolved(link);
   const QString slug = page.fragment();
   page.setFragment(QString());

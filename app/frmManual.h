@@ -45,7 +45,7 @@ class frmManual final : public QWidget {
   void Open(const ManualPlace& place);
 
  private:
-  void Follow(const QUrl& link);
+  void Follow(const QUrl& link) const;
 };
 
 }  // namespace veerwatch
