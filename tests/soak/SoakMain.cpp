@@ -154,7 +154,7 @@ int Soak(double hours, double speed) {
   program.Do("click tbrTrack(7)");
   program.Do("delays");
   const std::size_t windsBefore = wire.Winds();
-  const int ordersBefore = wire.Boat().Pilot().GoodSentences();
+  const int ordersBefore = wire.Boat().Reader().GoodSentences();
 
   std::printf("boat's hours  memory kB  files  processor %%  delay ms: median  99 %%  99.9 %%  most\n");
   std::vector<Sample> samples;
@@ -166,7 +166,7 @@ int Soak(double hours, double speed) {
   // What is on its way arrives.
   sail(passed() + 1.0);
   const std::size_t winds = wire.Winds() - windsBefore;
-  const auto orders = static_cast<std::size_t>(wire.Boat().Pilot().GoodSentences() - ordersBefore);
+  const auto orders = static_cast<std::size_t>(wire.Boat().Reader().GoodSentences() - ordersBefore);
   const std::optional<int> status = program.Close();
   if (samples.size() < 2 || status != 0) {
     std::fprintf(stderr, "the program did not last: %d after %zu samples\n", status.value_or(-1),
@@ -174,7 +174,7 @@ int Soak(double hours, double speed) {
     return 1;
   }
 
-  return Judge(samples, winds, orders, wire.Boat().Pilot().BadSentences(), speed) ? 0 : 1;
+  return Judge(samples, winds, orders, wire.Boat().Reader().BadSentences(), speed) ? 0 : 1;
 }
 
 }  // namespace
