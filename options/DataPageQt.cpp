@@ -144,6 +144,14 @@ void DataPageQt::Advise(const std::vector<std::string>& lines) const {
   lblSourceAdvice->setVisible(!lines.empty());
 }
 
+void DataPageQt::ShortenList(int pixels) const {
+  constexpr int kLeastLines = 3;
+  if (pixels > 0) {
+    const int least = kLeastLines * fontMetrics().lineSpacing();
+    SentencePlace->setMinimumHeight(std::max(least, SentencePlace->minimumHeight() - pixels));
+  }
+}
+
 void DataPageQt::Read(OptionsForm& form) const {
   form.NmeaTrueWind = std::max(0, cmbNmeaTrueWind->currentIndex());
   form.NmeaHeading = std::max(0, cmbNmeaHeading->currentIndex());

@@ -98,7 +98,6 @@ void frmOptions::MakeTabs() {
   connect(m_pilot->cmdPilotTest, &QPushButton::clicked, this, [this] { cmdPilotTest_Click(); });
   lstNmeaSentence = new SentenceListQt(this);
   lstNmeaSentence->hide();
-  m_data->SentencePlace->setMinimumSize(lstNmeaSentence->minimumSizeHint());
   m_data->SentencePlace->installEventFilter(this);
   setTabOrder(m_data->txtNmeaBoatSpeedFactor, lstNmeaSentence);
 }
@@ -182,8 +181,10 @@ void frmOptions::Fit() {
   for (QPushButton* button : {cmdOk, cmdCancel, cmdApply}) {
     button->resize(size);
   }
+  const QSize room = screen()->availableSize() * kScreenShare;
   m_data->SentencePlace->setMinimumSize(lstNmeaSentence->minimumSizeHint());
-  setMinimumSize(LeastSize().boundedTo(screen()->availableSize() * kScreenShare));
+  m_data->ShortenList(LeastSize().height() - room.height());
+  setMinimumSize(LeastSize().boundedTo(room));
   LayOut();
 }
 

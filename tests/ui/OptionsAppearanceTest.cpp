@@ -200,6 +200,12 @@ TEST_F(OptionsAppearance, StaysOnASmallScreenInALargeFont) {
   }
 }
 
+TEST_P(OptionsInFont, TheListOfSentencesLeavesTheButtonsTheirPlace) {
+  Start(frmOptions::Data);
+  QApplication::processEvents();
+  EXPECT_LT(Find<QWidget>("lstNmeaSentence").geometry().bottom(), Find<QWidget>("cmdOk").geometry().top());
+}
+
 TEST_F(OptionsAppearance, AnotherFontOfTheDesktopIsTakenOver) {
   Start(frmOptions::Simulate);
   const int before = Find<QWidget>("txtSimulateTime").fontMetrics().height();
