@@ -14,7 +14,7 @@ struct Row {
   const char* Heading;
 };
 
-constexpr std::array<Row, 12> kPlaces{{{"frmMain", "main-window.md", ""},
+constexpr std::array<Row, 13> kPlaces{{{"frmMain", "main-window.md", ""},
                                        {"frmPolar", "polar.md", ""},
                                        {"frmHistory", "history.md", ""},
                                        {"frmConfigPopup", "history.md", ""},
@@ -22,6 +22,7 @@ constexpr std::array<Row, 12> kPlaces{{{"frmMain", "main-window.md", ""},
                                        {"frmAlarms", "main-window.md", "The banner"},
                                        {"frmTack", "tacking.md", ""},
                                        {"frmTurn", "tacking.md", "Then track"},
+                                       {"frmConnect", "assistant.md", ""},
                                        {"dlgDevice", "connecting.md", "Ports"},
                                        {"dlgWindLimits", "wind-functions.md", ""},
                                        {"dlgRecommended", "settings.md", "Recommended"},

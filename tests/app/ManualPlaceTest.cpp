@@ -16,6 +16,7 @@ TEST(ManualPlace, OfTheOptionsIsTheOpenTab) {
 TEST(ManualPlace, OfAWindowIsItsPage) {
   EXPECT_EQ(ManualPlaceOf("frmPolar", 3), (ManualPlace{"polar.md", ""}));
   EXPECT_EQ(ManualPlaceOf("dlgDevice", 0), (ManualPlace{"connecting.md", "Ports"}));
+  EXPECT_EQ(ManualPlaceOf("frmConnect", 0), (ManualPlace{"assistant.md", ""}));
 }
 
 TEST(ManualPlace, OfAnUnknownWindowIsTheFirstPage) {
