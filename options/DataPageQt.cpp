@@ -144,12 +144,9 @@ void DataPageQt::Advise(const std::vector<std::string>& lines) const {
   lblSourceAdvice->setVisible(!lines.empty());
 }
 
-void DataPageQt::ShortenList(int pixels) const {
+void DataPageQt::ShortenList() const {
   constexpr int kLeastLines = 3;
-  if (pixels > 0) {
-    const int least = kLeastLines * fontMetrics().lineSpacing();
-    SentencePlace->setMinimumHeight(std::max(least, SentencePlace->minimumHeight() - pixels));
-  }
+  SentencePlace->setMinimumHeight(kLeastLines * fontMetrics().lineSpacing());
 }
 
 void DataPageQt::Read(OptionsForm& form) const {

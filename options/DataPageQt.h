@@ -26,9 +26,8 @@ class DataPageQt final : public QWidget {
   /// Whom to tell when what is asked of a line changes, and by which control.
   void Changed(const std::function<void(QWidget*)>& handler) const;
 
-  /// Takes `pixels` from the least height of the list's place, which scrolls, but leaves it some lines;
-  /// nothing where it is not above 0.
-  void ShortenList(int pixels) const;
+  /// The place of the list needs room for a few lines only: the list scrolls.
+  void ShortenList() const;
 
   QComboBox* cmbNmeaTrueWind;
   QComboBox* cmbNmeaHeading;

@@ -200,8 +200,10 @@ TEST_F(OptionsAppearance, StaysOnASmallScreenInALargeFont) {
   }
 }
 
-TEST_P(OptionsInFont, TheListOfSentencesLeavesTheButtonsTheirPlace) {
+TEST_F(OptionsAppearance, TheListOfSentencesLeavesTheButtonsTheirPlaceOnASmallScreen) {
   Start(frmOptions::Data);
+  Window->setMinimumSize(0, 0);
+  Window->resize(752, 451);
   QApplication::processEvents();
   EXPECT_LT(Find<QWidget>("lstNmeaSentence").geometry().bottom(), Find<QWidget>("cmdOk").geometry().top());
 }
