@@ -200,14 +200,6 @@ TEST_F(OptionsAppearance, StaysOnASmallScreenInALargeFont) {
   }
 }
 
-TEST_F(OptionsAppearance, TheListOfSentencesLeavesTheButtonsTheirPlaceOnASmallScreen) {
-  Start(frmOptions::Data);
-  Window->setMinimumSize(0, 0);
-  Window->resize(752, 451);
-  QApplication::processEvents();
-  EXPECT_LT(Find<QWidget>("lstNmeaSentence").geometry().bottom(), Find<QWidget>("cmdOk").geometry().top());
-}
-
 TEST_F(OptionsAppearance, AnotherFontOfTheDesktopIsTakenOver) {
   Start(frmOptions::Simulate);
   const int before = Find<QWidget>("txtSimulateTime").fontMetrics().height();
