@@ -363,34 +363,7 @@ class ConnectMain : public MainWindowTester {
  public:
   ListenRig Rig;
 
-  void Begin(const std::string& profile = "") {
-    if (!profile.empty()) {
-      WriteProfile(profile);
-    }
-    Window = std::make_unique<frmMain>(MainWindowParts{NmeaPort,
-                                                       PilotPort,
-                                                       tmrNmea,
-                                                       tmrUnload,
-                                                       TimerTack,
-                                                       Time,
-                                                       Random,
-                                                       Asks(),
-                                                       Store,
-                                                       ProfileFile(),
-                                                       {},
-                                                       {},
-                                                       &Tone,
-                                                       &Buzzer,
-                                                       nullptr,
-                                                       nullptr,
-                                                       nullptr,
-                                                       Rig.Maker()});
-    tmrNmea.OnTick = [this] { Window->tmrNmea_Timer(); };
-    Window->Form_Load();
-    Window->show();
-    Window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(Window.get()));
-  }
+  NamedPort::Maker Ports() override { return Rig.Maker(); }
   QToolBar* Offer() const { return Window->findChild<QToolBar*>(QStringLiteral("tbrConnect")); }
   frmConnect* Assistant() const {
     auto* found = Window->findChild<frmConnect*>();
@@ -399,7 +372,7 @@ class ConnectMain : public MainWindowTester {
 };
 
 TEST_F(ConnectMain, IsOfferedInARowOnlyWhereNoProfileLies) {
-  Begin();
+  Start();
   ASSERT_NE(Offer(), nullptr);
   EXPECT_GE(Offer()->y(), Find<QToolBar>("tbrTrack").geometry().bottom()) << "under the mode bar";
   Click("cmdConnectOffer");
@@ -414,7 +387,7 @@ TEST_F(ConnectMain, IsOfferedInARowOnlyWhereNoProfileLies) {
 }
 
 TEST_F(ConnectMain, IsNotOfferedWithAProfileAndStandsInTheMenu) {
-  Begin(kOnPorts);
+  Start(kOnPorts);
   EXPECT_EQ(Offer(), nullptr);
   Find<QAction>("mnuHelpConnect").trigger();
   EXPECT_NE(Assistant(), nullptr);
@@ -427,7 +400,7 @@ TEST_F(ConnectMain, WithoutPortsToListenToThereIsNone) {
 }
 
 TEST_F(ConnectMain, WhatTheProgramReadsFromStaysOpenAndIsSaidToBeInUse) {
-  Begin(std::string(kOnPorts) + "[Ports]\n3=/dev/ttyUSB0\n");
+  Start(std::string(kOnPorts) + "[Ports]\n3=/dev/ttyUSB0\n");
   Find<QAction>("mnuHelpConnect").trigger();
   ASSERT_NE(Assistant(), nullptr);
   EXPECT_TRUE(NmeaPort.PortOpen());
@@ -444,7 +417,7 @@ TEST_F(ConnectMain, WhatTheProgramReadsFromStaysOpenAndIsSaidToBeInUse) {
 }
 
 TEST_F(ConnectMain, NoBoxComesUpOnTheWayThroughThePages) {
-  Begin();
+  Start();
   Click("cmdConnectOffer");
   auto* next = Assistant()->findChild<QPushButton*>(QStringLiteral("cmdConnectNext"));
   for (int page = 1; page < 5; ++page) {
@@ -455,7 +428,7 @@ TEST_F(ConnectMain, NoBoxComesUpOnTheWayThroughThePages) {
 }
 
 TEST_F(ConnectMain, TheSimulatedBoatSailsAtOnce) {
-  Begin();
+  Start();
   Click("cmdConnectOffer");
   QTest::mouseClick(Assistant()->findChild<QPushButton*>(QStringLiteral("cmdConnectSimulate")),
                     Qt::LeftButton);
@@ -466,7 +439,7 @@ TEST_F(ConnectMain, TheSimulatedBoatSailsAtOnce) {
 }
 
 TEST_F(ConnectMain, ThePortsOfTheAssistantAreInTheProfileAfterSave) {
-  Begin("[Ports]\n1=/dev/old\n[Nmea]\nPort=1\n[Pilot]\nPort=1\n");
+  Start("[Ports]\n1=/dev/old\n[Nmea]\nPort=1\n[Pilot]\nPort=1\n");
   NamePort(Store, 2, "/dev/new");
   Window->KeepSettings();
   EXPECT_THAT(ReadProfile(), HasSubstr("[Ports]\n1=/dev/old\n2=/dev/new\n"));
@@ -477,7 +450,7 @@ TEST_F(ConnectMain, ThePortsOfTheAssistantAreInTheProfileAfterSave) {
 }
 
 TEST_F(ConnectMain, TheCloseCancelsIt) {
-  Begin(kOnPorts);
+  Start(kOnPorts);
   Find<QAction>("mnuHelpConnect").trigger();
   const std::size_t open = Rig.Ports.size();
   EXPECT_GT(open, 0U);

@@ -16,6 +16,7 @@
 #include <string>
 
 #include "app/frmMain.h"
+#include "platform/NamedPort.h"
 #include "tests/support/FakeSounder.h"
 #include "tests/support/FixedRandom.h"
 #include "tests/support/HandClock.h"
@@ -53,6 +54,9 @@ class MainWindowTester : public testing::Test {
   /// What the window asks through.
   virtual class Dialogs& Asks() { return Dialogs; }
 
+  /// What makes the ports that the assistant listens to; none here.
+  virtual NamedPort::Maker Ports() { return {}; }
+
   /// Makes the window without loading it.
   void Make() {
     Window = std::make_unique<frmMain>(MainWindowParts{NmeaPort,
@@ -68,7 +72,11 @@ class MainWindowTester : public testing::Test {
                                                        {},
                                                        {},
                                                        &Tone,
-                                                       &Buzzer});
+                                                       &Buzzer,
+                                                       nullptr,
+                                                       nullptr,
+                                                       nullptr,
+                                                       Ports()});
     tmrNmea.OnTick = [this] { Window->tmrNmea_Timer(); };
     tmrUnload.OnTick = [this] { Window->tmrUnload_Timer(); };
     TimerTack.OnTick = [this] {
