@@ -1,6 +1,7 @@
 #include "options/SentenceListQt.h"
 
 #include <QHeaderView>
+#include <algorithm>
 #include <utility>
 
 #include "platform/LanguageQt.h"
@@ -39,6 +40,13 @@ void SentenceListQt::Read(OptionsForm& form) const {
 
 void SentenceListQt::Changed(std::function<void()> handler) {
   connect(this, &QTreeWidget::itemChanged, this, [tell = std::move(handler)] { tell(); });
+}
+
+void SentenceListQt::PutOver(const QWidget& place, const QRect& tabs) {
+  constexpr int kMargin = 8;
+  QRect room(place.mapTo(parentWidget(), QPoint(0, 0)), place.size());
+  room.setBottom(std::min(room.bottom(), tabs.bottom() - kMargin));
+  setGeometry(room);
 }
 
 QSize SentenceListQt::minimumSizeHint() const {

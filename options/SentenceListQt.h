@@ -1,6 +1,7 @@
 // The list of the sentence types with their check boxes. It stands over the tabs, not on a page.
 #pragma once
 
+#include <QRect>
 #include <QTreeWidget>
 #include <functional>
 
@@ -17,6 +18,9 @@ class SentenceListQt final : public QTreeWidget {
 
   /// Whom to tell when a check box changes, whoever changed it.
   void Changed(std::function<void()> handler);
+
+  /// Stands over `place`, a widget on one of the tabs in `tabs`, and ends above their lower edge.
+  void PutOver(const QWidget& place, const QRect& tabs);
 
   QSize minimumSizeHint() const override;
 };

@@ -36,13 +36,6 @@ QString Text(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/// Puts `list` over `place`, a widget on a page of the tabs, as far as the tabs reach.
-void PutOver(const QWidget& place, const QRect& tabs, QWidget& list) {
-  QRect room(place.mapTo(list.parentWidget(), QPoint(0, 0)), place.size());
-  room.setBottom(std::min(room.bottom(), tabs.bottom() - kMargin));
-  list.setGeometry(room);
-}
-
 }  // namespace
 
 frmOptions::frmOptions(const Parts& parts)
@@ -211,7 +204,7 @@ void frmOptions::LayOut() {
   for (const QWidget* listPage : std::initializer_list<const QWidget*>{m_input, m_data, m_output}) {
     listPage->layout()->setContentsMargins(margins);
   }
-  PutOver(*m_data->SentencePlace, SSTab->geometry(), *lstNmeaSentence);
+  lstNmeaSentence->PutOver(*m_data->SentencePlace, SSTab->geometry());
 }
 
 QPoint frmOptions::Centre() const {
@@ -502,7 +495,7 @@ bool frmOptions::event(QEvent* event) {
 bool frmOptions::eventFilter(QObject* watched, QEvent* event) {
   if (watched == m_data->SentencePlace &&
       (event->type() == QEvent::Resize || event->type() == QEvent::Move || event->type() == QEvent::Show)) {
-    PutOver(*m_data->SentencePlace, SSTab->geometry(), *lstNmeaSentence);
+    lstNmeaSentence->PutOver(*m_data->SentencePlace, SSTab->geometry());
   }
   return QDialog::eventFilter(watched, event);
 }
