@@ -133,13 +133,16 @@ ConnectPlan ConnectDesk::Plan() const {
   return plan;
 }
 
-std::vector<std::string> ConnectDesk::Words() const {
-  std::vector<std::string> words = PlanWords(Plan(), m_parts.Main, m_parts.Store, m_parts.Exists);
-  Settings settings = m_parts.Main;
-  if (Recommend(settings) != SmoothWindsNow()) {
-    words.push_back(Tr("Polar: smooth between two wind speeds"));
+std::vector<PlanLine> ConnectDesk::Words() const {
+  const Settings& present = m_parts.Main;
+  std::vector<PlanLine> lines = PlanLines(Plan(), present, m_parts.Store, m_parts.Exists);
+  Settings settings = present;
+  const bool smooth = Recommend(settings);
+  if (smooth != SmoothWindsNow()) {
+    lines.push_back(
+        RecommendedLine(SmoothWindsRecommendation(), {settings, smooth}, {present, SmoothWindsNow()}));
   }
-  return words;
+  return lines;
 }
 
 void ConnectDesk::End() {

@@ -11,6 +11,7 @@
 #include "connect/ConnectPlan.h"
 #include "connect/Listening.h"
 #include "connect/PilotTrial.h"
+#include "connect/PlanWords.h"
 #include "connect/ValueDesk.h"
 #include "control/TrackAdvice.h"
 #include "options/OptionsForm.h"
@@ -86,7 +87,8 @@ class ConnectDesk {
   /// What is to be set of what is recommended.
   void SetRecommended(const RecommendedTicks& ticks) { m_recommended = ticks; }
   ConnectPlan Plan() const;
-  std::vector<std::string> Words() const;
+  /// What would be written, a line each.
+  std::vector<PlanLine> Words() const;
   /// Gives every port back, and brings back what was tried.
   void End();
   /// Ends, and applies the plan.

@@ -6,10 +6,7 @@
 #include <variant>
 
 #include "connect/Candidate.h"
-#include "platform/Language.h"
 #include "platform/PortNames.h"
-#include "platform/VisibleText.h"
-#include "settings/SettingsTable.h"
 
 namespace veerwatch {
 
@@ -57,30 +54,6 @@ std::string InputOf(const ConnectPlan& plan, const Settings& present, const Prof
   return plan.Input.empty() ? PortDevice(profile, present.m_iNmeaPort) : plan.Input;
 }
 
-/// The settings that the plan sets.
-Settings Planned(const ConnectPlan& plan, const Settings& present, const PlannedPorts& ports) {
-  Settings planned = plan.Chosen;
-  planned.m_iNmeaPort = static_cast<std::int16_t>(ports.Input);
-  planned.m_iPilotPort = static_cast<std::int16_t>(ports.Pilot);
-  planned.m_fAutoPilot = present.m_fAutoPilot;
-  planned.DesiredAngle = present.DesiredAngle;
-  planned.m_eTrackMode = present.m_eTrackMode;
-  planned.m_bNightColours = present.m_bNightColours;
-  planned.m_sProfileFile = present.m_sProfileFile;
-  if (!plan.Input.empty()) {
-    planned.m_bSimulate = false;
-  }
-  return planned;
-}
-
-/// A line when the number does not lead there yet.
-void AddPort(const char* pattern, int number, const std::string& endpoints, const Profile& profile,
-             std::vector<std::string>& lines) {
-  if (!endpoints.empty() && PortDevice(profile, number) != endpoints) {
-    lines.push_back(Filled(Tr(pattern), {std::to_string(number), VisibleText(endpoints)}));
-  }
-}
-
 }  // namespace
 
 PlannedPorts PortsOf(const ConnectPlan& plan, const Settings& present, const Profile& profile,
@@ -104,32 +77,19 @@ PlannedPorts PortsOf(const ConnectPlan& plan, const Settings& present, const Pro
   return ports;
 }
 
-std::vector<std::string> PlanWords(const ConnectPlan& plan, const Settings& present, const Profile& profile,
-                                   const DeviceExists& exists) {
-  const PlannedPorts ports = PortsOf(plan, present, profile, exists);
-  std::vector<std::string> lines;
-  AddPort(TrMark("Instruments: port %1 leads to %2"), ports.Input, plan.Input, profile, lines);
-  if (ports.Pilot != ports.Input) {
-    AddPort(TrMark("Autopilot: port %1 leads to %2"), ports.Pilot, plan.Pilot, profile, lines);
-  } else if (present.m_iPilotPort != present.m_iNmeaPort || ports.Pilot != present.m_iPilotPort) {
-    lines.push_back(Tr("Autopilot: on the port of the instruments, both ways"));
+Settings Planned(const ConnectPlan& plan, const Settings& present, const PlannedPorts& ports) {
+  Settings planned = plan.Chosen;
+  planned.m_iNmeaPort = static_cast<std::int16_t>(ports.Input);
+  planned.m_iPilotPort = static_cast<std::int16_t>(ports.Pilot);
+  planned.m_fAutoPilot = present.m_fAutoPilot;
+  planned.DesiredAngle = present.DesiredAngle;
+  planned.m_eTrackMode = present.m_eTrackMode;
+  planned.m_bNightColours = present.m_bNightColours;
+  planned.m_sProfileFile = present.m_sProfileFile;
+  if (!plan.Input.empty()) {
+    planned.m_bSimulate = false;
   }
-  Profile before;
-  Profile after;
-  SettingsWrite(SettingsTable(), before, present);
-  SettingsWrite(SettingsTable(), after, Planned(plan, present, ports));
-  for (const SettingRow<Settings>& row : SettingsTable()) {
-    const std::string value = after.Text(row.Section, row.Key);
-    const std::string old = before.Text(row.Section, row.Key);
-    if (value != old) {
-      const std::string unit = *row.Unit != '\0' ? std::string(" ") + row.Unit : "";
-      std::string line = row.Section;
-      line.append(", ").append(row.Key);
-      lines.push_back(Filled(Tr("%1: %2, now %3 (%4)"),
-                             {line, value + unit, old.empty() ? Tr("nothing") : old + unit, row.Meaning}));
-    }
-  }
-  return lines;
+  return planned;
 }
 
 void PlanApply(const ConnectPlan& plan, MainWindowApi& main, Profile& profile, const DeviceExists& exists) {

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "helm/MainWindowApi.h"
 #include "platform/Endpoint.h"
@@ -29,9 +28,8 @@ struct PlannedPorts {
 PlannedPorts PortsOf(const ConnectPlan& plan, const Settings& present, const Profile& profile,
                      const DeviceExists& exists);
 
-/// What would be written, a line each; none when everything is so already.
-std::vector<std::string> PlanWords(const ConnectPlan& plan, const Settings& present, const Profile& profile,
-                                   const DeviceExists& exists);
+/// The settings as the plan sets them.
+Settings Planned(const ConnectPlan& plan, const Settings& present, const PlannedPorts& ports);
 
 /// Stores the plan in the settings and names its ports in the profile in memory; the input and the pilot's
 /// port begin again, in Setup. The bearing, the wanted angles and the colours stay as they are.

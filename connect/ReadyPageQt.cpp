@@ -2,8 +2,8 @@
 
 #include <QVBoxLayout>
 #include <string>
-#include <vector>
 
+#include "connect/PlanWords.h"
 #include "options/OptionControlsQt.h"
 #include "platform/Language.h"
 
@@ -25,12 +25,9 @@ ReadyPageQt::ReadyPageQt(ConnectDesk& desk, QWidget* parent)
 }
 
 void ReadyPageQt::Enter() {
-  std::string text;
-  for (const std::string& line : Desk().Words()) {
-    text += line + "\n";
-  }
+  const std::string text = PlanText(Desk().Words());
   txtConnectWords->setPlainText(text.empty() ? TrQ("Everything is so already; the settings are only saved.")
-                                             : QString::fromStdString(text).trimmed());
+                                             : QString::fromStdString(text));
 }
 
 }  // namespace veerwatch

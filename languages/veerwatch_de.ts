@@ -4089,7 +4089,7 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>The device or endpoint of the autopilot; choose one or type it</source>
-        <translation>Gerät oder Endpunkt des Autopiloten; wählen oder eintippen</translation>
+        <translation>Gerät oder Gegenstelle des Autopiloten; wählen oder eintippen</translation>
     </message>
     <message>
         <source>P&amp;ort:</source>
@@ -4105,15 +4105,15 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>Log factor %1; a log and a GPS are needed to compare</source>
-        <translation>Log-Faktor %1; zum Vergleich braucht es Log und GPS</translation>
+        <translation>Faktor der Logge %1; zum Vergleich braucht es Logge und GPS</translation>
     </message>
     <message>
         <source>Log factor %1; the log shows %2, the GPS %3: alike in still water</source>
-        <translation>Log-Faktor %1; das Log zeigt %2, das GPS %3: gleich in stehendem Wasser</translation>
+        <translation>Faktor der Logge %1; die Logge zeigt %2, das GPS %3: gleich in stehendem Wasser</translation>
     </message>
     <message>
         <source>Log factor %1; the log shows %2, the GPS %3: too slow, or too far apart, to compare</source>
-        <translation>Log-Faktor %1; das Log zeigt %2, das GPS %3: zu langsam oder zu verschieden für einen Vergleich</translation>
+        <translation>Faktor der Logge %1; die Logge zeigt %2, das GPS %3: zu langsam oder zu verschieden für einen Vergleich</translation>
     </message>
     <message>
         <source>Compass offset %1; a compass and a GPS are needed to compare</source>
@@ -4153,27 +4153,7 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>One port for both ways: the instruments and the autopilot.</source>
-        <translation>Ein Port für beide Richtungen: die Instrumente und der Autopilot.</translation>
-    </message>
-    <message>
-        <source>Polar: smooth between two wind speeds</source>
-        <translation>Polare: glatt zwischen zwei Windgeschwindigkeiten</translation>
-    </message>
-    <message>
-        <source>Instruments: port %1 leads to %2</source>
-        <translation>Instrumente: Port %1 führt zu %2</translation>
-    </message>
-    <message>
-        <source>Autopilot: port %1 leads to %2</source>
-        <translation>Autopilot: Port %1 führt zu %2</translation>
-    </message>
-    <message>
-        <source>Autopilot: on the port of the instruments, both ways</source>
-        <translation>Autopilot: am Port der Instrumente, beide Richtungen</translation>
-    </message>
-    <message>
-        <source>%1: %2, now %3 (%4)</source>
-        <translation>%1: %2, jetzt %3 (%4)</translation>
+        <translation>Ein Anschluss für beide Richtungen: die Instrumente und der Autopilot.</translation>
     </message>
     <message>
         <source>nothing</source>
@@ -4205,7 +4185,7 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>Name or address of a gateway, as 192.168.1.1 or gateway:2000; a device; an endpoint</source>
-        <translation>Name oder Adresse eines Gateways, wie 192.168.1.1 oder gateway:2000; ein Gerät; ein Endpunkt</translation>
+        <translation>Name oder Adresse eines Gateways, wie 192.168.1.1 oder gateway:2000; ein Gerät; eine Gegenstelle</translation>
     </message>
     <message>
         <source>Listens to that place as well</source>
@@ -4213,11 +4193,11 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>Looks at every port anew, for ten seconds</source>
-        <translation>Sieht sich jeden Port neu an, zehn Sekunden lang</translation>
+        <translation>Hört jeden Anschluss neu ab, zehn Sekunden lang</translation>
     </message>
     <message>
         <source>Closes this window and sails a simulated boat; no port is opened</source>
-        <translation>Schließt dieses Fenster und segelt ein simuliertes Boot; kein Port wird geöffnet</translation>
+        <translation>Schließt dieses Fenster und segelt ein simuliertes Boot; kein Anschluss wird geöffnet</translation>
     </message>
     <message>
         <source>Other &amp;place:</source>
@@ -4233,7 +4213,7 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>Nothing is ticked: the port of the instruments stays as it is.</source>
-        <translation>Nichts ist angehakt: der Port der Instrumente bleibt, wie er ist.</translation>
+        <translation>Nichts ist angehakt: der Anschluss der Instrumente bleibt, wie er ist.</translation>
     </message>
     <message>
         <source>Listening...</source>
@@ -4281,11 +4261,11 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>Port %1 (%2)</source>
-        <translation>Port %1 (%2)</translation>
+        <translation>Anschluss %1 (%2)</translation>
     </message>
     <message>
         <source>in use now: the autopilot&apos;s port</source>
-        <translation>jetzt in Gebrauch: der Port des Autopiloten</translation>
+        <translation>jetzt in Gebrauch: der Anschluss des Autopiloten</translation>
     </message>
     <message>
         <source>; the same comes on %1: tick one of them</source>
@@ -4293,11 +4273,11 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>The pilot is sent to now: press Setup (F6) first, then it can be tested.</source>
-        <translation>Dem Piloten wird gerade gesendet: erst Setup (F6) drücken, dann lässt er sich prüfen.</translation>
+        <translation>Dem Piloten wird gerade gesendet: erst Abgleich (F6) drücken, dann lässt er sich prüfen.</translation>
     </message>
     <message>
         <source>Waiting for a heading and the wind...</source>
-        <translation>Wartet auf Steuerkurs und Wind...</translation>
+        <translation>Wartet auf Kurs und Wind...</translation>
     </message>
     <message>
         <source>What will be written</source>
@@ -4357,7 +4337,7 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>no heading: no turns, and nothing shows whether the pilot follows</source>
-        <translation>kein Steuerkurs: keine Manöver, und nichts zeigt, ob der Pilot folgt</translation>
+        <translation>kein Kurs: keine Manöver, und nichts zeigt, ob der Pilot folgt</translation>
     </message>
     <message>
         <source>no boat speed: no polar</source>
@@ -4405,7 +4385,7 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>Log by the &amp;GPS</source>
-        <translation>&amp;Log nach GPS</translation>
+        <translation>&amp;Logge nach GPS</translation>
     </message>
     <message>
         <source>Compass by the &amp;course</source>
@@ -4437,7 +4417,7 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>Save and &amp;go to Setup</source>
-        <translation>Speichern und zum &amp;Setup</translation>
+        <translation>Speichern und zum Ab&amp;gleich</translation>
     </message>
     <message>
         <source>, next try in %1 s</source>
@@ -4470,6 +4450,198 @@ Den Faktor auf 1 setzen?</translation>
     <message>
         <source>Turns and held angles as &amp;marks</source>
         <translation>Manöver und gehaltene Winkel als &amp;Marken</translation>
+    </message>
+    <message>
+        <source>Port %1 leads to %2</source>
+        <translation>Anschluss %1 führt zu %2</translation>
+    </message>
+    <message>
+        <source>Port %1, which leads to %2 (now port %3)</source>
+        <translation>Anschluss %1, der zu %2 führt (jetzt Anschluss %3)</translation>
+    </message>
+    <message>
+        <source>On the port of the instruments, both ways</source>
+        <translation>Am Anschluss der Instrumente, beide Richtungen</translation>
+    </message>
+    <message>
+        <source>Sentences that are read from now on: %1</source>
+        <translation>Sätze, die von jetzt an gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>Sentences that are no longer read: %1</source>
+        <translation>Sätze, die nicht mehr gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>ja</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>nein</translation>
+    </message>
+    <message>
+        <source>sent</source>
+        <translation>wird gesendet</translation>
+    </message>
+    <message>
+        <source>not sent</source>
+        <translation>wird nicht gesendet</translation>
+    </message>
+    <message>
+        <source>%1 deg</source>
+        <translation>%1 Grad</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>through the water</source>
+        <translation>durchs Wasser</translation>
+    </message>
+    <message>
+        <source>over ground</source>
+        <translation>über Grund</translation>
+    </message>
+    <message>
+        <source>from the compass</source>
+        <translation>vom Kompass</translation>
+    </message>
+    <message>
+        <source>the course over ground</source>
+        <translation>der Kurs über Grund</translation>
+    </message>
+    <message>
+        <source>from the wind instrument</source>
+        <translation>vom Windmesser</translation>
+    </message>
+    <message>
+        <source>read</source>
+        <translation>werden gelesen</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>werden nicht gelesen</translation>
+    </message>
+    <message>
+        <source>not averaged</source>
+        <translation>nicht gemittelt</translation>
+    </message>
+    <message>
+        <source>over %1 values</source>
+        <translation>über %1 Werte</translation>
+    </message>
+    <message>
+        <source>it is told so, then nothing is sent</source>
+        <translation>es wird ihm gesagt, dann wird nichts gesendet</translation>
+    </message>
+    <message>
+        <source>nothing is sent</source>
+        <translation>es wird nichts gesendet</translation>
+    </message>
+    <message>
+        <source>true</source>
+        <translation>rechtweisend</translation>
+    </message>
+    <message>
+        <source>magnetic</source>
+        <translation>missweisend</translation>
+    </message>
+    <message>
+        <source>Boat speed</source>
+        <translation>Fahrt</translation>
+    </message>
+    <message>
+        <source>Winds in m/s, km/h or mph</source>
+        <translation>Winde in m/s, km/h oder mph</translation>
+    </message>
+    <message>
+        <source>True wind</source>
+        <translation>Wahrer Wind</translation>
+    </message>
+    <message>
+        <source>Average of the true wind</source>
+        <translation>Mittelung des wahren Windes</translation>
+    </message>
+    <message>
+        <source>Wind angle offset</source>
+        <translation>Windwinkel-Korrektur</translation>
+    </message>
+    <message>
+        <source>Log factor</source>
+        <translation>Faktor der Logge</translation>
+    </message>
+    <message>
+        <source>Compass offset</source>
+        <translation>Kompass-Korrektur</translation>
+    </message>
+    <message>
+        <source>When no bearing is good</source>
+        <translation>Wenn kein Kurs gilt</translation>
+    </message>
+    <message>
+        <source>So long it is told</source>
+        <translation>So lange wird es gesagt</translation>
+    </message>
+    <message>
+        <source>Own sentences begin with</source>
+        <translation>Eigenes Profil, die Sätze beginnen mit</translation>
+    </message>
+    <message>
+        <source>Own bearings</source>
+        <translation>Eigenes Profil, Kurse</translation>
+    </message>
+    <message>
+        <source>Own fields of APB</source>
+        <translation>Eigenes Profil, Felder von APB</translation>
+    </message>
+    <message>
+        <source>Own decimals of the bearings</source>
+        <translation>Eigenes Profil, Nachkommastellen der Kurse</translation>
+    </message>
+    <message>
+        <source>Own name of the point</source>
+        <translation>Eigenes Profil, Name des Punktes</translation>
+    </message>
+    <message>
+        <source>Own sentence APB</source>
+        <translation>Eigenes Profil, Satz APB</translation>
+    </message>
+    <message>
+        <source>Own sentence RMB</source>
+        <translation>Eigenes Profil, Satz RMB</translation>
+    </message>
+    <message>
+        <source>Own sentence HSC</source>
+        <translation>Eigenes Profil, Satz HSC</translation>
+    </message>
+    <message>
+        <source>Own sentence XTE</source>
+        <translation>Eigenes Profil, Satz XTE</translation>
+    </message>
+    <message>
+        <source>Own sentence BWC</source>
+        <translation>Eigenes Profil, Satz BWC</translation>
+    </message>
+    <message>
+        <source>Simulated boat</source>
+        <translation>Simuliertes Boot</translation>
+    </message>
+    <message>
+        <source>A boat speed is on the wire, and missed when it fails</source>
+        <translation>Eine Fahrt ist auf der Leitung und wird vermisst, wenn sie ausfällt</translation>
+    </message>
+    <message>
+        <source>A heading is on the wire, and missed when it fails</source>
+        <translation>Ein Kurs ist auf der Leitung und wird vermisst, wenn er ausfällt</translation>
+    </message>
+    <message>
+        <source>%1: %2 (now %3)</source>
+        <translation>%1: %2 (jetzt %3)</translation>
+    </message>
+    <message>
+        <source>Setting &quot;%1&quot; of &quot;%2&quot;: %3 (now %4)</source>
+        <translation>Einstellung &quot;%1&quot; aus &quot;%2&quot;: %3 (jetzt %4)</translation>
     </message>
 </context>
 </TS>

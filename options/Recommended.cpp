@@ -1,5 +1,8 @@
 #include "options/Recommended.h"
 
+#include <algorithm>
+#include <string_view>
+
 #include "platform/Language.h"
 #include "platform/NumberText.h"
 
@@ -15,8 +18,10 @@ constexpr float kDirectionBandwidth = 60.0F;  // [s]
 constexpr float kAlarmAverage = 5.0F;         // [s]
 
 template <bool Settings::*Truth>
-Recommendation Switch(const char* what, const char* reason) {
-  return {what,
+Recommendation Switch(const char* section, const char* key, const char* what, const char* reason) {
+  return {section,
+          key,
+          what,
           TrMark("on"),
           reason,
           [](const Seen& seen) -> std::string { return seen.All.*Truth ? Tr("on") : Tr("off"); },
@@ -54,15 +59,15 @@ std::string AlarmAverageNow(const Seen& seen) {
 
 std::array<Recommendation, kRecommendationCount> NewRecommendations() {
   return {{
-      {TrMark("Tracking method"), TrMark("Direction"),
+      {"Track", "Method", TrMark("Tracking method"), TrMark("Direction"),
        TrMark("It holds the wind most closely of the three and needs no tuning; sets the bandwidth to 60 s "
               "with it."),
        MethodNow, [](const Seen& seen) { return seen.All.m_eTrackMethod == TrackMethod::Direction; },
        SetDirection},
       Switch<&Settings::m_bWatchAct>(
-          TrMark("The watch acts"),
+          "Watch", "Act", TrMark("The watch acts"),
           TrMark("What is stale, lost or wrong does not steer; off, it is only told.")),
-      {TrMark("Alarm sound"), TrMark("Tone"),
+      {"Watch", "Sound", TrMark("Alarm sound"), TrMark("Tone"),
        TrMark("A tone is heard until somebody answers; many computers have no beep."),
        [](const Seen& seen) -> std::string {
          return seen.All.m_eWatchSound == AlarmSound::Tone ? Tr("Tone") : Tr("Beep");
@@ -70,19 +75,19 @@ std::array<Recommendation, kRecommendationCount> NewRecommendations() {
        [](const Seen& seen) { return seen.All.m_eWatchSound == AlarmSound::Tone; },
        [](const Now& now) { now.All.m_eWatchSound = AlarmSound::Tone; }},
       Switch<&Settings::m_bWatchBlankLost>(
-          TrMark("Lost values blank"),
+          "Watch", "Blank Lost", TrMark("Lost values blank"),
           TrMark("Nobody takes an old figure for one of now: it becomes \"--\".")),
       Switch<&Settings::m_bCarefulEntry>(
-          TrMark("Careful entry"),
+          "View", "Careful Entry", TrMark("Careful entry"),
           TrMark("An emptied box does not steer to 0, and a large typed change is asked about.")),
-      {TrMark("Status V"), TrMark("Ignore"),
+      {"Nmea", "Invalid Status", TrMark("Status V"), TrMark("Ignore"),
        TrMark("An instrument that calls its own value invalid is believed."),
        [](const Seen& seen) -> std::string {
          return seen.All.m_eNmeaInvalidStatus == InvalidRule::Ignore ? Tr("Ignore") : Tr("Use");
        },
        [](const Seen& seen) { return seen.All.m_eNmeaInvalidStatus == InvalidRule::Ignore; },
        [](const Now& now) { now.All.m_eNmeaInvalidStatus = InvalidRule::Ignore; }},
-      {TrMark("Checksum"), TrMark("Require"),
+      {"Nmea", "Checksum", TrMark("Checksum"), TrMark("Require"),
        TrMark("A damaged sentence can look like a good one; leave it where an old instrument sends no "
               "checksum."),
        [](const Seen& seen) -> std::string {
@@ -90,21 +95,22 @@ std::array<Recommendation, kRecommendationCount> NewRecommendations() {
        },
        [](const Seen& seen) { return seen.All.m_eNmeaChecksum == ChecksumRule::Require; },
        [](const Now& now) { now.All.m_eNmeaChecksum = ChecksumRule::Require; }},
-      {TrMark("Foreign lines"), TrMark("List"), TrMark("The lines of an AIS receiver are no errors."),
+      {"Nmea", "Foreign Lines", TrMark("Foreign lines"), TrMark("List"),
+       TrMark("The lines of an AIS receiver are no errors."),
        [](const Seen& seen) -> std::string {
          return seen.All.m_eNmeaForeignLines == ForeignRule::List ? Tr("List") : Tr("Error");
        },
        [](const Seen& seen) { return seen.All.m_eNmeaForeignLines == ForeignRule::List; },
        [](const Now& now) { now.All.m_eNmeaForeignLines = ForeignRule::List; }},
-      {TrMark("Sentences to the pilot"), TrMark("1 a second"),
+      {"Pilot", "Cadence", TrMark("Sentences to the pilot"), TrMark("1 a second"),
        TrMark("A pilot wants its bearing evenly, also between two winds, and no more than it can read."),
        CadenceNow, [](const Seen& seen) { return seen.All.m_iPilotCadence >= 1; },
        [](const Now& now) { now.All.m_iPilotCadence = 1; }},
-      {TrMark("Polar between winds"), TrMark("smooth"),
+      {"Polar Data", "Smooth Between Winds", TrMark("Polar between winds"), TrMark("smooth"),
        TrMark("The polar's speed does not jump from one wind of its table to the next."),
        [](const Seen& seen) -> std::string { return seen.SmoothWinds ? Tr("smooth") : Tr("in steps"); },
        [](const Seen& seen) { return seen.SmoothWinds; }, [](const Now& now) { now.SmoothWinds = true; }},
-      {TrMark("Tracking alarm"), TrMark("over 5 s"),
+      {"Track", "Alarm Average", TrMark("Tracking alarm"), TrMark("over 5 s"),
        TrMark("The alarm averages the error, so that a single gust does not set it off."), AlarmAverageNow,
        [](const Seen& seen) { return seen.All.m_fTrackAlarmAverage >= kAlarmAverage; },
        [](const Now& now) { now.All.m_fTrackAlarmAverage = kAlarmAverage; }},
@@ -116,6 +122,13 @@ std::array<Recommendation, kRecommendationCount> NewRecommendations() {
 const std::array<Recommendation, kRecommendationCount>& Recommendations() {
   static const auto kAll = NewRecommendations();
   return kAll;
+}
+
+const Recommendation& SmoothWindsRecommendation() {
+  const auto& all = Recommendations();
+  return *std::find_if(all.begin(), all.end(), [](const Recommendation& each) {
+    return std::string_view(each.Key) == "Smooth Between Winds";
+  });
 }
 
 void ApplyRecommended(const RecommendedTicks& ticks, const RecommendedNow& now) {

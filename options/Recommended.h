@@ -23,6 +23,8 @@ struct RecommendedSeen {
 };
 
 struct Recommendation {
+  const char* Section;  ///< of the profile
+  const char* Key;
   const char* What;    ///< the setting, as "Method"; for Tr, as the next two
   const char* Better;  ///< what it should be, as "Direction"
   const char* Reason;  ///< one sentence
@@ -37,6 +39,9 @@ inline constexpr std::size_t kRecommendationCount = 11;
 
 /// In the order in which they are shown.
 const std::array<Recommendation, kRecommendationCount>& Recommendations();
+
+/// The one of RecommendedNow::SmoothWinds.
+const Recommendation& SmoothWindsRecommendation();
 
 /// Which of them are chosen, in their order.
 using RecommendedTicks = std::array<bool, kRecommendationCount>;

@@ -71,11 +71,11 @@ TEST_F(ConnectDeskTest, SaysWhatItWouldWriteAndWritesThat) {
   RecommendedTicks ticks{};
   ticks.fill(true);
   Desk.SetRecommended(ticks);
-  EXPECT_THAT(Desk.Words(),
-              AllOf(Contains("Instruments: port 5 leads to /dev/ttyUSB0?baud=4800, tcp://boat:2000"),
-                    Contains("Autopilot: port 1 leads to /dev/ttyUSB1"),
-                    Contains(HasSubstr("Track, Method: Direction, now Sentence")),
-                    Contains("Polar: smooth between two wind speeds")));
+  const std::string words = PlanText(Desk.Words());
+  EXPECT_THAT(words, AllOf(HasSubstr("Port 5 leads to /dev/ttyUSB0?baud=4800, tcp://boat:2000\n"),
+                           HasSubstr("Port 1 leads to /dev/ttyUSB1\n"),
+                           HasSubstr("Tracking method: Direction (now Sentence)\n"),
+                           HasSubstr("Polar between winds: smooth (now in steps)")));
   EXPECT_THAT(Main.Calls, IsEmpty());
   EXPECT_EQ(Store.Content(), "");
   Desk.Save();

@@ -206,7 +206,7 @@ TEST_F(Connect, SetsVaneLogAndCompassByAClick) {
   EXPECT_THAT(Text("lblConnectLog"), HasSubstr("Log factor 1.2"));
   Next(3);
   EXPECT_THAT(Find<QPlainTextEdit>("txtConnectWords").toPlainText().toStdString(),
-              HasSubstr("Nmea, Wind Offset: 9 deg, now 0 deg"));
+              HasSubstr("Wind angle offset: +9 deg (now 0 deg)"));
 }
 
 TEST_F(Connect, AWrongPortOfThePilotIsSaidAndHoldsBack) {
@@ -262,8 +262,8 @@ TEST_F(Connect, NothingIsWrittenBeforeSaveAndCancelLeavesEverything) {
   EXPECT_EQ(Text("lblConnectPage"), "5 of 5: Ready");
   EXPECT_EQ(Find<QPushButton>("cmdConnectNext").text(), "Save and &go to Setup");
   EXPECT_THAT(Find<QPlainTextEdit>("txtConnectWords").toPlainText().toStdString(),
-              AllOf(HasSubstr("Instruments: port 5 leads to /dev/ttyUSB0?baud=4800"),
-                    HasSubstr("Track, Method: Direction, now Sentence")));
+              AllOf(HasSubstr("Instruments\n\u2022 Port 5 leads to /dev/ttyUSB0?baud=4800\n"),
+                    HasSubstr("Tracking method: Direction (now Sentence)\n")));
   ScriptedPort& device = Device();
   EXPECT_TRUE(device.PortOpen());
   QTest::keyClick(Window, Qt::Key_Escape);
