@@ -8,6 +8,7 @@
 #include "app/Report.h"
 #include "app/ReportLog.h"
 #include "app/ReportQt.h"
+#include "app/WatchDiary.h"
 #include "helm/Helm.h"
 #include "platform/AtomicFile.h"
 #include "platform/NamedPort.h"
@@ -54,7 +55,7 @@ struct DiagnosisQt::Ears {
 };
 
 DiagnosisQt::DiagnosisQt(const std::filesystem::path& profileFile)
-    : m_lock(Target(profileFile)), m_loaded(m_profile.Load(profileFile)) {
+    : m_file(profileFile), m_lock(Target(profileFile)), m_loaded(m_profile.Load(profileFile)) {
   if (!m_lock.HeldByAnother()) {
     m_ears = std::make_unique<Ears>(m_profile, m_clock);
   }
@@ -64,12 +65,18 @@ DiagnosisQt::DiagnosisQt(const std::filesystem::path& profileFile)
 DiagnosisQt::~DiagnosisQt() = default;
 
 std::string DiagnosisQt::Text() const {
-  ReportFacts facts{
-      m_clock.Now().Wall, VEERWATCH_VERSION, ToolkitText(), SystemText(), m_profile, {}, {}, {}, {}};
+  ReportFacts facts{m_clock.Now().Wall,
+                    VEERWATCH_VERSION,
+                    ToolkitText(),
+                    SystemText(),
+                    m_profile,
+                    {},
+                    {},
+                    {},
+                    WatchLinesOf(m_file, m_clock.Now().Wall)};
   if (m_ears) {
     facts.Now = m_ears->TheHelm.Now();
     facts.Sentences = m_ears->Log.SentenceLines();
-    facts.Watch = m_ears->Log.WatchLines();
   } else {
     facts.Instead = "Another Veerwatch runs with this profile: its Help > Save Report... knows what came.";
   }

@@ -27,6 +27,7 @@ class DiagnosisQt final {
  private:
   struct Ears;
 
+  std::filesystem::path m_file;
   SystemClock m_clock;
   Profile m_profile;
   ProfileLock m_lock;

@@ -68,6 +68,7 @@ void frmMain::closeEvent(QCloseEvent* event) {
     return;
   }
   KeepSettings();
+  m_report.Diary().Save();
   m_unloaded = true;
   m_others.Hide();
   m_alarms.Hide();
@@ -119,6 +120,7 @@ ProfilesMenuQt::Does frmMain::ProfileWishes() {
           [this] { close(); },
           [this] {
             m_parts.ProfileFile = m_sProfileFile = m_parts.Profiles->File().string();
+            m_report.Diary().Keep(m_sProfileFile);
             ShowTitle();
           }};
 }
@@ -134,6 +136,7 @@ std::string frmMain::Keepable() {
 }
 
 void frmMain::tmrSave_Timer() {
+  m_report.Diary().Save();
   if (!m_unloaded && m_bSaveWhileRunning && m_save.Tick(Keepable())) {
     KeepSettings();
     m_save.Saved(Keepable());

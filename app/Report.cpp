@@ -6,7 +6,7 @@
 #include <utility>
 #include <variant>
 
-#include "app/ReportLog.h"
+#include "app/WatchEntry.h"
 #include "platform/Endpoint.h"
 #include "platform/NumberText.h"
 #include "platform/PortNames.h"

@@ -1,20 +1,15 @@
 #include "app/ReportLog.h"
 
 #include <algorithm>
-#include <chrono>
-#include <cstdio>
 
-#include "alarms/WatchText.h"
 #include "platform/NumberText.h"
-#include "platform/VisibleText.h"
 
 namespace veerwatch {
 
 namespace {
 
-constexpr std::int64_t kSecond = 1000;              // [ms]
-constexpr std::int64_t kMinute = 60 * kSecond;      // [ms]
-constexpr std::int64_t kDay = 24 * (60 * kMinute);  // [ms]
+constexpr std::int64_t kSecond = 1000;          // [ms]
+constexpr std::int64_t kMinute = 60 * kSecond;  // [ms]
 
 /// The types of NMEA 0183 that are named; others may be anything, a name as well.
 constexpr std::array<std::string_view, 60> kKnown{
@@ -30,20 +25,6 @@ bool IsKnown(std::string_view type) {
 }
 
 }  // namespace
-
-std::string UtcText(std::int64_t wall) {
-  using namespace std::chrono;
-  const sys_time<milliseconds> now{milliseconds(wall)};
-  const auto midnight = floor<days>(now);
-  const year_month_day date{midnight};
-  const hh_mm_ss time{floor<seconds>(now) - midnight};
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%04d-%02u-%02u %02ld:%02ld:%02ld", static_cast<int>(date.year()),
-                static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
-                static_cast<long>(time.hours().count()), static_cast<long>(time.minutes().count()),
-                static_cast<long>(time.seconds().count()));
-  return text.data();
-}
 
 void ReportLog::OnNmeaLine(std::string_view line, LineFault fault, bool used) {
   const Moment now = m_clock.Now();
@@ -117,38 +98,6 @@ std::vector<std::string> ReportLog::SentenceLines() const {
                     std::to_string(sum.Used) + " used, " + std::to_string(sum.Wrong) + " wrong");
   }
   std::sort(lines.begin(), lines.end());
-  return lines;
-}
-
-void ReportLog::OnWatch(const WatchNow& watch) {
-  for (const Standing& one : m_watch.Conditions()) {
-    if (watch.Find(one.What) == nullptr) {
-      Note(watch, "over " + WatchText(one));
-    }
-  }
-  for (const Standing& one : watch.Conditions()) {
-    if (m_watch.Find(one.What) == nullptr) {
-      Note(watch, std::string(LevelText(one.Rank)) + " " + WatchText(one));
-    }
-  }
-  m_watch = watch;
-}
-
-void ReportLog::Note(const WatchNow& watch, const std::string& text) {
-  m_entries.push_back({watch.At.Wall, VisibleText(text)});
-  while (m_entries.size() > kMostEntries) {
-    m_entries.pop_front();
-  }
-}
-
-std::vector<std::string> ReportLog::WatchLines() const {
-  std::vector<std::string> lines;
-  const std::int64_t now = m_clock.Now().Wall;
-  for (const Entry& entry : m_entries) {
-    if (now - entry.Wall <= kDay) {
-      lines.push_back(UtcText(entry.Wall) + " " + entry.Text);
-    }
-  }
   return lines;
 }
 

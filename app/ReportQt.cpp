@@ -27,11 +27,12 @@ ReportQt::ReportQt(const MainWindowParts& parts, const frmMainMenu& menu, Helm& 
       m_helm(helm),
       m_asks(asks),
       m_present(std::move(present)),
-      m_log(helm.Observers(), parts.Time) {
-  QObject::connect(menu.mnuHelpReport, &QAction::triggered, menu.mnuHelpReport, [this] { Save(); });
+      m_log(helm.Observers(), parts.Time),
+      m_diary(helm.Observers(), parts.Time) {
+  QObject::connect(menu.mnuHelpReport, &QAction::triggered, menu.mnuHelpReport, [this] { Write(); });
 }
 
-void ReportQt::Save() const {
+void ReportQt::Write() const {
   m_asks.ExportFile(Tr("Save Report"), Tr("Report (*.txt)"), "veerwatch-report.txt",
                     [this](const std::optional<std::string>& file) {
                       if (!file) {
@@ -40,7 +41,7 @@ void ReportQt::Save() const {
                       const Profile settings = m_present();
                       const std::string text =
                           ReportText({m_parts.Time.Now().Wall, VEERWATCH_VERSION, ToolkitText(), SystemText(),
-                                      settings, m_helm.Now(), "", m_log.SentenceLines(), m_log.WatchLines()});
+                                      settings, m_helm.Now(), "", m_log.SentenceLines(), m_diary.Lines()});
                       if (const auto trouble = WriteAtomically(*file, text)) {
                         m_asks.Inform(Tr("Save Report"), *trouble);
                       }

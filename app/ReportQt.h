@@ -6,6 +6,7 @@
 
 #include "app/MainWindowParts.h"
 #include "app/ReportLog.h"
+#include "app/WatchDiary.h"
 #include "app/frmMainCommands.h"
 #include "helm/Helm.h"
 #include "platform/Dialogs.h"
@@ -19,14 +20,18 @@ class ReportQt final {
   ReportQt(const MainWindowParts& parts, const frmMainMenu& menu, Helm& helm, WindowDialogs& asks,
            std::function<Profile()> present);
 
+  /// What the watch found, and the file beside the profile in use.
+  WatchDiary& Diary() { return m_diary; }
+
  private:
-  void Save() const;
+  void Write() const;
 
   const MainWindowParts& m_parts;
   Helm& m_helm;
   WindowDialogs& m_asks;
   std::function<Profile()> m_present;
   ReportLog m_log;
+  WatchDiary m_diary;
 };
 
 /// The toolkit and its version.

@@ -162,6 +162,7 @@ void frmMain::Form_Load(bool changed) {
   m_staysOff = changed;
   ProfileRecall(true);
   m_staysOff = false;
+  m_report.Diary().Keep(m_sProfileFile);
   m_others.ConnectOffer(*this);
 }
 

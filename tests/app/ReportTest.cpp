@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/ReportLog.h"
+#include "app/WatchDiary.h"
 #include "helm/Helm.h"
 #include "tests/support/FixedRandom.h"
 #include "tests/support/HandClock.h"
@@ -41,15 +42,9 @@ class ReportTest : public testing::Test {
     }
   }
   std::string Text(const Profile& profile) const {
-    ReportFacts facts{m_clock.Now().Wall,
-                      "0.1",
-                      "Qt 6",
-                      "Debian, linux 6, x86_64",
-                      profile,
-                      m_helm.Now(),
-                      {},
-                      m_log.SentenceLines(),
-                      m_log.WatchLines()};
+    ReportFacts facts{
+        m_clock.Now().Wall,    "0.1",          "Qt 6", "Debian, linux 6, x86_64", profile, m_helm.Now(), {},
+        m_log.SentenceLines(), m_diary.Lines()};
     return ReportText(facts);
   }
 
@@ -61,6 +56,7 @@ class ReportTest : public testing::Test {
   FixedRandom m_random;
   Helm m_helm{m_settings, m_port, m_pilot, m_timer, m_clock, m_random};
   ReportLog m_log{m_helm.Observers(), m_clock};
+  WatchDiary m_diary{m_helm.Observers(), m_clock};
 };
 
 TEST_F(ReportTest, CountsTheSentencesOfTheLastMinutes) {
@@ -101,18 +97,6 @@ TEST_F(ReportTest, MoreTypesThanThereIsRoomForAreOthers) {
   const auto lines = m_log.SentenceLines();
   EXPECT_EQ(lines.size(), 64U);
   EXPECT_THAT(lines, Contains(HasSubstr("other 613 lines")));
-}
-
-TEST_F(ReportTest, TellsWhatTheWatchFoundInTheLastDay) {
-  m_settings.m_bSimulate = true;
-  m_helm.Modes().TrackSetSetup();
-  Seconds(2);
-  m_settings.m_bSimulate = false;
-  Seconds(2);
-  EXPECT_THAT(m_log.WatchLines(),
-              testing::ElementsAre(HasSubstr(" note Simulation"), HasSubstr(" over Simulation")));
-  m_clock.Pass(24LL * 3600 * 1000);
-  EXPECT_THAT(m_log.WatchLines(), IsEmpty());
 }
 
 TEST_F(ReportTest, TellsTheSettingsThatAreNoDefaults) {
@@ -157,8 +141,8 @@ TEST_F(ReportTest, HoldsNoPositionAndNoName) {
   HelmNow now = m_helm.Now();
   now.InputFailure = "tcp://mary-boat.lan:10110: Host mary-boat.lan not found for ann at 192.168.77.13";
   now.OutputFailure = "mary-pilot.lan: Connection refused";
-  const ReportFacts facts{m_clock.Now().Wall, "0.1", "", "", profile, now, {}, m_log.SentenceLines(),
-                          m_log.WatchLines()};
+  const ReportFacts facts{m_clock.Now().Wall,    "0.1",          "", "", profile, now, {},
+                          m_log.SentenceLines(), m_diary.Lines()};
   const std::string text = ReportText(facts);
   for (const char* secret :
        {"5403", "127",  "1008", "456", "5404",  "987",  "321",   "mary",     "Mary",    "MARY",
