@@ -5,6 +5,7 @@
 #include <system_error>
 #include <utility>
 
+#include "app/WatchDiary.h"
 #include "platform/AtomicFile.h"
 #include "platform/Language.h"
 #include "platform/VisibleText.h"
@@ -15,6 +16,8 @@ namespace {
 
 constexpr const char* kEnding = ".ini";
 constexpr std::size_t kMostListed = 100;
+constexpr const char* kSection = "Profiles";
+constexpr const char* kInUse = "In Use";
 
 std::string Shown(const std::filesystem::path& path) { return VisibleText(path.string()); }
 
@@ -57,8 +60,24 @@ bool IsProfileName(std::string_view name) {
          kNoEnds.find(name.back()) == std::string_view::npos;
 }
 
+std::filesystem::path ProfileInUse(const std::filesystem::path& first) {
+  Profile profile;
+  profile.Load(first);
+  const std::string name = profile.Text(kSection, kInUse);
+  const std::filesystem::path file = first.parent_path() / (name + kEnding);
+  return IsProfileName(name) && HoldsProfile(file) ? file : first;
+}
+
 ProfileDesk::ProfileDesk(std::filesystem::path first)
     : m_first(std::move(first)), m_file(m_first), m_lock(Locked(m_first)) {}
+
+void ProfileDesk::Resume() {
+  m_remembers = true;
+  if (const std::filesystem::path file = ProfileInUse(m_first); file != m_file) {
+    m_file = file;
+    m_lock = Locked(file);
+  }
+}
 
 std::string ProfileDesk::NameOf(const std::filesystem::path& file) {
   return VisibleText(file.stem().string());
@@ -116,6 +135,22 @@ ProfileDesk::Trouble ProfileDesk::Take(const std::string& name, Taken& taken) co
 void ProfileDesk::Use(Taken taken) {
   m_file = std::move(taken.File);
   m_lock = std::move(taken.Lock);
+  if (m_remembers) {
+    Remember();
+  }
+}
+
+void ProfileDesk::Remember() const {
+  const std::unique_ptr<ProfileLock> lock = First() ? nullptr : Locked(m_first);
+  Profile profile;
+  if ((lock && lock->HeldByAnother()) || profile.Load(m_first) == Profile::LoadResult::Unreadable) {
+    return;
+  }
+  const std::string name = First() ? "" : Name();
+  if (profile.Text(kSection, kInUse) != name) {
+    profile.ProfileSet(kSection, kInUse, name);
+    profile.Commit(m_first);
+  }
 }
 
 ProfileDesk::Trouble ProfileDesk::SaveAs(const std::string& name, const Profile& settings) {
@@ -153,6 +188,13 @@ ProfileDesk::Trouble ProfileDesk::Rename(const std::string& name, const std::str
   if (error) {
     return Shown(FileOf(name)) + ": " + error.message();
   }
+  // Of the one in use all of it is held, and written under the new name.
+  std::error_code ignored;
+  if (inUse) {
+    std::filesystem::remove(WatchDiary::FileOf(FileOf(name)), ignored);
+  } else {
+    std::filesystem::rename(WatchDiary::FileOf(FileOf(name)), WatchDiary::FileOf(after.File), ignored);
+  }
   if (inUse) {
     Use(std::move(after));
   }
@@ -166,6 +208,8 @@ ProfileDesk::Trouble ProfileDesk::Delete(const std::string& name) {
   }
   std::error_code error;
   std::filesystem::remove(taken.File, error);
+  std::error_code ignored;
+  std::filesystem::remove(WatchDiary::FileOf(taken.File), ignored);
   return error ? Trouble(Shown(taken.File) + ": " + error.message()) : std::nullopt;
 }
 

@@ -23,8 +23,11 @@ class ProfileDesk {
 
   static constexpr std::size_t kLongestName = 40;  ///< characters
 
-  /// Takes the profile `first`, the one that the program starts with, whether it is there or not.
+  /// Takes the profile `first`, whether it is there or not.
   explicit ProfileDesk(std::filesystem::path first);
+
+  /// Takes the profile that was in use last instead, and from now on remembers the one in use.
+  void Resume();
 
   /// The lock on the profile in use.
   const ProfileLock& Lock() const { return *m_lock; }
@@ -71,12 +74,18 @@ class ProfileDesk {
   Trouble Take(const std::string& name, Taken& taken) const;
   /// What is taken is in use from now on.
   void Use(Taken taken);
+  /// Has the first one name the one in use. Where that cannot be, the next start begins with another one.
+  void Remember() const;
 
   std::filesystem::path m_first;
+  bool m_remembers = false;
   std::filesystem::path m_file;
   std::unique_ptr<ProfileLock> m_lock;
   std::unique_ptr<Taken> m_next;
 };
+
+/// The profile that was in use last, as `first` names it; `first` itself where that is not there any more.
+std::filesystem::path ProfileInUse(const std::filesystem::path& first);
 
 /// Whether a profile can have that name: 1 to ProfileDesk::kLongestName characters of UTF-8, none of them a
 /// control character or one that a file system keeps for itself, without a dot or a blank at its ends.

@@ -224,7 +224,8 @@ int Diagnose(int argc, char* argv[]) {
   const QCoreApplication application(argc, argv);
   const CommandLine line = ReadCommandLine(argc, argv);
   std::error_code error;
-  const DiagnosisQt diagnosis(line.Profile ? std::filesystem::absolute(*line.Profile, error) : ProfileFile());
+  const DiagnosisQt diagnosis(line.Profile ? std::filesystem::absolute(*line.Profile, error)
+                                           : ProfileInUse(ProfileFile()));
   QCoreApplication::exec();
   const std::string text = diagnosis.Text();
   return std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0 ? 0 : 1;
@@ -268,10 +269,13 @@ int RunProgram(int argc, char* argv[], const std::function<void(QWidget&)>& star
   const std::filesystem::path profileFile =
       line.Profile ? std::filesystem::absolute(*line.Profile, error) : ProfileFile();
 
-  InstallLanguage(LanguageOf(profileFile));
   std::filesystem::create_directories(profileFile.parent_path(), error);
   ProfileDesk profiles(profileFile);
-  if (DialogsQt dialogs; !Taken(profiles.Lock(), profileFile, dialogs)) {
+  if (!line.Profile) {
+    profiles.Resume();
+  }
+  InstallLanguage(LanguageOf(profiles.File()));
+  if (DialogsQt dialogs; !Taken(profiles.Lock(), profiles.File(), dialogs)) {
     // Until the message is closed.
     QApplication::exec();
     constexpr int kRunsAlready = 3;

@@ -61,6 +61,47 @@ TEST_F(Desk, BeginsWithTheFirst) {
   EXPECT_THAT(m_desk.Names(), ElementsAre("Veerwatch"));
 }
 
+TEST_F(Desk, TakesTheOneThatWasInUseLast) {
+  m_desk.Resume();
+  EXPECT_TRUE(m_desk.First());
+  ASSERT_EQ(m_desk.SaveAs("Charter", Settings()), std::nullopt);
+  ASSERT_EQ(m_desk.Rename("Charter", "Club"), std::nullopt);
+  EXPECT_THAT(ReadFile(File("Veerwatch")), HasSubstr("[Profiles]\nIn Use=Club\n"));
+  EXPECT_EQ(ProfileInUse(File("Veerwatch")), File("Club"));
+  {
+    ProfileDesk second(File("Veerwatch"));
+    second.Resume();
+    EXPECT_EQ(second.File(), File("Club"));
+    EXPECT_EQ(second.FirstName(), "Veerwatch");
+  }
+  ASSERT_EQ(m_desk.Ask("Veerwatch"), std::nullopt);
+  ASSERT_TRUE(m_desk.Change());
+  EXPECT_EQ(ProfileInUse(File("Veerwatch")), File("Veerwatch"));
+}
+
+TEST_F(Desk, WhatWasInUseAndIsGoneOrNoProfileIsNotTaken) {
+  for (const std::string name : {"Gone", "../Club", "", ".", "desktop", "folder"}) {
+    Put("desktop", "[Desktop Entry]\nName=x\n");
+    fs::create_directory(m_folder / "folder.ini");
+    Put("Veerwatch", "[Track]\nBandwidth=20\n[Profiles]\nIn Use=" + name + "\n");
+    EXPECT_EQ(ProfileInUse(File("Veerwatch")), File("Veerwatch")) << name;
+  }
+}
+
+TEST_F(Desk, KeepsNothingOfWhatIsChosenWhereAFileWasAskedFor) {
+  ASSERT_EQ(m_desk.SaveAs("Charter", Settings()), std::nullopt);
+  EXPECT_EQ(ReadFile(File("Veerwatch")), "[Track]\nBandwidth=20\n");
+}
+
+TEST_F(Desk, WritesNothingIntoAFirstOneThatAnotherProgramHas) {
+  m_desk.Resume();
+  ASSERT_EQ(m_desk.SaveAs("Charter", Settings()), std::nullopt);
+  const std::string before = ReadFile(File("Veerwatch"));
+  const LockedElsewhere other(File("Veerwatch"));
+  EXPECT_EQ(m_desk.Rename("Charter", "Club"), std::nullopt);
+  EXPECT_EQ(ReadFile(File("Veerwatch")), before);
+}
+
 TEST_F(Desk, ListsWhatHoldsAProfileInOrder) {
   Put("Club");
   Put("Charter");

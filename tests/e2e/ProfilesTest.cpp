@@ -58,18 +58,31 @@ TEST_F(Profiles, AreChangedAsOftenAsTheUserLikes) {
   EXPECT_FALSE(IsThere("Charter.ini.lock"));
 }
 
-TEST_F(Profiles, TheProgramStartsWithTheFirstOneAgain) {
+TEST_F(Profiles, TheNextStartBeginsWithTheOneThatWasInUse) {
   Begin();
   m_program.Tell("click mnuFileProfile(Charter)");
   ASSERT_TRUE(Ready(2));
-  m_program.Terminate();
-  EXPECT_EQ(m_program.AwaitEnd(), 0) << "a request to end is no change";
+  m_program.Kill();
   Process again(&m_program);
   ASSERT_TRUE(again.Start());
   EXPECT_TRUE(Await([&] { return again.Said().find("ready") != std::string::npos; }));
-  EXPECT_TRUE(IsThere("Veerwatch.ini.lock"));
+  EXPECT_TRUE(IsThere("Charter.ini.lock"));
+  EXPECT_FALSE(IsThere("Veerwatch.ini.lock"));
   again.Terminate();
   EXPECT_EQ(again.AwaitEnd(), 0);
+}
+
+TEST_F(Profiles, ASecondPlainStartDoesNotTakeTheFirstOneMeanwhile) {
+  Begin();
+  m_program.Tell("click mnuFileProfile(Charter)");
+  ASSERT_TRUE(Ready(2));
+  Process other(&m_program);
+  ASSERT_TRUE(other.Start());
+  EXPECT_TRUE(Await([&] { return other.Said().find("Charter.ini.lock") != std::string::npos; }))
+      << other.Said();
+  EXPECT_EQ(other.Said().find("ready"), std::string::npos);
+  other.Terminate();
+  EXPECT_TRUE(other.AwaitEnd().has_value());
 }
 
 TEST_F(Profiles, OneThatAnotherProgramHasIsNotTaken) {
