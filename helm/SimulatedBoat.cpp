@@ -54,7 +54,8 @@ BoatSettings SimulatedBoatOf(const Settings& settings) {
 void SimulatedBoat::Begin() {
   constexpr double kFarthest = 1000.0;  // [nm]
   constexpr double kSeeds = 9007199254740992.0;
-  const auto seed = static_cast<std::uint64_t>(m_random.Next() * kSeeds);
+  const auto seed = m_settings.m_iSimulateSeed != 0 ? static_cast<std::uint64_t>(m_settings.m_iSimulateSeed)
+                                                    : static_cast<std::uint64_t>(m_random.Next() * kSeeds);
   const BoatSettings settings = SimulatedBoatOf(m_settings);
   m_boat.emplace(settings, Folded(m_settings.m_fAutoPilot), seed);
   m_boat->PutWaypoint(Folded(m_settings.m_fSimulateWaypointBearing) + settings.Variation,

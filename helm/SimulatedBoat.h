@@ -21,7 +21,8 @@ BoatSettings SimulatedBoatOf(const Settings& settings);
 
 class SimulatedBoat {
  public:
-  /// All of them outlive it. `random` is asked once for each boat, for her seed.
+  /// All of them outlive it. `random` is asked once for each boat, for her seed, where
+  /// the settings have none.
   SimulatedBoat(const Settings& settings, InstrumentRecord& record, RandomSource& random)
       : m_settings(settings), m_record(record), m_random(random) {}
 

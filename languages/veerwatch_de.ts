@@ -2389,7 +2389,7 @@
     </message>
     <message>
         <source>Pilot &amp;Reads</source>
-        <translation>Pilot &amp;liest</translation>
+        <translation>&amp;Pilot liest</translation>
     </message>
     <message>
         <source>Sea</source>
@@ -4642,6 +4642,118 @@ Den Faktor auf 1 setzen?</translation>
     <message>
         <source>Setting &quot;%1&quot; of &quot;%2&quot;: %3 (now %4)</source>
         <translation>Einstellung &quot;%1&quot; aus &quot;%2&quot;: %3 (jetzt %4)</translation>
+    </message>
+    <message>
+        <source>Pilot Lag</source>
+        <translation>Pilotverzug</translation>
+    </message>
+    <message>
+        <source>Gusts</source>
+        <translation>Böen</translation>
+    </message>
+    <message>
+        <source>Shifts</source>
+        <translation>Dreher</translation>
+    </message>
+    <message>
+        <source>Leeway</source>
+        <translation>Abdrift</translation>
+    </message>
+    <message>
+        <source>Seed</source>
+        <translation>Zufall</translation>
+    </message>
+    <message>
+        <source>Seconds in which her pilot takes up two thirds of a new bearing</source>
+        <translation>Sekunden, in denen der Pilot des Bootes zwei Drittel eines neuen Kurses annimmt</translation>
+    </message>
+    <message>
+        <source>How far the wind&apos;s speed wanders (%)</source>
+        <translation>Wie weit die Windstärke wandert (%)</translation>
+    </message>
+    <message>
+        <source>How far the wind&apos;s direction wanders (Deg)</source>
+        <translation>Wie weit die Windrichtung wandert (Grad)</translation>
+    </message>
+    <message>
+        <source>The most leeway, at 45 degrees off the true wind (Deg)</source>
+        <translation>Die größte Abdrift, bei 45 Grad zum wahren Wind (Grad)</translation>
+    </message>
+    <message>
+        <source>Same number, same gusts; 0: others at each start</source>
+        <translation>Gleiche Zahl, gleiche Böen; 0: bei jedem Start andere</translation>
+    </message>
+    <message>
+        <source>Pilot Lag (Sec)</source>
+        <translation>Pilotverzug (s)</translation>
+    </message>
+    <message>
+        <source>Leeway (Deg)</source>
+        <translation>Abdrift (Grad)</translation>
+    </message>
+    <message>
+        <source>Gusts (%)</source>
+        <translation>Böen (%)</translation>
+    </message>
+    <message>
+        <source>S&amp;hifts (Deg)</source>
+        <translation>Dreher (Grad)</translation>
+    </message>
+    <message>
+        <source>any number</source>
+        <translation>jede Zahl</translation>
+    </message>
+    <message>
+        <source>0 and above</source>
+        <translation>0 und mehr</translation>
+    </message>
+    <message>
+        <source>above 0</source>
+        <translation>über 0</translation>
+    </message>
+    <message>
+        <source>0, or above 0.5</source>
+        <translation>0 oder über 0.5</translation>
+    </message>
+    <message>
+        <source>0.5 to 2</source>
+        <translation>0.5 bis 2</translation>
+    </message>
+    <message>
+        <source>any, folded into (-180, 180]</source>
+        <translation>jede, gefaltet nach (-180, 180]</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>deg true</source>
+        <translation>Grad rechtweisend</translation>
+    </message>
+    <message>
+        <source>deg magnetic</source>
+        <translation>Grad missweisend</translation>
+    </message>
+    <message>
+        <source>kn</source>
+        <translation>kn</translation>
+    </message>
+    <message>
+        <source>nm</source>
+        <translation>sm</translation>
+    </message>
+    <message>
+        <source>a program with its arguments</source>
+        <translation>ein Programm mit seinen Argumenten</translation>
+    </message>
+    <message>
+        <source>two letters, the first of them no P</source>
+        <translation>zwei Buchstaben, der erste kein P</translation>
+    </message>
+    <message>
+        <source>1 to 6 letters and digits</source>
+        <translation>1 bis 6 Buchstaben und Ziffern</translation>
     </message>
 </context>
 </TS>

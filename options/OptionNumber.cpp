@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <variant>
 
 #include "platform/Language.h"
 #include "platform/NumberText.h"
@@ -36,6 +37,14 @@ Converted<std::int16_t> ToOptionInteger(float number) {
     return OptionFault::Overflow;
   }
   return static_cast<std::int16_t>(nearest);
+}
+
+Converted<std::int16_t> ToOptionWhole(std::string_view text) {
+  const Converted<float> number = ToOptionSingle(text);
+  if (const auto* fault = std::get_if<OptionFault>(&number)) {
+    return *fault;
+  }
+  return ToOptionInteger(std::get<float>(number));
 }
 
 }  // namespace veerwatch

@@ -28,4 +28,7 @@ Converted<float> ToOptionSingle(std::string_view text);
 /// `number` as an integer of 16 bits, the nearest one, the even one of two.
 Converted<std::int16_t> ToOptionInteger(float number);
 
+/// The whole text as an integer of 16 bits, by way of a single: "1.0" is 1.
+Converted<std::int16_t> ToOptionWhole(std::string_view text);
+
 }  // namespace veerwatch

@@ -1,5 +1,7 @@
 #include "options/OptionsForm.h"
 
+#include <string>
+
 #include "options/PilotChoices.h"
 #include "options/SimulateTimeText.h"
 #include "platform/NumberText.h"
@@ -29,6 +31,7 @@ OptionsForm OptionsFormOf(const Settings& settings) {
   form.SimulateModel = static_cast<int>(settings.m_eSimulateModel);
   form.SimulatePilot = static_cast<int>(settings.m_eSimulatePilot);
   form.SimulateSea = static_cast<int>(settings.m_eSimulateSea);
+  form.SimulateSeed = std::to_string(settings.m_iSimulateSeed);
   form.SimulateTime = SimulateTimeFormat(settings.m_fSimulateTime);
   form.TrackAlarm = settings.m_bTrackAlarm;
   form.TrackMethod = static_cast<int>(settings.m_eTrackMethod);

@@ -59,6 +59,11 @@ struct OptionsForm {
   std::string SimulateVariation;
   std::string SimulateWaypointBrg;
   std::string SimulateWaypointRng;
+  std::string SimulatePilotLag;
+  std::string SimulateGusts;
+  std::string SimulateShifts;
+  std::string SimulateLeeway;
+  std::string SimulateSeed;  ///< a whole number
 
   // Tracking.
   bool TrackAlarm = false;
@@ -98,7 +103,7 @@ struct OptionBox {
 };
 
 /// In the order in which they are stored.
-inline constexpr std::array<OptionBox, 25> kOptionBoxes{{
+inline constexpr std::array<OptionBox, 29> kOptionBoxes{{
     {OptionGroup::Data, TrMark("True Wind Average"), &OptionsForm::NmeaTrueWindAverage,
      &Settings::m_fNmeaTrueWindAverage},
     {OptionGroup::Data, TrMark("Wind Indicator Average"), &OptionsForm::NmeaWindIndicatorAverage,
@@ -128,6 +133,13 @@ inline constexpr std::array<OptionBox, 25> kOptionBoxes{{
      &Settings::m_fSimulateWaypointBearing},
     {OptionGroup::SimulateScene, TrMark("Waypoint Range"), &OptionsForm::SimulateWaypointRng,
      &Settings::m_fSimulateWaypointRange},
+    {OptionGroup::SimulateScene, TrMark("Pilot Lag"), &OptionsForm::SimulatePilotLag,
+     &Settings::m_fSimulatePilotLag},
+    {OptionGroup::SimulateScene, TrMark("Gusts"), &OptionsForm::SimulateGusts, &Settings::m_fSimulateGusts},
+    {OptionGroup::SimulateScene, TrMark("Shifts"), &OptionsForm::SimulateShifts,
+     &Settings::m_fSimulateShifts},
+    {OptionGroup::SimulateScene, TrMark("Leeway"), &OptionsForm::SimulateLeeway,
+     &Settings::m_fSimulateLeeway},
     {OptionGroup::Tracking, TrMark("Alarm Limit"), &OptionsForm::TrackAlarmLimit,
      &Settings::m_fTrackAlarmLimit},
     {OptionGroup::Tracking, TrMark("Bandwidth"), &OptionsForm::TrackBandwidth, &Settings::m_fTrackBandwidth},

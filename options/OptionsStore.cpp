@@ -2,6 +2,9 @@
 
 #include <array>
 #include <cassert>
+#include <cstdint>
+#include <string>
+#include <variant>
 
 #include "options/PilotChoices.h"
 #include "options/SimulateTimeText.h"
@@ -16,6 +19,15 @@ namespace {
 /// What to say of a number that a rule refuses.
 OptionFault RefusalOf(const NumberRule& rule, float value) {
   return rule == kAverageCount && value > 0.0F ? OptionFault::SmallCount : OptionFault::InvalidValue;
+}
+
+/// The seed in a text, or why there is none.
+Converted<std::int16_t> ToSeed(const std::string& text) {
+  const Converted<std::int16_t> seed = ToOptionWhole(text);
+  const auto* number = std::get_if<std::int16_t>(&seed);
+  const bool refused =
+      number != nullptr && !RowOf(SettingsTable(), "Simulate", "Seed").Value.Whole->Holds(*number);
+  return refused ? Converted<std::int16_t>(OptionFault::InvalidValue) : seed;
 }
 
 std::int16_t Source(int index) {
@@ -132,8 +144,12 @@ std::optional<OptionFault> OptionsStore::StorePort(const OptionsForm& form, cons
 
 OptionsStore::Fault OptionsStore::StoreSimulate(const OptionsForm& form) {
   const auto model = static_cast<SimulateModel>(form.SimulateModel);
-  const bool another = m_main.m_bSimulate && model != m_main.m_eSimulateModel;
-  const bool restarts = form.Simulate != m_main.m_bSimulate || another;
+  const Converted<std::int16_t> typed = ToSeed(form.SimulateSeed);
+  const std::int16_t seed =
+      std::holds_alternative<OptionFault>(typed) ? m_main.m_iSimulateSeed : std::get<std::int16_t>(typed);
+  const bool another =
+      model != m_main.m_eSimulateModel || (model == SimulateModel::Boat && seed != m_main.m_iSimulateSeed);
+  const bool restarts = form.Simulate != m_main.m_bSimulate || (m_main.m_bSimulate && another);
   if (restarts) {
     m_main.TrackSetOff();
   }
@@ -141,6 +157,7 @@ OptionsStore::Fault OptionsStore::StoreSimulate(const OptionsForm& form) {
   m_main.m_eSimulateModel = model;
   m_main.m_eSimulatePilot = static_cast<PilotReads>(form.SimulatePilot);
   m_main.m_eSimulateSea = static_cast<Sea>(form.SimulateSea);
+  m_main.m_iSimulateSeed = seed;
   if (restarts) {
     m_main.TrackSetSetup();
   }
@@ -150,7 +167,11 @@ OptionsStore::Fault OptionsStore::StoreSimulate(const OptionsForm& form) {
   if (const Fault fault = In(TrMark("Time"), StoreTime(form.SimulateTime))) {
     return fault;
   }
-  return StoreBoxes(OptionGroup::SimulateScene, form);
+  if (const Fault fault = StoreBoxes(OptionGroup::SimulateScene, form)) {
+    return fault;
+  }
+  const auto* fault = std::get_if<OptionFault>(&typed);
+  return fault != nullptr ? In(TrMark("Seed"), *fault) : std::nullopt;
 }
 
 std::optional<OptionFault> OptionsStore::StoreTime(const std::string& text) {

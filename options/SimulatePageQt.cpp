@@ -6,7 +6,9 @@
 #include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <initializer_list>
 #include <span>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -52,6 +54,17 @@ SimulatePageQt::SimulatePageQt(QWidget* parent)
                                              "pilot that reads what is sent, a sea and gusts"))),
       cmbSimulatePilot(NewList("cmbSimulatePilot", TrMark("Which sentences the boat's pilot reads"))),
       cmbSimulateSea(NewList("cmbSimulateSea", TrMark("The sea that the boat sails in"))),
+      txtSimulatePilotLag(
+          new OptionEntryQt("txtSimulatePilotLag",
+                            TrMark("Seconds in which her pilot takes up two thirds of a new bearing"), this)),
+      txtSimulateGusts(
+          new OptionEntryQt("txtSimulateGusts", TrMark("How far the wind's speed wanders (%)"), this)),
+      txtSimulateShifts(
+          new OptionEntryQt("txtSimulateShifts", TrMark("How far the wind's direction wanders (Deg)"), this)),
+      txtSimulateLeeway(new OptionEntryQt(
+          "txtSimulateLeeway", TrMark("The most leeway, at 45 degrees off the true wind (Deg)"), this)),
+      txtSimulateSeed(new OptionEntryQt("txtSimulateSeed",
+                                        TrMark("Same number, same gusts; 0: others at each start"), this)),
       txtSimulateBoatSpeed(new OptionEntryQt("txtSimulateBoatSpeed", TrMark("Boat Speed (Kts)"), this)),
       txtSimulateTrueWindAngle(
           new OptionEntryQt("txtSimulateTrueWindAngle", TrMark("True Wind Direction (T)"), this)),
@@ -110,8 +123,11 @@ QComboBox* SimulatePageQt::NewList(const char* name, const char* hint) const {
 
 void SimulatePageQt::ShowUsed() const {
   const bool boat = cmbSimulateModel->currentIndex() == static_cast<int>(SimulateModel::Boat);
-  cmbSimulatePilot->setEnabled(boat);
-  cmbSimulateSea->setEnabled(boat);
+  for (QWidget* used : std::initializer_list<QWidget*>{cmbSimulatePilot, cmbSimulateSea, txtSimulatePilotLag,
+                                                       txtSimulateGusts, txtSimulateShifts, txtSimulateLeeway,
+                                                       txtSimulateSeed}) {
+    used->setEnabled(boat);
+  }
 }
 
 QHBoxLayout* SimulatePageQt::NewModelRow() {
@@ -124,8 +140,7 @@ std::array<QScrollBar*, 2> SimulatePageQt::NewSpinners(const char* name, const c
   std::array<QScrollBar*, 2> bars{};
   for (std::size_t i = 0; i < bars.size(); ++i) {
     auto* bar = new SpinnerBarQt(Qt::Vertical, this);
-    NameControl(*bar, "", hint);
-    bar->setObjectName(QStringLiteral("%1(%2)").arg(QLatin1String(name)).arg(i));
+    NameControl(*bar, (std::string(name) + "(" + std::to_string(i) + ")").c_str(), hint);
     bar->setAccessibleName(QStringLiteral("%1 %2").arg(i == 0 ? 10 : 1).arg(TrQ(unit)));
     bar->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     bar->setRange(-1, 1);
@@ -163,6 +178,18 @@ void SimulatePageQt::LayOut() {
   rows->addWidget(chkSimulateAutoApply, 5, 4);
   rows->addWidget(NewCaption(TrMark("&Kind of Boat"), cmbSimulateModel, this), 6, 0);
   rows->addLayout(NewModelRow(), 6, 1, 1, 5);
+  place(7, 0, TrMark("Pilot Lag (Sec)"), txtSimulatePilotLag, Row({txtSimulatePilotLag}));
+  place(7, 3, TrMark("Leeway (Deg)"), txtSimulateLeeway, Row({txtSimulateLeeway}));
+  place(8, 0, TrMark("Gusts (%)"), txtSimulateGusts, Row({txtSimulateGusts}));
+  place(8, 3, TrMark("S&hifts (Deg)"), txtSimulateShifts,
+        Row({txtSimulateShifts, NewCaption(TrMark("Seed"), txtSimulateSeed, this), txtSimulateSeed}));
+  QWidget* before = chkSimulateAutoApply;
+  for (QWidget* next : std::initializer_list<QWidget*>{
+           cmbSimulateModel, cmbSimulatePilot, cmbSimulateSea, txtSimulatePilotLag, txtSimulateLeeway,
+           txtSimulateGusts, txtSimulateShifts, txtSimulateSeed}) {
+    setTabOrder(before, next);
+    before = next;
+  }
   rows->setColumnMinimumWidth(2, kGroupGap);
   rows->setColumnStretch(5, 1);
   auto* page = new QVBoxLayout(this);
@@ -183,6 +210,11 @@ std::vector<BoundEntry> SimulatePageQt::Entries() const {
       {txtSimulateVariation, &OptionsForm::SimulateVariation},
       {txtSimulateWaypointBrg, &OptionsForm::SimulateWaypointBrg},
       {txtSimulateWaypointRng, &OptionsForm::SimulateWaypointRng},
+      {txtSimulatePilotLag, &OptionsForm::SimulatePilotLag},
+      {txtSimulateGusts, &OptionsForm::SimulateGusts},
+      {txtSimulateShifts, &OptionsForm::SimulateShifts},
+      {txtSimulateLeeway, &OptionsForm::SimulateLeeway},
+      {txtSimulateSeed, &OptionsForm::SimulateSeed},
   };
 }
 
@@ -237,10 +269,11 @@ void SimulatePageQt::Changed(const std::function<void(QWidget*)>& handler) {
   }
 }
 
-std::array<OptionEntryQt*, 10> SimulatePageQt::Marking() const {
+std::array<OptionEntryQt*, 15> SimulatePageQt::Marking() const {
   return {txtSimulateBoatSpeed,  txtSimulateCompassOffset, txtSimulateTrueWindAngle, txtSimulateTrueWindSpeed,
           txtSimulateVariation,  txtSimulateWaypointBrg,   txtSimulateWaypointRng,   txtSimulateTime,
-          txtSimulateNoiseAngle, txtSimulateNoiseSpeed};
+          txtSimulateNoiseAngle, txtSimulateNoiseSpeed,    txtSimulatePilotLag,      txtSimulateGusts,
+          txtSimulateShifts,     txtSimulateLeeway,        txtSimulateSeed};
 }
 
 }  // namespace veerwatch

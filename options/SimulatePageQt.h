@@ -33,13 +33,19 @@ class SimulatePageQt final : public QWidget {
   void Changed(const std::function<void(QWidget*)>& handler);
 
   /// The boxes whose change leaves something to apply.
-  std::array<OptionEntryQt*, 10> Marking() const;
+  std::array<OptionEntryQt*, 15> Marking() const;
 
   QCheckBox* chkSimulate;
   QGroupBox* frmSimulate;
   QComboBox* cmbSimulateModel;
   QComboBox* cmbSimulatePilot;  ///< used with the model Boat
   QComboBox* cmbSimulateSea;    ///< the same
+  // Used with the model Boat as well.
+  OptionEntryQt* txtSimulatePilotLag;
+  OptionEntryQt* txtSimulateGusts;
+  OptionEntryQt* txtSimulateShifts;
+  OptionEntryQt* txtSimulateLeeway;
+  OptionEntryQt* txtSimulateSeed;
   OptionEntryQt* txtSimulateBoatSpeed;
   OptionEntryQt* txtSimulateTrueWindAngle;
   std::array<QScrollBar*, 2> vscSimulateTrueWindAngle;  ///< coarse, fine

@@ -291,10 +291,7 @@ void frmOptions::ShowHelm() {
 // Where the ports lead
 
 int frmOptions::NumberIn(const PortPageQt& page) {
-  const Converted<float> number = ToOptionSingle(page.Port->text().toStdString());
-  const auto* single = std::get_if<float>(&number);
-  const Converted<std::int16_t> whole =
-      single != nullptr ? ToOptionInteger(*single) : Converted<std::int16_t>(OptionFault::TypeMismatch);
+  const Converted<std::int16_t> whole = ToOptionWhole(page.Port->text().toStdString());
   const auto* port = std::get_if<std::int16_t>(&whole);
   return port != nullptr && *port > 0 ? *port : 0;
 }

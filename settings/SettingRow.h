@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cassert>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "settings/SettingValue.h"
@@ -50,6 +51,17 @@ void SettingsWrite(const SettingTable<Struct>& table, Profile& profile, const St
       row.Value.Write(profile, row.Section, row.Key, all);
     }
   }
+}
+
+/// The row of a key that the table has.
+template <class Struct>
+const SettingRow<Struct>& RowOf(const SettingTable<Struct>& table, std::string_view section,
+                                std::string_view key) {
+  const auto row = std::find_if(table.begin(), table.end(), [&](const SettingRow<Struct>& each) {
+    return each.Section == section && each.Key == key;
+  });
+  assert(row != table.end());
+  return *row;
 }
 
 /// What numbers may be entered for a member that has a row.

@@ -1,6 +1,7 @@
 #include "settings/SettingRule.h"
 
 #include "platform/Angles.h"
+#include "platform/Language.h"
 
 namespace veerwatch {
 
@@ -27,18 +28,18 @@ std::optional<float> Relative(float number) { return FoldRelative(static_cast<do
 
 }  // namespace
 
-constinit const NumberRule kAnyNumber{"any number", Any};
-constinit const NumberRule kFromZero{"0 and above", FromZero};
-constinit const NumberRule kAboveZero{"above 0", AboveZero};
-constinit const NumberRule kAverageCount{"0, or above 0.5", AverageCount};
+constinit const NumberRule kAnyNumber{TrMark("any number"), Any};
+constinit const NumberRule kFromZero{TrMark("0 and above"), FromZero};
+constinit const NumberRule kAboveZero{TrMark("above 0"), AboveZero};
+constinit const NumberRule kAverageCount{TrMark("0, or above 0.5"), AverageCount};
 constinit const NumberRule kLeastApparent{"10 to 60", Between<10, 60>};
 constinit const NumberRule kLargestTrue{"120 to 179", Between<120, 179>};
 constinit const NumberRule kShiftLimit{"5 to 90", Between<5, 90>};
 constinit const NumberRule kShiftTime{"5 to 600", Between<5, 600>};
-constinit const NumberRule kSpeedFactor{"0.5 to 2", SpeedFactor};
+constinit const NumberRule kSpeedFactor{TrMark("0.5 to 2"), SpeedFactor};
 constinit const NumberRule kColour24{"0 to 16777215", Colour24};
 constinit const NumberRule kBearing{"any, folded into [0, 360)", Bearing};
-constinit const NumberRule kRelative{"any, folded into (-180, 180]", Relative};
+constinit const NumberRule kRelative{TrMark("any, folded into (-180, 180]"), Relative};
 
 bool IsAverageCount(float count) { return count == 0.0F || count > 0.5F; }
 

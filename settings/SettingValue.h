@@ -22,6 +22,14 @@
 
 namespace veerwatch {
 
+/// The whole numbers from Least to Most.
+struct WholeRange {
+  std::int16_t Least;
+  std::int16_t Most;
+
+  bool Holds(std::int16_t number) const { return number >= Least && number <= Most; }
+};
+
 template <class Struct>
 struct SettingValue {
   /// Overlays what the profile holds under a key.
@@ -34,6 +42,7 @@ struct SettingValue {
   // Of a number, for entry boxes.
   float Struct::*Member = nullptr;  ///< null for what is no plain number
   NumberRule Rule = kAnyNumber;     ///< what numbers may be entered
+  std::optional<WholeRange> Whole;  ///< what a whole number can be
 };
 
 namespace setting {
@@ -128,6 +137,7 @@ SettingValue<StructOf<Where>> Whole(Where where, std::int16_t least, std::int16_
   using Item = ItemOf<Where>;
   SettingValue<Struct> value;
   value.Range = std::to_string(least) + " to " + std::to_string(most);
+  value.Whole = WholeRange{least, most};
   value.Read = [=](const Profile& profile, std::string_view section, std::string_view key, Struct& all) {
     auto number = static_cast<std::int16_t>(At(all, where));
     profile.ProfileGet(section, key, number, least, most);

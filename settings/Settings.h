@@ -89,6 +89,7 @@ struct Settings {
   float m_fSimulateShifts = 4.0F;  ///< standard deviation of the wind's direction [deg], at least 0
   float m_fSimulateLeeway = 4.0F;  ///< the most that she makes, at 45 degrees [deg], at least 0
   Sea m_eSimulateSea = Sea::Slight;
+  std::int16_t m_iSimulateSeed = 0;  ///< of her wind, sea and noise, at least 0; 0 another one at each start
 
   // Tracking.
   bool m_bTrackAlarm = true;        ///< alarm on a wind angle that runs away

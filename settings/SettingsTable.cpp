@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 namespace {
@@ -22,6 +24,15 @@ constexpr const char* kWindMenu = "Options > Wind";
 constexpr const char* kMainWindow = "main window";
 constexpr const char* kViewMenu = "View menu";
 constexpr const char* kProfile = "the profile alone";
+
+constexpr const char* kSeconds = TrMark("s");
+constexpr const char* kDegrees = TrMark("deg");
+constexpr const char* kDegreesTrue = TrMark("deg true");
+constexpr const char* kDegreesMagnetic = TrMark("deg magnetic");
+constexpr const char* kKnots = TrMark("kn");
+constexpr const char* kMiles = TrMark("nm");
+constexpr const char* kSamples = TrMark("samples");
+constexpr const char* kPercent = "%";
 
 constexpr std::int16_t kLastSource = 1;
 constexpr std::int16_t kFirstPort = 1;
@@ -67,18 +78,18 @@ SettingTable<S> Nmea() {
        "whether a line that begins with ! is an error, or is only listed", kData},
       {section, "True Wind", Choice(&S::m_iNmeaTrueWind, kLastSource), "",
        "0 from a sensor, 1 computed from the boat speed", kData},
-      {section, "True Wind Average", Number(&S::m_fNmeaTrueWindAverage, kAverageCount), "samples",
+      {section, "True Wind Average", Number(&S::m_fNmeaTrueWindAverage, kAverageCount), kSamples,
        "averaging count of the record, 0 for none", kData},
-      {section, "Wind Indicator Average", Number(&S::m_fNmeaWindIndicatorAverage, kAverageCount), "samples",
+      {section, "Wind Indicator Average", Number(&S::m_fNmeaWindIndicatorAverage, kAverageCount), kSamples,
        "averaging count of the wind in the window's title; written and never read", kData,
        SettingUse::WrittenOnly},
-      {section, "Wind Offset", Number(&S::m_fNmeaWindOffset, kRelative), "deg",
+      {section, "Wind Offset", Number(&S::m_fNmeaWindOffset, kRelative), kDegrees,
        "added to the wind's angle that comes in: what it shows too little while motoring straight into the "
        "wind",
        kData},
       {section, "Boat Speed Factor", Number(&S::m_fNmeaBoatSpeedFactor, kSpeedFactor), "",
        "times the speed through the water that comes in", kData},
-      {section, "Heading Offset", Number(&S::m_fNmeaHeadingOffset, kRelative), "deg",
+      {section, "Heading Offset", Number(&S::m_fNmeaHeadingOffset, kRelative), kDegrees,
        "added to the compass heading that comes in", kData},
   };
 }
@@ -88,7 +99,7 @@ SettingTable<S> Pilot() {
   return {
       {"Pilot", "Port", Whole(&S::m_iPilotPort, kFirstPort, INT16_MAX), "",
        "number of the pilot port; the same as the instruments': one port both ways", kOutput},
-      {"Pilot", "Bearing", Number(&S::m_fAutoPilot, kBearing), "deg magnetic", "autopilot bearing",
+      {"Pilot", "Bearing", Number(&S::m_fAutoPilot, kBearing), kDegreesMagnetic, "autopilot bearing",
        kMainWindow},
       {"Pilot", "Profile", Named(&S::m_ePilotProfile, NamesOf(kPilotProfiles)), "", "what the pilot is sent",
        kOutput},
@@ -96,7 +107,7 @@ SettingTable<S> Pilot() {
        "how often the bearing is sent, also between two winds; 0: with each wind", kOutput},
       {"Pilot", "Invalid When Lost", Truth(&S::m_bPilotInvalidWhenLost), "",
        "when no bearing is good the pilot is sent the status V for a while; otherwise nothing", kOutput},
-      {"Pilot", "Invalid Seconds", Number(&S::m_fPilotInvalidSeconds, kAboveZero), "s",
+      {"Pilot", "Invalid Seconds", Number(&S::m_fPilotInvalidSeconds, kAboveZero), kSeconds,
        "with Invalid When Lost: for how long, before nothing is sent", kOutput},
       {"Pilot", "Own Talker", Text(&S::m_sPilotOwnTalker, kTalker), "",
        "with the profile Own: what its sentences begin with", kOutput},
@@ -120,37 +131,41 @@ SettingTable<S> Simulate() {
   const char* section = "Simulate";
   return {
       {section, "Nmea", Truth(&S::m_bSimulate), "", "simulate instead of the instrument port", kSimulate},
-      {section, "Boat Speed", Number(&S::m_fSimulateBoatSpeed, kAnyNumber), "kn", "the boat's speed",
+      {section, "Boat Speed", Number(&S::m_fSimulateBoatSpeed, kAnyNumber), kKnots, "the boat's speed",
        kSimulate},
-      {section, "Compass Offset", Number(&S::m_fSimulateCompassOffset, kAnyNumber), "deg",
+      {section, "Compass Offset", Number(&S::m_fSimulateCompassOffset, kAnyNumber), kDegrees,
        "what the compass shows more than the autopilot was told", kSimulate},
-      {section, "Noise Angle", Number(&S::m_fSimulateNoiseAngle, kAnyNumber), "deg",
+      {section, "Noise Angle", Number(&S::m_fSimulateNoiseAngle, kAnyNumber), kDegrees,
        "full width of the angles' noise", kSimulate},
-      {section, "Noise Speed", Number(&S::m_fSimulateNoiseSpeed, kAnyNumber), "kn",
+      {section, "Noise Speed", Number(&S::m_fSimulateNoiseSpeed, kAnyNumber), kKnots,
        "full width of the speeds' noise", kSimulate},
-      {section, "True Wind Angle", Number(&S::m_fSimulateTrueWindAngle, kAnyNumber), "deg true",
+      {section, "True Wind Angle", Number(&S::m_fSimulateTrueWindAngle, kAnyNumber), kDegreesTrue,
        "direction that the wind blows from", kSimulate},
-      {section, "True Wind Speed", Number(&S::m_fSimulateTrueWindSpeed, kAnyNumber), "kn",
+      {section, "True Wind Speed", Number(&S::m_fSimulateTrueWindSpeed, kAnyNumber), kKnots,
        "speed of the true wind", kSimulate},
-      {section, "Variation", Number(&S::m_fSimulateVariation, kAnyNumber), "deg",
+      {section, "Variation", Number(&S::m_fSimulateVariation, kAnyNumber), kDegrees,
        "magnetic variation, east positive", kSimulate},
-      {section, "Waypoint Bearing", Number(&S::m_fSimulateWaypointBearing, kAnyNumber), "deg magnetic",
+      {section, "Waypoint Bearing", Number(&S::m_fSimulateWaypointBearing, kAnyNumber), kDegreesMagnetic,
        "bearing of the waypoint from where the boat starts", kSimulate},
-      {section, "Waypoint Range", Number(&S::m_fSimulateWaypointRange, kAnyNumber), "nm",
+      {section, "Waypoint Range", Number(&S::m_fSimulateWaypointRange, kAnyNumber), kMiles,
        "range of the waypoint from where the boat starts", kSimulate},
       {section, "Model", Named(&S::m_eSimulateModel, NamesOf(kSimulateModels)), "",
        "which boat: one that lies on the bearing at once, or one with hull, pilot, sea and gusts", kSimulate},
       {section, "Pilot", Named(&S::m_eSimulatePilot, NamesOf(kPilotReadsNames)), "",
        "with the model Boat: the sentences that her pilot reads", kSimulate},
-      {section, "Pilot Lag", Number(&S::m_fSimulatePilotLag, kFromZero), "s",
-       "with the model Boat: time constant with which her pilot takes up a bearing", kProfile},
-      {section, "Gusts", Number(&S::m_fSimulateGusts, kFromZero), "%",
-       "with the model Boat: standard deviation of the wind's speed", kProfile},
-      {section, "Shifts", Number(&S::m_fSimulateShifts, kFromZero), "deg",
-       "with the model Boat: standard deviation of the wind's direction", kProfile},
-      {section, "Leeway", Number(&S::m_fSimulateLeeway, kFromZero), "deg",
-       "with the model Boat: the most leeway, at 45 degrees off the true wind", kProfile},
+      {section, "Pilot Lag", Number(&S::m_fSimulatePilotLag, kFromZero), kSeconds,
+       "with the model Boat: time constant with which her pilot takes up a bearing", kSimulate},
+      {section, "Gusts", Number(&S::m_fSimulateGusts, kFromZero), kPercent,
+       "with the model Boat: standard deviation of the wind's speed", kSimulate},
+      {section, "Shifts", Number(&S::m_fSimulateShifts, kFromZero), kDegrees,
+       "with the model Boat: standard deviation of the wind's direction", kSimulate},
+      {section, "Leeway", Number(&S::m_fSimulateLeeway, kFromZero), kDegrees,
+       "with the model Boat: the most leeway, at 45 degrees off the true wind", kSimulate},
       {section, "Sea", Named(&S::m_eSimulateSea, NamesOf(kSeaNames)), "", "with the model Boat: the sea",
+       kSimulate},
+      {section, "Seed", Whole(&S::m_iSimulateSeed, 0, INT16_MAX), "",
+       "with the model Boat: the same number brings the same gusts, shifts, sea and noise again; 0 brings "
+       "others at each start",
        kSimulate},
   };
 }
@@ -159,26 +174,26 @@ SettingTable<S> Track() {
   const char* section = "Track";
   return {
       {section, "Alarm", Truth(&S::m_bTrackAlarm), "", "alarm on a wind angle that runs away", kTracking},
-      {section, "Alarm Limit", Number(&S::m_fTrackAlarmLimit, kFromZero), "deg",
+      {section, "Alarm Limit", Number(&S::m_fTrackAlarmLimit, kFromZero), kDegrees,
        "the error that the alarm goes off beyond", kTracking},
-      {section, "Bandwidth", Number(&S::m_fTrackBandwidth, kAboveZero), "s", "time constant of the loop",
+      {section, "Bandwidth", Number(&S::m_fTrackBandwidth, kAboveZero), kSeconds, "time constant of the loop",
        kTracking},
       {section, "Damping", Number(&S::m_fTrackDamping, kFromZero, kAnyNumber), "",
        "damping ratio of the loop", kTracking},
-      {section, "Desired 1", Number(Element{&S::DesiredAngle, 1}, kRelative), "deg",
+      {section, "Desired 1", Number(Element{&S::DesiredAngle, 1}, kRelative), kDegrees,
        "desired apparent wind angle", kMainWindow},
-      {section, "Desired 2", Number(Element{&S::DesiredAngle, 2}, kRelative), "deg",
+      {section, "Desired 2", Number(Element{&S::DesiredAngle, 2}, kRelative), kDegrees,
        "desired true wind angle", kMainWindow},
-      {section, "Max SteerTo", Number(&S::m_fTrackMaxSteerTo, kAnyNumber), "deg",
+      {section, "Max SteerTo", Number(&S::m_fTrackMaxSteerTo, kAnyNumber), kDegrees,
        "largest steering change without a question", kTracking},
       {section, "Method", Named(&S::m_eTrackMethod, {"Sentence", "Clock", "Direction"}), "",
        "the law of the loop: counted by wind sentences, by the clock, or by the direction of the true wind",
        kTracking},
-      {section, "Max Ahead", Number(&S::m_fTrackMaxAhead, kAboveZero), "deg",
+      {section, "Max Ahead", Number(&S::m_fTrackMaxAhead, kAboveZero), kDegrees,
        "how far the bearing may be from the heading, but for the method Sentence", kProfile},
       {section, "Max Rate", Number(&S::m_fTrackMaxRate, kAboveZero), "deg/s",
        "how fast the bearing may change, but for the method Sentence", kProfile},
-      {section, "Alarm Average", Number(&S::m_fTrackAlarmAverage, kFromZero), "s",
+      {section, "Alarm Average", Number(&S::m_fTrackAlarmAverage, kFromZero), kSeconds,
        "what the alarm averages the error over, 0 for nothing", kTracking},
   };
 }
@@ -195,7 +210,8 @@ SettingTable<S> Watch() {
       {section, "Sound", Named(&S::m_eWatchSound, {"Beep", "Tone"}), "",
        "how an alarm is heard: the desktop's beep at each step, or tones by level until somebody answers",
        kWatch},
-      {section, "Alarm Command", OptionalText(&S::m_sWatchCommand, "a program with its arguments"), "",
+      {section, "Alarm Command", OptionalText(&S::m_sWatchCommand, TrMark("a program with its arguments")),
+       "",
        "started with the alarm's text as one more argument each time that an alarm is heard, one at a time "
        "and without "
        "a shell; empty for none",
@@ -206,11 +222,12 @@ SettingTable<S> Watch() {
        "the boat speed is on the wire; otherwise it is not missed", kWatch},
       {section, "Compass Fitted", Truth(&S::m_bWatchCompassFitted), "",
        "the heading is on the wire; otherwise it is not missed", kWatch},
-      {section, "Stale Apparent Wind", Number(&S::m_fWatchStaleWindApparent, kAboveZero), "s", stale, kWatch},
-      {section, "Stale True Wind", Number(&S::m_fWatchStaleWindTrue, kAboveZero), "s", stale, kWatch},
-      {section, "Stale Boat Speed", Number(&S::m_fWatchStaleBoatSpeed, kAboveZero), "s", stale, kWatch},
-      {section, "Stale Heading", Number(&S::m_fWatchStaleHeading, kAboveZero), "s", stale, kWatch},
-      {section, "Stale Waypoint", Number(&S::m_fWatchStaleWaypoint, kAboveZero), "s", stale, kWatch},
+      {section, "Stale Apparent Wind", Number(&S::m_fWatchStaleWindApparent, kAboveZero), kSeconds, stale,
+       kWatch},
+      {section, "Stale True Wind", Number(&S::m_fWatchStaleWindTrue, kAboveZero), kSeconds, stale, kWatch},
+      {section, "Stale Boat Speed", Number(&S::m_fWatchStaleBoatSpeed, kAboveZero), kSeconds, stale, kWatch},
+      {section, "Stale Heading", Number(&S::m_fWatchStaleHeading, kAboveZero), kSeconds, stale, kWatch},
+      {section, "Stale Waypoint", Number(&S::m_fWatchStaleWaypoint, kAboveZero), kSeconds, stale, kWatch},
   };
 }
 
@@ -219,16 +236,16 @@ SettingTable<S> Wind() {
   return {
       {section, "Angle Guard", Truth(&S::m_bWindGuard), "",
        "Track keeps the boat from pinching and from an accidental gybe", kWindMenu},
-      {section, "Least Apparent", Number(&S::m_fWindLeastApparent, kLeastApparent), "deg",
+      {section, "Least Apparent", Number(&S::m_fWindLeastApparent, kLeastApparent), kDegrees,
        "the guard brings the boat no closer to the apparent wind", kWindMenu},
-      {section, "Largest True", Number(&S::m_fWindLargestTrue, kLargestTrue), "deg",
+      {section, "Largest True", Number(&S::m_fWindLargestTrue, kLargestTrue), kDegrees,
        "the guard brings the boat no further from the true wind", kWindMenu},
       {section, "Shift Alarm", Truth(&S::m_bWindShift), "",
        "a lasting shift of the true wind since the angle was set is told", kWindMenu},
-      {section, "Shift Limit", Number(&S::m_fWindShiftLimit, kShiftLimit), "deg",
+      {section, "Shift Limit", Number(&S::m_fWindShiftLimit, kShiftLimit), kDegrees,
        "a smaller shift is not told", kWindMenu},
-      {section, "Shift Lasts", Number(&S::m_fWindShiftTime, kShiftTime), "s", "a shorter shift is not told",
-       kWindMenu},
+      {section, "Shift Lasts", Number(&S::m_fWindShiftTime, kShiftTime), kSeconds,
+       "a shorter shift is not told", kWindMenu},
       {section, "Side By Itself", Truth(&S::m_bWindSide), "",
        "Track holds the apparent wind below 70 degrees of true wind angle and the true one beyond 80",
        kWindMenu},

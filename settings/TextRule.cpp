@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 namespace {
@@ -25,9 +27,9 @@ bool BeginsPoint(std::string_view text) {
 }  // namespace
 
 constinit const TextRule kTalker{
-    "two letters, the first of them no P", kTalkerLetters, BeginsTalker,
+    TrMark("two letters, the first of them no P"), kTalkerLetters, BeginsTalker,
     [](std::string_view text) { return text.size() == kTalkerLetters && BeginsTalker(text); }};
-constinit const TextRule kPointName{"1 to 6 letters and digits", kPointLetters, BeginsPoint,
+constinit const TextRule kPointName{TrMark("1 to 6 letters and digits"), kPointLetters, BeginsPoint,
                                     [](std::string_view text) { return !text.empty() && BeginsPoint(text); }};
 
 }  // namespace veerwatch

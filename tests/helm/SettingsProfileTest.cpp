@@ -93,6 +93,7 @@ constexpr Key kKeys[] = {{"Nmea", "Boat Speed", "1", "0"},
                          {"Simulate", "Shifts", "4", "7.5"},
                          {"Simulate", "Leeway", "4", "3"},
                          {"Simulate", "Sea", "Slight", "Head"},
+                         {"Simulate", "Seed", "0", "17"},
                          {"Track", "Alarm", "True", "False"},
                          {"Track", "Alarm Limit", "5", "7.5"},
                          {"Track", "Bandwidth", "20", "25.5"},
@@ -362,7 +363,7 @@ TEST(SettingsProfile, AFreshProfileHasEveryKeyInItsOrder) {
       "[Simulate]\nNmea=False\nBoat Speed=8\nCompass Offset=10\nNoise Angle=4\nNoise Speed=2\n"
       "True Wind Angle=0\nTrue Wind Speed=12\nVariation=11\nWaypoint Bearing=5\n"
       "Waypoint Range=10\nModel=Steady\nPilot=All\nPilot Lag=4\nGusts=10\nShifts=4\nLeeway=4\n"
-      "Sea=Slight\n\n"
+      "Sea=Slight\nSeed=0\n\n"
       "[Track]\nAlarm=True\nAlarm Limit=5\nBandwidth=20\nDamping=4\nDesired 1=45\n"
       "Desired 2=92\nMax SteerTo=10\nMethod=Sentence\nMax Ahead=30\nMax Rate=3\nAlarm Average=0\n\n"
       "[Watch]\nAct=False\nKeep Sending=False\nHeading Up=False\nSound=Beep\nAlarm Command=\nBlank "

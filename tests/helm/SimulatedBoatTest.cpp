@@ -200,13 +200,14 @@ TEST_F(SimulatedBoatTest, SailsWhateverTheSettingsHold) {
   }
 }
 
-/// Headings of a minute with the seed `seed`.
-std::string Passage(std::uint64_t seed) {
+/// Headings of a minute with the random numbers `numbers` and the seed `seed` of the settings.
+std::string Passage(std::uint64_t numbers, std::int16_t seed = 0) {
   Settings settings;
+  settings.m_iSimulateSeed = seed;
   settings.m_bSimulate = true;
   settings.m_eSimulateModel = SimulateModel::Boat;
   InstrumentRecord record(settings);
-  SeededRandom random(seed);
+  SeededRandom random(numbers);
   SimulatedBoat boat(settings, record, random);
   std::string all;
   for (int second = 0; second < 60; ++second) {
@@ -220,6 +221,48 @@ std::string Passage(std::uint64_t seed) {
 TEST(SimulatedBoat, TheSameSeedSailsTheSame) {
   EXPECT_EQ(Passage(1), Passage(1));
   EXPECT_NE(Passage(1), Passage(2));
+}
+
+TEST(SimulatedBoat, ASeedOfTheSettingsBringsTheSameGustsAtEachStart) {
+  EXPECT_EQ(Passage(1, 7), Passage(2, 7));
+  EXPECT_NE(Passage(1, 7), Passage(1, 8));
+  EXPECT_NE(Passage(1, 7), Passage(1, 0));
+}
+
+TEST(SimulatedBoat, TheWindOfASeedIsTheSameHoweverSheIsSteered) {
+  Settings settings;
+  settings.m_fSimulateTrueWindSpeed = 15.0F;
+  BoatModel straight(SimulatedBoatOf(settings), 40.0, 7);
+  BoatModel turned(SimulatedBoatOf(settings), 40.0, 7);
+  turned.Steer({PilotOrder::What::Bearing, 90.0});
+  for (int tick = 0; tick < 2400; ++tick) {
+    straight.Tick();
+    turned.Tick();
+    ASSERT_EQ(straight.State().WindSpeed, turned.State().WindSpeed) << tick;
+    ASSERT_EQ(straight.State().WindFrom, turned.State().WindFrom) << tick;
+  }
+  EXPECT_GT(std::fabs(Between(straight.State().Heading, turned.State().Heading)), 30.0);
+}
+
+/// Wind speeds of a minute after the input started.
+std::string Gusts(Helm& helm, HandClock& clock, HandTimer& timer) {
+  helm.Modes().TrackSetOff();
+  helm.Modes().TrackSetSetup();
+  std::string all;
+  for (int second = 0; second < 60; ++second) {
+    clock.Pass(1000);
+    timer.Tick();
+    all += std::to_string(helm.Data().WindSpeedApparent) + "\n";
+  }
+  return all;
+}
+
+TEST_F(SimulatedBoatTest, TheGustsOfASeedComeAgainAfterOff) {
+  m_settings.m_iSimulateSeed = 3;
+  const std::string first = Gusts(m_helm, m_clock, m_timer);
+  EXPECT_EQ(Gusts(m_helm, m_clock, m_timer), first);
+  m_settings.m_iSimulateSeed = 0;
+  EXPECT_NE(Gusts(m_helm, m_clock, m_timer), first);
 }
 
 }  // namespace

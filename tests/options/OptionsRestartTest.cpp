@@ -97,6 +97,29 @@ TEST_F(OptionsRestarting, AnotherBoatIsBegunBetweenOffAndSetupWhileSheSails) {
   EXPECT_THAT(Main.Calls, IsEmpty());
 }
 
+TEST_F(OptionsRestarting, AnotherSeedBeginsTheBoatWithHullAndPilotAnew) {
+  OptionsForm form = OptionsFormOf(Main);
+  form.Simulate = Main.m_bSimulate = true;
+  form.SimulateSeed = "7";
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.Calls, IsEmpty()) << "the steady boat has none";
+  form.SimulateModel = 1;
+  Main.m_eSimulateModel = SimulateModel::Boat;
+  form.SimulateSeed = "8";
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_EQ(Main.m_iSimulateSeed, 8);
+  EXPECT_THAT(Main.Calls, ElementsAre("Off 5 5 simulating", "Setup 5 5 simulating"));
+  Main.Calls.clear();
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  form.SimulateSeed = "x";
+  EXPECT_NE(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.Calls, IsEmpty());
+  Main.m_bSimulate = form.Simulate = false;
+  form.SimulateSeed = "9";
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_THAT(Main.Calls, IsEmpty()) << "nothing is simulated";
+}
+
 TEST_F(OptionsRestarting, ATimeThatDiffersMovesTheBoat) {
   OptionsForm form = OptionsFormOf(Main);
   form.SimulateTime = "1:30";

@@ -6,6 +6,8 @@
 #include <cmath>
 #include <functional>
 #include <map>
+#include <string>
+#include <utility>
 
 #include "settings/SettingsTable.h"
 #include "tests/support/FakeMainWindow.h"
@@ -53,6 +55,11 @@ OptionsForm OtherForm() {
   form.SimulateVariation = "-3";
   form.SimulateWaypointBrg = "268";
   form.SimulateWaypointRng = "12.5";
+  form.SimulatePilotLag = "2.5";
+  form.SimulateGusts = "20";
+  form.SimulateShifts = "7.5";
+  form.SimulateLeeway = "3";
+  form.SimulateSeed = "17";
   form.TrackAlarm = false;
   form.TrackAlarmLimit = "8";
   form.TrackBandwidth = "25";
@@ -95,7 +102,9 @@ class OptionsStoring : public testing::Test {
            Main.m_fSimulateNoiseAngle == 1.5F && Main.m_fSimulateNoiseSpeed == 0.5F &&
            Main.m_fSimulateTime == 2.25F && Main.m_fSimulateTrueWindAngle == 215.0F &&
            Main.m_fSimulateTrueWindSpeed == 17.5F && Main.m_fSimulateVariation == -3.0F &&
-           Main.m_fSimulateWaypointBearing == 268.0F && Main.m_fSimulateWaypointRange == 12.5F;
+           Main.m_fSimulateWaypointBearing == 268.0F && Main.m_fSimulateWaypointRange == 12.5F &&
+           Main.m_fSimulatePilotLag == 2.5F && Main.m_fSimulateGusts == 20.0F &&
+           Main.m_fSimulateShifts == 7.5F && Main.m_fSimulateLeeway == 3.0F && Main.m_iSimulateSeed == 17;
   }
   bool TrackingStored() const {
     return !Main.m_bTrackAlarm && Main.m_fTrackAlarmLimit == 8.0F && Main.m_fTrackBandwidth == 25.0F &&
@@ -266,6 +275,23 @@ TEST_F(OptionsStoring, KeepsWhatAGroupStoredBeforeItFailed) {
   EXPECT_EQ(Main.m_fSimulateTime, 0.0F);
 }
 
+TEST_F(OptionsStoring, ASeedThatIsNoneKeepsTheOneBefore) {
+  Main.m_iSimulateSeed = 5;
+  for (const auto& [typed, fault] :
+       {std::pair{"x", "Type mismatch"}, std::pair{"", "Type mismatch"}, std::pair{"32768", "Overflow"},
+        std::pair{"-1", "Invalid property value"}}) {
+    OptionsForm form = OtherForm();
+    form.SimulateSeed = typed;
+    EXPECT_EQ(Store.Store(form), "Simulate Options Problem " + std::string(fault) + ": Seed") << typed;
+    EXPECT_EQ(Main.m_iSimulateSeed, 5) << typed;
+    EXPECT_EQ(Main.m_fSimulateLeeway, 3.0F) << "what stands in front of it is stored";
+  }
+  OptionsForm form = OtherForm();
+  form.SimulateSeed = "32767";
+  EXPECT_EQ(Store.Store(form), std::nullopt);
+  EXPECT_EQ(OptionsFormOf(Main).SimulateSeed, "32767");
+}
+
 TEST_F(OptionsStoring, StoresTheTrueWindAverageBeforeTheOther) {
   OptionsForm form = OtherForm();
   form.NmeaWindIndicatorAverage = "";
@@ -322,6 +348,14 @@ const std::vector<OrderedText>& OrderedTexts() {
        [](const Settings& main) { return main.m_fSimulateWaypointBearing == 268.0F; }},
       {"Simulate", "Waypoint Range", &OptionsForm::SimulateWaypointRng,
        [](const Settings& main) { return main.m_fSimulateWaypointRange == 12.5F; }},
+      {"Simulate", "Pilot Lag", &OptionsForm::SimulatePilotLag,
+       [](const Settings& main) { return main.m_fSimulatePilotLag == 2.5F; }},
+      {"Simulate", "Gusts", &OptionsForm::SimulateGusts,
+       [](const Settings& main) { return main.m_fSimulateGusts == 20.0F; }},
+      {"Simulate", "Shifts", &OptionsForm::SimulateShifts,
+       [](const Settings& main) { return main.m_fSimulateShifts == 7.5F; }},
+      {"Simulate", "Leeway", &OptionsForm::SimulateLeeway,
+       [](const Settings& main) { return main.m_fSimulateLeeway == 3.0F; }},
       {"Tracking", "Alarm Limit", &OptionsForm::TrackAlarmLimit,
        [](const Settings& main) { return main.m_fTrackAlarmLimit == 8.0F; }},
       {"Tracking", "Bandwidth", &OptionsForm::TrackBandwidth,
@@ -364,7 +398,7 @@ TEST_F(OptionsStoring, StoresTheTextsInTheirOrderUpToTheOneThatFails) {
     EXPECT_EQ(main.m_iNmeaTrueWind, 0) << failing;
     EXPECT_FALSE(main.m_bNmeaSentenceVTG) << failing;
     EXPECT_EQ(main.m_bSimulate, failing >= 7) << failing;
-    EXPECT_EQ(main.m_bTrackAlarm, failing < 17) << failing;
+    EXPECT_EQ(main.m_bTrackAlarm, failing < 21) << failing;
   }
 }
 
@@ -398,6 +432,9 @@ TEST_F(OptionsStoring, RefusesWhatTheLoopCannotWorkWith) {
       {"Data", "Boat Speed Factor", &OptionsForm::NmeaBoatSpeedFactor, "2.01"},
       {"Input", "Comm", &OptionsForm::NmeaPort, "0"},
       {"Output", "Comm", &OptionsForm::PilotPort, "-3"},
+      {"Simulate", "Pilot Lag", &OptionsForm::SimulatePilotLag, "-1"},
+      {"Simulate", "Gusts", &OptionsForm::SimulateGusts, "-0.1"},
+      {"Simulate", "Seed", &OptionsForm::SimulateSeed, "-1"},
       {"Tracking", "Alarm Limit", &OptionsForm::TrackAlarmLimit, "-1"},
       {"Tracking", "Bandwidth", &OptionsForm::TrackBandwidth, "0"},
       {"Tracking", "Bandwidth", &OptionsForm::TrackBandwidth, "-5"},

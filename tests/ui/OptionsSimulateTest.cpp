@@ -1,5 +1,6 @@
 // The Simulate tab: its frame, its boxes and its spinners.
 
+#include <QComboBox>
 #include <QGroupBox>
 #include <QScrollBar>
 #include <QStyle>
@@ -85,6 +86,59 @@ TEST_F(OptionsSimulate, TheTimeSpinnerShowsTheWaypointOfThatTime) {
   EXPECT_EQ(Text("lblSimulateWaypointRng"), "3.0");
   Spin("vscSimulateTrueWindAngle(0)", true);
   EXPECT_EQ(Main.SimulateTimes.size(), 1U);
+}
+
+TEST_F(OptionsSimulate, WhatTheSteadyBoatHasNotIsGreyWithHer) {
+  Main.m_bSimulate = true;
+  Start(frmOptions::Simulate);
+  const std::vector<std::string> names{"txtSimulatePilotLag", "txtSimulateGusts", "txtSimulateShifts",
+                                       "txtSimulateLeeway", "txtSimulateSeed"};
+  for (const std::string& name : names) {
+    EXPECT_FALSE(Find<QLineEdit>(name).isEnabled()) << name;
+  }
+  Find<QComboBox>("cmbSimulateModel").setCurrentIndex(static_cast<int>(SimulateModel::Boat));
+  for (const std::string& name : names) {
+    EXPECT_TRUE(Find<QLineEdit>(name).isEnabled()) << name;
+  }
+}
+
+TEST_F(OptionsSimulate, TheBoatsOwnNumbersAreTakenByApply) {
+  Main.m_bSimulate = true;
+  Main.m_eSimulateModel = SimulateModel::Boat;
+  Start(frmOptions::Simulate);
+  EXPECT_EQ(Entry("txtSimulatePilotLag"), "4");
+  EXPECT_EQ(Entry("txtSimulateGusts"), "10");
+  EXPECT_EQ(Entry("txtSimulateSeed"), "0");
+  Type("txtSimulatePilotLag", "6");
+  EXPECT_TRUE(Bold());
+  Type("txtSimulateGusts", "15");
+  Type("txtSimulateShifts", "8");
+  Type("txtSimulateLeeway", "5");
+  Type("txtSimulateSeed", "12");
+  Click("cmdApply");
+  EXPECT_FALSE(Bold());
+  EXPECT_EQ(Main.m_fSimulatePilotLag, 6.0F);
+  EXPECT_EQ(Main.m_fSimulateGusts, 15.0F);
+  EXPECT_EQ(Main.m_fSimulateShifts, 8.0F);
+  EXPECT_EQ(Main.m_fSimulateLeeway, 5.0F);
+  EXPECT_EQ(Main.m_iSimulateSeed, 12);
+  Type("txtSimulateGusts", "-1");
+  Click("cmdApply");
+  ASSERT_EQ(Dialogs.Messages.size(), 1U);
+  EXPECT_EQ(Dialogs.Messages[0].Text, "Simulate Options Problem Invalid property value: Gusts");
+  EXPECT_EQ(Main.m_fSimulateGusts, 15.0F);
+}
+
+TEST_F(OptionsSimulate, TabLeadsThroughTheBoatAsSheStandsThere) {
+  Main.m_bSimulate = true;
+  Main.m_eSimulateModel = SimulateModel::Boat;
+  Start(frmOptions::Simulate);
+  Find<QWidget>("chkSimulateAutoApply").setFocus();
+  for (const char* name : {"cmbSimulateModel", "cmbSimulatePilot", "cmbSimulateSea", "txtSimulatePilotLag",
+                           "txtSimulateLeeway", "txtSimulateGusts", "txtSimulateShifts", "txtSimulateSeed"}) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), name);
+  }
 }
 
 TEST_F(OptionsSimulate, AutoApplyAppliesEveryStep) {
