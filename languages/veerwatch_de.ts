@@ -4755,5 +4755,373 @@ Den Faktor auf 1 setzen?</translation>
         <source>1 to 6 letters and digits</source>
         <translation>1 bis 6 Buchstaben und Ziffern</translation>
     </message>
+    <message>
+        <source>Where the true wind comes from</source>
+        <translation>Woher der wahre Wind kommt</translation>
+    </message>
+    <message>
+        <source>Where the heading comes from</source>
+        <translation>Woher der Steuerkurs kommt</translation>
+    </message>
+    <message>
+        <source>Where the boat speed comes from</source>
+        <translation>Woher die Fahrt kommt</translation>
+    </message>
+    <message>
+        <source>Press it on a new boat, and after an adapter was changed.</source>
+        <translation>Drücken auf einem neuen Boot und nach dem Tausch eines Adapters.</translation>
+    </message>
+    <message>
+        <source>Leave it so unless you want to see the lines.</source>
+        <translation>So lassen, außer man will die Zeilen sehen.</translation>
+    </message>
+    <message>
+        <source>Tick it to read lines that run by.</source>
+        <translation>Ankreuzen, um vorbeilaufende Zeilen zu lesen.</translation>
+    </message>
+    <message>
+        <source>Press it to send the lines to somebody who can help.</source>
+        <translation>Drücken, um die Zeilen jemandem zu schicken, der helfen kann.</translation>
+    </message>
+    <message>
+        <source>For a pilot that still asks for a waypoint with APB and RMB.</source>
+        <translation>Für einen Piloten, der auch mit APB und RMB nach einem Wegpunkt fragt.</translation>
+    </message>
+    <message>
+        <source>Further off when the line leaves the plot; closer to see more of it.</source>
+        <translation>Weiter, wenn die Linie das Bild verlässt; enger, um mehr davon zu sehen.</translation>
+    </message>
+    <message>
+        <source>Change it to let the wind shift.</source>
+        <translation>Ändern, um den Wind drehen zu lassen.</translation>
+    </message>
+    <message>
+        <source>As the passage that you want to try.</source>
+        <translation>Wie die Strecke, die man probieren will.</translation>
+    </message>
+    <message>
+        <source>To come closer to the waypoint without waiting, with the steady boat.</source>
+        <translation>Um dem Wegpunkt ohne Warten näher zu kommen, mit dem stetigen Boot.</translation>
+    </message>
+    <message>
+        <source>Longer where the instrument sends it less often.</source>
+        <translation>Länger, wo das Instrument ihn seltener sendet.</translation>
+    </message>
+    <message>
+        <source>Another one when the instruments come in elsewhere; equal to the pilot&apos;s for one port both ways.</source>
+        <translation>Ein anderer, wenn die Instrumente woanders ankommen; der des Piloten für einen Anschluss in beide Richtungen.</translation>
+    </message>
+    <message>
+        <source>Choose it when a figure stays blank, to see what comes in.</source>
+        <translation>Wählen, wenn eine Zahl leer bleibt, um zu sehen, was ankommt.</translation>
+    </message>
+    <message>
+        <source>Choose it to see every line.</source>
+        <translation>Wählen, um jede Zeile zu sehen.</translation>
+    </message>
+    <message>
+        <source>Choose it to see what failed, and why.</source>
+        <translation>Wählen, um zu sehen, was nicht gelesen wurde, und warum.</translation>
+    </message>
+    <message>
+        <source>Choose a type when one instrument is to be looked at.</source>
+        <translation>Eine Art wählen, um ein einzelnes Instrument anzusehen.</translation>
+    </message>
+    <message>
+        <source>The sensor where the instruments send a true wind that you trust; otherwise computed.</source>
+        <translation>Der Sensor, wenn die Instrumente einen wahren Wind senden, dem man traut; sonst errechnet.</translation>
+    </message>
+    <message>
+        <source>The compass where HDG or a magnetic VHW comes; otherwise the course.</source>
+        <translation>Der Kompass, wenn HDG oder ein missweisender VHW kommt; sonst der Kurs.</translation>
+    </message>
+    <message>
+        <source>Over water where a log sends VHW; otherwise over ground.</source>
+        <translation>Durchs Wasser, wenn eine Logge VHW sendet; sonst über Grund.</translation>
+    </message>
+    <message>
+        <source>Larger when wind, heading and speed jump about; smaller when they come late.</source>
+        <translation>Größer, wenn Wind, Steuerkurs und Fahrt springen; kleiner, wenn sie spät kommen.</translation>
+    </message>
+    <message>
+        <source>Larger when the wind in the window&apos;s title jumps about.</source>
+        <translation>Größer, wenn der Wind im Titel des Fensters springt.</translation>
+    </message>
+    <message>
+        <source>Require on a wire with disturbances, if every instrument sends a checksum.</source>
+        <translation>„Verlangt“ auf einer gestörten Leitung, wenn jedes Instrument eine Prüfsumme sendet.</translation>
+    </message>
+    <message>
+        <source>Ignore where an instrument says itself that its value does not hold.</source>
+        <translation>„Übergehen“, wenn ein Instrument selbst sagt, dass sein Wert nicht gilt.</translation>
+    </message>
+    <message>
+        <source>List where an AIS receiver is on the same wire.</source>
+        <translation>„Zeigen“, wenn ein AIS-Empfänger an derselben Leitung hängt.</translation>
+    </message>
+    <message>
+        <source>Tick it when the wind stays blank and MWV has no knots.</source>
+        <translation>Ankreuzen, wenn der Wind leer bleibt und MWV keine Knoten hat.</translation>
+    </message>
+    <message>
+        <source>Tick it when all lines of one sender are checksum errors.</source>
+        <translation>Ankreuzen, wenn alle Zeilen eines Senders Prüfsummenfehler sind.</translation>
+    </message>
+    <message>
+        <source>Motor straight into the wind on a calm day: what is shown then, with the other sign.</source>
+        <translation>An einem ruhigen Tag genau gegen den Wind motoren: was dann dasteht, mit umgekehrtem Vorzeichen.</translation>
+    </message>
+    <message>
+        <source>Motor straight on without wind and current: the GPS course less the heading.</source>
+        <translation>Ohne Wind und Strom geradeaus motoren: GPS-Kurs minus Steuerkurs.</translation>
+    </message>
+    <message>
+        <source>Without a current: the speed of the GPS divided by that of the log.</source>
+        <translation>Ohne Strom: die Fahrt des GPS geteilt durch die der Logge.</translation>
+    </message>
+    <message>
+        <source>Tick what brings a missing value; untick what a second device sends, too.</source>
+        <translation>Ankreuzen, was einen fehlenden Wert bringt; das Kreuz wegnehmen, wo ein zweites Gerät dasselbe sendet.</translation>
+    </message>
+    <message>
+        <source>Another one when the pilot is elsewhere; equal to the instruments&apos; for one port both ways.</source>
+        <translation>Ein anderer, wenn der Pilot woanders hängt; der der Instrumente für einen Anschluss in beide Richtungen.</translation>
+    </message>
+    <message>
+        <source>Choose it when the pilot does something else, to see what it is sent.</source>
+        <translation>Wählen, wenn der Pilot etwas anderes tut, um zu sehen, was er bekommt.</translation>
+    </message>
+    <message>
+        <source>Another one when the pilot beeps, asks for a waypoint or shows a wrong bearing.</source>
+        <translation>Ein anderes, wenn der Pilot piept, nach einem Wegpunkt fragt oder einen falschen Kurs zeigt.</translation>
+    </message>
+    <message>
+        <source>By the clock when the pilot beeps, jumps or comes late; 1 a second suits nearly every one.</source>
+        <translation>Nach der Uhr, wenn der Pilot piept, springt oder spät kommt; 1 je Sekunde passt fast jedem.</translation>
+    </message>
+    <message>
+        <source>Another one for a pilot that listens to one talker only, as GP, II or AP.</source>
+        <translation>Andere für einen Piloten, der nur auf einen Sender hört, etwa GP, II oder AP.</translation>
+    </message>
+    <message>
+        <source>T when the pilot shows a bearing that is wrong by the variation.</source>
+        <translation>T, wenn der Pilot einen Kurs zeigt, der um die Missweisung falsch ist.</translation>
+    </message>
+    <message>
+        <source>15 for a pilot of NMEA 0183 2.3 or later that does not take 14.</source>
+        <translation>15 für einen Piloten ab NMEA 0183 2.3, der 14 nicht nimmt.</translation>
+    </message>
+    <message>
+        <source>0 for an old pilot that does not take the sentence with 1.</source>
+        <translation>0 für einen alten Piloten, der den Satz mit 1 nicht nimmt.</translation>
+    </message>
+    <message>
+        <source>Letters, as WIND, for a pilot that does not take a number.</source>
+        <translation>Buchstaben, etwa WIND, für einen Piloten, der keine Zahl nimmt.</translation>
+    </message>
+    <message>
+        <source>Leave it ticked for most pilots: they steer by it.</source>
+        <translation>Für die meisten Piloten angekreuzt lassen: sie steuern danach.</translation>
+    </message>
+    <message>
+        <source>For a pilot that wants to see a waypoint before it steers.</source>
+        <translation>Für einen Piloten, der einen Wegpunkt sehen will, bevor er steuert.</translation>
+    </message>
+    <message>
+        <source>For a pilot that takes a heading to steer, and no route.</source>
+        <translation>Für einen Piloten, der einen Steuerkurs nimmt und keine Route.</translation>
+    </message>
+    <message>
+        <source>Tick it when the pilot steers on to an old course after the wind was lost.</source>
+        <translation>Ankreuzen, wenn der Pilot nach dem Verlust des Windes auf altem Kurs weitersteuert.</translation>
+    </message>
+    <message>
+        <source>Longer for a pilot that sounds its alarm late, or not at all.</source>
+        <translation>Länger für einen Piloten, der spät oder gar nicht Alarm gibt.</translation>
+    </message>
+    <message>
+        <source>Press it on a new boat and after each change of the profile, with room around you.</source>
+        <translation>Drücken auf einem neuen Boot und nach jedem Wechsel des Profils, mit Platz ringsum.</translation>
+    </message>
+    <message>
+        <source>Leave it ticked unless somebody watches the wind angle all the time.</source>
+        <translation>Angekreuzt lassen, außer jemand sieht die ganze Zeit auf den Windwinkel.</translation>
+    </message>
+    <message>
+        <source>Direction with a heading; Clock without a true wind; Sentence without a heading.</source>
+        <translation>Richtung mit Steuerkurs; Uhr ohne wahren Wind; Satz ohne Steuerkurs.</translation>
+    </message>
+    <message>
+        <source>Larger when a seaway sets it off; smaller where there is little room.</source>
+        <translation>Größer, wenn ihn der Seegang auslöst; kleiner, wo wenig Platz ist.</translation>
+    </message>
+    <message>
+        <source>Larger when she swings or the rudder works much; smaller when she follows a shift too late.</source>
+        <translation>Größer, wenn das Boot pendelt oder das Ruder viel arbeitet; kleiner, wenn es einem Dreher zu spät folgt.</translation>
+    </message>
+    <message>
+        <source>Leave it at 4; below 1 she swings long after each shift.</source>
+        <translation>Bei 4 lassen; unter 1 pendelt das Boot nach jedem Dreher lange.</translation>
+    </message>
+    <message>
+        <source>With Careful Entry: smaller to be asked about smaller changes.</source>
+        <translation>Mit „Vorsichtige Eingabe“: kleiner, um bei kleineren Änderungen gefragt zu werden.</translation>
+    </message>
+    <message>
+        <source>5 keeps single gusts quiet; 0 tells at once.</source>
+        <translation>5 verschweigt einzelne Böen; 0 meldet sofort.</translation>
+    </message>
+    <message>
+        <source>Press it on a new boat, and with another wind instrument.</source>
+        <translation>Drücken auf einem neuen Boot und mit einem anderen Windinstrument.</translation>
+    </message>
+    <message>
+        <source>To see how the loop answers a smaller or a larger change.</source>
+        <translation>Um zu sehen, wie die Regelung auf eine kleinere oder größere Änderung antwortet.</translation>
+    </message>
+    <message>
+        <source>More to see how the loop answers in a seaway.</source>
+        <translation>Mehr, um zu sehen, wie die Regelung im Seegang antwortet.</translation>
+    </message>
+    <message>
+        <source>Longer when the line has not settled at its end.</source>
+        <translation>Länger, wenn die Linie am Ende noch nicht ruhig ist.</translation>
+    </message>
+    <message>
+        <source>Tick it after two minutes of sailing, to compare the methods.</source>
+        <translation>Nach zwei Minuten Segeln ankreuzen, um die Verfahren zu vergleichen.</translation>
+    </message>
+    <message>
+        <source>What Test Pilot... on the tab Output has measured.</source>
+        <translation>Was „Pilot prüfen...“ auf der Seite „Ausgang“ gemessen hat.</translation>
+    </message>
+    <message>
+        <source>Tick it to try the program at the desk; untick it for the real boat.</source>
+        <translation>Ankreuzen, um das Programm am Schreibtisch zu probieren; für das echte Boot nicht.</translation>
+    </message>
+    <message>
+        <source>Steady to learn the windows; Boat to try methods and pilots.</source>
+        <translation>Stetig, um die Fenster kennenzulernen; Boot, um Verfahren und Piloten zu probieren.</translation>
+    </message>
+    <message>
+        <source>What your own pilot reads, to try the profile for it.</source>
+        <translation>Was der eigene Pilot liest, um das Profil für ihn zu probieren.</translation>
+    </message>
+    <message>
+        <source>A rougher one to see whether a method holds in it.</source>
+        <translation>Ein gröberer, um zu sehen, ob ein Verfahren darin hält.</translation>
+    </message>
+    <message>
+        <source>As your own pilot: Test Pilot... on the tab Output measures it.</source>
+        <translation>Wie der eigene Pilot: „Pilot prüfen...“ auf der Seite „Ausgang“ misst ihn.</translation>
+    </message>
+    <message>
+        <source>More for a squally day, 0 for a steady wind.</source>
+        <translation>Mehr für einen böigen Tag, 0 für stetigen Wind.</translation>
+    </message>
+    <message>
+        <source>More for a shifty day, 0 for a wind that keeps its direction.</source>
+        <translation>Mehr für einen Tag mit Drehern, 0 für einen Wind, der seine Richtung behält.</translation>
+    </message>
+    <message>
+        <source>More for a boat with a shallow keel.</source>
+        <translation>Mehr für ein Boot mit flachem Kiel.</translation>
+    </message>
+    <message>
+        <source>A number to compare settings on the same gusts: Off and Setup begin them again.</source>
+        <translation>Eine Zahl, um Einstellungen in denselben Böen zu vergleichen: mit Aus und Abgleich beginnen sie von vorn.</translation>
+    </message>
+    <message>
+        <source>As fast as your own boat.</source>
+        <translation>So schnell wie das eigene Boot.</translation>
+    </message>
+    <message>
+        <source>As the weather that you want to try.</source>
+        <translation>Wie das Wetter, das man probieren will.</translation>
+    </message>
+    <message>
+        <source>As the chart of your waters says; east is positive.</source>
+        <translation>Wie in der Karte des Reviers; Ost ist positiv.</translation>
+    </message>
+    <message>
+        <source>To see how a pilot is steered whose compass shows something else.</source>
+        <translation>Um zu sehen, wie ein Pilot gesteuert wird, dessen Kompass anders zeigt.</translation>
+    </message>
+    <message>
+        <source>0 for still figures, more for a seaway, with the steady boat.</source>
+        <translation>0 für ruhige Zahlen, mehr für Seegang, mit dem stetigen Boot.</translation>
+    </message>
+    <message>
+        <source>0 for still figures, more for a seaway.</source>
+        <translation>0 für ruhige Zahlen, mehr für Seegang.</translation>
+    </message>
+    <message>
+        <source>Tick it to see each step of the small arrows at once.</source>
+        <translation>Ankreuzen, um jeden Schritt der kleinen Pfeile sofort zu sehen.</translation>
+    </message>
+    <message>
+        <source>Tick it unless somebody watches the wind instrument all the time.</source>
+        <translation>Ankreuzen, außer jemand sieht die ganze Zeit auf das Windinstrument.</translation>
+    </message>
+    <message>
+        <source>Tick it to have time to take the helm before the pilot hears nothing.</source>
+        <translation>Ankreuzen, um Zeit fürs Ruder zu haben, bevor der Pilot nichts mehr hört.</translation>
+    </message>
+    <message>
+        <source>Tick it when you sail before the wind with a small crew.</source>
+        <translation>Ankreuzen, wer mit kleiner Mannschaft vor dem Wind segelt.</translation>
+    </message>
+    <message>
+        <source>Leave it ticked where a log sends the boat speed.</source>
+        <translation>Angekreuzt lassen, wo eine Logge die Fahrt sendet.</translation>
+    </message>
+    <message>
+        <source>Leave it ticked where a compass sends the heading.</source>
+        <translation>Angekreuzt lassen, wo ein Kompass den Steuerkurs sendet.</translation>
+    </message>
+    <message>
+        <source>Tick it so that nobody takes an old figure for one of now.</source>
+        <translation>Ankreuzen, damit niemand eine alte Zahl für eine von jetzt hält.</translation>
+    </message>
+    <message>
+        <source>Tick it where a slip of the hand must not turn the boat.</source>
+        <translation>Ankreuzen, wo ein Vertippen das Boot nicht drehen darf.</translation>
+    </message>
+    <message>
+        <source>Tone where the computer has no beep, or nobody hears it.</source>
+        <translation>Ton, wo der Rechner nicht piept oder es niemand hört.</translation>
+    </message>
+    <message>
+        <source>Press it before you leave, with somebody on deck who listens.</source>
+        <translation>Drücken vor dem Auslaufen, wenn jemand an Deck hört.</translation>
+    </message>
+    <message>
+        <source>For a buzzer or a lamp that a program switches.</source>
+        <translation>Für einen Summer oder eine Lampe, die ein Programm schaltet.</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 bis %2</translation>
+    </message>
+    <message>
+        <source>Range: %1.</source>
+        <translation>Bereich: %1.</translation>
+    </message>
+    <message>
+        <source>Range: %1, in %2.</source>
+        <translation>Bereich: %1, in %2.</translation>
+    </message>
+    <message>
+        <source>Takes: %1.</source>
+        <translation>Erlaubt: %1.</translation>
+    </message>
+    <message>
+        <source>Range: hours and minutes, as 1:30.</source>
+        <translation>Bereich: Stunden und Minuten, etwa 1:30.</translation>
+    </message>
+    <message>
+        <source>Which sentences are read</source>
+        <translation>Welche Sätze gelesen werden</translation>
+    </message>
 </context>
 </TS>

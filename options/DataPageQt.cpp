@@ -11,15 +11,8 @@ namespace veerwatch {
 
 namespace {
 
-QComboBox* NewSources(const char* name, const char* first, const char* second, QWidget* parent) {
-  auto* box = new QComboBox(parent);
-  box->setObjectName(QLatin1String(name));
-  box->addItems({TrQ(first), TrQ(second)});
-  return box;
-}
-
-/// A choice among the names of a rule.
-QComboBox* NewRule(const char* name, const char* hint, const QStringList& names, QWidget* parent) {
+/// A choice among names.
+QComboBox* NewChoice(const char* name, const char* hint, const QStringList& names, QWidget* parent) {
   auto* box = new QComboBox(parent);
   NameControl(*box, name, hint);
   box->addItems(names);
@@ -36,23 +29,23 @@ QCheckBox* NewSwitch(const char* name, const char* caption, const char* hint, QW
 
 DataPageQt::DataPageQt(QWidget* parent)
     : QWidget(parent),
-      cmbNmeaTrueWind(
-          NewSources("cmbNmeaTrueWind", TrMark("True Wind Sensor"), TrMark("Compute from Boat Speed"), this)),
-      cmbNmeaHeading(
-          NewSources("cmbNmeaHeading", TrMark("Compass Heading"), TrMark("Course Over Ground"), this)),
-      cmbNmeaBoatSpeed(
-          NewSources("cmbNmeaBoatSpeed", TrMark("Speed Over Water"), TrMark("Speed Over Ground"), this)),
+      cmbNmeaTrueWind(NewChoice("cmbNmeaTrueWind", TrMark("Where the true wind comes from"),
+                                {TrQ("True Wind Sensor"), TrQ("Compute from Boat Speed")}, this)),
+      cmbNmeaHeading(NewChoice("cmbNmeaHeading", TrMark("Where the heading comes from"),
+                               {TrQ("Compass Heading"), TrQ("Course Over Ground")}, this)),
+      cmbNmeaBoatSpeed(NewChoice("cmbNmeaBoatSpeed", TrMark("Where the boat speed comes from"),
+                                 {TrQ("Speed Over Water"), TrQ("Speed Over Ground")}, this)),
       txtNmeaWindIndicatorAverage(new OptionEntryQt(
           "txtNmeaWindIndicatorAverage", TrMark("Wind Indicator Average Time (sec, 0=none)"), this)),
       txtNmeaTrueWindAverage(
           new OptionEntryQt("txtNmeaTrueWindAverage", TrMark("True Wind Average Time (sec, 0=none)"), this)),
-      cmbNmeaChecksum(NewRule("cmbNmeaChecksum", TrMark("What becomes of a sentence without a checksum"),
-                              {TrQ("Accept missing"), TrQ("Require")}, this)),
+      cmbNmeaChecksum(NewChoice("cmbNmeaChecksum", TrMark("What becomes of a sentence without a checksum"),
+                                {TrQ("Accept missing"), TrQ("Require")}, this)),
       cmbNmeaInvalidStatus(
-          NewRule("cmbNmeaInvalidStatus",
-                  TrMark("What becomes of the values of an MWV, RMC or RMB with the status V"),
-                  {TrQ("Use"), TrQ("Ignore")}, this)),
-      cmbNmeaForeignLines(NewRule(
+          NewChoice("cmbNmeaInvalidStatus",
+                    TrMark("What becomes of the values of an MWV, RMC or RMB with the status V"),
+                    {TrQ("Use"), TrQ("Ignore")}, this)),
+      cmbNmeaForeignLines(NewChoice(
           "cmbNmeaForeignLines", TrMark("What a line is that begins with \"!\", as those of an AIS receiver"),
           {TrQ("Error"), TrQ("List")}, this)),
       chkNmeaWindUnits(NewSwitch("chkNmeaWindUnits", TrMark("Wind U&nits: m/s, km/h and mph, too"),

@@ -4,6 +4,7 @@
 #include <QFontMetrics>
 #include <QScreen>
 
+#include "options/OptionTips.h"
 #include "platform/LanguageQt.h"
 
 namespace veerwatch {
@@ -18,8 +19,13 @@ constexpr double kScreenShare = 0.9;
 
 void NameControl(QWidget& control, const char* name, const char* hint) {
   control.setObjectName(QLatin1String(name));
-  control.setToolTip(TrQ(hint));
   control.setAccessibleDescription(TrQ(hint));
+  ShowTip(control);
+}
+
+void ShowTip(QWidget& control) {
+  control.setToolTip(QString::fromStdString(
+      OptionTipText(control.objectName().toStdString(), control.accessibleDescription().toStdString())));
 }
 
 OptionEntryQt::OptionEntryQt(const char* name, const char* hint, QWidget* parent) : EntryLineQt(parent) {

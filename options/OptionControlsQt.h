@@ -11,8 +11,11 @@
 
 namespace veerwatch {
 
-/// Gives a control its name and its hint, as tool tip and for who cannot see it.
+/// Gives a control its name and its hint, in front of its tip and for who cannot see it.
 void NameControl(QWidget& control, const char* name, const char* hint);
+
+/// Shows the tip of a control that has its name and its hint, by OptionTips.
+void ShowTip(QWidget& control);
 
 /// A box for one number, wide enough for it in every font.
 class OptionEntryQt final : public EntryLineQt {

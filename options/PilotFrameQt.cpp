@@ -126,7 +126,7 @@ void PilotFrameQt::NameControls() {
   NameControl(*lblPilotSentences, "lblPilotSentences", TrMark("What would leave now"));
   NameControl(*lblPilotNote, "lblPilotNote", TrMark("What does not leave, or how full the line is"));
   for (QLabel* label : {lblPilotSentences, lblPilotNote}) {
-    label->setAccessibleName(label->toolTip());
+    label->setAccessibleName(label->accessibleDescription());
     label->setTextFormat(Qt::PlainText);
   }
   // Of the size of the other texts.

@@ -4,12 +4,14 @@
 #include <algorithm>
 #include <utility>
 
+#include "options/OptionControlsQt.h"
+#include "platform/Language.h"
 #include "platform/LanguageQt.h"
 
 namespace veerwatch {
 
 SentenceListQt::SentenceListQt(QWidget* parent) : QTreeWidget(parent) {
-  setObjectName(QStringLiteral("lstNmeaSentence"));
+  NameControl(*this, "lstNmeaSentence", TrMark("Which sentences are read"));
   setAccessibleName(TrQ("Nmea Sentences"));
   setHeaderLabel(TrQ("Nmea Sentences"));
   setRootIsDecorated(false);

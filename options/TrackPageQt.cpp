@@ -195,8 +195,11 @@ QWidget* TrackPageQt::NewResponse() {
 void TrackPageQt::ShowMethod() const {
   const bool direction = cmbTrackMethod->currentIndex() == static_cast<int>(TrackMethod::Direction);
   txtTrackDamping->setEnabled(!direction);
-  txtTrackDamping->setToolTip(direction ? TrQ("The method Direction has no damping")
-                                        : txtTrackDamping->accessibleDescription());
+  if (direction) {
+    txtTrackDamping->setToolTip(TrQ("The method Direction has no damping"));
+  } else {
+    ShowTip(*txtTrackDamping);
+  }
   ShowRate();
 }
 
