@@ -122,13 +122,17 @@ std::vector<Candidate> AnnouncedCandidates(std::string_view browsed) {
     if (parts.size() < kParts || parts[kSign] != "=" || parts[kProtocol] != "IPv4") {
       continue;
     }
-    const std::string host = "tcp://" + std::string(parts[kAddress]);
+    // The usual places name this computer so.
+    const std::string host(parts[kInterface] == "lo" ? "localhost" : parts[kAddress]);
     const std::string name = Unescaped(parts[kName]);
+    const auto add = [&](const char* pattern, std::string_view port) {
+      AddCandidates(all, {{Filled(Tr(pattern), {name, VisibleText(host)}),
+                           std::string("tcp://").append(host).append(":").append(port)}});
+    };
     if (parts[kType] == "_nmea-0183._tcp") {
-      AddCandidates(
-          all, {{Filled(Tr("%1 (NMEA 0183, announced)"), {name}), host + ":" + std::string(parts[kPort])}});
+      add(TrMark("%1 at %2 (NMEA 0183, announced)"), parts[kPort]);
     } else if (parts[kType].starts_with("_signalk-")) {
-      AddCandidates(all, {{Filled(Tr("%1 (Signal K, announced)"), {name}), host + ":10110"}});
+      add(TrMark("%1 at %2 (Signal K, announced)"), "10110");
     }
   }
   return all;

@@ -41,7 +41,7 @@ void Listening::Begin(const std::vector<Candidate>& candidates) {
     m_input = EndpointsOf(text);
     m_rows.push_back({std::make_unique<Listener>(
         Candidate{Filled(Tr("Port %1 (%2)"), {std::to_string(input), VisibleText(text)}), text}, m_parts.Time,
-        [this](std::string_view line, const Moment& at) { Take(*m_rows.front().Of, line, at); })});
+        NextRow())});
   }
   if (pilot != input && now.OutputOpen && !m_parts.Main.m_bSimulate) {
     m_pilot = EndpointsOf(PortDevice(m_parts.Store, pilot));
@@ -70,10 +70,16 @@ void Listening::Open(const Candidate& candidate) {
         {std::make_unique<Listener>(candidate, m_parts.Time, Tr("in use now: the autopilot's port"))});
     return;
   }
-  const std::size_t place = m_rows.size();
-  m_rows.push_back({std::make_unique<Listener>(
-      candidate, m_parts.Make, m_parts.Exists, m_parts.Time,
-      [this, place](std::string_view line, const Moment& at) { Take(*m_rows[place].Of, line, at); })});
+  m_rows.push_back(
+      {std::make_unique<Listener>(candidate, m_parts.Make, m_parts.Exists, m_parts.Time, NextRow())});
+}
+
+Listener::Line Listening::NextRow() {
+  return [this, place = m_rows.size()](std::string_view line, const Moment& at) {
+    if (m_rows[place].Ticked && m_line) {
+      m_line(line, at);
+    }
+  };
 }
 
 void Listening::End() {
@@ -96,17 +102,6 @@ void Listening::OnNmeaLine(std::string_view line, LineFault fault, bool /*used*/
   }
 }
 
-bool Listening::IsTicked(const Listener* listener) const {
-  return std::any_of(m_rows.begin(), m_rows.end(),
-                     [listener](const Heard& row) { return row.Of.get() == listener && row.Ticked; });
-}
-
-void Listening::Take(const Listener& from, std::string_view line, const Moment& now) const {
-  if (IsTicked(&from) && m_line) {
-    m_line(line, now);
-  }
-}
-
 void Listening::Tick() {
   for (Heard& row : m_rows) {
     row.Of->Tick();
@@ -115,7 +110,7 @@ void Listening::Tick() {
   for (Heard& row : m_rows) {
     if (row.Of->Over() && !row.Offered) {
       row.Offered = true;
-      row.Ticked = row.Of->Heard().Known() > 0 && (row.Twin == nullptr || !IsTicked(row.Twin));
+      row.Ticked = row.Of->Heard().Known() > 0 && std::none_of(row.Twins.begin(), row.Twins.end(), IsTicked);
     }
   }
 }
@@ -124,27 +119,35 @@ void Listening::FindTwins() {
   std::vector<std::set<std::size_t>> lines;
   lines.reserve(m_rows.size());
   for (Heard& row : m_rows) {
-    row.Twin = nullptr;
+    row.Twins.clear();
     lines.push_back(row.Of->Heard().Different());
   }
   for (std::size_t i = 0; i < m_rows.size(); ++i) {
     for (std::size_t j = i + 1; j < m_rows.size(); ++j) {
       if (BringSame(lines[i], lines[j])) {
-        m_rows[i].Twin = m_rows[j].Of.get();
-        m_rows[j].Twin = m_rows[i].Of.get();
+        m_rows[i].Twins.push_back(&m_rows[j]);
+        m_rows[j].Twins.push_back(&m_rows[i]);
       }
     }
   }
 }
 
+std::string Listening::TwinWords(const Heard& row) {
+  if (row.Twins.empty()) {
+    return {};
+  }
+  const auto ticked = std::find_if(row.Twins.begin(), row.Twins.end(), IsTicked);
+  const Heard& twin = ticked == row.Twins.end() ? *row.Twins.front() : **ticked;
+  return Filled(twin.Ticked == row.Ticked ? Tr("; the same comes on %1: tick one of them")
+                                          : Tr("; the same comes on %1"),
+                {twin.Of->Of().Name});
+}
+
 Listening::Row Listening::RowAt(std::size_t index) const {
   const Heard& row = m_rows[index];
   const Listener& of = *row.Of;
-  Row shown{of.Of().Name + (of.Rate() ? ", " : ": ") + of.Says(), VisibleText(of.LeadsTo()), of.Brings(),
-            row.Ticked, of.Over()};
-  if (row.Twin != nullptr) {
-    shown.Text += Filled(Tr("; the same comes on %1: tick one of them"), {row.Twin->Of().Name});
-  }
+  Row shown{of.Of().Name + (of.Rate() ? ", " : ": ") + of.Says() + TwinWords(row), VisibleText(of.LeadsTo()),
+            of.Brings(), row.Ticked, of.Over()};
   if (of.Brings()) {
     shown.Details += "\n" + of.Heard().Details(m_parts.Time.Now());
   }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <string>
@@ -69,22 +70,25 @@ class Listening final : private HelmObserver {
   struct Heard {
     std::unique_ptr<Listener> Of;
     bool Ticked = false;
-    bool Offered = false;            ///< it was ticked once, or is not to be
-    const Listener* Twin = nullptr;  ///< another that brings the same; null for none
+    bool Offered = false;             ///< it was ticked once, or is not to be
+    std::vector<const Heard*> Twins{};  ///< others that bring the same
   };
 
   void OnNmeaLine(std::string_view line, LineFault fault, bool used) override;
-  void Take(const Listener& from, std::string_view line, const Moment& now) const;
   void Open(const Candidate& candidate);
+  /// What becomes of a line of the row that comes next.
+  Listener::Line NextRow();
   /// The endpoints of a text; none for one that cannot be read.
   std::vector<Endpoint> EndpointsOf(const std::string& text) const;
   /// Looks for rows that bring the same.
   void FindTwins();
-  bool IsTicked(const Listener* listener) const;
+  /// What is said of them.
+  static std::string TwinWords(const Heard& row);
+  static bool IsTicked(const Heard* row) { return row->Ticked; }
 
   Parts m_parts;
   Listener::Line m_line;
-  std::vector<Heard> m_rows;
+  std::deque<Heard> m_rows;       ///< where each stays in its place
   std::vector<Endpoint> m_input;  ///< what the program reads from now
   std::vector<Endpoint> m_pilot;  ///< what it writes to
   HelmObservers::Membership m_told;

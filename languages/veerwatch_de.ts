@@ -4144,14 +4144,6 @@ Den Faktor auf 1 setzen?</translation>
         <translation>UDP %1 aus dem Netz</translation>
     </message>
     <message>
-        <source>%1 (NMEA 0183, announced)</source>
-        <translation>%1 (NMEA 0183, meldet sich)</translation>
-    </message>
-    <message>
-        <source>%1 (Signal K, announced)</source>
-        <translation>%1 (Signal K, meldet sich)</translation>
-    </message>
-    <message>
         <source>One port for both ways: the instruments and the autopilot.</source>
         <translation>Ein Anschluss für beide Richtungen: die Instrumente und der Autopilot.</translation>
     </message>
@@ -5122,6 +5114,18 @@ Den Faktor auf 1 setzen?</translation>
     <message>
         <source>Which sentences are read</source>
         <translation>Welche Sätze gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1 at %2 (NMEA 0183, announced)</source>
+        <translation>%1 auf %2 (NMEA 0183, meldet sich)</translation>
+    </message>
+    <message>
+        <source>%1 at %2 (Signal K, announced)</source>
+        <translation>%1 auf %2 (Signal K, meldet sich)</translation>
+    </message>
+    <message>
+        <source>; the same comes on %1</source>
+        <translation>; dasselbe kommt an %1</translation>
     </message>
 </context>
 </TS>

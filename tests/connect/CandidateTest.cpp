@@ -63,10 +63,14 @@ TEST(Candidate, WhatIsAnnouncedComesFromItsAddress) {
       "=;eth0;IPv4;pi;_signalk-ws._tcp;local;pi.local;192.168.1.9;3000;\n"
       "=;eth0;IPv4;pi;_signalk-tcp._tcp;local;pi.local;192.168.1.9;8375;\n"
       "=;eth0;IPv4;printer;_ipp._tcp;local;p.local;192.168.1.7;631;\n"
+      "=;lo;IPv4;own;_nmea-0183._tcp;local;own.local;127.0.0.1;10110;\n"
       "=;eth0;IPv4;short\n";
-  EXPECT_THAT(AnnouncedCandidates(browsed),
-              ElementsAre(Candidate{"Boat Gate (NMEA 0183, announced)", "tcp://192.168.1.5:1456"},
-                          Candidate{"pi (Signal K, announced)", "tcp://192.168.1.9:10110"}));
+  EXPECT_THAT(
+      AnnouncedCandidates(browsed),
+      ElementsAre(Candidate{"Boat Gate at 192.168.1.5 (NMEA 0183, announced)", "tcp://192.168.1.5:1456"},
+                  Candidate{"pi at 192.168.1.9 (Signal K, announced)", "tcp://192.168.1.9:10110"},
+                  Candidate{"own at localhost (NMEA 0183, announced)", "tcp://localhost:10110"}))
+      << "one on this computer is one of the usual places";
   EXPECT_THAT(AnnouncedCandidates(""), IsEmpty());
 }
 

@@ -53,7 +53,7 @@ TEST_F(ConnectDeskTest, ListensToThePortsTheUsualPlacesAndTheHost) {
   Desk.Search("boat:2000");
   EXPECT_EQ(Desk.Heard().Count(), 7U);
   Desk.SearchAnnounced("=;e;IPv4;pi;_signalk-ws._tcp;local;pi.local;10.0.0.9;3000;\n");
-  EXPECT_EQ(Desk.Heard().RowAt(7).Text, "pi (Signal K, announced): listening...");
+  EXPECT_EQ(Desk.Heard().RowAt(7).Text, "pi at 10.0.0.9 (Signal K, announced): listening...");
 }
 
 TEST_F(ConnectDeskTest, OnlyWhatIsTickedGoesIntoTheValues) {

@@ -67,10 +67,23 @@ TEST_F(ListeningTest, TwoGatewaysThatRelayEachOtherAreSaidAndOneIsTicked) {
     const std::string body = "IIMWV,0" + std::to_string(10 + second) + ",R,10,N,A";
     Second({{Port("tcp://a:2000"), body}, {Port("tcp://b:2000"), body}});
   }
-  EXPECT_EQ(All->RowAt(0).Text, "A: MWV R 1/s; the same comes on B: tick one of them");
-  EXPECT_EQ(All->RowAt(1).Text, "B: MWV R 1/s; the same comes on A: tick one of them");
+  EXPECT_EQ(All->RowAt(0).Text, "A: MWV R 1/s; the same comes on B");
+  EXPECT_EQ(All->RowAt(1).Text, "B: MWV R 1/s; the same comes on A");
   EXPECT_TRUE(All->RowAt(0).Ticked);
   EXPECT_FALSE(All->RowAt(1).Ticked);
+  All->SetTicked(1, true);
+  EXPECT_EQ(All->RowAt(1).Text, "B: MWV R 1/s; the same comes on A: tick one of them");
+}
+
+TEST_F(ListeningTest, OfThreeThatBringTheSameOneIsTicked) {
+  Make();
+  All->Begin({{"A", "tcp://a:2000"}, {"B", "tcp://b:2000"}, {"C", "tcp://c:2000"}});
+  for (int second = 0; second < 10; ++second) {
+    const std::string body = "IIMWV,0" + std::to_string(10 + second) + ",R,10,N,A";
+    Second({{Port("tcp://a:2000"), body}, {Port("tcp://b:2000"), body}, {Port("tcp://c:2000"), body}});
+  }
+  EXPECT_EQ(All->Ticked(), "tcp://a:2000");
+  EXPECT_EQ(All->RowAt(2).Text, "C: MWV R 1/s; the same comes on A");
 }
 
 TEST_F(ListeningTest, ThePortInUseStaysOpenAndIsHeardThroughTheHelm) {
