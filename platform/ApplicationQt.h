@@ -8,7 +8,7 @@ namespace veerwatch {
 class ApplicationQt final : public QApplication {
  public:
   /// Both outlive it.
-  ApplicationQt(int& argc, char** argv) : QApplication(argc, argv) {}
+  ApplicationQt(int& argc, char** argv);
 
   /// Every event finds the vector registers clean: Qt's drawing leaves its traces in them, and whatever is
   /// computed after a repaint, for the autopilot too, would wait for those.

@@ -2,8 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <QCheckBox>
 #include <QImage>
 #include <QPalette>
+#include <QRadioButton>
+#include <QStyleOptionButton>
 #include <QWidget>
 #include <algorithm>
 #include <array>
@@ -75,6 +78,31 @@ TEST_P(Contrasts, OfATurnsButtonThatDoesNotAnswer) {
   }
   EXPECT_GE(most, kDimmed);
   EXPECT_LT(most, 7.0) << "it does not answer";
+}
+
+/// The best contrast of the widget's left edge, halfway down the indicator at its left, to what is inside it.
+double EdgeContrast(QWidget& widget, QStyle::SubElement indicator) {
+  QStyleOptionButton option;
+  option.initFrom(&widget);
+  const QRect rect = widget.style()->subElementRect(indicator, &option, &widget);
+  const QImage picture = widget.grab().toImage();
+  const QColor inside = picture.pixelColor(rect.center());
+  double most = 0.0;
+  for (int x = rect.left(); x < rect.left() + 3; ++x) {
+    most = std::max(most, ContrastRatio(picture.pixelColor(x, rect.center().y()), inside));
+  }
+  return most;
+}
+
+TEST_P(Contrasts, OfTheEdgesOfCheckBoxesAndRoundButtons) {
+  QCheckBox box(QStringLiteral("A"));
+  box.setPalette(Palette());
+  box.resize(box.sizeHint());
+  EXPECT_GE(EdgeContrast(box, QStyle::SE_CheckBoxIndicator), kLine);
+  QRadioButton round(QStringLiteral("B"));
+  round.setPalette(Palette());
+  round.resize(round.sizeHint());
+  EXPECT_GE(EdgeContrast(round, QStyle::SE_RadioButtonIndicator), kLine);
 }
 
 TEST_P(Contrasts, OfThePolarPlot) {
