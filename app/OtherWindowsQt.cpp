@@ -67,7 +67,7 @@ OtherWindowsQt::OtherWindowsQt(const MainWindowParts& parts, const frmMainMenu& 
   for (const QAction* command : {menu.mnuViewDiagram, menu.mnuHelpDiagram}) {
     QObject::connect(command, &QAction::triggered, [this] { DiagramShow(); });
   }
-  QObject::connect(menu.mnuHelpManual, &QAction::triggered, [this] { ManualShow(); });
+  QObject::connect(menu.mnuHelpManual, &QAction::triggered, [this] { Manual().Open({"README.md", ""}); });
   menu.mnuHelpConnect->setEnabled(m_connect.Can());
   QObject::connect(menu.mnuHelpConnect, &QAction::triggered, [this] { m_connect.Show(); });
   QObject::connect(menu.mnuHelpHere, &QAction::triggered, [this] { HelpShow(*m_window); });
@@ -409,7 +409,15 @@ void OtherWindowsQt::OnDiagramHistory() {
   }
 }
 
-void OtherWindowsQt::ManualShow() {
+frmManual& OtherWindowsQt::Manual() {
+  if (!m_manual) {
+    m_manual = std::make_unique<frmManual>([this] { ManualInBrowser(); });
+    m_manual->setWindowIcon(ProgramIcon());
+  }
+  return *m_manual;
+}
+
+void OtherWindowsQt::ManualInBrowser() {
   std::error_code error;
   if (!std::filesystem::is_regular_file(m_parts.ManualPage, error)) {
     m_parts.Asks.Inform(kApplicationTitle, Filled(Tr("The manual is not there:\r%1"), {m_parts.ManualPage}));
@@ -423,11 +431,8 @@ void OtherWindowsQt::HelpShow(const QWidget& window) {
   if (m_manual && &window == m_manual.get()) {
     return;
   }
-  if (!m_manual) {
-    m_manual = std::make_unique<frmManual>();
-  }
   const int tab = m_options ? m_options->Tab() : 0;
-  m_manual->Open(ManualPlaceOf(window.objectName().toStdString(), tab));
+  Manual().Open(ManualPlaceOf(window.objectName().toStdString(), tab));
 }
 
 void OtherWindowsQt::AboutShow() {

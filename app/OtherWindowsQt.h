@@ -107,7 +107,8 @@ class OtherWindowsQt final : private HelmObserver,
 
   void DiagramShow();
   void DiagramLights();
-  void ManualShow();
+  frmManual& Manual();
+  void ManualInBrowser();
   /// The manual, where it tells of that window.
   void HelpShow(const QWidget& window);
   void AboutShow();

@@ -117,9 +117,10 @@ void ManualPagesQt::changeEvent(QEvent* event) {
 
 // frmManual
 
-frmManual::frmManual()
+frmManual::frmManual(const std::function<void()>& inBrowser)
     : cmdBack(new QPushButton(TrQ("&Back"), this)),
       cmdContents(new QPushButton(TrQ("&Contents"), this)),
+      cmdBrowser(new QPushButton(TrQ("In the Br&owser"), this)),
       lblOutside(new QLabel(this)),
       txtManual(new ManualPagesQt(this)) {
   LoadPages();
@@ -131,6 +132,9 @@ frmManual::frmManual()
   cmdBack->setToolTip(TrQ("The page before (Alt+Left)"));
   cmdContents->setObjectName(QStringLiteral("cmdContents"));
   cmdContents->setToolTip(TrQ("The manual's first page"));
+  cmdBrowser->setObjectName(QStringLiteral("cmdBrowser"));
+  cmdBrowser->setToolTip(TrQ("The whole manual in the desktop's browser"));
+  cmdBrowser->setVisible(inBrowser != nullptr);
   lblOutside->setObjectName(QStringLiteral("lblOutside"));
   lblOutside->setTextFormat(Qt::PlainText);
   lblOutside->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
@@ -139,6 +143,7 @@ frmManual::frmManual()
   row->addWidget(cmdBack);
   row->addWidget(cmdContents);
   row->addWidget(lblOutside, 1);
+  row->addWidget(cmdBrowser);
   auto* all = new QVBoxLayout(this);
   all->addLayout(row);
   all->addWidget(txtManual, 1);
@@ -147,6 +152,9 @@ frmManual::frmManual()
   connect(cmdBack, &QPushButton::clicked, txtManual, &QTextBrowser::backward);
   connect(cmdContents, &QPushButton::clicked, this,
           [this] { txtManual->Show(AddressOf("README.md"), QString()); });
+  if (inBrowser) {
+    connect(cmdBrowser, &QPushButton::clicked, this, inBrowser);
+  }
   connect(txtManual, &QTextBrowser::anchorClicked, this, [this](const QUrl& link) { Follow(link); });
   const QSize room = screen() != nullptr ? screen()->availableSize() * kScreenShare : kUsualSize;
   resize(kUsualSize.boundedTo(room));

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QTextBrowser>
 #include <QWidget>
+#include <functional>
 
 #include "app/ManualPlace.h"
 
@@ -34,10 +35,12 @@ class ManualPagesQt final : public QTextBrowser {
 
 class frmManual final : public QWidget {
  public:
-  frmManual();
+  /// `inBrowser` shows the manual in the desktop's browser; without it nothing offers that.
+  explicit frmManual(const std::function<void()>& inBrowser = {});
 
   QPushButton* cmdBack;
   QPushButton* cmdContents;
+  QPushButton* cmdBrowser;
   QLabel* lblOutside;  ///< where a link leads that is not followed
   ManualPagesQt* txtManual;
 

@@ -5127,5 +5127,13 @@ Den Faktor auf 1 setzen?</translation>
         <source>; the same comes on %1</source>
         <translation>; dasselbe kommt an %1</translation>
     </message>
+    <message>
+        <source>In the Br&amp;owser</source>
+        <translation>Im Br&amp;owser</translation>
+    </message>
+    <message>
+        <source>The whole manual in the desktop&apos;s browser</source>
+        <translation>Das ganze Handbuch im Browser des Desktops</translation>
+    </message>
 </context>
 </TS>

@@ -159,7 +159,7 @@ TEST_F(Connect, WhatAnnouncesItselfJoinsTheList) {
   Open();
   Reader.Asked("=;e;IPv4;Gate;_nmea-0183._tcp;local;g.local;10.0.0.9;1456;\n");
   Look();
-  EXPECT_EQ(Row(6), "Gate (NMEA 0183, announced): listening...");
+  EXPECT_EQ(Row(6), "Gate at 10.0.0.9 (NMEA 0183, announced): listening...");
 }
 
 TEST_F(Connect, WhatAnnouncesItselfTooLateOpensNothing) {

@@ -2,10 +2,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QTest>
 #include <fstream>
 #include <memory>
 #include <string>
 
+#include "app/frmManual.h"
+#include "tests/support/WaitQt.h"
 #include "tests/ui/MainWindowTester.h"
 
 namespace veerwatch {
@@ -32,10 +36,34 @@ class Manual : public MainWindowTester {
     std::ofstream(page) << "<p>";
     return page;
   }
-  void Press() { Window->findChild<QAction*>(QStringLiteral("mnuHelpManual"))->trigger(); }
+  /// The manual's window, opened by the command.
+  static frmManual* Book() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (auto* book = dynamic_cast<frmManual*>(window)) {
+        return book;
+      }
+    }
+    return nullptr;
+  }
+  void Press() {
+    Window->findChild<QAction*>(QStringLiteral("mnuHelpManual"))->trigger();
+    ASSERT_NE(Book(), nullptr);
+    QTest::mouseClick(Book()->cmdBrowser, Qt::LeftButton);
+  }
 };
 
-TEST_F(Manual, OpensItsFirstPageInTheBrowser) {
+TEST_F(Manual, OpensItsFirstPageInTheProgram) {
+  Open("/nowhere/README.html");
+  Window->findChild<QAction*>(QStringLiteral("mnuHelpManual"))->trigger();
+  ASSERT_NE(Book(), nullptr);
+  EXPECT_TRUE(Book()->isVisible());
+  EXPECT_TRUE(WaitFor([] { return Book()->txtManual->source().fileName() == QLatin1String("README.md"); }));
+  EXPECT_THAT(Book()->txtManual->toPlainText().toStdString(), HasSubstr("Veerwatch"));
+  EXPECT_THAT(Dialogs.Pages, IsEmpty());
+  EXPECT_THAT(Dialogs.Messages, IsEmpty());
+}
+
+TEST_F(Manual, OpensItsFirstPageInTheBrowserWhenAsked) {
   const std::string page = Page();
   Open(page);
   Press();
