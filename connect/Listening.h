@@ -70,7 +70,7 @@ class Listening final : private HelmObserver {
   struct Heard {
     std::unique_ptr<Listener> Of;
     bool Ticked = false;
-    bool Offered = false;             ///< it was ticked once, or is not to be
+    bool Offered = false;               ///< it was ticked once, or is not to be
     std::vector<const Heard*> Twins{};  ///< others that bring the same
   };
 
