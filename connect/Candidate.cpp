@@ -111,6 +111,13 @@ std::vector<Candidate> HostCandidates(std::string_view host) {
   return all;
 }
 
+std::string EndpointOfPlace(std::string_view place) {
+  const std::string text(Trim(place));
+  const bool device = text.starts_with('/');
+  const std::vector<Candidate> all = device ? std::vector<Candidate>() : HostCandidates(text);
+  return all.size() == 1 ? all.front().Endpoint : text;
+}
+
 std::vector<Candidate> AnnouncedCandidates(std::string_view browsed) {
   // =;eth0;IPv4;NAME;_nmea-0183._tcp;local;HOST;ADDRESS;PORT;"TEXT"
   enum Part { kSign, kInterface, kProtocol, kName, kType, kDomain, kHost, kAddress, kPort, kParts };

@@ -30,6 +30,10 @@ std::vector<Candidate> UsualCandidates();
 /// around it are dropped; none for an empty text.
 std::vector<Candidate> HostCandidates(std::string_view host);
 
+/// What a user types where one endpoint is meant: "gateway:2000" as "tcp://gateway:2000"; anything else as it
+/// stands, without the blanks around it.
+std::string EndpointOfPlace(std::string_view place);
+
 /// What `avahi-browse -tpr` has printed: servers of NMEA 0183, and servers of Signal K, whose NMEA 0183 is
 /// on TCP 10110. Lines of another kind, and addresses of another kind than IPv4, are passed over.
 std::vector<Candidate> AnnouncedCandidates(std::string_view browsed);

@@ -61,14 +61,17 @@ std::string ConnectDesk::PilotPort() const {
 }
 
 std::string ConnectDesk::PilotPortWrong(const std::string& endpoint) const {
-  return DeviceChoices({}, m_parts.Exists).Wrong(endpoint);
+  return DeviceChoices({}, m_parts.Exists).Wrong(EndpointOfPlace(endpoint));
 }
 
 std::string ConnectDesk::PilotPortWords() const {
   const ConnectPlan plan = Plan();
   const PlannedPorts ports = PortsOf(plan, m_parts.Main, m_parts.Store, m_parts.Exists);
-  return ports.Input == ports.Pilot ? Tr("One port for both ways: the instruments and the autopilot.") : "";
+  return ports.Input == ports.Pilot ? Tr("One port for both ways: the instruments and the autopilot.")
+                                    : DeviceChoices({}, m_parts.Exists).Remark(plan.Pilot);
 }
+
+void ConnectDesk::SetPilotPort(const std::string& place) { m_pilot = EndpointOfPlace(place); }
 
 PilotPreview ConnectDesk::Preview() const {
   HelmNow now = m_parts.Main.Now();

@@ -63,10 +63,11 @@ class ConnectDesk {
   std::string PilotPort() const;
   /// What is wrong with an endpoint, for the user; "" when it can be chosen.
   std::string PilotPortWrong(const std::string& endpoint) const;
-  /// What one should know of where it leads: that it is the instruments' port, too; "" for nothing.
+  /// What one should know of where it leads: that it is the instruments' port, too, or a device that is not
+  /// there; "" for nothing.
   std::string PilotPortWords() const;
-  /// Where it leads from now on; "" for what is proposed.
-  void SetPilotPort(const std::string& endpoint) { m_pilot = endpoint; }
+  /// Where it leads from now on, as EndpointOfPlace takes it; "" for what is proposed.
+  void SetPilotPort(const std::string& place);
   OptionsForm& PilotForm() { return m_form; }
   /// What would leave now.
   PilotPreview Preview() const;

@@ -55,6 +55,15 @@ TEST(Candidate, ADeviceOrAnEndpointThatIsTypedIsItself) {
   EXPECT_THAT(Endpoints(HostCandidates("tcp-listen://:10110")), ElementsAre("tcp-listen://:10110"));
 }
 
+TEST(Candidate, OneEndpointIsMeantWhereAPlaceIsTypedForIt) {
+  EXPECT_EQ(EndpointOfPlace(" gateway:2000 "), "tcp://gateway:2000");
+  EXPECT_EQ(EndpointOfPlace("/dev/ttyUSB0"), "/dev/ttyUSB0");
+  EXPECT_EQ(EndpointOfPlace("/dev/serial/by-path/pci-0000:00"), "/dev/serial/by-path/pci-0000:00");
+  EXPECT_EQ(EndpointOfPlace("udp://10.0.0.255:2000?broadcast"), "udp://10.0.0.255:2000?broadcast");
+  EXPECT_EQ(EndpointOfPlace("gateway"), "gateway") << "three ports would be possible";
+  EXPECT_EQ(EndpointOfPlace("  "), "");
+}
+
 TEST(Candidate, WhatIsAnnouncedComesFromItsAddress) {
   const std::string browsed =
       "+;eth0;IPv4;Boat;_nmea-0183._tcp;local\n"

@@ -92,9 +92,23 @@ TEST_F(ConnectDeskTest, ThePilotSharesTheDeviceOfTheInstrumentsAndThatIsSaid) {
                                              "/dev/ttyUSB0?baud=4800, tcp://boat:2000"));
   EXPECT_EQ(Desk.PilotPort(), "/dev/ttyUSB0?baud=4800");
   EXPECT_EQ(Desk.PilotPortWords(), "One port for both ways: the instruments and the autopilot.");
-  Desk.SetPilotPort("/dev/ttyUSB1");
+  Desk.SetPilotPort("tcp://pilot:2000");
   EXPECT_EQ(Desk.PilotPortWords(), "");
   EXPECT_THAT(Desk.PilotPortWrong("tcp://x"), Not(IsEmpty()));
+}
+
+TEST_F(ConnectDeskTest, ThePilotsPortIsTypedAsAPlaceIsOnTheFirstPage) {
+  Desk.SetPilotPort(" gateway:2000 ");
+  EXPECT_EQ(Desk.PilotPort(), "tcp://gateway:2000");
+  EXPECT_EQ(Desk.PilotPortWords(), "");
+  EXPECT_THAT(Desk.PilotPortWrong("gateway:2000x"), HasSubstr("\"2000x\" is no port"));
+}
+
+TEST_F(ConnectDeskTest, ADeviceThatIsNotThereIsSaidOfThePilotsPort) {
+  Desk.SetPilotPort("/dev/ttyUSB1?baud=4800");
+  EXPECT_EQ(Desk.PilotPortWords(), "/dev/ttyUSB1 is not there now");
+  Desk.SetPilotPort("gateway");
+  EXPECT_EQ(Desk.PilotPortWords(), "gateway is not there now");
 }
 
 TEST_F(ConnectDeskTest, ThePortThatTheProfileNamesIsProposedFirst) {
