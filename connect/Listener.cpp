@@ -30,7 +30,7 @@ Listener::Listener(Candidate candidate, const NamedPort::Maker& make, const Devi
   const auto parsed = ParseEndpoints(m_candidate.Endpoint, exists);
   const auto* endpoints = std::get_if<std::vector<Endpoint>>(&parsed);
   if (endpoints == nullptr) {
-    End(std::get<std::string>(parsed));
+    End(Without(std::get<std::string>(parsed), m_candidate.Endpoint + ": "));
     return;
   }
   m_device = endpoints->front().What == Endpoint::Kind::Device;
@@ -84,13 +84,24 @@ std::string Listener::Silence() const {
     return Tr(m_port->Noise() ? TrMark("noise at every rate, no sentences")
                               : TrMark("nothing comes, at no rate"));
   }
-  const std::string trouble = Without(m_port->Trouble(), m_place + ": ");
+  const std::string why = Complaint();
+  return why.empty() ? Tr("nothing comes") : why;
+}
+
+std::string Listener::Complaint() const {
+  const std::string trouble = m_port ? Without(m_port->Trouble(), m_place + ": ") : std::string();
   const std::string next = Tr(", next try in %1 s");
   const std::string why = trouble.substr(0, trouble.find(next.substr(0, next.find("%1"))));
-  if (why.empty()) {
-    return Tr("nothing comes");
-  }
   return why == Tr("connecting") || why == Tr("no answer") ? Tr("the host does not answer") : why;
+}
+
+std::string Listener::Stopped() const {
+  const bool listens = m_inUse || (m_port && m_port->PortOpen());
+  if (!m_over || !listens || !Brings() || m_clock.Now().Steady - m_last <= kListens) {
+    return {};
+  }
+  const std::string why = Complaint();
+  return why.empty() ? Tr("; nothing more comes") : "; " + why;
 }
 
 void Listener::End(std::string why) {
@@ -135,6 +146,7 @@ void Listener::Take(std::string_view line) {
 void Listener::Hear(std::string_view line, LineFault fault) {
   const Moment now = m_clock.Now();
   m_heard.Take(line, fault, now);
+  m_last = now.Steady;
   const bool good = fault == LineFault::None || fault == LineFault::Decode;
   if (good && line.starts_with('$') && m_line) {
     m_line(line, now);
@@ -159,7 +171,8 @@ std::string Listener::Says() const {
   const std::string words = m_heard.Words(m_clock.Now());
   if (!words.empty()) {
     return rate +
-           (Brings() || !m_over ? words : Tr("noise; press Off (F5), then Listen Again, to try every rate"));
+           (Brings() || !m_over ? words : Tr("noise; press Off (F5), then Listen Again, to try every rate")) +
+           Stopped();
   }
   if (m_over) {
     return Tr("in use now: nothing comes; press Off (F5), then Listen Again, to try every rate");

@@ -69,6 +69,10 @@ class Listener final : private SerialPort::Events {
   void Take(std::string_view line);
   /// Why there is nothing, by what the port complains of.
   std::string Silence() const;
+  /// What the port complains of, in the words of a row; "" for nothing.
+  std::string Complaint() const;
+  /// What to add for one that brought sentences and has been silent for more than ten seconds; "" for others.
+  std::string Stopped() const;
   void End(std::string why);
   bool Searching() const;
 
@@ -79,7 +83,8 @@ class Listener final : private SerialPort::Events {
   std::string m_place;                 ///< what its reasons begin with
   bool m_device = false;
   bool m_inUse = false;
-  std::int64_t m_begun;  ///< when the ten seconds, or the search of the rate, began [ms, steady]
+  std::int64_t m_begun;     ///< when the ten seconds, or the search of the rate, began [ms, steady]
+  std::int64_t m_last = 0;  ///< when a line came last [ms, steady]
   bool m_over = false;
   std::string m_why;  ///< what is wrong; "" for nothing
   std::optional<int> m_rate;

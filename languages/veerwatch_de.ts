@@ -4193,7 +4193,7 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>Other &amp;place:</source>
-        <translation>Andere &amp;Stelle:</translation>
+        <translation>Andere S&amp;telle:</translation>
     </message>
     <message>
         <source>&amp;Each place where instruments may be is listened to for ten seconds. Tick what brings yours; several may be ticked.</source>
@@ -4353,7 +4353,7 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>&amp;True wind</source>
-        <translation>&amp;Wahrer Wind</translation>
+        <translation>W&amp;ahrer Wind</translation>
     </message>
     <message>
         <source>&amp;Heading</source>
@@ -5134,6 +5134,10 @@ Den Faktor auf 1 setzen?</translation>
     <message>
         <source>The whole manual in the desktop&apos;s browser</source>
         <translation>Das ganze Handbuch im Browser des Desktops</translation>
+    </message>
+    <message>
+        <source>; nothing more comes</source>
+        <translation>; es kommt nichts mehr</translation>
     </message>
 </context>
 </TS>

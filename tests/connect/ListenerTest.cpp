@@ -129,7 +129,22 @@ TEST_F(ListenerTest, AHostThatSendsOtherThingsBringsNothing) {
 TEST_F(ListenerTest, WhatIsNoEndpointSaysSo) {
   Listen("tcp://boat:99999");
   EXPECT_TRUE(On->Over());
-  EXPECT_THAT(On->Says(), testing::HasSubstr("99999"));
+  EXPECT_EQ(On->Says(), "\"99999\" is no port (1 to 65535)") << "the row's name says where";
+}
+
+TEST_F(ListenerTest, AHostThatBreaksOffAfterTheTenSecondsIsSaid) {
+  Listen(kHost);
+  for (int second = 0; second < 10; ++second) {
+    Port().Receive(Sentence("IIHDG,100,,,,"));
+    Pass(1000);
+  }
+  EXPECT_EQ(On->Says(), "HDG 1/s");
+  Pass(Listener::kListens - 999);
+  EXPECT_EQ(On->Says(), "HDG 1/s; nothing more comes");
+  Port().Complaint = "tcp://boat:2000: connection refused, next try in 8 s";
+  EXPECT_EQ(On->Says(), "HDG 1/s; connection refused");
+  Port().Receive(Sentence("IIHDG,100,,,,"));
+  EXPECT_EQ(On->Says().find("refused"), std::string::npos) << "it is back";
 }
 
 TEST_F(ListenerTest, WhatTheProgramHasOpenIsHeardThroughIt) {
