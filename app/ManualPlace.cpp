@@ -14,7 +14,7 @@ struct Row {
   const char* Heading;
 };
 
-constexpr std::array<Row, 13> kPlaces{{{"frmMain", "main-window.md", ""},
+constexpr std::array<Row, 12> kPlaces{{{"frmMain", "main-window.md", ""},
                                        {"frmPolar", "polar.md", ""},
                                        {"frmHistory", "history.md", ""},
                                        {"frmConfigPopup", "history.md", ""},
@@ -22,7 +22,6 @@ constexpr std::array<Row, 13> kPlaces{{{"frmMain", "main-window.md", ""},
                                        {"frmAlarms", "main-window.md", "The banner"},
                                        {"frmTack", "tacking.md", ""},
                                        {"frmTurn", "tacking.md", "Then track"},
-                                       {"frmConnect", "assistant.md", ""},
                                        {"dlgDevice", "connecting.md", "Ports"},
                                        {"dlgWindLimits", "wind-functions.md", ""},
                                        {"dlgRecommended", "settings.md", "Recommended"},
@@ -32,12 +31,25 @@ constexpr std::array<Row, 13> kPlaces{{{"frmMain", "main-window.md", ""},
 constexpr std::array<const char*, 7> kTabs{"Input",    "Data",    "Output", "Tracking",
                                            "Simulate", "Diagram", "Watch"};
 
+// In the order of the assistant's pages.
+constexpr std::array<const char*, 5> kPages{"1. Instruments", "2. Values", "3. Autopilot", "4. How it steers",
+                                            "5. Ready"};
+
+/// The heading at `index`; "" for an index that is none.
+template <std::size_t Count>
+const char* HeadingAt(const std::array<const char*, Count>& headings, int index) {
+  const bool known = index >= 0 && static_cast<std::size_t>(index) < Count;
+  return known ? headings[static_cast<std::size_t>(index)] : "";
+}
+
 }  // namespace
 
 ManualPlace ManualPlaceOf(std::string_view window, int tab) {
   if (window == "frmOptions") {
-    const bool known = tab >= 0 && static_cast<std::size_t>(tab) < kTabs.size();
-    return {"settings.md", known ? kTabs[static_cast<std::size_t>(tab)] : ""};
+    return {"settings.md", HeadingAt(kTabs, tab)};
+  }
+  if (window == "frmConnect") {
+    return {"assistant.md", HeadingAt(kPages, tab)};
   }
   const auto* const row =
       std::find_if(kPlaces.begin(), kPlaces.end(), [window](const Row& one) { return one.Window == window; });

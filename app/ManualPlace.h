@@ -13,8 +13,9 @@ struct ManualPlace {
   bool operator==(const ManualPlace&) const = default;
 };
 
-/// The place for the window or dialog with that object name. `tab` [0, 6] is the open tab of the options
-/// dialog and counts nowhere else. The manual's first page for a window that it does not know.
+/// The place for the window or dialog with that object name. `tab` is the open tab of the options dialog
+/// [0, 6] or the open page of the assistant [0, 4] and counts nowhere else. The manual's first page for a
+/// window that it does not know.
 ManualPlace ManualPlaceOf(std::string_view window, int tab);
 
 /// A heading as the end of a link names it: "The watch" as "the-watch".

@@ -8,6 +8,7 @@
 #include "app/IconsQt.h"
 #include "app/PlotTurnOf.h"
 #include "app/TurnAimOf.h"
+#include "connect/frmConnect.h"
 #include "draw/DrawQt.h"
 #include "draw/WindowPlaceQt.h"
 #include "options/RecommendedQt.h"
@@ -431,7 +432,8 @@ void OtherWindowsQt::HelpShow(const QWidget& window) {
   if (m_manual && &window == m_manual.get()) {
     return;
   }
-  const int tab = m_options ? m_options->Tab() : 0;
+  const auto* assistant = dynamic_cast<const frmConnect*>(&window);
+  const int tab = assistant != nullptr ? assistant->PageIndex() : m_options ? m_options->Tab() : 0;
   Manual().Open(ManualPlaceOf(window.objectName().toStdString(), tab));
 }
 

@@ -4,7 +4,7 @@
 #include <QKeyEvent>
 #include <QPointer>
 #include <QScreen>
-#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 #include <string>
 #include <utility>
@@ -91,7 +91,8 @@ void frmConnect::MakePages() {
   m_pages = {m_instruments, new ValuesPageQt(m_desk, m_stack), m_autopilot,
              new SteersPageQt(m_desk, m_parts.NewProfile, m_stack), new ReadyPageQt(m_desk, m_stack)};
   for (ConnectPageQt* page : m_pages) {
-    m_stack->addWidget(Scrolling(page, m_stack));
+    m_areas.push_back(Scrolling(page, m_stack));
+    m_stack->addWidget(m_areas.back());
   }
 }
 
@@ -141,8 +142,9 @@ void frmConnect::Turn(int page) {
   m_stack->setCurrentIndex(page);
   Page().Enter();
   Refresh();
-  // The keyboard begins in front of the page's first control.
+  // The keyboard begins in front of the page's first control, and the eye at its top.
   Page().setFocus();
+  m_areas.at(static_cast<std::size_t>(page))->verticalScrollBar()->setValue(0);
 }
 
 void frmConnect::Refresh() {

@@ -6,6 +6,7 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStackedWidget>
 #include <QTimer>
 #include <functional>
@@ -38,6 +39,8 @@ class frmConnect final : public QDialog {
 
   /// Brings back what is only tried.
   void EndTrial() { m_desk.TrialEnd(); }
+  /// Which page is open [0, 4].
+  int PageIndex() const { return m_stack->currentIndex(); }
   /// Every way to close it gives the ports back.
   void done(int result) override;
 
@@ -63,6 +66,7 @@ class frmConnect final : public QDialog {
   QLabel* lblConnectPage;
   QStackedWidget* m_stack;
   std::vector<ConnectPageQt*> m_pages;
+  std::vector<QScrollArea*> m_areas;  ///< around each page
   InstrumentsPageQt* m_instruments = nullptr;
   AutopilotPageQt* m_autopilot = nullptr;
   QLabel* lblConnectHint;

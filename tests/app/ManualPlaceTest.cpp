@@ -16,7 +16,12 @@ TEST(ManualPlace, OfTheOptionsIsTheOpenTab) {
 TEST(ManualPlace, OfAWindowIsItsPage) {
   EXPECT_EQ(ManualPlaceOf("frmPolar", 3), (ManualPlace{"polar.md", ""}));
   EXPECT_EQ(ManualPlaceOf("dlgDevice", 0), (ManualPlace{"connecting.md", "Ports"}));
-  EXPECT_EQ(ManualPlaceOf("frmConnect", 0), (ManualPlace{"assistant.md", ""}));
+}
+
+TEST(ManualPlace, OfTheAssistantIsTheOpenPage) {
+  EXPECT_EQ(ManualPlaceOf("frmConnect", 0), (ManualPlace{"assistant.md", "1. Instruments"}));
+  EXPECT_EQ(ManualPlaceOf("frmConnect", 4), (ManualPlace{"assistant.md", "5. Ready"}));
+  EXPECT_EQ(ManualPlaceOf("frmConnect", 5), (ManualPlace{"assistant.md", ""}));
 }
 
 TEST(ManualPlace, OfAnUnknownWindowIsTheFirstPage) {

@@ -2,19 +2,30 @@
 
 #include <gmock/gmock.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QKeySequence>
+#include <QLabel>
 #include <QListWidget>
+#include <QMap>
 #include <QPlainTextEdit>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QTextBlock>
+#include <QTextBrowser>
 #include <QToolBar>
 #include <QtTest/QTest>
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 #include <string>
 
 #include "connect/frmConnect.h"
 #include "platform/ColoursQt.h"
+#include "platform/LanguageQt.h"
 #include "platform/PortNames.h"
 #include "tests/connect/ListenRig.h"
 #include "tests/support/FakeMainWindow.h"
@@ -231,6 +242,47 @@ TEST_F(Connect, AWrongPortOfThePilotIsSaidAndHoldsBack) {
   EXPECT_TRUE(Find<QPushButton>("cmdPilotTest").isEnabled());
 }
 
+TEST_F(Connect, EachPageOpensAtItsTop) {
+  Open();
+  Window->resize(500, 300);
+  Next(3);
+  EXPECT_EQ(Text("lblConnectPage"), "4 of 5: How it steers");
+  QScrollBar* bar =
+      dynamic_cast<QScrollArea*>(Window->findChild<QStackedWidget*>()->currentWidget())->verticalScrollBar();
+  ASSERT_TRUE(WaitFor([bar] { return bar->maximum() > 0; }));
+  bar->setValue(bar->maximum());
+  Click("cmdConnectBack");
+  Next(1);
+  EXPECT_EQ(bar->value(), 0);
+}
+
+TEST_F(Connect, EachKeyOfAPageIsItsOwnInEveryLanguage) {
+  for (const char* language : {"en", "de"}) {
+    InstallLanguage(language);
+    Open();
+    for (int page = 0; page < 5; ++page) {
+      QMap<QString, QString> keys;
+      for (const QWidget* each : Window->findChildren<QWidget*>()) {
+        const auto* button = dynamic_cast<const QAbstractButton*>(each);
+        const auto* label = dynamic_cast<const QLabel*>(each);
+        const bool buddy = label != nullptr && label->buddy() != nullptr;
+        if (!each->isVisible() || (button == nullptr && !buddy)) {
+          continue;
+        }
+        const QString text = button != nullptr ? button->text() : label->text();
+        const QString key = QKeySequence::mnemonic(text).toString();
+        EXPECT_TRUE(key.isEmpty() || !keys.contains(key))
+            << language << ": " << text.toStdString() << " and " << keys.value(key).toStdString();
+        keys.insert(key, text);
+      }
+      EXPECT_GT(keys.size(), 2);
+      Next(page < 4 ? 1 : 0);
+    }
+    delete Window;
+  }
+  InstallLanguage("en");
+}
+
 TEST_F(Connect, TheTestOfThePilotUsesWhatIsChosenAndBringsEverythingBack) {
   Open();
   HearAll();
@@ -392,6 +444,27 @@ TEST_F(ConnectMain, IsNotOfferedWithAProfileAndStandsInTheMenu) {
   EXPECT_EQ(Offer(), nullptr);
   Find<QAction>("mnuHelpConnect").trigger();
   EXPECT_NE(Assistant(), nullptr);
+}
+
+TEST_F(ConnectMain, TheHelpKeyOpensTheManualAtThePage) {
+  Start(kOnPorts);
+  Find<QAction>("mnuHelpConnect").trigger();
+  for (const char* heading : {"1. Instruments", "2. Values", "3. Autopilot"}) {
+    QTest::keyClick(Assistant(), Qt::Key_F1);
+    const auto windows = QApplication::topLevelWidgets();
+    const auto book = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+      return window->objectName() == QLatin1String("frmManual");
+    });
+    ASSERT_NE(book, windows.end());
+    // Small, so that the last headings can stand at its top, too.
+    (*book)->resize(400, 250);
+    QTest::keyClick(Assistant(), Qt::Key_F1);
+    const QTextBrowser& pages = *(*book)->findChild<QTextBrowser*>();
+    EXPECT_TRUE(WaitFor([&pages, heading] {
+      return pages.cursorForPosition(QPoint(30, 2)).block().text() == QLatin1String(heading);
+    })) << heading;
+    Assistant()->findChild<QPushButton*>(QStringLiteral("cmdConnectNext"))->click();
+  }
 }
 
 TEST_F(ConnectMain, WithoutPortsToListenToThereIsNone) {
