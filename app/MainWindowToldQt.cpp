@@ -69,7 +69,7 @@ void frmMain::OnWindTrue(float angle, float speed) {
 }
 
 void frmMain::OnWindIndicator(float direction, float speed) {
-  m_wind = TrQ("Wind %1@%2").arg(Text(CompassPointName(direction)), Number(speed, ".0"));
+  m_wind = TrQ("Wind %1@%2").arg(TrQ(CompassPointName(direction)), Number(speed, ".0"));
   ShowTitle();
 }
 

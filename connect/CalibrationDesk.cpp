@@ -12,9 +12,11 @@ namespace veerwatch {
 
 namespace {
 
-std::string Degrees(double angle) { return FormatNumber(ToSingle(angle), "0") + " deg"; }
+std::string Degrees(double angle) { return Filled(Tr("%1 deg"), {FormatNumber(ToSingle(angle), "0")}); }
 
-std::string Bearing(double angle) { return FormatNumber(FoldBearing(std::round(angle)), "000") + " deg"; }
+std::string Bearing(double angle) {
+  return Filled(Tr("%1 deg"), {FormatNumber(FoldBearing(std::round(angle)), "000")});
+}
 
 std::string Knots(double speed) { return FormatNumber(ToSingle(speed), "0.0") + " kn"; }
 

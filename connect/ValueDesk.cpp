@@ -20,9 +20,11 @@ std::string Number(float value, const char* pattern, const char* unit) {
   return FormatNumber(value, pattern) + " " + unit;
 }
 
-std::string Wind(float angle, float speed) {
-  return Number(angle, "0", "deg") + ", " + Number(speed, "0.0", "kn");
+std::string Degrees(float value, const char* pattern) {
+  return Filled(Tr("%1 deg"), {FormatNumber(value, pattern)});
 }
+
+std::string Wind(float angle, float speed) { return Degrees(angle, "0") + ", " + Number(speed, "0.0", "kn"); }
 
 }  // namespace
 
@@ -190,15 +192,15 @@ std::string ValueDesk::Figure(BoatValue value, const Moment& now) const {
     case BoatValue::WindTrue:
       return data.WindTrueValid ? Wind(data.WindAngleTrue, data.WindSpeedTrue) : "--";
     case BoatValue::Heading:
-      return Number(data.Heading, "000", "deg");
+      return Degrees(data.Heading, "000");
     case BoatValue::BoatSpeed:
       return Number(data.BoatSpeed, "0.0", "kn");
     case BoatValue::Variation:
-      return Number(data.Variation, "0.0", "deg");
+      return Degrees(data.Variation, "0.0");
     case BoatValue::Waypoint:
       break;
   }
-  return Number(data.WaypointBearing, "000", "deg") + ", " + Number(data.WaypointRange, "0.0", "nm");
+  return Degrees(data.WaypointBearing, "000") + ", " + Number(data.WaypointRange, "0.0", "nm");
 }
 
 std::string ValueDesk::Missing(BoatValue value) const {

@@ -56,7 +56,8 @@ void ValuesPageQt::AddLine(QGridLayout& grid, BoatValue value) {
   large.setPointSizeF(large.pointSizeF() * kFigureShare);
   large.setBold(true);
   line.Figure->setFont(large);
-  line.Figure->setMinimumWidth(QFontMetrics(large).horizontalAdvance(QStringLiteral("-180 deg, 00.0 kn")));
+  line.Figure->setMinimumWidth(
+      QFontMetrics(large).horizontalAdvance(TrQ("%1 deg").arg(-180) + QStringLiteral(", 00.0 kn")));
   line.Source = new QComboBox(this);
   NameControl(*line.Source, (std::string("cmbConnect") + kNames.at(at)).c_str(),
               TrMark("The sentence that it comes from; others that bring it stand in the list"));

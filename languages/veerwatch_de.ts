@@ -5139,5 +5139,93 @@ Den Faktor auf 1 setzen?</translation>
         <source>; nothing more comes</source>
         <translation>; es kommt nichts mehr</translation>
     </message>
+    <message>
+        <source>N</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>N-NE</source>
+        <translation>N-NO</translation>
+    </message>
+    <message>
+        <source>NE</source>
+        <translation>NO</translation>
+    </message>
+    <message>
+        <source>E-NE</source>
+        <translation>O-NO</translation>
+    </message>
+    <message>
+        <source>E</source>
+        <translation>O</translation>
+    </message>
+    <message>
+        <source>E-SE</source>
+        <translation>O-SO</translation>
+    </message>
+    <message>
+        <source>SE</source>
+        <translation>SO</translation>
+    </message>
+    <message>
+        <source>S-SE</source>
+        <translation>S-SO</translation>
+    </message>
+    <message>
+        <source>S</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>S-SW</source>
+        <translation>S-SW</translation>
+    </message>
+    <message>
+        <source>SW</source>
+        <translation>SW</translation>
+    </message>
+    <message>
+        <source>W-SW</source>
+        <translation>W-SW</translation>
+    </message>
+    <message>
+        <source>W</source>
+        <translation>W</translation>
+    </message>
+    <message>
+        <source>W-NW</source>
+        <translation>W-NW</translation>
+    </message>
+    <message>
+        <source>NW</source>
+        <translation>NW</translation>
+    </message>
+    <message>
+        <source>N-NW</source>
+        <translation>N-NW</translation>
+    </message>
+    <message>
+        <source>; [Ports] in the profile names the device of port %1</source>
+        <translation>; [Ports] im Profil nennt das Gerät von Anschluss %1</translation>
+    </message>
+    <message>
+        <source>cannot write %1: it would be larger than %2 bytes, and not read again</source>
+        <translation>%1 nicht zu schreiben: die Datei wäre größer als %2 Bytes und würde nicht wieder gelesen</translation>
+    </message>
+    <message>
+        <source>cannot put %1 aside: %2</source>
+        <translation>%1 nicht beiseite zu legen: %2</translation>
+    </message>
+    <message>
+        <source>cannot be read</source>
+        <translation>ist nicht zu lesen</translation>
+    </message>
+    <message>
+        <source>larger than %1 MiB</source>
+        <translation>größer als %1 MiB</translation>
+    </message>
+    <message>
+        <source>not a file</source>
+        <translation>keine Datei</translation>
+    </message>
 </context>
 </TS>

@@ -32,7 +32,7 @@ bool HasStatus(PilotType type, const PilotForm& form) {
 const char* NameOf(PilotType type) {
   switch (type) {
     case PilotType::Apb:
-      return "True APB";
+      return TrMark("True APB");
     case PilotType::Rmb:
       return "RMB";
     case PilotType::Hsc:
@@ -69,9 +69,9 @@ std::string PilotRefusalText(const PilotRefusal& refusal) {
     case PilotRefusal::Why::None:
       break;
     case PilotRefusal::Why::NoVariation:
-      return Filled(Tr("%1 Needs the Variation"), {NameOf(refusal.First)});
+      return Filled(Tr("%1 Needs the Variation"), {Tr(NameOf(refusal.First))});
     case PilotRefusal::Why::OldVariation:
-      return Filled(Tr("%1: Variation Older Than 1 h"), {NameOf(refusal.First)});
+      return Filled(Tr("%1: Variation Older Than 1 h"), {Tr(NameOf(refusal.First))});
     case PilotRefusal::Why::NoSentence:
       return Tr("No Sentence Chosen");
     case PilotRefusal::Why::NoWind:

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/Language.h"
 #include "platform/PortNames.h"
 #include "platform/ReopenPause.h"
 #include "platform/WholeLines.h"
@@ -117,7 +118,8 @@ bool NamedPort::OpenAll() {
   if (any) {
     m_failure.clear();
   } else if (m_profile.Text("Ports", std::to_string(m_number)).empty()) {
-    m_failure += "; [Ports] in the profile names the device of port " + std::to_string(m_number);
+    m_failure +=
+        Filled(Tr("; [Ports] in the profile names the device of port %1"), {std::to_string(m_number)});
   }
   return any;
 }

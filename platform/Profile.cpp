@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/AtomicFile.h"
+#include "platform/Language.h"
 #include "platform/NumberText.h"
 #include "platform/VisibleText.h"
 
@@ -276,8 +277,8 @@ std::string Profile::Content() const {
 std::optional<std::string> Profile::Commit(const std::filesystem::path& file) const {
   const std::string content = Content();
   if (content.size() > kLargestFile) {
-    return "cannot write " + file.string() + ": it would be larger than " + std::to_string(kLargestFile) +
-           " bytes, and not read again";
+    return Filled(Tr("cannot write %1: it would be larger than %2 bytes, and not read again"),
+                  {file.string(), std::to_string(kLargestFile)});
   }
   std::error_code error;
   Profile present;
@@ -289,7 +290,7 @@ std::optional<std::string> Profile::Commit(const std::filesystem::path& file) co
     } while (std::filesystem::exists(std::filesystem::symlink_status(aside, error)));
     std::filesystem::rename(target, aside, error);
     if (error) {
-      return "cannot put " + VisibleText(file.string()) + " aside: " + error.message();
+      return Filled(Tr("cannot put %1 aside: %2"), {VisibleText(file.string()), error.message()});
     }
   }
   return WriteAtomically(file, content);

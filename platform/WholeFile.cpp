@@ -4,14 +4,16 @@
 #include <fstream>
 #include <system_error>
 
+#include "platform/Language.h"
+
 namespace veerwatch {
 
 namespace {
 
-WholeFile Failed(const std::string& why) { return {{}, why.empty() ? "cannot be read" : why}; }
+WholeFile Failed(const std::string& why) { return {{}, why.empty() ? Tr("cannot be read") : why}; }
 
 WholeFile TooLarge(std::uintmax_t most) {
-  return Failed("larger than " + std::to_string(most >> 20U) + " MiB");
+  return Failed(Filled(Tr("larger than %1 MiB"), {std::to_string(most >> 20U)}));
 }
 
 std::string LastError() { return std::generic_category().message(errno != 0 ? errno : EIO); }
@@ -22,7 +24,7 @@ WholeFile ReadWholeFile(const std::filesystem::path& file, std::uintmax_t most) 
   std::error_code error;
   const auto status = std::filesystem::status(file, error);
   if (!std::filesystem::is_regular_file(status)) {
-    return Failed(error ? error.message() : "not a file");
+    return Failed(error ? error.message() : Tr("not a file"));
   }
   const std::uintmax_t size = std::filesystem::file_size(file, error);
   if (error) {
