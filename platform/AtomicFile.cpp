@@ -134,7 +134,7 @@ std::filesystem::path LinkTarget(std::filesystem::path file, std::error_code& er
 
 std::optional<std::string> WriteAtomically(const std::filesystem::path& file, std::string_view content) {
   if (const std::string_view kind = OtherKind(file); !kind.empty()) {
-    return CannotWrite(file, kind);
+    return CannotWrite(file, Tr(kind));
   }
   std::error_code error;
   const std::filesystem::path target = LinkTarget(file, error);

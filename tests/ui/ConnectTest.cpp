@@ -23,15 +23,12 @@
 #include <stdexcept>
 #include <string>
 
-#include "connect/frmConnect.h"
 #include "platform/ColoursQt.h"
 #include "platform/LanguageQt.h"
 #include "platform/PortNames.h"
-#include "tests/connect/ListenRig.h"
-#include "tests/support/FakeMainWindow.h"
-#include "tests/support/ListedPorts.h"
 #include "tests/support/PictureQt.h"
 #include "tests/support/WaitQt.h"
+#include "tests/ui/ConnectTester.h"
 #include "tests/ui/DarkPalette.h"
 #include "tests/ui/MainWindowTester.h"
 
@@ -42,97 +39,7 @@ using testing::AllOf;
 using testing::HasSubstr;
 using testing::IsEmpty;
 
-class NoReader final : public ProgramReader {
- public:
-  Answer Asked;
-  void Read(const std::string& /*program*/, const std::vector<std::string>& /*arguments*/,
-            Answer answer) override {
-    Asked = std::move(answer);
-  }
-};
-
-class Connect : public testing::Test {
- public:
-  ListenRig Rig;
-  FakeMainWindow Main;
-  QueuedDialogs Dialogs;
-  Profile Store;
-  ListedPorts Finder;
-  NoReader Reader;
-  int Saved = 0;
-  int Simulated = 0;
-  QWidget Ground;
-  QPointer<frmConnect> Window;
-
-  ~Connect() override { WearNightColours(false); }
-
-  void Open() {
-    Finder.Plugged = {{"/dev/ttyUSB0", "FTDI", ""}};
-    Main.m_eTrackMode = TrackMode::Setup;
-    Window = new frmConnect({{Main,
-                              Store,
-                              Rig.Time,
-                              &Finder,
-                              Rig.Maker(),
-                              [](const std::string&) { return false; },
-                              {[] { return false; }, [](bool) {}}},
-                             Dialogs,
-                             &Reader,
-                             true,
-                             [this] { ++Saved; },
-                             [this] { ++Simulated; }},
-                            &Ground);
-    Ground.show();
-    Window->show();
-    Window->activateWindow();
-    ASSERT_TRUE(WaitActive(*Window));
-  }
-
-  template <class Control>
-  Control& Find(const char* name) const {
-    auto* control = Window->findChild<Control*>(QLatin1String(name));
-    if (control == nullptr) {
-      throw std::runtime_error(std::string("no control ") + name);
-    }
-    return *control;
-  }
-  std::string Text(const char* label) const { return Find<QLabel>(label).text().toStdString(); }
-  std::string Row(int row) const { return Find<QListWidget>("lstConnect").item(row)->text().toStdString(); }
-  void Click(const char* button) const { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
-  ScriptedPort& Device() { return *Rig.Ports.at("/dev/ttyUSB0?baud=auto"); }
-
-  /// So many seconds of wind, speed, heading and position on the device.
-  void Hear(int seconds) {
-    for (int second = 0; second < seconds; ++second) {
-      const std::string digit = std::to_string(m_heard++ % 10);
-      for (const std::string& body :
-           {"IIMWV,35" + digit + ",R,10,N,A", "IIVHW,,T,101,M,5." + digit + ",N,,",
-            "HCHDG,10" + digit + ",,,3,E", "GPRMC,,A,,,,,6." + digit + ",108,,3,E"}) {
-        Device().Receive(Sentence(body));
-      }
-      Rig.Time.Pass(1000);
-    }
-  }
-  /// The window looks again.
-  void Look() const {
-    QMetaObject::invokeMethod(Window->findChild<QTimer*>(QStringLiteral("tmrConnect")), "timeout",
-                              Qt::DirectConnection);
-  }
-  void HearAll() {
-    Hear(10);
-    Look();
-    EXPECT_EQ(Find<QListWidget>("lstConnect").item(0)->checkState(), Qt::Checked);
-    Hear(3);
-  }
-  void Next(int times) const {
-    for (int i = 0; i < times; ++i) {
-      Click("cmdConnectNext");
-    }
-  }
-
- private:
-  int m_heard = 0;
-};
+class Connect : public ConnectTester {};
 
 TEST_F(Connect, ShowsWhatComesAndTicksIt) {
   Open();
