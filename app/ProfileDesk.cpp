@@ -17,7 +17,7 @@ namespace {
 constexpr const char* kEnding = ".ini";
 constexpr std::size_t kMostListed = 100;
 constexpr const char* kSection = "Profiles";
-constexpr const char* kInUse = "In Use";
+constexpr const char* kInUseKey = "In Use";
 
 std::string Shown(const std::filesystem::path& path) { return VisibleText(path.string()); }
 
@@ -63,7 +63,7 @@ bool IsProfileName(std::string_view name) {
 std::filesystem::path ProfileInUse(const std::filesystem::path& first) {
   Profile profile;
   profile.Load(first);
-  const std::string name = profile.Text(kSection, kInUse);
+  const std::string name = profile.Text(kSection, kInUseKey);
   const std::filesystem::path file = first.parent_path() / (name + kEnding);
   return IsProfileName(name) && HoldsProfile(file) ? file : first;
 }
@@ -147,8 +147,8 @@ void ProfileDesk::Remember() const {
     return;
   }
   const std::string name = First() ? "" : Name();
-  if (profile.Text(kSection, kInUse) != name) {
-    profile.ProfileSet(kSection, kInUse, name);
+  if (profile.Text(kSection, kInUseKey) != name) {
+    profile.ProfileSet(kSection, kInUseKey, name);
     profile.Commit(m_first);
   }
 }
