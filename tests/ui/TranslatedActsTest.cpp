@@ -33,6 +33,9 @@ class TranslatedActs : public MainWindowTester {
   bool Heading = true;
   bool Follows = true;
   double WindFrom = 145.0;
+  double MarkAt = 145.0;      ///< [deg]
+  std::string Range = "2.0";  ///< [nm]; "" for no waypoint
+  double Offset = 8.0;        ///< by which the pilot's compass shows more
 
   TranslatedActs() {
     Walk.Allow("cruiser");
@@ -61,11 +64,14 @@ class TranslatedActs : public MainWindowTester {
     for (int second = 0; second < seconds; ++second) {
       const auto tenths = [](double angle) { return FormatNumber(FoldBearing(angle), "0.0"); };
       if (Follows) {
-        m_heading = static_cast<double>(Window->m_fAutoPilot) - 8.0;
+        m_heading = static_cast<double>(Window->m_fAutoPilot) - Offset;
       }
       if (Heading) {
         NmeaPort.Receive(WithChecksum("$IIHVM,0.0,E") + "\r$GPVTG,,T," + tenths(m_heading) +
-                         ",M,6.0,N,11.0,K,A\r$GPRMB,A,1,R,1,2,1,N,1,E,2.0,145.0,5,V\r");
+                         ",M,6.0,N,11.0,K,A\r");
+        if (!Range.empty()) {
+          NmeaPort.Receive("$GPRMB,A,1,R,1,2,1,N,1,E," + Range + "," + tenths(MarkAt) + ",5,V\r");
+        }
       }
       if (Wind) {
         NmeaPort.Receive(Winds(tenths(WindFrom - m_heading), tenths(WindFrom - m_heading)));
@@ -153,13 +159,23 @@ TEST_F(TranslatedActs, ATurnOfTheDialog) {
 }
 
 TEST_F(TranslatedActs, ACourseThatIsSailed) {
+  Offset = 0.0;
   StartTracking();
   Choose("mnuViewPolar");
   Sail(2);
   Anywhere<QAction>("mnuCourseSail").trigger();
-  Sail(60);
-  Mode(5);
+  Sail(3);
+  MarkAt = 191.0;
+  Range = "0.5";
+  Anywhere<QAction>("mnuCourseSail").trigger();
   Sail(1);
+  Anywhere<QAction>("mnuCourseSail").trigger();
+  Sail(2);
+  EXPECT_TRUE(Anywhere<QPushButton>("cmdSail").isVisible()) << "it prompts";
+  Sail(12);
+  Range.clear();
+  Sail(15);
+  Mode(5);
   Anywhere<QAction>("mnuCourseSail").trigger();
   Sail(1);
   ExpectNothingBare();
