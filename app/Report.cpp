@@ -157,10 +157,13 @@ void ReplaceAll(std::string& text, const std::string& what) {
   }
 }
 
-/// A word of letters, or a number too short for a part of a position.
+/// A word of letters, of any language, or a number too short for a part of a position.
 bool IsPlain(std::string_view word) {
   constexpr std::size_t kLongestNumber = 2;
-  const auto letter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
+  constexpr unsigned kPlain = 0x80U;  // from here on a part of a letter of UTF-8
+  const auto letter = [](char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || static_cast<unsigned char>(c) >= kPlain;
+  };
   const auto digit = [](char c) { return c >= '0' && c <= '9'; };
   return std::all_of(word.begin(), word.end(), letter) ||
          (word.size() <= kLongestNumber && std::all_of(word.begin(), word.end(), digit));

@@ -178,5 +178,11 @@ TEST(BlankedFailure, KeepsOnlyPlainWords) {
   EXPECT_EQ(BlankedFailure("/home/ann/x: Permission denied", "/dev/ttyUSB0"), "<name> Permission denied");
 }
 
+TEST(BlankedFailure, KeepsTheLettersOfEveryLanguage) {
+  EXPECT_EQ(BlankedFailure("mary: der Rechner antwortet nicht, nächster Versuch in 16 s", "tcp://mary:1"),
+            "<name> der Rechner antwortet nicht, nächster Versuch in 16 s");
+  EXPECT_EQ(BlankedFailure("54°03 5403°", "/dev/ttyUSB0"), "<name> <name>");
+}
+
 }  // namespace
 }  // namespace veerwatch
