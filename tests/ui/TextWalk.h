@@ -1,5 +1,6 @@
 // Whether every text that is shown goes through the translation. While a walk lives, each translated text has
 // letters of another script; a word of English letters that a window holds or paints is one that does not.
+// What a widget keeps as a picture is not seen while it shows that: look at what the picture is composed of.
 #pragma once
 
 #include <QAbstractItemView>

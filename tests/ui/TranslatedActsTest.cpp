@@ -18,6 +18,7 @@
 #include "tests/support/TemporaryFolder.h"
 #include "tests/ui/MainWindowTester.h"
 #include "tests/ui/OptionsTester.h"
+#include "tests/ui/PolarLedgerTester.h"
 #include "tests/ui/PolarWindowTester.h"
 #include "tests/ui/TextWalk.h"
 
@@ -370,6 +371,33 @@ TEST_F(TranslatedPolar, WhatItAsksAndRefuses) {
   }
   Walk.LookAt(Dialogs);
   EXPECT_GT(Dialogs.Questions.size() + Dialogs.Messages.size(), 5U);
+  EXPECT_EQ(Walk.Found(), "");
+}
+
+/// What the polar window says of a course.
+class TranslatedLedger : public PolarLedgerTester {
+ public:
+  TextWalk Walk;
+};
+
+TEST_F(TranslatedLedger, TheFiguresAndTheTurnsOfEachSource) {
+  for (const char* word : {"pol", "Fast", "Sled", "ft"}) {
+    Walk.Allow(word);
+  }
+  StartTo(100.0F);
+  for (const char* source : {"mnuCourseWaypoint(0)", "mnuCourseWaypoint(1)", "mnuCourseWaypoint(2)"}) {
+    Choose(source);
+    for (const float wind : {-35.0F, 35.0F, 10.0F, -170.0F, 170.0F}) {
+      Moment moment;
+      moment.WindAngle = wind;
+      At(moment);
+      Walk.LookAtAll();
+      for (const LedgerFigure& figure : Ledger().Content().Figures) {
+        Walk.Look("a figure's heading", figure.Heading);
+        Walk.Look("a figure", figure.Value);
+      }
+    }
+  }
   EXPECT_EQ(Walk.Found(), "");
 }
 

@@ -6,10 +6,12 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTabWidget>
+#include <QToolBar>
 #include <stdexcept>
 #include <string>
 
 #include "history/frmHistory.h"
+#include "tests/connect/ListenRig.h"
 #include "tests/ui/MainWindowTester.h"
 #include "tests/ui/TextWalk.h"
 
@@ -19,8 +21,11 @@ namespace {
 class Translated : public MainWindowTester {
  public:
   TextWalk Walk;
+  ListenRig Rig;
 
   ~Translated() override { Window.reset(); }
+
+  NamedPort::Maker Ports() override { return Rig.Maker(); }
 
   void Choose(const char* command) const { Find<QAction>(command).trigger(); }
   void Ticks(int count) {
@@ -78,6 +83,7 @@ TEST_F(Translated, IsEveryTextOfTheMainWindowInEveryMode) {
 
 TEST_F(Translated, IsTheLineForWhoeverIsNew) {
   Start();
+  EXPECT_NO_THROW(Anywhere<QToolBar>("tbrConnect"));
   Walk.LookAtAll();
   EXPECT_EQ(Walk.Found(), "");
 }
