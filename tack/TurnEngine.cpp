@@ -11,22 +11,24 @@ namespace veerwatch {
 
 namespace {
 
-constexpr double kLongestStep = 2.0;  // [s]
-constexpr double kMostAhead = 90.0;   // [deg]
-constexpr double kSilence = 6.0;      // [s], longer than a wind that is lost
-constexpr double kAtTheEnd = 3.0;     // [deg] before the end of the overshoot
-constexpr double kEasedOut = 0.1;     // [deg]
-constexpr double kOffTime = 6.0;      // [s]
-constexpr double kLeanTime = 15.0;    // [s]
-constexpr double kMostOff = 15.0;     // [deg]
-constexpr double kMostLean = 20.0;    // [deg]
-constexpr double kNear = 2.0;         // [deg] off the wind angle where the turn ends
+constexpr double kLongestStep = 2.0;    // [s]
+constexpr double kMostAhead = 90.0;     // [deg]
+constexpr double kSilence = 6.0;        // [s], longer than a wind that is lost
+constexpr double kAtTheEnd = 3.0;       // [deg] before the end of the overshoot
+constexpr double kEasedOut = 0.1;       // [deg]
+constexpr double kOffTime = 6.0;        // [s]
+constexpr double kLeanTime = 15.0;      // [s]
+constexpr double kMostOff = 15.0;       // [deg]
+constexpr double kMostLean = 20.0;      // [deg]
+constexpr double kMostLeanLate = 40.0;  // [deg] of a boat whose pilot pulls the other way on the other side
+constexpr double kNear = 2.0;           // [deg] off the wind angle where the turn ends
 constexpr double kLeftToTrack =
     10.0;                        // [deg] that Track makes up as well, in a wind that does not let her settle
 constexpr double kSteady = 6.0;  // [s] near there
 constexpr double kComesCloser = 1.0;   // [deg]
 constexpr double kRest = 6.0;          // [s]
-constexpr double kRestsWithin = 20.0;  // [deg]
+constexpr double kRestsWithin = 40.0;  // [deg]
+constexpr double kPush = 10.0;         // [deg]
 constexpr double kHalfCircle = 180.0;
 
 std::string Figure(double degrees) { return FormatNumber(ToSingle(std::max(0.0, degrees)), "0"); }
@@ -143,8 +145,8 @@ void TurnEngine::Ease(const TurnSense& sense, double seconds) {
   }
   m_off += (off - m_off) * (1.0 - std::exp(-seconds / kOffTime));
   if (m_heard == m_progress) {
-    m_lean = std::clamp(m_lean + std::clamp(off, -kMostOff, kMostOff) * seconds / kLeanTime, -kMostLean,
-                        kMostLean);
+    const double most = m_inStage < m_limit / 2.0 ? kMostLean : kMostLeanLate;
+    m_lean = std::clamp(m_lean + std::clamp(off, -kMostOff, kMostOff) * seconds / kLeanTime, -most, most);
   }
 }
 
@@ -160,6 +162,11 @@ void TurnEngine::LookAtStage(const TurnSense& sense, double seconds) {
   const bool crosses = m_plan.Crossing != WindCrossing::None;
   if (m_stage == TurnStage::Turning && crosses && WindIsAcross(sense) && m_turned >= m_crossing / 2.0) {
     Enter(TurnStage::Through);
+  } else if (m_stage == TurnStage::Turning && crosses && Rests(m_past) && m_pushed < kMostLeanLate) {
+    // The wind has turned along with her.
+    m_past += kPush;
+    m_pushed += kPush;
+    m_standing = 0.0;
   }
   if (m_stage == TurnStage::Through || (m_stage == TurnStage::Turning && !crosses)) {
     if (m_turned >= m_past - kAtTheEnd || Rests(m_past)) {

@@ -79,6 +79,7 @@ class TurnEngine {
   // All in degrees in the turn's direction.
   double m_whole = 0.0;     ///< to where it ends
   double m_past = 0.0;      ///< with the overshoot
+  double m_pushed = 0.0;    ///< added to it, since the wind was not across
   double m_crossing = 0.0;  ///< where bow or stern is in the wind
   double m_progress = 0.0;  ///< of the bearing
   double m_heard = 0.0;     ///< of what has left

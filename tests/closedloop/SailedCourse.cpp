@@ -61,7 +61,7 @@ class Sailed {
     Settings& set = m_passage.Set;
     set.m_iNmeaHeading = 0;
     set.m_iNmeaBoatSpeed = 0;
-    set.m_fTrackBandwidth = 60.0F;
+    set.m_fTrackBandwidth = what.Bandwidth;
     what.Method.Use(set);
     const double offset = m_boat.Rudder ? m_boat.Pilot.CompassOffset : 0.0;
     m_passage.TheHelm().Loop().SetAutoPilot(static_cast<double>(set.m_fAutoPilot) + offset);
@@ -112,7 +112,10 @@ class Sailed {
     }
     m_timer.Tick();
     m_result.Nearest = std::min(m_result.Nearest, m_passage.Boat.Waypoint().Range);
-    if (m_run.Due() && !m_case.ByItself) {
+    // What is not turned by itself is answered, too, though not at once.
+    constexpr int kAnswers = 20;  // [s]
+    m_due = m_run.Due() ? m_due + 1 : 0;
+    if (m_due > (m_case.ByItself ? kAnswers : 0)) {
       m_run.TurnNow();
     }
   }
@@ -146,6 +149,7 @@ class Sailed {
   TurnRun m_turn;
   std::optional<CourseEnd> m_ended;
   double m_turned = 0.0;
+  int m_due = 0;  ///< for so long [s]
   CourseResult m_result;
   CourseRun m_run;
 };

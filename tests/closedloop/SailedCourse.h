@@ -13,13 +13,14 @@ namespace veerwatch {
 
 struct CourseCase {
   NamedMethod Method = NamedMethods().at(1);
+  float Bandwidth = 60.0F;  ///< [s]
   BoatSettings Boat = HardBoat(Sea::Flat);
   TrackSide Side = TrackSide::True;
   double MarkOff = 0.0;   ///< the mark's direction off that of the wind [deg]: 0 straight to windward
   double Distance = 2.0;  ///< to it [nm]
   float Angle = 45.0F;    ///< true wind angle that is tracked before [deg relative]
   double WindRate = 1.0;  ///< wind sentences a second
-  bool ByItself = false;  ///< with "Tack By Itself", and nobody presses Enter
+  bool ByItself = false;  ///< with "Tack By Itself"; Enter is pressed for what is not turned so
   double ShiftAt = 0.0;   ///< the wind shifts then [s after the begin]; 0 for never
   double Shift = 0.0;     ///< by so much [deg]
   std::uint64_t Seed = 1;

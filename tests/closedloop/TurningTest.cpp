@@ -34,6 +34,19 @@ TEST(Turning, EveryTurnEndsOnTheOtherTackAndNoneGoesRoundTheOtherWay) {
   }
 }
 
+TEST(Turning, InAStrongWindOnTheBeamABoatThatItPullsComesToTheOtherSideToo) {
+  for (std::uint64_t seed = 1; seed <= 20; ++seed) {
+    TurnCase what;
+    what.Method = NamedMethods().at(1);
+    what.Boat.WindSpeed = 24.0;
+    what.Angle = 84.0F;
+    what.Seed = seed;
+    const TurnResult one = SailTurn(what);
+    EXPECT_TRUE(one.Done) << seed << ": her pilot is held 15 degrees to one side, then as many to the other";
+    EXPECT_LE(std::fabs(one.Shown), 10.0) << seed;
+  }
+}
+
 TEST(Turning, InASteadyWindEveryMethodIsWithinTwoDegreesOfTheMirroredAngle) {
   for (const NamedMethod& method : NamedMethods()) {
     TurnCase what;
