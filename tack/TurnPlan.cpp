@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <optional>
 
 #include "control/TrackModes.h"
 #include "instruments/MathLib.h"
@@ -43,11 +44,30 @@ double Present(const HelmNow& now, TrackSide side) {
   return static_cast<double>(held ? now.Desired[At(side)] : now.WindMean[At(side)].value_or(0.0F));
 }
 
-/// The mean says nothing of a boat that swings; in Track the held angle stands for it.
+/// Whether two angles are too far apart for a turn that is planned from one of them.
+bool Apart(const std::optional<float>& a, double b) {
+  return a && std::fabs(Fold(static_cast<double>(*a) - b)) > kSwings;
+}
+
+/// Track is still on its way to the held angle.
+bool OnTheWay(const HelmNow& now) {
+  const double held = Present(now, TrackSide::True);
+  return now.Mode == TrackMode::Track && Apart(now.WindMean[At(TrackSide::True)], held) &&
+         Apart(now.WindAngleTrue, held);
+}
+
+/// The true wind that the turn starts from.
+double Start(const HelmNow& now) {
+  const TrackSide side = TrackSide::True;
+  return Fold(OnTheWay(now) ? static_cast<double>(now.WindMean[At(side)].value_or(0.0F))
+                            : Present(now, side));
+}
+
+/// The mean says nothing of a boat that swings; in Track the held angle stands for it, once she is there.
 bool Swings(const TurnAsk& ask, const HelmNow& now) {
   const auto& mean = now.WindMean[At(TrackSide::True)];
-  return ask.Kind != ManoeuvreKind::Steer && now.Mode != TrackMode::Track && now.WindAngleTrue && mean &&
-         std::fabs(Fold(static_cast<double>(*now.WindAngleTrue) - static_cast<double>(*mean))) > kSwings;
+  return ask.Kind != ManoeuvreKind::Steer && (now.Mode != TrackMode::Track || OnTheWay(now)) && mean &&
+         Apart(now.WindAngleTrue, static_cast<double>(*mean));
 }
 
 /// `size` on the other side than `present`.
@@ -55,7 +75,8 @@ double Across(double present, double size) { return present < 0.0 ? size : -size
 
 void PlanAcross(const TurnAsk& ask, const HelmNow& now, TurnPlan& plan) {
   const double from = plan.Wind < 0.0 ? -1.0 : 1.0;
-  const double size = ask.Aim ? static_cast<double>(ask.Aim->True) : std::fabs(plan.Wind);
+  const double size =
+      ask.Aim ? static_cast<double>(ask.Aim->True) : std::fabs(Fold(Present(now, TrackSide::True)));
   const double around = ask.Kind == ManoeuvreKind::Jibe ? 2.0 * kHalfCircle : 0.0;
   plan.Change = from * (std::fabs(plan.Wind) + size - around);
   const double side = Present(now, now.Side);
@@ -100,7 +121,7 @@ TurnPlan PlanTurn(const TurnAsk& ask, const HelmNow& now) {
   if (!plan.Refusal.empty()) {
     return plan;
   }
-  plan.Wind = Fold(Present(now, TrackSide::True));
+  plan.Wind = Start(now);
   plan.Bearing = static_cast<double>(now.AutoPilot);
   const bool turns = std::isfinite(ask.Rate) && ask.Rate > 0.0F;
   plan.Rate = turns ? static_cast<double>(ask.Rate) : Manoeuvre::kUsualRate;

@@ -43,10 +43,11 @@ struct TurnPlan {
   std::string Refusal;                  ///< why it cannot be made; "" when it can
 };
 
-/// The turn as it would begin now. The wind is the mean of ten seconds, or in Track the held angle; the
-/// bearing that of this moment. Refused in Off, without an open output, a wind or a heading, while the
-/// settings give Track no gains, outside of Track while the boat swings so that the wind is more than 20
-/// degrees off its mean (but for Steer), with the wind dead ahead or astern, and for half a circle or more.
+/// The turn as it would begin now. The wind is the mean of ten seconds, or in Track the held angle, unless
+/// Track is still on its way there, more than 20 degrees off; the bearing that of this moment. Refused in
+/// Off, without an open output, a wind or a heading, while the settings give Track no gains, where it would
+/// go by the mean and the boat swings so that the wind is more than 20 degrees off it (but for Steer), with
+/// the wind dead ahead or astern, and for half a circle or more.
 TurnPlan PlanTurn(const TurnAsk& ask, const HelmNow& now);
 
 /// "Tack, 92 degrees to starboard through the wind", "GYBE, 165 degrees to port, by the stern", "Steer, 20

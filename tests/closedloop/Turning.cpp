@@ -57,6 +57,9 @@ class Turned {
     ask.Overshoot = m_case.Overshoot;
     ask.Rate = m_case.Rate;
     const TurnPlan plan = m_run.Plan(ask);
+    if (!plan.Refusal.empty()) {
+      return m_result;
+    }
     m_side = plan.Change < 0.0 ? -1.0 : 1.0;
     m_heading = m_passage.Boat.State().Heading;
     m_result.Planned = std::fabs(plan.Change);

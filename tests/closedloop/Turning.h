@@ -28,7 +28,7 @@ struct TurnCase {
 };
 
 struct TurnResult {
-  bool Done = false;  ///< it came to its end
+  bool Done = false;  ///< it came to its end; not where it was refused
   TurnFate Fate = TurnFate::GoesOn;
   double Seconds = 0.0;  ///< that it took
   double Shown = 0.0;  ///< wind angle as the program shows it, mean of the minute after it, less the held one

@@ -71,6 +71,22 @@ TEST(TurnPlan, InTrackTheHeldAngleIsMirroredAndNotTheLatestGust) {
   EXPECT_EQ(apparent.Held, -33.0F);
 }
 
+TEST(TurnPlan, OnTheWayToTheHeldAngleTheBoatTurnsFromWhereSheIs) {
+  HelmNow now = Sailing(-90.0F, -107.0F);
+  now.WindAngleTrue = -104.0F;
+  now.Mode = TrackMode::Track;
+  now.Desired = {0.0F, 0.0F, -174.0F};
+  TurnAsk ask = Ask(ManoeuvreKind::Jibe);
+  ask.Aim = TurnAim{150.0F, 168.0F};
+  EXPECT_EQ(PlanTurn(ask, now).Change, 85.0) << "not the 18 degrees from the angle that is not reached";
+  EXPECT_EQ(PlanTurn(ask, now).Held, 168.0F);
+  EXPECT_EQ(PlanTurn(Ask(ManoeuvreKind::Jibe), now).Change, 79.0) << "to the held angle, mirrored";
+  now.WindAngleTrue = -135.0F;
+  EXPECT_EQ(PlanTurn(ask, now).Refusal, "No turn: the boat swings, wait until she is steady");
+  now.WindAngleTrue = -160.0F;
+  EXPECT_EQ(PlanTurn(ask, now).Change, 18.0) << "she is there";
+}
+
 TEST(TurnPlan, AnAngleOfThePolarIsHeldOnTheOtherSide) {
   TurnAsk ask = Ask(ManoeuvreKind::Tack);
   ask.Aim = TurnAim{28.0F, 40.0F};
