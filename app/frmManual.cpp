@@ -33,8 +33,24 @@ bool IsThere(const QUrl& page) {
   return page.scheme() == QLatin1String("qrc") && QFile::exists(QLatin1Char(':') + page.path());
 }
 
-/// At night every picture is red.
+/// Whether most of a picture is light.
+bool IsLight(const QImage& image) {
+  constexpr int kFew = 32;
+  const QImage small = image.scaled(kFew, kFew, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+  double sum = 0.0;
+  for (int y = 0; y < kFew; ++y) {
+    for (int x = 0; x < kFew; ++x) {
+      sum += static_cast<double>(small.pixelColor(x, y).lightnessF());
+    }
+  }
+  return sum > 0.5 * kFew * kFew;
+}
+
+/// At night every picture is red, and a light one is turned over, as it would light up the cabin.
 QImage Shaded(QImage image) {
+  if (!image.isNull() && IsLight(image)) {
+    image.invertPixels();
+  }
   for (int y = 0; y < image.height(); ++y) {
     for (int x = 0; x < image.width(); ++x) {
       image.setPixelColor(x, y, NightShade(image.pixelColor(x, y)));

@@ -170,15 +170,18 @@ TEST_F(Help, ItsPicturesFitAndAreRedAtNight) {
   const QImage image = book.grab().toImage();
   KeepPicture(image, QStringLiteral("manual-night"));
   int hurting = 0;
+  int bright = 0;
   for (int y = 0; y < image.height(); ++y) {
     for (int x = 0; x < image.width(); ++x) {
       const QRgb pixel = image.pixel(x, y);
       hurting += qBlue(pixel) > 130 || qBlue(pixel) > qRed(pixel) || 10 * qGreen(pixel) > 7 * qRed(pixel) + 60
                      ? 1
                      : 0;
+      bright += qRed(pixel) > 150 ? 1 : 0;
     }
   }
   EXPECT_EQ(hurting, 0);
+  EXPECT_LT(bright, image.width() * image.height() / 5) << "a light picture is turned over";
 }
 
 }  // namespace
