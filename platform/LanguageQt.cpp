@@ -24,11 +24,15 @@ std::string Translated(const char* source) {
   return QCoreApplication::translate(kContext, source).toStdString();
 }
 
+/// The name of each translator that is installed here.
+QString TranslatorName() { return QStringLiteral("language"); }
+
 bool Install(const QLocale& locale, const QString& name, const QString& folder) {
   auto translator = std::make_unique<QTranslator>();
   if (!translator->load(locale, name, QStringLiteral("_"), folder)) {
     return false;
   }
+  translator->setObjectName(TranslatorName());
   // The application's, and gone with it.
   translator->setParent(QCoreApplication::instance());
   return QCoreApplication::installTranslator(translator.release());
@@ -42,6 +46,9 @@ void InstallLanguage(std::string_view language) {
   const QString own = QString::fromUtf8(language.data(), static_cast<qsizetype>(language.size()));
   LoadCatalogues();
   SetTranslation(nullptr);
+  for (const QTranslator* old : QCoreApplication::instance()->findChildren<QTranslator*>(TranslatorName())) {
+    delete old;
+  }
   // In the order in which the user wants them.
   for (const QString& name : own.isEmpty() ? QLocale::system().uiLanguages() : QStringList(own)) {
     const QLocale locale(name);

@@ -13,7 +13,8 @@ QString TrQ(const char* source);
 inline QString TrQ(std::string_view source) { return TrQ(std::string(source).c_str()); }
 
 /// Installs `language`, "en" or "de"; "" for the desktop's. English for a language that has no catalogue.
-/// With it come the texts of Qt's own dialogs, where they are installed. Before the first window is made.
+/// With it come the texts of Qt's own dialogs, where they are installed. What was installed before goes.
+/// While there is no window.
 void InstallLanguage(std::string_view language);
 
 }  // namespace veerwatch

@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QTranslator>
 
 #include "platform/Language.h"
 #include "platform/LanguageQt.h"
@@ -9,15 +8,10 @@
 namespace veerwatch {
 namespace {
 
-/// English again at the end, with no translator left.
+/// English again at the end.
 class LanguageQt : public testing::Test {
  protected:
-  ~LanguageQt() override {
-    SetTranslation(nullptr);
-    for (QTranslator* translator : QCoreApplication::instance()->findChildren<QTranslator*>()) {
-      delete translator;
-    }
-  }
+  ~LanguageQt() override { InstallLanguage("en"); }
 };
 
 TEST_F(LanguageQt, GermanIsAmongTheResources) {
@@ -29,6 +23,14 @@ TEST_F(LanguageQt, GermanIsAmongTheResources) {
 TEST_F(LanguageQt, EnglishStaysTheSource) {
   InstallLanguage("en");
   EXPECT_EQ(Tr("&Language"), "&Language");
+}
+
+TEST_F(LanguageQt, AnotherOneTakesItsPlaceInQtsOwnTextsToo) {
+  const auto cancel = [] { return QCoreApplication::translate("QPlatformTheme", "Cancel"); };
+  InstallLanguage("de");
+  EXPECT_EQ(cancel(), QStringLiteral("Abbrechen"));
+  InstallLanguage("en");
+  EXPECT_EQ(cancel(), QStringLiteral("Cancel"));
 }
 
 TEST_F(LanguageQt, ALanguageWithoutACatalogueIsEnglish) {
