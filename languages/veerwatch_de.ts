@@ -1025,7 +1025,7 @@
     </message>
     <message>
         <source>&amp;Block Diagram...</source>
-        <translation>&amp;Blockschaltbild...</translation>
+        <translation>Blo&amp;ckschaltbild...</translation>
     </message>
     <message>
         <source>&amp;History Plot...</source>
@@ -1041,7 +1041,7 @@
     </message>
     <message>
         <source>&amp;Mute Alarms for Ten Minutes</source>
-        <translation>Alarme zehn Minuten &amp;stumm</translation>
+        <translation>Alarme zehn Minuten st&amp;umm</translation>
     </message>
     <message>
         <source>&amp;Night Colours</source>
@@ -1669,7 +1669,7 @@
     </message>
     <message>
         <source>Wind U&amp;nits: m/s, km/h and mph, too</source>
-        <translation>Wind&amp;einheiten: auch m/s, km/h und mph</translation>
+        <translation>Windeinheiten: auch &amp;m/s, km/h und mph</translation>
     </message>
     <message>
         <source>Reads an MWV whose speed is not in knots</source>
@@ -1688,16 +1688,12 @@
         <translation>Was die gewählten Quellen nicht bringen</translation>
     </message>
     <message>
-        <source>True &amp;Wind:</source>
-        <translation>Wahrer &amp;Wind:</translation>
-    </message>
-    <message>
         <source>Boat &amp;Heading:</source>
-        <translation>&amp;Kurs:</translation>
+        <translation>Kur&amp;s:</translation>
     </message>
     <message>
         <source>&amp;Boat Speed:</source>
-        <translation>Fah&amp;rt:</translation>
+        <translation>&amp;Fahrt:</translation>
     </message>
     <message>
         <source>Chec&amp;ksum:</source>
@@ -1709,7 +1705,7 @@
     </message>
     <message>
         <source>&amp;Foreign Lines:</source>
-        <translation>Frem&amp;de Zeilen:</translation>
+        <translation>Fremde &amp;Zeilen:</translation>
     </message>
     <message>
         <source>samples</source>
@@ -1997,7 +1993,7 @@
     </message>
     <message>
         <source>Test &amp;Pilot...</source>
-        <translation>&amp;Pilot prüfen...</translation>
+        <translation>P&amp;ilot prüfen...</translation>
     </message>
     <message>
         <source>Own: whether this sentence is sent</source>
@@ -2229,7 +2225,7 @@
     </message>
     <message>
         <source>&amp;Raw NMEA</source>
-        <translation>NMEA &amp;roh</translation>
+        <translation>N&amp;MEA roh</translation>
     </message>
     <message>
         <source>D&amp;ecoded Error</source>
@@ -2377,7 +2373,7 @@
     </message>
     <message>
         <source>A&amp;uto Apply</source>
-        <translation>Sof&amp;ort anwenden</translation>
+        <translation>Sofort &amp;anwenden</translation>
     </message>
     <message>
         <source>Simulate Data</source>
@@ -2398,10 +2394,6 @@
     <message>
         <source>&amp;Boat Speed (Kts)</source>
         <translation>&amp;Fahrt (kn)</translation>
-    </message>
-    <message>
-        <source>True &amp;Wind Direction (T)</source>
-        <translation>&amp;Wahrer Wind aus (T)</translation>
     </message>
     <message>
         <source>True Wind S&amp;peed (Kts)</source>
@@ -2437,7 +2429,7 @@
     </message>
     <message>
         <source>&amp;Kind of Boat</source>
-        <translation>&amp;Bootsmodell</translation>
+        <translation>Boot&amp;smodell</translation>
     </message>
     <message>
         <source>Clock</source>
@@ -2481,7 +2473,7 @@
     </message>
     <message>
         <source>S&amp;uggest</source>
-        <translation>&amp;Vorschlagen</translation>
+        <translation>Vorschla&amp;gen</translation>
     </message>
     <message>
         <source>Initial Track Offset  (deg)</source>
@@ -2545,7 +2537,7 @@
     </message>
     <message>
         <source>&amp;Bandwidth:</source>
-        <translation>&amp;Bandbreite:</translation>
+        <translation>Bandbre&amp;ite:</translation>
     </message>
     <message>
         <source>Max Steer To without &amp;Prompt:</source>
@@ -2553,11 +2545,11 @@
     </message>
     <message>
         <source>Da&amp;mping:</source>
-        <translation>&amp;Dämpfung:</translation>
+        <translation>Däm&amp;pfung:</translation>
     </message>
     <message>
         <source>Met&amp;hod:</source>
-        <translation>Ver&amp;fahren:</translation>
+        <translation>Verf&amp;ahren:</translation>
     </message>
     <message>
         <source>Alarm A&amp;verage:</source>
@@ -2569,7 +2561,7 @@
     </message>
     <message>
         <source>Tim&amp;e</source>
-        <translation>Z&amp;eit</translation>
+        <translation>&amp;Zeit</translation>
     </message>
     <message>
         <source>Boat lag</source>
@@ -2705,7 +2697,7 @@
     </message>
     <message>
         <source>A&amp;ct: what is lost or wrong does not steer</source>
-        <translation>&amp;Handeln: was verloren oder falsch ist, steuert nicht</translation>
+        <translation>Handeln: was verloren oder falsch &amp;ist, steuert nicht</translation>
     </message>
     <message>
         <source>Act on what is lost instead of only telling it</source>
@@ -2713,7 +2705,7 @@
     </message>
     <message>
         <source>&amp;Keep Sending: the last bearing for 30 s when the wind is lost</source>
-        <translation>&amp;Weiter senden: den letzten Kurs 30 s lang, wenn der Wind verloren ist</translation>
+        <translation>Weiter senden: den let&amp;zten Kurs 30 s lang, wenn der Wind verloren ist</translation>
     </message>
     <message>
         <source>With Act: the last bearing is sent on for 30 seconds</source>
@@ -2721,7 +2713,7 @@
     </message>
     <message>
         <source>Heading &amp;Up: 20 degrees up, once, when a wind from astern is lost</source>
-        <translation>A&amp;nluven: einmal 20 Grad, wenn ein Wind von achtern verloren ist</translation>
+        <translation>Anl&amp;uven: einmal 20 Grad, wenn ein Wind von achtern verloren ist</translation>
     </message>
     <message>
         <source>With Act: the boat is brought 20 degrees up, away from the gybe</source>
@@ -2801,7 +2793,7 @@
     </message>
     <message>
         <source>Alarm Co&amp;mmand:</source>
-        <translation>Alarm&amp;befehl:</translation>
+        <translation>Alar&amp;mbefehl:</translation>
     </message>
     <message>
         <source>Values and Entry</source>
@@ -2845,7 +2837,7 @@
     </message>
     <message>
         <source>&amp;Output</source>
-        <translation>&amp;Ausgang</translation>
+        <translation>Ausga&amp;ng</translation>
     </message>
     <message>
         <source>&amp;Tracking</source>
@@ -2853,7 +2845,7 @@
     </message>
     <message>
         <source>&amp;Simulate</source>
-        <translation>&amp;Simulation</translation>
+        <translation>Simulati&amp;on</translation>
     </message>
     <message>
         <source>Dia&amp;gram</source>
@@ -2861,11 +2853,11 @@
     </message>
     <message>
         <source>&amp;Watch</source>
-        <translation>&amp;Wache</translation>
+        <translation>Wa&amp;che</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation>A&amp;nwenden</translation>
+        <translation>An&amp;wenden</translation>
     </message>
     <message>
         <source>Port %1, input and output:</source>
@@ -3689,7 +3681,7 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>Boat S&amp;peed Factor:</source>
-        <translation>Fah&amp;rt mal:</translation>
+        <translation>Fahr&amp;t mal:</translation>
     </message>
     <message>
         <source>on</source>
@@ -4057,7 +4049,7 @@ Den Faktor auf 1 setzen?</translation>
     </message>
     <message>
         <source>Save &amp;Report...</source>
-        <translation>&amp;Bericht speichern...</translation>
+        <translation>Be&amp;richt speichern...</translation>
     </message>
     <message>
         <source>&amp;Turn</source>
@@ -5226,6 +5218,10 @@ Den Faktor auf 1 setzen?</translation>
     <message>
         <source>not a file</source>
         <translation>keine Datei</translation>
+    </message>
+    <message>
+        <source>True Wind Dire&amp;ction (T)</source>
+        <translation>Wahrer W&amp;ind aus (T)</translation>
     </message>
 </context>
 </TS>

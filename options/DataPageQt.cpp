@@ -69,7 +69,7 @@ DataPageQt::DataPageQt(QWidget* parent)
     rows->addWidget(NewCaption(caption, box, this), row, 0);
     rows->addWidget(box, row, 1);
   };
-  source(0, TrMark("True &Wind:"), cmbNmeaTrueWind);
+  source(0, TrMark("T&rue Wind:"), cmbNmeaTrueWind);
   source(1, TrMark("Boat &Heading:"), cmbNmeaHeading);
   source(2, TrMark("&Boat Speed:"), cmbNmeaBoatSpeed);
   source(3, TrMark("Chec&ksum:"), cmbNmeaChecksum);

@@ -161,7 +161,7 @@ void SimulatePageQt::LayOut() {
     return row;
   };
   place(0, 0, TrMark("&Boat Speed (Kts)"), txtSimulateBoatSpeed, Row({txtSimulateBoatSpeed}));
-  place(1, 0, TrMark("True &Wind Direction (T)"), txtSimulateTrueWindAngle,
+  place(1, 0, TrMark("True Wind Dire&ction (T)"), txtSimulateTrueWindAngle,
         spinning(txtSimulateTrueWindAngle, vscSimulateTrueWindAngle));
   place(2, 0, TrMark("True Wind S&peed (Kts)"), txtSimulateTrueWindSpeed, Row({txtSimulateTrueWindSpeed}));
   place(3, 0, TrMark("Magnetic &Variation (Deg)"), txtSimulateVariation, Row({txtSimulateVariation}));
