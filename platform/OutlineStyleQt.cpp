@@ -11,7 +11,11 @@ void OutlineStyleQt::drawPrimitive(PrimitiveElement element, const QStyleOption*
                                    const QWidget* widget) const {
   QProxyStyle::drawPrimitive(element, option, painter, widget);
   const bool round = element == PE_IndicatorRadioButton;
-  if ((!round && element != PE_IndicatorCheckBox) || baseStyle()->name() != QLatin1String("fusion")) {
+  // The one with the focus has an edge that can be seen.
+  const bool entry = element == PE_FrameLineEdit && IsDark(option->palette.color(QPalette::Window)) &&
+                     !option->state.testFlag(State_HasFocus);
+  if ((!round && !entry && element != PE_IndicatorCheckBox) ||
+      baseStyle()->name() != QLatin1String("fusion")) {
     return;
   }
   constexpr qreal kShare = 0.4;

@@ -1,5 +1,5 @@
-// The desktop's style, with check boxes and round buttons that can be seen on any palette: Fusion draws their
-// edges in a shade of the window, which is nothing on a dark one.
+// The desktop's style, with check boxes, round buttons and, in a dark window, entry boxes whose edges can be
+// seen: Fusion draws them in a shade of the window, which is nothing on a dark one.
 #pragma once
 
 #include <QProxyStyle>

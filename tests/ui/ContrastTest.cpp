@@ -4,6 +4,7 @@
 
 #include <QCheckBox>
 #include <QImage>
+#include <QLineEdit>
 #include <QPalette>
 #include <QRadioButton>
 #include <QStyleOptionButton>
@@ -103,6 +104,18 @@ TEST_P(Contrasts, OfTheEdgesOfCheckBoxesAndRoundButtons) {
   round.setPalette(Palette());
   round.resize(round.sizeHint());
   EXPECT_GE(EdgeContrast(round, QStyle::SE_RadioButtonIndicator), kLine);
+}
+
+TEST(EntryBox, HasAnEdgeInTheDark) {
+  for (const QPalette& palette : {DarkPalette(), NightPalette()}) {
+    QLineEdit box;
+    box.setPalette(palette);
+    box.resize(80, 30);
+    const QImage picture = box.grab().toImage();
+    const QColor inside = picture.pixelColor(40, 15);
+    EXPECT_GE(ContrastRatio(picture.pixelColor(0, 15), inside), kLine);
+    EXPECT_GE(ContrastRatio(picture.pixelColor(40, 0), inside), kLine);
+  }
 }
 
 TEST_P(Contrasts, OfThePolarPlot) {
